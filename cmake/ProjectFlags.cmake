@@ -1,0 +1,26 @@
+# The one place for compiler and linker flags: every target of ours links `project_flags`.
+add_library(project_flags INTERFACE)
+target_include_directories(project_flags INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(MSVC)
+    # Exceptions leave the exported functions, so /EHs and not /EHsc.
+    target_compile_options(project_flags INTERFACE /W4 /EHs /utf-8 /permissive-)
+    target_compile_definitions(project_flags INTERFACE NOMINMAX UNICODE _UNICODE)
+else()
+    target_compile_options(project_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+                                                   -Wnon-virtual-dtor -Woverloaded-virtual)
+endif()
+
+if(WIN32 AND NOT MSVC)
+    target_compile_definitions(project_flags INTERFACE NOMINMAX UNICODE _UNICODE
+                                                       _WIN32_WINNT=0x0A00)
+    # Exceptions and type information cross from the module to its host: one shared runtime.
+    target_link_options(project_flags INTERFACE -shared-libgcc)
+endif()
+
+if(TARNIX_SANITIZE)
+    target_compile_options(project_flags INTERFACE -fsanitize=address,undefined
+                                                   -fno-sanitize-recover=all
+                                                   -fno-omit-frame-pointer)
+    target_link_options(project_flags INTERFACE -fsanitize=address,undefined)
+endif()

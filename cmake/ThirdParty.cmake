@@ -1,0 +1,29 @@
+# Libraries of the stand-in host, the workbench and the tests. The add-in uses none of them.
+#
+# The system's packages serve both platforms: what consists of headers is shared as it is, and
+# GoogleTest is built from its packaged sources for Windows. Open CASCADE and libxml2 are native only.
+if(CMAKE_CROSSCOMPILING)
+    # Only the folders named here may be seen: the system's own headers are not for this compiler.
+    set(third_party_include ${PROJECT_BINARY_DIR}/third_party)
+    file(MAKE_DIRECTORY ${third_party_include})
+    foreach(folder nlohmann CLI)
+        if(NOT EXISTS ${third_party_include}/${folder})
+            file(CREATE_LINK /usr/include/${folder} ${third_party_include}/${folder} SYMBOLIC)
+        endif()
+    endforeach()
+    add_library(json_headers INTERFACE)
+    target_include_directories(json_headers SYSTEM INTERFACE ${third_party_include})
+    add_library(cli_headers ALIAS json_headers)
+    set(BUILD_GMOCK OFF)
+    set(INSTALL_GTEST OFF)
+    add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+    add_library(GTest::gtest ALIAS gtest)
+    add_library(GTest::gtest_main ALIAS gtest_main)
+else()
+    find_package(nlohmann_json REQUIRED)
+    add_library(json_headers ALIAS nlohmann_json::nlohmann_json)
+    find_package(CLI11 REQUIRED)
+    add_library(cli_headers ALIAS CLI11::CLI11)
+    find_package(GTest REQUIRED)
+    find_package(LibXml2 REQUIRED)
+endif()
