@@ -1,0 +1,54 @@
+#include "host/base/dispatcher.h"
+
+#include "host/base/gate.h"
+
+#include <cxxabi.h>
+
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <typeinfo>
+
+namespace host {
+namespace {
+
+std::vector<Raised>& records() {
+    static auto* instance = new std::vector<Raised>;
+    return *instance;
+}
+
+/// The class of the exception being handled, readable.
+std::string currentExceptionType() {
+    const std::type_info* type = abi::__cxa_current_exception_type();
+    if (type == nullptr) {
+        return "unknown";
+    }
+    int status = 0;
+    const std::unique_ptr<char, void (*)(void*)> name(
+        abi::__cxa_demangle(type->name(), nullptr, nullptr, &status), std::free);
+    return status == 0 ? name.get() : type->name();
+}
+
+}  // namespace
+
+bool enterModule(const std::string& event, const std::string& inputId,
+                 const std::function<void()>& enter) {
+    const gate::Module running;
+    try {
+        enter();
+        return true;
+    } catch (const std::exception& error) {
+        const std::string type = currentExceptionType();
+        // A null handle raises the bare class, whose own `what` is only its name.
+        records().push_back({event, inputId, type, type == "std::exception" ? "" : error.what()});
+    } catch (...) {
+        records().push_back({event, inputId, currentExceptionType(), ""});
+    }
+    return false;
+}
+
+const std::vector<Raised>& raised() { return records(); }
+
+void clearRaised() { records().clear(); }
+
+}  // namespace host

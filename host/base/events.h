@@ -1,0 +1,107 @@
+#pragma once
+
+#include "host/base/dispatcher.h"
+#include "host/base/object.h"
+
+#include <Core/Event.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace adsk::core {
+
+/// The handlers of one event. Event and handlers know each other through it, so that either may go
+/// first.
+struct EventLink : std::enable_shared_from_this<EventLink> {
+    std::vector<EventHandler*> handlers;
+
+    /// Adds a handler behind the others; one that is there already stays where it is. False for
+    /// null.
+    bool add(EventHandler* handler);
+
+    /// Takes a handler out; false when it was not there.
+    bool remove(EventHandler* handler);
+
+    [[nodiscard]] bool holds(const EventHandler* handler) const;
+};
+
+}  // namespace adsk::core
+
+namespace host {
+
+/// What a notification carries; the arguments of each event derive from it.
+template <class Interface>
+class Arguments : public Object<Interface> {
+public:
+    explicit Arguments(adsk::core::Ptr<adsk::core::Event> event) : event_(std::move(event)) {}
+
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Event> firingEvent() const override {
+        if (refused<"EventArgs::firingEvent">()) return {};
+        return event_;
+    }
+
+private:
+    adsk::core::Ptr<adsk::core::Event> event_;
+};
+
+/// An event of the public API.
+///
+/// `Sender` is not owned: an event never outlives the notifications of what fires it.
+template <class Interface, class Handler, class ArgumentsInterface>
+class TypedEvent final : public Object<Interface> {
+public:
+    TypedEvent(std::string name, adsk::core::Base* sender)
+        : name_(std::move(name)), sender_(sender) {}
+
+    [[nodiscard]] std::string name() const override {
+        if (refused<"Event::name">()) return {};
+        return name_;
+    }
+
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Base> sender() const override {
+        if (refused<"Event::sender">()) return {};
+        return adsk::core::Ptr<adsk::core::Base>(sender_);
+    }
+
+    bool add(Handler* handler) override {
+        if (refused<"Event::add">()) return false;
+        return link_->add(handler);
+    }
+
+    bool remove(Handler* handler) override {
+        if (refused<"Event::remove">()) return false;
+        return link_->remove(handler);
+    }
+
+    /// Cuts the event off from what fires it, which is about to go.
+    void forgetSender() { sender_ = nullptr; }
+
+    [[nodiscard]] bool hasHandlers() const { return !link_->handlers.empty(); }
+
+    /// Notifies all handlers in the order they were added. One that raises is recorded and does not
+    /// keep the others from being notified; one that goes while another runs is passed over. Yields
+    /// false when any raised.
+    bool fire(const adsk::core::Ptr<ArgumentsInterface>& arguments,
+              const std::string& inputId = "") {
+        const std::shared_ptr<adsk::core::EventLink> link = link_;
+        const std::vector<adsk::core::EventHandler*> handlers = link->handlers;
+        bool quiet = true;
+        for (adsk::core::EventHandler* handler : handlers) {
+            if (link->holds(handler)) {
+                // Only `add` fills the list, so each entry is of this event's handler class.
+                auto* typed = static_cast<Handler*>(handler);
+                quiet &= enterModule(name_, inputId, [&] { typed->notify(arguments); });
+            }
+        }
+        return quiet;
+    }
+
+private:
+    std::string name_;
+    adsk::core::Base* sender_;
+    std::shared_ptr<adsk::core::EventLink> link_ = std::make_shared<adsk::core::EventLink>();
+};
+
+}  // namespace host

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A design as a plain value: what an importer makes, what the design file holds, and what a
+/// document is built from. Nothing here knows the public API.
+///
+/// Lengths are in cm, masses in kg, densities in kg/cm3: the host's units.
+namespace host {
+
+/// A placement: the rows of a 4 by 4 matrix one behind the other, translation in cm in the fourth
+/// column.
+struct Transform {
+    std::array<double, 16> cells = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+
+    bool operator==(const Transform&) const = default;
+};
+
+/// A box along the axes, in cm.
+struct Box {
+    std::array<double, 3> min = {};
+    std::array<double, 3> max = {};
+
+    bool operator==(const Box&) const = default;
+};
+
+/// The bodies of one component, measured when somebody asks.
+///
+/// One object serves all components that share the same shape, so a shape is measured once.
+class Geometry {
+public:
+    virtual ~Geometry() = default;
+
+    /// Surface, in cm2.
+    virtual double area() = 0;
+
+    /// Volume, in cm3.
+    virtual double volume() = 0;
+
+    /// The box around the bodies when they are placed by `placement`; none when there is no body.
+    virtual std::optional<Box> box(const Transform& placement) = 0;
+};
+
+struct MaterialData {
+    std::string name;
+    double density = 0;  ///< kg/cm3
+
+    bool operator==(const MaterialData&) const = default;
+};
+
+struct AttributeData {
+    std::string group;
+    std::string name;
+    std::string value;
+
+    bool operator==(const AttributeData&) const = default;
+};
+
+/// One use of a component below another.
+struct OccurrenceData {
+    std::size_t component = 0;  ///< index into `DesignData::components`
+    int instance = 1;           ///< the number behind ":" in its name
+    Transform transform;
+    bool grounded = false;
+    bool absent = false;  ///< a place in the list at which the host has no occurrence to give
+};
+
+/// A component: named, measured and described once, used any number of times.
+struct ComponentData {
+    std::string name;
+    std::string partNumber;
+    std::string description;
+    std::optional<MaterialData> material;
+    std::vector<AttributeData> attributes;  ///< in the order they were made
+    std::vector<OccurrenceData> children;
+    std::shared_ptr<Geometry> geometry;  ///< null for a component without bodies of its own
+};
+
+/// Where the shapes of a design come from.
+struct SourceFile {
+    std::string path;         ///< absolute
+    std::string fingerprint;  ///< tells whether the file is still the one that was read
+};
+
+struct DesignData {
+    std::string name;  ///< the document's
+    std::string unit;  ///< length unit of the file it was read from, such as "mm"
+    std::vector<ComponentData> components;  ///< the first is the root component
+    std::optional<SourceFile> source;
+};
+
+}  // namespace host
