@@ -1,0 +1,90 @@
+# Who may include whom, checked over the sources below ROOT.
+#
+#   cmake -DROOT=<folder> -P check_layers.cmake
+#
+# Each rule is a folder, what its includes may not be, and why. A violation is one line, file and
+# include; any makes the check fail.
+cmake_minimum_required(VERSION 3.25)
+
+set(system_headers
+    "windows\\.h|comdef\\.h|objbase\\.h|shellapi\\.h|msxml2?\\.h|comutil\\.h|direct\\.h|io\\.h"
+    "unistd\\.h|dlfcn\\.h|fcntl\\.h|spawn\\.h|sys/.*|libxml/.*|xcb/.*|zip\\.h|png\\.h")
+string(REPLACE ";" "|" system_headers "${system_headers}")
+
+# folder | forbidden include | except in | reason
+set(rules
+    "tarnix|(host|workbench|tests|bench)/.*||the add-in knows the published API alone"
+    "tarnix|${system_headers}|tarnix/platform|the system is asked in platform/ alone"
+    "tarnix|StandIn/.*|tarnix/platform/hosted|only what a session answers asks the loading process"
+    "tarnix|nlohmann/.*||the add-in has no third-party library"
+    "tarnix/text|tarnix/(addin|bom|properties|settings|helpdesk|commands|platform)/.*||text/ knows nobody"
+    "tarnix/platform|tarnix/(addin|bom|properties|settings|helpdesk|commands|text)/.*||platform/ knows nobody"
+    "tarnix/settings|tarnix/(bom|properties|helpdesk|commands)/.*||settings/ serves the others"
+    "tarnix/properties|tarnix/bom/.*||properties/ and bom/ share only the property store"
+    "tarnix/bom|tarnix/properties/.*|property_store.h|properties/ and bom/ share only the property store"
+    "tarnix/bom/model|tarnix/bom/(tabs|behaviour)/.*||the model uses neither tabs nor behaviour"
+    "tarnix/bom/tabs|tarnix/bom/behaviour/.*||tabs may use the model alone"
+    "tarnix/(bom|properties|helpdesk|commands|settings)|tarnix/addin/.*|tarnix/addin/module_state.h|no command knows addin/ beyond app and ui"
+    "host|(tarnix|workbench|tests|bench)/.*||the host knows nothing of an add-in"
+    "host/include|host/.*||the public API shows no implementation"
+    "host/design|host/(ui|session)/.*||a design knows no dialog"
+    "workbench|(tarnix|tests|bench)/.*||the workbench reaches the add-in as a module alone"
+    "workbench|host/.*|host/session/|the workbench talks to the session alone")
+
+set(violations 0)
+
+function(check_file file)
+    file(RELATIVE_PATH name ${ROOT} ${file})
+    file(STRINGS ${file} lines REGEX "^ *#")
+    foreach(line IN LISTS lines)
+        if(line MATCHES "^ *# *include *[<\"]([^>\"]+)[>\"]")
+            set(included ${CMAKE_MATCH_1})
+            foreach(rule IN LISTS rules)
+                # The forbidden part holds "|" itself: the first field and the last two are cut off.
+                string(REGEX MATCH "^([^|(]*(\\([^)]*\\))?[^|]*)\\|(.*)\\|([^|]*)\\|([^|]*)$" _ "${rule}")
+                set(folder ${CMAKE_MATCH_1})
+                set(forbidden ${CMAKE_MATCH_3})
+                set(exception "${CMAKE_MATCH_4}")
+                set(reason ${CMAKE_MATCH_5})
+                if(NOT name MATCHES "^${folder}/" OR NOT included MATCHES "^(${forbidden})$")
+                    continue()
+                endif()
+                if(exception)
+                    string(FIND "${name}" "${exception}" in_file)
+                    string(FIND "${included}" "${exception}" in_include)
+                    if(in_file GREATER -1 OR in_include GREATER -1)
+                        continue()
+                    endif()
+                endif()
+                message("${name}: includes ${included}: ${reason}")
+                math(EXPR violations "${violations} + 1")
+            endforeach()
+        elseif(line MATCHES "^ *# *(if|ifdef|ifndef)[ (]" AND name MATCHES "^tarnix/"
+               AND NOT name MATCHES "^tarnix/platform/")
+            message("${name}: '${line}': the systems differ in platform/ alone")
+            math(EXPR violations "${violations} + 1")
+        endif()
+    endforeach()
+    if(name MATCHES "^host/")
+        file(STRINGS ${file} named REGEX "QEMA_|QM_TX_|QM_HD_|[Tt]arnix")
+        foreach(line IN LISTS named)
+            message("${name}: '${line}': the host knows nothing of an add-in")
+            math(EXPR violations "${violations} + 1")
+        endforeach()
+    endif()
+    set(violations ${violations} PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE files ${ROOT}/tarnix/*.h ${ROOT}/tarnix/*.cpp ${ROOT}/host/*.h ${ROOT}/host/*.cpp
+     ${ROOT}/workbench/*.h ${ROOT}/workbench/*.cpp)
+list(LENGTH files count)
+if(count EQUAL 0)
+    message(FATAL_ERROR "no sources below ${ROOT}")
+endif()
+foreach(file IN LISTS files)
+    check_file(${file})
+endforeach()
+if(violations GREATER 0)
+    message(FATAL_ERROR "${violations} violations in ${count} files")
+endif()
+message("${count} files keep the layers")

@@ -1,0 +1,2 @@
+// Planted: the host names a command of an add-in.
+const char* const kCommand = "QM_TX_BOM";

@@ -1,0 +1,2 @@
+// Planted, and allowed.
+#include <windows.h>
