@@ -1,0 +1,30 @@
+#pragma once
+
+/// The whole of `adsk::core`.
+#include <Core/Application.h>
+#include <Core/Attributes.h>
+#include <Core/Base.h>
+#include <Core/CommandDefinitions.h>
+#include <Core/CommandInput.h>
+#include <Core/CommandInputs.h>
+#include <Core/Commands.h>
+#include <Core/Data.h>
+#include <Core/Dialogs.h>
+#include <Core/Document.h>
+#include <Core/Enums.h>
+#include <Core/Event.h>
+#include <Core/Geometry.h>
+#include <Core/Import.h>
+#include <Core/ListInputs.h>
+#include <Core/Material.h>
+#include <Core/Memory.h>
+#include <Core/OSMacros.h>
+#include <Core/Palettes.h>
+#include <Core/Preferences.h>
+#include <Core/Product.h>
+#include <Core/Selections.h>
+#include <Core/TableCommandInput.h>
+#include <Core/Toolbars.h>
+#include <Core/UserInterface.h>
+#include <Core/Utils.h>
+#include <Core/Workspaces.h>

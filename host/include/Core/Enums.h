@@ -1,0 +1,115 @@
+#pragma once
+
+/// The enumerations of the user interface. They are unscoped: their names stand in `adsk::core`
+/// itself, and they convert to int.
+namespace adsk::core {
+
+/// How a dialog was left.
+enum DialogResults {
+    DialogError = -1,
+    DialogOK = 0,
+    DialogCancel = 1,
+    DialogYes = 2,
+    DialogNo = 3,
+};
+
+/// How a command came to its end.
+enum CommandTerminationReason {
+    UnknownTerminationReason = 0,
+    CompletedTerminationReason = 1,
+    CancelledTerminationReason = 2,
+    AbortedTerminationReason = 3,  ///< accepted by the user, but its execution failed
+    PreEmptedTerminationReason = 4,
+    SessionEndingTerminationReason = 5,
+};
+
+/// How far an upload has come.
+enum UploadStates {
+    UploadProcessing = 0,
+    UploadFinished = 1,
+    UploadFailed = 2,
+};
+
+/// Where a palette stands.
+enum PaletteDockingStates {
+    PaletteDockStateFloating = 0,
+    PaletteDockStateTop = 1,
+    PaletteDockStateBottom = 2,
+    PaletteDockStateLeft = 3,
+    PaletteDockStateRight = 4,
+};
+
+/// Where a user may put a palette.
+enum PaletteDockingOptions {
+    PaletteDockOptionsNone = 0,
+    PaletteDockOptionsToVerticalOnly = 1,
+    PaletteDockOptionsToHorizontalOnly = 2,
+    PaletteDockOptionsToVerticalAndHorizontal = 3,
+};
+
+/// The languages of the user interface.
+enum UserLanguages {
+    ChinesePRCLanguage = 0,
+    ChineseTaiwanLanguage = 1,
+    CzechLanguage = 2,
+    EnglishLanguage = 3,
+    FrenchLanguage = 4,
+    GermanLanguage = 5,
+    HungarianLanguage = 6,
+    ItalianLanguage = 7,
+    JapaneseLanguage = 8,
+    KoreanLanguage = 9,
+    PolishLanguage = 10,
+    PortugueseBrazilianLanguage = 11,
+    RussianLanguage = 12,
+    SpanishLanguage = 13,
+    TurkishLanguage = 14,
+};
+
+/// What a drop-down shows for each of its items.
+enum DropDownStyles {
+    LabeledIconDropDownStyle = 0,
+    TextListDropDownStyle = 1,
+    CheckBoxDropDownStyle = 2,  ///< items are selected independently of each other
+};
+
+/// The buttons of a message box.
+enum MessageBoxButtonTypes {
+    OKButtonType = 0,
+    OKCancelButtonType = 1,
+    RetryCancelButtonType = 2,
+    YesNoButtonType = 3,
+    YesNoCancelButtonType = 4,
+};
+
+/// The picture of a message box.
+enum MessageBoxIconTypes {
+    NoIconIconType = 0,
+    QuestionIconType = 1,
+    InformationIconType = 2,
+    WarningIconType = 3,
+    CriticalIconType = 4,
+};
+
+/// The codes of `Application::getLastError`.
+enum GenericErrors {
+    Ok = 0,
+    UnexpectedError = 1,
+    InternalValidationError = 2,
+    BadApiCallError = 3,
+    UnderlyingObjectDeletedError = 4,
+    OperationFailed = 5,
+    ExpressionError = 6,
+    InvalidGeometryError = 7,
+    ClassSpecificError = 100,
+    FunctionSpecificError = 200,
+};
+
+/// How a table draws its cells.
+enum TablePresentationStyles {
+    nameValueTablePresentationStyle = 0,
+    itemBorderTablePresentationStyle = 1,
+    transparentBackgroundTablePresentationStyle = 2,
+};
+
+}  // namespace adsk::core
