@@ -1,0 +1,107 @@
+#include "tarnix/addin/helpdesk_commands.h"
+
+#include "tarnix/addin/addin_command.h"
+#include "tarnix/addin/hooks.h"
+#include "tarnix/addin/state.h"
+
+#include <cstddef>
+#include <span>
+#include <string>
+
+namespace tarnix {
+
+using adsk::core::Base;
+using adsk::core::CommandControl;
+using adsk::core::CommandDefinition;
+using adsk::core::CommandDefinitions;
+using adsk::core::Ptr;
+using adsk::core::ToolbarControls;
+
+std::vector<Ptr<CommandDefinition>> helpdeskCommandDefinitions;
+
+namespace {
+
+constexpr CommandTexts kHelpdeskCommands[] = {
+    {"QM_HD_openHelpdesk", "Go to Helpdesk", "Open your Helpdesk web site",
+     "Resources/OpenHelpdesk"},
+    {"QM_HD_captureScreen", "Capture screen",
+     "Capture all what is visible on screen and save it on disk to the Helpdesk folder",
+     "Resources/CaptureScreen"},
+    {"QM_HD_captureFusion", "Capture Fusion",
+     "Capture window of the Fusion application and save it on disk to the Helpdesk folder",
+     "Resources/CaptureInventor"},
+    {"QM_HD_systemInfo", "System info", "Save information about your system in a text file",
+     "Resources/SaveSystemInfo"},
+    {"QM_HD_compressFolder", "Zip", "Compress all context in the Helpdesk folder",
+     "Resources/ZipFolder"},
+    {"QM_HD_openFolder", "Open Helpdesk Folder", "Open the Helpdesk folder in Explorer",
+     "Resources/OpenFolder"},
+    {"QM_HD_clearFolder", "Delete Helpdesk Folder", "Delete all context in the Helpdesk folder",
+     "Resources/DeleteFolder"},
+    {"QM_HD_openHelp", "Open Help", "Open User Guide", "Resources/OpenHelp"},
+};
+
+/// Where the definitions of this run begin; in front of it stand the deleted ones of earlier runs.
+std::size_t firstOfThisRun = 0;
+
+std::span<const Ptr<CommandDefinition>> definitionsOfThisRun() {
+    return std::span(helpdeskCommandDefinitions).subspan(firstOfThisRun);
+}
+
+Ptr<CommandDefinition> findOrAddDefinition(const Ptr<CommandDefinitions>& definitions,
+                                           const CommandTexts& texts) {
+    Ptr<CommandDefinition> definition = definitions->itemById(texts.id);
+    if (!definition) {
+        definition = definitions->addButtonDefinition(texts.id, texts.name, texts.tooltip,
+                                                      texts.resourceFolder);
+    }
+    return definition;
+}
+
+}  // namespace
+
+bool createHelpdeskCommands() {
+    firstOfThisRun = helpdeskCommandDefinitions.size();
+    const Ptr<CommandDefinitions> definitions = ui->commandDefinitions();
+    if (!definitions) {
+        return false;
+    }
+    for (const CommandTexts& texts : kHelpdeskCommands) {
+        const Ptr<CommandDefinition> definition = findOrAddDefinition(definitions, texts);
+        if (!checkReturn(definition)) {
+            return false;
+        }
+        helpdeskCommandDefinitions.push_back(definition);
+    }
+    for (const Ptr<CommandDefinition>& definition : definitionsOfThisRun()) {
+        if (!definition->commandCreated()->add(&commandCreatedEventHandler)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void addHelpdeskControls(const Ptr<ToolbarControls>& controls) {
+    const std::span<const Ptr<CommandDefinition>> definitions = definitionsOfThisRun();
+    for (std::size_t i = 0; i < definitions.size(); ++i) {
+        // The position is the command's own id. No control of the panel has it yet, so each goes
+        // behind the others.
+        const Ptr<CommandControl> control =
+            controls->addCommand(definitions[i], kHelpdeskCommands[i].id, /*isBefore=*/true);
+        if (i == 0 || i + 1 == definitions.size()) {
+            control->isPromoted(true);
+        }
+    }
+}
+
+bool checkReturn(const Ptr<Base>& handle) {
+    if (handle) {
+        return true;
+    }
+    std::string lastError;
+    app->getLastError(&lastError);
+    ui->messageBox(lastError, "");
+    return false;
+}
+
+}  // namespace tarnix

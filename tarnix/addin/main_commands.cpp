@@ -1,0 +1,160 @@
+#include "tarnix/addin/main_commands.h"
+
+#include "tarnix/addin/panels.h"
+#include "tarnix/addin/state.h"
+#include "tarnix/bom/behaviour/bom_created_handler.h"
+#include "tarnix/commands/move_to_origin.h"
+#include "tarnix/commands/online_models.h"
+#include "tarnix/commands/open_local_file.h"
+#include "tarnix/commands/projected_entities.h"
+#include "tarnix/commands/units_conversion.h"
+#include "tarnix/properties/edit_properties_created_handler.h"
+#include "tarnix/settings/configuration_created_handler.h"
+
+namespace tarnix {
+
+using adsk::core::CommandControl;
+using adsk::core::Ptr;
+using adsk::core::ToolbarControls;
+using adsk::core::Workspace;
+
+namespace {
+
+constexpr CommandTexts kEditProperties = {"QEMA_EditPropertiesCmd", "Edit custom properties",
+                                          "Dialog for editing custom properties",
+                                          "././Resources/Properties"};
+constexpr CommandTexts kBom = {"QM_TX_BOM", "BOM", "Bill of materials", "././Resources/BOM"};
+constexpr CommandTexts kMoveCompToOrigin = {"QM_TX_moveComponentToOrigin", "Move To Origin",
+                                            "Move selected component to the origin",
+                                            "././Resources/MoveComponentToOrigin"};
+constexpr CommandTexts kProjEntitAsConstr = {
+    "QM_TX_projectedEntitiesAsConstruction", "Projected Entities As Construction",
+    "Set projected entities as construction geometry", "./Resources/ProjEntAsConstruction"};
+constexpr CommandTexts kUnitsConversion = {
+    "QM_TX_unitsConversion", "Units Conversion",
+    "A Unit converter for more than 750 types of international and historical physical measurement "
+    "units: length, area, volume, time, mass, density, pressure, moment, power, flux, number "
+    "systems, etc. ",
+    "././Resources/UnitsConversion"};
+constexpr CommandTexts kConfigTarnix = {"QM_TX_configuration", "Tarnix Configuration",
+                                        "Tarnix Configuration", "././Resources/Configuration"};
+constexpr CommandTexts kOnLineLibrary = {"QM_TX_onLineLibrary", "Models->F",
+                                         "One step for insert on-Line models to the Fusion 360",
+                                         "././Resources/OnLineLibrary"};
+constexpr CommandTexts kOpenLocalFile = {"QEMA_OpenLocalCmd_QAT", "Open local file",
+                                         "Open / Import file from local storage",
+                                         "././Resources/OpenLocalFile"};
+
+template <class CreatedHandler>
+std::unique_ptr<AddinCommand> makeCommand(const CommandTexts& texts) {
+    return std::make_unique<AddinCommand>(app, texts, std::make_unique<CreatedHandler>());
+}
+
+void addToolsControl(AddinCommand& command, const std::string& workspaceId,
+                     const std::string& positionId, bool isPromoted) {
+    const Ptr<Workspace> workspace = ui->workspaces()->itemById(workspaceId);
+    if (!workspace) {
+        return;
+    }
+    const Ptr<ToolbarControls> controls =
+        toolsPanel(workspace->toolbarPanels(), workspaceId)->controls();
+    if (Ptr<CommandControl>(controls->itemById(command.id))) {
+        return;
+    }
+    const Ptr<CommandControl> control =
+        controls->addCommand(command.commandDefinition, positionId, /*isBefore=*/true);
+    if (isPromoted) {
+        control->isPromoted(true);
+    }
+    if (control) {
+        command.controls.push_back(control);
+    }
+}
+
+/// The object of Open local file belongs to nobody: its command stays registered for as long as the
+/// host runs, also after `stop`. The function has a name of its own, so that a leak report shows
+/// it.
+void createOpenLocalFileForever() {
+    static_cast<void>(makeCommand<OpenLocalFileCmdCreateHandler>(kOpenLocalFile).release());
+}
+
+}  // namespace
+
+MainCommands& mainCommands() {
+    // Never destroyed: when the process ends, the host may be gone before this module's statics.
+    static auto& commands = *new MainCommands;
+    return commands;
+}
+
+bool createCommands() {
+    MainCommands& commands = mainCommands();
+    commands.editPropertiesCmd = makeCommand<EditPropertiesCmdCreateHandler>(kEditProperties);
+    commands.bomCmd = makeCommand<BomCmdCreateEventHandler>(kBom);
+    commands.moveCompToOriginCmd = makeCommand<MoveCompToOriginCmdCreateHandler>(kMoveCompToOrigin);
+    commands.projEntitAsConstrCmd =
+        makeCommand<ProjEntitAsConstrCmdCreateHandler>(kProjEntitAsConstr);
+    commands.unitsConversionCmd =
+        makeCommand<UnitsConversionCmdCreateEventHandler>(kUnitsConversion);
+    commands.configTarnixCmd = makeCommand<ConfigTarnixCmdCreateEventHandler>(kConfigTarnix);
+    commands.onLineLibraryCmd = makeCommand<OnLineLibraryCreateEventHandler>(kOnLineLibrary);
+    createOpenLocalFileForever();
+    return true;
+}
+
+void destroyCommands() {
+    MainCommands& commands = mainCommands();
+    commands.editPropertiesCmd.reset();
+    commands.moveCompToOriginCmd.reset();
+    commands.projEntitAsConstrCmd.reset();
+    commands.unitsConversionCmd.reset();
+    commands.configTarnixCmd.reset();
+    commands.bomCmd.reset();
+    commands.onLineLibraryCmd.reset();
+}
+
+bool addCommandControls(const std::string& workspaceId) {
+    addEditPropertiesControl(workspaceId, "");
+    addBomControl(workspaceId, "");
+    addMoveCompToOriginControl(workspaceId, "");
+    addProjEntitAsConstrControl(workspaceId, "");
+    addUnitsConversionControl(workspaceId, "");
+    addConfigTarnixControl(workspaceId, "");
+    return true;
+}
+
+void addEditPropertiesControl(const std::string& workspaceId, const std::string& positionId) {
+    addToolsControl(*mainCommands().editPropertiesCmd, workspaceId, positionId,
+                    /*isPromoted=*/true);
+}
+
+void addBomControl(const std::string& workspaceId, const std::string& positionId) {
+    addToolsControl(*mainCommands().bomCmd, workspaceId, positionId, /*isPromoted=*/true);
+}
+
+void addMoveCompToOriginControl(const std::string& workspaceId, const std::string& positionId) {
+    addToolsControl(*mainCommands().moveCompToOriginCmd, workspaceId, positionId,
+                    /*isPromoted=*/false);
+}
+
+void addProjEntitAsConstrControl(const std::string& workspaceId, const std::string& positionId) {
+    addToolsControl(*mainCommands().projEntitAsConstrCmd, workspaceId, positionId,
+                    /*isPromoted=*/false);
+}
+
+void addUnitsConversionControl(const std::string& workspaceId, const std::string& positionId) {
+    addToolsControl(*mainCommands().unitsConversionCmd, workspaceId, positionId,
+                    /*isPromoted=*/false);
+}
+
+void addConfigTarnixControl(const std::string& workspaceId, const std::string& positionId) {
+    const Ptr<Workspace> workspace = ui->workspaces()->itemById(workspaceId);
+    if (!workspace) {
+        return;
+    }
+    helpdeskPanel(workspace->toolbarPanels(), workspaceId)
+        ->controls()
+        ->addCommand(mainCommands().configTarnixCmd->commandDefinition, positionId,
+                     /*isBefore=*/true);
+}
+
+}  // namespace tarnix
