@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarnix {
+
+/// The element at `index`; raises `std::out_of_range` ("invalid vector subscript") where there is
+/// none. The text is the same from every compiler, other than that of `std::vector::at`.
+template <class T>
+const T& at(const std::vector<T>& elements, std::size_t index) {
+    if (index >= elements.size()) {
+        throw std::out_of_range("invalid vector subscript");
+    }
+    return elements[index];
+}
+
+/// The same for an element that is to be changed.
+template <class T>
+T& at(std::vector<T>& elements, std::size_t index) {
+    if (index >= elements.size()) {
+        throw std::out_of_range("invalid vector subscript");
+    }
+    return elements[index];
+}
+
+/// What `text` holds from `position` on; raises `std::out_of_range` ("invalid string position")
+/// where `text` is shorter than that. The end of the text is a position still, and gives the empty
+/// text.
+inline std::string substringFrom(const std::string& text, std::size_t position) {
+    if (position > text.size()) {
+        throw std::out_of_range("invalid string position");
+    }
+    return text.substr(position);
+}
+
+}  // namespace tarnix

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+namespace tarnix {
+
+/// The integer that `text` begins with, as `std::stoi` reads it in base 10.
+///
+/// Leading blanks are skipped, a sign may follow, and whatever stands behind the digits is left
+/// alone: "12abc" is 12. Raises `std::invalid_argument` ("invalid stoi argument") where no digit is
+/// found and `std::out_of_range` ("stoi argument out of range") where the number is no `int`: the
+/// same texts from every compiler.
+int parseInt(const std::string& text);
+
+/// The number that `text` begins with, as `std::stod` reads it, with the point as decimal separator
+/// whatever locale the process has.
+///
+/// Leading blanks, a sign, decimal and hexadecimal numbers with an exponent, "inf", "infinity" and
+/// "nan" in any case are read; what follows is left alone. Raises `std::invalid_argument` ("invalid
+/// stod argument") where no number is found, and `std::out_of_range` ("stod argument out of range")
+/// where it is too large for a double, or so small that no normal double stands for it.
+double parseDouble(const std::string& text);
+
+/// `value` in fixed notation with exactly `decimals` digits behind the point, rounded as a stream
+/// rounds: to the nearest, on the value's exact binary meaning. No grouping; always the point.
+///
+/// Not a number gives "nan" or "-nan", an infinity "inf" or "-inf".
+std::string formatFixed(double value, int decimals);
+
+/// `value` in decimal, without grouping.
+std::string decimal(int value);
+
+}  // namespace tarnix
