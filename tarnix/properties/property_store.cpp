@@ -1,0 +1,77 @@
+#include "tarnix/properties/property_store.h"
+
+#include <algorithm>
+
+namespace tarnix {
+namespace {
+
+using adsk::core::Attribute;
+using adsk::core::Attributes;
+using adsk::core::Ptr;
+using adsk::fusion::Component;
+
+bool isModelKey(const std::string& key) {
+    return key == kPartNumberKey || key == kPartNameKey || key == kDescriptionKey;
+}
+
+void writeAttribute(const Ptr<Attributes>& attributes, const PropertyEntry& entry) {
+    const Ptr<Attribute> attribute = attributes->itemByName(kPropertiesAttributesGroup, entry.name);
+    if (attribute) {
+        attribute->value(entry.value);
+    } else {
+        attributes->add(kPropertiesAttributesGroup, entry.name, entry.value);
+    }
+}
+
+}  // namespace
+
+ComponentProperties readComponentProperties(Ptr<Component> component) {
+    ComponentProperties properties{{}, component};
+    const Ptr<Attributes> attributes = component->attributes();
+    if (!attributes) {
+        return properties;
+    }
+    auto& entries = properties.entries;
+    entries.push_back({kPartNumberKey, component->partNumber()});
+    entries.push_back({kPartNameKey, component->name()});
+    entries.push_back({kDescriptionKey, component->description()});
+    for (const auto& attribute : attributes->itemsByGroup(kPropertiesAttributesGroup)) {
+        std::string name = attribute->name();
+        if (!isModelKey(name)) {
+            entries.push_back({std::move(name), attribute->value()});
+        }
+    }
+    return properties;
+}
+
+void writeComponentProperties(ComponentProperties properties) {
+    const auto& component = properties.component;
+    const Ptr<Attributes> attributes = component->attributes();
+    if (!attributes) {
+        return;
+    }
+    std::string partNumber;
+    for (const auto& entry : properties.entries) {
+        if (entry.name == kPartNumberKey) {
+            partNumber = entry.value;
+            component->partNumber(partNumber);
+        } else if (entry.name == kPartNameKey) {
+            component->name(entry.value);
+            // The host carries a part number along with the name.
+            component->partNumber(partNumber);
+        } else if (entry.name == kDescriptionKey) {
+            component->description(entry.value);
+        } else {
+            writeAttribute(attributes, entry);
+        }
+    }
+}
+
+std::string findProperty(ComponentProperties properties, std::string key) {
+    const auto entry =
+        std::find_if(properties.entries.begin(), properties.entries.end(),
+                     [&key](const PropertyEntry& candidate) { return candidate.name == key; });
+    return entry == properties.entries.end() ? std::string() : entry->value;
+}
+
+}  // namespace tarnix
