@@ -1,0 +1,60 @@
+#include "tarnix/bom/model/identity.h"
+
+#include <algorithm>
+
+namespace tarnix {
+namespace {
+
+bool isUnderRoot(const std::string& path) { return path.find('+') == std::string::npos; }
+
+std::string parentPath(const std::string& path) { return path.substr(0, path.rfind('+')); }
+
+bool areSameItem(const std::string& path, const std::string& otherPath) {
+    return parentPath(path) == parentPath(otherPath) ||
+           (isUnderRoot(path) && isUnderRoot(otherPath));
+}
+
+}  // namespace
+
+int findBomRow(const std::vector<BomRow>& rows,
+               const adsk::core::Ptr<adsk::fusion::Occurrence>& occurrence) {
+    const std::string partNumber = occurrence->component()->partNumber();
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        const BomRow& row = rows[index];
+        if (row.component->partNumber() == partNumber &&
+            areSameItem(row.occurrence->fullPathName(), occurrence->fullPathName())) {
+            return static_cast<int>(index);
+        }
+    }
+    return -1;
+}
+
+ItemIndex::Item ItemIndex::itemOf(const std::string& partNumber, const std::string& path) {
+    return {partNumber, parentPath(path)};
+}
+
+void ItemIndex::add(const std::string& partNumber, const std::string& path) {
+    firstOfItem_.emplace(itemOf(partNumber, path), rowCount_);
+    if (isUnderRoot(path)) {
+        firstUnderRoot_.emplace(partNumber, rowCount_);
+    }
+    ++rowCount_;
+}
+
+std::optional<std::size_t> ItemIndex::find(const std::string& partNumber,
+                                           const std::string& path) const {
+    std::optional<std::size_t> found;
+    if (const auto item = firstOfItem_.find(itemOf(partNumber, path)); item != firstOfItem_.end()) {
+        found = item->second;
+    }
+    if (isUnderRoot(path)) {
+        const auto top = firstUnderRoot_.find(partNumber);
+        if (top != firstUnderRoot_.end()) {
+            // A row inside this occurrence can count as the same item and stand in front.
+            found = std::min(found.value_or(top->second), top->second);
+        }
+    }
+    return found;
+}
+
+}  // namespace tarnix

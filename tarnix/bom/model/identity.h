@@ -1,0 +1,59 @@
+#pragma once
+
+#include "tarnix/bom/model/bom_row.h"
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace tarnix {
+
+/// The index of the first row that is the same item as `occurrence`, or -1.
+///
+/// Two occurrences are the same item when their components have the same part number and they stand
+/// under the same parent occurrence, or both directly under the root component. The component's
+/// name plays no part. Paths are compared as texts, cut in front of their last "+"; a path without
+/// "+" stays whole, so an occurrence directly under the root is the same item as one inside it that
+/// has its part number.
+int findBomRow(const std::vector<BomRow>& rows,
+               const adsk::core::Ptr<adsk::fusion::Occurrence>& occurrence);
+
+/// Answers what `findBomRow` answers for the rows added so far, without a scan.
+///
+/// It holds the texts that were given with a row. They stay true for as long as part numbers and
+/// paths do not change in the design, which is the case within one walk over it.
+class ItemIndex {
+public:
+    /// Takes the next row of the list, an occurrence at `path` whose component has `partNumber`.
+    void add(const std::string& partNumber, const std::string& path);
+
+    /// The index of the first row added that is the same item as an occurrence at `path` whose
+    /// component has `partNumber`.
+    [[nodiscard]] std::optional<std::size_t> find(const std::string& partNumber,
+                                                  const std::string& path) const;
+
+private:
+    struct Item {
+        std::string partNumber;
+        std::string parentPath;  ///< the whole path directly under the root
+
+        bool operator==(const Item&) const = default;
+    };
+    struct ItemHash {
+        std::size_t operator()(const Item& item) const {
+            const std::hash<std::string> hash;
+            return hash(item.partNumber) * 31 + hash(item.parentPath);
+        }
+    };
+
+    static Item itemOf(const std::string& partNumber, const std::string& path);
+
+    std::unordered_map<Item, std::size_t, ItemHash> firstOfItem_;
+    std::unordered_map<std::string, std::size_t> firstUnderRoot_;  ///< by part number
+    std::size_t rowCount_ = 0;
+};
+
+}  // namespace tarnix

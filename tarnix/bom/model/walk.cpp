@@ -1,0 +1,125 @@
+#include "tarnix/bom/model/walk.h"
+
+#include "tarnix/bom/model/bom_structure.h"
+#include "tarnix/bom/model/identity.h"
+#include "tarnix/bom/model/merge.h"
+#include "tarnix/bom/model/property_keys.h"
+#include "tarnix/text/checked.h"
+#include "tarnix/text/numbers.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace tarnix {
+namespace {
+
+using adsk::core::Ptr;
+using adsk::fusion::Occurrence;
+using adsk::fusion::OccurrenceList;
+
+/// A row with the list of its children, which the walk goes on with.
+struct Visit {
+    BomRow row;
+    Ptr<OccurrenceList> children;
+};
+
+std::string relativePosition(int level, std::size_t index) {
+    return level < 2 ? std::string() : "." + std::to_string(index + 1);
+}
+
+Visit visit(BomModel& model, const Ptr<Occurrence>& occurrence, int level, std::size_t index) {
+    const Ptr<OccurrenceList> children = occurrence->childOccurrences();
+    BomRow row;
+    row.component = occurrence->component();
+    row.occurrence = occurrence;
+    row.relativePosition = relativePosition(level, index);
+    row.childCount = children->count();
+    row.pathName = occurrence->fullPathName();
+    row.level = level;
+    row.properties = readComponentProperties(row.component).entries;
+    collectUserPropertyNames(model, row.properties);
+    return {std::move(row), children};
+}
+
+/// The walk itself; `append` puts a row into the model.
+template <class Append>
+void walk(BomModel& model, const Ptr<OccurrenceList>& occurrences, int level, Append& append) {
+    for (std::size_t index = 0; index < occurrences->count(); ++index) {
+        const Ptr<Occurrence> occurrence = occurrences->item(index);
+        if (!occurrence) {
+            continue;
+        }
+        Visit visited = visit(model, occurrence, level, index);
+        const bool isAssembly = visited.row.childCount > 0;
+        append(std::move(visited.row));
+        if (isAssembly) {
+            walk(model, visited.children, level + 1, append);
+            at(model.rows, model.rows.size() - 1).pathName = kSubtreeEnd;
+        }
+    }
+}
+
+/// Appends rows to a model and merges those of one item.
+///
+/// A walk changes descriptions, never a part number or a path, so both can be indexed for its
+/// length.
+class MergingAppender {
+public:
+    explicit MergingAppender(BomModel& model) : model_(model) {
+        for (const BomRow& row : model.rows) {
+            index_.add(row.component->partNumber(), row.occurrence->fullPathName());
+        }
+    }
+
+    void operator()(BomRow row) {
+        const std::string partNumber = row.component->partNumber();
+        const std::optional<std::size_t> target = index_.find(partNumber, row.pathName);
+        if (target) {
+            mergeInto(at(model_.rows, *target), row);
+        }
+        index_.add(partNumber, row.pathName);
+        model_.rows.push_back(std::move(row));
+    }
+
+private:
+    BomModel& model_;
+    ItemIndex index_;
+};
+
+bool isReserved(const std::string& key) {
+    return key == kPartNameKey || key == kPartNumberKey || key == kDescriptionKey ||
+           std::find(kBomStructures.begin(), kBomStructures.end(), key) != kBomStructures.end();
+}
+
+}  // namespace
+
+std::vector<BomRow> walkOccurrences(BomModel& model, Ptr<OccurrenceList> occurrences, int level) {
+    if (occurrences) {
+        auto append = [&model](BomRow row) { model.rows.push_back(std::move(row)); };
+        walk(model, occurrences, level, append);
+    }
+    return model.rows;
+}
+
+std::vector<BomRow> walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
+                                          int level) {
+    MergingAppender append(model);
+    walk(model, occurrences, level, append);
+    return model.rows;
+}
+
+void collectUserPropertyNames(BomModel& model, const std::vector<PropertyEntry>& properties) {
+    auto& names = model.userPropertyNames;
+    for (const auto& entry : properties) {
+        if (isReserved(entry.name)) {
+            continue;
+        }
+        std::string name = withoutPrefix(entry.name);
+        if (std::find(names.begin(), names.end(), name) == names.end()) {
+            names.push_back(std::move(name));
+        }
+    }
+}
+
+}  // namespace tarnix
