@@ -1,0 +1,126 @@
+#include "tarnix/bom/behaviour/bom_export.h"
+
+#include "tarnix/platform/files.h"
+#include "tarnix/platform/module_path.h"
+#include "tarnix/platform/shell.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace tarnix {
+
+using adsk::core::BoolValueCommandInput;
+using adsk::core::CommandInput;
+using adsk::core::CommandInputs;
+using adsk::core::DropDownCommandInput;
+using adsk::core::InputChangedEventArgs;
+using adsk::core::ListItem;
+using adsk::core::ListItems;
+using adsk::core::Ptr;
+using adsk::core::StringValueCommandInput;
+using adsk::core::TableCommandInput;
+using adsk::core::TextBoxCommandInput;
+
+namespace {
+
+/// The text file's path: the module's, with its file name replaced. Of a file name longer than 30
+/// characters the rest stays behind the new one.
+std::string csvPath() {
+    constexpr std::size_t kReplaced = 31;
+    std::string path = platform::modulePath();
+    const std::string fileName = path.substr(path.find_last_of('\\'));
+    path.replace(path.find(fileName), kReplaced, "\\TarnixBOM.csv");
+    return path;
+}
+
+/// The workbook's path. The first "csv" of the whole path makes way, also in a folder's name.
+std::string workbookPath(std::string path) {
+    constexpr std::size_t kExtension = 3;
+    path.replace(path.find("csv"), kExtension, "xlsm");
+    return path;
+}
+
+std::string selectedName(const Ptr<DropDownCommandInput>& dropDown) {
+    const Ptr<ListItems> items = dropDown->listItems();
+    const std::size_t count = items->count();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ptr<ListItem> item = items->item(i);
+        if (item->isSelected()) {
+            return item->name();
+        }
+    }
+    return "n/a";
+}
+
+/// Adds the field of a cell with its separator. An input is of one kind only, so the most frequent
+/// kind is asked first; a cell of another kind, or none, adds nothing at all.
+void appendField(std::string& line, const Ptr<CommandInput>& cell) {
+    if (const Ptr<StringValueCommandInput> text = cell) {
+        line += text->value();
+    } else if (const Ptr<DropDownCommandInput> dropDown = cell) {
+        line += selectedName(dropDown);
+    } else if (const Ptr<BoolValueCommandInput> button = cell) {
+        line += button->name();
+    } else if (const Ptr<TextBoxCommandInput> textBox = cell) {
+        std::string field = textBox->text();
+        std::replace(field.begin(), field.end(), '_', ' ');
+        line += field;
+    } else {
+        return;
+    }
+    line += ';';
+}
+
+/// The toggle and the graph column are left out; the position stands in the column between them.
+std::string lineOfRow(const Ptr<TableCommandInput>& table, int row, int lastColumn) {
+    std::string line;
+    for (int column = 1; column <= lastColumn; ++column) {
+        if (column != 2) {
+            appendField(line, table->getInputAtPosition(row, column));
+        }
+    }
+    return line;
+}
+
+}  // namespace
+
+bool exportBom(Ptr<InputChangedEventArgs> eventArgs) {
+    const Ptr<CommandInputs> inputs = eventArgs->inputs();
+    if (!inputs) {
+        return false;
+    }
+    Ptr<TableCommandInput> table = inputs->itemById("QEMA_bom_models");
+    if (!table) {
+        table = inputs->itemById("QEMA_bom_structure");
+    }
+    if (!table || table->rowCount() < 2) {
+        return false;
+    }
+    const std::string path = csvPath();
+    // A file that stays gets the new text behind the old.
+    static_cast<void>(platform::deleteFile(path));
+    writeBomCsv(path, table);
+    // A shell that has no program for it has no consequence.
+    static_cast<void>(platform::openWithShell(workbookPath(path)));
+    return true;
+}
+
+void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
+    platform::AppendingTextFile file(path);
+    const int rowCount = table->rowCount();
+    const int lastColumn = table->numberOfColumns();
+    for (int row = 0; row < rowCount; ++row) {
+        const Ptr<CommandInput> first = table->getInputAtPosition(row, 0);
+        if (first && first->isVisible()) {
+            file.write(lineOfRow(table, row, lastColumn));
+            file.endLine();
+        }
+    }
+    file.endLine();
+    const Ptr<StringValueCommandInput> totalMass =
+        table->parentCommandInput()->commandInputs()->itemById("idAllMass");
+    file.write(";Total mass of structure BOM [kg]: ;" + totalMass->value());
+    file.endLine();
+}
+
+}  // namespace tarnix
