@@ -1,0 +1,175 @@
+#include "tarnix/bom/behaviour/structure_refresh.h"
+
+#include "tarnix/bom/behaviour/active_design.h"
+#include "tarnix/bom/behaviour/table_rows.h"
+#include "tarnix/bom/model/bom_row.h"
+#include "tarnix/bom/model/walk.h"
+#include "tarnix/bom/tabs/structure_tab.h"
+#include "tarnix/settings/settings_document.h"
+#include "tarnix/text/checked.h"
+#include "tarnix/text/ids.h"
+#include "tarnix/text/numbers.h"
+#include "tarnix/text/positions.h"
+
+#include <Fusion/FusionAll.h>
+
+#include <cstddef>
+
+namespace tarnix {
+
+using adsk::core::CommandInput;
+using adsk::core::CommandInputs;
+using adsk::core::DropDownCommandInput;
+using adsk::core::InputChangedEventArgs;
+using adsk::core::ListItem;
+using adsk::core::Ptr;
+using adsk::core::StringValueCommandInput;
+using adsk::core::TabCommandInput;
+using adsk::core::TableCommandInput;
+using adsk::fusion::Component;
+using adsk::fusion::OccurrenceList;
+
+namespace {
+
+using Items = std::vector<std::string>;
+
+void showCells(const Ptr<TableCommandInput>& table, int row, int firstColumn) {
+    const int lastColumn = table->numberOfColumns();
+    for (int column = firstColumn; column <= lastColumn; ++column) {
+        table->getInputAtPosition(row, column)->isVisible(true);
+    }
+}
+
+/// Shows the cells of all data rows but those that were hidden whole, with the cell in column 0.
+void showRows(const Ptr<TableCommandInput>& table) {
+    const int rowCount = table->rowCount();
+    for (int row = 1; row < rowCount; ++row) {
+        const Ptr<CommandInput> first = table->getInputAtPosition(row, 0);
+        if (first && first->isVisible()) {
+            showCells(table, row, 1);
+        }
+    }
+}
+
+/// The mass of what the table holds, hidden rows included, each with its quantity.
+double totalMass(const Ptr<TableCommandInput>& table, const std::vector<BomRow>& rows) {
+    double total = 0;
+    const int rowCount = table->rowCount();
+    for (int tableRow = 1; tableRow < rowCount; ++tableRow) {
+        const int number = idNumber(table->getInputAtPosition(tableRow, 0)->id());
+        const BomRow& row = at(rows, static_cast<std::size_t>(number) - 1);
+        total += row.occurrence->physicalProperties()->mass() * static_cast<double>(row.quantity);
+    }
+    return total;
+}
+
+void showTotalMass(const Ptr<TableCommandInput>& table, double total) {
+    const Ptr<StringValueCommandInput> field = table->commandInputs()->itemById("idAllMass");
+    if (field) {
+        field->value(formatMass(total));
+        field->isVisible(true);
+    }
+}
+
+void refreshStructureTab(const Ptr<CommandInputs>& inputs, const Ptr<TableCommandInput>& table,
+                         const Items& items) {
+    refreshStructureTable(inputs, table);
+    showRows(table);
+    const Ptr<Component> root = activeRootComponent();
+    if (!root) {
+        return;
+    }
+    const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
+    BomModel model;
+    buildStructureTab(inputs);
+    showTotalMass(table, totalMass(table, walkOccurrencesMerged(model, occurrences, 1)));
+    table->columnRatio(makeColumnRatio(table, items));
+}
+
+/// Hides the row behind `number`, and the rows behind that one which its position begins.
+void hideReferenceRows(const Ptr<TableCommandInput>& table, int number) {
+    const std::string position = stripPositionPrefix(rowCaption(table, number + 1));
+    hideRow(table, number + 1);
+    const int rowCount = table->rowCount();
+    for (int row = number + 2; row < rowCount; ++row) {
+        const std::string next = stripPositionPrefix(rowCaption(table, row));
+        if (!next.starts_with(position)) {
+            return;
+        }
+        if (next.size() > position.size()) {
+            hideRow(table, row);
+        }
+    }
+}
+
+}  // namespace
+
+void refreshOnTabChange(Ptr<InputChangedEventArgs> eventArgs) {
+    const Ptr<CommandInputs> inputs = eventArgs->inputs();
+    const Ptr<TabCommandInput> structureTab = inputs->itemById("QEMA_tab_structure_BOM");
+    const Ptr<TabCommandInput> modelTab = inputs->itemById("QEMA_tab_models_BOM");
+    const Ptr<TableCommandInput> structureTable = inputs->itemById("QEMA_bom_structure");
+    const Ptr<TableCommandInput> modelTable = inputs->itemById("QEMA_bom_models");
+    const Items items = readCategoryItems("category", "bomItems");
+    if (structureTab->isActive()) {
+        refreshStructureTab(inputs, structureTable, items);
+    } else if (modelTab->isActive()) {
+        showCells(modelTable, 0, 0);
+        modelTable->columnRatio(makeColumnRatio(modelTable, items));
+    }
+}
+
+void refreshStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> table) {
+    if (table->rowCount() == 0) {
+        fillStructureTable(inputs, table);
+    }
+    const int rowCount = table->rowCount();
+    for (int row = 1; row < rowCount; ++row) {
+        const Ptr<CommandInput> cell = table->getInputAtPosition(row, 3);
+        const int number = idNumber(cell->id());
+        const Ptr<DropDownCommandInput> dropDown = cell;
+        const Ptr<ListItem> selected = dropDown ? dropDown->selectedItem() : nullptr;
+        // The Structure table has another id, and the part number in column 3: there a reference is
+        // hidden when it is chosen, and nothing here may hide it a second time.
+        if (selected && selected->name() == "Reference" && table->id() == "BOM Structure") {
+            hideReferenceRows(table, number);
+        }
+    }
+}
+
+void fillStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> table) {
+    buildStructureTab(inputs);
+    const Ptr<Component> root = activeRootComponent();
+    if (!root) {
+        return;
+    }
+    const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
+    const bool isStructure = table->id() == "QEMA_bom_structure";
+    BomModel model;
+    std::vector<BomRow> rows = isStructure ? walkOccurrencesMerged(model, occurrences, 1)
+                                           : walkOccurrences(model, occurrences, 1);
+    const Items items = readCategoryItems("category", "bomItems");
+    if (isStructure) {
+        buildStructureTableHeader(table, items);
+    }
+    fillStructureRows(table, std::move(rows), items);
+}
+
+std::string formatMass(double kilograms) { return formatFixed(kilograms, 3); }
+
+std::string makeColumnRatio(Ptr<TableCommandInput> table, const Items& items) {
+    constexpr std::size_t kConfigurableColumns = 6;
+    std::string ratio;
+    const std::string id = table->id();
+    if (id == "QEMA_bom_structure") {
+        ratio = "2:3:0:12:8";
+    } else if (id == "QEMA_bom_models") {
+        ratio = "2:0:8:12:8";
+    }
+    for (std::size_t k = 0; k < kConfigurableColumns; ++k) {
+        ratio += k < items.size() ? ":8" : ":0";
+    }
+    return ratio;
+}
+
+}  // namespace tarnix

@@ -1,0 +1,27 @@
+#include "tarnix/bom/behaviour/table_rows.h"
+
+namespace tarnix {
+
+using adsk::core::BoolValueCommandInput;
+using adsk::core::CommandInput;
+using adsk::core::Ptr;
+using adsk::core::TableCommandInput;
+using adsk::core::TextBoxCommandInput;
+
+std::string rowCaption(const Ptr<TableCommandInput>& table, int row) {
+    const Ptr<CommandInput> cell = table->getInputAtPosition(row, 1);
+    if (const Ptr<TextBoxCommandInput> textBox = cell) {
+        return textBox->text();
+    }
+    const Ptr<BoolValueCommandInput> button = cell;
+    return button->name();
+}
+
+void hideRow(const Ptr<TableCommandInput>& table, int row) {
+    const int lastColumn = table->numberOfColumns();
+    for (int column = 0; column <= lastColumn; ++column) {
+        table->getInputAtPosition(row, column)->isVisible(false);
+    }
+}
+
+}  // namespace tarnix
