@@ -1,0 +1,27 @@
+#pragma once
+
+#include "tarnix/bom/behaviour/bom_execute_handler.h"
+#include "tarnix/bom/behaviour/bom_input_changed_handler.h"
+#include "tarnix/bom/model/bom_row.h"
+
+#include <Core/CoreAll.h>
+
+namespace tarnix {
+
+/// Answers the start of the command "BOM": makes its dialog and attaches the handlers that serve it.
+///
+/// One object, made when the command is registered, serves every opening of the dialog. The host is
+/// given addresses inside it.
+class BomCmdCreateEventHandler final : public adsk::core::CommandCreatedEventHandler {
+public:
+    /// Builds the dialog, then sets its size, attaches the handlers and names its buttons, so that
+    /// all of these are left out when the building raises.
+    void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
+
+private:
+    BomCmdInputChangedHandler inputChangedHandler_;
+    BomCmdExecuteHandler executeHandler_;
+    BomModel model_;  ///< of the last opening
+};
+
+}  // namespace tarnix
