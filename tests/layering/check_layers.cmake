@@ -24,7 +24,7 @@ set(rules
     "tarnix/bom|tarnix/properties/.*|property_store.h|properties/ and bom/ share only the property store"
     "tarnix/bom/model|tarnix/bom/(tabs|behaviour)/.*||the model uses neither tabs nor behaviour"
     "tarnix/bom/tabs|tarnix/bom/behaviour/.*||tabs may use the model alone"
-    "tarnix/(bom|properties|helpdesk|commands|settings)|tarnix/addin/.*|tarnix/addin/module_state.h|no command knows addin/ beyond app and ui"
+    "tarnix/(bom|properties|helpdesk|commands|settings)|tarnix/addin/.*|tarnix/addin/state.h|no command knows addin/ beyond app and ui"
     "host|(tarnix|workbench|tests|bench)/.*||the host knows nothing of an add-in"
     "host/include|host/.*||the public API shows no implementation"
     "host/design|host/(ui|session)/.*||a design knows no dialog"
