@@ -1,0 +1,210 @@
+#include "tarnix/text/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <locale>
+#include <stdexcept>
+#include <string>
+
+namespace tarnix {
+namespace {
+
+/// The text of what is raised, with its kind in front.
+template <class Action>
+std::string raised(Action action) {
+    try {
+        action();
+    } catch (const std::invalid_argument& error) {
+        return std::string("invalid_argument: ") + error.what();
+    } catch (const std::out_of_range& error) {
+        return std::string("out_of_range: ") + error.what();
+    }
+    return "nothing";
+}
+
+std::string raisedByInt(const std::string& text) {
+    return raised([&text] { parseInt(text); });
+}
+
+std::string raisedByDouble(const std::string& text) {
+    return raised([&text] { parseDouble(text); });
+}
+
+const char* const kInvalidInt = "invalid_argument: invalid stoi argument";
+const char* const kIntOutOfRange = "out_of_range: stoi argument out of range";
+const char* const kInvalidDouble = "invalid_argument: invalid stod argument";
+const char* const kDoubleOutOfRange = "out_of_range: stod argument out of range";
+
+TEST(ParseInt, ReadsTheWholeRange) {
+    EXPECT_EQ(parseInt("0"), 0);
+    EXPECT_EQ(parseInt("2147483647"), 2147483647);
+    EXPECT_EQ(parseInt("-2147483648"), std::numeric_limits<int>::min());
+}
+
+TEST(ParseInt, SkipsLeadingBlanksAndTakesASign) {
+    EXPECT_EQ(parseInt(" \t\n\v\f\r7"), 7);
+    EXPECT_EQ(parseInt("+5"), 5);
+    EXPECT_EQ(parseInt(" -5"), -5);
+}
+
+TEST(ParseInt, LeavesAloneWhatFollowsTheDigits) {
+    EXPECT_EQ(parseInt("12abc"), 12);
+    EXPECT_EQ(parseInt("0x1A"), 0);
+    EXPECT_EQ(parseInt("3.9"), 3);
+}
+
+TEST(ParseInt, RaisesWhereNoDigitIsFound) {
+    EXPECT_EQ(raisedByInt(""), kInvalidInt);
+    EXPECT_EQ(raisedByInt("  "), kInvalidInt);
+    EXPECT_EQ(raisedByInt("btnExportXls"), kInvalidInt);
+    EXPECT_EQ(raisedByInt("+"), kInvalidInt);
+    EXPECT_EQ(raisedByInt("+-5"), kInvalidInt);
+    EXPECT_EQ(raisedByInt("- 5"), kInvalidInt);
+}
+
+TEST(ParseInt, RaisesBeyondTheRange) {
+    EXPECT_EQ(raisedByInt("2147483648"), kIntOutOfRange);
+    EXPECT_EQ(raisedByInt("-2147483649"), kIntOutOfRange);
+    EXPECT_EQ(raisedByInt("99999999999999999999"), kIntOutOfRange);
+}
+
+TEST(ParseDouble, ReadsDecimalNumbers) {
+    EXPECT_EQ(parseDouble("12.5"), 12.5);
+    EXPECT_EQ(parseDouble(".5"), 0.5);
+    EXPECT_EQ(parseDouble("5."), 5);
+    EXPECT_EQ(parseDouble("-0.25e2"), -25);
+    EXPECT_EQ(parseDouble("1E-1x"), 0.1);
+    EXPECT_EQ(parseDouble("0e9999"), 0);
+}
+
+TEST(ParseDouble, SkipsLeadingBlanksAndTakesASign) {
+    EXPECT_EQ(parseDouble(" \t\n\v\f\r7"), 7);
+    EXPECT_EQ(parseDouble("+5"), 5);
+    EXPECT_TRUE(std::signbit(parseDouble("-0")));
+}
+
+TEST(ParseDouble, LeavesAloneWhatFollowsTheNumber) {
+    EXPECT_EQ(parseDouble("12,5"), 12);
+    EXPECT_EQ(parseDouble("1.2.3"), 1.2);
+    EXPECT_EQ(parseDouble("3e"), 3);
+    EXPECT_EQ(parseDouble("3e+kg"), 3);
+}
+
+TEST(ParseDouble, ReadsHexadecimalNumbers) {
+    EXPECT_EQ(parseDouble("0x1A"), 26);
+    EXPECT_EQ(parseDouble("-0X.8p1"), -1);
+    EXPECT_EQ(parseDouble("+0x1p-2z"), 0.25);
+}
+
+TEST(ParseDouble, ReadsTheZeroOfAPrefixWithoutDigits) {
+    EXPECT_EQ(parseDouble("0x"), 0);
+    EXPECT_EQ(parseDouble("0xz"), 0);
+    EXPECT_EQ(parseDouble("0x-5"), 0);
+    EXPECT_EQ(parseDouble("0xinf"), 0);
+}
+
+TEST(ParseDouble, ReadsInfinityAndNotANumber) {
+    EXPECT_EQ(parseDouble("inf"), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(parseDouble("-INFINITYx"), -std::numeric_limits<double>::infinity());
+    EXPECT_EQ(parseDouble("infinite"), std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(std::isnan(parseDouble("NaN")));
+    EXPECT_TRUE(std::isnan(parseDouble("nan(1")));
+}
+
+TEST(ParseDouble, RaisesWhereNoNumberIsFound) {
+    EXPECT_EQ(raisedByDouble(""), kInvalidDouble);
+    EXPECT_EQ(raisedByDouble("M8"), kInvalidDouble);
+    EXPECT_EQ(raisedByDouble("."), kInvalidDouble);
+    EXPECT_EQ(raisedByDouble("--1"), kInvalidDouble);
+    EXPECT_EQ(raisedByDouble("+-1"), kInvalidDouble);
+    EXPECT_EQ(raisedByDouble("-+1"), kInvalidDouble);
+    EXPECT_EQ(raisedByDouble("in"), kInvalidDouble);
+}
+
+TEST(ParseDouble, RaisesBeyondTheRange) {
+    EXPECT_EQ(raisedByDouble("1e309"), kDoubleOutOfRange);
+    EXPECT_EQ(raisedByDouble("-1e309"), kDoubleOutOfRange);
+    EXPECT_EQ(raisedByDouble("0x1p1024"), kDoubleOutOfRange);
+    EXPECT_EQ(raisedByDouble("1e-400"), kDoubleOutOfRange);
+    EXPECT_EQ(raisedByDouble("1e-310"), kDoubleOutOfRange);
+    EXPECT_EQ(parseDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());
+    EXPECT_EQ(parseDouble("2.2250738585072014e-308"), std::numeric_limits<double>::min());
+}
+
+TEST(FormatFixed, KeepsTheNumberOfDecimals) {
+    EXPECT_EQ(formatFixed(12.345, 3), "12.345");
+    EXPECT_EQ(formatFixed(0, 3), "0.000");
+    EXPECT_EQ(formatFixed(120, 1), "120.0");
+    EXPECT_EQ(formatFixed(7.6, 0), "8");
+    EXPECT_EQ(formatFixed(-1234567.5, 1), "-1234567.5");
+    EXPECT_EQ(formatFixed(-0.0, 2), "-0.00");
+}
+
+TEST(FormatFixed, RoundsTheExactBinaryValueAndTiesToEven) {
+    EXPECT_EQ(formatFixed(0.125, 2), "0.12");
+    EXPECT_EQ(formatFixed(0.375, 2), "0.38");
+    EXPECT_EQ(formatFixed(2.675, 2),
+              "2.67");  // 2.67499999999999982236431605997495353221893310546875
+}
+
+TEST(FormatFixed, WritesTheLargestNumberInFull) {
+    const std::string text = formatFixed(std::numeric_limits<double>::max(), 2);
+    EXPECT_EQ(text.size(), 312U);
+    EXPECT_EQ(text.substr(0, 17), "17976931348623157");
+    EXPECT_EQ(text.substr(309), ".00");
+}
+
+TEST(FormatFixed, NamesWhatIsNoNumber) {
+    EXPECT_EQ(formatFixed(std::numeric_limits<double>::quiet_NaN(), 2), "nan");
+    EXPECT_EQ(formatFixed(std::numeric_limits<double>::infinity(), 2), "inf");
+    EXPECT_EQ(formatFixed(-std::numeric_limits<double>::infinity(), 2), "-inf");
+}
+
+TEST(Decimal, WritesNoGrouping) {
+    EXPECT_EQ(decimal(1234567), "1234567");
+    EXPECT_EQ(decimal(-1), "-1");
+}
+
+/// Writes and reads 1234567.5 as 1.234.567,5.
+class Comma : public std::numpunct<char> {
+protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+/// The whole process runs with a decimal comma and grouping.
+class UnderACommaLocale : public testing::Test {
+protected:
+    UnderACommaLocale()
+        : before_(std::locale::global(std::locale(std::locale::classic(), new Comma))) {
+        // The C library has a locale of its own; where the system has no German, it stays.
+        if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
+            std::setlocale(LC_ALL, "German_Germany.1252");
+        }
+    }
+    ~UnderACommaLocale() override {
+        std::locale::global(before_);
+        std::setlocale(LC_ALL, "C");
+    }
+
+private:
+    std::locale before_;
+};
+
+TEST_F(UnderACommaLocale, NumbersAreWrittenWithThePoint) {
+    EXPECT_EQ(formatFixed(1234567.5, 2), "1234567.50");
+    EXPECT_EQ(decimal(1234567), "1234567");
+}
+
+TEST_F(UnderACommaLocale, NumbersAreReadWithThePoint) {
+    EXPECT_EQ(parseDouble("1234.5"), 1234.5);
+    EXPECT_EQ(parseDouble("1,5"), 1);
+    EXPECT_EQ(parseInt("1.234"), 1);
+}
+
+}  // namespace
+}  // namespace tarnix

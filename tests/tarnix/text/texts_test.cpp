@@ -1,0 +1,58 @@
+#include "tarnix/text/ids.h"
+#include "tarnix/text/positions.h"
+#include "tarnix/text/utf8.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace tarnix {
+namespace {
+
+TEST(Id, EndsInTheNumberBehindTheLastUnderscore) {
+    EXPECT_EQ(idNumber("modelPartNumberOcc_12"), 12);
+    EXPECT_EQ(idNumber("QEMA_Part_Name_3"), 3);
+    EXPECT_EQ(idTail("QEMA_Part_Name_3"), "3");
+    EXPECT_EQ(idBase("QEMA_Part_Name_3"), "QEMA_Part_Name");
+}
+
+TEST(Id, WithoutUnderscoreIsItsOwnTailAndBase) {
+    EXPECT_EQ(idTail("APITabBar"), "APITabBar");
+    EXPECT_EQ(idBase("APITabBar"), "APITabBar");
+    EXPECT_EQ(idNumber("7"), 7);
+}
+
+TEST(Id, RaisesWhereNoNumberStandsBehindTheLastUnderscore) {
+    EXPECT_THROW(idNumber("QEMA_btnExportXls"), std::invalid_argument);
+    EXPECT_THROW(idNumber("positionOcc_"), std::invalid_argument);
+}
+
+TEST(Position, IsAsDeepAsItHasPoints) {
+    EXPECT_EQ(positionDepth("12"), 0);
+    EXPECT_EQ(positionDepth("1.2.3"), 2);
+    EXPECT_EQ(positionDepth(""), 0);
+}
+
+TEST(Position, LosesItsIndent) {
+    EXPECT_EQ(stripPositionPrefix("` _-|1.2-3"), "1.2-3");
+    EXPECT_EQ(stripPositionPrefix("1.2"), "1.2");
+    EXPECT_EQ(stripPositionPrefix("__"), "");
+    EXPECT_EQ(stripPositionPrefix(""), "");
+}
+
+TEST(Utf8, EncodesEveryLengthOfCharacter) {
+    EXPECT_EQ(toUtf8(L"cm\u00B2"), "cm\xC2\xB2");
+    EXPECT_EQ(toUtf8(L"\u2591 \u251C\u2500"), "\xE2\x96\x91 \xE2\x94\x9C\xE2\x94\x80");
+    EXPECT_EQ(toUtf8(L"\U0001F600"), "\xF0\x9F\x98\x80");
+    EXPECT_EQ(toUtf8(L""), "");
+}
+
+TEST(Utf8, ReplacesHalfASurrogatePair) {
+    const wchar_t high[] = {static_cast<wchar_t>(0xD83D), L'x', 0};
+    const wchar_t low[] = {static_cast<wchar_t>(0xDE00), 0};
+    EXPECT_EQ(toUtf8(high), "\xEF\xBF\xBDx");
+    EXPECT_EQ(toUtf8(low), "\xEF\xBF\xBD");
+}
+
+}  // namespace
+}  // namespace tarnix
