@@ -1,0 +1,142 @@
+#include "tarnix/platform/posix/xml_reader.h"
+
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+
+#include <fstream>
+#include <iterator>
+#include <limits>
+
+namespace tarnix::platform {
+namespace {
+
+using Body = XmlNode::Body;
+using Context = std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)>;
+
+std::string asText(const xmlChar* text) {
+    return text != nullptr ? reinterpret_cast<const char*>(text) : "";
+}
+
+std::string asText(const xmlChar* text, int length) {
+    return {reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)};
+}
+
+/// Builds the nodes from what the parser reports. The parser is told to report names and attributes
+/// as they are written, so that declarations of namespaces keep their place among the attributes.
+class Builder {
+public:
+    explicit Builder(xmlParserCtxt& parser) : parser_(parser) {
+        xmlSAXHandler& handler = *parser.sax;
+        handler = {};
+        handler.startDocument = [](void* self) { of(self).declaration(); };
+        handler.internalSubset = [](void* self, auto...) { of(self).refuse(); };
+        handler.startElement = [](void* self, const xmlChar* name, const xmlChar** attributes) {
+            of(self).startElement(name, attributes);
+        };
+        handler.endElement = [](void* self, const xmlChar*) { of(self).endElement(); };
+        handler.characters = [](void* self, const xmlChar* text, int length) {
+            of(self).text_ += asText(text, length);
+        };
+        handler.cdataBlock = [](void* self, const xmlChar* text, int length) {
+            of(self).add(XmlKind::CharacterData, "#cdata-section", asText(text, length));
+        };
+        handler.comment = [](void* self, const xmlChar* text) {
+            of(self).add(XmlKind::Comment, "#comment", asText(text));
+        };
+        handler.processingInstruction = [](void* self, const xmlChar* target, const xmlChar* data) {
+            of(self).add(XmlKind::Instruction, asText(target), asText(data));
+        };
+        parser.userData = this;
+    }
+
+    /// What was built, if the parser was content with it.
+    XmlBodies result() {
+        if (refused_ || parser_.wellFormed == 0) {
+            return {};
+        }
+        Body::orphan(document_.children);
+        return std::move(document_.children);
+    }
+
+private:
+    static Builder& of(void* self) { return *static_cast<Builder*>(self); }
+
+    void declaration() {
+        constexpr int noDeclaration = -1;
+        if (parser_.standalone == noDeclaration) {
+            return;
+        }
+        std::string data = "version=\"" + asText(parser_.version) + "\"";
+        if (parser_.encoding != nullptr) {
+            data += " encoding=\"" + asText(parser_.encoding) + "\"";
+        }
+        if (parser_.standalone >= 0) {
+            data += parser_.standalone == 0 ? " standalone=\"no\"" : " standalone=\"yes\"";
+        }
+        add(XmlKind::Instruction, "xml", data);
+    }
+
+    void refuse() {
+        refused_ = true;
+        xmlStopParser(&parser_);
+    }
+
+    void startElement(const xmlChar* name, const xmlChar** attributes) {
+        Body& element = add(XmlKind::Element, asText(name), "");
+        for (; attributes != nullptr && *attributes != nullptr; attributes += 2) {
+            auto attribute = std::make_shared<Body>(XmlKind::Attribute, asText(attributes[0]),
+                                                    asText(attributes[1]));
+            attribute->parent = &element;
+            element.attributes.push_back(std::move(attribute));
+        }
+        current_ = &element;
+    }
+
+    void endElement() {
+        addText();
+        current_ = current_->parent;
+    }
+
+    /// Adds the text that has been reported in pieces, unless it is white space alone.
+    void addText() {
+        if (text_.find_first_not_of(kXmlBlanks) != std::string::npos) {
+            adopt(*current_, std::make_shared<Body>(XmlKind::Text, "#text", text_));
+        }
+        text_.clear();
+    }
+
+    Body& add(XmlKind kind, const std::string& name, const std::string& value) {
+        addText();
+        adopt(*current_, std::make_shared<Body>(kind, name, value));
+        return *current_->children.back();
+    }
+
+    xmlParserCtxt& parser_;
+    Body document_{XmlKind::Document, "#document"};
+    Body* current_ = &document_;
+    std::string text_;
+    bool refused_ = false;
+};
+
+}  // namespace
+
+XmlBodies readXml(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    if (content.empty() || content.size() > std::numeric_limits<int>::max()) {
+        return {};
+    }
+    const Context parser(
+        xmlCreateMemoryParserCtxt(content.data(), static_cast<int>(content.size())),
+        xmlFreeParserCtxt);
+    if (parser == nullptr) {
+        return {};
+    }
+    xmlCtxtUseOptions(parser.get(), XML_PARSE_NONET | XML_PARSE_SAX1);
+    Builder builder(*parser);
+    // Its result is the parser's `wellFormed`.
+    static_cast<void>(xmlParseDocument(parser.get()));
+    return builder.result();
+}
+
+}  // namespace tarnix::platform
