@@ -1,0 +1,190 @@
+#include "tarnix/settings/settings_document.h"
+
+#include "tarnix/platform/com.h"
+#include "tarnix/platform/files.h"
+#include "tarnix/platform/module_path.h"
+
+#include <exception>
+#include <stdexcept>
+
+namespace tarnix {
+namespace {
+
+using platform::XmlDocument;
+using platform::XmlNode;
+using platform::XmlNodeList;
+using platform::XmlNodeType;
+
+/// Gives an element one more attribute.
+void addAttribute(const XmlDocument& document, const XmlNode& element, const std::string& name,
+                  const std::string& value) {
+    XmlNode attribute = document.createNode(XmlNodeType::Attribute, name);
+    attribute.setNodeValue(value);
+    element.attributes().setNamedItem(attribute);
+}
+
+/// An element with one attribute that belongs to no parent yet.
+XmlNode makeElement(const XmlDocument& document, const std::string& elementName,
+                    const std::string& attributeName, const std::string& attributeValue) {
+    const XmlNode element = document.createNode(XmlNodeType::Element, elementName);
+    addAttribute(document, element, attributeName, attributeValue);
+    return element;
+}
+
+/// The value of the first attribute, whatever its name.
+std::string firstAttributeValue(const XmlNode& element) {
+    return element.attributes().item(0).nodeValue();
+}
+
+bool isCategory(const XmlNode& node, const std::string& elementName,
+                const std::string& categoryName) {
+    return node.nodeName() == elementName && firstAttributeValue(node) == categoryName;
+}
+
+/// The elements of the root that stand for a category.
+std::vector<XmlNode> categoriesOf(const XmlDocument& document, const std::string& elementName,
+                                  const std::string& categoryName) {
+    std::vector<XmlNode> categories;
+    const XmlNodeList children = document.documentElement().childNodes();
+    for (long i = 0; i < children.length(); ++i) {
+        const XmlNode child = children.item(i);
+        if (isCategory(child, elementName, categoryName)) {
+            categories.push_back(child);
+        }
+    }
+    return categories;
+}
+
+void removeChildren(XmlNode parent) {
+    const XmlNodeList children = parent.childNodes();
+    for (long i = children.length() - 1; i >= 0; --i) {
+        parent.removeChild(children.item(i));
+    }
+}
+
+/// Adds an item to a category. Its text is cut at the first ";", and without one is all key.
+void addItem(const XmlDocument& document, const XmlNode& category, const std::string& elementName,
+             const std::string& item) {
+    const std::size_t semicolon = item.find(';');
+    const bool hasValue = semicolon != std::string::npos;
+    XmlNode element = appendItem(document, category, elementName, "id", item.substr(0, semicolon));
+    XmlNode displayName = document.createElement("displayName");
+    displayName.setText(hasValue ? item.substr(semicolon + 1) : "");
+    element.appendChild(displayName);
+}
+
+/// The work of `replaceCategoryItems` between opening and closing.
+void replaceItems(const XmlDocument& document, const std::string& categoryName,
+                  const std::vector<std::string>& items, MissingCategory missing) {
+    std::vector<XmlNode> categories = categoriesOf(document, "category", categoryName);
+    if (categories.empty() && missing == MissingCategory::Create) {
+        categories.push_back(appendCategory(document, "category", "name", categoryName));
+    }
+    for (const XmlNode& category : categories) {
+        removeChildren(category);
+        for (const std::string& item : items) {
+            addItem(document, category, "item_" + categoryName, item);
+        }
+    }
+}
+
+}  // namespace
+
+std::string settingsFilePath() {
+    const std::string extension = ".dll";
+    std::string path = platform::modulePath();
+    const std::size_t position = path.find(extension);
+    if (position == std::string::npos) {
+        throw std::out_of_range("invalid string position");
+    }
+    // The first one, be it in the name of a folder.
+    return path.replace(position, extension.size(), "_configuration.xml");
+}
+
+XmlDocument openSettingsDocument(const std::string& path) {
+    platform::initializeCom();
+    if (!platform::canRead(path)) {
+        createDefaultSettings(path);
+    }
+    XmlDocument document = XmlDocument::create();
+    // What cannot be parsed leaves an empty document, which raises where its root is needed.
+    static_cast<void>(document.load(path));
+    return document;
+}
+
+void createDefaultSettings(const std::string& path) {
+    XmlDocument document = XmlDocument::create();
+    document.appendChild(
+        document.createProcessingInstruction("xml", "version=\"1.0\" encoding=\"UTF-8\""));
+    XmlNode configuration = document.createElement("configuration");
+    document.appendChild(configuration);
+    addAttribute(document, configuration, "nameOfApplication", "Tarnix");
+    XmlNode helpdesk = appendItem(document, configuration, "category", "name", "httpHelpdesk");
+    XmlNode www = document.createElement("www");
+    www.setText(defaultHelpdeskUrl);
+    helpdesk.appendChild(www);
+    appendItem(document, configuration, "category", "name", "iProperty");
+    appendItem(document, configuration, "category", "name", "bomItems");
+    document.save(path);
+}
+
+std::vector<std::string> readCategoryItems(const std::string& elementName,
+                                           const std::string& categoryName) {
+    const XmlDocument document = openSettingsDocument(settingsFilePath());
+    std::vector<std::string> items;
+    for (const XmlNode& category : categoriesOf(document, elementName, categoryName)) {
+        const XmlNodeList children = category.childNodes();
+        for (long i = 0; i < children.length(); ++i) {
+            items.push_back(itemToString(children.item(i)));
+        }
+    }
+    return items;
+}
+
+std::string itemToString(const XmlNode& itemElement) {
+    const std::string key = firstAttributeValue(itemElement);
+    if (key.empty()) {
+        return "";
+    }
+    const std::string text = itemElement.firstChild().text();
+    return key + ";" + (text.empty() ? "missing" : text);
+}
+
+std::string readHelpdeskUrl() {
+    const XmlDocument document = openSettingsDocument(settingsFilePath());
+    std::string url;
+    for (const XmlNode& category : categoriesOf(document, "category", "httpHelpdesk")) {
+        url = category.firstChild().text();
+    }
+    return url;
+}
+
+XmlNode appendCategory(const XmlDocument& document, const std::string& elementName,
+                       const std::string& attributeName, const std::string& attributeValue) {
+    try {
+        return appendItem(document, document.documentElement(), elementName, attributeName,
+                          attributeValue);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+XmlNode appendItem(const XmlDocument& document, XmlNode parent, const std::string& elementName,
+                   const std::string& attributeName, const std::string& attributeValue) {
+    // Whole before it is added, so that nothing half made stays when a step fails.
+    return parent.appendChild(makeElement(document, elementName, attributeName, attributeValue));
+}
+
+void replaceCategoryItems(const std::string& categoryName, const std::vector<std::string>& items,
+                          MissingCategory missing) {
+    const std::string path = settingsFilePath();
+    {
+        // Let go before COM is: its library may be unloaded with the last user.
+        const XmlDocument document = openSettingsDocument(path);
+        replaceItems(document, categoryName, items, missing);
+        document.save(path);
+    }
+    platform::uninitializeCom();
+}
+
+}  // namespace tarnix
