@@ -1,5 +1,6 @@
 #include "tarnix/bom/behaviour/bom_export.h"
 
+#include "tarnix/bom/tabs/bom_ids.h"
 #include "tarnix/platform/files.h"
 #include "tarnix/platform/module_path.h"
 #include "tarnix/platform/shell.h"
@@ -89,9 +90,9 @@ bool exportBom(Ptr<InputChangedEventArgs> eventArgs) {
     if (!inputs) {
         return false;
     }
-    Ptr<TableCommandInput> table = inputs->itemById("QEMA_bom_models");
+    Ptr<TableCommandInput> table = inputs->itemById(kModelTableId);
     if (!table) {
-        table = inputs->itemById("QEMA_bom_structure");
+        table = inputs->itemById(kStructureTableId);
     }
     if (!table || table->rowCount() < 2) {
         return false;
@@ -118,7 +119,7 @@ void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
     }
     file.endLine();
     const Ptr<StringValueCommandInput> totalMass =
-        table->parentCommandInput()->commandInputs()->itemById("idAllMass");
+        table->parentCommandInput()->commandInputs()->itemById(idAllMass);
     file.write(";Total mass of structure BOM [kg]: ;" + totalMass->value());
     file.endLine();
 }

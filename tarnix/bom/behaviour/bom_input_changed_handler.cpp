@@ -4,6 +4,7 @@
 #include "tarnix/bom/behaviour/bom_export.h"
 #include "tarnix/bom/behaviour/structure_refresh.h"
 #include "tarnix/bom/model/walk.h"
+#include "tarnix/bom/tabs/bom_ids.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
 
@@ -26,7 +27,7 @@ namespace {
 
 /// Does what the input of this id asks for; false when nothing is to follow.
 bool route(const Ptr<InputChangedEventArgs>& eventArgs, const std::string& id) {
-    if (id == "QEMA_btnExportXls") {
+    if (id == kExportId) {
         exportBom(eventArgs);
         return true;
     }
@@ -85,8 +86,8 @@ void BomCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventAr
 void BomCmdInputChangedHandler::selectRowInDesign(Ptr<CommandInput> input,
                                                   Ptr<Product> product) const {
     const Ptr<CommandInputs> inputs = input->parentCommand()->commandInputs();
-    const Ptr<TabCommandInput> structureTab = inputs->itemById("QEMA_tab_structure_BOM");
-    const Ptr<TabCommandInput> modelTab = inputs->itemById("QEMA_tab_models_BOM");
+    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
+    const Ptr<TabCommandInput> modelTab = inputs->itemById(kModelTabId);
     const int number = idNumber(input->id());
     if (number == 0) {
         return;

@@ -4,16 +4,17 @@
 #include "tarnix/bom/behaviour/table_rows.h"
 #include "tarnix/bom/model/bom_row.h"
 #include "tarnix/bom/model/walk.h"
+#include "tarnix/bom/tabs/bom_ids.h"
 #include "tarnix/bom/tabs/structure_tab.h"
 #include "tarnix/settings/settings_document.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
 #include "tarnix/text/numbers.h"
-#include "tarnix/text/positions.h"
 
 #include <Fusion/FusionAll.h>
 
 #include <cstddef>
+#include <utility>
 
 namespace tarnix {
 
@@ -64,7 +65,7 @@ double totalMass(const Ptr<TableCommandInput>& table, const std::vector<BomRow>&
 }
 
 void showTotalMass(const Ptr<TableCommandInput>& table, double total) {
-    const Ptr<StringValueCommandInput> field = table->commandInputs()->itemById("idAllMass");
+    const Ptr<StringValueCommandInput> field = table->commandInputs()->itemById(idAllMass);
     if (field) {
         field->value(formatMass(total));
         field->isVisible(true);
@@ -88,11 +89,11 @@ void refreshStructureTab(const Ptr<CommandInputs>& inputs, const Ptr<TableComman
 
 /// Hides the row behind `number`, and the rows behind that one which its position begins.
 void hideReferenceRows(const Ptr<TableCommandInput>& table, int number) {
-    const std::string position = stripPositionPrefix(rowCaption(table, number + 1));
+    const std::string position = positionOfRow(table, number + 1);
     hideRow(table, number + 1);
     const int rowCount = table->rowCount();
     for (int row = number + 2; row < rowCount; ++row) {
-        const std::string next = stripPositionPrefix(rowCaption(table, row));
+        const std::string next = positionOfRow(table, row);
         if (!next.starts_with(position)) {
             return;
         }
@@ -106,10 +107,10 @@ void hideReferenceRows(const Ptr<TableCommandInput>& table, int number) {
 
 void refreshOnTabChange(Ptr<InputChangedEventArgs> eventArgs) {
     const Ptr<CommandInputs> inputs = eventArgs->inputs();
-    const Ptr<TabCommandInput> structureTab = inputs->itemById("QEMA_tab_structure_BOM");
-    const Ptr<TabCommandInput> modelTab = inputs->itemById("QEMA_tab_models_BOM");
-    const Ptr<TableCommandInput> structureTable = inputs->itemById("QEMA_bom_structure");
-    const Ptr<TableCommandInput> modelTable = inputs->itemById("QEMA_bom_models");
+    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
+    const Ptr<TabCommandInput> modelTab = inputs->itemById(kModelTabId);
+    const Ptr<TableCommandInput> structureTable = inputs->itemById(kStructureTableId);
+    const Ptr<TableCommandInput> modelTable = inputs->itemById(kModelTableId);
     const Items items = readCategoryItems("category", "bomItems");
     if (structureTab->isActive()) {
         refreshStructureTab(inputs, structureTable, items);
@@ -144,7 +145,7 @@ void fillStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> table)
         return;
     }
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
-    const bool isStructure = table->id() == "QEMA_bom_structure";
+    const bool isStructure = table->id() == kStructureTableId;
     BomModel model;
     std::vector<BomRow> rows = isStructure ? walkOccurrencesMerged(model, occurrences, 1)
                                            : walkOccurrences(model, occurrences, 1);
@@ -161,9 +162,9 @@ std::string makeColumnRatio(Ptr<TableCommandInput> table, const Items& items) {
     constexpr std::size_t kConfigurableColumns = 6;
     std::string ratio;
     const std::string id = table->id();
-    if (id == "QEMA_bom_structure") {
+    if (id == kStructureTableId) {
         ratio = "2:3:0:12:8";
-    } else if (id == "QEMA_bom_models") {
+    } else if (id == kModelTableId) {
         ratio = "2:0:8:12:8";
     }
     for (std::size_t k = 0; k < kConfigurableColumns; ++k) {

@@ -1,5 +1,7 @@
 #include "tarnix/bom/behaviour/table_rows.h"
 
+#include "tarnix/text/positions.h"
+
 namespace tarnix {
 
 using adsk::core::BoolValueCommandInput;
@@ -8,13 +10,13 @@ using adsk::core::Ptr;
 using adsk::core::TableCommandInput;
 using adsk::core::TextBoxCommandInput;
 
-std::string rowCaption(const Ptr<TableCommandInput>& table, int row) {
+std::string positionOfRow(const Ptr<TableCommandInput>& table, int row) {
     const Ptr<CommandInput> cell = table->getInputAtPosition(row, 1);
     if (const Ptr<TextBoxCommandInput> textBox = cell) {
-        return textBox->text();
+        return stripPositionPrefix(textBox->text());
     }
     const Ptr<BoolValueCommandInput> button = cell;
-    return button->name();
+    return stripPositionPrefix(button->name());
 }
 
 void hideRow(const Ptr<TableCommandInput>& table, int row) {
