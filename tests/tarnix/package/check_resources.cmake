@@ -1,0 +1,97 @@
+# The icons and images beside the module against the texts by which the sources name them.
+#
+#   cmake -DROOT=<folder> -DTEXTS=<list> -P check_resources.cmake
+#
+# TEXTS lists every resource text that the add-in hands to the host, as it is spelled. A fault is one
+# line; any makes the check fail:
+#   - a text in the sources that is not listed, or a listed one that no source names;
+#   - a file that a text needs and that is not there under exactly that name, or has another size;
+#   - a file that no text needs;
+#   - two files whose names differ in case alone: Resources and resources are one folder on Windows.
+cmake_minimum_required(VERSION 3.25)
+
+set(faults 0)
+macro(fault text)
+    message("${text}")
+    math(EXPR faults "${faults} + 1")
+endmacro()
+
+# The size of a PNG as "WIDTHxHEIGHT", from its first chunk; "no PNG" for anything else.
+function(png_size file result)
+    file(READ ${file} head LIMIT 24 HEX)
+    set(size "no PNG")
+    if(head MATCHES "^89504e470d0a1a0a0000000d49484452(........)(........)$")
+        math(EXPR width "0x${CMAKE_MATCH_1}")
+        math(EXPR height "0x${CMAKE_MATCH_2}")
+        set(size ${width}x${height})
+    endif()
+    set(${result} ${size} PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE sources ${ROOT}/tarnix/*.h ${ROOT}/tarnix/*.cpp)
+set(named "")
+foreach(source IN LISTS sources)
+    file(READ ${source} content)
+    string(REGEX MATCHALL "\"[./]*[Rr]esources/[^\"\n]*\"" texts "${content}")
+    list(APPEND named ${texts})
+endforeach()
+string(REPLACE "\"" "" named "${named}")
+list(REMOVE_DUPLICATES named)
+
+file(STRINGS ${TEXTS} listed)
+foreach(text IN LISTS named)
+    if(NOT text IN_LIST listed)
+        fault("\"${text}\": named in the sources, not known as a resource")
+    endif()
+endforeach()
+
+file(GLOB_RECURSE files RELATIVE ${ROOT}/tarnix ${ROOT}/tarnix/Resources/* ${ROOT}/tarnix/resources/*)
+set(used "")
+foreach(text IN LISTS listed)
+    if(NOT text IN_LIST named)
+        fault("\"${text}\": no source names it")
+    endif()
+    string(REPLACE "./" "" path ${text})
+    if(path MATCHES "\\.png$")
+        set(needed "${path}=16x16")
+    else()
+        set(needed "${path}/16x16.png=16x16" "${path}/16x16@2x.png=32x32"
+                   "${path}/32x32.png=32x32" "${path}/32x32@2x.png=64x64")
+    endif()
+    foreach(pair IN LISTS needed)
+        string(REGEX MATCH "^(.*)=(.*)$" _ ${pair})
+        set(file ${CMAKE_MATCH_1})
+        set(expected ${CMAKE_MATCH_2})
+        list(APPEND used ${file})
+        if(NOT file IN_LIST files)
+            fault("${file}: missing")
+            continue()
+        endif()
+        png_size(${ROOT}/tarnix/${file} size)
+        if(NOT size STREQUAL expected)
+            fault("${file}: ${size}, should be ${expected}")
+        endif()
+    endforeach()
+endforeach()
+
+set(merged "")
+foreach(file IN LISTS files)
+    if(NOT file IN_LIST used)
+        fault("${file}: no text needs it")
+    endif()
+    string(TOLOWER ${file} lower)
+    if(lower IN_LIST merged)
+        fault("${file}: another file has this name on Windows")
+    endif()
+    list(APPEND merged ${lower})
+endforeach()
+
+list(LENGTH listed texts)
+list(LENGTH files count)
+if(texts EQUAL 0 OR count EQUAL 0)
+    message(FATAL_ERROR "nothing to check below ${ROOT}")
+endif()
+if(faults GREATER 0)
+    message(FATAL_ERROR "${faults} faults in ${count} files")
+endif()
+message("${texts} texts, ${count} files, no fault")
