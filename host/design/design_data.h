@@ -61,6 +61,20 @@ struct AttributeData {
     bool operator==(const AttributeData&) const = default;
 };
 
+struct SketchCurveData {
+    bool reference = false;     ///< projected from elsewhere
+    bool construction = false;  ///< only helps to draw
+
+    bool operator==(const SketchCurveData&) const = default;
+};
+
+struct SketchData {
+    std::string name;
+    std::vector<SketchCurveData> curves;
+
+    bool operator==(const SketchData&) const = default;
+};
+
 /// One use of a component below another.
 struct OccurrenceData {
     std::size_t component = 0;  ///< index into `DesignData::components`
@@ -79,6 +93,9 @@ struct ComponentData {
     std::vector<AttributeData> attributes;  ///< in the order they were made
     std::vector<OccurrenceData> children;
     std::shared_ptr<Geometry> geometry;  ///< null for a component without bodies of its own
+    std::vector<SketchData> sketches;
+    std::string document;  ///< the other document that it belongs to; empty for this design's own
+    bool numberIsOwn = false;  ///< the part number was set: it does not follow the name any more
 };
 
 /// Where the shapes of a design come from.
@@ -92,6 +109,7 @@ struct DesignData {
     std::string unit;  ///< length unit of the file it was read from, such as "mm"
     std::vector<ComponentData> components;  ///< the first is the root component
     std::optional<SourceFile> source;
+    std::vector<AttributeData> attributes;  ///< those of the design as a whole
 };
 
 }  // namespace host

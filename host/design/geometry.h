@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/design/design_data.h"
+
+#include <memory>
+#include <optional>
+
+namespace host {
+
+/// Measures that are told and not taken: the geometry of designs that are made without a modeller.
+///
+/// When it is placed askew, its box is the one around the placed box.
+class FixedGeometry final : public Geometry {
+public:
+    FixedGeometry(double area, double volume, std::optional<Box> box);
+
+    double area() override;
+    double volume() override;
+    std::optional<Box> box(const Transform& placement) override;
+
+private:
+    double area_;
+    double volume_;
+    std::optional<Box> box_;
+};
+
+/// A box between the origin and the corner (dx, dy, dz), in cm.
+std::shared_ptr<Geometry> boxGeometry(double dx, double dy, double dz);
+
+/// Measures as told: cm2, cm3, and the box of the body as it is modelled, if it has any.
+std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box);
+
+}  // namespace host
