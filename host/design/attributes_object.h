@@ -1,0 +1,79 @@
+#pragma once
+
+#include "host/base/object.h"
+#include "host/design/design_data.h"
+#include "host/design/edits.h"
+
+#include <Core/Attributes.h>
+
+#include <cstddef>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace host {
+
+class AttributesObject;
+
+/// One attribute; it belongs to its collection, and outlives it as an object that is not valid.
+class AttributeObject final : public Object<adsk::core::Attribute> {
+public:
+    AttributeObject(AttributesObject& owner, AttributeData data);
+
+    [[nodiscard]] std::string groupName() const override;
+    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] std::string value() const override;
+    bool value(const std::string& value) override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Base> parent() const override;
+    bool deleteMe() override;
+
+    [[nodiscard]] const AttributeData& data() const { return data_; }
+
+    /// Sets the value as the API does; false for one that is too long.
+    bool setValue(const std::string& value);
+
+    /// Cuts it off from its collection.
+    void end();
+
+private:
+    AttributesObject* owner_;
+    AttributeData data_;
+};
+
+/// The attributes of a component or of a design.
+class AttributesObject final : public Object<adsk::core::Attributes> {
+public:
+    /// `parent` is what they stand on, and `edits` counts the changes; both outlive it or end it.
+    AttributesObject(adsk::core::Base& parent, Edits& edits, std::vector<AttributeData> data);
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Attribute> item(std::size_t index) const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Attribute> itemByName(
+        const std::string& groupName, const std::string& name) const override;
+    [[nodiscard]] std::vector<adsk::core::Ptr<adsk::core::Attribute>> itemsByGroup(
+        const std::string& groupName) const override;
+    [[nodiscard]] std::vector<std::string> groupNames() const override;
+    adsk::core::Ptr<adsk::core::Attribute> add(const std::string& groupName,
+                                               const std::string& name,
+                                               const std::string& value) override;
+
+    [[nodiscard]] std::vector<AttributeData> data() const;
+    [[nodiscard]] adsk::core::Base* parentObject() const { return parent_; }
+    void countEdit() { ++edits_->all; }
+    void take(AttributeObject& attribute);
+
+    /// Ends the collection and all attributes: what is still held of them is not valid any more.
+    void end();
+
+private:
+    [[nodiscard]] AttributeObject* find(const std::string& group, const std::string& name) const;
+    void index(AttributeObject& attribute);
+
+    adsk::core::Base* parent_;
+    Edits* edits_;
+    std::vector<adsk::core::Ptr<AttributeObject>> items_;
+    /// Found by group and name; filled once there are too many to be looked through.
+    std::unordered_map<std::string, AttributeObject*> byName_;
+};
+
+}  // namespace host

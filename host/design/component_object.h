@@ -1,0 +1,89 @@
+#pragma once
+
+#include "host/base/object.h"
+#include "host/design/attributes_object.h"
+#include "host/design/design_data.h"
+#include "host/design/material_object.h"
+#include "host/design/measures.h"
+#include "host/design/occurrence_object.h"
+#include "host/design/sketch_object.h"
+
+#include <Fusion/Component.h>
+#include <Fusion/Design.h>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace host {
+
+class DesignObject;
+class Model;
+
+/// A component of a document.
+class ComponentObject final : public Object<adsk::fusion::Component> {
+public:
+    ComponentObject(Model& model, std::size_t index, ComponentData data);
+
+    [[nodiscard]] std::string name() const override;
+    bool name(const std::string& value) override;
+    [[nodiscard]] std::string partNumber() const override;
+    bool partNumber(const std::string& value) override;
+    [[nodiscard]] std::string description() const override;
+    bool description(const std::string& value) override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Attributes> attributes() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrences> occurrences() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Design> parentDesign() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::PhysicalProperties> getPhysicalProperties(
+        adsk::fusion::CalculationAccuracy accuracy) const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::PhysicalProperties> physicalProperties()
+        const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::BoundingBox3D> boundingBox() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Material> material() const override;
+    bool material(const adsk::core::Ptr<adsk::core::Material>& value) override;
+    bool transformOccurrences(
+        const std::vector<adsk::core::Ptr<adsk::fusion::Occurrence>>& occurrences,
+        const std::vector<adsk::core::Ptr<adsk::core::Matrix3D>>& transforms,
+        bool ignoreJoints) override;
+
+    /// Its data; attributes, material and sketches are current in `snapshot` only.
+    [[nodiscard]] const ComponentData& data() const { return data_; }
+    [[nodiscard]] ComponentData snapshot() const;
+
+    [[nodiscard]] Model& model() const { return *model_; }
+    [[nodiscard]] ComponentObject& childComponent(const OccurrenceData& child) const;
+    OccurrenceData& place(std::size_t index) { return data_.children[index]; }
+
+    /// The density of what it is made of, in kg/cm3; 0 where nothing is told.
+    [[nodiscard]] double density() const { return material_ ? material_->data().density : 0; }
+
+    MeasureCache& measureCache();
+
+    /// One of its sketches, null outside their list.
+    adsk::core::Ptr<adsk::fusion::Sketch> sketch(std::size_t index);
+
+    /// Takes a name that is free; what follows it goes along.
+    void rename(const std::string& name);
+
+    void setDesign(DesignObject& design) { design_ = &design; }
+    void end();
+
+private:
+    [[nodiscard]] bool isRoot() const { return index_ == 0; }
+
+    /// The API reads through const members; what is made on demand is kept in the same object.
+    [[nodiscard]] ComponentObject& self() const { return const_cast<ComponentObject&>(*this); }
+
+    Model* model_;
+    DesignObject* design_ = nullptr;
+    std::size_t index_;
+    ComponentData data_;
+    adsk::core::Ptr<MaterialObject> material_;
+    std::unique_ptr<MeasureCache> measureCache_;
+    mutable adsk::core::Ptr<AttributesObject> attributes_;
+    mutable adsk::core::Ptr<OccurrencesObject> occurrences_;
+    std::vector<adsk::core::Ptr<SketchObject>> sketches_;
+};
+
+}  // namespace host

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/design/design_data.h"
+
+#include <Core/Application.h>
+#include <Core/Data.h>
+#include <Core/Document.h>
+#include <Fusion/Design.h>
+#include <Fusion/Sketch.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+/// Documents: a design as the public API shows it, made from a `DesignData` and read back as one.
+///
+/// Whoever opens a document keeps it and ends it. A module may hold on to anything that it was
+/// handed out of a document for ever: after the end it is not valid, and asking it yields nothing.
+namespace host {
+
+/// Opens a design as a document of `parent`, which may be null.
+///
+/// The root component is called like the document, and components that share a name are told apart,
+/// as in `makeNamesUnique`. Raises `DesignError` where `checkDesign` does. Nothing is measured.
+adsk::core::Ptr<adsk::core::Document> makeDocument(
+    DesignData data, const adsk::core::Ptr<adsk::core::Application>& parent = nullptr);
+
+/// The design of a document, null for null and after the end.
+adsk::core::Ptr<adsk::fusion::Design> designOf(
+    const adsk::core::Ptr<adsk::core::Document>& document);
+
+/// What a workspace that is not for modelling shows of it: a product that is no design. Null for
+/// null and after the end.
+adsk::core::Ptr<adsk::core::Product> otherProductOf(
+    const adsk::core::Ptr<adsk::core::Document>& document);
+
+/// The documents that its referenced components come from, in the order in which they first stand
+/// among the components.
+std::vector<adsk::core::Ptr<adsk::core::Document>> referencesOf(
+    const adsk::core::Ptr<adsk::core::Document>& document);
+
+/// One sketch of a component, for a session that edits it; null where there is none. Components are
+/// counted as in `DesignData::components`.
+adsk::core::Ptr<adsk::fusion::Sketch> sketchOf(
+    const adsk::core::Ptr<adsk::core::Document>& document, std::size_t component,
+    std::size_t sketch);
+
+/// Ties a document to its file in the user's data; from then on it counts as saved.
+void setDataFile(const adsk::core::Ptr<adsk::core::Document>& document,
+                 const adsk::core::Ptr<adsk::core::DataFile>& dataFile);
+
+/// The design with all that was done to it; empty for null and after the end.
+DesignData snapshot(const adsk::core::Ptr<adsk::core::Document>& document);
+
+/// How often the design was changed since it was opened.
+std::uint64_t editCount(const adsk::core::Ptr<adsk::core::Document>& document);
+
+/// Closes a document and those it refers to. Everything handed out of it becomes invalid.
+void endDocument(const adsk::core::Ptr<adsk::core::Document>& document);
+
+}  // namespace host

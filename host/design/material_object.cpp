@@ -1,0 +1,48 @@
+#include "host/design/material_object.h"
+
+#include "host/design/denied.h"
+
+#include <algorithm>
+
+using adsk::core::Ptr;
+
+namespace host {
+
+std::string MaterialObject::name() const {
+    if (denied<"Material::name">(*this)) return {};
+    return data_.name;
+}
+
+bool MaterialObject::name(const std::string& value) {
+    if (denied<"Material::name">(*this)) return {};
+    data_.name = value;
+    ++edits_->all;
+    return true;
+}
+
+Ptr<MaterialObject> Materials::like(const MaterialData& data) {
+    const auto [begin, end] = made_.equal_range(Key(data.name, data.density));
+    const auto found =
+        std::find_if(begin, end, [&](const auto& each) { return each.second->data() == data; });
+    if (found != end) {
+        return found->second;
+    }
+    all_.push_back(make<MaterialObject>(edits_, data));
+    made_.emplace(Key(data.name, data.density), all_.back().get());
+    return all_.back();
+}
+
+bool Materials::holds(const MaterialObject& material) const {
+    return std::any_of(all_.begin(), all_.end(),
+                       [&](const auto& each) { return each.get() == &material; });
+}
+
+void Materials::end() {
+    for (const Ptr<MaterialObject>& each : all_) {
+        each->end();
+    }
+    all_.clear();
+    made_.clear();
+}
+
+}  // namespace host

@@ -1,0 +1,113 @@
+#include "host/design/measures.h"
+
+#include "host/base/last_error.h"
+#include "host/design/component_object.h"
+#include "host/design/model.h"
+#include "host/design/transform.h"
+
+#include <Core/Enums.h>
+
+#include <exception>
+
+namespace host {
+namespace {
+
+/// Asks a geometry; what cannot be measured counts as if there were no body, and is noted.
+template <class Result, class Ask>
+Result asked(Geometry& geometry, Ask ask) {
+    try {
+        return ask(geometry);
+    } catch (const std::exception& error) {
+        fail(adsk::core::InvalidGeometryError, error.what());
+        return {};
+    }
+}
+
+Measures ownMeasures(ComponentObject& component) {
+    MeasureCache& cache = component.measureCache();
+    if (!cache.own) {
+        cache.own = Measures();
+        if (component.data().geometry) {
+            cache.own = asked<Measures>(*component.data().geometry, [](Geometry& geometry) {
+                return Measures{geometry.area(), geometry.volume(), 0};
+            });
+        }
+    }
+    Measures own = *cache.own;
+    own.mass = own.volume * component.density();
+    return own;
+}
+
+std::optional<Box> measuredBox(ComponentObject& component, const Transform& placement) {
+    if (!component.data().geometry) {
+        return std::nullopt;
+    }
+    return asked<std::optional<Box>>(*component.data().geometry,
+                                     [&](Geometry& geometry) { return geometry.box(placement); });
+}
+
+std::optional<Box> ownBox(ComponentObject& component) {
+    MeasureCache& cache = component.measureCache();
+    if (!cache.ownBoxKnown) {
+        cache.ownBox = measuredBox(component, {});
+        cache.ownBoxKnown = true;
+    }
+    return cache.ownBox;
+}
+
+/// The box around a placed component.
+std::optional<Box> placedBox(ComponentObject& component, const Transform& placement) {
+    if (keepsAxes(placement)) {
+        const std::optional<Box> box = boxOf(component);
+        return box ? std::optional(placed(*box, placement)) : std::nullopt;
+    }
+    std::optional<Box> sum = measuredBox(component, placement);
+    for (const OccurrenceData& child : component.data().children) {
+        if (!child.absent) {
+            include(sum, placedBox(component.childComponent(child), placement * child.transform));
+        }
+    }
+    return sum;
+}
+
+}  // namespace
+
+Measures measure(ComponentObject& component) {
+    MeasureCache& cache = component.measureCache();
+    const std::uint64_t edits = component.model().edits.materials;
+    if (cache.total && cache.totalEdits == edits) {
+        return *cache.total;
+    }
+    Measures total = ownMeasures(component);
+    for (const OccurrenceData& child : component.data().children) {
+        if (child.absent) {
+            continue;
+        }
+        const Measures part = measure(component.childComponent(child));
+        total.area += part.area;
+        total.volume += part.volume;
+        total.mass += part.mass;
+    }
+    cache.total = total;
+    cache.totalEdits = edits;
+    return total;
+}
+
+std::optional<Box> boxOf(ComponentObject& component) {
+    MeasureCache& cache = component.measureCache();
+    const std::uint64_t edits = component.model().edits.placements;
+    if (!cache.boxKnown || cache.boxEdits != edits) {
+        std::optional<Box> sum = ownBox(component);
+        for (const OccurrenceData& child : component.data().children) {
+            if (!child.absent) {
+                include(sum, placedBox(component.childComponent(child), child.transform));
+            }
+        }
+        cache.box = sum;
+        cache.boxKnown = true;
+        cache.boxEdits = edits;
+    }
+    return cache.box;
+}
+
+}  // namespace host

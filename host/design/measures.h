@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/design/design_data.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace host {
+
+class ComponentObject;
+
+/// What a component measures with all that is in it.
+struct Measures {
+    double area = 0;    ///< cm2
+    double volume = 0;  ///< cm3
+    double mass = 0;    ///< kg
+
+    /// kg/cm3, 0 where there is no volume.
+    [[nodiscard]] double density() const { return volume > 0 ? mass / volume : 0; }
+};
+
+/// What was worked out of a component, and how current it is.
+struct MeasureCache {
+    std::optional<Measures> own;  ///< its own bodies; the mass is left out
+    std::optional<Measures> total;
+    std::uint64_t totalEdits = 0;  ///< the count of `Edits::materials` that `total` fits
+
+    bool ownBoxKnown = false;
+    std::optional<Box> ownBox;  ///< its own bodies as they are modelled
+    bool boxKnown = false;
+    std::optional<Box> box;
+    std::uint64_t boxEdits = 0;  ///< the count of `Edits::placements` that `box` fits
+};
+
+/// Measures a component: its bodies, and everything that stands in it, each as often as it stands
+/// there. Every component is measured once, until a material changes.
+Measures measure(ComponentObject& component);
+
+/// The box around a component along its axes, exact for every body in it; none without any body.
+///
+/// Worked out once, until something is placed anew.
+std::optional<Box> boxOf(ComponentObject& component);
+
+}  // namespace host

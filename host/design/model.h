@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/design/design_data.h"
+#include "host/design/edits.h"
+#include "host/design/material_object.h"
+#include "host/design/naming.h"
+
+#include <Core/Memory.h>
+
+#include <cstddef>
+#include <vector>
+
+namespace host {
+
+class ComponentObject;
+class OccurrenceListObject;
+
+/// What a document holds: its components, and what they have in common.
+///
+/// It belongs to the document. When it ends, everything that the host has handed out of it becomes
+/// invalid, whoever still holds it.
+class Model {
+public:
+    /// `data` fulfils `checkDesign`.
+    explicit Model(DesignData data);
+    Model(const Model&) = delete;
+    Model& operator=(const Model&) = delete;
+    ~Model();
+
+    [[nodiscard]] ComponentObject& component(std::size_t index) const {
+        return *components_[index];
+    }
+    [[nodiscard]] std::size_t componentCount() const { return components_.size(); }
+
+    /// What stands in a component without children; one list serves them all.
+    [[nodiscard]] const adsk::core::Ptr<OccurrenceListObject>& emptyList() const {
+        return emptyList_;
+    }
+
+    /// The components and what is told of the design as a whole, as they stand now. The name and
+    /// the attributes of the document are not the model's.
+    [[nodiscard]] DesignData snapshot() const;
+
+    Edits edits;
+    ComponentNames names;
+    Materials materials{edits};
+
+private:
+    DesignData rest_;  ///< without components
+    std::vector<adsk::core::Ptr<ComponentObject>> components_;
+    adsk::core::Ptr<OccurrenceListObject> emptyList_;
+};
+
+}  // namespace host

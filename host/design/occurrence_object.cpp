@@ -1,0 +1,230 @@
+#include "host/design/occurrence_object.h"
+
+#include "host/design/component_object.h"
+#include "host/design/denied.h"
+#include "host/design/model.h"
+#include "host/design/physical_properties_object.h"
+#include "host/design/transform.h"
+
+#include <array>
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+using adsk::core::Ptr;
+using adsk::fusion::Component;
+using adsk::fusion::Occurrence;
+using adsk::fusion::OccurrenceList;
+using adsk::fusion::PhysicalProperties;
+
+namespace host {
+namespace {
+
+constexpr std::size_t kLongestNumber = 12;
+
+}  // namespace
+
+OccurrenceObject::OccurrenceObject(OccurrenceListObject& list, OccurrenceData& place)
+    : component_(&list.owner()->childComponent(place)), place_(&place), list_(&list) {}
+
+Ptr<Component> OccurrenceObject::component() const {
+    if (denied<"Occurrence::component">(*this)) return {};
+    return component_;
+}
+
+Ptr<OccurrenceList> OccurrenceObject::childOccurrences() const {
+    if (denied<"Occurrence::childOccurrences">(*this)) return {};
+    if (!children_) {
+        children_ =
+            component_->data().children.empty()
+                ? component_->model().emptyList()
+                : make<OccurrenceListObject>(component_, const_cast<OccurrenceObject*>(this));
+    }
+    return children_;
+}
+
+std::string OccurrenceObject::name() const {
+    if (denied<"Occurrence::name">(*this)) return {};
+    return currentName();
+}
+
+std::string OccurrenceObject::currentName() const {
+    std::string text;
+    appendName(text);
+    return text;
+}
+
+std::string OccurrenceObject::fullPathName() const {
+    if (denied<"Occurrence::fullPathName">(*this)) return {};
+    std::size_t length = 0;
+    std::size_t levels = 0;
+    for (const OccurrenceObject* each = this; each != nullptr; each = each->parent()) {
+        length += each->nameLength() + 1;
+        ++levels;
+    }
+    std::array<const OccurrenceObject*, 16> few;
+    std::vector<const OccurrenceObject*> many(levels > few.size() ? levels : 0);
+    const OccurrenceObject** path = many.empty() ? few.data() : many.data();
+    std::size_t at = levels;
+    for (const OccurrenceObject* each = this; each != nullptr; each = each->parent()) {
+        path[--at] = each;
+    }
+    std::string text;
+    text.reserve(length);
+    for (std::size_t level = 0; level < levels; ++level) {
+        if (level > 0) {
+            text += '+';
+        }
+        path[level]->appendName(text);
+    }
+    return text;
+}
+
+std::size_t OccurrenceObject::nameLength() const {
+    return component_->data().name.size() + kLongestNumber;
+}
+
+void OccurrenceObject::appendName(std::string& text) const {
+    std::array<char, kLongestNumber> digits;
+    const auto end = std::to_chars(digits.begin(), digits.end(), place_->instance).ptr;
+    text += component_->data().name;
+    text += ':';
+    text.append(digits.data(), end);
+}
+
+bool OccurrenceObject::isGrounded() const {
+    if (denied<"Occurrence::isGrounded">(*this)) return {};
+    return place_->grounded;
+}
+
+bool OccurrenceObject::isGrounded(bool value) {
+    if (denied<"Occurrence::isGrounded">(*this)) return {};
+    place_->grounded = value;
+    ++component_->model().edits.all;
+    return true;
+}
+
+bool OccurrenceObject::isReferencedComponent() const {
+    if (denied<"Occurrence::isReferencedComponent">(*this)) return {};
+    return component_->data().document != list_->owner()->data().document;
+}
+
+Ptr<PhysicalProperties> OccurrenceObject::physicalProperties() const {
+    if (denied<"Occurrence::physicalProperties">(*this)) return {};
+    return make<PhysicalPropertiesObject>(measure(*component_));
+}
+
+OccurrenceObject* OccurrenceObject::parent() const { return list_->parent(); }
+
+const ComponentObject* OccurrenceObject::top() const {
+    if (list_ == nullptr) {
+        return nullptr;
+    }
+    const OccurrenceObject* highest = this;
+    while (highest->parent() != nullptr) {
+        highest = highest->parent();
+    }
+    return highest->list_->owner();
+}
+
+std::size_t OccurrenceObject::depth() const {
+    std::size_t assemblies = 0;
+    for (const OccurrenceObject* each = parent(); each != nullptr; each = each->parent()) {
+        ++assemblies;
+    }
+    return assemblies;
+}
+
+Transform OccurrenceObject::placement() const {
+    Transform result = place_->transform;
+    for (const OccurrenceObject* each = parent(); each != nullptr; each = each->parent()) {
+        result = each->place_->transform * result;
+    }
+    return result;
+}
+
+void OccurrenceObject::end() {
+    if (children_) {
+        children_->end();
+        children_ = nullptr;
+    }
+    component_ = nullptr;
+    place_ = nullptr;
+    list_ = nullptr;
+    invalidate();
+}
+
+OccurrenceListObject::OccurrenceListObject(ComponentObject* owner, OccurrenceObject* parent)
+    : owner_(owner),
+      parent_(parent),
+      items_(owner == nullptr ? 0 : owner->data().children.size()) {}
+
+std::size_t OccurrenceListObject::count() const {
+    if (denied<"OccurrenceList::count">(*this)) return {};
+    return items_.size();
+}
+
+Ptr<Occurrence> OccurrenceListObject::item(std::size_t index) const {
+    if (denied<"OccurrenceList::item">(*this)) return {};
+    return at(index);
+}
+
+Ptr<Occurrence> OccurrenceListObject::at(std::size_t index) const {
+    if (index >= items_.size()) {
+        return {};
+    }
+    Ptr<OccurrenceObject>& item = items_[index];
+    OccurrenceData& place = owner_->place(index);
+    if (!item && !place.absent) {
+        item = make<OccurrenceObject>(const_cast<OccurrenceListObject&>(*this), place);
+    }
+    return item;
+}
+
+Ptr<Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
+    if (denied<"OccurrenceList::itemByName">(*this)) return {};
+    for (std::size_t index = 0; index < items_.size(); ++index) {
+        const Ptr<OccurrenceObject> each = at(index);
+        if (each && each->currentName() == name) {
+            return each;
+        }
+    }
+    return {};
+}
+
+void OccurrenceListObject::end() {
+    for (const Ptr<OccurrenceObject>& each : items_) {
+        if (each) {
+            each->end();
+        }
+    }
+    items_.clear();
+    owner_ = nullptr;
+    parent_ = nullptr;
+    invalidate();
+}
+
+OccurrencesObject::OccurrencesObject(ComponentObject& owner)
+    : list_(make<OccurrenceListObject>(&owner, nullptr)) {}
+
+std::size_t OccurrencesObject::count() const {
+    if (denied<"Occurrences::count">(*this)) return {};
+    return list_->size();
+}
+
+Ptr<Occurrence> OccurrencesObject::item(std::size_t index) const {
+    if (denied<"Occurrences::item">(*this)) return {};
+    return list_->at(index);
+}
+
+Ptr<OccurrenceList> OccurrencesObject::asList() const {
+    if (denied<"Occurrences::asList">(*this)) return {};
+    return list_;
+}
+
+void OccurrencesObject::end() {
+    list_->end();
+    invalidate();
+}
+
+}  // namespace host

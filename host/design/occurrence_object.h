@@ -1,0 +1,103 @@
+#pragma once
+
+#include "host/base/object.h"
+#include "host/design/design_data.h"
+
+#include <Fusion/Component.h>
+#include <Fusion/Occurrence.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+/// Occurrences in context. Each is made when somebody asks for it and kept from then on, so that
+/// one place in the assembly is always one object. Where an assembly is used often, what is in it
+/// is made only where somebody looks.
+namespace host {
+
+class ComponentObject;
+class OccurrenceListObject;
+
+class OccurrenceObject final : public Object<adsk::fusion::Occurrence> {
+public:
+    /// The occurrence that `list` has at `place`, a child of the list's owner.
+    OccurrenceObject(OccurrenceListObject& list, OccurrenceData& place);
+
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Component> component() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::OccurrenceList> childOccurrences() const override;
+    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] std::string fullPathName() const override;
+    [[nodiscard]] bool isGrounded() const override;
+    bool isGrounded(bool value) override;
+    [[nodiscard]] bool isReferencedComponent() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::PhysicalProperties> physicalProperties()
+        const override;
+
+    /// The assembly that this one stands in, null directly under the top.
+    [[nodiscard]] OccurrenceObject* parent() const;
+
+    /// The component that this one is seen from, null once the document has ended.
+    [[nodiscard]] const ComponentObject* top() const;
+
+    /// How many assemblies there are above it.
+    [[nodiscard]] std::size_t depth() const;
+
+    /// Its placement as seen from the top.
+    [[nodiscard]] Transform placement() const;
+
+    /// Its placement in the component that holds it.
+    Transform& localPlacement() { return place_->transform; }
+
+    [[nodiscard]] std::string currentName() const;
+    void end();
+
+private:
+    [[nodiscard]] std::size_t nameLength() const;
+    void appendName(std::string& text) const;
+
+    ComponentObject* component_;
+    OccurrenceData* place_;
+    OccurrenceListObject* list_;
+    mutable adsk::core::Ptr<OccurrenceListObject> children_;
+};
+
+/// What stands in a component, seen from one top.
+class OccurrenceListObject final : public Object<adsk::fusion::OccurrenceList> {
+public:
+    /// The children of `owner`, inside `parent`; no parent: seen from the owner itself. Without an
+    /// owner the list is empty.
+    OccurrenceListObject(ComponentObject* owner, OccurrenceObject* parent);
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> item(std::size_t index) const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> itemByName(
+        const std::string& name) const override;
+
+    [[nodiscard]] std::size_t size() const { return items_.size(); }
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> at(std::size_t index) const;
+    [[nodiscard]] ComponentObject* owner() const { return owner_; }
+    [[nodiscard]] OccurrenceObject* parent() const { return parent_; }
+    void end();
+
+private:
+    ComponentObject* owner_;
+    OccurrenceObject* parent_;
+    mutable std::vector<adsk::core::Ptr<OccurrenceObject>> items_;
+};
+
+/// The collection that a component has of what stands directly in it.
+class OccurrencesObject final : public Object<adsk::fusion::Occurrences> {
+public:
+    explicit OccurrencesObject(ComponentObject& owner);
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> item(std::size_t index) const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::OccurrenceList> asList() const override;
+
+    void end();
+
+private:
+    adsk::core::Ptr<OccurrenceListObject> list_;
+};
+
+}  // namespace host

@@ -1,0 +1,74 @@
+#include "host/design/placing.h"
+
+#include "host/base/last_error.h"
+#include "host/design/component_object.h"
+#include "host/design/geometry_objects.h"
+#include "host/design/transform.h"
+
+#include <Core/Enums.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+
+using adsk::core::Matrix3D;
+using adsk::core::Ptr;
+using adsk::fusion::Occurrence;
+
+namespace host {
+namespace {
+
+struct Move {
+    OccurrenceObject* occurrence = nullptr;
+    Transform target;
+    std::size_t depth = 0;
+    Transform before;
+};
+
+std::optional<Move> readMove(const ComponentObject& top, const Ptr<Occurrence>& occurrence,
+                             const Ptr<Matrix3D>& matrix) {
+    auto* object = dynamic_cast<OccurrenceObject*>(occurrence.get());
+    const std::optional<Transform> target = transformOf(matrix);
+    if (object == nullptr || object->top() != &top || !target) {
+        return std::nullopt;
+    }
+    return Move{object, *target, object->depth(), object->localPlacement()};
+}
+
+bool apply(const Move& move) {
+    const OccurrenceObject* assembly = move.occurrence->parent();
+    const std::optional<Transform> back = inverse(assembly ? assembly->placement() : Transform());
+    if (back) {
+        move.occurrence->localPlacement() = *back * move.target;
+    }
+    return back.has_value();
+}
+
+}  // namespace
+
+bool placeOccurrences(const ComponentObject& top, const std::vector<Ptr<Occurrence>>& occurrences,
+                      const std::vector<Ptr<Matrix3D>>& transforms) {
+    if (occurrences.size() != transforms.size()) {
+        return fail(adsk::core::BadApiCallError, "each occurrence needs one transform");
+    }
+    std::vector<Move> moves;
+    for (std::size_t index = 0; index < occurrences.size(); ++index) {
+        const std::optional<Move> move = readMove(top, occurrences[index], transforms[index]);
+        if (!move) {
+            return fail(adsk::core::BadApiCallError,
+                        "only occurrences as the root component shows them can be placed");
+        }
+        moves.push_back(*move);
+    }
+    std::stable_sort(moves.begin(), moves.end(),
+                     [](const Move& left, const Move& right) { return left.depth < right.depth; });
+    if (!std::all_of(moves.begin(), moves.end(), apply)) {
+        for (const Move& move : moves) {
+            move.occurrence->localPlacement() = move.before;
+        }
+        return fail(adsk::core::InvalidGeometryError, "an assembly above it is flattened");
+    }
+    return true;
+}
+
+}  // namespace host

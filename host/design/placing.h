@@ -1,0 +1,22 @@
+#pragma once
+
+#include <Core/Geometry.h>
+#include <Fusion/Occurrence.h>
+
+#include <vector>
+
+namespace host {
+
+class ComponentObject;
+
+/// Places occurrences so that each lies, seen from `top`, by the transform at its place.
+///
+/// Assemblies go first, so that what is in them ends where it was asked to be. An occurrence's
+/// place belongs to the component that holds it: where that is used several times, it moves in all
+/// uses. False, with nothing moved and the reason noted, for lists of different length, missing
+/// entries, occurrences not seen from `top`, and an assembly whose placement has no way back.
+bool placeOccurrences(const ComponentObject& top,
+                      const std::vector<adsk::core::Ptr<adsk::fusion::Occurrence>>& occurrences,
+                      const std::vector<adsk::core::Ptr<adsk::core::Matrix3D>>& transforms);
+
+}  // namespace host

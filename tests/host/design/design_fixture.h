@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/design/document.h"
+#include "host/design/outline.h"
+
+#include <Core/CoreAll.h>
+#include <Fusion/FusionAll.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// Opens a design for a test, and closes it when the test is over.
+class DesignTest : public testing::Test {
+protected:
+    ~DesignTest() override;
+
+    /// Opens the design that an outline tells of.
+    void open(const std::string& outline);
+    void open(DesignData data);
+
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Component> root() const;
+
+    /// The occurrence with that full path name, null where there is none.
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> occurrence(
+        const std::string& path) const;
+
+    /// The component of the occurrence with that full path name.
+    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Component> component(const std::string& path) const;
+
+    /// The full path names of all occurrences, each before what is in it.
+    [[nodiscard]] std::vector<std::string> paths() const;
+
+    adsk::core::Ptr<adsk::core::Document> document;
+};
+
+using Texts = std::vector<std::string>;
+
+}  // namespace host

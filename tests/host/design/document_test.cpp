@@ -1,0 +1,226 @@
+#include "host/base/last_error.h"
+#include "host/design/design_check.h"
+#include "tests/host/design/design_fixture.h"
+
+#include <utility>
+
+using adsk::core::Attribute;
+using adsk::core::Attributes;
+using adsk::core::Document;
+using adsk::core::Material;
+using adsk::core::Matrix3D;
+using adsk::core::Product;
+using adsk::core::Ptr;
+using adsk::fusion::Component;
+using adsk::fusion::Design;
+using adsk::fusion::Occurrence;
+using adsk::fusion::OccurrenceList;
+using adsk::fusion::Occurrences;
+using adsk::fusion::Sketch;
+
+namespace host {
+namespace {
+
+using DocumentTest = DesignTest;
+
+TEST_F(DocumentTest, DesignIsItsProductForModelling) {
+    open("Bolt");
+    const Ptr<Design> design = designOf(document);
+
+    EXPECT_EQ(design->productType(), "DesignProductType");
+    EXPECT_EQ(design->parentDocument(), document);
+    EXPECT_EQ(designOf(document), design);
+    EXPECT_EQ(Ptr<Design>(Ptr<Product>(design)), design);
+}
+
+TEST_F(DocumentTest, OtherProductIsNoDesign) {
+    open("Bolt");
+    const Ptr<Product> other = otherProductOf(document);
+
+    EXPECT_EQ(Ptr<Design>(other), nullptr);
+    EXPECT_EQ(other->parentDocument(), document);
+    EXPECT_EQ(other->productType(), "CAMProductType");
+}
+
+TEST_F(DocumentTest, IsNotSavedAndHasNoFileAtFirst) {
+    open("Bolt");
+
+    EXPECT_FALSE(document->isSaved());
+    EXPECT_EQ(document->dataFile(), nullptr);
+    EXPECT_EQ(document->parent(), nullptr);
+}
+
+TEST_F(DocumentTest, UnnamedDesignIsCalledLikeItsRootComponentOrUntitled) {
+    DesignData data = parseOutline("Bolt");
+    data.name = "";
+    data.components[0].name = "Gearbox";
+    open(std::move(data));
+    EXPECT_EQ(document->name(), "Gearbox");
+
+    DesignData blank;
+    blank.components.resize(1);
+    open(std::move(blank));
+    EXPECT_EQ(document->name(), "Untitled");
+    EXPECT_EQ(root()->name(), "Untitled");
+}
+
+TEST_F(DocumentTest, ComponentsOfOneNameAreToldApart) {
+    open(R"(
+        One  name=Bolt
+        Two  name=Bolt
+        Three  name=Bolt number=M8)");
+
+    EXPECT_EQ(paths(), (Texts{"Bolt:1", "Bolt (1):1", "Bolt (2):1"}));
+    EXPECT_EQ(component("Bolt (1):1")->partNumber(), "Bolt (1)");
+    EXPECT_EQ(component("Bolt (2):1")->partNumber(), "M8");
+}
+
+TEST_F(DocumentTest, SnapshotHoldsAllEdits) {
+    open(R"(
+        Frame  at=1,2,3 attribute=G/a/1
+          Bolt  number=M8)");
+    component("Frame:1")->name("Rack");
+    component("Rack:1")->attributes()->add("G", "b", "2");
+    component("Rack:1+Bolt:1")->partNumber("M10");
+    component("Rack:1+Bolt:1")->description("long");
+    occurrence("Rack:1")->isGrounded(true);
+    root()->transformOccurrences({occurrence("Rack:1")}, {Matrix3D::create()}, true);
+    document->name("Gearbox");
+
+    const DesignData data = snapshot(document);
+
+    EXPECT_EQ(data.name, "Gearbox");
+    EXPECT_EQ(data.components[0].name, "Gearbox");
+    EXPECT_EQ(data.components[0].children[0].transform, Transform());
+    EXPECT_TRUE(data.components[0].children[0].grounded);
+    EXPECT_EQ(data.components[1].name, "Rack");
+    EXPECT_EQ(data.components[1].attributes,
+              (std::vector<AttributeData>{{"G", "a", "1"}, {"G", "b", "2"}}));
+    EXPECT_EQ(data.components[2].partNumber, "M10");
+    EXPECT_EQ(data.components[2].description, "long");
+    EXPECT_TRUE(data.components[2].numberIsOwn);
+}
+
+TEST_F(DocumentTest, SnapshotOpensAsTheSameDesign) {
+    open(R"(
+        Frame
+          Bolt
+        Bolt
+        (absent))");
+
+    const Texts before = paths();
+    DesignData data = snapshot(document);
+    open(std::move(data));
+
+    EXPECT_EQ(paths(), before);
+    EXPECT_EQ(root()->occurrences()->count(), 3u);
+}
+
+TEST_F(DocumentTest, EditsAreCounted) {
+    open("Bolt");
+    EXPECT_EQ(editCount(document), 0u);
+
+    component("Bolt:1")->description("x");
+    component("Bolt:1")->attributes()->add("G", "a", "1");
+    EXPECT_EQ(paths(), Texts{"Bolt:1"});
+
+    EXPECT_EQ(editCount(document), 2u);
+}
+
+TEST_F(DocumentTest, HandlesOutliveTheDocumentAndYieldNothing) {
+    DesignData data = parseOutline(R"(
+        Frame
+          Bolt  attribute=G/a/1)");
+    data.components[1].sketches = {{"Profile", {{true, false}}}};
+    open(std::move(data));
+    const Ptr<Design> design = designOf(document);
+    const Ptr<Component> rootComponent = root();
+    const Ptr<Occurrences> occurrences = rootComponent->occurrences();
+    const Ptr<OccurrenceList> list = occurrences->asList();
+    const Ptr<Occurrence> frame = list->item(0);
+    const Ptr<OccurrenceList> children = frame->childOccurrences();
+    const Ptr<Occurrence> bolt = children->item(0);
+    const Ptr<OccurrenceList> none = bolt->childOccurrences();
+    const Ptr<Attributes> attributes = bolt->component()->attributes();
+    const Ptr<Attribute> attribute = attributes->item(0);
+    const Ptr<Material> material = bolt->component()->material();
+    const Ptr<Sketch> sketch = sketchOf(document, 1, 0);
+
+    endDocument(document);
+
+    EXPECT_FALSE(document->isValid());
+    EXPECT_EQ(document->name(), "");
+    EXPECT_FALSE(document->name("x"));
+    EXPECT_EQ(design->rootComponent(), nullptr);
+    EXPECT_EQ(design->parentDocument(), nullptr);
+    EXPECT_EQ(rootComponent->occurrences(), nullptr);
+    EXPECT_EQ(rootComponent->physicalProperties(), nullptr);
+    EXPECT_EQ(rootComponent->boundingBox(), nullptr);
+    EXPECT_FALSE(rootComponent->transformOccurrences({bolt}, {Matrix3D::create()}, true));
+    EXPECT_EQ(occurrences->count(), 0u);
+    EXPECT_EQ(list->item(0), nullptr);
+    EXPECT_EQ(frame->fullPathName(), "");
+    EXPECT_EQ(children->count(), 0u);
+    EXPECT_EQ(bolt->component(), nullptr);
+    EXPECT_FALSE(bolt->isGrounded(true));
+    EXPECT_FALSE(bolt->isReferencedComponent());
+    EXPECT_EQ(none->count(), 0u);
+    EXPECT_EQ(attributes->add("G", "b", "2"), nullptr);
+    EXPECT_EQ(attribute->value(), "");
+    EXPECT_EQ(material->name(), "");
+    EXPECT_EQ(sketch->sketchCurves(), nullptr);
+    EXPECT_EQ(lastError().code, adsk::core::UnderlyingObjectDeletedError);
+    EXPECT_EQ(lastError().description,
+              "Sketch::sketchCurves: what it is asked of has been deleted or closed");
+}
+
+TEST_F(DocumentTest, HostFindsNothingOfAnEndedDocument) {
+    open("Bolt");
+    endDocument(document);
+    endDocument(document);
+
+    EXPECT_EQ(designOf(document), nullptr);
+    EXPECT_EQ(otherProductOf(document), nullptr);
+    EXPECT_EQ(sketchOf(document, 0, 0), nullptr);
+    EXPECT_TRUE(snapshot(document).components.empty());
+    EXPECT_EQ(editCount(document), 0u);
+    EXPECT_EQ(designOf(nullptr), nullptr);
+    endDocument(nullptr);
+}
+
+TEST_F(DocumentTest, EndsWhenTheLastHandleGoes) {
+    open(R"(
+        Frame
+          Bolt)");
+    const Ptr<Occurrence> bolt = occurrence("Frame:1+Bolt:1");
+
+    document = nullptr;
+
+    EXPECT_FALSE(bolt->isValid());
+}
+
+TEST_F(DocumentTest, ReferencedDocumentsEndWithTheOneThatRefersToThem) {
+    open(R"(
+        Motor  document=M1
+        Gear   document=G1
+        Motor)");
+    const std::vector<Ptr<Document>> references = referencesOf(document);
+    ASSERT_EQ(references.size(), 2u);
+    EXPECT_EQ(references[0]->name(), "M1");
+    EXPECT_EQ(references[1]->name(), "G1");
+    EXPECT_FALSE(references[0]->name("M2"));
+
+    endDocument(references[0]);
+    EXPECT_TRUE(references[0]->isValid());
+    endDocument(document);
+
+    EXPECT_FALSE(references[0]->isValid());
+    EXPECT_EQ(references[1]->name(), "");
+}
+
+TEST_F(DocumentTest, UnfitDesignIsNotOpened) {
+    EXPECT_THROW(makeDocument(DesignData()), DesignError);
+}
+
+}  // namespace
+}  // namespace host

@@ -1,0 +1,57 @@
+#include "tests/host/design/design_fixture.h"
+
+using adsk::core::Ptr;
+using adsk::fusion::Sketch;
+using adsk::fusion::SketchCurve;
+
+namespace host {
+namespace {
+
+class SketchTest : public DesignTest {
+protected:
+    SketchTest() {
+        DesignData data = parseOutline("Bolt");
+        data.components[1].sketches = {{"Profile", {{false, false}, {true, false}}}};
+        open(std::move(data));
+    }
+
+    Ptr<Sketch> sketch() { return sketchOf(document, 1, 0); }
+};
+
+TEST_F(SketchTest, CurvesTellWhatTheyAre) {
+    EXPECT_EQ(sketch()->sketchCurves()->count(), 2u);
+    EXPECT_FALSE(sketch()->sketchCurves()->item(0)->isReference());
+    EXPECT_TRUE(sketch()->sketchCurves()->item(1)->isReference());
+    EXPECT_FALSE(sketch()->sketchCurves()->item(1)->isConstruction());
+    EXPECT_EQ(sketch()->sketchCurves()->item(2), nullptr);
+    EXPECT_EQ(std::string(sketch()->objectType()), "adsk::fusion::Sketch");
+}
+
+TEST_F(SketchTest, IsOneObject) {
+    EXPECT_EQ(sketch(), sketch());
+    EXPECT_EQ(sketch()->sketchCurves()->item(1), sketch()->sketchCurves()->item(1));
+    EXPECT_EQ(sketchOf(document, 1, 1), nullptr);
+    EXPECT_EQ(sketchOf(document, 9, 0), nullptr);
+}
+
+TEST_F(SketchTest, ProjectedCurveBecomesConstruction) {
+    EXPECT_TRUE(sketch()->sketchCurves()->item(1)->isConstruction(true));
+
+    EXPECT_EQ(snapshot(document).components[1].sketches,
+              (std::vector<SketchData>{{"Profile", {{false, false}, {true, true}}}}));
+}
+
+TEST_F(SketchTest, CurveCanBeCutLooseButNotProjected) {
+    const Ptr<SketchCurve> drawn = sketch()->sketchCurves()->item(0);
+    const Ptr<SketchCurve> projected = sketch()->sketchCurves()->item(1);
+
+    EXPECT_FALSE(drawn->isReference(true));
+    EXPECT_TRUE(projected->isReference(true));
+    EXPECT_TRUE(projected->isReference(false));
+
+    EXPECT_FALSE(drawn->isReference());
+    EXPECT_FALSE(projected->isReference());
+}
+
+}  // namespace
+}  // namespace host
