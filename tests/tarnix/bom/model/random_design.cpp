@@ -24,11 +24,13 @@ const char* pick(std::mt19937& random, const std::array<const char*, Size>& choi
     return choices[below(random, Size)];
 }
 
+/// A design takes its names from the first eight alone, or from all.
 constexpr std::array<const char*, 16> kNames = {
-    "Asm",       "Asm:1", "As",     "A",       "A+B",      "B",   "A:1+B",      "empty",
-    "empty tin", "Bolt",  "Bolt:1", "Bolt M8", "Bolt+Nut", "Nut", "Asm:1+Bolt", "Big Asm"};
+    "Asm",   "Asm:1+Bolt", "Bolt",      "A",      "A:1+B",   "B",        "A+B", "empty",
+    "Asm:1", "As",         "empty tin", "Bolt:1", "Bolt M8", "Bolt+Nut", "Nut", "Big Asm"};
 
-constexpr std::array<const char*, 6> kPartNumbers = {"", "P", "P", "Q", "1", "Asm"};
+/// A design takes its part numbers from the first two alone, or from all.
+constexpr std::array<const char*, 8> kPartNumbers = {"P", "", "P", "Q", "R", "S", "1", "Asm"};
 
 constexpr std::array<const char*, 6> kDescriptions = {
     "", "long", "short", "1", "***different***", "a ***different*** one"};
@@ -51,7 +53,9 @@ void addStructure(std::mt19937& random, ComponentData& component) {
     if (kind == 0) {
         return;
     }
-    const std::size_t set = below(random, kStructures.size());
+    // The two that change what is shown come more often.
+    const std::size_t set = oneIn(random, 2) ? below(random, kStructures.size())
+                                             : kStructures.size() - 2 + below(random, 2);
     for (std::size_t i = 0; i < kStructures.size(); ++i) {
         if (kind == 3) {
             if (oneIn(random, 2)) {
@@ -71,10 +75,11 @@ void addCustomProperties(std::mt19937& random, ComponentData& component) {
     }
 }
 
-ComponentData randomComponent(std::mt19937& random, const std::string& name) {
+ComponentData randomComponent(std::mt19937& random, const std::string& name,
+                              std::size_t partNumbers) {
     ComponentData component;
     component.name = name;
-    component.partNumber = pick(random, kPartNumbers);
+    component.partNumber = kPartNumbers[below(random, partNumbers)];
     component.description = pick(random, kDescriptions);
     const bool customFirst = oneIn(random, 2);
     if (customFirst) {
@@ -89,7 +94,8 @@ ComponentData randomComponent(std::mt19937& random, const std::string& name) {
 
 /// Fisher-Yates by hand: std::shuffle differs from one library to the next.
 std::vector<std::string> shuffledNames(std::mt19937& random) {
-    std::vector<std::string> names(kNames.begin(), kNames.end());
+    const std::size_t count = oneIn(random, 3) ? kNames.size() / 2 : kNames.size();
+    std::vector<std::string> names(kNames.begin(), kNames.begin() + count);
     for (std::size_t i = names.size(); i > 1; --i) {
         std::swap(names[i - 1], names[below(random, i)]);
     }
@@ -106,13 +112,14 @@ DesignData randomDesign(std::mt19937& random) {
     design.components.front().name = "Design";
     const std::vector<std::string> names = shuffledNames(random);
     const std::size_t count = 2 + below(random, 7);
+    const std::size_t partNumbers = oneIn(random, 3) ? 2 : kPartNumbers.size();
     for (std::size_t i = 0; i < count; ++i) {
-        design.components.push_back(randomComponent(random, names[i]));
+        design.components.push_back(randomComponent(random, names[i], partNumbers));
     }
     std::map<std::size_t, int> uses;
     // Children come from behind, so that no assembly contains itself.
     for (std::size_t parent = 0; parent < count; ++parent) {
-        const bool isAssembly = parent == 0 || oneIn(random, 2);
+        const bool isAssembly = parent == 0 || !oneIn(random, 3);
         const std::size_t children = isAssembly ? 1 + below(random, parent == 0 ? 6 : 4) : 0;
         for (std::size_t i = 0; i < children; ++i) {
             OccurrenceData child;

@@ -1,0 +1,221 @@
+#include "tarnix/bom/model/identity.h"
+#include "tarnix/bom/model/walk.h"
+
+#include "tests/support/text.h"
+#include "tests/tarnix/bom/model/open_design.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tarnix {
+namespace {
+
+using test_support::text;
+
+std::vector<BomRow> merge(const OpenDesign& design) {
+    BomModel model;
+    return walkOccurrencesMerged(model, design.occurrences(), 1);
+}
+
+/// Quantity and path of each row, and whether it was combined.
+std::string items(const std::vector<BomRow>& rows) {
+    std::string all;
+    for (const auto& row : rows) {
+        all += (all.empty() ? "" : "\n") + std::to_string(row.quantity) + " " +
+               row.occurrence->fullPathName() + (row.combined ? " combined" : "");
+    }
+    return all;
+}
+
+/// The properties of the first row, behind the part number.
+std::string firstProperties(const OpenDesign& design) {
+    const BomRow row = merge(design).at(0);
+    std::string all;
+    for (const auto& entry : row.properties) {
+        if (entry.name != kPartNumberKey) {
+            all += (all.empty() ? "" : "\n") + entry.name + "=" + entry.value;
+        }
+    }
+    return all;
+}
+
+TEST(Merging, CountsOccurrencesOfOneComponent) {
+    const OpenDesign design(R"(
+        Bolt
+        Nut
+        Bolt
+        Bolt)");
+    EXPECT_EQ(items(merge(design)), text(R"(
+        3 Bolt:1
+        1 Nut:1
+        1 Bolt:2
+        1 Bolt:3)"));
+}
+
+TEST(Merging, AtTheTopTakesEqualNumbersForOneItemWhateverTheirNames) {
+    const OpenDesign design(R"(
+        Bolt  number=P
+        Screw  number=P)");
+    EXPECT_EQ(items(merge(design)), text(R"(
+        2 Bolt:1 combined
+        1 Screw:1)"));
+}
+
+TEST(Merging, KeepsTheItemsOfTwoAssembliesApart) {
+    const OpenDesign design(R"(
+        Asm  number=A1
+          Bolt
+          Bolt
+        Asm)");
+    EXPECT_EQ(items(merge(design)), text(R"(
+        2 Asm:1
+        2 Asm:1+Bolt:1
+        1 Asm:1+Bolt:2
+        1 Asm:2
+        2 Asm:2+Bolt:1
+        1 Asm:2+Bolt:2)"));
+}
+
+TEST(Merging, TakesAllEmptyNumbersUnderOneParentForOneItem) {
+    const OpenDesign design(R"(
+        Asm
+          Bolt  number=""
+          Nut  number=""
+          Washer  number=""
+        Bolt)");
+    EXPECT_EQ(items(merge(design)), text(R"(
+        1 Asm:1
+        3 Asm:1+Bolt:1 combined
+        1 Asm:1+Nut:1
+        1 Asm:1+Washer:1
+        1 Bolt:2)"));
+}
+
+TEST(Merging, TakesAChildWithTheNumberOfItsTopAssemblyForThatAssembly) {
+    const OpenDesign design(R"(
+        Asm  number=P
+          Bolt  number=P)");
+    EXPECT_EQ(items(merge(design)), text(R"(
+        2 Asm:1 combined
+        1 Asm:1+Bolt:1)"));
+}
+
+TEST(Merging, WritesTheMarkerOnceInFrontOfTheFirstOfThreeDescriptions) {
+    const OpenDesign design(R"(
+        Bolt  number=P description=long
+        Screw  number=P description=short
+        Stud  number=P description=middle)");
+    merge(design);
+    EXPECT_EQ(design.descriptions(), text(R"(
+        Bolt: ***different***long
+        Screw: short
+        Stud: middle)"));
+}
+
+TEST(Merging, LeavesEqualDescriptionsAlone) {
+    const OpenDesign design(R"(
+        Bolt  number=P description=long
+        Screw  number=P description=long)");
+    merge(design);
+    EXPECT_EQ(design.descriptions(), "Bolt: long\nScrew: long");
+}
+
+TEST(Merging, LeavesADescriptionAloneThatHoldsTheMarkerAnywhere) {
+    const OpenDesign design(R"(
+        Bolt  number=P description="a ***different*** bolt"
+        Screw  number=P description=short)");
+    merge(design);
+    EXPECT_EQ(design.descriptions(), "Bolt: a ***different*** bolt\nScrew: short");
+}
+
+TEST(Merging, ComparesWithDescriptionsAsEarlierMergesLeftThem) {
+    // Under the first assembly the bolt is marked; under the second one the stud, equal to what the
+    // bolt once had, is compared with the marked text and gets the marker.
+    const OpenDesign design(R"(
+        First
+          Bolt  number=P description=long
+          Screw  number=P description=short
+        Second
+          Stud  number=P description=long
+          Bolt)");
+    merge(design);
+    EXPECT_EQ(design.descriptions(), text(R"(
+        Bolt: ***different***long
+        Screw: short
+        Stud: ***different***long)"));
+}
+
+TEST(Merging, MarksPropertiesThatDiffer) {
+    const OpenDesign design(R"(
+        Bolt  number=P property=Colour/red property=Size/M8
+        Screw  number=P property=Colour/blue property=Size/M8)");
+    EXPECT_EQ(firstProperties(design), text(R"(
+        QEMA_Part Name=***different***
+        QEMA_Description=
+        QEMA_Colour=***different***
+        QEMA_Size=M8)"));
+}
+
+TEST(Merging, ComparesPropertiesByPlaceAndNotByKey) {
+    const OpenDesign design(R"(
+        Bolt  number=P property=Colour/red property=Size/M8
+        Screw  number=P property=Size/M8 property=Colour/red)");
+    EXPECT_EQ(firstProperties(design), text(R"(
+        QEMA_Part Name=***different***
+        QEMA_Description=
+        QEMA_Colour=***different***
+        QEMA_Size=***different***)"));
+}
+
+TEST(Merging, KeepsAMarkerThatStandsAlready) {
+    const OpenDesign design(R"(
+        Bolt  number=P property=Colour/***different***
+        Screw  number=P property=Colour/red)");
+    EXPECT_EQ(merge(design).at(0).properties.at(3).value, "***different***");
+}
+
+TEST(Merging, MarksAPropertyThatOnlyTheFirstOneHasUnlessItIsEmpty) {
+    const OpenDesign design(R"(
+        Bolt  number=P property=Colour/ property=Size/M8
+        Screw  number=P)");
+    EXPECT_EQ(firstProperties(design), text(R"(
+        QEMA_Part Name=***different***
+        QEMA_Description=
+        QEMA_Colour=
+        QEMA_Size=***different***)"));
+}
+
+TEST(Merging, AppendsAPropertyThatOnlyAFurtherOneHasUnlessItIsEmpty) {
+    const OpenDesign design(R"(
+        Bolt  number=P
+        Screw  number=P property=Colour/ property=Size/M8)");
+    EXPECT_EQ(firstProperties(design), text(R"(
+        QEMA_Part Name=***different***
+        QEMA_Description=
+        QEMA_Size=***different***)"));
+}
+
+TEST(Merging, LeavesTheAttributesOfTheDesignAlone) {
+    const OpenDesign design(R"(
+        Bolt  number=P property=Colour/red
+        Screw  number=P property=Colour/blue)");
+    merge(design);
+    EXPECT_EQ(findProperty(readComponentProperties(design.component("Bolt")), "QEMA_Colour"),
+              "red");
+}
+
+TEST(FindBomRow, YieldsTheFirstRowOfTheItemOrNone) {
+    const OpenDesign design(R"(
+        Nut
+        Bolt
+        Bolt)");
+    BomModel model;
+    const auto rows = walkOccurrences(model, design.occurrences(), 1);
+    EXPECT_EQ(findBomRow(rows, rows.at(2).occurrence), 1);
+    EXPECT_EQ(findBomRow({rows.at(0)}, rows.at(2).occurrence), -1);
+}
+
+}  // namespace
+}  // namespace tarnix
