@@ -1,0 +1,139 @@
+#include "host/design/design_file.h"
+
+#include "host/design/atomic_file.h"
+#include "host/design/design_json.h"
+#include "host/design/json_node.h"
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kFormat = "standin-host-design";
+constexpr std::size_t kVersion = 1;
+
+std::string utf8(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+fs::path fromUtf8(const std::string& text) {
+    return fs::path(std::u8string(text.begin(), text.end()));
+}
+
+[[noreturn]] void refuse(const fs::path& path, const std::string& reason) {
+    throw DesignError(utf8(path) + ": " + reason);
+}
+
+/// What a library puts before its own text says nothing to a person.
+std::string withoutOrigin(const std::string& text) {
+    const std::size_t end = text.find("] ");
+    return text.starts_with('[') && end != std::string::npos ? text.substr(end + 2) : text;
+}
+
+std::string readAll(const fs::path& path) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) {
+        refuse(path, fs::exists(path, error) ? "is no file" : "is not there");
+    }
+    if (fs::file_size(path, error) > kMaximumFileSize) {
+        refuse(path, "is larger than " + std::to_string(kMaximumFileSize) + " bytes");
+    }
+    std::ifstream stream(path, std::ios::binary);
+    std::ostringstream content;
+    content << stream.rdbuf();
+    if (!stream || (content.str().empty() && content.fail())) {
+        refuse(path, "cannot be read, or is empty");
+    }
+    return std::move(content).str();
+}
+
+ReadDesign parse(const std::string& text) {
+    const nlohmann::json json = nlohmann::json::parse(text);
+    const JsonNode whole(json);
+    if (whole.member("format").text() != kFormat) {
+        whole.member("format").refuse("should be \"" + std::string(kFormat) + "\"");
+    }
+    if (whole.member("version").number() != kVersion) {
+        whole.member("version").refuse("should be " + std::to_string(kVersion) +
+                                       ": the file was written by another version");
+    }
+    ReadDesign design = fromJson(json);
+    checkDesign(design.data);
+    return design;
+}
+
+/// Where the source is now: at its path, or beside the design file when both were moved.
+SourceFile findSource(const fs::path& path, const SourceFile& source) {
+    std::error_code error;
+    const fs::path told = fromUtf8(source.path);
+    const fs::path beside = fs::absolute(path, error).parent_path() / told.filename();
+    const bool moved = !fs::exists(told, error) && fs::exists(beside, error);
+    return {moved ? utf8(beside) : source.path, source.fingerprint};
+}
+
+/// Takes the bodies over from the source.
+void readBodies(const fs::path& path, ReadDesign& design, const ReadSource& readSource) {
+    const SourceFile source = findSource(path, *design.data.source);
+    if (!readSource) {
+        refuse(path, "its bodies are in " + source.path + ", which cannot be read here");
+    }
+    const DesignData read = readSource(source);
+    if (!read.source || read.source->fingerprint != source.fingerprint ||
+        read.components.size() != design.data.components.size()) {
+        refuse(path, "its source " + source.path +
+                         " has changed since; put the former file in its place, or import the new "
+                         "one");
+    }
+    for (std::size_t index = 0; index < read.components.size(); ++index) {
+        if (design.hasSourceBodies[index]) {
+            design.data.components[index].geometry = read.components[index].geometry;
+        }
+    }
+    design.data.source = source;
+}
+
+}  // namespace
+
+void saveDesignFile(const fs::path& path, const DesignData& data) {
+    try {
+        checkDesign(data);
+        nlohmann::ordered_json json = {{"format", kFormat}, {"version", kVersion}};
+        json.update(toJson(data));
+        // One line for each component would be best to compare; an indent of one comes near.
+        writeFileAtomically(path,
+                            json.dump(/*indent=*/1, /*indent_char=*/' ', /*ensure_ascii=*/false,
+                                      nlohmann::json::error_handler_t::replace) +
+                                "\n");
+    } catch (const DesignError& error) {
+        refuse(path, error.what());
+    } catch (const std::system_error& error) {
+        refuse(path, error.what());
+    }
+}
+
+DesignData loadDesignFile(const fs::path& path, const ReadSource& readSource) {
+    const std::string text = readAll(path);
+    ReadDesign design;
+    try {
+        design = parse(text);
+    } catch (const nlohmann::json::exception& error) {
+        refuse(path, "is no design file: " + withoutOrigin(error.what()));
+    } catch (const DesignError& error) {
+        refuse(path, error.what());
+    }
+    const auto& inSource = design.hasSourceBodies;
+    if (std::find(inSource.begin(), inSource.end(), true) != inSource.end()) {
+        readBodies(path, design, readSource);
+    }
+    return std::move(design.data);
+}
+
+}  // namespace host

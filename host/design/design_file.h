@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/design/design_check.h"
+#include "host/design/design_data.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+
+/// The design file: a design with everything the host keeps of it, in JSON.
+///
+/// A design that came from a file of another format keeps a reference to that source and reads its
+/// bodies from there again.
+namespace host {
+
+/// The ending of a design file's name.
+inline constexpr const char* kDesignFileEnding = ".design.json";
+
+/// The largest design file that is read, in bytes.
+inline constexpr std::uintmax_t kMaximumFileSize = std::uintmax_t{1} << 30;
+
+/// Reads the source of a design again, with its `source` telling the fingerprint that it has now.
+/// What it raises leaves `loadDesignFile` as it is.
+using ReadSource = std::function<DesignData(const SourceFile&)>;
+
+/// Writes a design. The file holds the old design or the new one, whole, whatever happens.
+///
+/// Bytes of a text that are no UTF-8 become U+FFFD. Raises `DesignError` that names the file and
+/// the reason, for a design that does not fulfil `checkDesign` too; the old file then stands.
+void saveDesignFile(const std::filesystem::path& path, const DesignData& data);
+
+/// Reads a design that `saveDesignFile` wrote, or somebody by hand.
+///
+/// `readSource` is asked only where bodies are in a source; the source is looked for at its path
+/// and then beside the design file. Raises `DesignError` that names the file, the place in it and
+/// what would be right.
+DesignData loadDesignFile(const std::filesystem::path& path, const ReadSource& readSource = {});
+
+}  // namespace host
