@@ -121,7 +121,8 @@ public:
     static XmlDocument create();
 
     /// Reads a file, whose path is in Windows terms. False when it is missing or is no well-formed
-    /// XML, which leaves the document empty.
+    /// XML, which leaves the document empty. The DOM of Windows takes "#" and escapes such as "%20"
+    /// in a path for parts of an address, and does not find such a file.
     bool load(const std::string& path);
 
     /// Writes a file with nothing between the elements, and CR LF behind each child of the document

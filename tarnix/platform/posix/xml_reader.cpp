@@ -67,8 +67,10 @@ private:
             return;
         }
         std::string data = "version=\"" + asText(parser_.version) + "\"";
-        if (parser_.encoding != nullptr) {
-            data += " encoding=\"" + asText(parser_.encoding) + "\"";
+        const xmlChar* const encoding =
+            parser_.encoding != nullptr ? parser_.encoding : parser_.input->encoding;
+        if (encoding != nullptr) {
+            data += " encoding=\"" + asText(encoding) + "\"";
         }
         if (parser_.standalone >= 0) {
             data += parser_.standalone == 0 ? " standalone=\"no\"" : " standalone=\"yes\"";
@@ -132,7 +134,9 @@ XmlBodies readXml(const std::string& path) {
     if (parser == nullptr) {
         return {};
     }
-    xmlCtxtUseOptions(parser.get(), XML_PARSE_NONET | XML_PARSE_SAX1);
+    // NOENT resolves the references in attributes; there are no entities but XML's own, because a
+    // document that could declare some is refused.
+    xmlCtxtUseOptions(parser.get(), XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_SAX1);
     Builder builder(*parser);
     // Its result is the parser's `wellFormed`.
     static_cast<void>(xmlParseDocument(parser.get()));

@@ -1,0 +1,48 @@
+#include "tests/tarnix/platform/shell_test.h"
+
+#include <Core/OSMacros.h>
+#include <StandIn/Process.h>
+
+#include <vector>
+
+namespace {
+
+StandInAnswer answer = StandInAnswer::NotMine;
+std::vector<std::string> asked;
+
+}  // namespace
+
+// What a stand-in process shows to the modules that it loads.
+extern "C" XI_EXPORT StandInAnswer standin_openWithShell(const char* target) {
+    asked.emplace_back(target);
+    return answer;
+}
+
+namespace tarnix::platform {
+namespace {
+
+class HostedShell : public Shell {
+protected:
+    HostedShell() { asked.clear(); }
+    ~HostedShell() override { answer = StandInAnswer::NotMine; }
+};
+
+TEST_F(HostedShell, ProcessIsAskedWithTheTextAsItStands) {
+    answer = StandInAnswer::Done;
+    EXPECT_TRUE(openWithShell("C:\\a b\\caf\xE9.xlsm"));
+    EXPECT_EQ(asked, std::vector<std::string>{"C:\\a b\\caf\xE9.xlsm"});
+}
+
+TEST_F(HostedShell, SystemIsNotAskedForWhatTheProcessHasDone) {
+    answer = StandInAnswer::Done;
+    EXPECT_TRUE(openWithShell("http://done.example/"));
+    answer = StandInAnswer::Failed;
+    EXPECT_FALSE(openWithShell("http://failed.example/"));
+    // The next is the first to reach the system.
+    answer = StandInAnswer::NotMine;
+    EXPECT_TRUE(openWithShell("http://a.example/"));
+    EXPECT_EQ(opened(), "http://a.example/\n");
+}
+
+}  // namespace
+}  // namespace tarnix::platform

@@ -1,0 +1,12 @@
+#include "tarnix/platform/module_path.h"
+
+#include <Core/OSMacros.h>
+
+#include <string>
+
+/// A module that tells its own path to the test which loads it.
+extern "C" XI_EXPORT const char* probeModulePath() {
+    static std::string path;
+    path = tarnix::platform::modulePath();
+    return path.c_str();
+}

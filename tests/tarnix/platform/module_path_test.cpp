@@ -1,0 +1,27 @@
+#include "tests/tarnix/platform/module_path_test.h"
+
+namespace tarnix::platform {
+namespace {
+
+TEST_F(ModulePath, IsThatOfTheModuleAndNotOfTheProgram) {
+    EXPECT_EQ(pathOfProbeAt(folder.path() / "Probe.dll"), folder.windows("Probe.dll"));
+}
+
+TEST_F(ModulePath, HasBackslashesBetweenFolders) {
+    std::filesystem::create_directory(folder.path() / "inner");
+    const std::string path = pathOfProbeAt(folder.path() / "inner" / "Probe.dll");
+    EXPECT_TRUE(path.ends_with("\\inner\\Probe.dll")) << path;
+    EXPECT_EQ(path.find('/'), std::string::npos) << path;
+}
+
+TEST_F(ModulePath, IsCutOffAtTheLimitOf260WideCharacters) {
+    const std::filesystem::path deep =
+        folder.path() / std::string(150, 'a') / std::string(150, 'b');
+    std::filesystem::create_directories(test::longPath(deep));
+    const std::string whole = folder.windows(std::string(150, 'a') + "/" + std::string(150, 'b'));
+
+    EXPECT_EQ(pathOfProbeAt(test::longPath(deep / "Probe.dll")), whole.substr(0, 259));
+}
+
+}  // namespace
+}  // namespace tarnix::platform

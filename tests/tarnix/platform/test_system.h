@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+/// What the tests of the platform need of the system themselves.
+namespace tarnix::test {
+
+/// Loads a module; null if it could not.
+std::shared_ptr<void> loadModule(const std::filesystem::path& path);
+
+/// A function that a module shows by name.
+void* functionOf(const std::shared_ptr<void>& module, const char* name);
+
+/// A path that the system takes whatever its length.
+std::filesystem::path longPath(const std::filesystem::path& path);
+
+/// The number of this process.
+long processNumber();
+
+/// Tells whether anybody reads a file from now on.
+class ReadWatch {
+public:
+    explicit ReadWatch(std::filesystem::path file);
+
+    [[nodiscard]] bool wasRead() const;
+
+private:
+    std::filesystem::path file_;
+};
+
+/// While it lives, a file may be read and written but not deleted. Tell it by `isEffective` where
+/// the system could not be brought to that.
+class Undeletable {
+public:
+    explicit Undeletable(const std::filesystem::path& file);
+    Undeletable(const Undeletable&) = delete;
+    Undeletable& operator=(const Undeletable&) = delete;
+    ~Undeletable();
+
+    [[nodiscard]] bool isEffective() const { return state_ != nullptr; }
+
+private:
+    std::shared_ptr<void> state_;
+};
+
+}  // namespace tarnix::test
