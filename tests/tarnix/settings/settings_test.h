@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tarnix/settings/settings_document.h"
+#include "tests/tarnix/platform/xml_test.h"
+#include "tests/tarnix/settings/fake_module_path.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnix {
+
+using platform::comError;
+using Items = std::vector<std::string>;
+
+/// Tests of the settings of a module that lies in a folder of the test's own. COM is ready, as it
+/// is on a host's thread.
+class Settings : public testing::Test {
+protected:
+    Settings() {
+        platform::initializeCom();
+        test::modulePath() = folder.windows("Tarnix.dll");
+    }
+
+    /// Puts a document in place that has these children of its root.
+    void writeSettings(std::string_view categories) {
+        folder.write(kFile,
+                     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+                     "<configuration nameOfApplication=\"Tarnix\">" +
+                         std::string(categories) + "</configuration>\r\n");
+    }
+
+    /// The root of the stored document with all that it holds.
+    [[nodiscard]] std::string stored() const { return platform::rootOf(folder.read(kFile)); }
+
+    static constexpr const char* kFile = "Tarnix_configuration.xml";
+
+    ScratchFolder folder;
+};
+
+}  // namespace tarnix
