@@ -1,0 +1,91 @@
+#include "bench/bench_design.h"
+
+#include "host/design/geometry.h"
+
+#include <string>
+#include <utility>
+
+namespace bench {
+namespace {
+
+using host::ComponentData;
+using host::DesignData;
+using host::OccurrenceData;
+
+constexpr std::size_t kSharedParts = 100;
+constexpr std::size_t kPartsBelow = 50;
+
+ComponentData part(std::size_t number) {
+    ComponentData made;
+    made.name = "Part " + std::to_string(number);
+    made.partNumber = "P-" + std::to_string(100000 + number);
+    made.description = "A part for measuring";
+    made.material = host::MaterialData{"Steel", 0.00785};
+    made.attributes = {{"QEMA_PropertiesAttributesGroup", "Produce", "1"},
+                       {"QEMA_PropertiesAttributesGroup", "Buy", "0"},
+                       {"QEMA_PropertiesAttributesGroup", "QEMA_Supplier", "Acme"}};
+    made.geometry = host::boxGeometry(1, 2, 3);
+    return made;
+}
+
+void use(ComponentData& parent, std::size_t component, int instance) {
+    OccurrenceData occurrence;
+    occurrence.component = component;
+    occurrence.instance = instance;
+    parent.children.push_back(occurrence);
+}
+
+void addFlat(DesignData& design, std::size_t count, std::size_t parts) {
+    for (std::size_t i = 0; i < parts; ++i) {
+        design.components.push_back(part(i));
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        use(design.components.front(), 1 + i % parts, static_cast<int>(1 + i / parts));
+    }
+}
+
+void addNested(DesignData& design, std::size_t count) {
+    ComponentData assembly = part(0);
+    assembly.name = "Assembly";
+    assembly.geometry = nullptr;
+    for (std::size_t i = 0; i < kPartsBelow; ++i) {
+        use(assembly, 2 + i, 1);
+    }
+    design.components.push_back(std::move(assembly));
+    for (std::size_t i = 0; i < kPartsBelow; ++i) {
+        design.components.push_back(part(1 + i));
+    }
+    const std::size_t assemblies = count / (kPartsBelow + 1);
+    for (std::size_t i = 0; i < assemblies; ++i) {
+        use(design.components.front(), 1, static_cast<int>(1 + i));
+    }
+    // The rest stands as single parts, so that the design has exactly the asked size.
+    for (std::size_t i = assemblies * (kPartsBelow + 1); i < count; ++i) {
+        use(design.components.front(), 2 + i % kPartsBelow, static_cast<int>(2 + i));
+    }
+}
+
+}  // namespace
+
+DesignData makeDesign(Shape shape, std::size_t count) {
+    DesignData design;
+    design.name = "Measured";
+    ComponentData root;
+    root.name = "Measured";
+    root.partNumber = "Measured";
+    design.components.push_back(std::move(root));
+    switch (shape) {
+        case Shape::FlatDifferent:
+            addFlat(design, count, count);
+            break;
+        case Shape::FlatShared:
+            addFlat(design, count, kSharedParts);
+            break;
+        case Shape::Nested:
+            addNested(design, count);
+            break;
+    }
+    return design;
+}
+
+}  // namespace bench

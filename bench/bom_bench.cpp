@@ -1,0 +1,95 @@
+// Time and host calls of the BOM dialog, for designs of 100 to 100,000 occurrences in three shapes.
+//
+// A row of the output is one design. Its time is that of opening the dialog and showing the tab
+// "Structure" for the first time; the counters hold each action, as milliseconds and as calls of
+// the host's API. Counts are stable; times are those of the machine.
+
+#include "bench/bench_design.h"
+#include "host/base/gate.h"
+#include "host/session/session.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+
+namespace {
+
+using bench::Shape;
+using host::Session;
+
+constexpr const char* kStructure = "QEMA_tab_structure_BOM";
+constexpr const char* kModel = "QEMA_tab_models_BOM";
+constexpr const char* kConfiguration = "QEMA_tab_config_BOM";
+
+/// Peak resident memory of this process so far, in MB.
+double peakMegabytes() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with("VmHWM:")) {
+            return std::stod(line.substr(6)) / 1024;
+        }
+    }
+    return 0;
+}
+
+/// Does one thing, and notes its time and its host calls under `name`. Yields the milliseconds.
+double measure(benchmark::State& state, const std::string& name,
+               const std::function<void()>& action) {
+    host::gate::reset();
+    const auto begin = std::chrono::steady_clock::now();
+    action();
+    const std::chrono::duration<double, std::milli> taken =
+        std::chrono::steady_clock::now() - begin;
+    state.counters[name + "_ms"] = taken.count();
+    state.counters[name + "_calls"] = static_cast<double>(host::gate::total());
+    return taken.count();
+}
+
+/// An editable cell of the first data row of the tab "Data of Model".
+constexpr const char* kCell = "modelPartNumberOcc_1";
+
+void measureDialog(benchmark::State& state, Shape shape) {
+    for (auto iteration : state) {
+        (void)iteration;
+        host::SessionOptions options;
+        options.addin = ADDIN_FOLDER;
+        Session session(options);
+        session.openDesign(bench::makeDesign(shape, static_cast<std::size_t>(state.range(0))));
+        session.run();
+
+        double first = measure(state, "open", [&] { session.press("QM_TX_BOM"); });
+        measure(state, "key", [&] { session.paste(kCell, "P-1"); });
+        first += measure(state, "structure", [&] { session.activateTab(kStructure); });
+        session.activateTab(kConfiguration);
+        measure(state, "later_tab", [&] { session.activateTab(kStructure); });
+        session.activateTab(kModel);
+        const double exportMs =
+            measure(state, "export", [&] { session.click("QEMA_btnExportXls"); });
+
+        const auto csv = session.addin().folder / "TarnixBOM.csv";
+        state.counters["csv_MB"] = static_cast<double>(std::filesystem::file_size(csv)) / 1e6;
+        state.counters["csv_MB_per_s"] = state.counters["csv_MB"].value / exportMs * 1000;
+        state.counters["peak_MB"] = peakMegabytes();
+        state.SetIterationTime(first / 1000);
+    }
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->RangeMultiplier(10)
+        ->Range(100, 100000)
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK_CAPTURE(measureDialog, flat_different, Shape::FlatDifferent)->Apply(sizes);
+BENCHMARK_CAPTURE(measureDialog, flat_shared, Shape::FlatShared)->Apply(sizes);
+BENCHMARK_CAPTURE(measureDialog, nested, Shape::Nested)->Apply(sizes);
+
+}  // namespace
+
+BENCHMARK_MAIN();
