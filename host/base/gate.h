@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// The gate that every call of the public API passes.
@@ -62,6 +63,19 @@ public:
     Module(const Module&) = delete;
     Module& operator=(const Module&) = delete;
     ~Module() { --state().modules; }
+};
+
+/// While it lives, calls are the host's own again: for what a person or a session does while a module
+/// waits for the host.
+class Outside {
+public:
+    Outside() : modules_(std::exchange(state().modules, 0)) {}
+    Outside(const Outside&) = delete;
+    Outside& operator=(const Outside&) = delete;
+    ~Outside() { state().modules = modules_; }
+
+private:
+    int modules_;
 };
 
 /// Forgets counts, records and refusals that have not come to pass.

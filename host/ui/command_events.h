@@ -1,0 +1,125 @@
+#pragma once
+
+#include "host/base/events.h"
+#include "host/ui/misuse.h"
+
+#include <Core/CommandDefinitions.h>
+#include <Core/CommandInputs.h>
+#include <Core/Commands.h>
+
+#include <string>
+#include <utility>
+
+/// The events of commands and what their notifications carry.
+namespace host::ui {
+
+namespace core = adsk::core;
+
+class CreatedArguments final : public Arguments<core::CommandCreatedEventArgs> {
+public:
+    CreatedArguments(core::Ptr<core::Event> event, core::Ptr<core::Command> command)
+        : Arguments(std::move(event)), command_(std::move(command)) {}
+
+    [[nodiscard]] core::Ptr<core::Command> command() const override;
+
+private:
+    core::Ptr<core::Command> command_;
+};
+
+class CommandArguments final : public Arguments<core::CommandEventArgs> {
+public:
+    CommandArguments(core::Ptr<core::Event> event, core::Ptr<core::Command> command,
+                     core::CommandTerminationReason reason = core::UnknownTerminationReason)
+        : Arguments(std::move(event)), command_(std::move(command)), reason_(reason) {}
+
+    [[nodiscard]] core::Ptr<core::Command> command() const override;
+    [[nodiscard]] bool executeFailed() const override;
+    bool executeFailed(bool value) override;
+    [[nodiscard]] std::string executeFailedMessage() const override;
+    bool executeFailedMessage(const std::string& value) override;
+    [[nodiscard]] bool isValidResult() const override;
+    bool isValidResult(bool value) override;
+    [[nodiscard]] core::CommandTerminationReason terminationReason() const override;
+
+    [[nodiscard]] bool failed() const { return failed_; }
+    [[nodiscard]] bool standsForExecution() const { return validResult_; }
+
+private:
+    core::Ptr<core::Command> command_;
+    core::CommandTerminationReason reason_;
+    bool failed_ = false;
+    bool validResult_ = false;
+    std::string message_;
+};
+
+class ChangedArguments final : public Arguments<core::InputChangedEventArgs> {
+public:
+    ChangedArguments(core::Ptr<core::Event> event, core::Ptr<core::CommandInput> input,
+                     core::Ptr<core::CommandInputs> inputs)
+        : Arguments(std::move(event)), input_(std::move(input)), inputs_(std::move(inputs)) {}
+
+    [[nodiscard]] core::Ptr<core::CommandInput> input() const override;
+    [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override;
+
+private:
+    core::Ptr<core::CommandInput> input_;
+    core::Ptr<core::CommandInputs> inputs_;
+};
+
+class ValidateArguments final : public Arguments<core::ValidateInputsEventArgs> {
+public:
+    ValidateArguments(core::Ptr<core::Event> event, core::Ptr<core::CommandInputs> inputs)
+        : Arguments(std::move(event)), inputs_(std::move(inputs)) {}
+
+    [[nodiscard]] bool areInputsValid() const override;
+    bool areInputsValid(bool value) override;
+    [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override;
+
+    [[nodiscard]] bool valid() const { return valid_; }
+
+private:
+    core::Ptr<core::CommandInputs> inputs_;
+    bool valid_ = true;
+};
+
+class ApplicationArguments final : public Arguments<core::ApplicationCommandEventArgs> {
+public:
+    /// `cancellable` for the event before a command starts.
+    ApplicationArguments(core::Ptr<core::Event> event, std::string commandId,
+                         core::Ptr<core::CommandDefinition> definition, bool cancellable,
+                         core::CommandTerminationReason reason = core::UnknownTerminationReason)
+        : Arguments(std::move(event)),
+          commandId_(std::move(commandId)),
+          definition_(std::move(definition)),
+          reason_(reason),
+          cancellable_(cancellable) {}
+
+    [[nodiscard]] std::string commandId() const override;
+    [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override;
+    [[nodiscard]] core::CommandTerminationReason terminationReason() const override;
+    [[nodiscard]] bool isCanceled() const override;
+    bool isCanceled(bool value) override;
+
+    [[nodiscard]] bool cancelled() const { return cancelled_; }
+
+private:
+    std::string commandId_;
+    core::Ptr<core::CommandDefinition> definition_;
+    core::CommandTerminationReason reason_;
+    bool cancellable_;
+    bool cancelled_ = false;
+};
+
+using CreatedEvent = TypedEvent<core::CommandCreatedEvent, core::CommandCreatedEventHandler,
+                                core::CommandCreatedEventArgs>;
+using CommandEvent =
+    TypedEvent<core::CommandEvent, core::CommandEventHandler, core::CommandEventArgs>;
+using ChangedEvent = TypedEvent<core::InputChangedEvent, core::InputChangedEventHandler,
+                                core::InputChangedEventArgs>;
+using ValidateEvent = TypedEvent<core::ValidateInputsEvent, core::ValidateInputsEventHandler,
+                                 core::ValidateInputsEventArgs>;
+using ApplicationEvent =
+    TypedEvent<core::ApplicationCommandEvent, core::ApplicationCommandEventHandler,
+               core::ApplicationCommandEventArgs>;
+
+}  // namespace host::ui

@@ -1,0 +1,361 @@
+#include "host/ui/command_runner.h"
+
+#include "host/base/last_error.h"
+#include "host/ui/selection_input.h"
+#include "host/ui/user_interface.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace host::ui {
+namespace {
+
+// A command that starts itself over and over would hang the session.
+constexpr int kMostStarts = 10;
+
+// Handlers that go on answering each other's changes would too.
+constexpr int kMostCodeChanges = 100000;
+
+/// Counts up while it lives.
+class Counting {
+public:
+    explicit Counting(int& counter) : counter_(counter) { ++counter_; }
+    Counting(const Counting&) = delete;
+    Counting& operator=(const Counting&) = delete;
+    ~Counting() { --counter_; }
+
+private:
+    int& counter_;
+};
+
+SelectionInput& selectionOf(InputState* input) { return static_cast<SelectionInput&>(*input); }
+
+}  // namespace
+
+void CommandRunner::request(const core::Ptr<CommandDefinition>& definition) {
+    requested_.push_back(definition);
+    settle();
+}
+
+void CommandRunner::settle() {
+    if (busy_ > 0 || gate::state().modules > 0) return;
+    while (!requested_.empty()) {
+        const core::Ptr<CommandDefinition> next = requested_.front();
+        requested_.pop_front();
+        start(next);
+    }
+}
+
+void CommandRunner::countStart(const std::string& id) {
+    if (++starts_[id] <= kMostStarts) return;
+    requested_.clear();
+    throw MisuseError("the command " + id + " was started " + std::to_string(kMostStarts) +
+                      " times without an action of a person in between: it starts itself for ever");
+}
+
+void CommandRunner::start(const core::Ptr<CommandDefinition>& definition) {
+    if (!definition->isValid()) return;
+    countStart(definition->identifier());
+    const Counting busy(busy_);
+    if (!announce(definition)) return;
+    if (active_) {
+        preEmpt();
+    }
+    if (definition->isValid()) {
+        create(definition);
+    }
+}
+
+bool CommandRunner::announce(const core::Ptr<CommandDefinition>& definition) {
+    const Counting notifying(notifying_);
+    const auto arguments =
+        make<ApplicationArguments>(ui_->startingEvent, definition->identifier(), definition,
+                                   /*cancellable=*/true);
+    ui_->startingEvent->fire(arguments);
+    return !arguments->cancelled();
+}
+
+void CommandRunner::create(const core::Ptr<CommandDefinition>& definition) {
+    const core::Ptr<Command> command = make<Command>(definition, this);
+    active_ = command;
+    valid_ = true;
+    previewStands_ = false;
+    bool quiet = true;
+    {
+        const Counting notifying(notifying_);
+        quiet = definition->createdEvent->fire(
+            make<CreatedArguments>(definition->createdEvent, command));
+        ui_->createdEvent->fire(make<ApplicationArguments>(
+            ui_->createdEvent, definition->identifier(), definition, /*cancellable=*/false));
+    }
+    if (active_ != command) return;
+    if (command->inputs().size() > 0 || (quiet && command->isDressed())) {
+        show();
+    } else if (!quiet) {
+        end(core::AbortedTerminationReason);
+    } else if (command->executesByItself()) {
+        end(execute() ? core::CompletedTerminationReason : core::AbortedTerminationReason);
+    }
+}
+
+void CommandRunner::show() {
+    const core::Ptr<Command> command = active_;
+    command->show();
+    fireCommand(command->activateEvent);
+    takeCurrentSelections();
+    if (active_ == command) {
+        validate();
+        preview();
+        obeyCode();
+    }
+}
+
+// What was selected before the command started goes into its selections, as if it were picked now.
+void CommandRunner::takeCurrentSelections() {
+    const core::Ptr<Command> command = active_;
+    std::vector<core::Ptr<core::Base>> left = ui_->selections().list.entities();
+    std::vector<std::pair<core::Ptr<SelectionInput>, std::vector<core::Ptr<core::Base>>>> taken;
+    for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
+        SelectionInput& input = selectionOf(each);
+        if (!input.usesCurrentSelections() || !input.visible) continue;
+        const auto refused = std::stable_partition(
+            left.begin(), left.end(), [&](const auto& entity) { return input.accepts(entity); });
+        const auto count = static_cast<std::size_t>(refused - left.begin());
+        if (count == 0 || count > input.maximum()) continue;
+        taken.emplace_back(core::Ptr<SelectionInput>(&input),
+                           std::vector<core::Ptr<core::Base>>(left.begin(), refused));
+        left.erase(left.begin(), refused);
+    }
+    if (taken.empty()) return;
+    ui_->selections().list.clear();
+    for (const auto& [input, entities] : taken) {
+        for (const core::Ptr<core::Base>& each : entities) {
+            input->take(each);
+        }
+    }
+    for (const auto& [input, entities] : taken) {
+        if (active_ == command && input->isValid()) {
+            tell(*input);
+            tellCodeChanges();
+        }
+    }
+}
+
+void CommandRunner::changed(InputState& input) {
+    const Counting busy(busy_);
+    const core::Ptr<Command> command = active_;
+    tell(input);
+    tellCodeChanges();
+    if (active_ == command) {
+        validate();
+        preview();
+        obeyCode();
+    }
+}
+
+// The change of a tab is told as one of the tab bar, and is not validated.
+void CommandRunner::tabChanged() {
+    const Counting busy(busy_);
+    tell(active_->tabBar());
+    tellCodeChanges();
+    obeyCode();
+}
+
+void CommandRunner::tell(InputState& input) {
+    const core::Ptr<Command> command = active_;
+    const core::Ptr<core::CommandInputs> inputs(input.owner());
+    const std::string id = input.id();
+    firstNewSerial_ = command->newestSerial() + 1;
+    const bool before = std::exchange(tellsChanges_, true);
+    {
+        const Counting notifying(notifying_);
+        command->changedEvent->fire(
+            make<ChangedArguments>(command->changedEvent,
+                                   core::Ptr<core::CommandInput>(input.api()), inputs),
+            id);
+    }
+    tellsChanges_ = before;
+}
+
+void CommandRunner::changedByCode(InputState& input, CodeChange what) {
+    if (!tellsChanges_ || codeChanges_ == CodeChanges::None || input.serial >= firstNewSerial_) {
+        return;
+    }
+    const bool selected = input.kind == InputKind::DropDown && what == CodeChange::Selected;
+    if (selected || codeChanges_ == CodeChanges::All) {
+        codeChanged_.emplace_back(input.api());
+    }
+}
+
+void CommandRunner::tellCodeChanges() {
+    for (int told = 0; !codeChanged_.empty(); ++told) {
+        if (told == kMostCodeChanges) {
+            codeChanged_.clear();
+            throw MisuseError("changes made by handlers of the dialog do not come to an end");
+        }
+        const core::Ptr<core::CommandInput> next = codeChanged_.front();
+        codeChanged_.pop_front();
+        InputState* input = InputState::of(next);
+        if (active_ && input->owner() != nullptr) {
+            tell(*input);
+        }
+    }
+}
+
+void CommandRunner::validate() {
+    const Counting notifying(notifying_);
+    const auto arguments = make<ValidateArguments>(
+        active_->validateEvent, core::Ptr<core::CommandInputs>(&active_->inputs()));
+    active_->validateEvent->fire(arguments);
+    valid_ = arguments->valid();
+}
+
+void CommandRunner::preview() {
+    takeBackPreview();
+    if (!active_->previewEvent->hasHandlers() || !refusalByInputs().empty()) return;
+    if (!ui_->history.mark) {
+        misuse("Command::executePreview", "nothing takes previews back in this host");
+        return;
+    }
+    ui_->history.mark();
+    previewed_ = true;
+    const auto arguments = make<CommandArguments>(active_->previewEvent, active_);
+    const Counting notifying(notifying_);
+    active_->previewEvent->fire(arguments);
+    previewStands_ = arguments->standsForExecution();
+}
+
+void CommandRunner::takeBackPreview() {
+    if (std::exchange(previewed_, false)) {
+        ui_->history.takeBack();
+    }
+    previewStands_ = false;
+}
+
+// A dialog is accepted when all its selections are made and no handler objects.
+std::string CommandRunner::refusalByInputs() const {
+    for (InputState* each : active_->inputs().ofKind(InputKind::Selection)) {
+        const SelectionInput& input = selectionOf(each);
+        if (input.picks().count() < input.minimum()) {
+            return "the selection \"" + input.InputState::id() + "\" needs " +
+                   std::to_string(input.minimum()) + ", and has " +
+                   std::to_string(input.picks().count());
+        }
+    }
+    return valid_ ? "" : "a handler of the dialog finds the inputs not valid";
+}
+
+std::string CommandRunner::refusalOfOk() {
+    if (!active_ || !active_->isShown()) return "no dialog is open";
+    if (!active_->okShown()) return "the dialog shows no such button";
+    return refusalByInputs();
+}
+
+void CommandRunner::accept() {
+    const Counting busy(busy_);
+    if (previewStands_) {
+        previewed_ = false;
+        end(core::CompletedTerminationReason);
+        return;
+    }
+    end(execute() ? core::CompletedTerminationReason : core::AbortedTerminationReason);
+}
+
+bool CommandRunner::execute() {
+    takeBackPreview();
+    const std::uint64_t edits = ui_->editsOfModel();
+    if (ui_->history.mark) {
+        ui_->history.mark();
+    }
+    const auto arguments = make<CommandArguments>(active_->executeEvent, active_);
+    {
+        const Counting notifying(notifying_);
+        active_->executeEvent->fire(arguments);
+    }
+    if (arguments->failed()) {
+        if (ui_->history.takeBack) {
+            ui_->history.takeBack();
+        } else {
+            notBuilt("CommandEventArgs::executeFailed: taking back what was done");
+        }
+    }
+    if (ui_->editsOfModel() != edits) {
+        ui_->selections().list.clear();
+    }
+    return !arguments->failed();
+}
+
+bool CommandRunner::executeByCode(bool terminate) {
+    if (!active_ || !active_->isShown() || !refusalByInputs().empty()) {
+        return fail(core::OperationFailed, "Command::doExecute: the dialog cannot be accepted");
+    }
+    asked_ = terminate ? Asked::ExecuteAndEnd : Asked::Execute;
+    return true;
+}
+
+// Does what a handler asked for while it ran.
+void CommandRunner::obeyCode() {
+    const Asked asked = std::exchange(asked_, Asked::Nothing);
+    if (!active_ || asked == Asked::Nothing) return;
+    if (asked == Asked::ExecuteAndEnd) {
+        accept();
+    } else {
+        execute();
+    }
+}
+
+void CommandRunner::preEmpt() {
+    if (active_->isShown() && active_->executesWhenPreEmpted() && refusalByInputs().empty()) {
+        execute();
+    }
+    end(core::PreEmptedTerminationReason);
+}
+
+bool CommandRunner::terminate() {
+    if (inCommandEvent()) {
+        return misuse("UserInterface::terminateActiveCommand",
+                      "called inside an event of a command");
+    }
+    if (active_) {
+        end(core::CancelledTerminationReason);
+        settle();
+    }
+    return true;
+}
+
+void CommandRunner::end(core::CommandTerminationReason reason) {
+    const Counting busy(busy_);
+    const core::Ptr<Command> command = active_;
+    takeBackPreview();
+    fireCommand(command->deactivateEvent);
+    {
+        const Counting notifying(notifying_);
+        command->destroyEvent->fire(make<CommandArguments>(command->destroyEvent, command, reason));
+    }
+    for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
+        selectionOf(each).dropAll();
+    }
+    active_ = nullptr;
+    codeChanged_.clear();
+    asked_ = Asked::Nothing;
+    const core::Ptr<CommandDefinition> definition = command->definition();
+    command->dispose();
+    const Counting notifying(notifying_);
+    ui_->terminatedEvent->fire(make<ApplicationArguments>(ui_->terminatedEvent,
+                                                          definition->identifier(), definition,
+                                                          /*cancellable=*/false, reason));
+}
+
+void CommandRunner::dispose() {
+    if (active_) {
+        end(core::SessionEndingTerminationReason);
+    }
+    requested_.clear();
+}
+
+bool CommandRunner::fireCommand(const core::Ptr<CommandEvent>& event) {
+    const Counting notifying(notifying_);
+    return event->fire(make<CommandArguments>(event, active_));
+}
+
+}  // namespace host::ui

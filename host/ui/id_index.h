@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace host::ui {
+
+class InputState;
+
+/// Finds the inputs of one collection by their ids.
+///
+/// Ids may repeat: inputs of one id hang on a chain in the order they were added, and the first one
+/// is found. Adding, removing and finding take constant time, and an input costs two pointers here.
+class IdIndex {
+public:
+    /// Adds an input behind the others of its id.
+    void add(InputState& input);
+
+    void remove(InputState& input);
+
+    /// The first input of this id, null where there is none.
+    [[nodiscard]] InputState* find(const std::string& id) const;
+
+    void clear();
+
+private:
+    [[nodiscard]] std::size_t placeOf(const std::string& id, std::size_t hash) const;
+    void grow();
+    void vacate(std::size_t place);
+
+    std::vector<InputState*> firsts_;  ///< open addressing; the size is a power of two
+    std::size_t used_ = 0;
+};
+
+}  // namespace host::ui

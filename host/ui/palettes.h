@@ -1,0 +1,93 @@
+#pragma once
+
+#include "host/ui/misuse.h"
+
+#include <Core/Palettes.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace host::ui {
+
+namespace core = adsk::core;
+
+class Palettes;
+
+/// What a palette shows and where it stands, in pixels.
+struct PaletteState {
+    std::string id;
+    std::string name;
+    std::string htmlFileURL;
+    bool visible = true;
+    bool closeButton = true;
+    bool resizable = true;
+    core::PaletteDockingStates dockingState = core::PaletteDockStateFloating;
+    core::PaletteDockingOptions dockingOption = core::PaletteDockOptionsToVerticalAndHorizontal;
+    int left = 0;
+    int top = 0;
+    int width = 200;
+    int height = 200;
+};
+
+class Palette final : public Object<core::Palette> {
+public:
+    Palette(Palettes* owner, PaletteState initial) : state(std::move(initial)), owner_(owner) {}
+
+    [[nodiscard]] std::string id() const override;
+    [[nodiscard]] std::string name() const override;
+    bool name(const std::string& value) override;
+    [[nodiscard]] std::string htmlFileURL() const override;
+    bool htmlFileURL(const std::string& value) override;
+    [[nodiscard]] bool isVisible() const override;
+    bool isVisible(bool value) override;
+    [[nodiscard]] core::PaletteDockingStates dockingState() const override;
+    bool dockingState(core::PaletteDockingStates value) override;
+    [[nodiscard]] core::PaletteDockingOptions dockingOption() const override;
+    bool dockingOption(core::PaletteDockingOptions value) override;
+    [[nodiscard]] int left() const override;
+    bool left(int value) override;
+    [[nodiscard]] int top() const override;
+    bool top(int value) override;
+    [[nodiscard]] int width() const override;
+    bool width(int value) override;
+    [[nodiscard]] int height() const override;
+    bool height(int value) override;
+    bool setPosition(int left, int top) override;
+    bool setSize(int width, int height) override;
+    bool deleteMe() override;
+
+    [[nodiscard]] const std::string& identifier() const { return state.id; }
+    void dispose();
+
+    PaletteState state;
+
+private:
+    void resize(int width, int height);
+
+    Palettes* owner_;
+};
+
+class Palettes final : public Object<core::Palettes> {
+public:
+    Palettes() = default;
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] core::Ptr<core::Palette> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::Palette> itemById(const std::string& id) const override;
+    core::Ptr<core::Palette> add(const std::string& id, const std::string& name,
+                                 const std::string& htmlFileURL, bool isVisible,
+                                 bool showCloseButton, bool isResizable, int width, int height,
+                                 bool useNewWebBrowser) override;
+
+    [[nodiscard]] const std::vector<core::Ptr<Palette>>& all() const { return all_; }
+    [[nodiscard]] core::Ptr<Palette> find(const std::string& id) const;
+    void remove(Palette& palette);
+    void dispose();
+
+private:
+    std::vector<core::Ptr<Palette>> all_;
+};
+
+}  // namespace host::ui

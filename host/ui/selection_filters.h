@@ -1,0 +1,16 @@
+#pragma once
+
+#include <Core/Base.h>
+
+#include <string>
+
+/// The kinds of entities that a selection input can be limited to.
+namespace host::ui {
+
+/// Whether the host knows a filter of this name.
+bool isSelectionFilter(const std::string& name);
+
+/// Whether an entity is of the kind that a filter names.
+bool passesFilter(const adsk::core::Ptr<adsk::core::Base>& entity, const std::string& filter);
+
+}  // namespace host::ui

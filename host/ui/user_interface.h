@@ -1,0 +1,98 @@
+#pragma once
+
+#include "host/ui/command_runner.h"
+#include "host/ui/host_setup.h"
+#include "host/ui/marking_menu.h"
+#include "host/ui/palettes.h"
+#include "host/ui/selections.h"
+#include "host/ui/workspaces.h"
+
+#include <Core/UserInterface.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace host::ui {
+
+/// How the host keeps and gives back states of the model, for previews and failed executions. Both
+/// are empty in a host that cannot.
+struct ModelHistory {
+    std::function<void()> mark;      ///< keeps the state as it is
+    std::function<void()> takeBack;  ///< returns to the state that was marked last
+};
+
+class UserInterface final : public Object<core::UserInterface> {
+public:
+    explicit UserInterface(const HostSetup& setup);
+
+    [[nodiscard]] core::Ptr<core::Workspaces> workspaces() const override;
+    [[nodiscard]] core::Ptr<core::Workspace> activeWorkspace() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanelList> allToolbarPanels() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarTabList> toolbarTabsByProductType(
+        const std::string& productType) const override;
+    [[nodiscard]] core::Ptr<core::Palettes> palettes() const override;
+    [[nodiscard]] core::Ptr<core::CommandDefinitions> commandDefinitions() const override;
+    [[nodiscard]] core::Ptr<core::Selections> activeSelections() const override;
+    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandStarting() const override;
+    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandCreated() const override;
+    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandTerminated() const override;
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreActivate() const override;
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceActivated() const override;
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreDeactivate() const override;
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceDeactivated() const override;
+    [[nodiscard]] core::Ptr<core::MarkingMenuEvent> markingMenuDisplaying() const override;
+    core::DialogResults messageBox(const std::string& text, const std::string& title,
+                                   core::MessageBoxButtonTypes buttons,
+                                   core::MessageBoxIconTypes icon) override;
+    core::Ptr<core::FileDialog> createFileDialog() override;
+    core::Ptr<core::ProgressDialog> createProgressDialog() override;
+    bool terminateActiveCommand() override;
+    [[nodiscard]] std::string activeCommand() const override;
+
+    /// @name For the host itself
+    /// @{
+    [[nodiscard]] CommandRunner& runner() { return runner_; }
+    [[nodiscard]] Workspaces& spaces() const { return *workspaces_; }
+    [[nodiscard]] CommandDefinitions& definitions() const { return *definitions_; }
+    [[nodiscard]] Palettes& allPalettes() const { return *palettes_; }
+    [[nodiscard]] Selections& selections() const { return *selections_; }
+
+    /// How often the active document's model was changed.
+    [[nodiscard]] std::uint64_t editsOfModel() const;
+
+    /// The workspace is about to change: the running command is cancelled.
+    void leaveWorkspace();
+
+    void dispose();
+
+    ModelHistory history;
+
+    /// The sizes that a person gave to dialogs, by the ids of their commands.
+    std::map<std::string, DialogSize> rememberedSizes;
+
+    const core::Ptr<ApplicationEvent> startingEvent;
+    const core::Ptr<ApplicationEvent> createdEvent;
+    const core::Ptr<ApplicationEvent> terminatedEvent;
+    const core::Ptr<WorkspaceEvent> preActivateEvent;
+    const core::Ptr<WorkspaceEvent> activatedEvent;
+    const core::Ptr<WorkspaceEvent> preDeactivateEvent;
+    const core::Ptr<WorkspaceEvent> deactivatedEvent;
+    const core::Ptr<MarkingMenuEvent> menuEvent;
+    /// @}
+
+private:
+    void furnish(const HostSetup& setup);
+
+    CommandRunner runner_;
+    core::Ptr<CommandDefinitions> definitions_;
+    core::Ptr<Workspaces> workspaces_;
+    core::Ptr<ToolbarPanelList> panels_;
+    mutable std::vector<core::Ptr<ToolbarTabList>> tabLists_;  ///< one for each type asked for
+    core::Ptr<Palettes> palettes_;
+    core::Ptr<Selections> selections_;
+};
+
+}  // namespace host::ui
