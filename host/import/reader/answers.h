@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/import/reader/assembly.h"
+
+#include <TopTools_IndexedMapOfShape.hxx>
+
+#include <nlohmann/json.hpp>
+
+#include <istream>
+
+/// What the reader says, a line of JSON each, in this order:
+///
+///     {"progress": {"stage": "Reading", "fraction": 0}}      any number of times
+///     {"faults": "..."}                                      what may explain a crash from here on
+///     {"warning": "..."}                                     any number of times
+///     {"error": "..."}   and it ends, or
+///     {"design": {...}}  and it answers requests until its input ends:
+///
+///     measure SHAPE                  {"area": cm2, "volume": cm3}
+///     box SHAPE C0 ... C11           {"min": [x, y, z], "max": [x, y, z]} in cm, or {} without
+///     extent
+///
+/// C0 to C11 are the first three rows of a placement, translation in cm. An answer that cannot be
+/// worked out is {"error": "..."}.
+namespace step {
+
+/// Sends one line to whoever started the program.
+void say(const nlohmann::json& line);
+
+/// The tree with the components that its roots lead to.
+nlohmann::json designOf(const Assembly& assembly);
+
+/// Answers requests until there are no more.
+void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes);
+
+}  // namespace step

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "host/import/reader/materials.h"
+#include "host/import/reader/step_file.h"
+
+#include <StepBasic_ProductDefinition.hxx>
+#include <StepRepr_NextAssemblyUsageOccurrence.hxx>
+#include <gp_Trsf.hxx>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The assembly tree of a STEP file and of the files that it refers to.
+///
+/// It is read from the file's own entities (product definitions and their usages) and not from the
+/// tree of shapes that Open CASCADE makes of them: there a part of several bodies turns into an
+/// assembly, and products are told apart by their names.
+namespace step {
+
+/// One use of a component below another.
+struct Use {
+    std::size_t component = 0;
+    Handle(StepRepr_NextAssemblyUsageOccurrence) usage;  ///< null for a root of another file
+    gp_Trsf placement;                                   ///< in mm, once shapes are built
+};
+
+/// One product definition.
+struct Component {
+    std::string id;
+    std::string name;
+    std::string description;
+    std::optional<Material> material;
+    std::vector<Use> uses;
+    std::size_t file = 0;  ///< the file that it stands in
+    Handle(StepBasic_ProductDefinition) definition;
+    bool described = false;              ///< whether the file gives it a shape representation
+    int shape = -1;                      ///< its bodies, once shapes are built; -1 without any
+    std::optional<std::size_t> content;  ///< the component of another file that fills it
+};
+
+struct Assembly {
+    std::vector<Component> components;
+    std::vector<std::size_t> roots;
+    std::vector<std::unique_ptr<StepFile>> files;  ///< the first is the one that was asked for
+    std::vector<std::string> warnings;
+};
+
+/// How large a tree may become.
+struct TreeLimits {
+    std::size_t occurrences = 0;  ///< below the root, every use in context counted
+    std::size_t levels = 0;
+};
+
+/// Reads a file and the files it refers to, without building shapes. Raises `ReadError` for a file
+/// that is damaged or holds no product, a product or file that contains itself, and a tree beyond
+/// the limits. A referenced file that is missing or damaged is a warning; its product stays empty.
+Assembly readAssembly(const std::filesystem::path& file, const TreeLimits& limits);
+
+}  // namespace step

@@ -1,0 +1,82 @@
+#include "host/import/reader/answers.h"
+#include "host/import/reader/assembly.h"
+#include "host/import/reader/bounds_of_process.h"
+#include "host/import/reader/shapes.h"
+
+#include <Message_ProgressIndicator.hxx>
+#include <Standard_Failure.hxx>
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <new>
+#include <string>
+
+/// step-reader FILE OCCURRENCES LEVELS SECONDS MEGABYTES
+///
+/// Reads a STEP file, tells what it holds, and answers questions about its shapes; see answers.h.
+/// It is a program of its own so that a file which makes Open CASCADE crash, hang or grow without
+/// end takes down nothing but this.
+namespace {
+
+class Progress final : public Message_ProgressIndicator {
+    DEFINE_STANDARD_RTTI_INLINE(Progress, Message_ProgressIndicator)
+
+protected:
+    void Show(const Message_ProgressScope& /*scope*/, Standard_Boolean /*force*/) override {
+        const double position = GetPosition();
+        if (position >= shown_ + 0.01) {
+            shown_ = position;
+            step::say({{"progress", {{"stage", "Building"}, {"fraction", position}}}});
+        }
+    }
+
+private:
+    double shown_ = 0;
+};
+
+void run(const std::string& file, const step::TreeLimits& limits) {
+    step::say({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
+    step::Assembly assembly = step::readAssembly(file, limits);
+    if (!assembly.files.front()->faults.empty()) {
+        step::say({{"faults", assembly.files.front()->faults}});
+    }
+    const Handle(Progress) progress = new Progress;
+    const TopTools_IndexedMapOfShape shapes = step::buildShapes(assembly, progress->Start());
+    step::say({{"progress", {{"stage", "Building"}, {"fraction", 1}}}});
+    for (const std::string& warning : assembly.warnings) {
+        step::say({{"warning", warning}});
+    }
+    step::say({{"design", step::designOf(assembly)}});
+    step::answerRequests(std::cin, shapes);
+}
+
+int runOrTell(const std::string& file, const step::TreeLimits& limits) {
+    try {
+        run(file, limits);
+        return EXIT_SUCCESS;
+    } catch (const step::ReadError& error) {
+        step::say({{"error", error.what()}});
+    } catch (const std::bad_alloc&) {
+        step::say({{"error", "needs more memory than it may use"}});
+    } catch (const Standard_Failure& failure) {
+        step::say({{"error", std::string("cannot be built: ") + failure.GetMessageString()}});
+    } catch (const std::exception& error) {
+        step::say({{"error", std::string("cannot be read: ") + error.what()}});
+    }
+    return EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    if (count != 6) {
+        std::cerr << "usage: step-reader FILE OCCURRENCES LEVELS SECONDS MEGABYTES\n";
+        return EXIT_FAILURE;
+    }
+    std::ios::sync_with_stdio(false);
+    step::endWithStarter();
+    step::boundProcess(std::stoul(arguments[4]), std::stoul(arguments[5]));
+    const step::TreeLimits limits = {std::stoul(arguments[2]), std::stoul(arguments[3])};
+    step::endProcess(runOrTell(arguments[1], limits));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/import/reader/assembly.h"
+
+#include <Message_ProgressRange.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+
+namespace step {
+
+/// Builds the shapes of an assembly: fills in placements and the shape numbers of its components,
+/// and returns the shapes (number 0 is the first). Components with the same shape share a number.
+///
+/// A component's bodies are its solids; where it has none, its free faces. Curves and points that
+/// stand beside them are construction and no bodies. What hangs below it by a usage is not its own.
+TopTools_IndexedMapOfShape buildShapes(Assembly& assembly, const Message_ProgressRange& progress);
+
+}  // namespace step

@@ -1,0 +1,161 @@
+#include "host/import/reader/step_file.h"
+
+#include <Interface_Check.hxx>
+#include <Message.hxx>
+#include <Message_Messenger.hxx>
+#include <Message_Printer.hxx>
+#include <TColStd_SequenceOfAsciiString.hxx>
+#include <XSControl_WorkSession.hxx>
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace step {
+namespace {
+
+/// "Line 9: Incorrect syntax: unexpected ';'" as a clause. Open CASCADE counts the lines from 2.
+std::string plainPlace(std::string_view place) {
+    constexpr std::string_view kLine = "Line ";
+    constexpr std::string_view kSyntax = ": Incorrect syntax: ";
+    const std::size_t syntax = place.find(kSyntax);
+    int line = 0;
+    if (!place.starts_with(kLine) || syntax == std::string_view::npos ||
+        std::from_chars(place.data() + kLine.size(), place.data() + syntax, line).ec !=
+            std::errc()) {
+        return std::string(place);
+    }
+    return std::to_string(line - 1)
+        .insert(0, "line ")
+        .append(": ")
+        .append(place.substr(syntax + kSyntax.size()));
+}
+
+/// Listens to what Open CASCADE says while it reads.
+class Listener final : public Message_Printer {
+    DEFINE_STANDARD_RTTI_INLINE(Listener, Message_Printer)
+
+public:
+    std::vector<std::string> syntax;  ///< places where the text is no STEP, in their order
+    std::size_t unresolved = 0;       ///< references to entities that are not there
+
+protected:
+    void send(const TCollection_AsciiString& message,
+              const Message_Gravity /*gravity*/) const override {
+        // A const interface over what is a record here.
+        const_cast<Listener*>(this)->note(message.ToCString());
+    }
+
+private:
+    void note(std::string_view message) {
+        constexpr std::string_view kParsing = "Undefined Parsing: ";
+        const std::size_t at = message.find(kParsing);
+        if (at != std::string_view::npos) {
+            message.remove_prefix(at + kParsing.size());
+            const std::string place =
+                plainPlace(message.substr(0, message.find_last_not_of(" *\n") + 1));
+            if (std::find(syntax.begin(), syntax.end(), place) == syntax.end()) {
+                syntax.push_back(place);
+            }
+        } else if (message.find("Not found") != std::string_view::npos) {
+            ++unresolved;
+        }
+    }
+};
+
+/// Makes the listener the only one whom Open CASCADE talks to, for as long as it lives.
+class Listening {
+public:
+    Listening() : listener(new Listener) {
+        listener->SetTraceLevel(Message_Trace);
+        Message::DefaultMessenger()->ChangePrinters().Clear();
+        Message::DefaultMessenger()->AddPrinter(listener);
+    }
+    Listening(const Listening&) = delete;
+    Listening& operator=(const Listening&) = delete;
+    ~Listening() { Message::DefaultMessenger()->RemovePrinter(listener); }
+
+    Handle(Listener) listener;
+};
+
+std::string contentOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) {
+        throw ReadError("cannot be opened");
+    }
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+std::string count(std::size_t number, const std::string& one, const std::string& several) {
+    return std::to_string(number) + " " + (number == 1 ? one : several);
+}
+
+/// What the check of the loaded entities says, the first complaint in words.
+std::string complaints(const StepData_StepModel& model) {
+    std::size_t faulty = 0;
+    std::string first;
+    for (int number = 1; number <= model.NbEntities(); ++number) {
+        const Handle(Interface_Check) check = model.Check(number, /*syntactic=*/true);
+        if (!check->HasFailed()) {
+            continue;
+        }
+        if (faulty++ == 0) {
+            first = check->CFail(1, /*final=*/true);
+            first += " (#" + std::to_string(model.IdentLabel(model.Value(number))) + ")";
+        }
+    }
+    return faulty == 0 ? ""
+                       : count(faulty, "faulty entity", "faulty entities") + ", first " + first;
+}
+
+}  // namespace
+
+StepFile::StepFile(const std::filesystem::path& file) : path(file), texts(contentOf(file)) {
+    const Listening listening;
+    const IFSelect_ReturnStatus status = reader.ReadFile(path.c_str());
+    const std::vector<std::string>& syntax = listening.listener->syntax;
+    if (!syntax.empty()) {
+        throw ReadError("is cut off or damaged (" +
+                        count(syntax.size(), "syntax error", "syntax errors") + ", " +
+                        syntax.front() + "); export it again");
+    }
+    model = Handle(StepData_StepModel)::DownCast(reader.WS()->Model());
+    if (status != IFSelect_RetDone || model.IsNull()) {
+        throw ReadError("cannot be read as STEP; export it again");
+    }
+    faults = complaints(*model);
+    if (const std::size_t missing = listening.listener->unresolved; missing > 0) {
+        warning = count(missing, "reference leads", "references lead") +
+                  " to an entity that is missing; what needs it is left out";
+    }
+}
+
+int StepFile::label(const Handle(Standard_Transient) & entity) const {
+    return model->IdentLabel(entity);
+}
+
+std::string StepFile::unit() {
+    static const std::map<std::string, std::string> kShort = {
+        {"millimetre", "mm"}, {"centimetre", "cm"}, {"metre", "m"},       {"inch", "in"},
+        {"foot", "ft"},       {"micrometre", "um"}, {"kilometre", "km"},  {"decimetre", "dm"},
+        {"mile", "mi"},       {"nanometre", "nm"},  {"microinch", "uin"}, {"mil", "mil"}};
+    TColStd_SequenceOfAsciiString lengths;
+    TColStd_SequenceOfAsciiString angles;
+    TColStd_SequenceOfAsciiString solidAngles;
+    reader.FileUnits(lengths, angles, solidAngles);
+    if (lengths.IsEmpty()) {
+        return {};
+    }
+    TCollection_AsciiString name = lengths.First();
+    name.LowerCase();
+    const auto found = kShort.find(name.ToCString());
+    return found == kShort.end() ? name.ToCString() : found->second;
+}
+
+}  // namespace step

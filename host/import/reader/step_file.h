@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/import/reader/part21_texts.h"
+
+#include <STEPControl_Reader.hxx>
+#include <StepData_StepModel.hxx>
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace step {
+
+/// What is wrong with a file, in words that go behind its name.
+class ReadError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One STEP file, read and not yet turned into shapes.
+class StepFile {
+public:
+    /// Reads it; raises `ReadError` when the text is not intact. Open CASCADE leaves out what it
+    /// cannot parse and reports success, so its messages are looked at as well as its status.
+    explicit StepFile(const std::filesystem::path& file);
+
+    /// The label of an entity in the file, the number behind "#".
+    [[nodiscard]] int label(const Handle(Standard_Transient) & entity) const;
+
+    /// "mm", "cm", "m", "in" ...: the length unit that most of the file is in; empty if it tells
+    /// none.
+    std::string unit();
+
+    std::filesystem::path path;
+    STEPControl_Reader reader;
+    Handle(StepData_StepModel) model;
+    Part21Texts texts;
+    std::string faults;   ///< entities that are not as their schema wants them, empty if none
+    std::string warning;  ///< what a person should know, empty if nothing
+};
+
+}  // namespace step
