@@ -1,0 +1,124 @@
+#include "host/import/reader_process.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <iterator>
+
+namespace {
+
+using host::ReaderFailure;
+using host::ReaderProcess;
+
+constexpr ReaderProcess::Bounds kEnough = {30, 1000};
+
+/// Why there is no answer; empty when there is one.
+std::string failureOf(ReaderProcess& process) {
+    try {
+        process.receive();
+    } catch (const ReaderFailure& failure) {
+        return failure.what();
+    }
+    return {};
+}
+
+std::string failureOf(const std::string& script, const ReaderProcess::Bounds& bounds = kEnough) {
+    ReaderProcess process("/bin/sh", {"-c", script}, bounds);
+    return failureOf(process);
+}
+
+std::ptrdiff_t openFiles() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
+TEST(ReaderProcess, LinesGoThereAndBack) {
+    ReaderProcess process("/bin/cat", {}, kEnough);
+
+    process.send("one");
+    process.send("two");
+
+    EXPECT_EQ(process.receive(), "one");
+    EXPECT_EQ(process.receive(), "two");
+}
+
+TEST(ReaderProcess, ALineThatComesInPiecesIsOneLine) {
+    ReaderProcess process("/bin/sh", {"-c", "printf on; sleep 0.1; printf 'e\\ntwo\\n'"}, kEnough);
+
+    EXPECT_EQ(process.receive(), "one");
+    EXPECT_EQ(process.receive(), "two");
+}
+
+TEST(ReaderProcess, ACrashIsTold) {
+    EXPECT_EQ(failureOf("kill -SEGV $$"), "the reader crashed (Segmentation fault)");
+}
+
+TEST(ReaderProcess, AnEndWithoutAnAnswerIsTold) {
+    EXPECT_EQ(failureOf("exit 0"), "the reader ended without an answer");
+}
+
+TEST(ReaderProcess, TheLastLineBeforeTheEndIsHeard) {
+    ReaderProcess process("/bin/sh", {"-c", "echo last"}, kEnough);
+
+    EXPECT_EQ(process.receive(), "last");
+    EXPECT_EQ(failureOf(process), "the reader ended without an answer");
+}
+
+TEST(ReaderProcess, OneThatTakesTooLongIsEnded) {
+    EXPECT_EQ(failureOf("exec sleep 60", {0.2, 1000}), "the reader took longer than 0.2 seconds");
+}
+
+TEST(ReaderProcess, OneThatTalksForEverIsEnded) {
+    ReaderProcess process("/bin/sh", {"-c", "while :; do printf x; done"}, {0.2, 1000});
+
+    EXPECT_EQ(failureOf(process), "the reader took longer than 0.2 seconds");
+}
+
+TEST(ReaderProcess, OneThatGrowsTooLargeIsEnded) {
+    EXPECT_EQ(failureOf("exec tail /dev/zero", {30, 60}),
+              "the reader needed more than 60 megabytes of memory");
+}
+
+TEST(ReaderProcess, AFailureStays) {
+    ReaderProcess process("/bin/sh", {"-c", "kill -SEGV $$"}, kEnough);
+    failureOf(process);
+
+    process.send("again");
+
+    EXPECT_EQ(failureOf(process), "the reader crashed (Segmentation fault)");
+}
+
+TEST(ReaderProcess, AProgramThatIsMissingIsNamed) {
+    EXPECT_THROW(
+        {
+            try {
+                ReaderProcess process("/nowhere/reader", {}, kEnough);
+            } catch (const ReaderFailure& failure) {
+                EXPECT_STREQ(failure.what(),
+                             "the reader /nowhere/reader cannot be started (No such file or "
+                             "directory)");
+                throw;
+            }
+        },
+        ReaderFailure);
+}
+
+TEST(ReaderProcess, NothingIsInheritedButItsOwnThreeFiles) {
+    // Of a shell that lists its files, 3 is the listing itself.
+    ReaderProcess process("/bin/sh", {"-c", "echo $(ls /proc/self/fd)"}, kEnough);
+
+    EXPECT_EQ(process.receive(), "0 1 2 3");
+}
+
+TEST(ReaderProcess, NeitherProcessNorFileStaysBehind) {
+    const std::ptrdiff_t before = openFiles();
+    { const ReaderProcess process("/bin/sleep", {"60"}, kEnough); }
+
+    EXPECT_EQ(openFiles(), before);
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+}  // namespace
