@@ -1,0 +1,84 @@
+#include "host/import/step_geometry.h"
+
+#include "host/base/last_error.h"
+
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <charconv>
+#include <utility>
+
+namespace host {
+namespace {
+
+using nlohmann::json;
+
+constexpr int kOperationFailed = 5;  // GenericErrors::OperationFailed
+
+/// Asks, and notes a failure as the host's last error; an empty object then.
+json ask(ReaderProcess& reader, const std::string& request, const std::string& file) {
+    std::string reason;
+    try {
+        reader.startClock();
+        reader.send(request);
+        json answer = json::parse(reader.receive());
+        if (!answer.contains("error")) {
+            return answer;
+        }
+        reason = answer["error"];
+    } catch (const ReaderFailure& failure) {
+        reason = failure.what();
+    } catch (const json::exception& failure) {
+        reason = failure.what();
+    }
+    fail(kOperationFailed, file + ": a shape cannot be measured: " + reason);
+    return json::object();
+}
+
+/// All digits that tell the value, with a point whatever the process' locale is.
+void append(std::string& text, double value) {
+    std::array<char, 32> digits = {};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    text += ' ';
+    text.append(digits.data(), result.ptr);
+}
+
+}  // namespace
+
+StepGeometry::StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file)
+    : reader_(std::move(reader)), shape_(shape), file_(std::move(file)) {}
+
+double StepGeometry::area() {
+    measure();
+    return area_;
+}
+
+double StepGeometry::volume() {
+    measure();
+    return volume_;
+}
+
+std::optional<Box> StepGeometry::box(const Transform& placement) {
+    std::string request = "box " + std::to_string(shape_);
+    for (std::size_t cell = 0; cell < 12; ++cell) {
+        append(request, placement.cells[cell]);
+    }
+    const json answer = ask(*reader_, request, file_);
+    if (!answer.contains("min")) {
+        return std::nullopt;
+    }
+    return Box{answer["min"].get<std::array<double, 3>>(),
+               answer["max"].get<std::array<double, 3>>()};
+}
+
+void StepGeometry::measure() {
+    if (measured_) {
+        return;
+    }
+    measured_ = true;
+    const json answer = ask(*reader_, "measure " + std::to_string(shape_), file_);
+    area_ = answer.value("area", 0.0);
+    volume_ = answer.value("volume", 0.0);
+}
+
+}  // namespace host

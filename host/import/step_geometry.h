@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/design/design_data.h"
+#include "host/import/reader_process.h"
+
+#include <memory>
+#include <string>
+
+namespace host {
+
+/// A shape that a reader holds: it is asked when somebody wants to know its size, once.
+class StepGeometry final : public Geometry {
+public:
+    /// The number of the shape is the reader's; `file` names the source where a failure is told.
+    StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file);
+
+    double area() override;
+    double volume() override;
+    std::optional<Box> box(const Transform& placement) override;
+
+private:
+    void measure();
+
+    std::shared_ptr<ReaderProcess> reader_;
+    int shape_;
+    std::string file_;
+    bool measured_ = false;
+    double area_ = 0;
+    double volume_ = 0;
+};
+
+}  // namespace host

@@ -1,0 +1,190 @@
+#include "host/import/step_import.h"
+
+#include "host/design/design_check.h"
+#include "host/import/design_naming.h"
+#include "host/import/file_check.h"
+#include "host/import/reader_process.h"
+#include "host/import/reader_program.h"
+#include "host/import/step_geometry.h"
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <map>
+#include <utility>
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+/// Waits for the design and hands on what is told on the way.
+class Listening {
+public:
+    Listening(ReaderProcess& reader, const std::string& path, const ImportProgress& progress,
+              std::vector<std::string>& warnings)
+        : reader_(reader), path_(path), progress_(progress), warnings_(warnings) {}
+
+    json design() {
+        try {
+            for (;;) {
+                json line = json::parse(reader_.receive());
+                if (line.contains("design")) {
+                    return std::move(line["design"]);
+                }
+                hear(line);
+            }
+        } catch (const ReaderFailure& failure) {
+            throw ImportError(path_ + ": " + failure.what() + " at the stage \"" + stage_ + "\"" +
+                              (faults_.empty() ? "" : "; the file has " + faults_) +
+                              "; export it again, or open a part of it");
+        } catch (const json::exception&) {
+            throw ImportError(path_ + ": the reader gave no sense; export the file again");
+        }
+    }
+
+private:
+    void hear(const json& line) {
+        if (line.contains("error")) {
+            throw ImportError(path_ + ": " + line["error"].get<std::string>());
+        }
+        if (line.contains("warning")) {
+            warnings_.push_back(path_ + ": " + line["warning"].get<std::string>());
+        }
+        faults_ = line.value("faults", faults_);
+        if (line.contains("progress")) {
+            stage_ = line["progress"]["stage"];
+            if (progress_) {
+                progress_(stage_, line["progress"]["fraction"]);
+            }
+        }
+    }
+
+    ReaderProcess& reader_;
+    const std::string& path_;
+    const ImportProgress& progress_;
+    std::vector<std::string>& warnings_;
+    std::string stage_ = "Starting";
+    std::string faults_;
+};
+
+std::vector<std::string> argumentsFor(const fs::path& file, const ImportLimits& limits) {
+    // The reader bounds its own processor time as well; that is spent on measurements too, so it
+    // gets some of it for these.
+    const auto seconds = static_cast<std::size_t>(limits.seconds) * 10 + 10;
+    return {file.string(), std::to_string(limits.occurrences), std::to_string(kMaximumLevels),
+            std::to_string(seconds), std::to_string(limits.megabytes)};
+}
+
+OccurrenceData occurrenceOf(const json& use) {
+    OccurrenceData occurrence;
+    occurrence.component = use.at("component");
+    const json& cells = use.at("placement");
+    for (std::size_t cell = 0; cell < 12; ++cell) {
+        occurrence.transform.cells[cell] = cells.at(cell);
+    }
+    return occurrence;
+}
+
+/// Makes the components; the ones that share a shape share its geometry.
+class Components {
+public:
+    Components(std::shared_ptr<ReaderProcess> reader, std::string path)
+        : reader_(std::move(reader)), path_(std::move(path)) {}
+
+    ImportedComponent make(const json& from) {
+        ImportedComponent component{from.at("id"), from.at("name"), {}};
+        component.data.description = from.at("description");
+        component.data.material = materialOf(from);
+        for (const json& use : from.at("uses")) {
+            component.data.children.push_back(occurrenceOf(use));
+        }
+        if (const int shape = from.at("shape"); shape >= 0) {
+            std::shared_ptr<Geometry>& geometry = geometries_[shape];
+            if (geometry == nullptr) {
+                geometry = std::make_shared<StepGeometry>(reader_, shape, path_);
+            }
+            component.data.geometry = geometry;
+        }
+        return component;
+    }
+
+private:
+    static MaterialData materialOf(const json& from) {
+        MaterialData material = defaultMaterial();
+        if (const std::string name = from.value("material", ""); !name.empty()) {
+            material.name = name;
+        }
+        material.density = from.value("density", material.density);
+        return material;
+    }
+
+    std::shared_ptr<ReaderProcess> reader_;
+    std::string path_;
+    std::map<int, std::shared_ptr<Geometry>> geometries_;
+};
+
+/// Puts a root component of the file's name above several roots.
+void joinRoots(std::vector<ImportedComponent>& components, const json& roots,
+               const std::string& name) {
+    if (roots.size() == 1) {
+        return;
+    }
+    ImportedComponent top{"", name, {}};
+    top.data.material = defaultMaterial();
+    for (ImportedComponent& component : components) {
+        for (OccurrenceData& child : component.data.children) {
+            ++child.component;
+        }
+    }
+    for (const json& root : roots) {
+        top.data.children.push_back({root.get<std::size_t>() + 1, 1, {}, false, false});
+    }
+    components.insert(components.begin(), std::move(top));
+}
+
+DesignData designFrom(const json& read, const fs::path& given, const fs::path& file,
+                      const std::shared_ptr<ReaderProcess>& reader) {
+    DesignData design;
+    design.name = given.stem().string();
+    design.unit = read.at("unit");
+    Components maker(reader, given.string());
+    std::vector<ImportedComponent> components;
+    for (const json& component : read.at("components")) {
+        components.push_back(maker.make(component));
+    }
+    joinRoots(components, read.at("roots"), design.name);
+    design.components = named(std::move(components));
+    std::vector<fs::path> files;
+    for (const json& name : read.at("files")) {
+        files.emplace_back(name.get<std::string>());
+    }
+    design.source = SourceFile{file.string(), fingerprintOf(files)};
+    return design;
+}
+
+}  // namespace
+
+MaterialData defaultMaterial() { return {"Steel", 0.00785}; }
+
+DesignData importStep(const std::string& path, const ImportLimits& limits,
+                      const ImportProgress& progress, std::vector<std::string>& warnings) {
+    const fs::path file = checkStepFile(path);
+    std::shared_ptr<ReaderProcess> reader;
+    try {
+        reader = std::make_shared<ReaderProcess>(
+            findStepReader(), argumentsFor(file, limits),
+            ReaderProcess::Bounds{limits.seconds, limits.megabytes});
+    } catch (const ReaderFailure& failure) {
+        throw ImportError(path + ": " + failure.what());
+    }
+    const json read = Listening(*reader, path, progress, warnings).design();
+    try {
+        return designFrom(read, fs::path(path), file, reader);
+    } catch (const json::exception&) {
+        throw ImportError(path + ": the reader gave no sense; export the file again");
+    }
+}
+
+}  // namespace host

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "host/design/design_data.h"
+
+#include <cstddef>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// STEP in: a file of AP203, AP214 or AP242 becomes a design.
+///
+/// The file is read by a program of its own, `step-reader`, which stands beside the host's library
+/// or the running program. It is watched: one that crashes, takes too long or grows too large is an
+/// error line here and nothing else. It stays alive as long as a geometry of the design does, since
+/// shapes are measured when somebody asks: each shape once, however many components share it.
+///
+/// - A product definition becomes a component, a usage an occurrence. A single root product is the
+///   root component; several stand below a root component that bears the file's name.
+/// - Names are the products' names, made unique: a second "Document" is "Document (1)".
+/// - Part numbers are the products' ids, else the component names. Products that share both id and
+///   name with others say nothing by them; their part numbers are their component names.
+/// - A product without material is of the host's default material, one without density as dense.
+/// - Instance numbers count the uses of a component from the top of the opened tree to its end.
+namespace host {
+
+/// A file that cannot be opened: one line that names it, what is wrong, and what would be right.
+class ImportError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What an import may take before it is given up.
+struct ImportLimits {
+    double seconds = 300;              ///< for reading; the same again for each measurement
+    std::size_t megabytes = 3072;      ///< memory of the reading program
+    std::size_t occurrences = 200000;  ///< below the root, every use in context counted
+};
+
+/// Hears how far an import is: a stage ("Reading", "Building") and the part of it that is done.
+using ImportProgress = std::function<void(const std::string& stage, double fraction)>;
+
+/// The material of components that have none of their own.
+MaterialData defaultMaterial();
+
+/// Reads a STEP file. The path may be relative; an empty `progress` is not called. What a person
+/// should know although the design could be read is appended to `warnings`, one line each. Raises
+/// `ImportError`.
+///
+/// A measurement that fails later (the reader crashed, or took more than the limits allow) measures
+/// nothing: zero, or no box. The host's last error then tells why.
+DesignData importStep(const std::string& path, const ImportLimits& limits,
+                      const ImportProgress& progress, std::vector<std::string>& warnings);
+
+}  // namespace host

@@ -1,0 +1,14 @@
+#include "host/import/step_import.h"
+
+namespace host {
+
+MaterialData defaultMaterial() { return {"Steel", 0.00785}; }
+
+DesignData importStep(const std::string& path, const ImportLimits& /*limits*/,
+                      const ImportProgress& /*progress*/, std::vector<std::string>& /*warnings*/) {
+    throw ImportError(path +
+                      ": STEP files cannot be read on Windows, for want of Open CASCADE; "
+                      "open a design file (.json) instead");
+}
+
+}  // namespace host

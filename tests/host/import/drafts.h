@@ -1,0 +1,47 @@
+#pragma once
+
+#include "host/import/step_import.h"
+
+#include <filesystem>
+#include <string>
+
+/// STEP files for tests, written into a folder that goes with the test.
+namespace drafts {
+
+class Folder {
+public:
+    Folder();
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    ~Folder();
+
+    /// Writes a file; returns its path.
+    std::string write(const std::string& name, const std::string& bytes) const;
+
+    std::filesystem::path path;
+};
+
+/// A STEP file around entities that may use #1 (application), #2 (product context), #3 (definition
+/// context).
+std::string step(const std::string& entities);
+
+/// A product without geometry whose definition is `#number`; takes the two numbers behind it too.
+std::string product(int number, const std::string& id, const std::string& name);
+
+/// A use of one product definition below another, without a placement.
+std::string usage(int number, int parent, int child);
+
+/// What refers from a product definition to the file that holds its content; takes the numbers from
+/// `number` to `number` + 19.
+std::string reference(int number, int definition, const std::string& file);
+
+/// The design as a tree of names, each occurrence on a line of its own.
+std::string tree(const host::DesignData& design);
+
+/// Reads with default limits; what is warned of is dropped.
+host::DesignData import(const std::string& path);
+
+/// The line with which a file is refused; empty when it is read.
+std::string refusal(const std::string& path, const host::ImportLimits& limits = {});
+
+}  // namespace drafts

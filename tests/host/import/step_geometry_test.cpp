@@ -1,0 +1,58 @@
+#include "host/import/step_geometry.h"
+
+#include "host/base/last_error.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using host::ReaderProcess;
+using host::StepGeometry;
+
+/// A reader that gives prepared answers to whatever it is asked.
+StepGeometry answering(const std::string& script) {
+    return {std::make_shared<ReaderProcess>("/bin/sh", std::vector<std::string>{"-c", script},
+                                            ReaderProcess::Bounds{30, 1000}),
+            3, "a.step"};
+}
+
+TEST(StepGeometry, AShapeIsMeasuredOnce) {
+    StepGeometry geometry = answering(R"(read line; echo '{"area": 6, "volume": 1}')");
+
+    EXPECT_EQ(geometry.area(), 6);
+    EXPECT_EQ(geometry.volume(), 1);
+    EXPECT_EQ(geometry.area(), 6);
+}
+
+TEST(StepGeometry, ThePlacementGoesWithTheQuestionForTheBox) {
+    StepGeometry geometry = answering(
+        R"(read line; [ "$line" = "box 3 1 0 0 2.5 0 1 0 -1 0 0 1 1e-07" ] && echo '{"min": [1,2,3], "max": [4,5,6]}')");
+    host::Transform placement;
+    placement.cells[3] = 2.5;
+    placement.cells[7] = -1;
+    placement.cells[11] = 1e-7;
+
+    EXPECT_EQ(geometry.box(placement), (host::Box{{1, 2, 3}, {4, 5, 6}}));
+}
+
+TEST(StepGeometry, AShapeWithoutExtentHasNoBox) {
+    EXPECT_EQ(answering("read line; echo '{}'").box({}), std::nullopt);
+}
+
+TEST(StepGeometry, AReaderThatIsGoneMeasuresNothingAndSaysWhy) {
+    StepGeometry geometry = answering("read line; kill -SEGV $$");
+
+    EXPECT_EQ(geometry.volume(), 0);
+    EXPECT_EQ(host::lastError().description,
+              "a.step: a shape cannot be measured: the reader crashed (Segmentation fault)");
+    EXPECT_EQ(geometry.box({}), std::nullopt);
+}
+
+TEST(StepGeometry, AFailureInsideTheReaderIsTold) {
+    StepGeometry geometry = answering(R"(read line; echo '{"error": "no surface"}')");
+
+    EXPECT_EQ(geometry.area(), 0);
+    EXPECT_EQ(host::lastError().description, "a.step: a shape cannot be measured: no surface");
+}
+
+}  // namespace

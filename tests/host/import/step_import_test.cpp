@@ -1,0 +1,244 @@
+#include "host/import/step_import.h"
+
+#include "drafts.h"
+#include "samples/product.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+using drafts::import;
+using drafts::product;
+using drafts::step;
+using drafts::tree;
+using drafts::usage;
+using host::DesignData;
+using samples::Placement;
+using samples::rectangle;
+using samples::Solid;
+
+/// A plate of 10 x 20 x 5 mm on the plane z = 0, its middle above the origin.
+const Solid kPlate = {{{rectangle(10, 20), 5}}, {}};
+
+class StepImport : public testing::Test {
+protected:
+    DesignData importText(const std::string& text) {
+        return host::importStep(folder.write("Design.step", text), {}, {}, warnings);
+    }
+
+    drafts::Folder folder;
+    std::vector<std::string> warnings;
+};
+
+TEST_F(StepImport, ASingleRootProductIsTheRootComponent) {
+    const DesignData design =
+        importText(step(product(10, "A-1", "Frame") + product(20, "P", "Bar") + usage(30, 10, 20) +
+                        usage(31, 10, 20)));
+
+    EXPECT_EQ(tree(design),
+              "Frame\n"
+              "  Bar:1\n"
+              "  Bar:2\n");
+    EXPECT_EQ(design.components[0].partNumber, "A-1");
+    EXPECT_EQ(design.name, "Design");
+}
+
+TEST_F(StepImport, SeveralRootsStandBelowOneOfTheFilesName) {
+    EXPECT_EQ(tree(importText(
+                  samples::stepFile("x", {{"left", "A", "Left", "", {}, kPlate, {}},
+                                          {"pin", "C", "Pin", "", {}, kPlate, {}},
+                                          {"right", "B", "Right", "", {}, {}, {{"pin", {}}}}}))),
+              "Design\n"
+              "  Left:1\n"
+              "  Right:1\n"
+              "    Pin:1\n");
+}
+
+TEST_F(StepImport, AProductThatNobodyUsesAndThatHoldsNothingIsNoRootBesideOthers) {
+    // As AP242 files hold their materials.
+    EXPECT_EQ(tree(importText(step(product(10, "A", "Frame") + product(20, "P", "Bar") +
+                                   product(30, "M", "Steel") + usage(40, 10, 20)))),
+              "Frame\n"
+              "  Bar:1\n");
+}
+
+TEST_F(StepImport, PartsOfOneNameAreKeptApart) {
+    const DesignData design =
+        importText(step(product(10, "A", "Top") + product(20, "Document", "Document") +
+                        product(30, "Document", "Document") + usage(40, 10, 20) +
+                        usage(41, 10, 30) + usage(42, 10, 20)));
+
+    EXPECT_EQ(tree(design),
+              "Top\n"
+              "  Document:1\n"
+              "  Document (1):1\n"
+              "  Document:2\n");
+    EXPECT_EQ(design.components[1].partNumber, "Document");
+    EXPECT_EQ(design.components[2].partNumber, "Document (1)");
+}
+
+TEST_F(StepImport, AProductWithoutANameIsCalledByItsId) {
+    EXPECT_EQ(tree(importText(step(product(10, "P-7", "")))), "P-7\n");
+    EXPECT_EQ(tree(importText(step(product(10, "", "")))), "Component\n");
+}
+
+TEST_F(StepImport, PartsWithoutGeometryHaveNone) {
+    EXPECT_EQ(importText(step(product(10, "P", "Bar"))).components[0].geometry, nullptr);
+}
+
+TEST_F(StepImport, UsesWithoutAPlacementStandAtTheOrigin) {
+    const DesignData design =
+        importText(step(product(10, "A", "Top") + product(20, "P", "Bar") + usage(30, 10, 20)));
+
+    EXPECT_EQ(design.components[0].children[0].transform, host::Transform());
+}
+
+TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
+    const DesignData design = importText(step(product(10, "A", "Top") + product(20, "P", "Bar") +
+                                              usage(30, 10, 20) + usage(31, 10, 99)));
+
+    EXPECT_EQ(tree(design), "Top\n  Bar:1\n");
+    EXPECT_EQ(warnings,
+              (std::vector<std::string>{
+                  folder.path.string() + "/Design.step: 1 reference leads to an entity that is "
+                                         "missing; what needs it is left out",
+                  folder.path.string() + "/Design.step: places a product that is missing (#31); it "
+                                         "is left out",
+                  folder.path.string() + "/Design.step: tells no placement for 1 usage; it stands "
+                                         "at the origin"}));
+}
+
+TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {
+    const DesignData design = importText(samples::stepFile(
+        "x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
+              {"top", "A", "Top", "", {}, {}, {{"plate", {{10, 20, 30}, {0, 0, 1}, {0, 1, 0}}}}}}));
+
+    // A quarter turn around z: x points whereto y pointed.
+    EXPECT_EQ(design.components[0].children[0].transform.cells,
+              (std::array<double, 16>{0, -1, 0, 1, 1, 0, 0, 2, 0, 0, 1, 3, 0, 0, 0, 1}));
+}
+
+TEST_F(StepImport, SizesAreInCentimetres) {
+    const DesignData design =
+        importText(samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}}));
+    host::Geometry& plate = *design.components[0].geometry;
+
+    EXPECT_NEAR(plate.area(), 7, 1e-9);  // 2 x (1x2 + 1x0.5 + 2x0.5)
+    EXPECT_NEAR(plate.volume(), 1, 1e-9);
+    EXPECT_EQ(plate.box({}), (host::Box{{-0.5, -1, 0}, {0.5, 1, 0.5}}));
+}
+
+TEST_F(StepImport, TheBoxOfATurnedShapeIsExact) {
+    const DesignData design = importText(samples::stepFile(
+        "x", {{"disc", "P", "Disc", "", {}, Solid{{{samples::circle(10), 4}}, {}}, {}}}));
+    // A quarter turn around x and 5 cm along x: the disc stands upright.
+    const host::Transform upright = {{1, 0, 0, 5, 0, 0, -1, 0, 0, 1, 0, 0, 0, 0, 0, 1}};
+
+    const host::Box box = design.components[0].geometry->box(upright).value();
+
+    EXPECT_NEAR(box.min[0], 4, 1e-7);
+    EXPECT_NEAR(box.max[0], 6, 1e-7);
+    EXPECT_NEAR(box.min[1], -0.4, 1e-7);
+    EXPECT_NEAR(box.max[1], 0, 1e-7);
+    EXPECT_NEAR(box.min[2], -1, 1e-7);
+    EXPECT_NEAR(box.max[2], 1, 1e-7);
+}
+
+TEST_F(StepImport, AnAssemblyWithABodyOfItsOwnKeepsBoth) {
+    const DesignData design = importText(samples::stepFile(
+        "x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
+              {"top", "A", "Top", "", {}, Solid{{{rectangle(10, 10), 10}}, {}}, {{"plate", {}}}}}));
+
+    EXPECT_EQ(tree(design), "Top\n  Plate:1\n");
+    EXPECT_NEAR(design.components[0].geometry->volume(), 1, 1e-9);
+    EXPECT_NEAR(design.components[1].geometry->volume(), 1, 1e-9);
+}
+
+TEST_F(StepImport, AnAssemblyOfASinglePartHasNoBodyOfItsOwn) {
+    const DesignData design = importText(
+        samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
+                                {"top", "A", "Top", "", {}, {}, {{"plate", {{1, 2, 3}}}}}}));
+
+    EXPECT_EQ(design.components[0].geometry, nullptr);
+    EXPECT_NE(design.components[1].geometry, nullptr);
+}
+
+TEST_F(StepImport, MaterialsComeWithTheirDensity) {
+    const DesignData design = importText(samples::stepFile(
+        "x", {{"plate", "P", "Plate", "", samples::Material{"Litina", 7200}, kPlate, {}}}));
+
+    EXPECT_EQ(design.components[0].material, (host::MaterialData{"Litina", 0.0072}));
+}
+
+TEST_F(StepImport, WithoutAMaterialItIsSteel) {
+    EXPECT_EQ(importText(step(product(10, "P", "Bar"))).components[0].material,
+              (host::MaterialData{"Steel", 0.00785}));
+}
+
+TEST_F(StepImport, ADensityInGramPerCubicCentimetreIsConverted) {
+    const DesignData design = importText(
+        step(product(10, "P", "Bar") +
+             "#20=(MASS_UNIT()NAMED_UNIT(*)SI_UNIT($,.GRAM.));\n"
+             "#21=(LENGTH_UNIT()NAMED_UNIT(*)SI_UNIT(.CENTI.,.METRE.));\n"
+             "#22=DERIVED_UNIT_ELEMENT(#20,1.);\n#23=DERIVED_UNIT_ELEMENT(#21,-3.);\n"
+             "#24=DERIVED_UNIT((#22,#23));\n"
+             "#25=MEASURE_REPRESENTATION_ITEM('density measure',POSITIVE_RATIO_MEASURE(2.7),#24);\n"
+             "#26=REPRESENTATION('density',(#25),#27);\n#27=REPRESENTATION_CONTEXT('','');\n"
+             "#28=PROPERTY_DEFINITION('material property','density',#10);\n"
+             "#29=PROPERTY_DEFINITION_REPRESENTATION(#28,#26);\n"));
+
+    EXPECT_DOUBLE_EQ(design.components[0].material->density, 0.0027);
+}
+
+TEST_F(StepImport, AProductTakesItsContentFromAnotherFile) {
+    folder.write("sub/WHEEL.STEP", step(product(10, "W-1", "wheel file") +
+                                        product(20, "S", "Spoke") + usage(30, 10, 20)));
+    const DesignData design =
+        importText(step(product(10, "A", "Cart") + product(20, "W", "Wheel") + usage(30, 10, 20) +
+                        drafts::reference(40, 20, "sub\\\\wheel.step")));
+
+    EXPECT_EQ(tree(design), "Cart\n  Wheel:1\n    Spoke:1\n");
+}
+
+TEST_F(StepImport, TheUnitOfTheFileIsTold) {
+    EXPECT_EQ(
+        importText(samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}})).unit,
+        "mm");
+}
+
+TEST_F(StepImport, TheSourceTellsWhetherTheFileChanged) {
+    const DesignData first = importText(step(product(10, "P", "Bar")));
+    const DesignData again = importText(step(product(10, "P", "Bar")));
+    const DesignData changed = importText(step(product(10, "P", "Rod")));
+
+    EXPECT_EQ(first.source->path, std::filesystem::canonical(folder.path / "Design.step"));
+    EXPECT_EQ(first.source->fingerprint, again.source->fingerprint);
+    EXPECT_NE(first.source->fingerprint, changed.source->fingerprint);
+}
+
+TEST_F(StepImport, ProgressRunsFromReadingToBuilding) {
+    std::vector<std::pair<std::string, double>> heard;
+    host::importStep(
+        folder.write("a.step",
+                     samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}})),
+        {}, [&heard](const std::string& stage, double done) { heard.emplace_back(stage, done); },
+        warnings);
+
+    EXPECT_EQ(heard.front(), (std::pair<std::string, double>("Reading", 0)));
+    EXPECT_EQ(heard.back(), (std::pair<std::string, double>("Building", 1)));
+}
+
+TEST_F(StepImport, NoProcessOutlivesTheDesign) {
+    importText(samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}}));
+
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+}  // namespace

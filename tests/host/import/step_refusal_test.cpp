@@ -1,0 +1,163 @@
+#include "drafts.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <iterator>
+
+namespace {
+
+using drafts::product;
+using drafts::refusal;
+using drafts::step;
+using drafts::usage;
+
+class StepRefusal : public testing::Test {
+protected:
+    /// The line for a file of this content, without the path that it begins with.
+    std::string reason(const std::string& bytes, const host::ImportLimits& limits = {}) {
+        return withoutPath(folder.write("a.step", bytes), limits);
+    }
+
+    static std::string withoutPath(const std::string& path, const host::ImportLimits& limits = {}) {
+        const std::string line = refusal(path, limits);
+        EXPECT_EQ(line.substr(0, path.size() + 2), path + ": ");
+        return line.size() > path.size() + 2 ? line.substr(path.size() + 2) : line;
+    }
+
+    drafts::Folder folder;
+};
+
+/// A chain of assemblies of which each uses the next `uses` times.
+std::string chain(int length, int uses) {
+    std::string text;
+    for (int level = 0; level < length; ++level) {
+        text += product(10 + 10 * level, "", "Level " + std::to_string(level));
+        for (int use = 0; use < uses && level + 1 < length; ++use) {
+            text += usage(13 + 10 * level + use, 10 + 10 * level, 20 + 10 * level);
+        }
+    }
+    return step(text);
+}
+
+TEST_F(StepRefusal, AMissingFile) {
+    EXPECT_EQ(withoutPath((folder.path / "no.step").string()),
+              "there is no such file; the path of a STEP file is needed");
+}
+
+TEST_F(StepRefusal, AFolder) {
+    EXPECT_EQ(withoutPath(folder.path.string()), "is a folder; the path of a STEP file is needed");
+}
+
+TEST_F(StepRefusal, AFileThatMayNotBeRead) {
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "the superuser may read everything";
+    }
+    const std::string path = folder.write("a.step", step(product(10, "P", "Bar")));
+    ::chmod(path.c_str(), 0);
+
+    EXPECT_EQ(withoutPath(path),
+              "cannot be read (Permission denied); a file that you may read is needed");
+}
+
+TEST_F(StepRefusal, APipe) {
+    const std::string path = (folder.path / "pipe").string();
+    ::mkfifo(path.c_str(), 0600);
+
+    EXPECT_EQ(withoutPath(path), "is no ordinary file; the path of a STEP file is needed");
+}
+
+TEST_F(StepRefusal, AnEmptyFile) {
+    EXPECT_EQ(reason(""), "is empty; a STEP file begins with \"ISO-10303-21;\"");
+}
+
+TEST_F(StepRefusal, AFileOfAnotherKind) {
+    EXPECT_EQ(reason("PK\x03\x04 something else"),
+              "is no STEP file; such a file begins with \"ISO-10303-21;\"");
+    EXPECT_EQ(reason("/* a comment without an end ISO-10303-21;"),
+              "is no STEP file; such a file begins with \"ISO-10303-21;\"");
+}
+
+TEST_F(StepRefusal, AFileThatIsCutOff) {
+    const std::string text = step(product(10, "P", "Bar"));
+
+    EXPECT_EQ(reason(text.substr(0, text.find("FORMATION"))),
+              "is cut off or damaged (1 syntax error, line 12: unexpected end of "
+              "file, expecting '('); export it again");
+    EXPECT_EQ(reason(text.substr(0, text.find("ENDSEC;\nEND-ISO"))),
+              "is cut off or damaged (1 syntax error, line 14: unexpected end of "
+              "file, expecting ENDSEC or ENTITY); export it again");
+}
+
+TEST_F(StepRefusal, AFileThatIsDamagedInTheMiddle) {
+    // The lines behind are fine again; the parser goes on there.
+    EXPECT_EQ(reason(step(product(10, "P", "Bar") + "#20=POINT Dje((1.));\n" + "#30=POINT)1.);\n" +
+                          product(40, "P", "Rod"))),
+              "is cut off or damaged (2 syntax errors, line 14: unexpected TYPE, expecting '('); "
+              "export it again");
+}
+
+TEST_F(StepRefusal, AFileWithoutAProduct) {
+    EXPECT_EQ(reason(step("#10=CARTESIAN_POINT('',(0.,0.,0.));\n")),
+              "holds no product; export it as an assembly or a part (AP203, AP214 or AP242)");
+}
+
+TEST_F(StepRefusal, AssembliesThatContainEachOther) {
+    EXPECT_EQ(reason(step(product(10, "", "Hen") + product(20, "", "Egg") + usage(30, 10, 20) +
+                          usage(31, 20, 10))),
+              "holds an assembly that contains itself (Hen > Egg > Hen); such a tree has no end");
+}
+
+TEST_F(StepRefusal, AnAssemblyThatContainsItselfBelowARoot) {
+    EXPECT_EQ(reason(step(product(10, "", "Top") + product(20, "", "Egg") + usage(30, 10, 20) +
+                          usage(31, 20, 20))),
+              "holds an assembly that contains itself (Egg > Egg); such a tree has no end");
+}
+
+TEST_F(StepRefusal, ATreeWithMoreOccurrencesThanAllowed) {
+    // 2 + 4 + 8 occurrences below the root.
+    const std::string text = chain(4, 2);
+
+    EXPECT_EQ(reason(text, {300, 3072, 13}),
+              "would become more than 13 occurrences; open a part of the assembly, or raise the "
+              "limit");
+    EXPECT_EQ(refusal(folder.write("a.step", text), {300, 3072, 14}), "");
+}
+
+TEST_F(StepRefusal, ATreeThatDoublesAtEveryLevelIsCountedWithoutOpeningIt) {
+    EXPECT_EQ(
+        reason(chain(120, 2)),
+        "would become more than 200000 occurrences; open a part of the assembly, or raise the "
+        "limit");
+}
+
+TEST_F(StepRefusal, ATreeOfManyLevels) {
+    EXPECT_EQ(reason(chain(20000, 1)),
+              "nests assemblies more than 500 levels deep; open a part of the assembly");
+}
+
+TEST_F(StepRefusal, AFileThatTakesTooLong) {
+    EXPECT_EQ(
+        reason(step(product(10, "P", "Bar")), {0, 3072, 10}),
+        "the reader took longer than 0 seconds at the stage \"Starting\"; export it again, or "
+        "open a part of it");
+}
+
+TEST_F(StepRefusal, AFileThatTakesTooMuchMemory) {
+    EXPECT_EQ(reason(chain(400, 1), {300, 2, 1000}).substr(0, 49),
+              "the reader needed more than 2 megabytes of memory");
+}
+
+TEST_F(StepRefusal, AFileThatRefersToItself) {
+    EXPECT_EQ(reason(step(product(10, "A", "Cart") + drafts::reference(40, 10, "a.step"))),
+              "refers to a file that refers back to it; such a loop has no end");
+}
+
+TEST_F(StepRefusal, NothingButTheFileIsLeftBehind) {
+    reason(step("#10=CARTESIAN_POINT('',(0.,0.,0.));\n"));
+
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 1);
+}
+
+}  // namespace
