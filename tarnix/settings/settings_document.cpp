@@ -26,7 +26,7 @@ void addAttribute(const XmlDocument& document, const XmlNode& element, const std
 /// An element with one attribute that belongs to no parent yet.
 XmlNode makeElement(const XmlDocument& document, const std::string& elementName,
                     const std::string& attributeName, const std::string& attributeValue) {
-    const XmlNode element = document.createNode(XmlNodeType::Element, elementName);
+    XmlNode element = document.createNode(XmlNodeType::Element, elementName);
     addAttribute(document, element, attributeName, attributeValue);
     return element;
 }

@@ -19,8 +19,9 @@ namespace {
 bool isInstalled(const std::string& program) {
     const char* const folders = std::getenv("PATH");
     std::istringstream path(folders != nullptr ? folders : "");
-    for (std::string folder; std::getline(path, folder, ':');) {
-        if (::access((folder + "/" + program).c_str(), X_OK) == 0) {
+    for (std::string file; std::getline(path, file, ':');) {
+        file.append("/").append(program);
+        if (::access(file.c_str(), X_OK) == 0) {
             return true;
         }
     }
