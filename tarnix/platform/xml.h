@@ -125,8 +125,8 @@ public:
     /// in a path for parts of an address, and does not find such a file.
     bool load(const std::string& path);
 
-    /// Writes a file with nothing between the elements, and CR LF behind each child of the document
-    /// where the system's own DOM does so. Raises when the file cannot be written.
+    /// Writes a file with nothing between the elements. Windows keeps the encoding that the
+    /// document was read in, other systems write UTF-8. Raises when the file cannot be written.
     void save(const std::string& path) const;
 
     /// The root element, or nothing.

@@ -67,10 +67,9 @@ private:
             return;
         }
         std::string data = "version=\"" + asText(parser_.version) + "\"";
-        const xmlChar* const encoding =
-            parser_.encoding != nullptr ? parser_.encoding : parser_.input->encoding;
-        if (encoding != nullptr) {
-            data += " encoding=\"" + asText(encoding) + "\"";
+        // Whatever it was, the nodes are UTF-8 and are written so.
+        if (parser_.encoding != nullptr || parser_.input->encoding != nullptr) {
+            data += " encoding=\"UTF-8\"";
         }
         if (parser_.standalone >= 0) {
             data += parser_.standalone == 0 ? " standalone=\"no\"" : " standalone=\"yes\"";
