@@ -89,7 +89,7 @@ bool TableInput::addCommandInput(const core::Ptr<core::CommandInput>& input, int
         lines_.place(*state, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
         // Only now: an input that leaves the last row free would else take the row away that it is
         // to be put behind.
-        if (from == &from->table->toolbar_) {
+        if (from != nullptr && from == &from->table->toolbar_) {
             std::erase(from->cells, state);
         } else if (from != nullptr) {
             from->table->lines_.take(*from, at);
