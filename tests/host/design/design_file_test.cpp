@@ -218,11 +218,11 @@ TEST_F(DesignFile, WhatIsNoJsonIsRefused) {
     EXPECT_TRUE(complaint("{\"format\":").starts_with("is no design file: parse error at line 1"));
     EXPECT_TRUE(complaint("{\"a\": 1e999}").starts_with("is no design file: number overflow"));
     EXPECT_TRUE(complaint("{\"a\": \"\xff\"}").starts_with("is no design file: parse error"));
-    EXPECT_TRUE(complaint(std::string(1'000'000, '[')).starts_with("is no design file: parse"));
+    EXPECT_TRUE(complaint(std::string(200'000, '[')).starts_with("is no design file: parse"));
 }
 
 TEST_F(DesignFile, DeepNestingCostsNoStack) {
-    const std::string deep = std::string(1'000'000, '[') + std::string(1'000'000, ']');
+    const std::string deep = std::string(200'000, '[') + std::string(200'000, ']');
 
     EXPECT_EQ(complaint(deep), "the whole: should be an object");
     EXPECT_EQ(complaint(with(deep)), "components[0]: should be an object");

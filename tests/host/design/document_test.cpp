@@ -1,4 +1,5 @@
 #include "host/base/last_error.h"
+#include "host/base/object.h"
 #include "host/design/design_check.h"
 #include "tests/host/design/design_fixture.h"
 
@@ -48,6 +49,29 @@ TEST_F(DocumentTest, IsNotSavedAndHasNoFileAtFirst) {
     EXPECT_FALSE(document->isSaved());
     EXPECT_EQ(document->dataFile(), nullptr);
     EXPECT_EQ(document->parent(), nullptr);
+}
+
+/// A file in the user's data, of which only the name is known.
+class NamedFile final : public Object<adsk::core::DataFile> {
+public:
+    [[nodiscard]] std::string id() const override { return "urn:1"; }
+    [[nodiscard]] std::string name() const override { return "Gearbox"; }
+    bool name(const std::string& /*value*/) override { return false; }
+    [[nodiscard]] Ptr<adsk::core::DataFolder> parentFolder() const override { return {}; }
+    [[nodiscard]] Ptr<adsk::core::DataProject> parentProject() const override { return {}; }
+};
+
+TEST_F(DocumentTest, IsSavedOnceItHasAFile) {
+    open("Motor  document=M1");
+    const Ptr<adsk::core::DataFile> file = make<NamedFile>();
+
+    setDataFile(document, file);
+
+    EXPECT_TRUE(document->isSaved());
+    EXPECT_EQ(document->dataFile(), file);
+    EXPECT_EQ(referencesOf(document)[0]->dataFile(), nullptr);
+    setDataFile(referencesOf(document)[0], file);
+    EXPECT_EQ(component("Motor:1")->parentDesign()->parentDocument()->dataFile(), file);
 }
 
 TEST_F(DocumentTest, UnnamedDesignIsCalledLikeItsRootComponentOrUntitled) {
