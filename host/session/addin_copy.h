@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace host {
+
+/// An add-in as it lies on disk: the folder, the manifest and the module share one name.
+struct AddinFiles {
+    std::filesystem::path folder;
+    std::string name;
+
+    [[nodiscard]] std::filesystem::path module() const;
+    [[nodiscard]] std::filesystem::path manifest() const;
+};
+
+/// The add-in of a folder; raises a `SessionError` that names what is missing.
+AddinFiles findAddin(const std::filesystem::path& folder);
+
+/// Brings a copy of the add-in up to date in `parent`, in a folder of the add-in's name, and yields
+/// the copy.
+///
+/// The module and the manifest are copied where they differ, the other files where they are missing
+/// or newer than their copy. What stands only in the copy (settings, exports) is left alone.
+AddinFiles copyAddin(const AddinFiles& installed, const std::filesystem::path& parent);
+
+}  // namespace host

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What a session changes about the process it runs in, and gives back.
+namespace host::environment {
+
+using Text = std::filesystem::path::string_type;
+
+/// The variables by which this system finds the folder for temporary files.
+std::vector<Text> temporaryFolderNames();
+
+/// A variable of the process, none if it is not set.
+std::optional<Text> variable(const Text& name);
+
+/// Sets a variable, or takes it away.
+void setVariable(const Text& name, const std::optional<Text>& value);
+
+/// Where this program keeps a person's data between runs, "" if the system names no such place.
+std::filesystem::path userDataFolder();
+
+/// The folder of the running program.
+std::filesystem::path programFolder();
+
+/// Makes a folder that only this user may enter; false if it is there already or cannot be made.
+bool makePrivateFolder(const std::filesystem::path& folder);
+
+}  // namespace host::environment

@@ -1,0 +1,152 @@
+#include "host/session/session_folder.h"
+
+#include "host/session/environment.h"
+#include "host/session/session_error.h"
+#include "host/session/utf8_path.h"
+
+#include <map>
+#include <random>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kPrefix = "standin-";
+
+/// A folder of this process, in which its sessions have theirs. Its lock tells that the process
+/// lives.
+struct ProcessFolder {
+    fs::path path;
+    std::unique_ptr<FolderLock> lock;
+    int made = 0;     ///< sessions so far
+    int present = 0;  ///< those whose folders are not gone
+};
+
+/// Removes what processes that are gone have left in `parent`.
+void removeLeftovers(const fs::path& parent) {
+    std::error_code ignored;
+    std::vector<fs::path> left;
+    for (const fs::directory_entry& entry : fs::directory_iterator(parent, ignored)) {
+        if (toUtf8(entry.path().filename()).rfind(kPrefix, 0) == 0 &&
+            fs::exists(entry.path() / "lock", ignored) && FolderLock::take(entry.path())) {
+            left.push_back(entry.path());
+        }
+    }
+    for (const fs::path& folder : left) {
+        fs::remove_all(folder, ignored);
+    }
+}
+
+/// Digits alone: the name stands in the path of a module, which may look at its letters.
+std::string randomDigits() {
+    std::random_device device;
+    return std::to_string(100'000'000 + device() % 900'000'000);
+}
+
+ProcessFolder makeProcessFolder(const fs::path& parent) {
+    fs::create_directories(parent);
+    removeLeftovers(parent);
+    constexpr int kAttempts = 20;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        const fs::path folder = parent / (kPrefix + randomDigits());
+        if (environment::makePrivateFolder(folder)) {
+            // Another process that cleans up may have been quicker than this lock.
+            if (std::unique_ptr<FolderLock> lock = FolderLock::take(folder)) {
+                return {folder, std::move(lock)};
+            }
+        }
+    }
+    throw SessionError("cannot make a private folder in " + toUtf8(parent));
+}
+
+using ProcessFolders = std::map<fs::path, ProcessFolder>;
+
+// Never destroyed: the locks end with the process.
+ProcessFolders& processFolders() {
+    static auto* folders = new ProcessFolders;
+    return *folders;
+}
+
+/// This process's folder in `parent`.
+ProcessFolder& processFolder(const fs::path& parent) {
+    ProcessFolders& folders = processFolders();
+    const auto known = folders.find(parent);
+    if (known != folders.end()) {
+        return known->second;
+    }
+    return folders.emplace(parent, makeProcessFolder(parent)).first->second;
+}
+
+/// Removes the process's folder once nothing is left in it.
+void sessionFolderIsGone(const fs::path& folder) {
+    ProcessFolders& folders = processFolders();
+    const auto found = folders.find(folder.parent_path().parent_path());
+    if (found != folders.end() && --found->second.present == 0) {
+        folders.erase(found);
+        std::error_code ignored;
+        fs::remove_all(folder.parent_path(), ignored);
+    }
+}
+
+}  // namespace
+
+SessionFolder::SessionFolder(fs::path path, std::unique_ptr<FolderLock> lock)
+    : path_(std::move(path)), lock_(std::move(lock)) {}
+
+SessionFolder SessionFolder::makeFresh(const fs::path& parent) {
+    fs::path place = fs::absolute(parent.empty() ? fs::temp_directory_path() : parent);
+    place = (place / "").lexically_normal().parent_path();
+    ProcessFolder& process = processFolder(place);
+    const fs::path folder = process.path / std::to_string(++process.made);
+    fs::create_directories(folder);
+    ++process.present;
+    return {folder, nullptr};
+}
+
+SessionFolder SessionFolder::keep(const fs::path& home, std::chrono::milliseconds patience) {
+    const fs::path folder = fs::absolute(home);
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (failure) {
+        throw SessionError("cannot make the folder " + toUtf8(folder) + ": " + failure.message());
+    }
+    const auto end = std::chrono::steady_clock::now() + patience;
+    constexpr std::chrono::milliseconds kPause(20);
+    for (;;) {
+        if (std::unique_ptr<FolderLock> lock = FolderLock::take(folder)) {
+            return {folder, std::move(lock)};
+        }
+        if (std::chrono::steady_clock::now() >= end) {
+            throw SessionError("another process is using " + toUtf8(folder));
+        }
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
+void SessionFolder::discard(const fs::path& spared) const {
+    if (lock_ != nullptr) {
+        return;
+    }
+    std::error_code ignored;
+    if (spared.empty()) {
+        fs::remove_all(path_, ignored);
+        sessionFolderIsGone(path_);
+        return;
+    }
+    std::vector<fs::path> files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(path_, ignored)) {
+        if (!entry.is_directory(ignored) && entry.path() != spared) {
+            files.push_back(entry.path());
+        }
+    }
+    for (const fs::path& file : files) {
+        fs::remove(file, ignored);
+    }
+}
+
+}  // namespace host

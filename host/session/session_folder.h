@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/session/folder_lock.h"
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+
+namespace host {
+
+/// The folder a session keeps everything in: a fresh one that goes with the session, or a given one
+/// that stays and is locked while it is used.
+///
+/// Fresh folders of one process lie together in one that is locked for as long as the process
+/// lives; what a process left behind, because a loaded module's file cannot go before it or because
+/// it crashed, the next one to make a fresh folder in that place removes.
+class SessionFolder {
+public:
+    /// A fresh folder below `parent`, which is made if missing; an empty parent means the system's
+    /// folder for temporary files.
+    static SessionFolder makeFresh(const std::filesystem::path& parent);
+
+    /// The folder `home`, made if missing. Where another process has it, waits for as long as told,
+    /// then raises a `SessionError`.
+    static SessionFolder keep(const std::filesystem::path& home,
+                              std::chrono::milliseconds patience);
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+    /// Deletes a fresh folder as far as the system lets it, sparing one file; leaves a kept one.
+    ///
+    /// The module's file is spared while it is loaded: some systems refuse to delete it, and on the
+    /// others whoever names functions at the end of the process (a report of leaks) reads it.
+    void discard(const std::filesystem::path& spared) const;
+
+private:
+    SessionFolder(std::filesystem::path path, std::unique_ptr<FolderLock> lock);
+
+    std::filesystem::path path_;
+    std::unique_ptr<FolderLock> lock_;  ///< null for a fresh folder
+};
+
+}  // namespace host
