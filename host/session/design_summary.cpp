@@ -1,0 +1,39 @@
+#include "host/session/design_summary.h"
+
+#include "host/design/design_check.h"
+
+#include <algorithm>
+
+namespace host {
+namespace {
+
+void countMaterial(std::vector<MaterialUse>& uses, const MaterialData& material) {
+    const auto known = std::find_if(uses.begin(), uses.end(), [&](const MaterialUse& use) {
+        return use.name == material.name && use.density == material.density;
+    });
+    if (known == uses.end()) {
+        uses.push_back({material.name, material.density, 1});
+    } else {
+        ++known->components;
+    }
+}
+
+}  // namespace
+
+DesignSummary summarize(const DesignData& design) {
+    DesignSummary summary;
+    summary.name = design.name;
+    summary.unit = design.unit;
+    summary.components = design.components.size();
+    summary.occurrences = countOccurrences(design);
+    summary.levels = countLevels(design);
+    for (const ComponentData& component : design.components) {
+        summary.bodies += component.geometry == nullptr ? 0 : 1;
+        if (component.material) {
+            countMaterial(summary.materials, *component.material);
+        }
+    }
+    return summary;
+}
+
+}  // namespace host

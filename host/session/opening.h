@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/design/design_check.h"
+#include "host/design/design_data.h"
+#include "host/import/step_import.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// Reads a design out of a file: STEP, or a design file of this host, told by its content.
+///
+/// What a person should know although the design could be read is appended to `warnings`, one line
+/// each. Raises an `ImportError` or a `DesignError`, one line that names the file, for one that
+/// cannot be read. It needs no session, and a relative path starts in the working directory.
+DesignData readDesign(const std::filesystem::path& file, const ImportLimits& limits,
+                      const ImportProgress& progress, std::vector<std::string>& warnings);
+
+}  // namespace host

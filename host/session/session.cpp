@@ -1,0 +1,209 @@
+#include "host/session/session.h"
+
+#include "host/design/design_file.h"
+#include "host/design/document.h"
+#include "host/design/outline.h"
+#include "host/session/dialog_inputs.h"
+#include "host/session/utf8_path.h"
+#include "host/ui/main_queue.h"
+
+#include <map>
+#include <utility>
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+SessionFolder makeFolder(const SessionOptions& options) {
+    return options.home.empty() ? SessionFolder::makeFresh(options.freshIn)
+                                : SessionFolder::keep(options.home, options.patience);
+}
+
+DesignData emptyDesign() {
+    DesignData design;
+    design.name = "Untitled";
+    design.components.emplace_back().name = design.name;
+    return design;
+}
+
+bool sessionLives = false;
+
+/// Modules of kept homes that sessions of this process left loaded, by their files.
+std::map<std::filesystem::path, LoadedModule>& leftModules() {
+    static auto* modules = new std::map<std::filesystem::path, LoadedModule>;
+    return *modules;
+}
+
+/// Makes sure that the file will be loaded anew: its statics are to be those of a new session.
+void takeOutLeftModule(const std::filesystem::path& file) {
+    const auto left = leftModules().find(file);
+    if (left != leftModules().end()) {
+        left->second.unload();
+        leftModules().erase(left);
+    }
+}
+
+}  // namespace
+
+Session::Turn::Turn() {
+    if (sessionLives) {
+        throw SessionError("this process has a session already");
+    }
+    sessionLives = true;
+}
+
+Session::Turn::~Turn() { sessionLives = false; }
+
+Session::Session(SessionOptions options)
+    : options_(std::move(options)),
+      installed_(findAddin(options_.addin)),
+      folder_(makeFolder(options_)) {
+    try {
+        begin();
+    } catch (...) {
+        end();
+        throw;
+    }
+}
+
+Session::~Session() { end(); }
+
+void Session::begin() {
+    takeOutLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
+    addin_ = copyAddin(installed_, folder_.path());
+    surroundings_.emplace(folder_.path());
+    gate::reset();
+    host::clearRaised();
+    shell_requests::start(options_.shell);
+    startHost(options_.host);
+    newDesign();
+    module_ = LoadedModule(addin_.module());
+}
+
+void Session::end() noexcept {
+    const bool wasLoaded = module_.isLoaded();
+    endHost();
+    endDocument(document_);
+    document_ = nullptr;
+    shell_requests::start(shell_requests::Policy::PassOn);
+    if (options_.unloadAtEnd) {
+        module_.unload();
+    } else if (wasLoaded && !options_.home.empty()) {
+        leftModules()[addin_.module()] = module_;
+    }
+    surroundings_.reset();
+    const bool stays = wasLoaded && !options_.unloadAtEnd;
+    folder_.discard(stays ? addin_.module() : std::filesystem::path());
+}
+
+bool Session::call(const char* entry, const char* context) {
+    const LoadedModule::Entry function = module_.entry(entry);
+    bool result = false;
+    if (function != nullptr) {
+        enterModule(entry, "", [&] { result = function(context); });
+        settle();
+    }
+    return result;
+}
+
+bool Session::run() {
+    resetAutoTerminate();
+    return call("run", R"({"IsApplicationStartup": true})");
+}
+
+bool Session::stop() { return call("stop", R"({"IsApplicationClosing": true})"); }
+
+std::filesystem::path Session::absolute(const std::filesystem::path& file) const {
+    return surroundings_->startedIn() / file;
+}
+
+void Session::show(const Ptr<Document>& document, const Ptr<Product>& product) {
+    const Ptr<Document> before = std::exchange(document_, document);
+    Application::current()->setActiveDocument(document, product);
+    endDocument(before);
+}
+
+std::vector<std::string> Session::open(const std::filesystem::path& file,
+                                       const ImportLimits& limits, const ImportProgress& progress) {
+    std::vector<std::string> warnings;
+    openDesign(readDesign(absolute(file), limits, progress, warnings));
+    return warnings;
+}
+
+void Session::openOutline(const std::string& outline) { openDesign(parseOutline(outline)); }
+
+void Session::openDesign(DesignData design) {
+    show(makeDocument(std::move(design), Application::current()), nullptr);
+}
+
+void Session::newDesign() { openDesign(emptyDesign()); }
+
+void Session::openForeignDocument() {
+    const Ptr<Document> document = makeDocument(emptyDesign(), Application::current());
+    show(document, otherProductOf(document));
+}
+
+void Session::save(const std::filesystem::path& file) { saveDesignFile(absolute(file), design()); }
+
+DesignData Session::design() const { return snapshot(document_); }
+
+void Session::press(const std::string& commandId) { pressCommand(commandId); }
+
+bool Session::dialogOpen() const { return static_cast<bool>(openDialog()); }
+
+Ptr<Command> Session::dialog() const {
+    const Ptr<Command> command = openDialog();
+    if (!command) {
+        throw SessionError("no dialog is open");
+    }
+    return command;
+}
+
+Ptr<CommandInput> Session::input(const std::string& id) const { return findInput(dialog(), id); }
+
+Ptr<TableCommandInput> Session::table(const std::string& id) const {
+    const Ptr<TableCommandInput> table = input(id);
+    if (!table) {
+        throw SessionError("the input \"" + id + "\" is no table");
+    }
+    return table;
+}
+
+std::vector<std::string> Session::inputIds() const { return host::inputIds(dialog()); }
+
+void Session::click(const std::string& id) { host::click(input(id)); }
+
+void Session::type(const std::string& id, const std::string& text) { typeText(input(id), text); }
+
+void Session::paste(const std::string& id, const std::string& text) { pasteText(input(id), text); }
+
+void Session::choose(const std::string& id, const std::string& item) {
+    chooseItem(input(id), item);
+}
+
+void Session::activateTab(const std::string& id) {
+    const Ptr<TabCommandInput> tab = input(id);
+    if (!tab) {
+        throw SessionError("the input \"" + id + "\" is no tab");
+    }
+    host::activateTab(tab);
+}
+
+void Session::ok() { pressOk(); }
+
+void Session::cancel() { pressCancel(); }
+
+void Session::activateWorkspace(const std::string& id) { host::activateWorkspace(id); }
+
+const std::vector<Raised>& Session::raised() const { return host::raised(); }
+
+void Session::clearRaised() { host::clearRaised(); }
+
+const std::vector<Message>& Session::messages() const { return host::messages(); }
+
+const std::vector<std::string>& Session::openedByShell() const {
+    return shell_requests::recorded();
+}
+
+}  // namespace host

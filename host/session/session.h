@@ -1,0 +1,207 @@
+#pragma once
+
+#include "host/base/dispatcher.h"
+#include "host/base/gate.h"
+#include "host/session/addin_copy.h"
+#include "host/session/loaded_module.h"
+#include "host/session/opening.h"
+#include "host/session/session_error.h"
+#include "host/session/session_folder.h"
+#include "host/session/shell_requests.h"
+#include "host/session/surroundings.h"
+#include "host/session/table_view.h"
+#include "host/ui/application.h"
+#include "host/ui/hands.h"
+
+#include <Core/CoreAll.h>
+#include <Fusion/FusionAll.h>
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A person at the host, with one add-in.
+///
+/// A session is the one way in which a program drives the host: the workbench, a test, a benchmark.
+/// It starts the host, loads a copy of the add-in's module, and then does what a person could do:
+/// opens designs, presses buttons, types into cells, chooses, accepts and closes dialogs. One
+/// process has one session at a time, and as many after each other as it likes; each has a host of
+/// its own and the module's statics as they are after loading.
+///
+/// What the module raises never reaches the caller: it is recorded, and `raised` tells it. What the
+/// screen does not offer raises a `MisuseError`. Actions that are not among the members here are in
+/// `host/ui/hands.h`; they work on the host of the session.
+namespace host {
+
+struct SessionOptions {
+    /// The installed add-in: a folder that holds the manifest and the module of the folder's name.
+    std::filesystem::path addin;
+
+    /// Where the copy of the add-in, the working directory and the temporary folder lie. Empty: a
+    /// fresh folder that goes with the session. Else this one, which stays, with the add-in's
+    /// settings in it, and is locked while the session lives.
+    std::filesystem::path home;
+
+    /// Where fresh folders are made; empty: the system's folder for temporary files.
+    std::filesystem::path freshIn;
+
+    /// How long to wait for a home that another process uses.
+    std::chrono::milliseconds patience{3000};
+
+    HostSetup host;
+    shell_requests::Policy shell = shell_requests::Policy::Record;
+
+    /// Takes the module out of the process at the end, which lets thousands of sessions follow each
+    /// other; a report of leaks can then not name its functions.
+    bool unloadAtEnd = false;
+};
+
+class Session {
+public:
+    /// Starts the host in its private surroundings and loads the module; `run` is the caller's.
+    /// Raises a `SessionError` where the add-in or its place is unusable, or another session lives;
+    /// nothing is left then.
+    explicit Session(SessionOptions options);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Ends the host and gives the process back its surroundings. The module is not asked to stop.
+    ~Session();
+
+    /// @name The add-in
+    /// @{
+
+    /// Calls the module's `run` as a loader does; what it returned, false when it raised or has
+    /// none.
+    bool run();
+
+    /// Calls the module's `stop` as a loader does; what it returned, false when it raised or has
+    /// none.
+    bool stop();
+
+    /// The session's own copy of the add-in: what the module writes beside itself lies there.
+    [[nodiscard]] const AddinFiles& addin() const { return addin_; }
+
+    /// The folder that holds that copy, the working directory and the temporary folder.
+    [[nodiscard]] const std::filesystem::path& folder() const { return folder_.path(); }
+    /// @}
+
+    /// @name Documents
+    /// @{
+
+    /// Opens a file in the place of the document that is open: STEP or a design file, told by its
+    /// content. A relative path starts where the process stood before the session. Yields what the
+    /// reader had to say; raises what it cannot read, with the document before still open.
+    std::vector<std::string> open(const std::filesystem::path& file,
+                                  const ImportLimits& limits = {},
+                                  const ImportProgress& progress = {});
+
+    /// Opens a design drawn as an outline; raises a `DesignError` for one that cannot be read.
+    void openOutline(const std::string& outline);
+
+    /// Opens a design that was made in code.
+    void openDesign(DesignData design);
+
+    /// Opens an empty design.
+    void newDesign();
+
+    /// Opens an empty document whose product is no design.
+    void openForeignDocument();
+
+    /// Writes the open design into a design file, in the place of one that is there.
+    void save(const std::filesystem::path& file);
+
+    /// The open design as it is now.
+    [[nodiscard]] DesignData design() const;
+    /// @}
+
+    /// @name Hands
+    /// A `SessionError` or a `MisuseError` is raised for what is not there, with the names of what
+    /// is.
+    /// @{
+
+    /// Presses the button of a command, which starts it.
+    void press(const std::string& commandId);
+
+    /// True while a dialog stands on the screen.
+    [[nodiscard]] bool dialogOpen() const;
+
+    /// The open dialog's command.
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Command> dialog() const;
+
+    /// An input of the open dialog: of the active tab first, else the first anywhere.
+    [[nodiscard]] adsk::core::Ptr<adsk::core::CommandInput> input(const std::string& id) const;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::TableCommandInput> table(const std::string& id) const;
+
+    /// The ids of all inputs of the open dialog that have one, each once, in the dialog's order.
+    [[nodiscard]] std::vector<std::string> inputIds() const;
+
+    /// Clicks a button or check box.
+    void click(const std::string& id);
+
+    /// Types a text into a field in the place of what stands there, key by key.
+    void type(const std::string& id, const std::string& text);
+
+    /// Puts a text into a field at one stroke.
+    void paste(const std::string& id, const std::string& text);
+
+    /// Chooses an item of a list by its name.
+    void choose(const std::string& id, const std::string& item);
+
+    /// Shows a tab of the dialog.
+    void activateTab(const std::string& id);
+
+    /// Accepts the dialog.
+    void ok();
+
+    /// Closes the dialog without accepting it.
+    void cancel();
+
+    /// Shows another workspace.
+    void activateWorkspace(const std::string& id);
+    /// @}
+
+    /// @name What happened
+    /// @{
+
+    /// What left the module as an exception since the session began, or since it was cleared.
+    [[nodiscard]] const std::vector<Raised>& raised() const;
+    void clearRaised();
+
+    /// The messages that were shown, oldest first.
+    [[nodiscard]] const std::vector<Message>& messages() const;
+
+    /// What the module asked the shell to open, as it spelt it, oldest first.
+    [[nodiscard]] const std::vector<std::string>& openedByShell() const;
+    /// @}
+
+private:
+    /// The right to be the process's session; raises a `SessionError` when there is one.
+    class Turn {
+    public:
+        Turn();
+        Turn(const Turn&) = delete;
+        Turn& operator=(const Turn&) = delete;
+        ~Turn();
+    };
+
+    void begin();
+    void end() noexcept;
+    void show(const adsk::core::Ptr<adsk::core::Document>& document,
+              const adsk::core::Ptr<adsk::core::Product>& product);
+    [[nodiscard]] std::filesystem::path absolute(const std::filesystem::path& file) const;
+    bool call(const char* entry, const char* context);
+
+    Turn turn_;
+    SessionOptions options_;
+    AddinFiles installed_;
+    SessionFolder folder_;
+    AddinFiles addin_;
+    std::optional<Surroundings> surroundings_;
+    LoadedModule module_;
+    adsk::core::Ptr<adsk::core::Document> document_;
+};
+
+}  // namespace host
