@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace test_support {
+
+/// All bytes of a file; empty if it cannot be read.
+std::string readFile(const std::filesystem::path& file);
+
+/// Puts these bytes into a file, in the place of what was there.
+void writeFile(const std::filesystem::path& file, const std::string& bytes);
+
+}  // namespace test_support
