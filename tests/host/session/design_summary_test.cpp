@@ -1,0 +1,40 @@
+#include "host/session/design_summary.h"
+
+#include "host/design/outline.h"
+
+#include <gtest/gtest.h>
+
+using host::MaterialUse;
+
+TEST(DesignSummary, CountsUsesOfAssembliesThatAreUsedTwice) {
+    // Root, Frame twice, Leg below each, Bolt: Frame + Leg + Frame + Leg + Bolt are 5 occurrences.
+    const host::DesignSummary summary =
+        host::summarize(host::parseOutline("Frame\n"
+                                           "  Leg  material=Steel:0.008\n"
+                                           "Frame\n"
+                                           "Bolt  material=Brass:0.0085\n"));
+
+    EXPECT_EQ(summary.components, 4U);
+    EXPECT_EQ(summary.occurrences, 5U);
+    EXPECT_EQ(summary.levels, 2U);
+}
+
+TEST(DesignSummary, CountsTheComponentsOfEachMaterial) {
+    host::DesignData design = host::parseOutline(
+        "A  material=Brass:0.0085\n"
+        "B  material=Steel:0.008\n"
+        "C  material=Brass:0.0085\n"
+        "D  material=none\n");
+    design.components[0].material.reset();
+
+    EXPECT_EQ(host::summarize(design).materials,
+              (std::vector<MaterialUse>{{"Brass", 0.0085, 2}, {"Steel", 0.008, 1}}));
+}
+
+TEST(DesignSummary, ADesignWithoutOccurrencesHasNoLevels) {
+    const host::DesignSummary summary = host::summarize(host::parseOutline(""));
+
+    EXPECT_EQ(summary.components, 1U);
+    EXPECT_EQ(summary.occurrences, 0U);
+    EXPECT_EQ(summary.levels, 0U);
+}
