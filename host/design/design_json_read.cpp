@@ -24,7 +24,7 @@ std::array<double, N> readNumbers(const JsonNode& node) {
     if (node.size() != N) {
         node.refuse("should be a list of " + std::to_string(N) + " numbers");
     }
-    std::array<double, N> numbers;
+    std::array<double, N> numbers = {};
     std::size_t next = 0;
     node.forEach([&](const JsonNode& each) { numbers[next++] = each.number(); });
     return numbers;

@@ -62,7 +62,7 @@ std::string OccurrenceObject::fullPathName() const {
         length += each->nameLength() + 1;
         ++levels;
     }
-    std::array<const OccurrenceObject*, 16> few;
+    std::array<const OccurrenceObject*, 16> few = {};
     std::vector<const OccurrenceObject*> many(levels > few.size() ? levels : 0);
     const OccurrenceObject** path = many.empty() ? few.data() : many.data();
     std::size_t at = levels;
@@ -85,7 +85,7 @@ std::size_t OccurrenceObject::nameLength() const {
 }
 
 void OccurrenceObject::appendName(std::string& text) const {
-    std::array<char, kLongestNumber> digits;
+    std::array<char, kLongestNumber> digits = {};
     const auto end = std::to_chars(digits.begin(), digits.end(), place_->instance).ptr;
     text += component_->data().name;
     text += ':';

@@ -81,7 +81,7 @@ TEST_F(AttributesOfComponent, EmptyGroupOrNameIsRefused) {
 }
 
 TEST_F(AttributesOfComponent, ValueOfMoreThanTwoMegabytesIsRefusedAndTheOldOneKept) {
-    const std::string longest(2 * 1024 * 1024, 'x');
+    const std::string longest(std::size_t{2} * 1024 * 1024, 'x');
     const Ptr<Attribute> attribute = attributes()->add("G", "a", longest);
 
     EXPECT_EQ(attributes()->add("G", "a", longest + "x"), nullptr);

@@ -48,7 +48,7 @@ TEST(Outline, ComponentOfWhichNothingIsToldIsSteelAndNumberedLikeItsName) {
     EXPECT_EQ(data.components[1].description, "");
     EXPECT_EQ(data.components[1].material, (MaterialData{"Steel", 0.00785}));
     EXPECT_EQ(data.components[1].geometry, nullptr);
-    EXPECT_FALSE(data.components[1].children.size());
+    EXPECT_TRUE(data.components[1].children.empty());
 }
 
 TEST(Outline, KeysTellOfTheComponent) {
