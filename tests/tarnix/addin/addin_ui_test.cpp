@@ -1,0 +1,74 @@
+#include "tests/tarnix/addin/addin_ui_test.h"
+
+namespace test_support {
+
+using namespace adsk::core;
+
+namespace {
+
+constexpr const char* kCommands[] = {
+    "QEMA_EditPropertiesCmd",      "QM_TX_BOM",
+    "QM_TX_moveComponentToOrigin", "QM_TX_projectedEntitiesAsConstruction",
+    "QM_TX_unitsConversion",       "QM_TX_configuration",
+    "QM_TX_onLineLibrary",         "QEMA_OpenLocalCmd_QAT",
+    "QM_HD_openHelpdesk",          "QM_HD_captureScreen",
+    "QM_HD_captureFusion",         "QM_HD_systemInfo",
+    "QM_HD_compressFolder",        "QM_HD_openFolder",
+    "QM_HD_clearFolder",           "QM_HD_openHelp"};
+
+constexpr const char* kPanels[] = {"QM_Tarnix_AlfaFusionSolidEnvironment",
+                                   "QM_Tarnix_AlfaCAMEnvironment",
+                                   "QM_Tarnix_AlfaFusionRenderEnvironment",
+                                   "QM_HD_panelFusionSolidEnvironment",
+                                   "QM_HD_panelCAMEnvironment",
+                                   "QM_HD_panelFusionRenderEnvironment",
+                                   "QM_HD_panelFusionDocumentationEnvironment"};
+
+void addLine(std::string& lines, const std::string& line) {
+    lines += (lines.empty() ? "" : "\n") + line;
+}
+
+}  // namespace
+
+Ptr<UserInterface> AddinUiTest::ui() { return Application::get()->userInterface(); }
+
+Ptr<CommandDefinition> AddinUiTest::definition(const std::string& id) {
+    return ui()->commandDefinitions()->itemById(id);
+}
+
+Ptr<ToolbarPanel> AddinUiTest::panel(const std::string& id) {
+    return ui()->allToolbarPanels()->itemById(id);
+}
+
+std::string AddinUiTest::controls(const std::string& panelId) {
+    const Ptr<ToolbarPanel> found = panel(panelId);
+    if (!found) {
+        return "no panel";
+    }
+    std::string lines;
+    const Ptr<ToolbarControls> controls = found->controls();
+    for (std::size_t i = 0; i < controls->count(); ++i) {
+        const Ptr<CommandControl> control = controls->item(i);
+        addLine(lines, control->id() + (control->isPromoted() ? " promoted" : ""));
+    }
+    return lines;
+}
+
+std::string AddinUiTest::texts(const std::string& id) {
+    const Ptr<CommandDefinition> found = definition(id);
+    return found ? found->name() + "\n" + found->tooltip() + "\n" + found->resourceFolder()
+                 : "none";
+}
+
+std::string AddinUiTest::standing() {
+    std::string lines;
+    for (const char* id : kPanels) {
+        if (panel(id)) addLine(lines, id);
+    }
+    for (const char* id : kCommands) {
+        if (definition(id)) addLine(lines, id);
+    }
+    return lines;
+}
+
+}  // namespace test_support

@@ -1,0 +1,110 @@
+#include "tests/tarnix/addin/addin_ui_test.h"
+
+#include "host/base/gate.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace test_support {
+namespace {
+
+class Run : public AddinUiTest {};
+
+TEST_F(Run, PlacesTheToolsInBothWorkspacesInTheirOrder) {
+    const std::string tools = text(R"(
+        QEMA_EditPropertiesCmd promoted
+        QM_TX_BOM promoted
+        QM_TX_moveComponentToOrigin
+        QM_TX_projectedEntitiesAsConstruction
+        QM_TX_unitsConversion)");
+
+    EXPECT_EQ(controls("QM_Tarnix_AlfaFusionSolidEnvironment"), tools);
+    EXPECT_EQ(controls("QM_Tarnix_AlfaCAMEnvironment"), tools);
+    EXPECT_EQ(controls("QM_Tarnix_AlfaFusionRenderEnvironment"), "no panel");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(Run, FillsTheHelpdeskPanelOfTheFirstWorkspaceOnce) {
+    EXPECT_EQ(controls("QM_HD_panelFusionSolidEnvironment"), text(R"(
+        QM_TX_configuration
+        QM_HD_openHelpdesk promoted
+        QM_HD_captureScreen
+        QM_HD_captureFusion
+        QM_HD_systemInfo
+        QM_HD_compressFolder
+        QM_HD_openFolder
+        QM_HD_clearFolder
+        QM_HD_openHelp promoted)"));
+    EXPECT_EQ(controls("QM_HD_panelCAMEnvironment"), "QM_TX_configuration");
+}
+
+TEST_F(Run, CaptionsThePanels) {
+    EXPECT_EQ(panel("QM_Tarnix_AlfaCAMEnvironment")->name(), "QM Tarnix");
+    EXPECT_EQ(panel("QM_HD_panelCAMEnvironment")->name(), "QM Helpdesk");
+}
+
+TEST_F(Run, AttachesTheFourHooks) { EXPECT_EQ(adsk::autoTerminate(), false); }
+
+class RunOnce : public UnstartedAddinTest {};
+
+TEST_F(RunOnce, SubscribesTheFourHooksInTheirOrder) {
+    host::gate::record(true);
+
+    ASSERT_TRUE(run());
+
+    std::string hooks;
+    const std::vector<std::string> calls = host::gate::recorded();
+    for (auto call = calls.end() - 9; call != calls.end(); ++call) {
+        hooks += *call + "\n";
+    }
+    host::gate::record(false);
+    EXPECT_EQ(hooks,
+              "UserInterface::markingMenuDisplaying\nEvent::add\n"
+              "UserInterface::workspaceActivated\nEvent::add\n"
+              "UserInterface::commandStarting\nEvent::add\n"
+              "UserInterface::commandTerminated\nEvent::add\n"
+              "adsk::autoTerminate\n");
+}
+
+class RunWithoutManufacture : public UnstartedAddinTest {
+protected:
+    [[nodiscard]] host::SessionOptions options() const override {
+        host::SessionOptions without = addinOptions();
+        std::erase_if(without.host.workspaces, [](const host::WorkspaceSetup& workspace) {
+            return workspace.id == kManufacture;
+        });
+        return without;
+    }
+};
+
+TEST_F(RunWithoutManufacture, FailsBehindThePanelOfTheFirstWorkspace) {
+    EXPECT_FALSE(run());
+
+    EXPECT_NE(controls("QM_Tarnix_AlfaFusionSolidEnvironment"), "no panel");
+    EXPECT_FALSE(definition("QM_HD_openHelpdesk"));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(RunWithoutManufacture, AttachesNoHook) {
+    host::gate::record(true);
+
+    EXPECT_FALSE(run());
+
+    const std::vector<std::string> calls = host::gate::recorded();
+    host::gate::record(false);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::workspaceActivated"), 0);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::commandStarting"), 0);
+}
+
+TEST_F(RunWithoutManufacture, LeavesToStopWhatStands) {
+    EXPECT_FALSE(run());
+
+    stop();
+
+    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+}
+
+}  // namespace
+}  // namespace test_support

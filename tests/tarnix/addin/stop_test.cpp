@@ -1,0 +1,111 @@
+#include "tests/tarnix/addin/addin_ui_test.h"
+
+#include "host/base/gate.h"
+
+#include <gtest/gtest.h>
+
+namespace test_support {
+namespace {
+
+class Stop : public AddinUiTest {};
+
+TEST_F(Stop, LeavesOpenLocalFileAlone) {
+    stop();
+
+    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+}
+
+TEST_F(Stop, RaisesAtItsEndWhereTheHostHasNoRepeatControl) {
+    EXPECT_FALSE(stop());
+
+    EXPECT_EQ(raised(), "std::exception:  in stop");
+}
+
+TEST_F(Stop, DeletesThePalettesThatStand) {
+    const adsk::core::Ptr<adsk::core::Palettes> palettes = ui()->palettes();
+    ASSERT_TRUE(palettes->add("unitsConversion", "Units", "", true, true, true));
+    ASSERT_TRUE(palettes->add("onLineModels", "Models", "", true, true, true));
+
+    stop();
+
+    EXPECT_FALSE(palettes->itemById("unitsConversion"));
+    EXPECT_FALSE(palettes->itemById("onLineModels"));
+}
+
+TEST_F(Stop, LeavesOtherPalettesAlone) {
+    const adsk::core::Ptr<adsk::core::Palettes> palettes = ui()->palettes();
+    ASSERT_TRUE(palettes->add("somebodyElses", "Other", "", true, true, true));
+
+    stop();
+
+    EXPECT_TRUE(palettes->itemById("somebodyElses"));
+}
+
+class StopBeforeRun : public UnstartedAddinTest {};
+
+TEST_F(StopBeforeRun, Succeeds) {
+    EXPECT_TRUE(stop());
+
+    EXPECT_EQ(raised(), "");
+}
+
+class StopWithRepeatControl : public AddinUiTest {
+protected:
+    [[nodiscard]] host::SessionOptions options() const override {
+        host::SessionOptions with = addinOptions();
+        with.host.repeatControl = true;
+        return with;
+    }
+};
+
+TEST_F(StopWithRepeatControl, Succeeds) {
+    EXPECT_TRUE(stop());
+
+    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+}
+
+TEST_F(StopWithRepeatControl, LetsTheHostGo) {
+    ASSERT_TRUE(stop());
+    host::gate::reset();
+
+    EXPECT_TRUE(stop());
+
+    // Nothing is asked of the host any more.
+    EXPECT_EQ(host::gate::total(), 0U);
+}
+
+TEST_F(StopWithRepeatControl, LetsRunSucceedAgain) {
+    const std::string stood = standing();
+    ASSERT_TRUE(stop());
+
+    EXPECT_TRUE(run());
+
+    EXPECT_EQ(standing(), stood);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(StopWithRepeatControl, LetsRunPlaceTheEightOfItsOwn) {
+    const std::string stood = controls("QM_HD_panelFusionSolidEnvironment");
+    ASSERT_TRUE(stop());
+
+    ASSERT_TRUE(run());
+
+    EXPECT_EQ(controls("QM_HD_panelFusionSolidEnvironment"), stood);
+}
+
+TEST_F(StopWithRepeatControl, LeavesOpenLocalFileWithItsFirstRegistration) {
+    const adsk::core::Ptr<adsk::core::CommandDefinition> first =
+        definition("QEMA_OpenLocalCmd_QAT");
+    ASSERT_TRUE(stop());
+    host::gate::reset();
+
+    ASSERT_TRUE(run());
+
+    EXPECT_TRUE(definition("QEMA_OpenLocalCmd_QAT") == first);
+    // Seven main commands and eight of the helpdesk: the new object got no definition to subscribe.
+    EXPECT_EQ(host::gate::count("CommandDefinition::commandCreated"), 15U);
+}
+
+}  // namespace
+}  // namespace test_support
