@@ -1,0 +1,218 @@
+#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+
+#include "tests/support/files.h"
+
+#include "host/base/gate.h"
+
+#include <gtest/gtest.h>
+
+namespace test_support {
+namespace {
+
+/// Steel of 100 and 200 cm3 weighs 0.785 and 1.570 kg.
+constexpr const char* kBoltsAndPlate = R"(
+    Bolt  number=B-1 measures=10:100
+    Bolt
+    Plate  number=P-1 measures=10:200)";
+
+class BomExport : public BehaviourTest {};
+
+TEST_F(BomExport, WritesTheStructureTableByteForByte) {
+    configure({"QEMA_Quantity;Qty", "QEMA_Mass;Mass"});
+    open(kBoltsAndPlate);
+    showStructure();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;Qty;Mass [kg];\r\n"
+              "1;B-1;Produce;2;0.785;\r\n"
+              "2;P-1;Produce;1;1.570;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;3.140\r\n");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(BomExport, WritesTheModelTableWithItsPositions) {
+    configure({"QEMA_Part Name;Name"});
+    open(kBoltsAndPlate);
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;Name;\r\n"
+              "1;B-1;Produce;Bolt;\r\n"
+              "2;B-1;Produce;Bolt;\r\n"
+              "3;P-1;Produce;Plate;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, OfTheModelTabCarriesTheMassOnceStructureWasShown) {
+    open("Plate  number=P-1 measures=10:200");
+    showStructure();
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;1.570\r\n");
+}
+
+TEST_F(BomExport, OfATableWithoutRowsWritesNothing) {
+    open("");
+    showModel();
+
+    exportBom();
+
+    EXPECT_FALSE(std::filesystem::exists(csvFile()));
+    EXPECT_TRUE(session->openedByShell().empty());
+}
+
+TEST_F(BomExport, LeavesOutFoldedRows) {
+    open(R"(
+        Frame  number=F-1
+          Leg  number=L-1
+        Foot  number=F-2)");
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;F-1;Produce;\r\n"
+              "2;F-2;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, LeavesOutHiddenRowsAndKeepsTheirMass) {
+    open(kBoltsAndPlate);
+    showStructure();
+    hideRow(1);
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "2;P-1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;3.140\r\n");
+}
+
+TEST_F(BomExport, OfARowWithoutAChosenStructureSaysNotAvailable) {
+    // A property that holds "1" in front of the structure's counts as set, so none is chosen.
+    open("Plate  number=P-1 property=Rank/1");
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-1;n/a;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, LetsASemicolonBreakTheColumns) {
+    open("Plate  number=P;1");
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P;1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, KeepsTheBytesOfTexts) {
+    open("Plate  number=\xC4\x8D\xE4\xB8\xAD");
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;\xC4\x8D\xE4\xB8\xAD;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, WritesWhatWasTypedIntoTheTable) {
+    open("Plate  number=P-1");
+    showModel();
+    session->paste("modelPartNumberOcc_1", "P-2");
+    session->choose("modelBomStructure_1", "Buy");
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-2;Buy;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, TwiceInARowLeavesTheLinesOfTheSecond) {
+    open("Plate  number=P-1");
+    showModel();
+    exportBom();
+    session->paste("modelPartNumberOcc_1", "P-2");
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-2;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+    EXPECT_EQ(session->openedByShell().size(), 2U);
+}
+
+TEST_F(BomExport, OpensTheWorkbookBesideTheModule) {
+    open("Plate");
+    showModel();
+
+    exportBom();
+
+    ASSERT_EQ(session->openedByShell().size(), 1U);
+    const std::string opened = session->openedByShell().front();
+    EXPECT_EQ(opened.substr(opened.rfind('\\')), "\\TarnixBOM.xlsm");
+}
+
+TEST_F(BomExport, EndsWithTheExceptionThatTheButtonsIdRaises) {
+    open("Plate");
+    showModel();
+
+    session->click(kExportButton);
+
+    EXPECT_EQ(raised(),
+              "std::invalid_argument: invalid stoi argument in OnInputChanged of "
+              "QEMA_btnExportXls");
+    EXPECT_TRUE(session->dialogOpen());
+}
+
+TEST_F(BomExport, WithoutTheMassFieldKeepsTheLinesAndOpensNothing) {
+    open("Plate  number=P-1");
+    showModel();
+    const adsk::core::Ptr<adsk::core::CommandInputs> inputs = session->dialog()->commandInputs();
+    ASSERT_TRUE(inputs->itemById("idAllMass")->deleteMe());
+
+    exportBom();
+
+    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnExportXls");
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-1;Produce;\r\n"
+              "\r\n");
+    EXPECT_TRUE(session->openedByShell().empty());
+}
+
+}  // namespace
+}  // namespace test_support
