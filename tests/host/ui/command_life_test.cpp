@@ -1,0 +1,413 @@
+#include "tests/host/ui/host_test.h"
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+class CommandLife : public HostTest {
+protected:
+    /// A command with one check box, whose life is noted.
+    void defineDialog(const std::string& id) {
+        define(id, [this](const Ptr<Command>& command) {
+            note("commandCreated");
+            command->commandInputs()->addBoolValueInput("box", "Box", true);
+            traceLife(command);
+        });
+    }
+
+    /// A command without inputs, whose life is noted.
+    Ptr<CommandDefinition> defineButton(const std::string& id) {
+        return define(id, [this](const Ptr<Command>& command) { traceLife(command); });
+    }
+};
+
+TEST_F(CommandLife, GoesThroughItsEventsInOrderUntilOk) {
+    traceHost();
+    defineDialog("Dialog");
+
+    pressCommand("Dialog");
+    EXPECT_EQ(noted(), "starting:Dialog commandCreated created activate validateInputs");
+
+    click(openDialog()->commandInputs()->itemById("box"));
+    EXPECT_EQ(noted(), "inputChanged validateInputs");
+
+    pressOk();
+    EXPECT_EQ(noted(), "execute deactivate destroy=1 terminated:Dialog=1");
+}
+
+TEST_F(CommandLife, CancelDoesNotExecute) {
+    traceHost();
+    defineDialog("Dialog");
+    pressCommand("Dialog");
+    noted();
+
+    pressCancel();
+
+    EXPECT_EQ(noted(), "deactivate destroy=2 terminated:Dialog=2");
+}
+
+TEST_F(CommandLife, WithoutInputsExecutesAtOnceAndShowsNothing) {
+    traceHost();
+    defineButton("Button");
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "starting:Button created execute deactivate destroy=1 terminated:Button=1");
+    EXPECT_FALSE(openDialog());
+}
+
+TEST_F(CommandLife, WithInputsIgnoresAutoExecute) {
+    define("Dialog", [this](const Ptr<Command>& command) {
+        command->isAutoExecute(true);
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        traceLife(command);
+    });
+
+    pressCommand("Dialog");
+
+    EXPECT_EQ(noted(), "activate validateInputs");
+}
+
+TEST_F(CommandLife, WithoutInputsAndAutoExecuteWaits) {
+    define("Button", [this](const Ptr<Command>& command) {
+        command->isAutoExecute(false);
+        traceLife(command);
+    });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "");
+    EXPECT_EQ(ui()->activeCommand(), "Button");
+}
+
+TEST_F(CommandLife, WithoutInputsButWithADialogSizeShowsAnEmptyDialogAndWaits) {
+    define("Empty", [this](const Ptr<Command>& command) {
+        command->setDialogInitialSize(800, 600);
+        traceLife(command);
+    });
+
+    pressCommand("Empty");
+
+    EXPECT_TRUE(openDialog());
+    EXPECT_EQ(noted(), "activate validateInputs");
+}
+
+TEST_F(CommandLife, WithoutInputsButWithAButtonTextShowsAnEmptyDialogAndWaits) {
+    define("Empty", [](const Ptr<Command>& command) { command->okButtonText("Save"); });
+
+    pressCommand("Empty");
+
+    EXPECT_TRUE(openDialog());
+}
+
+TEST_F(CommandLife, WhoseCreatedHandlerRaisedAndThatHasNoInputsIsAborted) {
+    traceHost();
+    define("Broken", [this](const Ptr<Command>& command) {
+        traceLife(command);
+        command->okButtonText("Save");
+        throw std::runtime_error("cannot");
+    });
+
+    pressCommand("Broken");
+
+    EXPECT_EQ(noted(), "starting:Broken created deactivate destroy=3 terminated:Broken=3");
+    EXPECT_EQ(raised(),
+              (std::vector<Raised>{{"OnCommandCreated", "", "std::runtime_error", "cannot"}}));
+}
+
+TEST_F(CommandLife, WhoseCreatedHandlerRaisedBehindItsInputsShowsThem) {
+    define("Broken", [](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        throw std::exception();
+    });
+
+    pressCommand("Broken");
+
+    EXPECT_EQ(openDialog()->commandInputs()->count(), 1U);
+}
+
+TEST_F(CommandLife, ARaiseInExecuteEndsWithCompleted) {
+    traceHost();
+    define("Button", [this](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [](const auto&) { throw std::exception(); });
+    });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "starting:Button created terminated:Button=1");
+    EXPECT_EQ(raised(), (std::vector<Raised>{{"OnExecute", "", "std::exception", ""}}));
+}
+
+TEST_F(CommandLife, AFailedExecutionEndsWithAborted) {
+    traceHost();
+    define("Button", [this](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [](const auto& args) { args->executeFailed(true); });
+    });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "starting:Button created terminated:Button=3");
+}
+
+TEST_F(CommandLife, ACancelledStartCreatesNothing) {
+    traceHost();
+    defineButton("Button");
+    on<OnApplication>(ui()->commandStarting(), [](const auto& args) { args->isCanceled(true); });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "starting:Button");
+}
+
+TEST_F(CommandLife, AnotherCommandExecutesAValidDialogAndEndsItPreEmpted) {
+    traceHost();
+    defineDialog("Dialog");
+    defineButton("Button");
+    pressCommand("Dialog");
+    noted();
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(),
+              "starting:Button execute deactivate destroy=4 terminated:Dialog=4 "
+              "created execute deactivate destroy=1 terminated:Button=1");
+}
+
+TEST_F(CommandLife, APreEmptedCommandThatDoesNotWantToIsNotExecuted) {
+    define("Dialog", [this](const Ptr<Command>& command) {
+        command->isExecutedWhenPreEmpted(false);
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        traceLife(command);
+    });
+    define("Button", [](const Ptr<Command>&) {});
+    pressCommand("Dialog");
+    noted();
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "deactivate destroy=4");
+}
+
+TEST_F(CommandLife, APreEmptedCommandWithInvalidInputsIsNotExecuted) {
+    define("Dialog", [this](const Ptr<Command>& command) {
+        command->commandInputs()->addSelectionInput("pick", "Pick", "Pick one");
+        traceLife(command);
+    });
+    define("Button", [](const Ptr<Command>&) {});
+    pressCommand("Dialog");
+    noted();
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "deactivate destroy=4");
+}
+
+TEST_F(CommandLife, AnExecuteFromTerminatedStartsANewCommandAfterAllNotifications) {
+    defineDialog("Dialog");
+    on<OnApplication>(ui()->commandTerminated(), [this](const auto& args) {
+        if (args->terminationReason() == CompletedTerminationReason) {
+            EXPECT_TRUE(args->commandDefinition()->execute());
+        }
+        note("first");
+    });
+    on<OnApplication>(ui()->commandTerminated(), [this](const auto&) { note("second"); });
+    pressCommand("Dialog");
+    noted();
+
+    pressOk();
+
+    EXPECT_EQ(noted(),
+              "execute deactivate destroy=1 first second commandCreated activate validateInputs");
+    EXPECT_TRUE(openDialog());
+}
+
+TEST_F(CommandLife, ACommandThatRestartsItselfForEverIsStoppedAfterTenStarts) {
+    const Ptr<CommandDefinition> button = defineButton("Button");
+    on<OnApplication>(ui()->commandTerminated(), [&](const auto&) {
+        note("again");
+        button->execute();
+    });
+
+    EXPECT_EQ(misuseOf([] { pressCommand("Button"); }),
+              "the command Button was started 10 times without an action of a person in between: "
+              "it starts itself for ever");
+
+    EXPECT_FALSE(openDialog());
+    EXPECT_EQ(ui()->activeCommand(), "");
+}
+
+TEST_F(CommandLife, RestartsBetweenActionsOfAPersonGoOnWithoutEnd) {
+    defineDialog("Dialog");
+    int restarts = 0;
+    on<OnApplication>(ui()->commandTerminated(), [&](const auto& args) {
+        ++restarts;
+        args->commandDefinition()->execute();
+    });
+    pressCommand("Dialog");
+
+    for (int i = 0; i < 25; ++i) {
+        pressOk();
+    }
+
+    EXPECT_EQ(restarts, 25);
+    EXPECT_TRUE(openDialog());
+}
+
+TEST_F(CommandLife, TheEndOfTheDocumentEndsItWithTheSession) {
+    traceHost();
+    defineDialog("Dialog");
+    pressCommand("Dialog");
+    noted();
+
+    Application::current()->setActiveDocument(nullptr);
+
+    EXPECT_EQ(noted(), "deactivate destroy=5 terminated:Dialog=5");
+}
+
+TEST_F(CommandLife, TheEndOfTheHostEndsItWithTheSession) {
+    defineDialog("Dialog");
+    pressCommand("Dialog");
+    noted();
+
+    endHost();
+
+    EXPECT_EQ(noted(), "deactivate destroy=5");
+}
+
+TEST_F(CommandLife, TerminateActiveCommandInsideACommandEventFailsAndIsReported) {
+    define("Button", [this](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [this](const auto&) {
+            note(ui()->terminateActiveCommand() ? "terminated" : "refused");
+        });
+    });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "refused");
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"UserInterface::terminateActiveCommand",
+                                               "called inside an event of a command"}}));
+}
+
+TEST_F(CommandLife, TerminateActiveCommandElsewhereCancelsTheDialog) {
+    defineDialog("Dialog");
+    pressCommand("Dialog");
+    noted();
+
+    EXPECT_TRUE(ui()->terminateActiveCommand());
+
+    EXPECT_EQ(noted(), "deactivate destroy=2");
+}
+
+TEST_F(CommandLife, AnExecuteAskedForByAModuleStartsWhenThePersonIsBack) {
+    const Ptr<CommandDefinition> button = defineButton("Button");
+
+    enterModule("run", "", [&] { button->execute(); });
+    EXPECT_EQ(noted(), "");
+
+    settle();
+    EXPECT_EQ(noted(), "execute deactivate destroy=1");
+}
+
+TEST_F(CommandLife, ADefinitionDeletedInTheMeantimeIsNotStarted) {
+    const Ptr<CommandDefinition> button = defineButton("Button");
+
+    enterModule("run", "", [&] {
+        button->execute();
+        button->deleteMe();
+    });
+    settle();
+
+    EXPECT_EQ(noted(), "");
+}
+
+TEST_F(CommandLife, DoExecuteAcceptsTheDialogAfterTheNotification) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        traceLife(command);
+        on<OnChanged>(command->inputChanged(), [this](const auto& args) {
+            EXPECT_TRUE(args->input()->parentCommand()->doExecute(true));
+            note("asked");
+        });
+    });
+    noted();
+
+    click(openDialog()->commandInputs()->itemById("box"));
+
+    EXPECT_EQ(noted(), "inputChanged asked validateInputs execute deactivate destroy=1");
+}
+
+TEST_F(CommandLife, DoExecuteCanLeaveTheDialogOpen) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnCommand>(command->execute(), [this](const auto&) { note("execute"); });
+    });
+
+    enterModule("elsewhere", "", [] { openDialog()->doExecute(false); });
+    click(openDialog()->commandInputs()->itemById("box"));
+
+    EXPECT_EQ(noted(), "execute");
+    EXPECT_TRUE(openDialog());
+}
+
+TEST_F(CommandLife, APreviewWithoutAWayBackIsRefusedByName) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnCommand>(command->executePreview(), [this](const auto&) { note("preview"); });
+    });
+
+    EXPECT_EQ(noted(), "");
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"Command::executePreview",
+                                               "nothing takes previews back in this host"}}));
+}
+
+TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {
+    ui::ModelHistory& history = host::Application::current()->ui().history;
+    history.mark = [this] { note("mark"); };
+    history.takeBack = [this] { note("back"); };
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnCommand>(command->executePreview(), [this](const auto&) { note("preview"); });
+        on<OnCommand>(command->execute(), [this](const auto&) { note("execute"); });
+    });
+    EXPECT_EQ(noted(), "mark preview");
+
+    click(openDialog()->commandInputs()->itemById("box"));
+    EXPECT_EQ(noted(), "back mark preview");
+
+    pressOk();
+    EXPECT_EQ(noted(), "back mark execute");
+}
+
+TEST_F(CommandLife, APreviewThatIsAValidResultStandsForTheExecution) {
+    ui::ModelHistory& history = host::Application::current()->ui().history;
+    history.mark = [this] { note("mark"); };
+    history.takeBack = [this] { note("back"); };
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnCommand>(command->executePreview(),
+                      [](const auto& args) { args->isValidResult(true); });
+        traceLife(command);
+    });
+    noted();
+
+    pressOk();
+
+    EXPECT_EQ(noted(), "deactivate destroy=1");
+}
+
+TEST_F(CommandLife, AFailedExecutionIsTakenBack) {
+    ui::ModelHistory& history = host::Application::current()->ui().history;
+    history.mark = [this] { note("mark"); };
+    history.takeBack = [this] { note("back"); };
+    define("Button", [this](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [](const auto& args) { args->executeFailed(true); });
+    });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "mark back");
+}
+
+}  // namespace
+}  // namespace host

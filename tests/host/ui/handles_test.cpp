@@ -1,0 +1,134 @@
+#include "tests/host/ui/host_test.h"
+
+#include "host/base/last_error.h"
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+/// What a module holds for longer than the host holds it.
+class Handles : public HostTest {};
+
+TEST_F(Handles, OfAnEndedHostAreNotValidAndYieldNothing) {
+    const Ptr<UserInterface> interface = ui();
+    const Ptr<Workspace> workspace = interface->activeWorkspace();
+    const Ptr<ToolbarPanel> panel = workspace->toolbarPanels()->add("Mine", "");
+    const Ptr<ToolbarPanelList> panels = interface->allToolbarPanels();
+    const Ptr<CommandDefinition> definition = define("Cmd", [](const Ptr<Command>&) {});
+    const Ptr<CommandControl> control = panel->controls()->addCommand(definition);
+
+    endHost();
+
+    EXPECT_FALSE(adsk::core::Application::get());
+    EXPECT_FALSE(interface->workspaces());
+    EXPECT_EQ(workspace->id(), "");
+    EXPECT_FALSE(workspace->activate());
+    EXPECT_EQ(panels->count(), 0U);
+    EXPECT_FALSE(panel->deleteMe());
+    EXPECT_FALSE(definition->execute());
+    EXPECT_FALSE(control->commandDefinition());
+    EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
+}
+
+TEST_F(Handles, OfOneHostAreOfNoUseInTheNext) {
+    const Ptr<CommandDefinition> old = define("Cmd", [](const Ptr<Command>&) {});
+
+    startHost();
+
+    EXPECT_FALSE(ui()->commandDefinitions()->itemById("Cmd"));
+    EXPECT_FALSE(old->isValid());
+    EXPECT_TRUE(define("Cmd", [](const Ptr<Command>&) {}));
+}
+
+TEST_F(Handles, ACallOnADeletedObjectIsReported) {
+    const Ptr<CommandDefinition> gone = define("Cmd", [](const Ptr<Command>&) {});
+    gone->deleteMe();
+
+    EXPECT_EQ(gone->name(), "");
+
+    EXPECT_EQ(misuses(),
+              (std::vector<Misuse>{{"CommandDefinition::name",
+                                    "called on a deleted adsk::core::CommandDefinition"}}));
+}
+
+TEST_F(Handles, EventsOfAnEndedHostForgetTheirHandlersGoingEither) {
+    const Ptr<ApplicationCommandEvent> event = ui()->commandStarting();
+    auto handler = std::make_unique<OnApplication>([](const auto&) {});
+    event->add(handler.get());
+
+    endHost();
+    handler.reset();
+
+    EXPECT_FALSE(event->sender());
+}
+
+TEST_F(Handles, AHandlerThatGoesIsCalledNoMore) {
+    define("Cmd", [](const Ptr<Command>&) {});
+    {
+        OnApplication handler([this](const auto&) { note("starting"); });
+        ui()->commandStarting()->add(&handler);
+        pressCommand("Cmd");
+    }
+
+    pressCommand("Cmd");
+
+    EXPECT_EQ(noted(), "starting");
+}
+
+TEST_F(Handles, OfAChildSurviveTheirDialog) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        const Ptr<CommandInputs> tab = inputs->addTabCommandInput("tab", "")->children();
+        const Ptr<TableCommandInput> table = tab->addTableCommandInput("table", "", 1, "1");
+        table->addCommandInput(tab->addStringValueInput("cell", ""), 0, 0);
+        tab->addDropDownCommandInput("list", "", TextListDropDownStyle)
+            ->listItems()
+            ->add("a", true);
+    });
+    const Ptr<CommandInputs> inputs = openDialog()->commandInputs();
+    const Ptr<TableCommandInput> table = inputs->itemById("table");
+    const Ptr<CommandInput> cell = inputs->itemById("cell");
+    const Ptr<ListItem> item =
+        Ptr<DropDownCommandInput>(inputs->itemById("list"))->listItems()->item(0);
+
+    pressCancel();
+
+    EXPECT_FALSE(table->getInputAtPosition(0, 0));
+    EXPECT_EQ(table->rowCount(), 0);
+    EXPECT_FALSE(table->addCommandInput(cell, 0, 0));
+    EXPECT_FALSE(cell->parentCommandInput());
+    EXPECT_FALSE(cell->commandInputs());
+    EXPECT_EQ(item->name(), "");
+    EXPECT_FALSE(cell->deleteMe());
+}
+
+TEST_F(Handles, CallsOfAModuleAreCountedOnceUnderTheClassThatDeclaresThem) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addBoolValueInput("box", "", true);
+        gate::reset();
+        const Ptr<CommandInput> box = inputs->itemById("box");
+        (void)box->id();
+        (void)box->isVisible();
+        box->isVisible(true);
+    });
+
+    EXPECT_EQ(gate::counts(), (std::map<std::string, std::uint64_t>{{"CommandInput::id", 1},
+                                                                    {"CommandInput::isVisible", 2},
+                                                                    {"CommandInputs::itemById", 1},
+                                                                    {"Command::inputChanged", 1},
+                                                                    {"Event::add", 1}}));
+}
+
+TEST_F(Handles, ARefusedCallDoesNothingAndYieldsNull) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        gate::reset();
+        gate::refuse("CommandInputs::addBoolValueInput", 2);
+        EXPECT_TRUE(inputs->addBoolValueInput("a", "", true));
+        EXPECT_FALSE(inputs->addBoolValueInput("b", "", true));
+        EXPECT_TRUE(inputs->addBoolValueInput("c", "", true));
+        EXPECT_EQ(inputs->count(), 2U);
+    });
+}
+
+}  // namespace
+}  // namespace host

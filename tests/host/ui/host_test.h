@@ -1,0 +1,101 @@
+#pragma once
+
+#include "host/base/dispatcher.h"
+#include "host/ui/application.h"
+#include "host/ui/hands.h"
+
+#include <Core/CoreAll.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace host {
+
+using adsk::core::Ptr;
+
+/// A handler whose notification is a function.
+template <class Handler, class Arguments>
+class Calling final : public Handler {
+public:
+    using Function = std::function<void(const Ptr<Arguments>&)>;
+
+    explicit Calling(Function function) : function_(std::move(function)) {}
+    void notify(const Ptr<Arguments>& eventArgs) override { function_(eventArgs); }
+
+private:
+    Function function_;
+};
+
+using OnCreated =
+    Calling<adsk::core::CommandCreatedEventHandler, adsk::core::CommandCreatedEventArgs>;
+using OnCommand = Calling<adsk::core::CommandEventHandler, adsk::core::CommandEventArgs>;
+using OnChanged = Calling<adsk::core::InputChangedEventHandler, adsk::core::InputChangedEventArgs>;
+using OnValidate =
+    Calling<adsk::core::ValidateInputsEventHandler, adsk::core::ValidateInputsEventArgs>;
+using OnApplication =
+    Calling<adsk::core::ApplicationCommandEventHandler, adsk::core::ApplicationCommandEventArgs>;
+using OnWorkspace = Calling<adsk::core::WorkspaceEventHandler, adsk::core::WorkspaceEventArgs>;
+using OnMenu = Calling<adsk::core::MarkingMenuEventHandler, adsk::core::MarkingMenuEventArgs>;
+
+/// A running host, and a module's side of it: definitions, handlers, and a list of what happened.
+class HostTest : public testing::Test {
+protected:
+    using Build = std::function<void(const Ptr<adsk::core::Command>&)>;
+
+    explicit HostTest(const HostSetup& setup = {}) {
+        startHost(setup);
+        clearRaised();
+    }
+    ~HostTest() override { endHost(); }
+
+    static Ptr<adsk::core::UserInterface> ui() {
+        return adsk::core::Application::get()->userInterface();
+    }
+
+    /// Adds a handler to an event; the test keeps it.
+    template <class Handler, class Event, class Function>
+    void on(const Event& event, Function function) {
+        auto handler = std::make_shared<Handler>(std::move(function));
+        event->add(handler.get());
+        handlers_.push_back(handler);
+    }
+
+    /// Makes a definition whose commands are built by `build`.
+    Ptr<adsk::core::CommandDefinition> define(const std::string& id, const Build& build);
+
+    /// Opens the dialog of a command built by `build`; its inputs.
+    Ptr<adsk::core::CommandInputs> open(const Build& build);
+
+    /// The same, with the command's inputs at hand.
+    Ptr<adsk::core::CommandInputs> openWith(
+        const std::function<void(const Ptr<adsk::core::CommandInputs>&)>& build);
+
+    /// Notes each change that the open dialog reports, as the input's id.
+    void traceChanges(const Ptr<adsk::core::Command>& command);
+
+    /// Notes all events of a command and of the host, each as one word.
+    void traceLife(const Ptr<adsk::core::Command>& command);
+    void traceHost();
+
+    /// What was noted, one after the other, and forgotten with it.
+    std::string noted();
+
+    void note(const std::string& what) { notes_.push_back(what); }
+
+private:
+    std::vector<std::shared_ptr<adsk::core::EventHandler>> handlers_;
+    std::vector<std::string> notes_;
+};
+
+/// The number that a termination reason stands for, as a text.
+std::string reasonText(adsk::core::CommandTerminationReason reason);
+
+/// What the action raises as a `MisuseError`, empty where it raises none.
+std::string misuseOf(const std::function<void()>& action);
+
+}  // namespace host

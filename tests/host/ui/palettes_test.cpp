@@ -1,0 +1,81 @@
+#include "tests/host/ui/host_test.h"
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+class PaletteTest : public HostTest {
+protected:
+    Ptr<Palette> add(const std::string& id) {
+        return ui()->palettes()->add(id, "Name", "https://page.example/", true, true, true, 260,
+                                     400, false);
+    }
+};
+
+TEST_F(PaletteTest, KeepsWhatItWasMadeWith) {
+    const Ptr<Palette> made = add("palette");
+
+    EXPECT_EQ(ui()->palettes()->itemById("palette"), made);
+    EXPECT_EQ(ui()->palettes()->count(), 1U);
+    EXPECT_EQ(made->id(), "palette");
+    EXPECT_EQ(made->name(), "Name");
+    EXPECT_EQ(made->htmlFileURL(), "https://page.example/");
+    EXPECT_TRUE(made->isVisible());
+    EXPECT_EQ(made->width(), 260);
+    EXPECT_EQ(made->height(), 400);
+    EXPECT_EQ(made->dockingState(), PaletteDockStateFloating);
+}
+
+TEST_F(PaletteTest, AnIdInUseYieldsNull) {
+    add("palette");
+
+    EXPECT_FALSE(add("palette"));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"Palettes::add", "the id \"palette\" is in use"}}));
+}
+
+TEST_F(PaletteTest, FloatsOnceItIsMoved) {
+    const Ptr<Palette> made = add("palette");
+    made->dockingState(PaletteDockStateLeft);
+
+    EXPECT_TRUE(made->setPosition(1000, 500));
+
+    EXPECT_EQ(made->dockingState(), PaletteDockStateFloating);
+    EXPECT_EQ(made->left(), 1000);
+    EXPECT_EQ(made->top(), 500);
+}
+
+TEST_F(PaletteTest, DockedToASideItKeepsItsHeightAndSaysTrue) {
+    const Ptr<Palette> made = add("palette");
+    made->dockingState(PaletteDockStateRight);
+
+    EXPECT_TRUE(made->setSize(300, 900));
+
+    EXPECT_EQ(made->width(), 300);
+    EXPECT_EQ(made->height(), 400);
+}
+
+TEST_F(PaletteTest, SurvivesAChangeOfWorkspaceAndTheEndOfACommand) {
+    const Ptr<Palette> made = add("palette");
+    define("Button", [](const Ptr<Command>&) {});
+
+    pressCommand("Button");
+    activateWorkspace("CAMEnvironment");
+
+    EXPECT_TRUE(made->isValid());
+    EXPECT_EQ(ui()->palettes()->itemById("palette"), made);
+}
+
+TEST_F(PaletteTest, ADeletedOneIsGone) {
+    const Ptr<Palette> made = add("palette");
+
+    EXPECT_TRUE(made->deleteMe());
+
+    EXPECT_FALSE(made->isValid());
+    EXPECT_FALSE(made->deleteMe());
+    EXPECT_FALSE(ui()->palettes()->itemById("palette"));
+    EXPECT_TRUE(add("palette"));
+}
+
+}  // namespace
+}  // namespace host

@@ -1,0 +1,309 @@
+#include "tests/host/ui/host_test.h"
+
+#include "host/design/document.h"
+
+#include <Fusion/FusionAll.h>
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+/// A design of three parts below the root: A:1, B:1 and C:1.
+class SelectionTest : public HostTest {
+protected:
+    SelectionTest() {
+        DesignData data;
+        data.name = "Root";
+        data.components.resize(4);
+        data.components[0].name = "Root";
+        int index = 0;
+        for (const char* name : {"A", "B", "C"}) {
+            ++index;
+            data.components[static_cast<std::size_t>(index)].name = name;
+            OccurrenceData occurrence;
+            occurrence.component = static_cast<std::size_t>(index);
+            data.components[0].children.push_back(occurrence);
+        }
+        document = makeDocument(data, adsk::core::Application::get());
+        host::Application::current()->setActiveDocument(document);
+        root = designOf(document)->rootComponent();
+    }
+    ~SelectionTest() override {
+        endHost();
+        endDocument(document);
+    }
+
+    Ptr<Base> part(std::size_t index) { return root->occurrences()->item(index); }
+
+    /// A dialog with one selection input of these filters and limits.
+    Ptr<SelectionCommandInput> openPicker(const std::vector<std::string>& filters,
+                                          std::size_t minimum, std::size_t maximum) {
+        openWith([&](const Ptr<CommandInputs>& inputs) {
+            const Ptr<SelectionCommandInput> pick = inputs->addSelectionInput("pick", "", "Pick");
+            for (const std::string& each : filters) {
+                EXPECT_TRUE(pick->addSelectionFilter(each));
+            }
+            EXPECT_TRUE(pick->setSelectionLimits(minimum, maximum));
+        });
+        return openDialog()->commandInputs()->itemById("pick");
+    }
+
+    static std::size_t activeCount() { return ui()->activeSelections()->count(); }
+
+    Ptr<Document> document;
+    Ptr<adsk::fusion::Component> root;
+};
+
+TEST_F(SelectionTest, APickUpdatesInputAndActiveSelectionsAndIsThenTold) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addSelectionInput("pick", "", "");
+        on<OnChanged>(command->inputChanged(), [this](const auto& args) {
+            const Ptr<SelectionCommandInput> pick = args->input();
+            EXPECT_EQ(pick->selectionCount(), 1U);
+            EXPECT_EQ(ui()->activeSelections()->item(0)->entity(), part(1));
+            note(pick->id());
+        });
+    });
+
+    pick(part(1));
+
+    EXPECT_EQ(noted(), "pick");
+    const Ptr<SelectionCommandInput> input = openDialog()->commandInputs()->itemById("pick");
+    EXPECT_EQ(input->selection(0)->entity(), part(1));
+}
+
+TEST_F(SelectionTest, ABadIndexYieldsNull) {
+    const Ptr<SelectionCommandInput> input = openPicker({}, 1, 1);
+
+    EXPECT_FALSE(input->selection(input->selectionCount() - 1));
+    EXPECT_FALSE(ui()->activeSelections()->item(0));
+}
+
+TEST_F(SelectionTest, AtFirstExactlyOneEntityIsAskedFor) {
+    openWith([](const Ptr<CommandInputs>& inputs) { inputs->addSelectionInput("pick", "", ""); });
+    EXPECT_EQ(misuseOf(pressOk), "cannot press OK: the selection \"pick\" needs 1, and has 0");
+
+    pick(part(0));
+    pick(part(1));
+
+    const Ptr<SelectionCommandInput> input = openDialog()->commandInputs()->itemById("pick");
+    EXPECT_EQ(input->selectionCount(), 1U);
+    EXPECT_EQ(input->selection(0)->entity(), part(1));
+    EXPECT_EQ(misuseOf(pressOk), "");
+}
+
+TEST_F(SelectionTest, AMaximumOfZeroIsNone) {
+    const Ptr<SelectionCommandInput> input = openPicker({}, 1, 0);
+
+    pick(part(0));
+    pick(part(1));
+    pick(part(2));
+
+    EXPECT_EQ(input->selectionCount(), 3U);
+    EXPECT_EQ(activeCount(), 3U);
+}
+
+TEST_F(SelectionTest, NoMoreThanTheMaximumCanBePicked) {
+    openPicker({}, 1, 2);
+    pick(part(0));
+    pick(part(1));
+
+    EXPECT_EQ(misuseOf([this] { pick(part(2)); }), "cannot pick for \"pick\": it takes 2 at most");
+}
+
+TEST_F(SelectionTest, APickedEntityIsTakenOutByAnotherPick) {
+    const Ptr<SelectionCommandInput> input = openPicker({}, 1, 0);
+    pick(part(0));
+    pick(part(1));
+
+    pick(part(0));
+
+    EXPECT_EQ(input->selectionCount(), 1U);
+    EXPECT_EQ(activeCount(), 1U);
+}
+
+TEST_F(SelectionTest, FiltersOrTogether) {
+    const Ptr<SelectionCommandInput> input = openPicker({"Occurrences", "RootComponents"}, 1, 0);
+
+    pick(part(0));
+    pick(root);
+
+    EXPECT_EQ(input->selectionCount(), 2U);
+}
+
+TEST_F(SelectionTest, OccurrencesAreNoRootComponents) {
+    openPicker({"RootComponents"}, 1, 1);
+
+    EXPECT_EQ(misuseOf([this] { pick(part(0)); }),
+              "cannot pick for \"pick\": its filters refuse the entity");
+    EXPECT_EQ(misuseOf([this] { pick(root); }), "");
+}
+
+TEST_F(SelectionTest, AnotherComponentIsNoRootComponent) {
+    openPicker({"RootComponents"}, 1, 1);
+    const Ptr<adsk::fusion::Occurrence> occurrence = part(0);
+
+    EXPECT_EQ(misuseOf([&] { pick(occurrence->component()); }),
+              "cannot pick for \"pick\": its filters refuse the entity");
+}
+
+TEST_F(SelectionTest, AnUnknownFilterIsRefused) {
+    const Ptr<SelectionCommandInput> input = openPicker({}, 1, 1);
+
+    EXPECT_FALSE(input->addSelectionFilter("Elephants"));
+    EXPECT_TRUE(input->addSelectionFilter("JointOrigins"));
+}
+
+TEST_F(SelectionTest, WhatWasSelectedBeforeGoesIntoTheDialogAndIsTold) {
+    selectInModel({part(0), part(1)});
+
+    const Ptr<SelectionCommandInput> input = openPicker({"Occurrences"}, 1, 0);
+
+    EXPECT_EQ(input->selectionCount(), 2U);
+    EXPECT_EQ(activeCount(), 2U);
+    EXPECT_EQ(noted(), "pick");
+}
+
+TEST_F(SelectionTest, WhatWasSelectedBeforeIsNotThereWhileTheCommandIsCreated) {
+    selectInModel({part(0)});
+
+    openWith([this](const Ptr<CommandInputs>& inputs) {
+        const Ptr<SelectionCommandInput> pick = inputs->addSelectionInput("pick", "", "");
+        EXPECT_EQ(pick->selectionCount(), 0U);
+        EXPECT_FALSE(pick->addSelection(part(1)));
+    });
+
+    EXPECT_EQ(
+        misuses(),
+        (std::vector<Misuse>{{"SelectionCommandInput::addSelection",
+                              "nothing can be selected while the command is being created"}}));
+}
+
+TEST_F(SelectionTest, MoreThanTheLimitSelectedBeforeIsNotTakenAndStaysSelected) {
+    selectInModel({part(0), part(1)});
+
+    const Ptr<SelectionCommandInput> input = openPicker({"Occurrences"}, 1, 1);
+
+    EXPECT_EQ(input->selectionCount(), 0U);
+    EXPECT_EQ(activeCount(), 2U);
+    EXPECT_EQ(noted(), "");
+}
+
+TEST_F(SelectionTest, WhatTheFiltersRefuseIsNotTaken) {
+    selectInModel({part(0), root});
+
+    const Ptr<SelectionCommandInput> input = openPicker({"RootComponents"}, 1, 1);
+
+    ASSERT_EQ(input->selectionCount(), 1U);
+    EXPECT_EQ(input->selection(0)->entity(), root);
+    EXPECT_EQ(activeCount(), 1U);
+}
+
+TEST_F(SelectionTest, AnInputThatDoesNotUseCurrentSelectionsTakesNone) {
+    selectInModel({part(0)});
+
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addSelectionInput("pick", "", "")->isUseCurrentSelections(false);
+    });
+
+    const Ptr<SelectionCommandInput> input = openDialog()->commandInputs()->itemById("pick");
+    EXPECT_EQ(input->selectionCount(), 0U);
+}
+
+TEST_F(SelectionTest, AHiddenInputLosesItsSelections) {
+    const Ptr<SelectionCommandInput> input = openPicker({}, 1, 0);
+    pick(part(0));
+
+    input->isVisible(false);
+
+    EXPECT_EQ(input->selectionCount(), 0U);
+    EXPECT_EQ(activeCount(), 0U);
+}
+
+TEST_F(SelectionTest, TheFirstInputHasTheFocusUntilAnotherGetsIt) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addSelectionInput("first", "", "")->setSelectionLimits(1, 0);
+        inputs->addSelectionInput("second", "", "");
+    });
+    const Ptr<SelectionCommandInput> first = openDialog()->commandInputs()->itemById("first");
+    const Ptr<SelectionCommandInput> second = openDialog()->commandInputs()->itemById("second");
+    EXPECT_TRUE(first->hasFocus());
+
+    second->isEnabled(true);
+    EXPECT_TRUE(second->hasFocus());
+
+    click(first);
+    EXPECT_TRUE(first->hasFocus());
+    EXPECT_FALSE(second->isEnabled());
+}
+
+TEST_F(SelectionTest, TheFocusGoesOnWhenAnInputIsFull) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addSelectionInput("first", "", "");
+        inputs->addSelectionInput("second", "", "");
+    });
+
+    pick(part(0));
+    pick(part(1));
+
+    const Ptr<SelectionCommandInput> second = openDialog()->commandInputs()->itemById("second");
+    ASSERT_EQ(second->selectionCount(), 1U);
+    EXPECT_EQ(second->selection(0)->entity(), part(1));
+}
+
+TEST_F(SelectionTest, CodeCanSelectFromInsideInputChanged) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("go", "", false);
+        on<OnChanged>(command->inputChanged(), [this](const auto&) {
+            ui()->activeSelections()->clear();
+            EXPECT_TRUE(ui()->activeSelections()->add(part(0)));
+            EXPECT_TRUE(ui()->activeSelections()->add(part(2)));
+            EXPECT_TRUE(ui()->activeSelections()->add(part(0)));
+        });
+    });
+
+    click(openDialog()->commandInputs()->itemById("go"));
+
+    ASSERT_EQ(activeCount(), 2U);
+    EXPECT_EQ(ui()->activeSelections()->item(1)->entity(), part(2));
+}
+
+TEST_F(SelectionTest, NothingCannotBeSelected) {
+    EXPECT_FALSE(ui()->activeSelections()->add(nullptr));
+    EXPECT_EQ(misuseOf([] { pick(nullptr); }), "cannot pick: there is no such entity");
+}
+
+TEST_F(SelectionTest, APickWithoutADialogIsAllThatIsSelected) {
+    pick(part(0));
+    pick(part(1));
+
+    ASSERT_EQ(activeCount(), 1U);
+    EXPECT_EQ(ui()->activeSelections()->item(0)->entity(), part(1));
+}
+
+TEST_F(SelectionTest, ThePicksOfADialogGoWithIt) {
+    openPicker({}, 1, 0);
+    pick(part(0));
+
+    pressOk();
+
+    EXPECT_EQ(activeCount(), 0U);
+}
+
+TEST_F(SelectionTest, AnExecutionThatEditsTheModelClearsTheSelections) {
+    define("Edit", [this](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [this](const auto&) { root->description("new"); });
+    });
+    define("Look", [](const Ptr<Command>&) {});
+    selectInModel({part(0)});
+
+    pressCommand("Look");
+    EXPECT_EQ(activeCount(), 1U);
+
+    pressCommand("Edit");
+    EXPECT_EQ(activeCount(), 0U);
+}
+
+}  // namespace
+}  // namespace host

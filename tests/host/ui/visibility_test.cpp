@@ -1,0 +1,132 @@
+#include "tests/host/ui/host_test.h"
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+/// A dialog with a tab that shows, one that does not, and a group and a table in the first.
+class Visibility : public HostTest {
+protected:
+    Visibility() {
+        all = openWith([](const Ptr<CommandInputs>& inputs) {
+            const Ptr<CommandInputs> tab = inputs->addTabCommandInput("tab", "")->children();
+            tab->addStringValueInput("text", "", "kept");
+            tab->addGroupCommandInput("group", "")->children()->addBoolValueInput("in", "", false);
+            const Ptr<TableCommandInput> table = tab->addTableCommandInput("table", "", 1, "1:0");
+            table->addCommandInput(tab->addStringValueInput("cell", ""), 0, 0);
+            table->addCommandInput(tab->addStringValueInput("narrow", ""), 0, 1);
+            inputs->addTabCommandInput("other", "")->children()->addStringValueInput("far", "");
+        });
+    }
+
+    Ptr<CommandInputs> all;
+};
+
+TEST_F(Visibility, IsTheInputsOwnFlagWhateverHidesItFromView) {
+    EXPECT_TRUE(all->itemById("far")->isVisible());
+    EXPECT_TRUE(all->itemById("narrow")->isVisible());
+    all->itemById("tab")->isVisible(false);
+
+    EXPECT_TRUE(all->itemById("text")->isVisible());
+    EXPECT_FALSE(all->itemById("tab")->isVisible());
+}
+
+TEST_F(Visibility, HiddenAndDisabledInputsKeepTheirValues) {
+    all->itemById("text")->isVisible(false);
+    all->itemById("text")->isEnabled(false);
+
+    EXPECT_EQ(Ptr<StringValueCommandInput>(all->itemById("text"))->value(), "kept");
+    EXPECT_FALSE(all->itemById("text")->isEnabled());
+}
+
+TEST_F(Visibility, FullWidthCanBeSetOnTabsAndGroupsToo) {
+    EXPECT_FALSE(all->itemById("text")->isFullWidth());
+
+    EXPECT_TRUE(all->itemById("tab")->isFullWidth(true));
+    EXPECT_TRUE(all->itemById("group")->isFullWidth(true));
+    EXPECT_TRUE(all->itemById("text")->isFullWidth(true));
+
+    EXPECT_TRUE(all->itemById("text")->isFullWidth());
+}
+
+TEST_F(Visibility, AHiddenInputCannotBeUsed) {
+    all->itemById("text")->isVisible(false);
+
+    EXPECT_EQ(misuseOf([this] { typeText(all->itemById("text"), "x"); }),
+              "cannot type into \"text\": it is not visible");
+}
+
+TEST_F(Visibility, ADisabledInputCannotBeUsed) {
+    all->itemById("text")->isEnabled(false);
+
+    EXPECT_EQ(misuseOf([this] { pasteText(all->itemById("text"), "x"); }),
+              "cannot type into \"text\": it is not enabled");
+}
+
+TEST_F(Visibility, AReadOnlyTextCannotBeTypedInto) {
+    Ptr<StringValueCommandInput>(all->itemById("text"))->isReadOnly(true);
+
+    EXPECT_EQ(misuseOf([this] { typeText(all->itemById("text"), "x"); }),
+              "cannot type into \"text\": it is read-only");
+}
+
+TEST_F(Visibility, AnInputOfAnotherTabCannotBeUsed) {
+    EXPECT_EQ(misuseOf([this] { typeText(all->itemById("far"), "x"); }),
+              "cannot type into \"far\": its tab \"other\" does not show: activate it first");
+
+    activateTab(all->itemById("other"));
+    EXPECT_EQ(misuseOf([this] { typeText(all->itemById("far"), "x"); }), "");
+    EXPECT_EQ(misuseOf([this] { click(all->itemById("cell")); }),
+              "cannot click \"cell\": its tab \"tab\" does not show: activate it first");
+}
+
+TEST_F(Visibility, AnInputInAFoldedGroupCannotBeUsedUntilItIsUnfolded) {
+    const Ptr<GroupCommandInput> group = all->itemById("group");
+    group->isExpanded(false);
+    EXPECT_EQ(misuseOf([this] { click(all->itemById("in")); }),
+              "cannot click \"in\": its group \"group\" is folded: click it first");
+
+    click(group);
+
+    EXPECT_TRUE(group->isExpanded());
+    EXPECT_EQ(misuseOf([this] { click(all->itemById("in")); }), "");
+}
+
+TEST_F(Visibility, ACellInAColumnWithoutAWidthCannotBeUsed) {
+    EXPECT_EQ(misuseOf([this] { click(all->itemById("narrow")); }),
+              "cannot click \"narrow\": its column 1 of the table \"table\" has no width");
+}
+
+TEST_F(Visibility, ACellOfAHiddenTableCannotBeUsed) {
+    all->itemById("table")->isVisible(false);
+
+    EXPECT_EQ(misuseOf([this] { click(all->itemById("cell")); }),
+              "cannot click \"cell\": \"table\" is not visible");
+}
+
+TEST_F(Visibility, AnInputThatIsGoneCannotBeUsed) {
+    const Ptr<CommandInput> text = all->itemById("text");
+    text->deleteMe();
+
+    EXPECT_EQ(misuseOf([&] { click(text); }),
+              "cannot click \"text\": it is not part of the open dialog");
+    EXPECT_EQ(misuseOf([&] { click(nullptr); }), "cannot click: there is no such input");
+}
+
+TEST_F(Visibility, OnlyTextsCanBeTypedIntoAndOnlyListsChosenFrom) {
+    EXPECT_EQ(misuseOf([this] { typeText(all->itemById("in"), "x"); }),
+              "cannot type into \"in\": it holds no text");
+    EXPECT_EQ(misuseOf([this] { chooseItem(all->itemById("text"), 0); }),
+              "cannot choose from \"text\": it has no items");
+}
+
+TEST_F(Visibility, AHiddenTabCannotBeShown) {
+    all->itemById("other")->isVisible(false);
+
+    EXPECT_EQ(misuseOf([this] { activateTab(all->itemById("other")); }),
+              "cannot show \"other\": it is not visible");
+}
+
+}  // namespace
+}  // namespace host
