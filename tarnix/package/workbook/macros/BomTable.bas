@@ -40,6 +40,8 @@ Public Function ShowRecords(sheet As Worksheet, records As Collection) As String
     FitColumns sheet, lastRow, columnCount
     If rowCount > 0 Then
         sheet.Range(sheet.Cells(HeaderRow, 1), sheet.Cells(HeaderRow + rowCount, columnCount)).AutoFilter
+        ' Positions stand under their caption, away from the part numbers.
+        sheet.Range(sheet.Cells(HeaderRow, 1), sheet.Cells(HeaderRow + rowCount, 1)).HorizontalAlignment = xlLeft
     End If
     ShowRecords = rowCount & IIf(rowCount = 1, " row", " rows")
 End Function
