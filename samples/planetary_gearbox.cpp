@@ -2,6 +2,7 @@
 #include "samples/samples.h"
 
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 namespace samples {
@@ -43,6 +44,7 @@ std::vector<Contour> holesOnCircle(double holeRadius, double radius, int count, 
 std::vector<Use> onCircleUses(const std::string& key, int count, double radius, double first,
                               double z) {
     std::vector<Use> uses;
+    uses.reserve(static_cast<std::size_t>(count));
     for (int use = 0; use < count; ++use) {
         uses.push_back({key, onCircle(radius, first + 360.0 * use / count, z)});
     }

@@ -18,7 +18,8 @@ namespace host {
 namespace {
 
 constexpr int kWatchMilliseconds = 20;
-constexpr std::size_t kLongestLine = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
+constexpr std::size_t kLongestLine = 256 * kMegabyte;
 
 std::string systemReason(int error) { return std::generic_category().message(error); }
 
@@ -52,6 +53,7 @@ public:
 
 std::vector<char*> pointersTo(std::vector<std::string>& words) {
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) {
         pointers.push_back(word.data());
     }
@@ -64,7 +66,7 @@ std::size_t residentMegabytes(pid_t process) {
     std::size_t size = 0;
     std::size_t resident = 0;
     std::ifstream("/proc/" + std::to_string(process) + "/statm") >> size >> resident;
-    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) / (1024 * 1024);
+    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) / kMegabyte;
 }
 
 std::string shortNumber(double value) {

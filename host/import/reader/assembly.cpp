@@ -32,7 +32,7 @@ public:
         assembly_.files.push_back(std::move(file));
         const std::size_t number = assembly_.files.size() - 1;
         const std::size_t first = assembly_.components.size();
-        const std::vector<std::size_t> roots = addProducts(assembly_);
+        std::vector<std::size_t> roots = addProducts(assembly_);
         if (assembly_.components.size() == first) {
             throw ReadError(
                 "holds no product; export it as an assembly or a part (AP203, AP214 "

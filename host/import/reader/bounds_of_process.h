@@ -5,7 +5,8 @@
 namespace step {
 
 /// Keeps the program itself within bounds, beside the watch that its starter keeps: no core files,
-/// no endless computing, and no more address space than twice the memory it may use.
+/// crashes that are seen as such, no endless computing, and no more address space than twice the
+/// memory it may use.
 void boundProcess(std::size_t seconds, std::size_t megabytes);
 
 /// Ends the program as soon as nobody holds the other end of its standard input any more, even

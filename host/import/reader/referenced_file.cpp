@@ -49,7 +49,7 @@ std::optional<fs::path> findReferenced(const fs::path& referring, const std::str
     std::string slashed = name;
     std::replace(slashed.begin(), slashed.end(), '\\', '/');
     const fs::path folder = referring.parent_path();
-    if (const auto found = findIn(folder, slashed)) {
+    if (auto found = findIn(folder, slashed)) {
         return found;
     }
     return findIn(folder, fs::path(slashed).filename());

@@ -42,18 +42,18 @@ class Listener final : public Message_Printer {
     DEFINE_STANDARD_RTTI_INLINE(Listener, Message_Printer)
 
 public:
-    std::vector<std::string> syntax;  ///< places where the text is no STEP, in their order
-    std::size_t unresolved = 0;       ///< references to entities that are not there
+    mutable std::vector<std::string> syntax;  ///< places where the text is no STEP, in their order
+    mutable std::size_t unresolved = 0;       ///< references to entities that are not there
 
 protected:
     void send(const TCollection_AsciiString& message,
               const Message_Gravity /*gravity*/) const override {
-        // A const interface over what is a record here.
-        const_cast<Listener*>(this)->note(message.ToCString());
+        note(message.ToCString());
     }
 
 private:
-    void note(std::string_view message) {
+    // Const, as the interface has it; what is heard is kept all the same.
+    void note(std::string_view message) const {
         constexpr std::string_view kParsing = "Undefined Parsing: ";
         const std::size_t at = message.find(kParsing);
         if (at != std::string_view::npos) {
@@ -101,7 +101,7 @@ std::string complaints(const StepData_StepModel& model) {
     std::size_t faulty = 0;
     std::string first;
     for (int number = 1; number <= model.NbEntities(); ++number) {
-        const Handle(Interface_Check) check = model.Check(number, /*syntactic=*/true);
+        const Handle(Interface_Check)& check = model.Check(number, /*syntactic=*/true);
         if (!check->HasFailed()) {
             continue;
         }

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
+#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -96,24 +96,39 @@ bool areChinese(const std::vector<std::string>& rows) {
                        [](const std::string& row) { return row.size() >= 4; });
 }
 
-struct CloseConverter {
-    void operator()(void* converter) const { ::iconv_close(converter); }
+/// A converter to UTF-8; whether the system has it is asked with `valid`.
+class Converter {
+public:
+    explicit Converter(const std::string& encoding)
+        : handle_(::iconv_open("UTF-8", encoding.c_str())) {}
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+    ~Converter() {
+        if (valid()) {
+            ::iconv_close(handle_);
+        }
+    }
+
+    [[nodiscard]] bool valid() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
+    [[nodiscard]] iconv_t handle() const { return handle_; }
+
+private:
+    iconv_t handle_;
 };
 
 /// None when the system lacks the encoding or the bytes do not fit it.
 std::optional<std::string> convert(std::string_view bytes, const std::string& encoding) {
-    const iconv_t opened = ::iconv_open("UTF-8", encoding.c_str());
-    if (opened == reinterpret_cast<iconv_t>(-1)) {
+    const Converter converter(encoding);
+    if (!converter.valid()) {
         return std::nullopt;
     }
-    const std::unique_ptr<void, CloseConverter> converter(opened);
     std::string from(bytes);
     std::string to(from.size() * 4, '\0');
     char* in = from.data();
     char* out = to.data();
     std::size_t inLeft = from.size();
     std::size_t outLeft = to.size();
-    if (::iconv(opened, &in, &inLeft, &out, &outLeft) == static_cast<std::size_t>(-1)) {
+    if (::iconv(converter.handle(), &in, &inLeft, &out, &outLeft) == static_cast<std::size_t>(-1)) {
         return std::nullopt;
     }
     to.resize(to.size() - outLeft);
