@@ -1,25 +1,27 @@
 #include "host/import/step_import.h"
 
 #include "drafts.h"
+#include "host/import/reader_program.h"
 #include "samples/product.h"
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <utility>
 
 namespace {
 
-using drafts::import;
 using drafts::product;
 using drafts::step;
 using drafts::tree;
 using drafts::usage;
 using host::DesignData;
-using samples::Placement;
 using samples::rectangle;
 using samples::Solid;
 
@@ -232,6 +234,29 @@ TEST_F(StepImport, ProgressRunsFromReadingToBuilding) {
 
     EXPECT_EQ(heard.front(), (std::pair<std::string, double>("Reading", 0)));
     EXPECT_EQ(heard.back(), (std::pair<std::string, double>("Building", 1)));
+}
+
+TEST_F(StepImport, TheReaderEndsWhenItsStarterIsGone) {
+    const std::string file = folder.write("a.step", step(product(10, "P", "Bar")));
+    const std::string reader = host::findStepReader().string();
+    int ends[2] = {};
+    ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends), 0);
+    const pid_t process = ::fork();
+    if (process == 0) {
+        ::dup2(ends[1], STDIN_FILENO);
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::execl(reader.c_str(), "step-reader", file.c_str(), "10", "10", "60", "3072", nullptr);
+        ::_exit(99);
+    }
+    ::close(ends[1]);
+    char first = 0;
+    ASSERT_EQ(::read(ends[0], &first, 1), 1);
+
+    ::close(ends[0]);
+
+    int status = 0;
+    EXPECT_EQ(::waitpid(process, &status, 0), process);
+    EXPECT_TRUE(WIFSIGNALED(status) ? WTERMSIG(status) == SIGPIPE : WEXITSTATUS(status) == 0);
 }
 
 TEST_F(StepImport, NoProcessOutlivesTheDesign) {
