@@ -2,6 +2,7 @@
 
 #include "tarnix/bom/behaviour/active_design.h"
 #include "tarnix/bom/behaviour/bom_export.h"
+#include "tarnix/bom/behaviour/column_choice.h"
 #include "tarnix/bom/behaviour/structure_refresh.h"
 #include "tarnix/bom/model/walk.h"
 #include "tarnix/bom/tabs/bom_ids.h"
@@ -79,6 +80,7 @@ void BomCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventAr
     BomModel model;
     rows_ = walkOccurrences(model, root->occurrences()->asList(), 1);
     if (route(eventArgs, id)) {
+        onBomSelectionChange(eventArgs, rows_);
         selectRowInDesign(input, product);
     }
 }

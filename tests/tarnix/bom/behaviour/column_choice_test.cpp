@@ -1,0 +1,180 @@
+#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+
+#include <gtest/gtest.h>
+
+namespace test_support {
+namespace {
+
+using adsk::core::DropDownCommandInput;
+using adsk::core::Ptr;
+
+class ColumnChoice : public BehaviourTest {
+protected:
+    void SetUp() override {
+        BehaviourTest::SetUp();
+        open(R"(
+            Bolt
+            Plate
+            Rod
+            Nut
+            Cap)");
+    }
+};
+
+TEST_F(ColumnChoice, OfAPropertyMarksItsColumnAsUsed) {
+    showConfiguration();
+
+    session->choose("iProperty_4", "Mass");
+
+    EXPECT_EQ(value("colUsrHeader_5"), "used");
+    EXPECT_EQ(value("nameCol9"), "Mass");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ColumnChoice, OfAHeadingFreesItsColumn) {
+    showConfiguration();
+    session->choose("iProperty_4", "Mass");
+
+    session->choose("iProperty_4", "--- User Property ---");
+
+    EXPECT_EQ(value("colUsrHeader_5"), "not use");
+    EXPECT_EQ(value("nameCol9"), "");
+    const Ptr<DropDownCommandInput> dropDown = session->input("iProperty_4");
+    EXPECT_EQ(dropDown->selectedItem()->name(), "---Select One---");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ColumnChoice, LeavesTheOtherColumnsAlone) {
+    showConfiguration();
+
+    session->choose("iProperty_0", "Mass");
+
+    EXPECT_EQ(value("colUsrHeader_1"), "used");
+    EXPECT_EQ(value("nameCol5"), "Mass");
+    EXPECT_EQ(value("colUsrHeader_2"), "not used");
+    EXPECT_EQ(value("nameCol6"), "");
+}
+
+TEST_F(ColumnChoice, KeepsATypedCaptionUntilTheNextChoice) {
+    showConfiguration();
+    session->choose("iProperty_4", "Mass");
+    session->paste("nameCol9", "Weight");
+    session->choose("iProperty_3", "Area");
+    EXPECT_EQ(value("nameCol9"), "Weight");
+
+    session->choose("iProperty_4", "Volume");
+
+    EXPECT_EQ(value("nameCol9"), "Volume");
+}
+
+TEST_F(ColumnChoice, OfReferenceHidesTheRowOfTheStructureTable) {
+    showStructure();
+
+    session->choose("bomStructure_2", "Reference");
+
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | Bolt
+        3 | Part | Rod
+        4 | Part | Nut
+        5 | Part | Cap)"));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ColumnChoice, OfReferenceInTheModelTableHidesNothing) {
+    showModel();
+
+    session->choose("modelBomStructure_2", "Reference");
+
+    EXPECT_TRUE(session->input("modelPartNumberOcc_2")->isVisible());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ColumnChoice, OfAnotherStructureShowsNothingAgain) {
+    showStructure();
+    session->choose("bomStructure_2", "Reference");
+
+    session->choose("bomStructure_1", "Buy");
+
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | Bolt
+        3 | Part | Rod
+        4 | Part | Nut
+        5 | Part | Cap)"));
+}
+
+TEST_F(ColumnChoice, OfReferenceStaysOutOfSightBehindAChangeOfTab) {
+    showStructure();
+    session->choose("bomStructure_2", "Reference");
+    showModel();
+
+    showStructure();
+
+    EXPECT_FALSE(session->input("partNumberOcc_2")->isVisible());
+    EXPECT_TRUE(session->input("partNumberOcc_1")->isVisible());
+}
+
+TEST_F(ColumnChoice, OfReferenceHidesEveryLongerNumberThatBeginsAlike) {
+    open(R"(
+        A
+        B
+        C
+        D
+        E
+        F
+        G
+        H
+        I
+        J
+        K
+        L)");
+    showStructure();
+
+    session->choose("bomStructure_1", "Reference");
+
+    // One begins ten, eleven and twelve as well: the characters are compared.
+    EXPECT_EQ(table(), text(R"(
+        2 | Part | B
+        3 | Part | C
+        4 | Part | D
+        5 | Part | E
+        6 | Part | F
+        7 | Part | G
+        8 | Part | H
+        9 | Part | I)"));
+}
+
+TEST_F(ColumnChoice, OfReferenceTakesTheIdsNumberForATableRow) {
+    open(R"(
+        Bolt
+        Bolt
+        Plate
+        Rod
+        Nut)");
+    showStructure();
+
+    // The plate's id is 3, for two bolts stand in front of it; row 3 of the table is the rod's.
+    session->choose("bomStructure_3", "Reference");
+
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | Bolt
+        2 | Part | Plate
+        4 | Part | Nut)"));
+}
+
+TEST_F(ColumnChoice, OfReferenceBehindTheTablesEndRaisesAndHidesNothing) {
+    open(R"(
+        Bolt
+        Bolt
+        Plate)");
+    showStructure();
+
+    session->choose("bomStructure_3", "Reference");
+
+    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of bomStructure_3");
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | Bolt
+        2 | Part | Plate)"));
+}
+
+}  // namespace
+}  // namespace test_support
