@@ -25,3 +25,12 @@ else()
     find_package(GTest REQUIRED)
     find_package(LibXml2 REQUIRED)
 endif()
+
+# The compiler's runtime lies beside the Windows programs: all of them and the module share it.
+if(MINGW)
+    foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}
+                        OUTPUT_VARIABLE found OUTPUT_STRIP_TRAILING_WHITESPACE)
+        file(COPY_FILE ${found} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${library} ONLY_IF_DIFFERENT)
+    endforeach()
+endif()

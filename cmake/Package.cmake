@@ -1,0 +1,30 @@
+# What a designer installs: the folder `Tarnix/`, laid by `cmake --install <build> --component addin`
+# and packed as a zip by `cpack`. It is the same folder for Fusion and for the stand-in host.
+set(addin_source ${PROJECT_SOURCE_DIR}/tarnix)
+
+install(TARGETS tarnix_module LIBRARY DESTINATION Tarnix COMPONENT addin)
+install(FILES ${PROJECT_BINARY_DIR}/Tarnix/Tarnix.manifest
+              ${addin_source}/package/workbook/TarnixBOM.xlsm
+              ${addin_source}/package/THIRD-PARTY-NOTICES.txt
+              ${PROJECT_SOURCE_DIR}/LICENSE
+        DESTINATION Tarnix COMPONENT addin)
+install(DIRECTORY ${addin_source}/Resources ${addin_source}/resources
+        DESTINATION Tarnix COMPONENT addin)
+# The guides that "Open Help" opens, in the host's two languages.
+install(FILES ${addin_source}/package/guides/Tarnix_UsersGuide.pdf
+              ${addin_source}/package/guides/Tarnix_UzivatelskaPrirucka.pdf
+        DESTINATION Tarnix COMPONENT addin OPTIONAL)
+
+if(TARNIX_FUSION_SDK)
+    set(package_host fusion)
+elseif(WIN32)
+    set(package_host standin-windows)
+else()
+    set(package_host standin-linux)
+endif()
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_FILE_NAME Tarnix-${PROJECT_VERSION}-${package_host})
+set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};Tarnix;addin;/")
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+set(CPACK_VERBATIM_VARIABLES ON)
+include(CPack)

@@ -1,0 +1,54 @@
+# The package, as a designer gets it: installed, packed, unpacked in a folder with blanks and letters
+# beyond ASCII, and loaded from there by the workbench.
+#
+#   cmake -DBUILD=<build folder> -DOUT=<scratch folder> -DNAME=<folder's name> -DWORKBENCH=<program>
+#         -DEXPECTED=<list of files> -P check_package.cmake
+#
+# WORKBENCH may be a list: an emulator and the program.
+cmake_minimum_required(VERSION 3.25)
+
+file(REMOVE_RECURSE ${OUT})
+file(MAKE_DIRECTORY ${OUT})
+
+execute_process(COMMAND cpack -G ZIP -B ${OUT} --config ${BUILD}/CPackConfig.cmake
+                WORKING_DIRECTORY ${OUT} COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+file(GLOB packages ${OUT}/*.zip)
+list(LENGTH packages count)
+if(NOT count EQUAL 1)
+    message(FATAL_ERROR "expected one package, found: ${packages}")
+endif()
+
+set(place "${OUT}/${NAME}")
+file(ARCHIVE_EXTRACT INPUT ${packages} DESTINATION "${place}")
+
+# Every icon is checked against the sources elsewhere; here the folders count.
+file(GLOB_RECURSE files RELATIVE "${place}" "${place}/*")
+list(FILTER files EXCLUDE REGEX "^Tarnix/[Rr]esources/")
+list(SORT files)
+file(STRINGS ${EXPECTED} expected)
+if(NOT files STREQUAL expected)
+    message(FATAL_ERROR "the package holds ${files}, expected ${expected}")
+endif()
+foreach(icon Resources/BOM/Combine.png Resources/Properties/32x32@2x.png resources/_Buy/16x16.png)
+    if(NOT EXISTS "${place}/Tarnix/${icon}")
+        message(FATAL_ERROR "the package lacks ${icon}")
+    endif()
+endforeach()
+
+file(WRITE "${place}/design.design.json" [[
+{"format": "standin-host-design", "version": 1, "name": "Packed", "unit": "mm", "components": [
+ {"name": "Packed", "partNumber": "Packed",
+  "children": [{"component": 1, "instance": 1}, {"component": 1, "instance": 2}]},
+ {"name": "Bolt", "partNumber": "M8", "material": {"name": "Steel", "density": 0.5},
+  "geometry": {"area": 6, "volume": 1, "min": [0, 0, 0], "max": [1, 1, 1]}}]}
+]])
+execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out .
+                WORKING_DIRECTORY "${place}" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+file(READ "${place}/TarnixBOM.csv" csv)
+string(REPLACE "\r" "" csv "${csv}")
+# Two bolts of half a kilogram are one line of one kilogram.
+set(told "Pos.;Part Number;BOM Structure;\n1;M8;Produce;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
+if(NOT csv STREQUAL told)
+    message(FATAL_ERROR "exported:\n${csv}\nexpected:\n${told}")
+endif()
+message("the package loads from '${NAME}'")
