@@ -1,0 +1,10 @@
+#include "tarnix/platform/cursor.h"
+
+namespace tarnix::platform {
+
+// A program has no cursor of its own here: its window system shows one for each window.
+WaitCursor::WaitCursor() = default;
+
+WaitCursor::~WaitCursor() = default;
+
+}  // namespace tarnix::platform
