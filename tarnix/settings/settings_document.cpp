@@ -159,6 +159,19 @@ std::string readHelpdeskUrl() {
     return url;
 }
 
+void writeHelpdeskUrl(const std::string& url) {
+    const std::string path = settingsFilePath();
+    {
+        // Let go before COM is: its library may be unloaded with the last user.
+        const XmlDocument document = openSettingsDocument(path);
+        for (const XmlNode& category : categoriesOf(document, "category", "httpHelpdesk")) {
+            category.firstChild().setText(url);
+        }
+        document.save(path);
+    }
+    platform::uninitializeCom();
+}
+
 XmlNode appendCategory(const XmlDocument& document, const std::string& elementName,
                        const std::string& attributeName, const std::string& attributeValue) {
     try {

@@ -44,6 +44,10 @@ std::string itemToString(const platform::XmlNode& itemElement);
 /// The web address of the support provider; empty when the document has no category for it.
 std::string readHelpdeskUrl();
 
+/// Stores the web address of the support provider. A document without a category for it is saved as
+/// it is; when anything raises, the file stays as it was.
+void writeHelpdeskUrl(const std::string& url);
+
 /// Adds an element with one attribute under the root, and yields it. Nothing, and nothing added, if
 /// a `std::exception` was raised on the way.
 platform::XmlNode appendCategory(const platform::XmlDocument& document,
