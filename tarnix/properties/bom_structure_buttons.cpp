@@ -1,0 +1,80 @@
+#include "tarnix/properties/bom_structure_buttons.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace tarnix {
+
+using adsk::core::ButtonRowCommandInput;
+using adsk::core::ListItem;
+using adsk::core::ListItems;
+using adsk::core::Ptr;
+
+namespace {
+
+std::vector<std::string> captionsThatAreOn(const Ptr<ListItems>& buttons) {
+    std::vector<std::string> captions;
+    const std::size_t count = buttons->count();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ptr<ListItem> button = buttons->item(i);
+        if (button->isSelected()) {
+            captions.push_back(button->name());
+        }
+    }
+    return captions;
+}
+
+/// Switches `before` off, if it is among `captions`, and yields the last of the others.
+std::string switchOff(const Ptr<ListItems>& buttons, const std::vector<std::string>& captions,
+                      const std::string& before) {
+    std::string choice;
+    auto next = captions.begin();
+    const std::size_t count = buttons->count();
+    for (std::size_t i = 0; i < count && next != captions.end(); ++i) {
+        const Ptr<ListItem> button = buttons->item(i);
+        if (button->name() != *next) {
+            continue;
+        }
+        if (*next == before) {
+            button->isSelected(false);
+        } else {
+            choice = *next;
+        }
+        ++next;
+    }
+    return choice;
+}
+
+}  // namespace
+
+void loadBomStructure(const Ptr<ButtonRowCommandInput>& row, const ComponentProperties& properties,
+                      std::string& selected) {
+    const Ptr<ListItems> buttons = row->listItems();
+    bool isAnyOn = false;
+    const std::size_t count = buttons->count();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ptr<ListItem> button = buttons->item(i);
+        const std::string caption = button->name();
+        const bool isOn = findProperty(properties, caption) == "1";
+        button->isSelected(isOn);
+        if (isOn) {
+            selected = caption;
+            isAnyOn = true;
+        }
+    }
+    if (!isAnyOn) {
+        selected.clear();
+    }
+}
+
+void keepOneBomStructure(const Ptr<ButtonRowCommandInput>& row, std::string& selected) {
+    const Ptr<ListItems> buttons = row->listItems();
+    const std::vector<std::string> captions = captionsThatAreOn(buttons);
+    if (captions.size() == 1) {
+        selected = captions.front();
+    } else if (captions.size() == 2) {
+        selected = switchOff(buttons, captions, selected);
+    }
+}
+
+}  // namespace tarnix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "tarnix/properties/property_store.h"
+
+#include <Core/CoreAll.h>
+
+#include <string>
+
+/// The buttons of the BOM structure, of which at most one is to be on.
+///
+/// The row allows several at once, since that is how the host lets the user switch the only one
+/// off. `selected` is the caption of the button that is on, which tells it from one just pressed.
+namespace tarnix {
+
+/// Switches on what `properties` has on, and all others off. `selected` becomes the last one that
+/// is on, the empty text for none.
+void loadBomStructure(const adsk::core::Ptr<adsk::core::ButtonRowCommandInput>& row,
+                      const ComponentProperties& properties, std::string& selected);
+
+/// Answers a press: of two buttons that are on, `selected` goes off, and the other takes its place
+/// there. Where neither is `selected`, both stay, and the later one takes its place. With none or
+/// more than two on nothing happens.
+void keepOneBomStructure(const adsk::core::Ptr<adsk::core::ButtonRowCommandInput>& row,
+                         std::string& selected);
+
+}  // namespace tarnix

@@ -1,0 +1,25 @@
+#include "tarnix/properties/picked_component.h"
+
+namespace tarnix {
+
+using adsk::core::Base;
+using adsk::core::Ptr;
+using adsk::core::Selection;
+using adsk::core::SelectionCommandInput;
+using adsk::fusion::Component;
+using adsk::fusion::Occurrence;
+
+Ptr<Selection> lastSelection(const Ptr<SelectionCommandInput>& input) {
+    // With nothing picked the index is no valid one, for which the host has no selection.
+    return input->selection(input->selectionCount() - 1);
+}
+
+Ptr<Component> componentOf(const Ptr<Base>& entity) {
+    if (const Ptr<Component> component = entity) {
+        return component;
+    }
+    const Ptr<Occurrence> occurrence = entity;
+    return occurrence ? occurrence->component() : nullptr;
+}
+
+}  // namespace tarnix

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <Core/CoreAll.h>
+
+#include <string>
+#include <vector>
+
+/// What the dialog "Edit custom properties" shows.
+///
+/// One tab edits the properties of the component that is picked, the other the list of custom
+/// properties that the first one offers. That list stands in the settings: its entries are texts of
+/// a key, ";" and a display name. It is read at each opening, so a change of it takes effect at the
+/// next one.
+namespace tarnix {
+
+/// Counts the rows that were made of the settings, over all openings.
+extern int filledRowCounter;
+
+/// Numbers the rows that the user adds. It is never reset, so that their ids do not repeat while
+/// the add-in is loaded.
+extern int addedRowCounter;
+
+/// Makes all inputs of the dialog.
+///
+/// Ends early, and leaves what it has made, where the host gives no tab, no group, no button row or
+/// none of their contents. Anything else that is missing raises a plain `std::exception`.
+void buildPropertiesDialog(adsk::core::Ptr<adsk::core::CommandInputs> inputs);
+
+/// Has the selection accept occurrences and the root component, and tells the user of a filter that
+/// the host refuses.
+void setSelectionFilters(adsk::core::Ptr<adsk::core::SelectionCommandInput> selectionInput);
+
+/// Adds a row for each entry of the settings' list behind those that the table has.
+void fillUserPropertyTable(adsk::core::Ptr<adsk::core::TableCommandInput> table,
+                           std::vector<std::string> entries);
+
+}  // namespace tarnix
