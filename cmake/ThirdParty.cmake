@@ -28,6 +28,7 @@ endif()
 
 # The compiler's runtime lies beside the Windows programs: all of them and the module share it.
 if(MINGW)
+    file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
     foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}
                         OUTPUT_VARIABLE found OUTPUT_STRIP_TRAILING_WHITESPACE)
