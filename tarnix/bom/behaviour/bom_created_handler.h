@@ -8,7 +8,8 @@
 
 namespace tarnix {
 
-/// Answers the start of the command "BOM": makes its dialog and attaches the handlers that serve it.
+/// Answers the start of the command "BOM": makes its dialog and attaches the handlers that serve
+/// it.
 ///
 /// One object, made when the command is registered, serves every opening of the dialog. The host is
 /// given addresses inside it.

@@ -3,7 +3,9 @@
 #include "tarnix/bom/behaviour/active_design.h"
 #include "tarnix/bom/behaviour/bom_export.h"
 #include "tarnix/bom/behaviour/column_choice.h"
+#include "tarnix/bom/behaviour/row_collapse.h"
 #include "tarnix/bom/behaviour/structure_refresh.h"
+#include "tarnix/bom/behaviour/structure_sort.h"
 #include "tarnix/bom/model/walk.h"
 #include "tarnix/bom/tabs/bom_ids.h"
 #include "tarnix/text/checked.h"
@@ -17,26 +19,57 @@ namespace tarnix {
 using adsk::core::Application;
 using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
+using adsk::core::DropDownCommandInput;
 using adsk::core::InputChangedEventArgs;
+using adsk::core::ListItem;
 using adsk::core::Product;
 using adsk::core::Ptr;
 using adsk::core::Selections;
 using adsk::core::TabCommandInput;
+using adsk::core::TableCommandInput;
 using adsk::fusion::Component;
 
 namespace {
 
+bool contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
+
+/// Sorts the Structure table when the input is one of its header cells and an order is chosen.
+/// `inputs` is the collection of the input's own tab, so that on another tab no table is found.
+void sortByHeader(const Ptr<CommandInputs>& inputs, const Ptr<CommandInput>& input,
+                  const std::string& id) {
+    const Ptr<TableCommandInput> table = inputs->itemById(kStructureTableId);
+    const Ptr<DropDownCommandInput> order = inputs->itemById(kSortOrderId);
+    const Ptr<ListItem> selected = order ? order->selectedItem() : nullptr;
+    const std::string orderText = selected ? selected->name() : "";
+    if (idTail(id) == "0" && table && !orderText.empty()) {
+        sortStructureTable(table, input, orderText);
+    }
+}
+
 /// Does what the input of this id asks for; false when nothing is to follow.
-bool route(const Ptr<InputChangedEventArgs>& eventArgs, const std::string& id) {
+bool route(const Ptr<InputChangedEventArgs>& eventArgs, const Ptr<CommandInput>& input,
+           const std::string& id) {
     if (id == kExportId) {
         exportBom(eventArgs);
+        return true;
+    }
+    // The two ids differ in the case of a letter, so that neither holds the other.
+    if (contains(id, "colapseRow_") || contains(id, "modelColapseRow_")) {
+        toggleRowCollapse(input);
         return true;
     }
     if (id == "APITabBar") {
         refreshOnTabChange(eventArgs);
         return false;
     }
-    return static_cast<bool>(eventArgs->inputs());
+    const Ptr<CommandInputs> inputs = eventArgs->inputs();
+    if (!inputs) {
+        return false;
+    }
+    sortByHeader(inputs, input, id);
+    return true;
 }
 
 Ptr<Selections> activeSelections(const Ptr<Product>& product) {
@@ -79,7 +112,7 @@ void BomCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventAr
     }
     BomModel model;
     rows_ = walkOccurrences(model, root->occurrences()->asList(), 1);
-    if (route(eventArgs, id)) {
+    if (route(eventArgs, input, id)) {
         onBomSelectionChange(eventArgs, rows_);
         selectRowInDesign(input, product);
     }
