@@ -12,7 +12,6 @@ using adsk::core::BoundingBox3D;
 using adsk::core::Material;
 using adsk::core::Point3D;
 using adsk::core::Ptr;
-using adsk::fusion::Component;
 using adsk::fusion::LowCalculationAccuracy;
 using adsk::fusion::PhysicalProperties;
 
@@ -32,9 +31,9 @@ std::string sizeText(const BomRow& row, const std::string& name) {
     const Ptr<BoundingBox3D> box = row.component->boundingBox();
     const Ptr<Point3D> min = box->minPoint();
     const Ptr<Point3D> max = box->maxPoint();
-    const std::string length = millimetres(max->x() - min->x());
-    const std::string width = millimetres(max->y() - min->y());
-    const std::string height = millimetres(max->z() - min->z());
+    std::string length = millimetres(max->x() - min->x());
+    std::string width = millimetres(max->y() - min->y());
+    std::string height = millimetres(max->z() - min->z());
     if (name == "Length") {
         return length;
     }

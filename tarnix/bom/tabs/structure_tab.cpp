@@ -10,7 +10,6 @@ namespace tarnix {
 namespace {
 
 using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::DropDownCommandInput;
 using adsk::core::ListItems;

@@ -23,8 +23,8 @@ int findBomRow(const std::vector<BomRow>& rows, const Ptr<Occurrence>& occurrenc
         }
         const std::string first = rows[i].occurrence->fullPathName();
         const std::string second = occurrence->fullPathName();
-        const std::size_t firstPlus = first.rfind("+");
-        const std::size_t secondPlus = second.rfind("+");
+        const std::size_t firstPlus = first.rfind('+');
+        const std::size_t secondPlus = second.rfind('+');
         if (first.substr(0, firstPlus) == second.substr(0, secondPlus)) {
             return static_cast<int>(i);
         }
@@ -35,7 +35,7 @@ int findBomRow(const std::vector<BomRow>& rows, const Ptr<Occurrence>& occurrenc
     return -1;
 }
 
-std::string cutAtColon(const std::string& path) { return path.substr(0, path.rfind(":")); }
+std::string cutAtColon(const std::string& path) { return path.substr(0, path.rfind(':')); }
 
 void mergeProperties(BomRow& target, const BomRow& current) {
     const std::size_t length = target.properties.size();
@@ -44,12 +44,12 @@ void mergeProperties(BomRow& target, const BomRow& current) {
             if (current.properties[j].value != target.properties[j].value) {
                 target.properties[j].value = kDifferent;
             }
-        } else if (target.properties[j].value != "") {
+        } else if (!target.properties[j].value.empty()) {
             target.properties[j].value = kDifferent;
         }
     }
     for (std::size_t j = length; j < current.properties.size(); ++j) {
-        if (current.properties[j].value != "") {
+        if (!current.properties[j].value.empty()) {
             target.properties.push_back(PropertyEntry{current.properties[j].name, kDifferent});
         }
     }
@@ -157,7 +157,7 @@ std::vector<ShownRow> shownRows(const std::vector<BomRow>& rows) {
         }
         lastShownLevel = row.level;
         if (isAssembly) {
-            lastAssemblyStem = path.substr(0, path.rfind(":"));
+            lastAssemblyStem = path.substr(0, path.rfind(':'));
         }
     }
     return shown;

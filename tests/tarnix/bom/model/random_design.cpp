@@ -9,7 +9,6 @@
 
 namespace {
 
-using host::AttributeData;
 using host::ComponentData;
 using host::DesignData;
 using host::OccurrenceData;
