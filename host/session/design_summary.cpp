@@ -28,7 +28,10 @@ DesignSummary summarize(const DesignData& design) {
     summary.occurrences = countOccurrences(design);
     summary.levels = countLevels(design);
     for (const ComponentData& component : design.components) {
-        summary.bodies += component.geometry == nullptr ? 0 : 1;
+        if (component.geometry == nullptr) {
+            continue;
+        }
+        ++summary.bodies;
         if (component.material) {
             countMaterial(summary.materials, *component.material);
         }

@@ -8,7 +8,7 @@
 
 namespace host {
 
-/// A material of a design, and how many components are made of it.
+/// A material of a design, and how many components that have a shape are made of it.
 struct MaterialUse {
     std::string name;
     double density = 0;  ///< kg/cm3

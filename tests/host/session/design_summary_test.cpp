@@ -19,15 +19,16 @@ TEST(DesignSummary, CountsUsesOfAssembliesThatAreUsedTwice) {
     EXPECT_EQ(summary.levels, 2U);
 }
 
-TEST(DesignSummary, CountsTheComponentsOfEachMaterial) {
-    host::DesignData design = host::parseOutline(
-        "A  material=Brass:0.0085\n"
-        "B  material=Steel:0.008\n"
-        "C  material=Brass:0.0085\n"
-        "D  material=none\n");
-    design.components[0].material.reset();
+TEST(DesignSummary, CountsTheComponentsOfEachMaterialThatHaveAShape) {
+    const host::DesignSummary summary =
+        host::summarize(host::parseOutline("A  material=Brass:0.0085 box=1x1x1\n"
+                                           "B  material=Steel:0.008 box=1x1x1\n"
+                                           "C  material=Brass:0.0085 box=1x1x1\n"
+                                           "D  material=none box=1x1x1\n"
+                                           "E  material=Steel:0.008\n"));
 
-    EXPECT_EQ(host::summarize(design).materials,
+    EXPECT_EQ(summary.bodies, 4U);
+    EXPECT_EQ(summary.materials,
               (std::vector<MaterialUse>{{"Brass", 0.0085, 2}, {"Steel", 0.008, 1}}));
 }
 

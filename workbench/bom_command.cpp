@@ -1,0 +1,86 @@
+#include "workbench/bom_command.h"
+
+#include "workbench/bom_run.h"
+#include "workbench/display_text.h"
+#include "workbench/exit_code.h"
+#include "workbench/output_file.h"
+
+#include "host/session/utf8_path.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+
+namespace workbench {
+namespace {
+
+/// Tells what the add-in said, and ends the program when it failed.
+void reportRaised(const BomResult& result, const BomOptions& options) {
+    bool failed = false;
+    for (const host::Raised& raised : result.raised) {
+        const bool ordinary = isOrdinary(raised);
+        failed = failed || !ordinary;
+        if (options.verbose && ordinary) {
+            std::cerr << printable(describe(raised)) << "\n";
+        }
+    }
+    for (const std::string& message : result.messages) {
+        std::cerr << "the add-in says: " << printable(message) << "\n";
+    }
+    if (failed) {
+        const auto first = std::find_if_not(result.raised.begin(), result.raised.end(), isOrdinary);
+        throw Failure(ExitCode::AddinFailed, describe(*first));
+    }
+}
+
+/// The exported file where the user wants it; where the add-in put it, if they want it nowhere.
+std::filesystem::path deliver(const BomResult& result, const BomOptions& options) {
+    if (options.out.empty()) {
+        return result.exportFile;
+    }
+    if (result.exportFile.empty()) {
+        throw Failure(ExitCode::OutputFailed, "the add-in exported nothing: the table has no rows");
+    }
+    const std::filesystem::path file = host::fromUtf8(options.out) / kExportFile;
+    writeWhole(file, result.exported);
+    return file;
+}
+
+std::string shownList(const BomResult& result, const BomOptions& options) {
+    if (options.format == "csv") {
+        return result.exported;
+    }
+    return options.format == "json" ? asJson(result.list) : asTable(result.list);
+}
+
+void tellWhereThingsAre(std::ostream& stream, const BomResult& result, const BomOptions& options,
+                        const std::filesystem::path& file) {
+    if (file.empty()) {
+        stream << kExportFile << ": not written, the table has no rows\n";
+    } else {
+        stream << kExportFile << ": " << printable(host::toUtf8(file)) << "\n";
+    }
+    for (const std::string& target : result.shell) {
+        stream << "The add-in asked to open " << printable(target)
+               << (options.open ? "\n" : "; use --open to let it\n");
+    }
+}
+
+}  // namespace
+
+void runBom(const BomOptions& options) {
+    const BomTab& tab = options.tab == kModelTab.name ? kModelTab : kStructureTab;
+    const BomResult result = makeBom(readDesign(options.file, options.limits), tab, options);
+    reportRaised(result, options);
+    const std::filesystem::path file = deliver(result, options);
+    std::cout << shownList(result, options) << std::flush;
+    // What other programs read stays free of remarks.
+    std::ostream& remarks = options.format == "table" ? std::cout : std::cerr;
+    remarks << (options.format == "table" ? "\n" : "");
+    tellWhereThingsAre(remarks, result, options, file);
+    if (!std::cout.flush()) {
+        throw Failure(ExitCode::OutputFailed, "cannot write to stdout");
+    }
+}
+
+}  // namespace workbench

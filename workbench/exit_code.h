@@ -1,0 +1,31 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace workbench {
+
+/// The exit status of the program. Anything but `Success` comes with a line on stderr, and with no
+/// output file written or changed.
+enum class ExitCode : int {
+    Success = 0,
+    BadInput = 1,  ///< the given file cannot be read as a design
+    BadUsage = 2,  ///< the command line makes no sense
+    NoAddin = 3,   ///< the add-in is missing, cannot be started, or is in use by another process
+    AddinFailed =
+        4,  ///< the add-in raised something it ordinarily does not, or did not do its work
+    OutputFailed = 5,  ///< a result cannot be written
+};
+
+/// What ends the program with a line on stderr.
+class Failure : public std::runtime_error {
+public:
+    Failure(ExitCode code, const std::string& line) : std::runtime_error(line), code_(code) {}
+
+    [[nodiscard]] ExitCode code() const { return code_; }
+
+private:
+    ExitCode code_;
+};
+
+}  // namespace workbench

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "workbench/reading.h"
+
+#include <string>
+
+namespace workbench {
+
+struct InfoOptions {
+    std::string file;
+    ReadingLimits limits;
+};
+
+/// Prints on stdout what a file holds: components, occurrences, levels, units, materials. Raises a
+/// `Failure` for a file that cannot be read.
+void runInfo(const InfoOptions& options);
+
+}  // namespace workbench

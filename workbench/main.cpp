@@ -1,0 +1,125 @@
+#include "workbench/bom_command.h"
+#include "workbench/console.h"
+#include "workbench/display_text.h"
+#include "workbench/exit_code.h"
+#include "workbench/info_command.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace workbench {
+namespace {
+
+constexpr const char* kFooter =
+    "Exit status: 0 done, 1 the file cannot be read as a design, 2 wrong usage, 3 the add-in is\n"
+    "missing or in use, 4 the add-in failed, 5 a result cannot be written. Unless it is 0, one "
+    "line\n"
+    "on stderr says why, and no file was written.";
+
+void addFile(CLI::App& command, std::string& file) {
+    command.add_option("FILE", file, "A STEP file (.step, .stp, .p21), or a design file")
+        ->required();
+}
+
+void addLimits(CLI::App& command, ReadingLimits& limits) {
+    command.add_option("--max-seconds", limits.maxSeconds, "Give up reading after this time")
+        ->check(CLI::Range(1, 86400))
+        ->capture_default_str();
+    command.add_option("--max-memory", limits.maxMegabytes, "Give up reading beyond this many MB")
+        ->check(CLI::Range(16, 1 << 20))
+        ->capture_default_str();
+}
+
+CLI::App* addBom(CLI::App& program, BomOptions& options) {
+    CLI::App* command = program.add_subcommand(
+        "bom", "Run the add-in on a design: print its parts list, and export it");
+    addFile(*command, options.file);
+    command->add_option("--tab", options.tab, "The tab of the add-in's dialog to show and export")
+        ->check(CLI::IsMember({"structure", "model"}))
+        ->capture_default_str();
+    command->add_option("--out", options.out, "Copy TarnixBOM.csv into this folder")
+        ->type_name("DIR");
+    command
+        ->add_option("--format", options.format,
+                     "What to print: a table, the exported file, or JSON")
+        ->check(CLI::IsMember({"table", "csv", "json"}))
+        ->capture_default_str();
+    command->add_flag("--open", options.open, "Let the add-in open its workbook");
+    command->add_flag("--verbose", options.verbose,
+                      "Also tell what the add-in raises as a matter of course");
+    command->add_option("--addin", options.addin, "Another folder with the add-in")
+        ->type_name("DIR");
+    addLimits(*command, options.limits);
+    return command;
+}
+
+CLI::App* addInfo(CLI::App& program, InfoOptions& options) {
+    CLI::App* command = program.add_subcommand(
+        "info", "Print what a file holds: components, occurrences, levels, units, materials");
+    addFile(*command, options.file);
+    addLimits(*command, options.limits);
+    return command;
+}
+
+/// The line on stderr that goes with an exit status.
+int complain(ExitCode code, const std::string& line) {
+    std::cerr << "tarnix-workbench: " << printable(line) << "\n";
+    return static_cast<int>(code);
+}
+
+int parse(CLI::App& program, const std::vector<std::string>& arguments) {
+    std::vector<const char*> values;
+    for (const std::string& argument : arguments) {
+        values.push_back(argument.c_str());
+    }
+    try {
+        program.parse(static_cast<int>(values.size()), values.data());
+        return -1;
+    } catch (const CLI::ParseError& end) {
+        // Asking for help or for the version ends parsing as well.
+        return end.get_exit_code() == 0 ? program.exit(end)
+                                        : complain(ExitCode::BadUsage, end.what());
+    }
+}
+
+int runProgram(const std::vector<std::string>& arguments) {
+    CLI::App program(
+        "Opens a 3D assembly in a stand-in for the CAD host and uses the add-in on it.",
+        "tarnix-workbench");
+    BomOptions bom;
+    InfoOptions info;
+    const CLI::App* bomCommand = addBom(program, bom);
+    addInfo(program, info);
+    program.set_version_flag("--version", "tarnix-workbench " TARNIX_VERSION);
+    program.require_subcommand(1);
+    program.footer(kFooter);
+    const int parsed = parse(program, arguments);
+    if (parsed >= 0) {
+        return parsed;
+    }
+    if (bomCommand->parsed()) {
+        runBom(bom);
+    } else {
+        runInfo(info);
+    }
+    return static_cast<int>(ExitCode::Success);
+}
+
+}  // namespace
+}  // namespace workbench
+
+int main(int count, char** values) {
+    using workbench::ExitCode;
+    try {
+        workbench::console::prepare();
+        return workbench::runProgram(workbench::console::arguments(count, values));
+    } catch (const workbench::Failure& failure) {
+        return workbench::complain(failure.code(), failure.what());
+    } catch (const std::exception& error) {
+        return workbench::complain(ExitCode::AddinFailed, error.what());
+    }
+}

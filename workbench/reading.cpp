@@ -1,0 +1,68 @@
+#include "workbench/reading.h"
+
+#include "workbench/console.h"
+#include "workbench/display_text.h"
+#include "workbench/exit_code.h"
+
+#include "host/session/utf8_path.h"
+
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace workbench {
+namespace {
+
+/// One line on a terminal that is written over again and again, and is gone at the end.
+class ProgressLine {
+public:
+    explicit ProgressLine(bool shown) : shown_(shown) {}
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+    ~ProgressLine() { show(""); }
+
+    void show(const std::string& line) {
+        if (shown_ && line != last_) {
+            constexpr const char* kEraseLine = "\r\x1B[K";
+            std::cerr << kEraseLine << line << std::flush;
+            last_ = line;
+        }
+    }
+
+private:
+    bool shown_;
+    std::string last_;
+};
+
+host::ImportLimits importLimits(const ReadingLimits& limits) {
+    host::ImportLimits result;
+    result.seconds = limits.maxSeconds;
+    result.megabytes = static_cast<std::size_t>(limits.maxMegabytes);
+    return result;
+}
+
+}  // namespace
+
+host::DesignData readDesign(const std::string& file, const ReadingLimits& limits) {
+    std::vector<std::string> warnings;
+    try {
+        ProgressLine line(console::errorIsTerminal());
+        constexpr double kPercent = 100;
+        const auto progress = [&](const std::string& stage, double fraction) {
+            line.show(printable(stage) + " " + printable(file) + " " +
+                      std::to_string(static_cast<int>(fraction * kPercent)) + " %");
+        };
+        host::DesignData design =
+            host::readDesign(host::fromUtf8(file), importLimits(limits), progress, warnings);
+        line.show("");
+        for (const std::string& warning : warnings) {
+            std::cerr << "warning: " << printable(warning) << "\n";
+        }
+        return design;
+    } catch (const std::exception& error) {
+        throw Failure(ExitCode::BadInput, error.what());
+    }
+}
+
+}  // namespace workbench

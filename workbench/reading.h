@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/session/opening.h"
+
+#include <cstdint>
+#include <string>
+
+namespace workbench {
+
+/// What a file may cost while it is read.
+struct ReadingLimits {
+    int maxSeconds = 300;
+    int maxMegabytes = 3072;
+};
+
+/// Reads a design out of a file, with a progress line on a terminal and a line on stderr for each
+/// thing that the reader had to say. Raises a `Failure` for a file that cannot be read.
+host::DesignData readDesign(const std::string& file, const ReadingLimits& limits);
+
+}  // namespace workbench

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace workbench {
+
+/// A table for the terminal or for a file: a line of captions, a rule, and the rows.
+///
+/// Columns are as wide as their widest text, measured in terminal columns. A column whose texts all
+/// are numbers stands right-aligned under its caption. No line ends in blanks. Texts are made
+/// printable on the way in.
+class TextTable {
+public:
+    explicit TextTable(const std::vector<std::string>& captions);
+
+    /// Adds a row; missing cells are empty, surplus ones are dropped.
+    void add(const std::vector<std::string>& cells);
+
+    /// All lines, each ended by a line feed. `indent` blanks stand before each.
+    [[nodiscard]] std::string text(std::size_t indent = 0) const;
+
+private:
+    /// How the cells of one column stand.
+    struct Column {
+        std::size_t width;
+        bool rightAligned;
+    };
+
+    [[nodiscard]] Column measure(std::size_t column) const;
+    [[nodiscard]] static std::string line(const std::vector<std::string>& cells,
+                                          const std::vector<Column>& columns);
+
+    std::vector<std::string> captions_;
+    std::vector<std::vector<std::string>> rows_;
+};
+
+}  // namespace workbench
