@@ -1,18 +1,30 @@
 #include "tarnix/addin/hooks.h"
 
+#include "tarnix/addin/panels.h"
 #include "tarnix/addin/state.h"
+
+#include <Fusion/FusionAll.h>
 
 namespace tarnix {
 
 using adsk::core::ApplicationCommandEvent;
 using adsk::core::ApplicationCommandEventArgs;
+using adsk::core::Base;
 using adsk::core::Command;
+using adsk::core::CommandControl;
 using adsk::core::CommandCreatedEventArgs;
+using adsk::core::CommandDefinition;
+using adsk::core::LinearMarkingMenu;
 using adsk::core::MarkingMenuEvent;
 using adsk::core::MarkingMenuEventArgs;
 using adsk::core::Ptr;
+using adsk::core::ToolbarControls;
+using adsk::core::ToolbarPanel;
+using adsk::core::ToolbarPanels;
+using adsk::core::Workspace;
 using adsk::core::WorkspaceEvent;
 using adsk::core::WorkspaceEventArgs;
+using adsk::fusion::Sketch;
 
 OnExecuteEventHandler onExecuteEventHandler;
 CommandCreatedEventHandler commandCreatedEventHandler;
@@ -21,13 +33,51 @@ MyCommandStartingEventHandler commandStartingEventHandler;
 MyCommandEndingEventHandler commandEndingEventHandler;
 MyMarkingMenuHandler markingMenuHandler;
 
-void MyWorkspaceActivatedEventHandler::notify(const Ptr<WorkspaceEventArgs>& /*eventArgs*/) {}
+namespace {
 
-void MyCommandStartingEventHandler::notify(const Ptr<ApplicationCommandEventArgs>& /*eventArgs*/) {}
+/// The control of "Projected Entities As Construction" in the tools panel of the active workspace;
+/// null where anything on the way to it is missing.
+Ptr<CommandControl> projectedEntitiesControl() {
+    const Ptr<Workspace> workspace = ui ? ui->activeWorkspace() : nullptr;
+    const Ptr<ToolbarPanels> panels = workspace ? workspace->toolbarPanels() : nullptr;
+    const Ptr<ToolbarPanel> panel =
+        panels ? panels->itemById(toolsPanelId(workspace->id())) : nullptr;
+    const Ptr<ToolbarControls> controls = panel ? panel->controls() : nullptr;
+    return controls ? controls->itemById("QM_TX_projectedEntitiesAsConstruction") : nullptr;
+}
 
-void MyCommandEndingEventHandler::notify(const Ptr<ApplicationCommandEventArgs>& /*eventArgs*/) {}
+}  // namespace
 
-void MyMarkingMenuHandler::notify(const Ptr<MarkingMenuEventArgs>& /*eventArgs*/) {}
+void MyWorkspaceActivatedEventHandler::notify(const Ptr<WorkspaceEventArgs>& eventArgs) {
+    static_cast<void>(addHelpdeskPanel(eventArgs->workspace()));
+}
+
+void MyCommandStartingEventHandler::notify(const Ptr<ApplicationCommandEventArgs>& /*eventArgs*/) {
+    const Ptr<CommandControl> control = projectedEntitiesControl();
+    const Ptr<Base> edited = control && app ? app->activeEditObject() : nullptr;
+    if (edited) {
+        control->isVisible(static_cast<bool>(Ptr<Sketch>(edited)));
+    }
+}
+
+void MyCommandEndingEventHandler::notify(const Ptr<ApplicationCommandEventArgs>& eventArgs) {
+    if (eventArgs->commandId() == "QM_TX_BOM" &&
+        eventArgs->terminationReason() == adsk::core::CompletedTerminationReason) {
+        eventArgs->commandDefinition()->execute();
+    }
+}
+
+void MyMarkingMenuHandler::notify(const Ptr<MarkingMenuEventArgs>& eventArgs) {
+    const Ptr<CommandDefinition> definition =
+        ui->commandDefinitions()->itemById("QEMA_EditPropertiesCmd");
+    if (!definition) {
+        return;
+    }
+    const Ptr<LinearMarkingMenu> menu = eventArgs->linearMarkingMenu();
+    if (menu) {
+        menu->controls()->addCommand(definition, "", /*isBefore=*/true);
+    }
+}
 
 void CommandCreatedEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
     const Ptr<Command> command = eventArgs->command();
