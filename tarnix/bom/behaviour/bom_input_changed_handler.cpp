@@ -1,6 +1,7 @@
 #include "tarnix/bom/behaviour/bom_input_changed_handler.h"
 
 #include "tarnix/bom/behaviour/active_design.h"
+#include "tarnix/bom/behaviour/bom_configuration.h"
 #include "tarnix/bom/behaviour/bom_export.h"
 #include "tarnix/bom/behaviour/column_choice.h"
 #include "tarnix/bom/behaviour/row_collapse.h"
@@ -53,6 +54,10 @@ bool route(const Ptr<InputChangedEventArgs>& eventArgs, const Ptr<CommandInput>&
            const std::string& id) {
     if (id == kExportId) {
         exportBom(eventArgs);
+        return true;
+    }
+    if (id == kSaveConfigId) {
+        saveBomConfiguration(input);
         return true;
     }
     // The two ids differ in the case of a letter, so that neither holds the other.

@@ -1,0 +1,244 @@
+#include "tarnix/bom/behaviour/bom_write_back.h"
+
+#include "tarnix/bom/behaviour/active_design.h"
+#include "tarnix/bom/model/walk.h"
+#include "tarnix/bom/tabs/bom_ids.h"
+#include "tarnix/properties/property_store.h"
+#include "tarnix/settings/settings_document.h"
+#include "tarnix/text/checked.h"
+#include "tarnix/text/ids.h"
+#include "tarnix/text/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+
+namespace tarnix {
+
+using adsk::core::Application;
+using adsk::core::Attribute;
+using adsk::core::Attributes;
+using adsk::core::Command;
+using adsk::core::CommandEventArgs;
+using adsk::core::CommandInput;
+using adsk::core::CommandInputs;
+using adsk::core::DropDownCommandInput;
+using adsk::core::ImageCommandInput;
+using adsk::core::ListItem;
+using adsk::core::ListItems;
+using adsk::core::Ptr;
+using adsk::core::StringValueCommandInput;
+using adsk::core::TabCommandInput;
+using adsk::core::TableCommandInput;
+using adsk::fusion::Component;
+using adsk::fusion::Occurrence;
+using adsk::fusion::OccurrenceList;
+
+namespace {
+
+constexpr std::array<std::string_view, 13> kBuiltInNames = {
+    "Quantity", "Part Name",         "Part Number", "Description", "Area",   "Density",     "Mass",
+    "Volume",   "Physical Material", "Length",      "Width",       "Height", "Bounding Box"};
+
+/// The text of a cell; one that is no text field raises.
+std::string textOf(const Ptr<CommandInput>& cell) {
+    const Ptr<StringValueCommandInput> field = cell;
+    return field->value();
+}
+
+/// Cuts the merge marker's length off the description, also where no marker stands in front.
+void cutDescription(const Ptr<Component>& component) {
+    constexpr std::size_t kMarkerLength = 15;
+    const std::string description = component->description();
+    if (!description.empty()) {
+        component->description(substringFrom(description, kMarkerLength));
+    }
+}
+
+void setAttribute(const Ptr<Attributes>& attributes, const std::string& name,
+                  const std::string& value) {
+    const Ptr<Attribute> attribute = attributes->itemByName(kPropertiesAttributesGroup, name);
+    if (attribute) {
+        attribute->value(value);
+    } else {
+        attributes->add(kPropertiesAttributesGroup, name, value);
+    }
+}
+
+/// Writes an attribute for each item of the list, so that one held by an earlier choice goes.
+void writeStructure(const Ptr<Component>& component, const Ptr<DropDownCommandInput>& dropDown) {
+    const Ptr<ListItems> items = dropDown->listItems();
+    const Ptr<Attributes> attributes = component->attributes();
+    const std::size_t count = items->count();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ptr<ListItem> item = items->item(i);
+        setAttribute(attributes, item->name(), item->isSelected() ? "1" : "");
+    }
+}
+
+/// Writes the rows of one table.
+class TableWriter {
+public:
+    TableWriter(Ptr<TableCommandInput> table, std::vector<BomRow> rows, int lastColumn,
+                std::string partNumberPrefix, std::string bomStructurePrefix)
+        : table_(std::move(table)),
+          rows_(std::move(rows)),
+          lastColumn_(lastColumn),
+          partNumberPrefix_(std::move(partNumberPrefix)),
+          bomStructurePrefix_(std::move(bomStructurePrefix)) {}
+
+    void write() {
+        const int rowCount = table_->rowCount();
+        for (int tableRow = 1; tableRow < rowCount; ++tableRow) {
+            if (const Ptr<CommandInput> first = table_->getInputAtPosition(tableRow, 0)) {
+                writeRow(tableRow, first);
+            }
+        }
+    }
+
+private:
+    void writeRow(int tableRow, const Ptr<CommandInput>& first) {
+        const int number = idNumber(first->id());
+        const BomRow& row = at(rows_, static_cast<std::size_t>(number) - 1);
+        const Ptr<ImageCommandInput> image = first;
+        if (image && image->imageFile().find("Combine") != std::string::npos) {
+            cutDescription(row.component);
+            return;
+        }
+        for (int column = 0; column <= lastColumn_; ++column) {
+            writeCell(row, decimal(number), tableRow, column);
+        }
+    }
+
+    void writeCell(const BomRow& row, const std::string& number, int tableRow, int column) {
+        const Ptr<CommandInput> cell = table_->getInputAtPosition(tableRow, column);
+        const std::string id = cell->id();
+        if (id == partNumberPrefix_ + number) {
+            partNumberColumn_ = column;
+            row.component->partNumber(textOf(cell));
+        } else if (id == bomStructurePrefix_ + number) {
+            writeStructure(row.component, cell);
+        } else if (id == "QEMA_Part Name_" + number) {
+            writeName(row.component, tableRow, cell);
+        } else if (id == "QEMA_Description_" + number) {
+            row.component->description(textOf(cell));
+        } else if (column >= kFirstPropertyColumn) {
+            writeProperty(row, number, id, cell);
+        }
+    }
+
+    /// A part number follows its component's name in the host, so it is set again behind it.
+    void writeName(const Ptr<Component>& component, int tableRow,
+                   const Ptr<CommandInput>& cell) const {
+        const std::string partNumber =
+            textOf(table_->getInputAtPosition(tableRow, partNumberColumn_));
+        component->name(textOf(cell));
+        component->partNumber(partNumber);
+    }
+
+    /// A custom property is written where the row had it in the walk. A measured one is added when
+    /// it is missing and not changed afterwards.
+    static void writeProperty(const BomRow& row, const std::string& number, const std::string& id,
+                              const Ptr<CommandInput>& cell) {
+        if (row.properties.empty()) {
+            return;
+        }
+        const std::string key = idBase(id);
+        if (!isCustomPropertyId(id)) {
+            const Ptr<Attributes> attributes = row.component->attributes();
+            if (!attributes->itemByName(kPropertiesAttributesGroup, key)) {
+                attributes->add(kPropertiesAttributesGroup, key, textOf(cell));
+            }
+            return;
+        }
+        const auto hasKey = [&](const PropertyEntry& entry) { return entry.name == key; };
+        if (id == key + "_" + number && std::ranges::any_of(row.properties, hasKey)) {
+            setAttribute(row.component->attributes(), key, textOf(cell));
+        }
+    }
+
+    static constexpr int kFirstPropertyColumn = 5;
+
+    Ptr<TableCommandInput> table_;
+    std::vector<BomRow> rows_;
+    int lastColumn_;
+    std::string partNumberPrefix_;
+    std::string bomStructurePrefix_;
+    int partNumberColumn_ = -1;  ///< stays from one row to the next
+};
+
+/// The first occurrence at the top whose part number stands in column 3 of `table`, or none.
+///
+/// Nobody asks for more than whether there is one, so the search stops there.
+std::vector<Ptr<Occurrence>> matchingOccurrences(const Ptr<OccurrenceList>& occurrences,
+                                                 const Ptr<TableCommandInput>& table) {
+    constexpr int kPartNumberColumn = 3;
+    std::unordered_set<std::string> texts;
+    const int rowCount = table->rowCount();
+    for (int row = 1; row < rowCount; ++row) {
+        const Ptr<StringValueCommandInput> cell = table->getInputAtPosition(row, kPartNumberColumn);
+        if (cell) {
+            texts.insert(cell->value());
+        }
+    }
+    const std::size_t count = texts.empty() ? 0 : occurrences->count();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ptr<Occurrence> occurrence = occurrences->item(i);
+        if (texts.contains(occurrence->component()->partNumber())) {
+            return {occurrence};
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+void writeActiveTable(const Ptr<CommandEventArgs>& eventArgs) {
+    const Ptr<Component> root = rootComponentOf(Application::get()->activeProduct());
+    if (!root) {
+        return;
+    }
+    const Ptr<Command> command = eventArgs->command();
+    const Ptr<CommandInputs> inputs = command ? command->commandInputs() : nullptr;
+    if (!inputs) {
+        return;
+    }
+    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
+    const Ptr<TabCommandInput> modelTab = inputs->itemById(kModelTabId);
+    const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
+    if (structureTab->isActive()) {
+        const Ptr<TableCommandInput> table = structureTab->children()->itemById(kStructureTableId);
+        writeBomTable(occurrences, matchingOccurrences(occurrences, table), table, "partNumberOcc_",
+                      "bomStructure_");
+    } else if (modelTab->isActive()) {
+        const Ptr<TableCommandInput> table = modelTab->children()->itemById(kModelTableId);
+        writeBomTable(occurrences, {}, table, "modelPartNumberOcc_", "modelBomStructure_");
+    }
+}
+
+void writeBomTable(Ptr<OccurrenceList> occurrences, std::vector<Ptr<Occurrence>> matching,
+                   Ptr<TableCommandInput> table, std::string partNumberPrefix,
+                   std::string bomStructurePrefix) {
+    const std::vector<std::string> items = readCategoryItems("category", "bomItems");
+    if (!table) {
+        return;
+    }
+    constexpr int kFixedColumns = 5;
+    BomModel model;
+    std::vector<BomRow> rows = matching.empty() ? walkOccurrences(model, occurrences, 1)
+                                                : walkOccurrencesMerged(model, occurrences, 1);
+    TableWriter(table, std::move(rows), static_cast<int>(items.size()) + kFixedColumns - 1,
+                std::move(partNumberPrefix), std::move(bomStructurePrefix))
+        .write();
+}
+
+bool isCustomPropertyId(std::string id) {
+    const std::size_t first = id.find('_') + 1;
+    const std::string name = id.substr(first, id.rfind('_') - first);
+    return std::ranges::find(kBuiltInNames, name) == kBuiltInNames.end();
+}
+
+}  // namespace tarnix
