@@ -21,8 +21,8 @@ Acting::Acting() : application_(&hostAtHand()) {
     runner().personActs();
 }
 
-Command& Acting::dialog() const {
-    const core::Ptr<Command>& active = runner().active();
+Command& shownDialog() {
+    const core::Ptr<Command>& active = hostAtHand().ui().runner().active();
     if (!active || !active->isShown()) {
         throw MisuseError("no dialog is open: press the button of a command first");
     }

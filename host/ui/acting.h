@@ -10,6 +10,9 @@ namespace host::ui {
 /// The host that a person acts at; raises a `MisuseError` where none runs.
 Application& hostAtHand();
 
+/// The open dialog; raises a `MisuseError` where none is open.
+Command& shownDialog();
+
 /// One action of a person: commands can start anew from here on, and those that were asked for
 /// during the action start at its end. Raises a `MisuseError` while a command is at work.
 class Acting {
@@ -20,9 +23,6 @@ public:
 
     [[nodiscard]] UserInterface& ui() const { return application_->ui(); }
     [[nodiscard]] CommandRunner& runner() const { return ui().runner(); }
-
-    /// The open dialog; raises a `MisuseError` where none is open.
-    [[nodiscard]] Command& dialog() const;
 
     /// Starts what was asked for: the last thing of each action.
     void finish() { runner().settle(); }

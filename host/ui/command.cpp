@@ -179,6 +179,16 @@ void Command::focus(InputState* selection) {
     focusGiven_ = true;
 }
 
+void Command::forget(const InputState& input) {
+    if (activeTab_ == &input) {
+        activeTab_ = nullptr;
+    }
+    if (focus_ == &input) {
+        focus_ = nullptr;
+        focusGiven_ = false;
+    }
+}
+
 void Command::changedByCode(InputState& input, CodeChange what) {
     if (runner_ != nullptr) {
         runner_->changedByCode(input, what);

@@ -80,6 +80,9 @@ public:
     [[nodiscard]] InputState* focus() const;
     void focus(InputState* selection);
 
+    /// An input goes: it is neither the tab that shows nor the selection with the focus any more.
+    void forget(const InputState& input);
+
     /// Whether its dialog stands on the screen.
     [[nodiscard]] bool isShown() const { return shown_; }
     void show() { shown_ = true; }

@@ -144,7 +144,9 @@ InputState* CommandInputs::find(const std::string& id) const {
 
 void CommandInputs::remove(InputState& input) {
     index_.remove(input);
-    std::erase(landmarks_, &input);
+    if (isLandmark(input.kind)) {
+        std::erase(landmarks_, &input);
+    }
     const core::Ptr<core::CommandInput> kept = members_.remove(input.slot);
     input.retire();
     members_.tidy([](const core::Ptr<core::CommandInput>& member, std::size_t slot) {

@@ -76,9 +76,8 @@ Ptr<core::Command> openDialog() {
 }
 
 ui::DialogSize dialogSize() {
-    const Acting acting;
-    const ui::Command& dialog = acting.dialog();
-    const auto& remembered = acting.ui().rememberedSizes;
+    const ui::Command& dialog = ui::shownDialog();
+    const auto& remembered = ui::hostAtHand().ui().rememberedSizes;
     const auto found = remembered.find(dialog.definition()->identifier());
     ui::DialogSize size = found == remembered.end() ? dialog.initialSize() : found->second;
     size.width = std::max(size.width, dialog.minimumSize().width);
@@ -88,7 +87,7 @@ ui::DialogSize dialogSize() {
 
 void resizeDialog(int width, int height) {
     const Acting acting;
-    acting.ui().rememberedSizes[acting.dialog().definition()->identifier()] = {width, height};
+    acting.ui().rememberedSizes[ui::shownDialog().definition()->identifier()] = {width, height};
 }
 
 void pressOk() {
@@ -97,6 +96,13 @@ void pressOk() {
     if (!why.empty()) {
         throw MisuseError("cannot press OK: " + why);
     }
+    acting.runner().accept();
+    acting.finish();
+}
+
+void acceptAnyway() {
+    Acting acting;
+    static_cast<void>(ui::shownDialog());
     acting.runner().accept();
     acting.finish();
 }
@@ -110,9 +116,18 @@ void pressCancel() {
     acting.finish();
 }
 
-void settle() {
-    Acting acting;
-    acting.finish();
+void settle() { ui::hostAtHand().ui().runner().settle(); }
+
+void closePalette(const std::string& id) {
+    const Acting acting;
+    const Ptr<ui::Palette> palette = acting.ui().allPalettes().find(id);
+    if (!palette || !palette->state.visible || !palette->state.closeButton) {
+        throw MisuseError("cannot close the palette " + id + ": " +
+                          (!palette                  ? "there is none of this id"
+                           : !palette->state.visible ? "it is not visible"
+                                                     : "it has no close button"));
+    }
+    palette->state.visible = false;
 }
 
 void activateWorkspace(const std::string& id) {

@@ -46,6 +46,10 @@ void resizeDialog(int width, int height);
 /// Accepts the dialog.
 void pressOk();
 
+/// Accepts the dialog although the host refuses OK, which no person can do: a host that differs in
+/// what it refuses may.
+void acceptAnyway();
+
 /// Closes the dialog without accepting it, as the Esc key does too.
 void pressCancel();
 
@@ -96,6 +100,9 @@ void reportChange(const adsk::core::Ptr<adsk::core::CommandInput>& input);
 
 /// Shows a workspace. A running command is cancelled. Nothing happens for the one that shows.
 void activateWorkspace(const std::string& id);
+
+/// Closes a palette with the button in its corner, which hides it.
+void closePalette(const std::string& id);
 
 /// Opens the context menu and yields the ids of the commands in its list; none where it is empty,
 /// and so does not show.

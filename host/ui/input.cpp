@@ -22,6 +22,9 @@ InputState* InputState::of(const core::Ptr<core::CommandInput>& input) {
 }
 
 void InputState::retire() {
+    if (Command* owning = command()) {
+        owning->forget(*this);
+    }
     if (inLine != nullptr) {
         inLine->table->letGo(*this);
     }

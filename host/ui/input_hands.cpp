@@ -99,7 +99,7 @@ void choose(Acting& acting, ui::ListState& list, std::size_t index) {
 }
 
 void showTab(Acting& acting, InputState& tab) {
-    ui::Command& dialog = acting.dialog();
+    ui::Command& dialog = ui::shownDialog();
     if (dialog.activeTab() != &tab) {
         dialog.activeTab(&tab);
         acting.runner().tabChanged();
@@ -108,7 +108,7 @@ void showTab(Acting& acting, InputState& tab) {
 }
 
 /// What a click does beside selecting a row; true where handlers are to be told.
-bool clicked(Acting& acting, InputState& input) {
+bool clicked(InputState& input) {
     switch (input.kind) {
         case InputKind::Bool:
             static_cast<ui::BoolInput&>(input).toggle();
@@ -117,7 +117,7 @@ bool clicked(Acting& acting, InputState& input) {
             static_cast<ui::GroupInput&>(input).toggle();
             return false;
         case InputKind::Selection:
-            acting.dialog().focus(&input);
+            ui::shownDialog().focus(&input);
             return false;
         default:
             return false;
@@ -150,7 +150,7 @@ void passFocus(ui::Command& dialog, const ui::SelectionInput& full) {
 }
 
 void pickInDialog(Acting& acting, const Ptr<core::Base>& entity) {
-    ui::Command& dialog = acting.dialog();
+    ui::Command& dialog = ui::shownDialog();
     ui::SelectionInput& target = pickTarget(dialog);
     if (target.picks().holds(entity)) {
         target.drop(entity);
@@ -186,7 +186,7 @@ void click(const Ptr<core::CommandInput>& input) {
     }
     InputState& state = ui::usable(input, "click");
     selectRowOf(state);
-    if (clicked(acting, state)) {
+    if (clicked(state)) {
         acting.runner().changed(state);
     }
     acting.finish();
@@ -236,7 +236,7 @@ void chooseItem(const Ptr<core::CommandInput>& input, std::size_t index) {
 void activateTab(const Ptr<core::TabCommandInput>& tab) {
     Acting acting;
     InputState* state = InputState::of(tab);
-    if (state == nullptr || state->command() != &acting.dialog()) {
+    if (state == nullptr || state->command() != &ui::shownDialog()) {
         throw MisuseError("cannot show a tab that the open dialog does not have");
     }
     if (!state->visible) {
@@ -286,7 +286,7 @@ void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
 void reportChange(const Ptr<core::CommandInput>& input) {
     Acting acting;
     InputState* state = InputState::of(input);
-    if (state == nullptr || state->command() != &acting.dialog()) {
+    if (state == nullptr || state->command() != &ui::shownDialog()) {
         throw MisuseError("cannot report a change of an input that the open dialog does not have");
     }
     acting.runner().changed(*state);

@@ -136,9 +136,6 @@ bool SelectionInput::isUseCurrentSelections(bool value) {
 
 void SelectionInput::retire() {
     picks_.clear();
-    if (command() != nullptr) {
-        focus(false);
-    }
     Input::retire();
 }
 

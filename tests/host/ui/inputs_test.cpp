@@ -154,6 +154,17 @@ TEST_F(Inputs, ADeletedTabTakesItsChildrenAlong) {
     EXPECT_TRUE(all->addTabCommandInput("tab", "Anew"));
 }
 
+TEST_F(Inputs, AnotherTabShowsWhereTheOneThatShowedIsDeleted) {
+    const Ptr<TabCommandInput> other = all->itemById("other");
+    const Ptr<TabCommandInput> tab = all->itemById("tab");
+    other->activate();
+    EXPECT_FALSE(tab->isActive());
+
+    other->deleteMe();
+
+    EXPECT_TRUE(tab->isActive());
+}
+
 TEST_F(Inputs, ADeletedTableLeavesItsCellsInTheirCollection) {
     const Ptr<CommandInput> cell = all->itemById("cell");
 

@@ -66,6 +66,17 @@ TEST_F(PaletteTest, SurvivesAChangeOfWorkspaceAndTheEndOfACommand) {
     EXPECT_EQ(ui()->palettes()->itemById("palette"), made);
 }
 
+TEST_F(PaletteTest, TheCloseButtonOnlyHidesIt) {
+    const Ptr<Palette> made = add("palette");
+
+    closePalette("palette");
+
+    EXPECT_TRUE(made->isValid());
+    EXPECT_FALSE(made->isVisible());
+    EXPECT_EQ(misuseOf([] { closePalette("palette"); }),
+              "cannot close the palette palette: it is not visible");
+}
+
 TEST_F(PaletteTest, ADeletedOneIsGone) {
     const Ptr<Palette> made = add("palette");
 

@@ -238,6 +238,19 @@ TEST_F(SelectionTest, TheFirstInputHasTheFocusUntilAnotherGetsIt) {
     EXPECT_FALSE(second->isEnabled());
 }
 
+TEST_F(SelectionTest, TheFocusOfADeletedInputGoesToTheFirst) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addSelectionInput("first", "", "");
+        inputs->addGroupCommandInput("group", "")->children()->addSelectionInput("in", "", "");
+    });
+    const Ptr<CommandInputs> inputs = openDialog()->commandInputs();
+    click(inputs->itemById("in"));
+
+    inputs->itemById("group")->deleteMe();
+
+    EXPECT_TRUE(Ptr<SelectionCommandInput>(inputs->itemById("first"))->hasFocus());
+}
+
 TEST_F(SelectionTest, TheFocusGoesOnWhenAnInputIsFull) {
     openWith([](const Ptr<CommandInputs>& inputs) {
         inputs->addSelectionInput("first", "", "");

@@ -204,7 +204,7 @@ TEST_F(ToolbarsWithRepeat, HaveTheRepeatControlOnRequest) {
 
 TEST_F(Toolbars, TheContextMenuShowsWhatHandlersAddedToThisShowing) {
     command("Cmd");
-    on<OnMenu>(ui()->markingMenuDisplaying(), [this](const auto& args) {
+    on<OnMenu>(ui()->markingMenuDisplaying(), [](const auto& args) {
         args->linearMarkingMenu()->controls()->addCommand(
             ui()->commandDefinitions()->itemById("Cmd"), "", true);
         EXPECT_EQ(args->linearMarkingMenu()->controls()->count(), 1U);
