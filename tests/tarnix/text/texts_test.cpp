@@ -54,5 +54,22 @@ TEST(Utf8, ReplacesHalfASurrogatePair) {
     EXPECT_EQ(toUtf8(low), "\xEF\xBF\xBD");
 }
 
+TEST(Utf8, BecomesUtf16) {
+    EXPECT_EQ(utf16FromUtf8(""), u"");
+    EXPECT_EQ(utf16FromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x94\xA9\\"),
+              u"a\u00E9\u20AC\U0001F529\\");
+}
+
+TEST(Utf8, RaisesForBytesThatAreNone) {
+    EXPECT_THROW(utf16FromUtf8("a\xE9"), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\x80"), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\xE2\x82"), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\xC3("), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\xC0\xAF"), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\xE0\x80\xAF"), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\xED\xA0\x80"), std::range_error);
+    EXPECT_THROW(utf16FromUtf8("\xF4\x90\x80\x80"), std::range_error);
+}
+
 }  // namespace
 }  // namespace tarnix
