@@ -26,6 +26,9 @@ std::filesystem::path userDataFolder();
 /// The folder of the running program.
 std::filesystem::path programFolder();
 
+/// Shows the console window of the process again, if it has one that is hidden.
+void showConsole();
+
 /// Makes a folder that only this user may enter; false if it is there already or cannot be made.
 bool makePrivateFolder(const std::filesystem::path& folder);
 

@@ -4,13 +4,16 @@ namespace host {
 
 namespace fs = std::filesystem;
 
-Surroundings::Surroundings(const fs::path& folder)
+Surroundings::Surroundings(const fs::path& folder, TemporaryFiles temporaryFiles)
     : startedIn_(fs::current_path()), work_(folder / "work") {
     const fs::path temporary = folder / "temp";
     fs::remove_all(work_);
     fs::create_directories(work_);
     fs::create_directories(temporary);
     fs::current_path(work_);
+    if (temporaryFiles == TemporaryFiles::Persons) {
+        return;
+    }
     for (const environment::Text& name : environment::temporaryFolderNames()) {
         variables_[name] = environment::variable(name);
         environment::setVariable(name, temporary.native());

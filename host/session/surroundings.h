@@ -8,16 +8,21 @@
 
 namespace host {
 
+/// Where a module makes its temporary files.
+enum class TemporaryFiles { Private, Persons };
+
 /// The place a module runs in.
 ///
 /// While it lives, the process stands in a private empty working directory and makes its temporary
-/// files in a private folder. What a module deletes in either is nobody else's. At the end the
-/// process stands where it stood, with the environment it had, and the working directory is gone.
+/// files in a private folder, unless it is told to leave those where the person has them. What a
+/// module deletes in either is nobody else's. At the end the process stands where it stood, with
+/// the environment it had, and the working directory is gone.
 class Surroundings {
 public:
     /// Makes both folders below `folder`, as "work" and "temp". A working directory that a run
     /// before left is emptied; temporary files of that run stay.
-    explicit Surroundings(const std::filesystem::path& folder);
+    explicit Surroundings(const std::filesystem::path& folder,
+                          TemporaryFiles temporaryFiles = TemporaryFiles::Private);
     Surroundings(const Surroundings&) = delete;
     Surroundings& operator=(const Surroundings&) = delete;
     ~Surroundings();

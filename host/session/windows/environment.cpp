@@ -34,6 +34,11 @@ std::filesystem::path programFolder() {
     return std::filesystem::path(file).parent_path();
 }
 
+void showConsole() {
+    // Says whether the window showed before; without one nothing happens.
+    static_cast<void>(::ShowWindow(::GetConsoleWindow(), SW_SHOW));
+}
+
 bool makePrivateFolder(const std::filesystem::path& folder) {
     // Folders below a user's own are the user's own already.
     return ::CreateDirectoryW(folder.c_str(), nullptr) != 0;
