@@ -1,5 +1,11 @@
 #pragma once
 
+#include "tarnix/platform/message_box.h"
+#include "tarnix/platform/processor.h"
+#include "tarnix/platform/screen.h"
+#include "tarnix/platform/shell.h"
+
+#include <cstdint>
 #include <string>
 
 /// The operations that a stand-in process may answer, as the system itself answers them. The add-in
@@ -8,6 +14,24 @@
 namespace tarnix::platform::native {
 
 /// As `tarnix::platform::openWithShell`.
-bool openWithShell(const std::string& target);
+bool openWithShell(const std::string& target, ShellTarget kind);
+
+/// As `tarnix::platform::sleep`.
+void sleep(int milliseconds);
+
+/// As `tarnix::platform::showMessageBox`.
+void showMessageBox(const std::string& text, const std::string& title, MessageStyle style);
+
+/// As `tarnix::platform::hideConsole`.
+WindowHandle hideConsole();
+
+/// As `tarnix::platform::virtualScreen`.
+ScreenArea virtualScreen();
+
+/// As `tarnix::platform::findWindow`.
+WindowOnScreen findWindow(const std::string& title);
+
+/// As `tarnix::platform::processorInformation`.
+ProcessorRegisters processorInformation(std::uint32_t leaf);
 
 }  // namespace tarnix::platform::native

@@ -4,6 +4,8 @@
 
 namespace tarnix::platform {
 
-bool openWithShell(const std::string& target) { return native::openWithShell(target); }
+bool openWithShell(const std::string& target, ShellTarget kind) {
+    return native::openWithShell(target, kind);
+}
 
 }  // namespace tarnix::platform

@@ -1,18 +1,15 @@
 #include "tarnix/platform/shell.h"
 
+#include "tarnix/platform/hosted/ask.h"
 #include "tarnix/platform/native.h"
-#include "tarnix/platform/process_function.h"
-
-#include <StandIn/Process.h>
 
 namespace tarnix::platform {
 
-bool openWithShell(const std::string& target) {
+bool openWithShell(const std::string& target, ShellTarget kind) {
     using Question = decltype(&standin_openWithShell);
-    const auto ask = reinterpret_cast<Question>(processFunction("standin_openWithShell"));
-    const StandInAnswer answer = ask != nullptr ? ask(target.c_str()) : StandInAnswer::NotMine;
+    const StandInAnswer answer = askProcess<Question>("standin_openWithShell", target.c_str());
     if (answer == StandInAnswer::NotMine) {
-        return native::openWithShell(target);
+        return native::openWithShell(target, kind);
     }
     return answer == StandInAnswer::Done;
 }

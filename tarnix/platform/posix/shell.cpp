@@ -75,7 +75,7 @@ bool succeeded(pid_t child) {
 
 }  // namespace
 
-bool openWithShell(const std::string& target) {
+bool openWithShell(const std::string& target, ShellTarget /*kind*/) {
     std::string argument = argumentFor(target);
     // `xdg-open` would take it for one of its options.
     if (argument.empty() || argument.starts_with('-') || !isInstalled("xdg-open")) {

@@ -29,6 +29,8 @@ std::string narrow(const std::wstring& text, UINT codePage, DWORD flags, const c
 
 std::wstring fromCodePage(const std::string& text) { return widen(text, CP_ACP); }
 
+std::wstring fromThreadCodePage(const std::string& text) { return widen(text, CP_THREAD_ACP); }
+
 std::string toCodePage(const std::wstring& text) {
     // A code page that holds everything takes neither a default character nor the flag.
     if (::GetACP() == CP_UTF8) {

@@ -8,6 +8,9 @@ namespace tarnix::platform {
 /// Texts in the system's 8-bit code page: paths.
 std::wstring fromCodePage(const std::string& text);
 
+/// Texts in the 8-bit code page of the thread's language.
+std::wstring fromThreadCodePage(const std::string& text);
+
 /// A character that the code page lacks becomes a blank.
 std::string toCodePage(const std::wstring& text);
 

@@ -9,10 +9,12 @@
 
 namespace tarnix::platform::native {
 
-bool openWithShell(const std::string& target) {
-    const HINSTANCE result =
-        ::ShellExecuteW(nullptr, L"open", fromCodePage(target).c_str(), /*lpParameters=*/nullptr,
-                        /*lpDirectory=*/nullptr, SW_SHOWNORMAL);
+bool openWithShell(const std::string& target, ShellTarget kind) {
+    const std::wstring text =
+        kind == ShellTarget::File ? fromCodePage(target) : fromThreadCodePage(target);
+    const wchar_t* const verb = kind == ShellTarget::Folder ? nullptr : L"open";
+    const HINSTANCE result = ::ShellExecuteW(nullptr, verb, text.c_str(), /*lpParameters=*/nullptr,
+                                             /*lpDirectory=*/nullptr, SW_SHOWNORMAL);
     // No handle, in spite of its type: values up to 32 are errors.
     return reinterpret_cast<std::intptr_t>(result) > 32;
 }

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+/// Folders, as the support folder needs them: finding the place, making it, going through it and
+/// taking it away.
+///
+/// Names are in Windows terms on every system: backslashes, 8-bit texts in the system's code page
+/// and 16-bit texts as UTF-16. What a 16-bit name cannot say about this system's names (bytes that
+/// are no text, a backslash that is part of a name) comes out as a unit of its own and is
+/// understood on the way back.
+namespace tarnix::platform {
+
+/// The user's folder for temporary files with a backslash at its end; nothing if the system does
+/// not tell. The system is asked for 260 units, the terminating zero included: a longer name does
+/// not fit and gives an empty text.
+std::optional<std::u16string> temporaryFolder();
+
+/// True if there is a folder of this name.
+bool directoryExists(const std::string& path);
+
+/// Makes one folder, whose parent has to be there. False if it could not be made.
+bool makeDirectory(const std::string& path);
+
+/// Takes away an empty folder. False if it is not empty, not there, or will not go.
+bool removeDirectory(const std::u16string& path);
+
+/// Deletes a file, or a link and not what it refers to. False if it is not there, is read-only, or
+/// will not go.
+bool deleteFile(const std::u16string& path);
+
+/// Gives back the right to write to a file that is read-only. Links are left alone.
+void makeWritable(const std::string& path);
+
+/// Something in a folder.
+struct FoundFile {
+    std::u16string name;
+    bool isDirectory = false;
+    bool isReadOnly = false;  ///< of a file; what it says of a folder has no meaning
+};
+
+/// Goes through the entries of a folder whose names fit a pattern.
+///
+/// The pattern is a path whose last part may end in "*"; large and small letters are the same to
+/// it. A folder's own "." comes first and ".." second, where they fit. A folder that is reached
+/// through a link is not gone through.
+class FolderSearch {
+public:
+    /// Finds the first entry, which is not handed out.
+    explicit FolderSearch(const std::u16string& pattern);
+    FolderSearch(const FolderSearch&) = delete;
+    FolderSearch& operator=(const FolderSearch&) = delete;
+    ~FolderSearch();
+
+    /// True if there was a first entry.
+    explicit operator bool() const { return state_ != nullptr; }
+
+    /// The next entry behind the first one; nothing at the end, or if the search failed. Only while
+    /// there was a first entry.
+    std::optional<FoundFile> next();
+
+    /// After `next` had nothing: true if there were no more entries, false if the search failed.
+    [[nodiscard]] bool isComplete() const;
+
+private:
+    struct State;
+
+    std::unique_ptr<State> state_;
+};
+
+}  // namespace tarnix::platform

@@ -1,0 +1,75 @@
+#include "tarnix/platform/hosted/ask.h"
+#include "tarnix/platform/native.h"
+#include "tarnix/platform/sleep.h"
+
+namespace tarnix::platform {
+namespace {
+
+ScreenArea fromProcess(const StandInArea& area) {
+    return {area.left, area.top, area.right, area.bottom};
+}
+
+}  // namespace
+
+void sleep(int milliseconds) {
+    using Question = decltype(&standin_sleep);
+    if (askProcess<Question>("standin_sleep", milliseconds) == StandInAnswer::NotMine) {
+        native::sleep(milliseconds);
+    }
+}
+
+void showMessageBox(const std::string& text, const std::string& title, MessageStyle style) {
+    using Question = decltype(&standin_messageBox);
+    const StandInAnswer answer = askProcess<Question>("standin_messageBox", text.c_str(),
+                                                      title.c_str(), static_cast<unsigned>(style));
+    if (answer == StandInAnswer::NotMine) {
+        native::showMessageBox(text, title, style);
+    }
+}
+
+WindowHandle hideConsole() {
+    using Question = decltype(&standin_hideConsole);
+    const StandInAnswer answer = askProcess<Question>("standin_hideConsole");
+    return answer == StandInAnswer::NotMine ? native::hideConsole() : 0;
+}
+
+ScreenArea virtualScreen() {
+    using Question = decltype(&standin_virtualScreen);
+    StandInArea area = {};
+    switch (askProcess<Question>("standin_virtualScreen", &area)) {
+        case StandInAnswer::NotMine:
+            return native::virtualScreen();
+        case StandInAnswer::Done:
+            return fromProcess(area);
+        default:
+            return {};
+    }
+}
+
+WindowOnScreen findWindow(const std::string& title) {
+    using Question = decltype(&standin_windowArea);
+    StandInArea area = {};
+    switch (askProcess<Question>("standin_windowArea", title.c_str(), &area)) {
+        case StandInAnswer::NotMine:
+            return native::findWindow(title);
+        case StandInAnswer::Done:
+            return {0, fromProcess(area)};
+        default:
+            return {};
+    }
+}
+
+ProcessorRegisters processorInformation(std::uint32_t leaf) {
+    using Question = decltype(&standin_cpuid);
+    ProcessorRegisters registers = {};
+    switch (askProcess<Question>("standin_cpuid", leaf, registers.data())) {
+        case StandInAnswer::NotMine:
+            return native::processorInformation(leaf);
+        case StandInAnswer::Done:
+            return registers;
+        default:
+            return {};
+    }
+}
+
+}  // namespace tarnix::platform

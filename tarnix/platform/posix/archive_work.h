@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+/// The work on archives that goes on beside the host's thread. Paths are as this system spells
+/// them.
+namespace tarnix::platform {
+
+/// True if the file is an archive that files can be put into.
+bool isArchive(const std::string& path);
+
+/// Starts putting the files of a folder into an archive, those of its subfolders included. Links
+/// are left out, and so is the archive itself. Works are done one after the other; a module that is
+/// taken out, or a process that ends, waits for them. Until a work is done the archive is as it
+/// was.
+void fillArchiveBeside(const std::string& archive, const std::string& folder);
+
+/// Waits until no work is left.
+void finishArchives();
+
+}  // namespace tarnix::platform

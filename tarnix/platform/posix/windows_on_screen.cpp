@@ -1,0 +1,101 @@
+#include "tarnix/platform/native.h"
+#include "tarnix/platform/posix/x11.h"
+
+#include <string_view>
+
+namespace tarnix::platform::native {
+namespace {
+
+using x11::Display;
+using x11::Owned;
+
+/// Number of a name that clients and server share; 0 if nobody has used it yet.
+xcb_atom_t atom(const Display& display, std::string_view name) {
+    const auto cookie = ::xcb_intern_atom(display.connection(), /*only_if_exists=*/1,
+                                          static_cast<std::uint16_t>(name.size()), name.data());
+    const Owned<xcb_intern_atom_reply_t> reply(
+        ::xcb_intern_atom_reply(display.connection(), cookie, nullptr));
+    return reply != nullptr ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+/// A text that a window carries; nothing is as good as empty.
+std::string textOf(const Display& display, xcb_window_t window, xcb_atom_t property) {
+    constexpr std::uint32_t kLongest = 1024;  // in units of four bytes
+    const auto cookie = ::xcb_get_property(display.connection(), /*_delete=*/0, window, property,
+                                           XCB_GET_PROPERTY_TYPE_ANY, /*long_offset=*/0, kLongest);
+    const Owned<xcb_get_property_reply_t> reply(
+        ::xcb_get_property_reply(display.connection(), cookie, nullptr));
+    if (reply == nullptr || reply->format != 8) {
+        return "";
+    }
+    return {static_cast<const char*>(::xcb_get_property_value(reply.get())),
+            static_cast<std::size_t>(::xcb_get_property_value_length(reply.get()))};
+}
+
+/// The title in UTF-8, which newer programs give, else the old one.
+std::string titleOf(const Display& display, xcb_window_t window, xcb_atom_t utf8Title) {
+    const std::string title =
+        utf8Title != XCB_ATOM_NONE ? textOf(display, window, utf8Title) : std::string();
+    return title.empty() ? textOf(display, window, XCB_ATOM_WM_NAME) : title;
+}
+
+/// The first window with this title at or below `window`, the uppermost first; 0 for none. Window
+/// managers put the windows of programs into windows of their own.
+xcb_window_t findBelow(const Display& display, xcb_window_t window, xcb_atom_t utf8Title,
+                       const std::string& title, int levels) {
+    const auto cookie = ::xcb_query_tree(display.connection(), window);
+    const Owned<xcb_query_tree_reply_t> tree(
+        ::xcb_query_tree_reply(display.connection(), cookie, nullptr));
+    if (tree == nullptr) {
+        return 0;
+    }
+    const xcb_window_t* const children = ::xcb_query_tree_children(tree.get());
+    for (int i = ::xcb_query_tree_children_length(tree.get()) - 1; i >= 0; --i) {
+        if (titleOf(display, children[i], utf8Title) == title) {
+            return children[i];
+        }
+        const xcb_window_t inside =
+            levels > 1 ? findBelow(display, children[i], utf8Title, title, levels - 1) : 0;
+        if (inside != 0) {
+            return inside;
+        }
+    }
+    return 0;
+}
+
+ScreenArea insideOf(const Display& display, xcb_window_t window) {
+    xcb_connection_t* const connection = display.connection();
+    const auto sizeCookie = ::xcb_get_geometry(connection, window);
+    const auto placeCookie =
+        ::xcb_translate_coordinates(connection, window, display.screen().root, 0, 0);
+    const Owned<xcb_get_geometry_reply_t> size(
+        ::xcb_get_geometry_reply(connection, sizeCookie, nullptr));
+    const Owned<xcb_translate_coordinates_reply_t> place(
+        ::xcb_translate_coordinates_reply(connection, placeCookie, nullptr));
+    if (size == nullptr || place == nullptr) {
+        return {};
+    }
+    return {place->dst_x, place->dst_y, place->dst_x + size->width, place->dst_y + size->height};
+}
+
+}  // namespace
+
+ScreenArea virtualScreen() {
+    const Display display;
+    return display ? ScreenArea{0, 0, display.screen().width_in_pixels,
+                                display.screen().height_in_pixels}
+                   : ScreenArea();
+}
+
+WindowOnScreen findWindow(const std::string& title) {
+    const Display display;
+    if (!display) {
+        return {};
+    }
+    constexpr int kLevels = 3;
+    const xcb_window_t window =
+        findBelow(display, display.screen().root, atom(display, "_NET_WM_NAME"), title, kLevels);
+    return window != 0 ? WindowOnScreen{window, insideOf(display, window)} : WindowOnScreen();
+}
+
+}  // namespace tarnix::platform::native

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+/// The screen: where things stand on it, and pictures of it.
+///
+/// Positions are pixels from the primary monitor's upper left corner.
+namespace tarnix::platform {
+
+/// A window of the system; 0 for none.
+using WindowHandle = std::uintptr_t;
+
+/// A part of the screen. Right and bottom are the first column and row that no longer belong to it.
+struct ScreenArea {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    bool operator==(const ScreenArea&) const = default;
+};
+
+/// Hides the console window of the process, and yields it; 0 where there is none.
+WindowHandle hideConsole();
+
+/// The area of all monitors together.
+ScreenArea virtualScreen();
+
+/// A window, and where its inside stands.
+struct WindowOnScreen {
+    WindowHandle handle = 0;
+    ScreenArea inside;
+};
+
+/// The window with exactly this title (UTF-8). Where there is none, 0 and an area of zeros.
+WindowOnScreen findWindow(const std::string& title);
+
+/// A picture of a part of the screen, without the mouse cursor. What lies beyond the monitors is
+/// black.
+class ScreenPicture {
+public:
+    /// Takes the picture. The system's handle of the screen is given back in the name of `window`.
+    ScreenPicture(int left, int top, int width, int height, WindowHandle window);
+    ScreenPicture(const ScreenPicture&) = delete;
+    ScreenPicture& operator=(const ScreenPicture&) = delete;
+    ~ScreenPicture();
+
+    /// False where there was no picture to be had: without a screen, or of an area without a width
+    /// or height.
+    explicit operator bool() const { return state_ != nullptr; }
+
+    /// Writes the picture into a PNG file, in the place of one that is there. The path is in the
+    /// 8-bit code page of the thread's language. What fails is not told.
+    void saveAsPng(const std::string& path) const;
+
+private:
+    struct State;
+
+    std::unique_ptr<State> state_;
+};
+
+}  // namespace tarnix::platform

@@ -1,0 +1,72 @@
+#include "tarnix/platform/screen.h"
+
+#include "tarnix/platform/native.h"
+#include "tarnix/platform/windows/code_page.h"
+#include "tarnix/platform/windows/png_image.h"
+
+#include <windows.h>
+
+namespace tarnix::platform {
+namespace native {
+
+ScreenArea virtualScreen() {
+    const int left = ::GetSystemMetrics(SM_XVIRTUALSCREEN);
+    const int top = ::GetSystemMetrics(SM_YVIRTUALSCREEN);
+    return {left, top, left + ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
+            top + ::GetSystemMetrics(SM_CYVIRTUALSCREEN)};
+}
+
+WindowOnScreen findWindow(const std::string& title) {
+    const HWND window = ::FindWindowW(/*lpClassName=*/nullptr, fromUtf8(title).c_str());
+    RECT inside = {};
+    // Without a window both fail, and the zeros stay.
+    static_cast<void>(::GetClientRect(window, &inside));
+    static_cast<void>(
+        ::MapWindowPoints(window, /*hWndTo=*/nullptr, reinterpret_cast<POINT*>(&inside), 2));
+    return {reinterpret_cast<WindowHandle>(window),
+            {static_cast<int>(inside.left), static_cast<int>(inside.top),
+             static_cast<int>(inside.right), static_cast<int>(inside.bottom)}};
+}
+
+}  // namespace native
+
+struct ScreenPicture::State {
+    HDC screen = nullptr;
+    HDC memory = nullptr;
+    HBITMAP bitmap = nullptr;
+    HWND window = nullptr;
+    PngImage image;
+};
+
+ScreenPicture::ScreenPicture(int left, int top, int width, int height, WindowHandle window) {
+    const HDC screen = ::GetDC(nullptr);
+    const HDC memory = ::CreateCompatibleDC(screen);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, width, height);
+    ::SelectObject(memory, bitmap);
+    // What could not be copied is black in the picture.
+    static_cast<void>(::BitBlt(memory, 0, 0, width, height, screen, left, top, SRCCOPY));
+    if (bitmap == nullptr) {
+        // The two contexts stay open then, as they always have.
+        return;
+    }
+    state_ = std::make_unique<State>();
+    state_->screen = screen;
+    state_->memory = memory;
+    state_->bitmap = bitmap;
+    state_->window = reinterpret_cast<HWND>(window);
+    state_->image.attach(bitmap);
+}
+
+ScreenPicture::~ScreenPicture() {
+    if (state_ != nullptr) {
+        ::DeleteObject(state_->bitmap);
+        ::DeleteObject(state_->memory);
+        ::ReleaseDC(state_->window, state_->screen);
+    }
+}
+
+void ScreenPicture::saveAsPng(const std::string& path) const {
+    state_->image.save(fromThreadCodePage(path));
+}
+
+}  // namespace tarnix::platform

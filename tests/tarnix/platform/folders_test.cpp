@@ -1,0 +1,125 @@
+#include "tarnix/platform/folders.h"
+
+#include "tests/tarnix/platform/scratch_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace fs = std::filesystem;
+
+namespace tarnix::platform {
+namespace {
+
+class Folders : public testing::Test {
+protected:
+    /// A name in the folder as 16-bit text; the folder has a name in ASCII.
+    [[nodiscard]] std::u16string wide(const std::string& name) const {
+        const std::string text = folder.windows(name);
+        return {text.begin(), text.end()};
+    }
+
+    /// All that a search has behind its first entry, with "/" behind folders and "!" behind what is
+    /// read-only; "nothing" where it has no first entry.
+    [[nodiscard]] std::string found(const std::string& pattern) const {
+        FolderSearch search(wide(pattern));
+        if (!search) {
+            return "nothing";
+        }
+        std::string names;
+        while (const auto file = search.next()) {
+            names += (names.empty() ? "" : " ") + std::string(file->name.begin(), file->name.end());
+            names += file->isDirectory ? "/" : file->isReadOnly ? "!" : "";
+        }
+        EXPECT_TRUE(search.isComplete());
+        return names;
+    }
+
+    void makeReadOnly(const std::string& name) const {
+        fs::permissions(folder.path() / name, fs::perms::owner_read);
+    }
+
+    ScratchFolder folder;
+};
+
+TEST_F(Folders, ThatForTemporaryFilesEndsInABackslash) {
+    const auto temporary = temporaryFolder();
+    ASSERT_TRUE(temporary);
+    EXPECT_TRUE(temporary->ends_with(u"\\"));
+    EXPECT_TRUE(directoryExists(std::string(temporary->begin(), temporary->end())));
+}
+
+TEST_F(Folders, ExistWithAndWithoutABackslashAtTheEnd) {
+    EXPECT_TRUE(directoryExists(folder.windows("")));
+    fs::create_directory(folder.path() / "sub");
+    EXPECT_TRUE(directoryExists(folder.windows("sub")));
+}
+
+TEST_F(Folders, AreNeitherFilesNorWhatIsNotThere) {
+    folder.write("file", "");
+    EXPECT_FALSE(directoryExists(folder.windows("file")));
+    EXPECT_FALSE(directoryExists(folder.windows("missing")));
+    EXPECT_FALSE(directoryExists(""));
+}
+
+TEST_F(Folders, AreMadeOneAtATime) {
+    EXPECT_TRUE(makeDirectory(folder.windows("sub/")));
+    EXPECT_TRUE(folder.has("sub"));
+    EXPECT_FALSE(makeDirectory(folder.windows("sub")));
+    EXPECT_FALSE(makeDirectory(folder.windows("other/sub")));
+    EXPECT_FALSE(folder.has("other"));
+}
+
+TEST_F(Folders, AreRemovedOnlyWhenTheyAreEmpty) {
+    fs::create_directory(folder.path() / "sub");
+    folder.write("sub/file", "");
+    EXPECT_FALSE(removeDirectory(wide("sub/")));
+    fs::remove(folder.path() / "sub" / "file");
+    EXPECT_TRUE(removeDirectory(wide("sub/")));
+    EXPECT_FALSE(folder.has("sub"));
+    EXPECT_FALSE(removeDirectory(wide("sub")));
+    EXPECT_FALSE(removeDirectory(u""));
+}
+
+TEST_F(Folders, LoseAReadOnlyFileOnceItIsWritable) {
+    folder.write("file", "");
+    makeReadOnly("file");
+    EXPECT_FALSE(deleteFile(wide("file")));
+    makeWritable(folder.windows("file"));
+    EXPECT_TRUE(deleteFile(wide("file")));
+    EXPECT_FALSE(folder.has("file"));
+}
+
+TEST_F(Folders, AreNotDeletedAsFiles) {
+    fs::create_directory(folder.path() / "sub");
+    EXPECT_FALSE(deleteFile(wide("sub")));
+    EXPECT_TRUE(folder.has("sub"));
+}
+
+TEST_F(Folders, AreSearchedInTheOrderOfNamesWithSmallLettersAsLargeOnes) {
+    fs::create_directory(folder.path() / "b");
+    folder.write("A", "");
+    folder.write("c", "");
+    makeReadOnly("c");
+    folder.write("D", "");
+    EXPECT_EQ(found("*"), "../ A b/ c! D");
+    makeWritable(folder.windows("c"));
+}
+
+TEST_F(Folders, AreSearchedForTheBeginningOfANameTheFirstNotBeingTold) {
+    fs::create_directory(folder.path() / "sub");
+    folder.write("Sub2", "");
+    folder.write("other", "");
+    EXPECT_EQ(found("sub*"), "Sub2");
+    EXPECT_EQ(found("other*"), "");
+}
+
+TEST_F(Folders, HaveNothingWhereNoNameFits) {
+    EXPECT_EQ(found("missing*"), "nothing");
+    EXPECT_EQ(found("missing/*"), "nothing");
+}
+
+TEST_F(Folders, ThatAreEmptyHaveTheirTwoOwnEntries) { EXPECT_EQ(found("*"), "../"); }
+
+}  // namespace
+}  // namespace tarnix::platform
