@@ -1,0 +1,26 @@
+#pragma once
+
+#include "tarnix/platform/screen.h"
+
+#include <string>
+
+/// Pictures of the screen, saved as numbered PNG files in the support folder.
+///
+/// Nothing is asked, and nothing is shown but that there are too many pictures already.
+namespace tarnix {
+
+/// Saves a picture of all monitors. A console window of the process is hidden for it, and not shown
+/// again.
+void captureWholeScreen();
+
+/// Saves a picture of the inside of the host's main window, which is found by its title.
+void captureFusionWindow();
+
+/// Full path of the first picture from "screen_001.png" to "screen_998.png" that is not there: one
+/// that can be opened for reading is. When all are there the user is told, and the text is empty.
+std::string nextScreenFileName();
+
+/// Writes a picture as PNG; what fails is not told.
+void saveBitmapAsPng(const platform::ScreenPicture& image, const std::string& path);
+
+}  // namespace tarnix

@@ -1,0 +1,79 @@
+#include "tarnix/helpdesk/folder_packing.h"
+
+#include "tests/support/files.h"
+#include "tests/support/text.h"
+#include "tests/tarnix/helpdesk/helpdesk_test.h"
+
+#include "host/session/system_answers.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace test_support {
+namespace {
+
+class Zip : public HelpdeskTest {
+protected:
+    [[nodiscard]] std::string archive() const { return readFile(supportFolder() / "helpdesk.zip"); }
+};
+
+/// "PK", 5, 6 and eighteen zeros.
+const std::string kEmptyArchive = std::string("PK\5\6", 4) + std::string(18, '\0');
+
+const std::string kNoFolder = "Information (2): Target directory does not exist.\n";
+
+TEST_F(Zip, WithoutASupportFolderTellsSo) {
+    press("compressFolder");
+    EXPECT_EQ(shownMessages(), kNoFolder);
+    EXPECT_FALSE(fs::exists(supportFolder()));
+    EXPECT_TRUE(host::system_answers::sleeps().empty());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(Zip, RightAfterDeleteHelpdeskFolderTellsThatThereIsNone) {
+    press("openFolder");
+    press("clearFolder");
+    press("compressFolder");
+    EXPECT_EQ(shownMessages(), kNoFolder);
+}
+
+TEST_F(Zip, RemembersTheFolderForItsDeletion) {
+    fs::create_directory(supportFolder());
+    put("screen_001.png");
+    press("compressFolder");
+    press("clearFolder");
+    EXPECT_FALSE(fs::exists(supportFolder()));
+}
+
+TEST_F(Zip, RemembersAFolderThatIsMissing) {
+    writeFile(fs::current_path() / "kept", "x");
+    press("compressFolder");
+    press("clearFolder");
+    EXPECT_TRUE(fs::exists(fs::current_path() / "kept"));
+}
+
+TEST(EmptyArchive, IsTheEndRecordOfOneWithoutEntries) {
+    const auto record = tarnix::emptyZipRecord();
+    EXPECT_EQ(std::string(record.begin(), record.end()), kEmptyArchive);
+}
+
+TEST_F(Zip, ReplacesAnEarlierFileByTheEmptyRecord) {
+    fs::create_directory(supportFolder());
+    put("helpdesk.zip", "what was there before, and longer than the record");
+    tarnix::createEmptyZip(supportFolderText() + "helpdesk.zip");
+    EXPECT_EQ(archive(), kEmptyArchive);
+}
+
+TEST_F(Zip, IsQuietWhereTheArchiveCannotBeWritten) {
+    fs::create_directories(supportFolder() / "helpdesk.zip");
+    press("compressFolder");
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+}  // namespace
+}  // namespace test_support

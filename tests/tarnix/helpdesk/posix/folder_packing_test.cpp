@@ -1,0 +1,102 @@
+#include "tests/support/files.h"
+#include "tests/support/text.h"
+#include "tests/tarnix/helpdesk/helpdesk_test.h"
+
+#include "host/session/system_answers.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace test_support {
+namespace {
+
+/// What a command line prints.
+std::string outputOf(const std::string& command) {
+    std::string output;
+    FILE* const pipe = ::popen(command.c_str(), "r");
+    std::array<char, 256> part = {};
+    while (std::fgets(part.data(), static_cast<int>(part.size()), pipe) != nullptr) {
+        output += part.data();
+    }
+    output += ::pclose(pipe) == 0 ? "" : "failed\n";
+    return output;
+}
+
+class ZipArchive : public HelpdeskTest {
+protected:
+    void SetUp() override {
+        HelpdeskTest::SetUp();
+        fs::create_directory(supportFolder());
+    }
+
+    [[nodiscard]] std::string archive() const { return supportFolder() / "helpdesk.zip"; }
+
+    /// Waits until the archive is more than the empty record.
+    void waitUntilFilled() const {
+        constexpr std::uintmax_t kEmpty = 22;
+        for (int i = 0; i < 600 && fs::file_size(archive()) <= kEmpty; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        ASSERT_GT(fs::file_size(archive()), kEmpty);
+    }
+
+    /// The names of the entries, sorted, a line for each.
+    [[nodiscard]] std::string entries() const {
+        return outputOf("unzip -Z1 '" + archive() + "' | LC_ALL=C sort");
+    }
+};
+
+TEST_F(ZipArchive, HoldsTheFilesOfTheFolderAndNotItself) {
+    put("screen_001.png", std::string(100'000, 'p'));
+    put("SystemInfo.txt", "text");
+    press("compressFolder");
+    waitUntilFilled();
+    EXPECT_EQ(entries(), "SystemInfo.txt\nscreen_001.png\n");
+    EXPECT_EQ(outputOf("unzip -p '" + archive() + "' SystemInfo.txt"), "text");
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ZipArchive, PassesTheTestOfItsEntries) {
+    put("screen_001.png", "picture");
+    put("empty.txt", "");
+    press("compressFolder");
+    waitUntilFilled();
+    EXPECT_EQ(outputOf("unzip -tqq '" + archive() + "' 2>&1"), "");
+}
+
+TEST_F(ZipArchive, OfASecondTimeHasNoEntryOfWhatIsGone) {
+    put("screen_001.png");
+    press("compressFolder");
+    waitUntilFilled();
+    fs::remove(supportFolder() / "screen_001.png");
+    put("screen_002.png");
+    press("compressFolder");
+    waitUntilFilled();
+    EXPECT_EQ(entries(), "screen_002.png\n");
+}
+
+TEST_F(ZipArchive, LeavesOutWhatALinkLeadsTo) {
+    writeFile(session->folder() / "outside", "x");
+    fs::create_symlink(session->folder() / "outside", supportFolder() / "link");
+    put("screen_001.png");
+    press("compressFolder");
+    waitUntilFilled();
+    EXPECT_EQ(entries(), "screen_001.png\n");
+}
+
+TEST_F(ZipArchive, IsWaitedForOneSecond) {
+    press("compressFolder");
+    EXPECT_EQ(host::system_answers::sleeps(), std::vector<int>{1000});
+}
+
+}  // namespace
+}  // namespace test_support

@@ -1,0 +1,174 @@
+#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/pattern_window.h"
+
+#include "host/session/system_answers.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace test_support {
+namespace {
+
+constexpr const char* kHostTitle = "Autodesk Fusion 360";
+
+/// Captures on the display of the test, which is 800 by 600 pixels large.
+class ScreenCapture : public HelpdeskTest {
+protected:
+    void SetUp() override {
+        const char* const display = std::getenv("TEST_DISPLAY");
+        if (display == nullptr) {
+            GTEST_SKIP() << "TEST_DISPLAY names no display";
+        }
+        host::environment::setVariable(fs::path("DISPLAY").native(), fs::path(display).native());
+        HelpdeskTest::SetUp();
+    }
+
+    [[nodiscard]] PngPixels picture(const std::string& name = "screen_001.png") const {
+        return PngPixels(supportFolder() / name);
+    }
+
+    /// The names in the support folder that begin with "screen_", in no order but that of numbers.
+    [[nodiscard]] bool hasPictures(int first, int last) const {
+        return has(name(first)) && has(name(last)) && !has(name(first - 1)) && !has(name(last + 1));
+    }
+
+    static std::string name(int number) {
+        const std::string digits = std::to_string(number);
+        return "screen_" + std::string(3 - std::min<std::size_t>(digits.size(), 3), '0') + digits +
+               ".png";
+    }
+
+    void startWithScreen(const host::ScreenRectangle& area) {
+        host::SessionOptions with = addinOptions();
+        with.system.screen = area;
+        restart(with);
+        ASSERT_TRUE(run());
+    }
+};
+
+TEST_F(ScreenCapture, TakesTheNumbersInTurn) {
+    press("captureScreen");
+    EXPECT_TRUE(hasPictures(1, 1));
+    press("captureScreen");
+    EXPECT_TRUE(hasPictures(1, 2));
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ScreenCapture, FillsAGapInTheNumbersFirst) {
+    press("captureScreen");
+    press("captureScreen");
+    fs::remove(supportFolder() / "screen_001.png");
+    press("captureScreen");
+    EXPECT_TRUE(hasPictures(1, 2));
+    EXPECT_EQ(picture().width, 800);
+}
+
+TEST_F(ScreenCapture, EndsWithAMessageWhenAllNumbersAreTaken) {
+    fs::create_directory(supportFolder());
+    for (int number = 1; number <= 998; ++number) {
+        put(name(number));
+    }
+    press("captureScreen");
+    EXPECT_EQ(
+        shownMessages(),
+        "Error message (4): The allowed count of images in the directory has been exceeded\n");
+    EXPECT_TRUE(hasPictures(1, 998));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ScreenCapture, MakesTheFolderAgainAfterItsDeletion) {
+    press("openFolder");
+    press("clearFolder");
+    press("captureScreen");
+    EXPECT_TRUE(hasPictures(1, 1));
+}
+
+TEST_F(ScreenCapture, HidesTheConsoleAndWaitsUntilItIsGone) {
+    press("captureScreen");
+    EXPECT_EQ(host::system_answers::consoleHidings(), 1);
+    EXPECT_EQ(host::system_answers::sleeps(), std::vector<int>{250});
+}
+
+TEST_F(ScreenCapture, IsOfTheWholeScreen) {
+    const PatternWindow window("any", 300, 200, 100, 60);
+    press("captureScreen");
+    const PngPixels pixels = picture();
+    ASSERT_EQ(pixels.width, 800);
+    ASSERT_EQ(pixels.height, 600);
+    EXPECT_EQ(pixels.at(300, 200), PatternWindow::kLeft);
+    EXPECT_EQ(pixels.at(350, 200), PatternWindow::kRight);
+    EXPECT_EQ(pixels.at(399, 259), PatternWindow::kCorner);
+    EXPECT_NE(pixels.at(299, 200), PatternWindow::kLeft);
+    EXPECT_NE(pixels.at(400, 259), PatternWindow::kCorner);
+}
+
+TEST_F(ScreenCapture, IsLargerThanTheDesktopWithAMonitorToTheLeft) {
+    // Two monitors of 640 by 600 in front of and 800 by 600 at the origin: 1440 pixels from -640
+    // on.
+    startWithScreen({-640, 0, 800, 600});
+    const PatternWindow window("any", 300, 200, 100, 60);
+    press("captureScreen");
+    const PngPixels pixels = picture();
+    ASSERT_EQ(pixels.width, 1440 + 640);
+    ASSERT_EQ(pixels.height, 600);
+    EXPECT_EQ(pixels.at(640 + 300, 200), PatternWindow::kLeft);
+    EXPECT_EQ(pixels.at(640 + 399, 259), PatternWindow::kCorner);
+}
+
+TEST_F(ScreenCapture, IsSmallerWhereTheScreenBeginsBehindTheOrigin) {
+    startWithScreen({100, 50, 800, 600});
+    press("captureScreen");
+    const PngPixels pixels = picture();
+    EXPECT_EQ(pixels.width, 700 - 100);
+    EXPECT_EQ(pixels.height, 550 - 50);
+}
+
+using WindowCapture = ScreenCapture;
+
+TEST_F(WindowCapture, IsOfTheInsideOfTheHostsWindow) {
+    const PatternWindow window(kHostTitle, 120, 80, 200, 100);
+    press("captureFusion");
+    const PngPixels pixels = picture();
+    ASSERT_EQ(pixels.width, 200);
+    ASSERT_EQ(pixels.height, 100);
+    EXPECT_EQ(pixels.at(0, 0), PatternWindow::kLeft);
+    EXPECT_EQ(pixels.at(99, 99), PatternWindow::kLeft);
+    EXPECT_EQ(pixels.at(100, 0), PatternWindow::kRight);
+    EXPECT_EQ(pixels.at(189, 99), PatternWindow::kRight);
+    EXPECT_EQ(pixels.at(199, 99), PatternWindow::kCorner);
+    EXPECT_EQ(host::system_answers::consoleHidings(), 0);
+    EXPECT_TRUE(host::system_answers::sleeps().empty());
+}
+
+TEST_F(WindowCapture, PassesOverAWindowWithALongerTitle) {
+    const PatternWindow window(std::string(kHostTitle) + " (Personal)", 120, 80, 200, 100);
+    press("captureFusion");
+    EXPECT_FALSE(fs::exists(supportFolder()));
+}
+
+TEST_F(WindowCapture, WithoutTheHostsWindowLeavesNothing) {
+    press("captureFusion");
+    EXPECT_FALSE(fs::exists(supportFolder()));
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(WindowCapture, IsOfTheWindowThatTheSessionNames) {
+    host::SessionOptions with = addinOptions();
+    with.system.windows = {{kHostTitle, {10, 20, 40, 60}}};
+    restart(with);
+    ASSERT_TRUE(run());
+    press("captureFusion");
+    const PngPixels pixels = picture();
+    EXPECT_EQ(pixels.width, 30);
+    EXPECT_EQ(pixels.height, 40);
+}
+
+}  // namespace
+}  // namespace test_support

@@ -1,0 +1,154 @@
+#include "tests/support/files.h"
+#include "tests/tarnix/helpdesk/helpdesk_test.h"
+
+#include "host/base/gate.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace test_support {
+namespace {
+
+using namespace adsk::core;
+
+const std::string kRefused = "Support provider (0): The URL you entered can not be opened\n";
+
+class SupportProvider : public HelpdeskTest {
+protected:
+    /// Makes this the address of the support provider.
+    void choose(const std::string& address) {
+        configure({});
+        std::string document = readFile(settingsFile());
+        const std::size_t begin = document.find("<www>") + 5;
+        document.replace(begin, document.find("</www>") - begin, address);
+        writeFile(settingsFile(), document);
+    }
+
+    void restartWithShell(host::shell_requests::Policy policy) {
+        host::SessionOptions with = addinOptions();
+        with.shell = policy;
+        restart(with);
+        ASSERT_TRUE(run());
+    }
+
+    [[nodiscard]] const std::vector<std::string>& opened() const {
+        return session->openedByShell();
+    }
+};
+
+TEST_F(SupportProvider, IsTheDefaultOneAtFirst) {
+    press("openHelpdesk");
+    EXPECT_EQ(opened(), std::vector<std::string>{"http://helpdesk.tarnix.example/"});
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(SupportProvider, IsTheOneOfTheSettings) {
+    choose("http://other.example/a?b=c");
+    press("openHelpdesk");
+    EXPECT_EQ(opened(), std::vector<std::string>{"http://other.example/a?b=c"});
+}
+
+TEST_F(SupportProvider, ThatCannotBeOpenedIsTold) {
+    restartWithShell(host::shell_requests::Policy::RecordFail);
+    press("openHelpdesk");
+    EXPECT_EQ(shownMessages(), kRefused);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(SupportProvider, WithAnEmptyAddressIsAskedForAsItIs) {
+    restartWithShell(host::shell_requests::Policy::RecordFail);
+    choose("");
+    press("openHelpdesk");
+    EXPECT_EQ(opened(), std::vector<std::string>{""});
+    EXPECT_EQ(shownMessages(), kRefused);
+}
+
+TEST_F(SupportProvider, IsNotOpenedInAWorkspaceWithoutTheConfigurationControl) {
+    session->activateWorkspace("FusionRenderEnvironment");
+    press("openHelpdesk");
+    EXPECT_TRUE(opened().empty());
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(SupportProvider, IsNotOpenedWithoutAWorkspace) {
+    host::gate::reset();
+    host::gate::refuse("UserInterface::activeWorkspace", 1);
+    press("openHelpdesk");
+    EXPECT_TRUE(opened().empty());
+    EXPECT_EQ(raised(), "");
+}
+
+class UserGuide : public HelpdeskTest {
+protected:
+    /// A file beside the module, in the module's terms.
+    [[nodiscard]] std::string besideModule(const std::string& name) const {
+        std::string text = (moduleFolder() / name).string();
+        std::replace(text.begin(), text.end(), '/', '\\');
+        return text;
+    }
+
+    static void speak(int language) {
+        Application::get()->preferences()->generalPreferences()->userLanguage(
+            static_cast<UserLanguages>(language));
+    }
+};
+
+TEST_F(UserGuide, IsTheEnglishOneInEnglish) {
+    press("openHelp");
+    EXPECT_EQ(session->openedByShell(),
+              std::vector<std::string>{besideModule("Tarnix_UsersGuide.pdf")});
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(UserGuide, IsTheCzechOneInCzech) {
+    speak(2);
+    press("openHelp");
+    EXPECT_EQ(session->openedByShell(),
+              std::vector<std::string>{besideModule("Tarnix_UzivatelskaPrirucka.pdf")});
+}
+
+TEST_F(UserGuide, IsTheEnglishOneInTheLanguagesBesideCzech) {
+    speak(1);
+    press("openHelp");
+    speak(3);
+    press("openHelp");
+    EXPECT_EQ(session->openedByShell(),
+              (std::vector<std::string>{besideModule("Tarnix_UsersGuide.pdf"),
+                                        besideModule("Tarnix_UsersGuide.pdf")}));
+}
+
+TEST_F(UserGuide, ThatCannotBeOpenedIsNotTold) {
+    host::SessionOptions with = addinOptions();
+    with.shell = host::shell_requests::Policy::RecordFail;
+    restart(with);
+    ASSERT_TRUE(run());
+    press("openHelp");
+    EXPECT_EQ(shownMessages(), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(UserGuide, RaisesAPlainExceptionWithoutPreferences) {
+    host::gate::reset();
+    host::gate::refuse("Application::preferences", 1);
+    press("openHelp");
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_TRUE(session->openedByShell().empty());
+}
+
+TEST_F(UserGuide, RaisesAPlainExceptionWithoutGeneralPreferences) {
+    host::gate::reset();
+    host::gate::refuse("Preferences::generalPreferences", 1);
+    press("openHelp");
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_TRUE(session->openedByShell().empty());
+}
+
+}  // namespace
+}  // namespace test_support
