@@ -104,9 +104,27 @@ StandInAnswer standin_windowArea(const char* title, StandInArea* area) {
     if (!windows) {
         return StandInAnswer::NotMine;
     }
-    const auto found = windows->find(title);
-    return found != windows->end() ? host::system_answers::answerWith(found->second, area)
+    const auto found =
+        std::find_if(windows->begin(), windows->end(),
+                     [&](const host::WindowShown& window) { return window.title == title; });
+    return found != windows->end() ? host::system_answers::answerWith(found->inside, area)
                                    : StandInAnswer::Failed;
+}
+
+StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
+    if (!state().answers.windows) {
+        return StandInAnswer::NotMine;
+    }
+    // A copy: whoever looks may start other answers.
+    const std::vector<host::WindowShown> windows = *state().answers.windows;
+    for (const host::WindowShown& window : windows) {
+        StandInArea area = {};
+        host::system_answers::answerWith(window.inside, &area);
+        if (visit(context, window.title.c_str(), &area) == 0) {
+            break;
+        }
+    }
+    return StandInAnswer::Done;
 }
 
 StandInAnswer standin_cpuid(unsigned leaf, unsigned* registers) {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,6 +18,12 @@ struct ScreenRectangle {
     int bottom = 0;
 };
 
+/// A window on the screen, and where its inside stands.
+struct WindowShown {
+    std::string title;
+    ScreenRectangle inside;
+};
+
 /// How a session answers. As it stands: without waiting, and with what the machine has.
 struct SystemAnswers {
     bool sleepTakesTime = false;  ///< else a module that wants to wait goes on at once
@@ -27,8 +32,8 @@ struct SystemAnswers {
     /// The area of all monitors; none: as the machine has it.
     std::optional<ScreenRectangle> screen;
 
-    /// The insides of all windows that there are, by their titles; none: as the machine has them.
-    std::optional<std::map<std::string, ScreenRectangle>> windows;
+    /// All windows that there are, the foremost first; none: as the machine has them.
+    std::optional<std::vector<WindowShown>> windows;
 
     /// EAX, EBX, ECX and EDX after CPUID of a leaf; null: the machine's.
     std::function<std::array<unsigned, 4>(unsigned leaf)> processor;

@@ -48,6 +48,14 @@ StandInAnswer standin_virtualScreen(StandInArea* area);
 /// `Done`: `area` is set; `Failed`: there is no such window.
 StandInAnswer standin_windowArea(const char* title, StandInArea* area);
 
+/// Looks at one window: its title in UTF-8, ended by a zero, and where its inside stands, both
+/// valid during the call only; 0 to see no more.
+using StandInWindowVisitor = int (*)(void* context, const char* title, const StandInArea* inside);
+
+/// The module asks for the windows of the screen, the foremost first. `Done`: `visit` has seen
+/// them.
+StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context);
+
 /// The module asks the processor about itself: what the instruction CPUID leaves in EAX, EBX, ECX
 /// and EDX for `leaf`. `Done`: the four `registers` are set.
 StandInAnswer standin_cpuid(unsigned leaf, unsigned* registers);

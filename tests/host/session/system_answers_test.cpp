@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
 #include <vector>
 
 namespace answers = host::system_answers;
@@ -74,7 +75,7 @@ TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneUnlessToldOtherwise) {
 TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
     SystemAnswers screen;
     screen.screen = host::ScreenRectangle{-640, 0, 800, 600};
-    screen.windows = {{"a", {1, 2, 3, 4}}};
+    screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
     answers::start(screen);
     StandInArea area = {};
     EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::Done);
@@ -84,6 +85,27 @@ TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
     EXPECT_EQ(area.top, 2);
     EXPECT_EQ(area.right, 3);
     EXPECT_EQ(standin_windowArea("b", &area), StandInAnswer::Failed);
+}
+
+namespace {
+
+/// Notes the titles and left edges; two windows are enough.
+int lookAtTwo(void* context, const char* title, const StandInArea* inside) {
+    auto& seen = *static_cast<std::vector<std::string>*>(context);
+    seen.push_back(title + std::to_string(inside->left));
+    return seen.size() < 2 ? 1 : 0;
+}
+
+}  // namespace
+
+TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
+    std::vector<std::string> seen;
+    EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::NotMine);
+    SystemAnswers screen;
+    screen.windows = std::vector<host::WindowShown>{{"b", {5, 0, 9, 9}}, {"a", {6, 0, 9, 9}}, {}};
+    answers::start(screen);
+    EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::Done);
+    EXPECT_EQ(seen, (std::vector<std::string>{"b5", "a6"}));
 }
 
 TEST_F(AnswersForTheSystem, SpeakForAnotherProcessor) {

@@ -161,7 +161,7 @@ TEST_F(WindowCapture, WithoutTheHostsWindowLeavesNothing) {
 
 TEST_F(WindowCapture, IsOfTheWindowThatTheSessionNames) {
     host::SessionOptions with = addinOptions();
-    with.system.windows = {{kHostTitle, {10, 20, 40, 60}}};
+    with.system.windows = std::vector<host::WindowShown>{{kHostTitle, {10, 20, 40, 60}}};
     restart(with);
     ASSERT_TRUE(run());
     press("captureFusion");
