@@ -11,6 +11,10 @@
 #include "tarnix/properties/edit_properties_created_handler.h"
 #include "tarnix/settings/configuration_created_handler.h"
 
+#include <array>
+#include <cstddef>
+#include <new>
+
 namespace tarnix {
 
 using adsk::core::CommandControl;
@@ -81,8 +85,10 @@ void createOpenLocalFileForever() {
 }  // namespace
 
 MainCommands& mainCommands() {
-    // Never destroyed: when the process ends, the host may be gone before this module's statics.
-    static auto& commands = *new MainCommands;
+    // Never destroyed: when the process ends, the host may be gone before this module's statics. In
+    // static storage, so that nothing stays behind where the module is taken out before.
+    alignas(MainCommands) static std::array<std::byte, sizeof(MainCommands)> storage;
+    static auto& commands = *new (storage.data()) MainCommands;
     return commands;
 }
 
