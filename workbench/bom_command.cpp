@@ -4,7 +4,10 @@
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
 #include "workbench/output_file.h"
+#include "workbench/raised.h"
+#include "workbench/written_files.h"
 
+#include "host/design/design_file.h"
 #include "host/session/utf8_path.h"
 
 #include <algorithm>
@@ -13,6 +16,45 @@
 
 namespace workbench {
 namespace {
+
+namespace fs = std::filesystem;
+
+bool isDesignFile(const fs::path& file) { return file.extension() == ".json"; }
+
+/// The design file to save in; empty where none is asked for. One that stands beside another file
+/// is replaced only when it is named.
+fs::path saveTarget(const BomOptions& options) {
+    const fs::path input = host::fromUtf8(options.file);
+    const fs::path named = host::fromUtf8(options.saveFile);
+    if (!options.save || (named.empty() && isDesignFile(input))) {
+        return options.save ? input : fs::path();
+    }
+    if (!named.empty()) {
+        if (!isDesignFile(named)) {
+            throw Failure(ExitCode::BadUsage, "--save " + options.saveFile +
+                                                  ": a design file's name has to end in .json");
+        }
+        return named;
+    }
+    fs::path beside = input;
+    beside.replace_extension(host::kDesignFileEnding);
+    if (fs::exists(beside)) {
+        throw Failure(ExitCode::BadUsage, host::toUtf8(beside) + " is there already; --save " +
+                                              host::toUtf8(beside) + " replaces it");
+    }
+    return beside;
+}
+
+void saveDesign(const BomResult& result, const fs::path& file) {
+    if (!result.saved) {
+        return;
+    }
+    try {
+        host::saveDesignFile(file, *result.saved);
+    } catch (const host::DesignError& error) {
+        throw Failure(ExitCode::OutputFailed, error.what());
+    }
+}
 
 /// Tells what the add-in said, and ends the program when it failed.
 void reportRaised(const BomResult& result, const BomOptions& options) {
@@ -34,14 +76,15 @@ void reportRaised(const BomResult& result, const BomOptions& options) {
 }
 
 /// The exported file where the user wants it; where the add-in put it, if they want it nowhere.
-std::filesystem::path deliver(const BomResult& result, const BomOptions& options) {
+fs::path deliver(const BomResult& result, const BomOptions& options, WrittenFiles& written) {
     if (options.out.empty()) {
         return result.exportFile;
     }
     if (result.exportFile.empty()) {
         throw Failure(ExitCode::OutputFailed, "the add-in exported nothing: the table has no rows");
     }
-    const std::filesystem::path file = host::fromUtf8(options.out) / kExportFile;
+    const fs::path file = host::fromUtf8(options.out) / kExportFile;
+    written.watch(file);
     writeWhole(file, result.exported);
     return file;
 }
@@ -54,7 +97,7 @@ std::string shownList(const BomResult& result, const BomOptions& options) {
 }
 
 void tellWhereThingsAre(std::ostream& stream, const BomResult& result, const BomOptions& options,
-                        const std::filesystem::path& file) {
+                        const fs::path& file) {
     if (file.empty()) {
         stream << kExportFile << ": not written, the table has no rows\n";
     } else {
@@ -69,14 +112,23 @@ void tellWhereThingsAre(std::ostream& stream, const BomResult& result, const Bom
 }  // namespace
 
 void runBom(const BomOptions& options) {
+    const BomWishes wishes = readWishes(options);
+    const fs::path design = saveTarget(options);
     const BomTab& tab = options.tab == kModelTab.name ? kModelTab : kStructureTab;
-    const BomResult result = makeBom(readDesign(options.file, options.limits), tab, options);
+    WrittenFiles written;
+    const BomResult result =
+        makeBom(readDesign(options.file, options.limits), tab, options, wishes, written);
     reportRaised(result, options);
-    const std::filesystem::path file = deliver(result, options);
+    const fs::path file = deliver(result, options, written);
+    saveDesign(result, design);
+    written.keep();
     std::cout << shownList(result, options) << std::flush;
     // What other programs read stays free of remarks.
     std::ostream& remarks = options.format == "table" ? std::cout : std::cerr;
     remarks << (options.format == "table" ? "\n" : "");
+    if (!design.empty()) {
+        remarks << "Saved: " << printable(host::toUtf8(design)) << "\n";
+    }
     tellWhereThingsAre(remarks, result, options, file);
     if (!std::cout.flush()) {
         throw Failure(ExitCode::OutputFailed, "cannot write to stdout");

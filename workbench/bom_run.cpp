@@ -1,12 +1,15 @@
 #include "workbench/bom_run.h"
 
+#include "workbench/bom_hands.h"
 #include "workbench/exit_code.h"
+#include "workbench/raised.h"
 
 #include "host/session/environment.h"
 #include "host/session/utf8_path.h"
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <stdexcept>
@@ -46,11 +49,11 @@ std::string fileContent(const fs::path& file) {
 
 void openDialog(host::Session& session) {
     if (!session.run()) {
-        throw Failure(ExitCode::AddinFailed, "the add-in did not start");
+        throw std::runtime_error("the add-in did not start");
     }
     session.press(kBomCommand);
     if (!session.dialogOpen()) {
-        throw Failure(ExitCode::AddinFailed, "the add-in opened no BOM dialog");
+        throw std::runtime_error("the add-in opened no BOM dialog");
     }
 }
 
@@ -76,17 +79,6 @@ void exportList(host::Session& session, BomResult& result) {
     }
 }
 
-BomResult useAddin(host::Session& session, const BomTab& tab) {
-    BomResult result;
-    openDialog(session);
-    session.activateTab(tab.tab);
-    result.list = readShownList(session, tab);
-    exportList(session, result);
-    session.cancel();
-    session.stop();
-    return result;
-}
-
 /// Why a step could not be done: what the add-in raised before, else what was in the way.
 std::string explain(const host::Session& session, const std::string& obstacle) {
     const auto first =
@@ -102,36 +94,73 @@ std::unique_ptr<host::Session> startSession(const BomOptions& options) {
     }
 }
 
-}  // namespace
+/// Shows the tab as it is wished for.
+void arrange(host::Session& session, const BomTab& tab, const BomWishes& wishes) {
+    session.activateTab(tab.tab);
+    if (wishes.levels > 1) {
+        expandTree(session, tab, wishes.levels);
+    }
+    if (wishes.sort) {
+        sortBy(session, tab, *wishes.sort);
+    }
+}
 
-BomResult makeBom(host::DesignData design, const BomTab& tab, const BomOptions& options) {
+/// Notes what a session leaves behind.
+void noteTraces(const host::Session& session, BomResult& result) {
+    result.shell.insert(result.shell.end(), session.openedByShell().begin(),
+                        session.openedByShell().end());
+    result.raised.insert(result.raised.end(), session.raised().begin(), session.raised().end());
+    for (const host::Message& message : session.messages()) {
+        result.messages.push_back(message.text);
+    }
+}
+
+/// Does something in the dialog of a design, in a session of its own.
+void useAddin(const BomOptions& options, host::DesignData design, BomResult& result,
+              const std::function<void(host::Session&)>& work) {
     const std::unique_ptr<host::Session> session = startSession(options);
-    BomResult result;
     try {
         session->openDesign(std::move(design));
-        result = useAddin(*session, tab);
+        openDialog(*session);
+        work(*session);
+        if (session->dialogOpen()) {
+            session->cancel();
+        }
+        session->stop();
+    } catch (const Failure&) {
+        throw;
     } catch (const std::runtime_error& obstacle) {
         throw Failure(ExitCode::AddinFailed, explain(*session, obstacle.what()));
     }
-    result.shell = session->openedByShell();
-    result.raised = session->raised();
-    for (const host::Message& message : session->messages()) {
-        result.messages.push_back(message.text);
+    noteTraces(*session, result);
+}
+
+}  // namespace
+
+BomResult makeBom(host::DesignData design, const BomTab& tab, const BomOptions& options,
+                  const BomWishes& wishes, WrittenFiles& written) {
+    BomResult result;
+    if (!wishes.columns.empty()) {
+        useAddin(options, design, result, [&](host::Session& session) {
+            written.watch(session.addin().folder / kSettingsFile);
+            saveColumns(session, wishes.columns);
+        });
     }
+    if (options.save) {
+        useAddin(options, std::move(design), result, [&](host::Session& session) {
+            arrange(session, tab, wishes);
+            editCells(session, tab, wishes.cells);
+            acceptChanges(session, tab);
+            result.saved = session.design();
+        });
+    }
+    useAddin(options, result.saved ? *result.saved : std::move(design), result,
+             [&](host::Session& session) {
+                 arrange(session, tab, wishes);
+                 result.list = readShownList(session, tab);
+                 exportList(session, result);
+             });
     return result;
-}
-
-bool isOrdinary(const host::Raised& raised) {
-    const bool afterExport =
-        raised.inputId == kExportButton && raised.text == "invalid stoi argument";
-    return afterExport || (raised.event == "stop" && raised.type == "std::exception");
-}
-
-std::string describe(const host::Raised& raised) {
-    std::string line = "the add-in raised " + raised.type;
-    line += raised.text.empty() ? "" : " (" + raised.text + ")";
-    line += " in " + raised.event;
-    return line + (raised.inputId.empty() ? "" : " of " + raised.inputId);
 }
 
 }  // namespace workbench

@@ -34,6 +34,46 @@ void addLimits(CLI::App& command, ReadingLimits& limits) {
         ->capture_default_str();
 }
 
+/// The options that act in the add-in's dialog.
+void addWishes(CLI::App& command, BomOptions& options) {
+    command
+        .add_option("--column", options.columns,
+                    "A column to show, up to six, in this order; they stay chosen. CAPTION is\n"
+                    "what stands over it, the property's name by default")
+        ->type_name("PROPERTY[=CAPTION]")
+        ->allow_extra_args(false);
+    command
+        .add_option("--sort", options.sort,
+                    "Sort the tab structure by a column, by its caption or its property")
+        ->type_name("COLUMN[:desc]");
+    command
+        .add_option("--expand", options.expand,
+                    "Show the tree of the tab model down to this level, or all of it")
+        ->type_name("all|LEVEL");
+    command
+        .add_option("--set", options.cells,
+                    "Put a text into a cell of the tab shown; may be repeated. CELL is\n"
+                    "ROW:COLUMN: ROW counts the printed lines from 1, as they stand before any\n"
+                    "--set; COLUMN is a caption as it is printed, or the property of a column.\n"
+                    "As in \"--set '2:Part Number=P-7' --set '2:BOM Structure=Buy'\". Needs --save")
+        ->type_name("CELL=VALUE")
+        ->allow_extra_args(false);
+    command
+        .add_option_function<std::string>(
+            "--save",
+            [&options](const std::string& file) {
+                options.save = true;
+                options.saveFile = file;
+            },
+            "Press \"Save Changes and Close\", which writes the tab shown into the design, and\n"
+            "save that as a design file; by default in the one that was opened, else beside\n"
+            "FILE. Of rows with the same component, the last one wins")
+        ->type_name("[FILE]")
+        ->expected(0, 1)
+        ->run_callback_for_default()
+        ->default_str("");
+}
+
 CLI::App* addBom(CLI::App& program, BomOptions& options) {
     CLI::App* command = program.add_subcommand(
         "bom", "Run the add-in on a design: print its parts list, and export it");
@@ -48,6 +88,7 @@ CLI::App* addBom(CLI::App& program, BomOptions& options) {
                      "What to print: a table, the exported file, or JSON")
         ->check(CLI::IsMember({"table", "csv", "json"}))
         ->capture_default_str();
+    addWishes(*command, options);
     command->add_flag("--open", options.open, "Let the add-in open its workbook");
     command->add_flag("--verbose", options.verbose,
                       "Also tell what the add-in raises as a matter of course");

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "tests/support/files.h"
+#include "tests/support/outline.h"
+#include "tests/support/run_program.h"
+#include "tests/support/settings.h"
+#include "tests/support/temporary_folder.h"
+
+#include "host/design/design_file.h"
+#include "host/design/outline.h"
+#include "host/session/environment.h"
+#include "host/session/utf8_path.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace test_support {
+
+/// The built program, with a user of its own who has not used it yet.
+class Workbench : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const host::environment::Text& name : kDataVariables) {
+            before.push_back(host::environment::variable(name));
+            host::environment::setVariable(name, (folder.path() / "data").native());
+        }
+    }
+
+    void TearDown() override {
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            host::environment::setVariable(kDataVariables[i], before[i]);
+        }
+    }
+
+    /// A design file with a drawn design.
+    std::string design(const std::string& outline, const std::string& name = "sample") {
+        const auto file = folder.path() / host::fromUtf8(name + host::kDesignFileEnding);
+        host::DesignData data = host::parseOutline(addinOutline(outline));
+        data.name = name;
+        host::saveDesignFile(file, data);
+        return host::toUtf8(file);
+    }
+
+    /// The columns that this user chose once.
+    void configure(const std::vector<std::string>& items) {
+        std::filesystem::create_directories(addinCopy());
+        writeFile(settingsFile(), settingsDocument(items));
+    }
+
+    [[nodiscard]] std::filesystem::path addinCopy() const {
+        return folder.path() / "data" / "tarnix-workbench" / "Tarnix";
+    }
+
+    [[nodiscard]] std::filesystem::path settingsFile() const {
+        return addinCopy() / "Tarnix_configuration.xml";
+    }
+
+    [[nodiscard]] std::string out() const { return host::toUtf8(folder.path() / "out"); }
+
+    static ProgramResult run(const std::vector<std::string>& arguments) {
+        return runProgram("tarnix-workbench", arguments);
+    }
+
+    TemporaryFolder folder;
+    std::vector<std::optional<host::environment::Text>> before;
+
+private:
+    /// The variables that name the place of a user's data, on either system.
+    const std::vector<host::environment::Text> kDataVariables = {
+        std::filesystem::path("XDG_DATA_HOME").native(),
+        std::filesystem::path("LOCALAPPDATA").native()};
+};
+
+/// Two parts of 1 kg and 0.5 kg, the lighter one twice: boxes of 100 and 50 cm3 at 0.01 kg/cm3.
+inline constexpr const char* kSmallDesign = R"(
+    Frame  box=10x10x1 material=Sheet:0.01
+    Bolt  box=10x5x1 material=Sheet:0.01
+    Bolt)";
+
+inline std::string firstLines(const std::string& output, std::size_t count) {
+    std::size_t end = 0;
+    for (; count > 0 && end != std::string::npos; --count) {
+        end = output.find('\n', end) + 1;
+    }
+    return output.substr(0, end);
+}
+
+inline bool isOneLine(const std::string& errors) {
+    return !errors.empty() && errors.find('\n') == errors.size() - 1;
+}
+
+}  // namespace test_support
