@@ -53,8 +53,10 @@ Ptr<core::Base> Application::activeEditObject() const {
 
 Ptr<core::Data> Application::data() const {
     if (closed<"Application::data">(*this)) return {};
-    notBuilt("Application::data");
-    return {};
+    if (!data_) {
+        fail(core::OperationFailed, "Application::data: no folder stands in for the user's data");
+    }
+    return data_;
 }
 
 Ptr<core::Documents> Application::documents() const {
@@ -97,6 +99,8 @@ void Application::setActiveDocument(const Ptr<core::Document>& document,
     editObject_ = nullptr;
 }
 
+void Application::setData(const Ptr<core::Data>& data) { data_ = data; }
+
 void Application::setActiveEditObject(const Ptr<core::Base>& object) { editObject_ = object; }
 
 bool Application::isRootComponent(const Ptr<core::Base>& entity) const {
@@ -108,6 +112,7 @@ std::uint64_t Application::editsOfModel() const { return document_ ? editCount(d
 void Application::dispose() {
     ui_->dispose();
     preferences_->dispose();
+    data_ = nullptr;
     document_ = nullptr;
     product_ = nullptr;
     otherProduct_ = nullptr;

@@ -7,6 +7,7 @@
 #include "host/ui/user_interface.h"
 
 #include <Core/Application.h>
+#include <Core/Data.h>
 #include <Core/Document.h>
 #include <Core/Product.h>
 
@@ -44,6 +45,9 @@ public:
     void setActiveDocument(const adsk::core::Ptr<adsk::core::Document>& document,
                            const adsk::core::Ptr<adsk::core::Product>& product = nullptr);
 
+    /// Gives the host the user's projects; null takes them away.
+    void setData(const adsk::core::Ptr<adsk::core::Data>& data);
+
     /// What a person edits, such as an open sketch; the root component where it is null.
     void setActiveEditObject(const adsk::core::Ptr<adsk::core::Base>& object);
 
@@ -65,6 +69,7 @@ public:
 private:
     adsk::core::Ptr<ui::UserInterface> ui_;
     adsk::core::Ptr<ui::Preferences> preferences_;
+    adsk::core::Ptr<adsk::core::Data> data_;
     adsk::core::Ptr<adsk::core::Document> document_;
     adsk::core::Ptr<adsk::core::Product> product_;
     adsk::core::Ptr<adsk::core::Product> otherProduct_;

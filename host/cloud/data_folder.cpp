@@ -1,0 +1,170 @@
+#include "host/cloud/data_folder.h"
+
+#include "host/cloud/data_lists.h"
+#include "host/cloud/data_project.h"
+#include "host/design/denied.h"
+#include "host/session/utf8_path.h"
+
+#include <set>
+#include <system_error>
+#include <utility>
+
+namespace host {
+
+namespace fs = std::filesystem;
+using adsk::core::DataFile;
+using adsk::core::DataFileFuture;
+using adsk::core::DataFiles;
+using adsk::core::DataFolder;
+using adsk::core::DataFolders;
+using adsk::core::Ptr;
+
+namespace {
+
+struct Names {
+    std::set<fs::path> folders;
+    std::set<fs::path> files;
+};
+
+/// What a folder of the disk holds. One that cannot be read holds nothing.
+Names namesIn(const fs::path& folder) {
+    Names names;
+    std::error_code error;
+    fs::directory_iterator entries(folder, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+        const fs::path name = entries->path().filename();
+        std::error_code unknown;
+        const fs::file_status status = entries->symlink_status(unknown);
+        if (toUtf8(name).starts_with(".")) {
+            continue;
+        }
+        if (fs::is_directory(status)) {
+            names.folders.insert(name);
+        } else if (fs::is_regular_file(entries->status(unknown))) {
+            names.files.insert(name);
+        }
+    }
+    return names;
+}
+
+template <class T>
+void dropMissing(std::map<fs::path, Ptr<T>>& known, const std::set<fs::path>& names) {
+    for (auto each = known.begin(); each != known.end();) {
+        if (names.contains(each->first)) {
+            ++each;
+        } else {
+            each->second->close();
+            each = known.erase(each);
+        }
+    }
+}
+
+template <class Item, class T>
+std::vector<Ptr<Item>> valuesOf(const std::map<fs::path, Ptr<T>>& known) {
+    std::vector<Ptr<Item>> values;
+    for (const auto& [name, each] : known) {
+        values.push_back(each);
+    }
+    return values;
+}
+
+}  // namespace
+
+DataFolderObject::DataFolderObject(DataProjectObject& project, DataFolderObject* parent,
+                                   fs::path path)
+    : project_(&project), parent_(parent), path_(std::move(path)) {}
+
+std::string DataFolderObject::name() const {
+    if (denied<"DataFolder::name">(*this)) return {};
+    return toUtf8(path_.filename());
+}
+
+bool DataFolderObject::name(const std::string& /*value*/) {
+    if (denied<"DataFolder::name">(*this)) return {};
+    return notBuilt("DataFolder::name: to rename a folder");
+}
+
+bool DataFolderObject::isRoot() const {
+    if (denied<"DataFolder::isRoot">(*this)) return {};
+    return parent_ == nullptr;
+}
+
+Ptr<DataFolder> DataFolderObject::parentFolder() const {
+    if (denied<"DataFolder::parentFolder">(*this)) return {};
+    return Ptr<DataFolder>(parent_);
+}
+
+// The API's getters are const, and the disk is looked at all the same.
+Ptr<DataFolders> DataFolderObject::dataFolders() const {
+    if (denied<"DataFolder::dataFolders">(*this)) return {};
+    const_cast<DataFolderObject*>(this)->refresh();
+    return make<DataFoldersObject>(valuesOf<DataFolder>(folders_));
+}
+
+Ptr<DataFiles> DataFolderObject::dataFiles() const {
+    if (denied<"DataFolder::dataFiles">(*this)) return {};
+    const_cast<DataFolderObject*>(this)->refresh();
+    isListed_ = true;
+    for (const auto& [name, each] : files_) {
+        each->becomeKnown();
+    }
+    return make<DataFilesObject>(valuesOf<DataFile>(files_));
+}
+
+Ptr<DataFileFuture> DataFolderObject::uploadFile(const std::string& /*filename*/) {
+    if (denied<"DataFolder::uploadFile">(*this)) return {};
+    notBuilt("DataFolder::uploadFile");
+    return {};
+}
+
+void DataFolderObject::refresh() {
+    const Names names = namesIn(path_);
+    dropMissing(folders_, names.folders);
+    dropMissing(files_, names.files);
+    for (const fs::path& name : names.folders) {
+        if (!folders_.contains(name)) {
+            folders_[name] = make<DataFolderObject>(*project_, this, path_ / name);
+        }
+    }
+    for (const fs::path& name : names.files) {
+        if (!files_.contains(name)) {
+            files_[name] =
+                make<DataFileObject>(*this, path_ / name, project_->idOfFile(path_ / name));
+        }
+    }
+}
+
+Ptr<DataFolderObject> DataFolderObject::folder(const fs::path& name) const {
+    const auto found = folders_.find(name);
+    return found == folders_.end() ? nullptr : found->second;
+}
+
+Ptr<DataFileObject> DataFolderObject::file(const fs::path& name) const {
+    const auto found = files_.find(name);
+    return found == files_.end() ? nullptr : found->second;
+}
+
+Ptr<DataFileObject> DataFolderObject::findByName(const std::string& name) {
+    refresh();
+    for (const auto& [path, each] : folders_) {
+        if (const Ptr<DataFileObject> found = each->findByName(name)) {
+            return found;
+        }
+    }
+    for (const auto& [path, each] : files_) {
+        if (each->title() == name) {
+            return each;
+        }
+    }
+    return nullptr;
+}
+
+void DataFolderObject::close() {
+    dropMissing(folders_, {});
+    dropMissing(files_, {});
+    parent_ = nullptr;
+    project_ = nullptr;
+    invalidate();
+}
+
+}  // namespace host

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "host/base/object.h"
+#include "host/cloud/data_file.h"
+
+#include <Core/Data.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace host {
+
+class DataProjectObject;
+
+/// A folder of a project, and what was found in it so far.
+///
+/// It holds what lies in it; that points back to it, until it is closed.
+class DataFolderObject final : public Object<adsk::core::DataFolder> {
+public:
+    /// `parent` is null for the root folder of a project.
+    DataFolderObject(DataProjectObject& project, DataFolderObject* parent,
+                     std::filesystem::path path);
+
+    [[nodiscard]] std::string name() const override;
+    bool name(const std::string& value) override;
+    [[nodiscard]] bool isRoot() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFolder> parentFolder() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFolders> dataFolders() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFiles> dataFiles() const override;
+    adsk::core::Ptr<adsk::core::DataFileFuture> uploadFile(const std::string& filename) override;
+
+    /// @name For the host itself
+    /// @{
+    [[nodiscard]] DataProjectObject& project() const { return *project_; }
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+    /// Whether someone has asked for its files.
+    [[nodiscard]] bool isListed() const { return isListed_; }
+
+    /// Looks at the disk; what is gone from it is not valid any more.
+    void refresh();
+
+    [[nodiscard]] adsk::core::Ptr<DataFolderObject> folder(const std::filesystem::path& name) const;
+    [[nodiscard]] adsk::core::Ptr<DataFileObject> file(const std::filesystem::path& name) const;
+
+    /// The first file of a name here or below, folders in front of files; null for none.
+    [[nodiscard]] adsk::core::Ptr<DataFileObject> findByName(const std::string& name);
+
+    /// Lets go of all that lies in it; it is not valid any more.
+    void close();
+    /// @}
+
+private:
+    DataProjectObject* project_;
+    DataFolderObject* parent_;
+    std::filesystem::path path_;
+    std::map<std::filesystem::path, adsk::core::Ptr<DataFolderObject>> folders_;
+    std::map<std::filesystem::path, adsk::core::Ptr<DataFileObject>> files_;
+    mutable bool isListed_ = false;
+};
+
+}  // namespace host

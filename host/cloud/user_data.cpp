@@ -1,0 +1,121 @@
+#include "host/cloud/user_data.h"
+
+#include "host/cloud/data_project.h"
+#include "host/design/document.h"
+#include "host/session/utf8_path.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace host {
+
+namespace fs = std::filesystem;
+using adsk::core::Data;
+using adsk::core::DataFile;
+using adsk::core::Document;
+using adsk::core::Ptr;
+
+namespace {
+
+std::vector<Ptr<DataProjectObject>> projectsIn(const fs::path& folder) {
+    std::vector<fs::path> paths;
+    for (const fs::directory_entry& each : fs::directory_iterator(folder)) {
+        const bool isHidden = toUtf8(each.path().filename()).starts_with(".");
+        if (!isHidden && fs::is_directory(each.symlink_status())) {
+            paths.push_back(each.path());
+        }
+    }
+    std::sort(paths.begin(), paths.end());
+    std::vector<Ptr<DataProjectObject>> projects;
+    for (const fs::path& each : paths) {
+        projects.push_back(make<DataProjectObject>(each));
+    }
+    return projects;
+}
+
+/// The parts of a path below a folder; none for a path that does not lie below it.
+std::vector<fs::path> partsBelow(const fs::path& folder, const fs::path& path) {
+    const fs::path inside = path.lexically_normal().lexically_relative(folder);
+    std::vector<fs::path> parts(inside.begin(), inside.end());
+    const bool isBelow = !parts.empty() && parts.front() != ".." && parts.front() != ".";
+    return isBelow ? parts : std::vector<fs::path>();
+}
+
+/// A document that the host cannot place before the folder was listed waits for that.
+void tieReference(const Ptr<Document>& document, const Ptr<DataFileObject>& file,
+                  ReferencedFiles references) {
+    if (references == ReferencedFiles::KnownAtOnce || file->folder()->isListed()) {
+        setDataFile(document, file);
+    } else {
+        file->await(document);
+    }
+}
+
+}  // namespace
+
+UserData::UserData(UserDataSetup setup) : setup_(std::move(setup)) {
+    std::error_code error;
+    const fs::path folder = fs::canonical(setup_.folder, error);
+    if (error || !fs::is_directory(folder)) {
+        throw std::invalid_argument("no folder of the user's data: " + toUtf8(setup_.folder));
+    }
+    setup_.folder = folder;
+    data_ = make<DataObject>(projectsIn(setup_.folder));
+    if (!setup_.activeProject.empty()) {
+        const Ptr<DataProjectObject> project = data_->project(setup_.activeProject);
+        if (!project) {
+            throw std::invalid_argument("no project is called " + setup_.activeProject);
+        }
+        data_->activate(project);
+    }
+}
+
+UserData::~UserData() {
+    if (data_) {
+        data_->close();
+    }
+}
+
+Ptr<Data> UserData::api() const { return data_; }
+
+Ptr<DataFile> UserData::fileAt(const fs::path& path) const {
+    std::error_code error;
+    const std::vector<fs::path> parts =
+        partsBelow(setup_.folder, fs::weakly_canonical(path, error));
+    constexpr std::size_t kProjectAndFile = 2;
+    if (error || parts.size() < kProjectAndFile) {
+        return nullptr;
+    }
+    const Ptr<DataProjectObject> project = data_->project(toUtf8(parts.front()));
+    Ptr<DataFolderObject> folder(project ? &project->root() : nullptr);
+    for (std::size_t i = 1; folder && i + 1 < parts.size(); ++i) {
+        folder->refresh();
+        folder = folder->folder(parts[i]);
+    }
+    if (!folder) {
+        return nullptr;
+    }
+    folder->refresh();
+    return folder->file(parts.back());
+}
+
+void UserData::tie(const Ptr<Document>& document, const fs::path& path) const {
+    const Ptr<DataFile> own = fileAt(path);
+    if (!own) {
+        return;
+    }
+    setDataFile(document, own);
+    for (const Ptr<Document>& each : referencesOf(document)) {
+        const Ptr<DataProjectObject>& project = data_->active();
+        const Ptr<DataFileObject> file =
+            project ? project->root().findByName(each->name()) : nullptr;
+        if (file) {
+            tieReference(each, file, setup_.references);
+        }
+    }
+}
+
+}  // namespace host

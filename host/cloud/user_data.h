@@ -1,0 +1,59 @@
+#pragma once
+
+#include <Core/Data.h>
+#include <Core/Document.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+/// The user's data: a local folder stands in for the vendor's storage.
+///
+/// Each folder directly in it is a project, and what lies in that are the project's folders and
+/// files. A file is called as on the disk, without its ending. The disk is looked at whenever a
+/// folder is asked for what it holds, so what is put there meanwhile is found. Links to folders are
+/// not followed, and names that begin with "." are passed over.
+namespace host {
+
+/// When the host learns which file a referenced document was saved to.
+enum class ReferencedFiles {
+    KnownAtOnce,
+    KnownWhenListed,  ///< not before someone asks the folder of the file for its files
+};
+
+struct UserDataSetup {
+    std::filesystem::path folder;
+    std::string activeProject;  ///< by its name; empty for the first
+    ReferencedFiles references = ReferencedFiles::KnownAtOnce;
+};
+
+class DataObject;
+
+/// Whoever makes it keeps it; what a module was handed out of it is not valid after its end.
+class UserData {
+public:
+    /// Raises `std::invalid_argument` for a path that is no folder, or a project that is not there.
+    explicit UserData(UserDataSetup setup);
+    UserData(const UserData&) = delete;
+    UserData& operator=(const UserData&) = delete;
+    ~UserData();
+
+    /// What the public API shows of it.
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Data> api() const;
+
+    /// The data file of a file on the disk, null for one that lies in no project.
+    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFile> fileAt(
+        const std::filesystem::path& path) const;
+
+    /// Ties a document that was opened from or saved to a file on the disk to its data file, and
+    /// the documents that it refers to to the files of their names: the first in the active
+    /// project, folders in front of files, else none. Nothing happens for a file in no project.
+    void tie(const adsk::core::Ptr<adsk::core::Document>& document,
+             const std::filesystem::path& path) const;
+
+private:
+    UserDataSetup setup_;
+    adsk::core::Ptr<DataObject> data_;
+};
+
+}  // namespace host
