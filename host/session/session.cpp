@@ -3,11 +3,13 @@
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
+#include "host/session/browser_tree.h"
 #include "host/session/dialog_inputs.h"
 #include "host/session/utf8_path.h"
 #include "host/ui/main_queue.h"
 
 #include <map>
+#include <stdexcept>
 #include <utility>
 
 namespace host {
@@ -72,13 +74,10 @@ Session::~Session() { end(); }
 void Session::begin() {
     takeOutLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
     addin_ = copyAddin(installed_, folder_.path());
-    surroundings_.emplace(folder_.path(), options_.personsTemporaryFolder
-                                              ? TemporaryFiles::Persons
-                                              : TemporaryFiles::Private);
+    surroundings_.emplace(folder_.path());
     gate::reset();
     host::clearRaised();
     shell_requests::start(options_.shell);
-    system_answers::start(options_.system);
     startHost(options_.host);
     newDesign();
     module_ = LoadedModule(addin_.module());
@@ -89,8 +88,8 @@ void Session::end() noexcept {
     endHost();
     endDocument(document_);
     document_ = nullptr;
+    data_.reset();
     shell_requests::start(shell_requests::Policy::PassOn);
-    system_answers::end();
     if (options_.unloadAtEnd) {
         module_.unload();
     } else if (wasLoaded && !options_.home.empty()) {
@@ -132,6 +131,9 @@ std::vector<std::string> Session::open(const std::filesystem::path& file,
                                        const ImportLimits& limits, const ImportProgress& progress) {
     std::vector<std::string> warnings;
     openDesign(readDesign(absolute(file), limits, progress, warnings));
+    if (data_) {
+        data_->tie(document_, absolute(file));
+    }
     return warnings;
 }
 
@@ -148,7 +150,22 @@ void Session::openForeignDocument() {
     show(document, otherProductOf(document));
 }
 
-void Session::save(const std::filesystem::path& file) { saveDesignFile(absolute(file), design()); }
+void Session::save(const std::filesystem::path& file) {
+    saveDesignFile(absolute(file), design());
+    if (data_) {
+        data_->tie(document_, absolute(file));
+    }
+}
+
+void Session::useData(UserDataSetup setup) {
+    setup.folder = absolute(setup.folder);
+    try {
+        data_ = std::make_unique<UserData>(std::move(setup));
+    } catch (const std::invalid_argument& error) {
+        throw SessionError(error.what());
+    }
+    Application::current()->setData(data_->api());
+}
 
 DesignData Session::design() const { return snapshot(document_); }
 
@@ -192,6 +209,14 @@ void Session::activateTab(const std::string& id) {
         throw SessionError("the input \"" + id + "\" is no tab");
     }
     host::activateTab(tab);
+}
+
+void Session::pick(const std::string& path) {
+    host::pick(inBrowserTree(designOf(document_), path));
+}
+
+void Session::selectRow(const std::string& tableId, int row) {
+    host::selectRow(table(tableId), row);
 }
 
 void Session::ok() { pressOk(); }

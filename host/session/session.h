@@ -2,6 +2,7 @@
 
 #include "host/base/dispatcher.h"
 #include "host/base/gate.h"
+#include "host/cloud/user_data.h"
 #include "host/session/addin_copy.h"
 #include "host/session/loaded_module.h"
 #include "host/session/opening.h"
@@ -9,7 +10,6 @@
 #include "host/session/session_folder.h"
 #include "host/session/shell_requests.h"
 #include "host/session/surroundings.h"
-#include "host/session/system_answers.h"
 #include "host/session/table_view.h"
 #include "host/ui/application.h"
 #include "host/ui/hands.h"
@@ -19,6 +19,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -53,11 +54,6 @@ struct SessionOptions {
 
     HostSetup host;
     shell_requests::Policy shell = shell_requests::Policy::Record;
-    SystemAnswers system;
-
-    /// Lets the module make its temporary files where the person's are, and not in the private
-    /// folder.
-    bool personsTemporaryFolder = false;
 
     /// Takes the module out of the process at the end, which lets thousands of sessions follow each
     /// other; a report of leaks can then not name its functions.
@@ -119,6 +115,11 @@ public:
     /// Writes the open design into a design file, in the place of one that is there.
     void save(const std::filesystem::path& file);
 
+    /// Makes a local folder the user's data. A document that is then opened from a file in one of
+    /// its projects, or saved into one, has that file. Raises a `SessionError` for a folder that is
+    /// none.
+    void useData(UserDataSetup setup);
+
     /// The open design as it is now.
     [[nodiscard]] DesignData design() const;
     /// @}
@@ -158,6 +159,13 @@ public:
 
     /// Shows a tab of the dialog.
     void activateTab(const std::string& id);
+
+    /// Picks the root component (its name, or an empty path) or an occurrence (its full path name)
+    /// in the browser tree; again, to take it out of the dialog's selection.
+    void pick(const std::string& path);
+
+    /// Selects a row of a table.
+    void selectRow(const std::string& tableId, int row);
 
     /// Accepts the dialog.
     void ok();
@@ -208,6 +216,7 @@ private:
     std::optional<Surroundings> surroundings_;
     LoadedModule module_;
     adsk::core::Ptr<adsk::core::Document> document_;
+    std::unique_ptr<UserData> data_;
 };
 
 }  // namespace host
