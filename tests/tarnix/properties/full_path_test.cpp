@@ -1,0 +1,208 @@
+#include "tests/tarnix/properties/properties_test.h"
+
+#include "host/design/document.h"
+#include "host/session/browser_tree.h"
+#include "host/ui/application.h"
+#include "host/ui/hands.h"
+
+namespace tarnix {
+namespace {
+
+using adsk::core::Ptr;
+using adsk::core::TextBoxCommandInput;
+
+/// A test with the user's data: a project "Alfa", whose folders each test fills.
+class FullPath : public PropertiesTest {
+protected:
+    [[nodiscard]] std::filesystem::path data() const { return session->folder() / "data"; }
+
+    /// Puts a design into the user's data, under a path without its ending.
+    void store(const std::string& path, const std::string& outline) {
+        const std::filesystem::path file = data() / (path + ".design.json");
+        std::filesystem::create_directories(file.parent_path());
+        open(outline);
+        session->save(file);
+    }
+
+    /// Opens a stored design.
+    void openStored(const std::string& path,
+                    host::ReferencedFiles references = host::ReferencedFiles::KnownAtOnce) {
+        session->useData({data(), "Alfa", references});
+        session->open(data() / (path + ".design.json"));
+    }
+
+    /// What the box shows.
+    [[nodiscard]] std::string shown() const {
+        const Ptr<TextBoxCommandInput> box = session->input(kFullPath);
+        return box->text();
+    }
+
+    [[nodiscard]] static Ptr<adsk::core::Base> entity(const std::string& path) {
+        return host::inBrowserTree(host::designOf(host::Application::current()->document()), path);
+    }
+};
+
+TEST_F(FullPath, IsEmptyForADesignThatWasNeverSaved) {
+    store("Alfa/Other", "Bolt");
+    session->useData({data(), "Alfa"});
+    open("Bolt");
+    openAndPick("Bolt:1");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, TellsLabelProjectFoldersAndFileInHtml) {
+    store("Alfa/Designs/Motors/Gearbox", "Bolt");
+    openStored("Alfa/Designs/Motors/Gearbox");
+    openProperties();
+    EXPECT_EQ(box(kFullPath), R"(<b><span style="color: blue">ThisDoc: </span></b>Alfa)"
+                              R"(<b><span style="color: blue"> // </span></b>Designs)"
+                              R"(<b><span style="color: blue"> // </span></b>Motors)"
+                              R"(<b><span style="color: blue"> // </span></b>Gearbox)");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Designs // Motors // Gearbox");
+}
+
+TEST_F(FullPath, OfAFileInTheRootFolderHasOneSeparator) {
+    store("Alfa/Gearbox", "Bolt");
+    openStored("Alfa/Gearbox");
+    openProperties();
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+}
+
+TEST_F(FullPath, OfThePickedRootComponentIsThisDocument) {
+    store("Alfa/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Gearbox");
+    openAndPick("");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+}
+
+TEST_F(FullPath, OfAnOrdinaryOccurrenceIsThisDocument) {
+    store("Alfa/Gearbox", "Bolt");
+    openStored("Alfa/Gearbox");
+    openAndPick("Bolt:1");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+}
+
+TEST_F(FullPath, OfAReferencedOccurrenceIsTheReferencedDocument) {
+    store("Alfa/Bought/Big/Engine", "Piston");
+    store("Alfa/Designs/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Designs/Gearbox");
+    openProperties();
+    host::gate::reset();
+    session->pick("Motor:1");
+    EXPECT_EQ(box(kFullPath), R"(<b><span style="color: blue">RefDoc: </span></b>Alfa)"
+                              R"(<b><span style="color: blue"> // </span></b>Bought)"
+                              R"(<b><span style="color: blue"> // </span></b>Big)"
+                              R"(<b><span style="color: blue"> // </span></b>Engine)");
+    EXPECT_EQ(host::gate::count("DataFile::id"), 0U);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, OfAReferenceThatTheHostDoesNotKnowYetIsFoundByAWalk) {
+    store("Alfa/Bought/Big/Engine", "Piston");
+    store("Alfa/Bought/Screw", "Head");
+    store("Alfa/Designs/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Designs/Gearbox", host::ReferencedFiles::KnownWhenListed);
+    openProperties();
+    host::gate::reset();
+    session->pick("Motor:1");
+    EXPECT_EQ(shown(), "RefDoc: Alfa // Bought // Big // Engine");
+    // Each of the three files was met, and the referenced document was asked once more.
+    EXPECT_EQ(host::gate::count("DataFile::id"), 3U);
+    EXPECT_EQ(host::gate::count("Document::dataFile"), 2U);
+}
+
+TEST_F(FullPath, OfAReferenceThatWasFoundNeedsNoSecondWalk) {
+    store("Alfa/Bought/Engine", "Piston");
+    store("Alfa/Gearbox", R"(
+        Motor  document=Engine
+        Bolt)");
+    openStored("Alfa/Gearbox", host::ReferencedFiles::KnownWhenListed);
+    openAndPick("Motor:1");
+    session->pick("Bolt:1");
+    host::gate::reset();
+    session->pick("Motor:1");
+    EXPECT_EQ(shown(), "RefDoc: Alfa // Bought // Engine");
+    EXPECT_EQ(host::gate::count("DataFolder::dataFiles"), 0U);
+}
+
+TEST_F(FullPath, OfAReferenceWithoutAFileIsEmpty) {
+    store("Alfa/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Gearbox");
+    openAndPick("Motor:1");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+    EXPECT_TRUE(session->messages().empty());
+}
+
+TEST_F(FullPath, OfAReferenceIsEmptyWhereTheUserHasNoData) {
+    open("Motor  document=Engine");
+    openAndPick("Motor:1");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, WithoutASelectionIsThisDocument) {
+    store("Alfa/Bought/Engine", "Piston");
+    store("Alfa/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Gearbox");
+    openAndPick("Motor:1");
+    session->pick("Motor:1");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+}
+
+TEST_F(FullPath, WithTwoSelectedEntitiesIsThisDocument) {
+    store("Alfa/Bought/Engine", "Piston");
+    store("Alfa/Gearbox", R"(
+        Motor  document=Engine
+        Bolt
+        Nut)");
+    openStored("Alfa/Gearbox");
+    host::selectInModel({entity("Bolt:1"), entity("Nut:1")});
+    openProperties();
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+    session->pick("Motor:1");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+    EXPECT_EQ(value(kPartName), "Motor");
+}
+
+TEST_F(FullPath, InTheDocumentationWorkspaceIsAlwaysTheActiveDocument) {
+    store("Alfa/Bought/Engine", "Piston");
+    store("Alfa/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Gearbox");
+    session->activateWorkspace("FusionDocumentationEnvironment");
+    openAndPick("Motor:1");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+    EXPECT_EQ(value(kPartName), "Motor");
+}
+
+TEST_F(FullPath, RaisesWhenTheProjectBehindTheFileIsMissing) {
+    store("Alfa/Gearbox", "Bolt");
+    openStored("Alfa/Gearbox");
+    openProperties();
+    host::gate::refuse("DataFile::parentProject", 1);
+    session->pick("Bolt:1");
+    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_selectComponent");
+}
+
+TEST_F(FullPath, IsEmptyWhenTheActiveDocumentIsMissing) {
+    store("Alfa/Gearbox", "Bolt");
+    openStored("Alfa/Gearbox");
+    openProperties();
+    host::gate::refuse("Application::activeDocument", 1);
+    session->pick("Bolt:1");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, OfAFileWithoutAFolderIsASeparator) {
+    store("Alfa/Gearbox", "Bolt");
+    openStored("Alfa/Gearbox");
+    openProperties();
+    host::gate::refuse("DataFile::parentFolder", 1);
+    session->pick("Bolt:1");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa //  // Gearbox");
+}
+
+}  // namespace
+}  // namespace tarnix

@@ -1,0 +1,212 @@
+#include "tests/support/files.h"
+#include "tests/tarnix/properties/properties_test.h"
+
+#include "host/ui/hands.h"
+
+namespace tarnix {
+namespace {
+
+using adsk::core::Ptr;
+using adsk::core::SelectionCommandInput;
+
+class PropertiesDialog : public PropertiesTest {
+protected:
+    /// The dialog with one host call refused: all inputs of the dialog that have an id.
+    std::string withoutCall(const std::string& call, int nth) {
+        host::gate::reset();
+        host::gate::refuse(call, static_cast<std::uint64_t>(nth));
+        openProperties();
+        host::gate::reset();
+        std::string all;
+        for (const std::string& id : session->inputIds()) {
+            all += (all.empty() ? "" : " ") + id;
+        }
+        return all;
+    }
+};
+
+TEST_F(PropertiesDialog, HasTwoTabsAndASize) {
+    openProperties();
+    EXPECT_EQ(inputsOf(""), text(R"(
+        tab QEMA_tab_iProperties "Custom properties"
+        tab QEMA_tab_Settings "Settings")"));
+    EXPECT_EQ(host::dialogSize(), (host::ui::DialogSize{300, 600}));
+    EXPECT_EQ(raised(), "");
+    EXPECT_TRUE(session->messages().empty());
+    EXPECT_TRUE(host::misuses().empty());
+}
+
+TEST_F(PropertiesDialog, PicksOneComponentAndShowsTwoGroups) {
+    openProperties();
+    EXPECT_EQ(inputsOf(kPropertiesTab), text(R"(
+        selection QEMA_selectComponent "Component" prompt "Select component"
+        group QEMA_properties "Properties", expanded, full width
+        group QEMA_customProperties "Custom Properties", expanded, full width)"));
+}
+
+TEST_F(PropertiesDialog, ShowsStructureTextsAndFullPathAsProperties) {
+    openProperties();
+    EXPECT_EQ(inputsOf("QEMA_properties"), text(R"(
+        button row QEMA_btnRowBuyMake "BOM Structure", multi-select
+          Produce resources/_Produce off
+          Buy resources/_Buy off
+          AsPart resources/_AsPart off
+          Divided resources/_Divided off
+          Reference resources/_Reference off
+        text QEMA_Part Number "Part Number" ""
+        text QEMA_Part Name "Part Name" ""
+        text QEMA_Description "Description" ""
+        text box QEMA_FullPathDoc "Full Path" , 1 row, read-only)"));
+}
+
+TEST_F(PropertiesDialog, ShowsTheListOfTheSettingsInItsOrder) {
+    offer({"QEMA_Material;Material", "QEMA_Colour;Colour of it;all"});
+    openProperties();
+    EXPECT_EQ(inputsOf("QEMA_customProperties"), text(R"(
+        text QEMA_Material "Material" ""
+        text QEMA_Colour "Colour of it;all" "")"));
+}
+
+TEST_F(PropertiesDialog, EditsTheListOnItsSecondTab) {
+    offer({"QEMA_Material;Material"});
+    openProperties();
+    EXPECT_EQ(inputsOf(kSettingsTab),
+              R"(text box tableDescrb "" <div align="left">User-defined properties of component.)"
+              R"(</div>, 1 row, read-only)"
+              "\n"
+              R"(table userProperty "Property" 1 column, ratio 1, 20 rows visible, toolbar)"
+              R"( propertyAdd propertyDelete)"
+              "\n"
+              R"(text box messageSave "" )" +
+                  std::string(kNotice) +
+                  ", 4 rows, read-only\n"
+                  R"(button QEMA_btnSaveUserIProperty "Save User Property", on, full width)"
+                  "\n"
+                  R"(button propertyAdd "Add Property", on)"
+                  "\n"
+                  R"(button propertyDelete "Delete Property", on)"
+                  "\n"
+                  R"(text QEMA_Materia "Material" "Material")");
+}
+
+TEST_F(PropertiesDialog, WithAnEmptyListIsCompleteWithoutCustomPropertiesAndRows) {
+    openProperties();
+    EXPECT_EQ(inputsOf("QEMA_customProperties"), "");
+    EXPECT_EQ(rows(), "|");
+    EXPECT_EQ(session->table(kTable)->maximumVisibleRows(), 20);
+    EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, TheIdOfARowIsACharacterShorterThanTheKey) {
+    offer({"QEMA_Material;Material", "x;Single"});
+    openProperties();
+    EXPECT_EQ(rows(), "|Material|Single|");
+    EXPECT_EQ(rowId(0), "QEMA_Materia");
+    EXPECT_EQ(rowId(1), "");
+}
+
+TEST_F(PropertiesDialog, AnEntryWithoutSemicolonIsIdAndName) {
+    // An item without a key reads as an empty text, the one entry that has no semicolon.
+    offer({";Lost"});
+    openProperties();
+    EXPECT_EQ(inputsOf("QEMA_customProperties"), R"(text  "" "")");
+    EXPECT_EQ(rows(), "||");
+    EXPECT_EQ(rowId(0), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, PicksOccurrencesAndTheRootComponentAlone) {
+    open("Bolt");
+    openProperties();
+    session->pick("Bolt:1");
+    session->pick("Design");
+    const Ptr<adsk::core::Base> component =
+        session->dialog()->parentCommandDefinition();  // of a kind that no filter accepts
+    EXPECT_THROW(host::pick(component), host::MisuseError);
+}
+
+TEST_F(PropertiesDialog, CannotBeAcceptedBeforeAComponentIsPicked) {
+    open("Bolt");
+    openProperties();
+    EXPECT_THROW(session->ok(), host::MisuseError);
+    EXPECT_TRUE(session->dialogOpen());
+    session->pick("Bolt:1");
+    session->ok();
+    EXPECT_FALSE(session->dialogOpen());
+}
+
+TEST_F(PropertiesDialog, HoldsOnePickAtMost) {
+    open(R"(
+        Bolt
+        Nut)");
+    openAndPick("Bolt:1");
+    session->pick("Nut:1");
+    const Ptr<SelectionCommandInput> selection = session->input(kSelection);
+    EXPECT_EQ(selection->selectionCount(), 1U);
+    EXPECT_EQ(value(kPartName), "Nut");
+}
+
+TEST_F(PropertiesDialog, TellsOfASelectionFilterThatTheHostRefuses) {
+    host::gate::refuse("SelectionCommandInput::addSelectionFilter", 1);
+    openProperties();
+    ASSERT_EQ(session->messages().size(), 1U);
+    EXPECT_EQ(session->messages()[0].text, "occurrence failed");
+    EXPECT_EQ(session->messages()[0].title, "");
+    EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
+}
+
+TEST_F(PropertiesDialog, TellsOfTheSecondSelectionFilterToo) {
+    host::gate::refuse("SelectionCommandInput::addSelectionFilter", 2);
+    openProperties();
+    ASSERT_EQ(session->messages().size(), 1U);
+    EXPECT_EQ(session->messages()[0].text, "root failed");
+    EXPECT_EQ(session->messages()[0].title, "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutItsFirstTab) {
+    EXPECT_EQ(withoutCall("CommandInputs::addTabCommandInput", 1), "");
+    EXPECT_EQ(raised(), "");
+    EXPECT_TRUE(session->messages().empty());
+}
+
+TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsFirstTab) {
+    EXPECT_EQ(withoutCall("TabCommandInput::children", 1), "QEMA_tab_iProperties");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutItsFirstGroup) {
+    EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 1),
+              "QEMA_tab_iProperties QEMA_selectComponent");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutItsButtons) {
+    EXPECT_EQ(withoutCall("CommandInputs::addButtonRowCommandInput", 1),
+              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutTheListOfItsButtons) {
+    EXPECT_EQ(withoutCall("ButtonRowCommandInput::listItems", 1),
+              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutItsSecondGroup) {
+    EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 2),
+              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
+              "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutItsSecondTab) {
+    EXPECT_EQ(withoutCall("CommandInputs::addTabCommandInput", 2),
+              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
+              "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc "
+              "QEMA_customProperties");
+    EXPECT_EQ(raised(), "");
+}
+
+}  // namespace
+}  // namespace tarnix

@@ -1,0 +1,172 @@
+#include "tests/support/files.h"
+#include "tests/tarnix/properties/properties_test.h"
+
+#include "host/ui/hands.h"
+
+namespace tarnix {
+namespace {
+
+class PropertiesOk : public PropertiesTest {
+protected:
+    /// Runs the handlers of OK although the host would not let a person press it.
+    static void forceOk() { host::acceptAnyway(); }
+};
+
+TEST_F(PropertiesOk, WritesEveryInputInTheOrderOfTheDialog) {
+    offer({"QEMA_Colour;Colour", "QEMA_Size;Size"});
+    open("Bolt  number=B-1");
+    openAndPick("Bolt:1");
+    session->type(kPartNumber, "B-2");
+    session->type(kPartName, "Hexagon bolt");
+    session->type(kDescription, "DIN 933");
+    session->type("QEMA_Colour", "red");
+    session->choose(kStructure, "Buy");
+    session->ok();
+    EXPECT_EQ(stored(session->design(), "Hexagon bolt"), text(R"(
+        B-2 | Hexagon bolt | DIN 933
+        Produce=0
+        Buy=1
+        AsPart=0
+        Divided=0
+        Reference=0
+        QEMA_Colour=red
+        QEMA_Size=)"));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, WithAllButtonsOffWritesZeroToAllFive) {
+    open("Bolt");
+    openAndPick("Bolt:1");
+    session->ok();
+    EXPECT_EQ(stored(session->design(), "Bolt"), text(R"(
+        Bolt | Bolt | 
+        Produce=0
+        Buy=0
+        AsPart=0
+        Divided=0
+        Reference=0)"));
+}
+
+TEST_F(PropertiesOk, WritesToTheComponentThatAllItsOccurrencesShow) {
+    open(R"(
+        Bolt
+        Gearbox
+          Bolt)");
+    openAndPick("Gearbox:1+Bolt:2");
+    session->type(kPartNumber, "B-9");
+    session->ok();
+    openAndPick("Bolt:1");
+    EXPECT_EQ(value(kPartNumber), "B-9");
+}
+
+TEST_F(PropertiesOk, WritesToTheRootComponent) {
+    open("Bolt");
+    openAndPick("");
+    session->type(kDescription, "the whole");
+    session->ok();
+    openAndPick("");
+    EXPECT_EQ(value(kDescription), "the whole");
+}
+
+TEST_F(PropertiesOk, WithoutASelectionIsRefusedByTheHost) {
+    open("Bolt");
+    openProperties();
+    EXPECT_THROW(session->ok(), host::MisuseError);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+}
+
+TEST_F(PropertiesOk, WithoutASelectionLeavesTheDesignUntouched) {
+    open("Bolt");
+    openProperties();
+    session->choose(kStructure, "Buy");
+    session->type(kPartNumber, "lost");
+    forceOk();
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, WritesInputsThatAreDisabledToo) {
+    open("Bolt");
+    openAndPick("Bolt:1");
+    session->type(kDescription, "mine");
+    session->input(kDescription)->isEnabled(false);
+    session->ok();
+    EXPECT_EQ(stored(session->design(), "Bolt").substr(0, 18), "Bolt | Bolt | mine");
+}
+
+TEST_F(PropertiesOk, PassesOverButtonsWhoseIdBeginsOtherwise) {
+    open("Bolt");
+    openAndPick("Bolt:1");
+    const adsk::core::Ptr<adsk::core::GroupCommandInput> group =
+        session->input("QEMA_customProperties");
+    group->children()->addBoolValueInput("QEMA_Checked", "", true, "", true);
+    group->children()->addBoolValueInput("QEMA", "", true, "", false);
+    group->children()->addBoolValueInput("qEMA_Other", "", true, "", true);
+    group->children()->addBoolValueInput("QEM", "", true, "", true);
+    session->ok();
+    EXPECT_EQ(stored(session->design(), "Bolt"), text(R"(
+        Bolt | Bolt | 
+        Produce=0
+        Buy=0
+        AsPart=0
+        Divided=0
+        Reference=0
+        QEMA_Checked=1
+        QEMA=0)"));
+}
+
+TEST_F(PropertiesOk, KeepsAttributesThatTheDialogDoesNotShow) {
+    open("Bolt  property=Old/kept");
+    openAndPick("Bolt:1");
+    session->ok();
+    EXPECT_EQ(stored(session->design(), "Bolt"), text(R"(
+        Bolt | Bolt | 
+        QEMA_Old=kept
+        Produce=0
+        Buy=0
+        AsPart=0
+        Divided=0
+        Reference=0)"));
+}
+
+TEST_F(PropertiesOk, InManufacturingWritesTheEmptyInputsOfAFreshDialog) {
+    offer({"QEMA_Colour;Colour"});
+    open("Bolt  number=B-1 description=long structure=Buy property=Colour/red");
+    session->activateWorkspace("CAMEnvironment");
+    openAndPick("Bolt:1");
+    session->ok();
+    const host::DesignData design = session->design();
+    EXPECT_EQ(design.components[1].partNumber, "");
+    EXPECT_EQ(design.components[1].description, "");
+    EXPECT_EQ(design.components[1].attributes[1].name, "Buy");
+    EXPECT_EQ(design.components[1].attributes[1].value, "0");
+    EXPECT_EQ(design.components[1].attributes[5].name, "QEMA_Colour");
+    EXPECT_EQ(design.components[1].attributes[5].value, "");
+}
+
+TEST_F(PropertiesOk, IsSeenByTheBom) {
+    configure({"QEMA_Colour;Colour", "QEMA_Description;Description"});
+    test_support::writeFile(
+        settingsFile(),
+        settingsWith(category("iProperty", {"QEMA_Colour;Colour"}) +
+                     category("bomItems", {"QEMA_Colour;Colour", "QEMA_Description;Description"})));
+    open("Bolt  number=B-1");
+    openAndPick("Bolt:1");
+    session->type(kPartNumber, "B-2");
+    session->type(kDescription, "long");
+    session->type("QEMA_Colour", "red");
+    session->ok();
+    showStructure();
+    EXPECT_EQ(table(), "1 | Part | B-2 | red | long");
+}
+
+TEST_F(PropertiesOk, CancelledWritesNothing) {
+    open("Bolt");
+    openAndPick("Bolt:1");
+    session->type(kPartNumber, "lost");
+    session->cancel();
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+}
+
+}  // namespace
+}  // namespace tarnix

@@ -1,0 +1,91 @@
+#include "tests/tarnix/properties/properties_test.h"
+
+namespace tarnix {
+namespace {
+
+class StructureButtons : public PropertiesTest {
+protected:
+    void press(const std::string& caption) { session->choose(kStructure, caption); }
+
+    /// A component on which these are on.
+    void pickOneWith(const std::string& buttons) {
+        std::string line = "Bolt ";
+        for (std::size_t from = 0; from < buttons.size();) {
+            const std::size_t to = std::min(buttons.find(' ', from), buttons.size());
+            line += " attribute=QEMA_PropertiesAttributesGroup/" + buttons.substr(from, to - from) +
+                    "/1";
+            from = to + 1;
+        }
+        open(line);
+        openAndPick("Bolt:1");
+    }
+};
+
+TEST_F(StructureButtons, PressingTheOneThatIsOnLeavesNoneOn) {
+    open("Bolt  structure=Buy");
+    openAndPick("Bolt:1");
+    press("Buy");
+    EXPECT_EQ(buttonsOn(), "");
+}
+
+TEST_F(StructureButtons, TheNextPressAfterThatMakesAnyTheOnlyOneOn) {
+    open("Bolt  structure=Buy");
+    openAndPick("Bolt:1");
+    press("Buy");
+    press("Reference");
+    EXPECT_EQ(buttonsOn(), "Reference");
+}
+
+TEST_F(StructureButtons, PressingASecondSwitchesTheFirstOff) {
+    openProperties();
+    press("Produce");
+    press("Divided");
+    EXPECT_EQ(buttonsOn(), "Divided");
+    press("Produce");
+    EXPECT_EQ(buttonsOn(), "Produce");
+}
+
+TEST_F(StructureButtons, PressingASecondSwitchesALoadedOneOff) {
+    open("Bolt  structure=AsPart");
+    openAndPick("Bolt:1");
+    press("Produce");
+    EXPECT_EQ(buttonsOn(), "Produce");
+}
+
+TEST_F(StructureButtons, OfTwoThatAreBothNotTheStoredOneBothStayOn) {
+    pickOneWith("Produce Buy Reference");
+    EXPECT_EQ(buttonsOn(), "Produce Buy Reference");
+    press("Reference");  // the stored one, being the last that was on
+    EXPECT_EQ(buttonsOn(), "Produce Buy");
+}
+
+TEST_F(StructureButtons, OfTwoThatBothStayOnTheLaterIsStored) {
+    pickOneWith("Produce Buy Reference");
+    press("Reference");
+    press("Divided");  // three on: nothing happens
+    EXPECT_EQ(buttonsOn(), "Produce Buy Divided");
+    press("Produce");  // of the two that are left "Buy" is the stored one
+    EXPECT_EQ(buttonsOn(), "Divided");
+}
+
+TEST_F(StructureButtons, StoresNothingWhenAComponentWithoutStructureIsLoaded) {
+    open(R"(
+        Bolt  structure=Buy
+        Nut)");
+    openAndPick("Bolt:1");
+    session->pick("Nut:1");
+    press("Buy");
+    press("Produce");
+    EXPECT_EQ(buttonsOn(), "Produce");
+}
+
+TEST_F(StructureButtons, AnythingButOneIsOff) {
+    open(
+        "Bolt  attribute=QEMA_PropertiesAttributesGroup/Buy/true "
+        "attribute=QEMA_PropertiesAttributesGroup/Divided/11");
+    openAndPick("Bolt:1");
+    EXPECT_EQ(buttonsOn(), "");
+}
+
+}  // namespace
+}  // namespace tarnix
