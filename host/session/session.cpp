@@ -74,10 +74,13 @@ Session::~Session() { end(); }
 void Session::begin() {
     takeOutLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
     addin_ = copyAddin(installed_, folder_.path());
-    surroundings_.emplace(folder_.path());
+    surroundings_.emplace(folder_.path(), options_.personsTemporaryFolder
+                                              ? TemporaryFiles::Persons
+                                              : TemporaryFiles::Private);
     gate::reset();
     host::clearRaised();
     shell_requests::start(options_.shell);
+    system_answers::start(options_.system);
     startHost(options_.host);
     newDesign();
     module_ = LoadedModule(addin_.module());
@@ -90,6 +93,7 @@ void Session::end() noexcept {
     document_ = nullptr;
     data_.reset();
     shell_requests::start(shell_requests::Policy::PassOn);
+    system_answers::end();
     if (options_.unloadAtEnd) {
         module_.unload();
     } else if (wasLoaded && !options_.home.empty()) {

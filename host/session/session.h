@@ -10,6 +10,7 @@
 #include "host/session/session_folder.h"
 #include "host/session/shell_requests.h"
 #include "host/session/surroundings.h"
+#include "host/session/system_answers.h"
 #include "host/session/table_view.h"
 #include "host/ui/application.h"
 #include "host/ui/hands.h"
@@ -54,6 +55,11 @@ struct SessionOptions {
 
     HostSetup host;
     shell_requests::Policy shell = shell_requests::Policy::Record;
+    SystemAnswers system;
+
+    /// Lets the module make its temporary files where the person's are, and not in the private
+    /// folder.
+    bool personsTemporaryFolder = false;
 
     /// Takes the module out of the process at the end, which lets thousands of sessions follow each
     /// other; a report of leaks can then not name its functions.
