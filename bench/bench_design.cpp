@@ -44,25 +44,36 @@ void addFlat(DesignData& design, std::size_t count, std::size_t parts) {
     }
 }
 
-void addNested(DesignData& design, std::size_t count) {
-    ComponentData assembly = part(0);
-    assembly.name = "Assembly";
-    assembly.geometry = nullptr;
+/// Assemblies below a component that is there, and single parts until `count` is reached.
+void addAssemblies(DesignData& design, std::size_t parent, std::size_t count) {
+    const std::size_t assembly = design.components.size();
+    ComponentData made = part(0);
+    made.name = "Assembly";
+    made.geometry = nullptr;
     for (std::size_t i = 0; i < kPartsBelow; ++i) {
-        use(assembly, 2 + i, 1);
+        use(made, assembly + 1 + i, 1);
     }
-    design.components.push_back(std::move(assembly));
+    design.components.push_back(std::move(made));
     for (std::size_t i = 0; i < kPartsBelow; ++i) {
         design.components.push_back(part(1 + i));
     }
     const std::size_t assemblies = count / (kPartsBelow + 1);
     for (std::size_t i = 0; i < assemblies; ++i) {
-        use(design.components.front(), 1, static_cast<int>(1 + i));
+        use(design.components[parent], assembly, static_cast<int>(1 + i));
     }
     // The rest stands as single parts, so that the design has exactly the asked size.
     for (std::size_t i = assemblies * (kPartsBelow + 1); i < count; ++i) {
-        use(design.components.front(), 2 + i % kPartsBelow, static_cast<int>(2 + i));
+        use(design.components[parent], assembly + 1 + i % kPartsBelow, static_cast<int>(2 + i));
     }
+}
+
+void addUnderOne(DesignData& design, std::size_t count) {
+    ComponentData top = part(kPartsBelow + 1);
+    top.name = "Top";
+    top.geometry = nullptr;
+    design.components.push_back(std::move(top));
+    use(design.components.front(), 1, 1);
+    addAssemblies(design, 1, count - 1);
 }
 
 }  // namespace
@@ -82,7 +93,10 @@ DesignData makeDesign(Shape shape, std::size_t count) {
             addFlat(design, count, kSharedParts);
             break;
         case Shape::Nested:
-            addNested(design, count);
+            addAssemblies(design, 0, count);
+            break;
+        case Shape::UnderOne:
+            addUnderOne(design, count);
             break;
     }
     return design;

@@ -5,19 +5,18 @@
 // the host's API. Counts are stable; times are those of the machine.
 
 #include "bench/bench_design.h"
-#include "host/base/gate.h"
+#include "bench/measure.h"
 #include "host/session/session.h"
 
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 
 namespace {
 
+using bench::measure;
 using bench::Shape;
 using host::Session;
 
@@ -34,19 +33,6 @@ double peakMegabytes() {
         }
     }
     return 0;
-}
-
-/// Does one thing, and notes its time and its host calls under `name`. Yields the milliseconds.
-double measure(benchmark::State& state, const std::string& name,
-               const std::function<void()>& action) {
-    host::gate::reset();
-    const auto begin = std::chrono::steady_clock::now();
-    action();
-    const std::chrono::duration<double, std::milli> taken =
-        std::chrono::steady_clock::now() - begin;
-    state.counters[name + "_ms"] = taken.count();
-    state.counters[name + "_calls"] = static_cast<double>(host::gate::total());
-    return taken.count();
 }
 
 /// An editable cell of the first data row of the tab "Data of Model".

@@ -1,0 +1,98 @@
+// Time and host calls of what a person does in the open BOM dialog, for designs of 1,000 to 100,000
+// rows: a sort, a click that unfolds and one that folds the top assembly, saving the columns, the
+// write-back, and saving the design. A row of the output is one design; its time is that of the
+// action the benchmark is named after, and the counters hold the others beside it.
+
+#include "bench/bench_design.h"
+#include "bench/measure.h"
+#include "host/session/session.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <functional>
+
+namespace {
+
+using bench::measure;
+using bench::Shape;
+using host::Session;
+
+constexpr const char* kStructure = "QEMA_tab_structure_BOM";
+constexpr const char* kModel = "QEMA_tab_models_BOM";
+constexpr const char* kConfiguration = "QEMA_tab_config_BOM";
+constexpr double kMillisecondsASecond = 1000;
+
+/// Opens the dialog on a design, does something in it once, and notes the seconds it took.
+void inDialog(benchmark::State& state, Shape shape, const std::function<double(Session&)>& act) {
+    for (auto iteration : state) {
+        (void)iteration;
+        host::SessionOptions options;
+        options.addin = ADDIN_FOLDER;
+        Session session(options);
+        session.openDesign(bench::makeDesign(shape, static_cast<std::size_t>(state.range(0))));
+        session.run();
+        session.press("QM_TX_BOM");
+        state.SetIterationTime(act(session) / kMillisecondsASecond);
+    }
+}
+
+void sortRows(benchmark::State& state) {
+    inDialog(state, Shape::FlatDifferent, [&](Session& session) {
+        session.activateTab(kStructure);
+        session.choose("QEMA_droDown_AscDesc", "Descending");
+        measure(state, "by_number", [&] { session.click("positionOcc_0"); });
+        return measure(state, "by_text", [&] { session.click("partNumberOcc_0"); });
+    });
+}
+
+void foldTop(benchmark::State& state) {
+    inDialog(state, Shape::UnderOne, [&](Session& session) {
+        session.activateTab(kModel);
+        const double unfold = measure(state, "unfold", [&] { session.click("modelColapseRow_1"); });
+        return unfold + measure(state, "fold", [&] { session.click("modelColapseRow_1"); });
+    });
+}
+
+void saveColumns(benchmark::State& state) {
+    inDialog(state, Shape::FlatDifferent, [&](Session& session) {
+        session.activateTab(kConfiguration);
+        measure(state, "choose", [&] { session.choose("iProperty_0", "Mass"); });
+        return measure(state, "save", [&] { session.click("QEMA_btnSaveConfigBom"); });
+    });
+}
+
+/// Accepting also opens the dialog again, which is measured apart to be known.
+void writeBack(benchmark::State& state, Shape shape, const char* tab) {
+    inDialog(state, shape, [&](Session& session) {
+        session.activateTab(tab);
+        const double accept = measure(state, "accept", [&] { session.ok(); });
+        if (session.dialogOpen()) {
+            session.cancel();
+        }
+        const double reopen = measure(state, "reopen", [&] { session.press("QM_TX_BOM"); });
+        session.cancel();
+        const auto file = session.folder() / "measured.design.json";
+        measure(state, "save_design", [&] { session.save(file); });
+        return accept - reopen;
+    });
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->RangeMultiplier(10)
+        ->Range(1000, 100000)
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(sortRows)->Apply(sizes);
+BENCHMARK(foldTop)->Apply(sizes);
+BENCHMARK(saveColumns)->Apply(sizes);
+BENCHMARK_CAPTURE(writeBack, model, Shape::FlatDifferent, kModel)->Apply(sizes);
+BENCHMARK_CAPTURE(writeBack, structure, Shape::FlatDifferent, kStructure)->Apply(sizes);
+BENCHMARK_CAPTURE(writeBack, shared_structure, Shape::FlatShared, kStructure)->Apply(sizes);
+
+}  // namespace
+
+BENCHMARK_MAIN();
