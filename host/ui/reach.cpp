@@ -46,9 +46,9 @@ std::string refusalToReach(const InputState& input) {
         if (!each->visible) {
             return each == &input ? "it is not visible" : describe(*each) + " is not visible";
         }
-        const std::string why = each->inLine != nullptr ? refusalByTable(*each)
-                                : each == &input        ? ""
-                                                        : refusalByHolder(*each);
+        std::string why = each->inLine != nullptr ? refusalByTable(*each)
+                          : each == &input        ? ""
+                                                  : refusalByHolder(*each);
         if (!why.empty()) return why;
     }
     return {};

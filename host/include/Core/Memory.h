@@ -41,6 +41,7 @@ public:
         }
     }
 
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the copy is made before the swap
     Ptr& operator=(const Ptr& other) {
         Ptr(other).swap(*this);
         return *this;
