@@ -4,4 +4,6 @@ namespace test_support {
 
 bool leaksFound() { return false; }
 
+void prepareLeakReports() {}
+
 }  // namespace test_support

@@ -76,6 +76,7 @@ int runInChild(host::Session& session, const RefusalSweep& sweep, std::uint64_t 
 std::uint64_t refuseEachCall(const RefusalSweep& sweep) {
     host::Session session(addinOptions());
     sweep.prepare(session);
+    prepareLeakReports();
     const std::set<fs::path> files = filesIn(session.folder());
     int failures = 0;
     for (std::uint64_t nth = 1;; ++nth) {

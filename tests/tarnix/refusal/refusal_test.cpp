@@ -1,0 +1,171 @@
+// Every host call of the add-in's main flows, refused once each: whatever the host fails to do at a
+// single place, the add-in neither crashes nor loses memory, raises nothing but what it is known to
+// raise, leaves its settings whole, and goes out of the host when it is stopped.
+
+#include "tests/support/refusal.h"
+#include "tests/support/addin_test.h"
+#include "tests/support/files.h"
+#include "tests/support/settings.h"
+#include "tests/tarnix/refusal/traces.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+namespace {
+
+using host::Session;
+using test_support::RefusalSweep;
+using test_support::refuseEachCall;
+using Texts = std::vector<std::string>;
+
+/// An assembly whose parts are handed up, one that is not, equal parts and differing ones: each
+/// branch of the walks and of the tables.
+constexpr const char* kDesign =
+    "Frame  attribute=QEMA_PropertiesAttributesGroup/Divided/1\n"
+    "  Leg  box=1x2x3 description=\"A leg\"\n"
+    "  Foot  number=Leg box=1x1x1 description=Another\n"
+    "Drive\n"
+    "  Bolt  box=1x1x1\n"
+    "Bolt\n";
+
+const Texts kColumns = {"QEMA_Quantity;Qty", "QEMA_Mass;Mass", "QEMA_Length;Length",
+                        "QEMA_Physical Material;Material", "QEMA_Colour;Colour"};
+
+/// What stays behind after `stop`, whatever happens: nothing ever destroys that command.
+constexpr const char* kToldTrace = "definition QEMA_OpenLocalCmd_QAT";
+
+/// What the add-in raises where a host call yields nothing.
+bool isKnown(const host::Raised& raised) {
+    static const std::array<std::string, 7> kTexts = {"",
+                                                      "invalid stoi argument",
+                                                      "stoi argument out of range",
+                                                      "invalid stod argument",
+                                                      "stod argument out of range",
+                                                      "invalid vector subscript",
+                                                      "invalid string position"};
+    const bool known = std::find(kTexts.begin(), kTexts.end(), raised.text) != kTexts.end();
+    return known && raised.type.rfind("std::", 0) == 0;
+}
+
+void expectOnlyKnownRaised(const Session& session) {
+    for (const host::Raised& raised : session.raised()) {
+        EXPECT_TRUE(isKnown(raised))
+            << raised.type << " (" << raised.text << ") in " << raised.event;
+    }
+}
+
+void expectSettingsWhole(const Session& session) {
+    EXPECT_EQ(test_support::readFile(session.addin().folder / "Tarnix_configuration.xml"),
+              test_support::settingsDocument(kColumns));
+}
+
+/// What there is in the host beyond what is told.
+Texts traces() {
+    Texts found = tracesOfAddin();
+    std::erase(found, kToldTrace);
+    return found;
+}
+
+void checkFlow(Session& session, const std::string& /*call*/) {
+    expectOnlyKnownRaised(session);
+    expectSettingsWhole(session);
+    if (session.dialogOpen()) {
+        session.cancel();
+    }
+    session.stop();
+    EXPECT_EQ(traces(), Texts());
+}
+
+void checkRun(Session& session, const std::string& call) {
+    expectOnlyKnownRaised(session);
+    expectSettingsWhole(session);
+    session.stop();
+    // A panel is called after its workspace. One that was made while the workspace told no id is
+    // one that nobody looks for.
+    const Texts left = call == "Workspace::id" ? Texts{"panel QM_HD_panel"} : Texts();
+    EXPECT_EQ(traces(), left);
+}
+
+void checkStop(Session& session, const std::string& call) {
+    expectOnlyKnownRaised(session);
+    expectSettingsWhole(session);
+    // Whatever kept the first one from its work: the next one does it. A command's own definition
+    // goes with its object, which asks for it only once.
+    session.stop();
+    const std::size_t left = traces().size();
+    EXPECT_LE(left, call == "CommandDefinition::deleteMe" ? 1U : 0U)
+        << testing::PrintToString(traces());
+}
+
+void load(Session& session) {
+    test_support::writeFile(session.addin().folder / "Tarnix_configuration.xml",
+                            test_support::settingsDocument(kColumns));
+    session.openOutline(kDesign);
+}
+
+void start(Session& session) {
+    load(session);
+    ASSERT_TRUE(session.run());
+}
+
+void openBom(Session& session) {
+    start(session);
+    session.press("QM_TX_BOM");
+}
+
+void showStructure(Session& session) {
+    openBom(session);
+    session.activateTab(test_support::kStructureTab);
+    ASSERT_TRUE(session.raised().empty());
+}
+
+}  // namespace
+
+TEST(RefusedHostCalls, InRun) {
+    const std::uint64_t calls =
+        refuseEachCall({load, [](Session& session) { session.run(); }, checkRun});
+
+    EXPECT_GT(calls, 100U);
+}
+
+TEST(RefusedHostCalls, WhileTheBomOpens) {
+    const std::uint64_t calls =
+        refuseEachCall({start, [](Session& session) { session.press("QM_TX_BOM"); }, checkFlow});
+
+    EXPECT_GT(calls, 300U);
+}
+
+TEST(RefusedHostCalls, AtTheFirstChangeToStructure) {
+    const std::uint64_t calls = refuseEachCall(
+        {openBom, [](Session& session) { session.activateTab(test_support::kStructureTab); },
+         checkFlow});
+
+    EXPECT_GT(calls, 300U);
+}
+
+TEST(RefusedHostCalls, AtTheChangeBackToTheModel) {
+    const std::uint64_t calls = refuseEachCall(
+        {showStructure, [](Session& session) { session.activateTab(test_support::kModelTab); },
+         checkFlow});
+
+    EXPECT_GT(calls, 50U);
+}
+
+TEST(RefusedHostCalls, InTheExport) {
+    const std::uint64_t calls = refuseEachCall(
+        {showStructure, [](Session& session) { session.click(test_support::kExportButton); },
+         checkFlow});
+
+    EXPECT_GT(calls, 100U);
+}
+
+TEST(RefusedHostCalls, InStop) {
+    const std::uint64_t calls =
+        refuseEachCall({start, [](Session& session) { session.stop(); }, checkStop});
+
+    EXPECT_GT(calls, 50U);
+}
