@@ -79,7 +79,8 @@ TEST_F(SupportProvider, IsNotOpenedInAWorkspaceWithoutTheConfigurationControl) {
 
 TEST_F(SupportProvider, IsNotOpenedWithoutAWorkspace) {
     host::gate::reset();
-    host::gate::refuse("UserInterface::activeWorkspace", 1);
+    // The first question is that of the hook on starting commands.
+    host::gate::refuse("UserInterface::activeWorkspace", 2);
     press("openHelpdesk");
     EXPECT_TRUE(opened().empty());
     EXPECT_EQ(raised(), "");
