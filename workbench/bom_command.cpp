@@ -7,7 +7,7 @@
 #include "workbench/raised.h"
 #include "workbench/written_files.h"
 
-#include "host/design/design_file.h"
+#include "host/session/design_files.h"
 #include "host/session/utf8_path.h"
 
 #include <algorithm>

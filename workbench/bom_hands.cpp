@@ -5,7 +5,7 @@
 #include "workbench/shown_columns.h"
 
 #include "host/session/table_view.h"
-#include "host/ui/hands.h"
+#include "host/session/hands.h"
 
 #include <algorithm>
 #include <string>
