@@ -13,10 +13,10 @@ void BomCmdCreateEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventA
     if (!command) {
         return;
     }
-    buildBomDialog(model_, command->commandInputs());
+    buildBomDialog(model, command->commandInputs());
     command->setDialogInitialSize(800, 600);
-    command->inputChanged()->add(&inputChangedHandler_);
-    command->execute()->add(&executeHandler_);
+    command->inputChanged()->add(&inputChangedHandler);
+    command->execute()->add(&executeHandler);
     command->okButtonText("Save Changes and Close");
     command->cancelButtonText("Close");
 }

@@ -20,9 +20,9 @@ public:
     void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
 
 private:
-    BomCmdInputChangedHandler inputChangedHandler_;
-    BomCmdExecuteHandler executeHandler_;
-    BomModel model_;  ///< of the last opening
+    BomCmdInputChangedHandler inputChangedHandler;
+    BomCmdExecuteHandler executeHandler;
+    BomModel model;  ///< of the last opening
 };
 
 }  // namespace tarnix

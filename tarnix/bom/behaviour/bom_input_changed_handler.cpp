@@ -116,9 +116,9 @@ void BomCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventAr
         return;
     }
     BomModel model;
-    rows_ = walkOccurrences(model, root->occurrences()->asList(), 1);
+    rows = walkOccurrences(model, root->occurrences()->asList(), 1);
     if (route(eventArgs, input, id)) {
-        onBomSelectionChange(eventArgs, rows_);
+        onBomSelectionChange(eventArgs, rows);
         selectRowInDesign(input, product);
     }
 }
@@ -136,16 +136,16 @@ void BomCmdInputChangedHandler::selectRowInDesign(Ptr<CommandInput> input,
     // plain one here: where the two differ, what is selected is what the plain list has there.
     const std::size_t index = static_cast<std::size_t>(number) - 1;
     if (modelTab->isActive()) {
-        const BomRow& row = at(rows_, index);
+        const BomRow& row = at(rows, index);
         const Ptr<Selections> selections = activeSelections(product);
         selections->clear();
         selections->add(row.occurrence);
     } else if (structureTab->isActive()) {
-        const BomRow& row = at(rows_, index);
         const Ptr<Selections> selections = activeSelections(product);
         selections->clear();
+        const BomRow& row = at(rows, index);
         selections->add(row.occurrence);
-        selectGroup(rows_, row, selections);
+        selectGroup(rows, row, selections);
     }
 }
 

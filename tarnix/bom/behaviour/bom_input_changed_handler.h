@@ -30,7 +30,7 @@ private:
     void selectRowInDesign(adsk::core::Ptr<adsk::core::CommandInput> input,
                            adsk::core::Ptr<adsk::core::Product> product) const;
 
-    std::vector<BomRow> rows_;  ///< the plain walk of the last notification
+    std::vector<BomRow> rows;  ///< the plain walk of the last notification
 };
 
 }  // namespace tarnix
