@@ -19,7 +19,7 @@ ComponentData part(std::size_t number) {
     ComponentData made;
     made.name = "Part " + std::to_string(number);
     made.partNumber = "P-" + std::to_string(100000 + number);
-    made.description = "A part for measuring";
+    made.description = "Housing cover, milled from solid, edges broken, black anodised";
     made.material = host::MaterialData{"Steel", 0.00785};
     made.attributes = {{"QEMA_PropertiesAttributesGroup", "Produce", "1"},
                        {"QEMA_PropertiesAttributesGroup", "Buy", "0"},

@@ -72,15 +72,16 @@ void appendField(std::string& line, const Ptr<CommandInput>& cell) {
     line += ';';
 }
 
-/// The toggle and the graph column are left out; the position stands in the column between them.
-std::string lineOfRow(const Ptr<TableCommandInput>& table, int row, int lastColumn) {
-    std::string line;
+/// Puts a row's fields into `line`, whose storage serves all rows. The toggle and the graph column
+/// are left out; the position stands in the column between them.
+void readRow(std::string& line, const Ptr<TableCommandInput>& table, int row, int lastColumn) {
+    line.clear();
     for (int column = 1; column <= lastColumn; ++column) {
         if (column != 2) {
             appendField(line, table->getInputAtPosition(row, column));
         }
     }
-    return line;
+    line += '\n';
 }
 
 }  // namespace
@@ -110,14 +111,17 @@ void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
     platform::AppendingTextFile file(path);
     const int rowCount = table->rowCount();
     const int lastColumn = table->numberOfColumns();
+    std::string line;
     for (int row = 0; row < rowCount; ++row) {
         const Ptr<CommandInput> first = table->getInputAtPosition(row, 0);
         if (first && first->isVisible()) {
-            file.write(lineOfRow(table, row, lastColumn));
-            file.endLine();
+            // Not handed to the system line by line: what is raised closes the file, and the lines
+            // so far stand in it all the same.
+            readRow(line, table, row, lastColumn);
+            file.write(line);
         }
     }
-    file.endLine();
+    file.write("\n");
     const Ptr<StringValueCommandInput> totalMass =
         table->parentCommandInput()->commandInputs()->itemById(idAllMass);
     file.write(";Total mass of structure BOM [kg]: ;" + totalMass->value());
