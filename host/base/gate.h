@@ -65,8 +65,8 @@ public:
     ~Module() { --state().modules; }
 };
 
-/// While it lives, calls are the host's own again: for what a person or a session does while a module
-/// waits for the host.
+/// While it lives, calls are the host's own again: for what a person or a session does while a
+/// module waits for the host.
 class Outside {
 public:
     Outside() : modules_(std::exchange(state().modules, 0)) {}
