@@ -58,7 +58,7 @@ std::string nextScreenFileName() {
     constexpr int kMost = 998;
     const std::string folder = helpdeskFolderPath();
     for (int number = 1; number <= kMost; ++number) {
-        const std::string path = folder + "screen_" + threeDigits(number) + ".png";
+        std::string path = folder + "screen_" + threeDigits(number) + ".png";
         if (!platform::canRead(path)) {
             return path;
         }

@@ -14,7 +14,6 @@
 namespace tarnix {
 
 using adsk::core::Application;
-using adsk::core::ButtonRowCommandInput;
 using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::GroupCommandInput;

@@ -141,7 +141,7 @@ std::string folderPath(const Ptr<DataFile>& file) {
     }
     std::string path;
     while (!folder->isRoot()) {
-        path = kSeparator + folder->name() + path;
+        path.insert(0, kSeparator + folder->name());
         folder = folder->parentFolder();
     }
     return path;

@@ -10,7 +10,6 @@
 namespace tarnix {
 
 using adsk::core::Application;
-using adsk::core::BoolValueCommandInput;
 using adsk::core::ButtonRowCommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::GroupCommandInput;
