@@ -42,10 +42,8 @@ ShownColumn findColumn(const std::vector<ShownColumn>& columns, const std::strin
     if (found != columns.end()) {
         return *found;
     }
-    std::vector<std::string> names;
-    for (const ShownColumn& column : columns) {
-        names.push_back(column.key);
-    }
+    std::vector<std::string> names(columns.size());
+    std::ranges::transform(columns, names.begin(), &ShownColumn::key);
     throw Failure(ExitCode::BadUsage, what + ": there is no such column, only " + quoted(names));
 }
 

@@ -48,9 +48,11 @@ std::string TextTable::line(const std::vector<std::string>& cells,
                             const std::vector<Column>& columns) {
     std::string result;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        const std::string padding(columns[i].width - displayWidth(cells[i]), ' ');
-        const std::string gap(i == 0 ? 0 : kGap, ' ');
-        result += gap + (columns[i].rightAligned ? padding + cells[i] : cells[i] + padding);
+        const std::size_t padding = columns[i].width - displayWidth(cells[i]);
+        result.append(i == 0 ? 0 : kGap, ' ');
+        result.append(columns[i].rightAligned ? padding : 0, ' ');
+        result.append(cells[i]);
+        result.append(columns[i].rightAligned ? 0 : padding, ' ');
     }
     return result;
 }
