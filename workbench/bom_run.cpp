@@ -147,7 +147,7 @@ BomResult makeBom(host::DesignData design, const BomTab& tab, const BomOptions& 
         });
     }
     if (options.save) {
-        useAddin(options, std::move(design), result, [&](host::Session& session) {
+        useAddin(options, design, result, [&](host::Session& session) {
             arrange(session, tab, wishes);
             editCells(session, tab, wishes.cells);
             acceptChanges(session, tab);

@@ -114,6 +114,7 @@ int complain(ExitCode code, const std::string& line) {
 
 int parse(CLI::App& program, const std::vector<std::string>& arguments) {
     std::vector<const char*> values;
+    values.reserve(arguments.size());
     for (const std::string& argument : arguments) {
         values.push_back(argument.c_str());
     }
