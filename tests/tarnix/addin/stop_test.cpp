@@ -49,6 +49,16 @@ TEST_F(StopBeforeRun, Succeeds) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(StopBeforeRun, ReleasesTheApplicationOfARunThatFoundNoUserInterface) {
+    host::gate::reset();
+    host::gate::refuse("Application::userInterface", 1);
+
+    EXPECT_FALSE(run());
+    EXPECT_TRUE(stop());
+
+    EXPECT_EQ(raised(), "");
+}
+
 class StopWithRepeatControl : public AddinUiTest {
 protected:
     [[nodiscard]] host::SessionOptions options() const override {

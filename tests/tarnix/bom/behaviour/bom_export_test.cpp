@@ -1,10 +1,14 @@
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 
 #include "tests/support/files.h"
+#include "tests/support/temporary_folder.h"
 
 #include "host/base/gate.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
 
 namespace test_support {
 namespace {
@@ -212,6 +216,52 @@ TEST_F(BomExport, WithoutTheMassFieldKeepsTheLinesAndOpensNothing) {
               "1;P-1;Produce;\r\n"
               "\r\n");
     EXPECT_TRUE(session->openedByShell().empty());
+}
+
+/// A copy of the add-in under another name, in a folder that goes with the test.
+class RenamedExport : public BehaviourTest {
+protected:
+    [[nodiscard]] bool runsAtStart() const override { return false; }
+
+    void useAddinCalled(const std::string& name) {
+        namespace fs = std::filesystem;
+        host::SessionOptions with = addinOptions();
+        const fs::path copy = place_.path() / name;
+        fs::create_directories(copy);
+        fs::copy_file(with.addin / "Tarnix.dll", copy / (name + ".dll"));
+        fs::copy_file(with.addin / "Tarnix.manifest", copy / (name + ".manifest"));
+        with.addin = copy;
+        restart(with);
+        ASSERT_TRUE(run());
+    }
+
+    TemporaryFolder place_;
+};
+
+TEST_F(RenamedExport, LeavesTheTailOfAModuleNameOfMoreThanThirtyCharacters) {
+    // With the backslash 35 characters, of which 31 make way: ".dll" stays.
+    const std::string name = "TarnixUnderANameOfThirtyLetter";
+    ASSERT_EQ(name.size(), 30U);
+    useAddinCalled(name);
+    open(kBoltsAndPlate);
+    showModel();
+
+    exportBom();
+
+    EXPECT_TRUE(std::filesystem::exists(moduleFolder() / "TarnixBOM.csv.dll"));
+    EXPECT_FALSE(std::filesystem::exists(moduleFolder() / "TarnixBOM.csv"));
+}
+
+TEST_F(RenamedExport, ChangesTheFirstCsvOfThePathAlsoInAFoldersName) {
+    useAddinCalled("csvTarnix");
+    open(kBoltsAndPlate);
+    showModel();
+
+    exportBom();
+
+    ASSERT_EQ(session->openedByShell().size(), 1U);
+    EXPECT_TRUE(session->openedByShell().front().ends_with("\\xlsmTarnix\\TarnixBOM.csv"))
+        << session->openedByShell().front();
 }
 
 }  // namespace
