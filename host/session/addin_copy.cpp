@@ -61,7 +61,7 @@ AddinFiles findAddin(const fs::path& folder) {
     if (full.filename().empty()) {
         full = full.parent_path();
     }
-    const AddinFiles addin{full, toUtf8(full.filename())};
+    AddinFiles addin{full, toUtf8(full.filename())};
     for (const fs::path& needed : {addin.manifest(), addin.module()}) {
         std::error_code ignored;
         if (!fs::is_regular_file(needed, ignored)) {
@@ -72,7 +72,7 @@ AddinFiles findAddin(const fs::path& folder) {
 }
 
 AddinFiles copyAddin(const AddinFiles& installed, const fs::path& parent) {
-    const AddinFiles copy{parent / fromUtf8(installed.name), installed.name};
+    AddinFiles copy{parent / fromUtf8(installed.name), installed.name};
     try {
         fs::create_directories(copy.folder);
         for (const fs::directory_entry& entry :
