@@ -147,7 +147,7 @@ Ptr<DataFileObject> DataFolderObject::file(const fs::path& name) const {
 Ptr<DataFileObject> DataFolderObject::findByName(const std::string& name) {
     refresh();
     for (const auto& [path, each] : folders_) {
-        if (const Ptr<DataFileObject> found = each->findByName(name)) {
+        if (Ptr<DataFileObject> found = each->findByName(name)) {
             return found;
         }
     }
