@@ -83,7 +83,7 @@ fs::path deliver(const BomResult& result, const BomOptions& options, WrittenFile
     if (result.exportFile.empty()) {
         throw Failure(ExitCode::OutputFailed, "the add-in exported nothing: the table has no rows");
     }
-    const fs::path file = host::fromUtf8(options.out) / kExportFile;
+    fs::path file = host::fromUtf8(options.out) / kExportFile;
     written.watch(file);
     writeWhole(file, result.exported);
     return file;

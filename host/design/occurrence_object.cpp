@@ -184,7 +184,7 @@ Ptr<Occurrence> OccurrenceListObject::at(std::size_t index) const {
 Ptr<Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
     if (denied<"OccurrenceList::itemByName">(*this)) return {};
     for (std::size_t index = 0; index < items_.size(); ++index) {
-        const Ptr<OccurrenceObject> each = at(index);
+        Ptr<OccurrenceObject> each = at(index);
         if (each && each->currentName() == name) {
             return each;
         }

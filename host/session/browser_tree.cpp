@@ -35,7 +35,7 @@ Ptr<Occurrence> find(const Ptr<OccurrenceList>& list, const std::string& path,
                      Ptr<OccurrenceList>& nearest) {
     nearest = list;
     for (std::size_t i = 0; i < list->count(); ++i) {
-        const Ptr<Occurrence> each = list->item(i);
+        Ptr<Occurrence> each = list->item(i);
         if (!each) {
             continue;  // a place without an occurrence
         }

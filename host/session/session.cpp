@@ -178,7 +178,7 @@ void Session::press(const std::string& commandId) { pressCommand(commandId); }
 bool Session::dialogOpen() const { return static_cast<bool>(openDialog()); }
 
 Ptr<Command> Session::dialog() const {
-    const Ptr<Command> command = openDialog();
+    Ptr<Command> command = openDialog();
     if (!command) {
         throw SessionError("no dialog is open");
     }
@@ -188,7 +188,7 @@ Ptr<Command> Session::dialog() const {
 Ptr<CommandInput> Session::input(const std::string& id) const { return findInput(dialog(), id); }
 
 Ptr<TableCommandInput> Session::table(const std::string& id) const {
-    const Ptr<TableCommandInput> table = input(id);
+    Ptr<TableCommandInput> table = input(id);
     if (!table) {
         throw SessionError("the input \"" + id + "\" is no table");
     }

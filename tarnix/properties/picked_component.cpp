@@ -15,7 +15,7 @@ Ptr<Selection> lastSelection(const Ptr<SelectionCommandInput>& input) {
 }
 
 Ptr<Component> componentOf(const Ptr<Base>& entity) {
-    if (const Ptr<Component> component = entity) {
+    if (Ptr<Component> component = entity) {
         return component;
     }
     const Ptr<Occurrence> occurrence = entity;

@@ -19,7 +19,7 @@ constexpr const char* kDescription =
 Ptr<ListItems> addChoice(const Ptr<CommandInputs>& inputs) {
     const Ptr<RadioButtonGroupCommandInput> choice =
         inputs->addRadioButtonGroupCommandInput(kProviderChoice, "Select your support provider");
-    const Ptr<ListItems> providers = choice->listItems();
+    Ptr<ListItems> providers = choice->listItems();
     providers->add("Set Ostrel Works as your support provider", /*isSelected=*/false, "", -1);
     providers->add("Set other support provider", /*isSelected=*/false, "", -1);
     choice->isFullWidth(true);
