@@ -1,6 +1,7 @@
 #include "tarnix/properties/property_store.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tarnix {
 namespace {
@@ -9,6 +10,8 @@ using adsk::core::Attribute;
 using adsk::core::Attributes;
 using adsk::core::Ptr;
 using adsk::fusion::Component;
+
+constexpr std::size_t kModelKeyCount = 3;
 
 bool isModelKey(const std::string& key) {
     return key == kPartNumberKey || key == kPartNameKey || key == kDescriptionKey;
@@ -32,10 +35,13 @@ ComponentProperties readComponentProperties(Ptr<Component> component) {
         return properties;
     }
     auto& entries = properties.entries;
+    entries.reserve(kModelKeyCount);
     entries.push_back({kPartNumberKey, component->partNumber()});
     entries.push_back({kPartNameKey, component->name()});
     entries.push_back({kDescriptionKey, component->description()});
-    for (const auto& attribute : attributes->itemsByGroup(kPropertiesAttributesGroup)) {
+    const auto ofGroup = attributes->itemsByGroup(kPropertiesAttributesGroup);
+    entries.reserve(kModelKeyCount + ofGroup.size());
+    for (const auto& attribute : ofGroup) {
         std::string name = attribute->name();
         if (!isModelKey(name)) {
             entries.push_back({std::move(name), attribute->value()});

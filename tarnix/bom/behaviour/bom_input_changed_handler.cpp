@@ -116,7 +116,8 @@ void BomCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventAr
         return;
     }
     BomModel model;
-    rows = walkOccurrences(model, root->occurrences()->asList(), 1);
+    walkOccurrences(model, root->occurrences()->asList(), 1);
+    rows = std::move(model.rows);
     if (route(eventArgs, input, id)) {
         onBomSelectionChange(eventArgs, rows);
         selectRowInDesign(input, product);

@@ -228,9 +228,12 @@ void writeBomTable(Ptr<OccurrenceList> occurrences, std::vector<Ptr<Occurrence>>
     }
     constexpr int kFixedColumns = 5;
     BomModel model;
-    std::vector<BomRow> rows = matching.empty() ? walkOccurrences(model, occurrences, 1)
-                                                : walkOccurrencesMerged(model, occurrences, 1);
-    TableWriter(table, std::move(rows), static_cast<int>(items.size()) + kFixedColumns - 1,
+    if (matching.empty()) {
+        walkOccurrences(model, occurrences, 1);
+    } else {
+        walkOccurrencesMerged(model, occurrences, 1);
+    }
+    TableWriter(table, std::move(model.rows), static_cast<int>(items.size()) + kFixedColumns - 1,
                 std::move(partNumberPrefix), std::move(bomStructurePrefix))
         .write();
 }

@@ -147,13 +147,13 @@ void fillStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> table)
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
     const bool isStructure = table->id() == kStructureTableId;
     BomModel model;
-    std::vector<BomRow> rows = isStructure ? walkOccurrencesMerged(model, occurrences, 1)
-                                           : walkOccurrences(model, occurrences, 1);
+    const std::vector<BomRow>& rows = isStructure ? walkOccurrencesMerged(model, occurrences, 1)
+                                                  : walkOccurrences(model, occurrences, 1);
     const Items items = readCategoryItems("category", "bomItems");
     if (isStructure) {
         buildStructureTableHeader(table, items);
     }
-    fillStructureRows(table, std::move(rows), items);
+    fillStructureRows(table, rows, items);
 }
 
 std::string formatMass(double kilograms) { return formatFixed(kilograms, 3); }

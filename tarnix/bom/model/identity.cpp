@@ -33,12 +33,14 @@ ItemIndex::Item ItemIndex::itemOf(const std::string& partNumber, const std::stri
     return {partNumber, parentPath(path)};
 }
 
-void ItemIndex::add(const std::string& partNumber, const std::string& path) {
-    firstOfItem_.emplace(itemOf(partNumber, path), rowCount_);
+std::optional<std::size_t> ItemIndex::add(const std::string& partNumber, const std::string& path) {
+    const std::size_t added = rowCount_++;
+    std::size_t first = firstOfItem_.try_emplace(itemOf(partNumber, path), added).first->second;
     if (isUnderRoot(path)) {
-        firstUnderRoot_.emplace(partNumber, rowCount_);
+        // A row inside this occurrence can count as the same item and stand in front.
+        first = std::min(first, firstUnderRoot_.try_emplace(partNumber, added).first->second);
     }
-    ++rowCount_;
+    return first < added ? std::optional(first) : std::nullopt;
 }
 
 std::optional<std::size_t> ItemIndex::find(const std::string& partNumber,
@@ -50,7 +52,6 @@ std::optional<std::size_t> ItemIndex::find(const std::string& partNumber,
     if (isUnderRoot(path)) {
         const auto top = firstUnderRoot_.find(partNumber);
         if (top != firstUnderRoot_.end()) {
-            // A row inside this occurrence can count as the same item and stand in front.
             found = std::min(found.value_or(top->second), top->second);
         }
     }

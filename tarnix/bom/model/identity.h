@@ -28,7 +28,8 @@ int findBomRow(const std::vector<BomRow>& rows,
 class ItemIndex {
 public:
     /// Takes the next row of the list, an occurrence at `path` whose component has `partNumber`.
-    void add(const std::string& partNumber, const std::string& path);
+    /// The index of the first row added before it that is the same item.
+    std::optional<std::size_t> add(const std::string& partNumber, const std::string& path);
 
     /// The index of the first row added that is the same item as an occurrence at `path` whose
     /// component has `partNumber`.

@@ -74,11 +74,9 @@ public:
 
     void operator()(BomRow row) {
         const std::string partNumber = row.component->partNumber();
-        const std::optional<std::size_t> target = index_.find(partNumber, row.pathName);
-        if (target) {
+        if (const std::optional<std::size_t> target = index_.add(partNumber, row.pathName)) {
             mergeInto(at(model_.rows, *target), row);
         }
-        index_.add(partNumber, row.pathName);
         model_.rows.push_back(std::move(row));
     }
 
@@ -94,7 +92,8 @@ bool isReserved(const std::string& key) {
 
 }  // namespace
 
-std::vector<BomRow> walkOccurrences(BomModel& model, Ptr<OccurrenceList> occurrences, int level) {
+const std::vector<BomRow>& walkOccurrences(BomModel& model, Ptr<OccurrenceList> occurrences,
+                                           int level) {
     if (occurrences) {
         auto append = [&model](BomRow row) { model.rows.push_back(std::move(row)); };
         walk(model, occurrences, level, append);
@@ -102,8 +101,8 @@ std::vector<BomRow> walkOccurrences(BomModel& model, Ptr<OccurrenceList> occurre
     return model.rows;
 }
 
-std::vector<BomRow> walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
-                                          int level) {
+const std::vector<BomRow>& walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
+                                                 int level) {
     MergingAppender append(model);
     walk(model, occurrences, level, append);
     return model.rows;

@@ -7,24 +7,23 @@
 namespace tarnix {
 
 /// Appends a row to `model.rows` for every occurrence of the list and everything below it, and
-/// returns a copy of all its rows.
+/// returns all its rows. They are the model's own, and copying many rows takes as long as walking
+/// them: bind them to a reference, or move them out of a model that is not needed any more.
 ///
 /// Rows come depth first, parent before children, siblings in the host's order. `level` is the
 /// level of these occurrences, 1 at the top. Behind the children of an occurrence, the last row
 /// then in the list gets `kSubtreeEnd` as its `pathName`. An index at which the host has no
 /// occurrence is skipped, and counts for the ordinals of the others. A null list adds nothing.
-std::vector<BomRow> walkOccurrences(BomModel& model,
-                                    adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences,
-                                    int level);
+const std::vector<BomRow>& walkOccurrences(
+    BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
 
 /// The same with identical items merged: the first row of an item takes count of the further ones
 /// (`mergeInto`), which may change descriptions in the design. Every occurrence has its row all the
 /// same, so the list has the length and the order of the plain one.
 ///
 /// A null list raises a plain `std::exception`.
-std::vector<BomRow> walkOccurrencesMerged(BomModel& model,
-                                          adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences,
-                                          int level);
+const std::vector<BomRow>& walkOccurrencesMerged(
+    BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
 
 /// Adds to `model.userPropertyNames` the names of those properties that are custom ones, without
 /// their prefix. Raises `std::out_of_range` ("invalid string position") for such a key that is

@@ -23,7 +23,7 @@ void buildBomDialog(BomModel& model, Ptr<CommandInputs> inputs) {
     if (!root) {
         return;
     }
-    model.rows = walkOccurrences(model, root->occurrences()->asList(), 1);
+    walkOccurrences(model, root->occurrences()->asList(), 1);
     buildDataOfModelTab(model, inputs);
     buildStructureTab(inputs);
     buildBomConfigurationTab(model, inputs);

@@ -104,7 +104,7 @@ void buildModelTableHeader(const Ptr<TableCommandInput>& table,
     addConfiguredHeaders(table, inputs, items);
 }
 
-void fillModelTable(const Ptr<TableCommandInput>& table, std::vector<BomRow> rows,
+void fillModelTable(const Ptr<TableCommandInput>& table, const std::vector<BomRow>& rows,
                     const std::vector<std::string>& items) {
     const Ptr<CommandInputs> inputs = table->commandInputs();
     RowPositions positions;

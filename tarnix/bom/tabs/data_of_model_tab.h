@@ -24,6 +24,6 @@ void buildModelTableHeader(const adsk::core::Ptr<adsk::core::TableCommandInput>&
 
 /// Adds a row behind those of the table for each of `rows`, which are those of a plain walk.
 void fillModelTable(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,
-                    std::vector<BomRow> rows, const std::vector<std::string>& items);
+                    const std::vector<BomRow>& rows, const std::vector<std::string>& items);
 
 }  // namespace tarnix

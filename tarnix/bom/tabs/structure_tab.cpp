@@ -102,7 +102,7 @@ void buildStructureTableHeader(const Ptr<TableCommandInput>& table,
     addConfiguredHeaders(table, inputs, items);
 }
 
-void fillStructureRows(const Ptr<TableCommandInput>& table, std::vector<BomRow> rows,
+void fillStructureRows(const Ptr<TableCommandInput>& table, const std::vector<BomRow>& rows,
                        const std::vector<std::string>& items) {
     if (!table) {
         return;
