@@ -94,8 +94,10 @@ TEST_F(RunWithoutManufacture, AttachesNoHook) {
 
     const std::vector<std::string> calls = host::gate::recorded();
     host::gate::record(false);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::markingMenuDisplaying"), 0);
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::workspaceActivated"), 0);
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::commandStarting"), 0);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::commandTerminated"), 0);
 }
 
 TEST_F(RunWithoutManufacture, LeavesToStopWhatStands) {

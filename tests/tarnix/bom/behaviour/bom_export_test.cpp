@@ -1,6 +1,7 @@
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 
 #include "tests/support/files.h"
+#include "tests/support/kept_file.h"
 #include "tests/support/temporary_folder.h"
 
 #include "host/base/gate.h"
@@ -177,6 +178,41 @@ TEST_F(BomExport, TwiceInARowLeavesTheLinesOfTheSecond) {
               "\r\n"
               ";Total mass of structure BOM [kg]: ;\r\n");
     EXPECT_EQ(session->openedByShell().size(), 2U);
+}
+
+TEST_F(BomExport, OverAFileThatCannotBeDeletedWritesBehindIt) {
+    writeFile(csvFile(), "older\r\n");
+    const KeptFile kept(csvFile());
+    if (!kept.isKept()) {
+        GTEST_SKIP() << "this file system cannot keep a file from deletion";
+    }
+    open("Plate  number=P-1");
+    showModel();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "older\r\n"
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+}
+
+TEST_F(BomExport, LeavesOutARowThatIsHiddenAsAReference) {
+    open(R"(
+        Plate  number=P-1
+        Bolt   number=B-1)");
+    showStructure();
+    session->choose("bomStructure_1", "Reference");
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "2;B-1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;0.000\r\n");
 }
 
 TEST_F(BomExport, OpensTheWorkbookBesideTheModule) {

@@ -3,6 +3,8 @@
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 #include "tests/tarnix/bom/behaviour/own_dialog.h"
 
+#include "host/base/gate.h"
+
 #include <gtest/gtest.h>
 
 namespace test_support {
@@ -122,6 +124,17 @@ TEST_F(InputRouting, AnIdWithoutANumberRaisesAndTheDialogStaysOpen) {
               "std::invalid_argument: invalid stoi argument in OnInputChanged of "
               "QEMA_droDown_AscDesc");
     EXPECT_TRUE(session->dialogOpen());
+}
+
+TEST_F(InputRouting, WithoutAnActiveProductNothingHappens) {
+    open("Plate  number=P-1");
+    showModel();
+    host::gate::refuse("Application::activeProduct", 1);
+
+    session->paste("modelPartNumberOcc_1", "P-2");
+
+    EXPECT_EQ(selected(), "");
+    EXPECT_EQ(raised(), "");
 }
 
 TEST_F(InputRouting, WithoutADesignNothingHappens) {
