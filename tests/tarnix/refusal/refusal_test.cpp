@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -70,6 +71,16 @@ Texts traces() {
     return found;
 }
 
+/// Settings that nobody made yet are the default ones, or still none.
+void checkFirstUse(Session& session, const std::string& call) {
+    expectOnlyKnownRaised(session);
+    const auto file = session.addin().folder / "Tarnix_configuration.xml";
+    const std::string settings = test_support::readFile(file);
+    EXPECT_TRUE(settings.empty() ||
+                settings.find(test_support::kDefaultSettings) != std::string::npos)
+        << settings << " after " << call;
+}
+
 void checkFlow(Session& session, const std::string& /*call*/) {
     expectOnlyKnownRaised(session);
     expectSettingsWhole(session);
@@ -90,9 +101,30 @@ void checkRun(Session& session, const std::string& call) {
     EXPECT_EQ(traces(), left);
 }
 
+/// The most that `stop` leaves in the host when one of its calls is refused: what that call itself
+/// would have removed, or led to.
+std::size_t keptBy(const std::string& call) {
+    // Seven commands, the helpdesk's eight, and two panels in each of two workspaces: without the
+    // palettes `stop` yields false and has done nothing.
+    constexpr std::size_t kEverything = 7 + 8 + 2 * 2;
+    static const std::map<std::string, std::size_t> kKept = {
+        {"UserInterface::palettes", kEverything},
+        {"UserInterface::allToolbarPanels", 2},  // the panels of one kind
+        {"UserInterface::workspaces", 2},
+        {"Workspaces::count", 2},
+        {"Workspaces::item", 1},  // the panel of one workspace
+        {"Workspace::id", 1},
+        {"ToolbarPanelList::itemById", 1},
+        {"ToolbarPanel::deleteMe", 1},
+        {"CommandDefinition::deleteMe", 1}};
+    const auto kept = kKept.find(call);
+    return kept == kKept.end() ? 0 : kept->second;
+}
+
 void checkStop(Session& session, const std::string& call) {
     expectOnlyKnownRaised(session);
     expectSettingsWhole(session);
+    EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
     // Whatever kept the first one from its work: the next one does it. A command's own definition
     // goes with its object, which asks for it only once.
     session.stop();
@@ -137,6 +169,18 @@ TEST(RefusedHostCalls, WhileTheBomOpens) {
         refuseEachCall({start, [](Session& session) { session.press("QM_TX_BOM"); }, checkFlow});
 
     EXPECT_GT(calls, 300U);
+}
+
+TEST(RefusedHostCalls, WhileTheBomMakesTheSettings) {
+    const auto startAnew = [](Session& session) {
+        session.openOutline(kDesign);
+        ASSERT_TRUE(session.run());
+    };
+
+    const std::uint64_t calls = refuseEachCall(
+        {startAnew, [](Session& session) { session.press("QM_TX_BOM"); }, checkFirstUse});
+
+    EXPECT_GT(calls, 200U);
 }
 
 TEST(RefusedHostCalls, AtTheFirstChangeToStructure) {

@@ -1,33 +1,29 @@
 #include "tests/tarnix/settings/settings_test.h"
 
+#include "tests/support/settings.h"
+
 namespace tarnix {
 namespace {
 
-// As it stands in a new document, from the root's beginning to its end.
-constexpr const char* kDefault =
-    "<configuration nameOfApplication=\"Tarnix\">"
-    "<category name=\"httpHelpdesk\"><www>http://helpdesk.tarnix.example/</www></category>"
-    "<category name=\"iProperty\"/>"
-    "<category name=\"bomItems\"/>"
-    "</configuration>";
+using test_support::kDefaultSettings;
 
 class DefaultSettings : public Settings {};
 
 TEST_F(DefaultSettings, AreWrittenByteForByte) {
     createDefaultSettings(settingsFilePath());
-    EXPECT_EQ(stored(), kDefault);
+    EXPECT_EQ(stored(), kDefaultSettings);
     EXPECT_TRUE(folder.read(kFile).starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
 }
 
 TEST_F(DefaultSettings, MissingFileIsMadeAndThenRead) {
     EXPECT_EQ(readCategoryItems("category", "bomItems"), Items());
-    EXPECT_EQ(stored(), kDefault);
+    EXPECT_EQ(stored(), kDefaultSettings);
     EXPECT_EQ(readHelpdeskUrl(), defaultHelpdeskUrl);
 }
 
 TEST_F(DefaultSettings, MissingFileIsMadeForAnAddressAsWell) {
     EXPECT_EQ(readHelpdeskUrl(), "http://helpdesk.tarnix.example/");
-    EXPECT_EQ(stored(), kDefault);
+    EXPECT_EQ(stored(), kDefaultSettings);
 }
 
 TEST_F(DefaultSettings, FileThatIsThereIsLeftAlone) {
