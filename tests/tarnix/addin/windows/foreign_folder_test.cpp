@@ -1,0 +1,35 @@
+#include "tests/tarnix/addin/addin_ui_test.h"
+
+#include <gtest/gtest.h>
+
+namespace test_support {
+namespace {
+
+/// The add-in in a folder whose name holds a letter that no single-byte code page has. The path of
+/// the settings has a blank in its place, and no such folder is there.
+class FolderBeyondTheCodePage : public AddinUiTest {
+protected:
+    [[nodiscard]] host::SessionOptions options() const override {
+        host::SessionOptions abroad = addinOptions();
+        abroad.freshIn /= L"\u6F22";
+        return abroad;
+    }
+};
+
+TEST_F(FolderBeyondTheCodePage, StillLetsTheAddinRun) {
+    EXPECT_TRUE(definition("QM_TX_BOM"));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FolderBeyondTheCodePage, FailsTheSettingsAndMakesNone) {
+    open("Plate  number=P-1");
+
+    openBom();
+
+    ASSERT_EQ(session->raised().size(), 1U) << raised();
+    EXPECT_EQ(session->raised().front().type, "_com_error");
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
+}
+
+}  // namespace
+}  // namespace test_support
