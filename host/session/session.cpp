@@ -134,10 +134,7 @@ void Session::show(const Ptr<Document>& document, const Ptr<Product>& product) {
 std::vector<std::string> Session::open(const std::filesystem::path& file,
                                        const ImportLimits& limits, const ImportProgress& progress) {
     std::vector<std::string> warnings;
-    openDesign(readDesign(absolute(file), limits, progress, warnings));
-    if (data_) {
-        data_->tie(document_, absolute(file));
-    }
+    openDesign(readDesign(absolute(file), limits, progress, warnings), file);
     return warnings;
 }
 
@@ -145,6 +142,13 @@ void Session::openOutline(const std::string& outline) { openDesign(parseOutline(
 
 void Session::openDesign(DesignData design) {
     show(makeDocument(std::move(design), Application::current()), nullptr);
+}
+
+void Session::openDesign(DesignData design, const std::filesystem::path& file) {
+    openDesign(std::move(design));
+    if (data_) {
+        data_->tie(document_, absolute(file));
+    }
 }
 
 void Session::newDesign() { openDesign(emptyDesign()); }

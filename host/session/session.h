@@ -112,6 +112,9 @@ public:
     /// Opens a design that was made in code.
     void openDesign(DesignData design);
 
+    /// Opens a design that was read from a file, or that is to count as if it were.
+    void openDesign(DesignData design, const std::filesystem::path& file);
+
     /// Opens an empty design.
     void newDesign();
 
