@@ -5,9 +5,9 @@
 #include "workbench/exit_code.h"
 #include "workbench/output_file.h"
 #include "workbench/raised.h"
+#include "workbench/save_target.h"
 #include "workbench/written_files.h"
 
-#include "host/session/design_files.h"
 #include "host/session/utf8_path.h"
 
 #include <algorithm>
@@ -18,43 +18,6 @@ namespace workbench {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool isDesignFile(const fs::path& file) { return file.extension() == ".json"; }
-
-/// The design file to save in; empty where none is asked for. One that stands beside another file
-/// is replaced only when it is named.
-fs::path saveTarget(const BomOptions& options) {
-    const fs::path input = host::fromUtf8(options.file);
-    const fs::path named = host::fromUtf8(options.saveFile);
-    if (!options.save || (named.empty() && isDesignFile(input))) {
-        return options.save ? input : fs::path();
-    }
-    if (!named.empty()) {
-        if (!isDesignFile(named)) {
-            throw Failure(ExitCode::BadUsage, "--save " + options.saveFile +
-                                                  ": a design file's name has to end in .json");
-        }
-        return named;
-    }
-    fs::path beside = input;
-    beside.replace_extension(host::kDesignFileEnding);
-    if (fs::exists(beside)) {
-        throw Failure(ExitCode::BadUsage, host::toUtf8(beside) + " is there already; --save " +
-                                              host::toUtf8(beside) + " replaces it");
-    }
-    return beside;
-}
-
-void saveDesign(const BomResult& result, const fs::path& file) {
-    if (!result.saved) {
-        return;
-    }
-    try {
-        host::saveDesignFile(file, *result.saved);
-    } catch (const host::DesignError& error) {
-        throw Failure(ExitCode::OutputFailed, error.what());
-    }
-}
 
 /// Tells what the add-in said, and ends the program when it failed.
 void reportRaised(const BomResult& result, const BomOptions& options) {
@@ -113,14 +76,16 @@ void tellWhereThingsAre(std::ostream& stream, const BomResult& result, const Bom
 
 void runBom(const BomOptions& options) {
     const BomWishes wishes = readWishes(options);
-    const fs::path design = saveTarget(options);
+    const fs::path design = options.save ? saveTarget(options.file, options.saveFile) : fs::path();
     const BomTab& tab = options.tab == kModelTab.name ? kModelTab : kStructureTab;
     WrittenFiles written;
     const BomResult result =
         makeBom(readDesign(options.file, options.limits), tab, options, wishes, written);
     reportRaised(result, options);
     const fs::path file = deliver(result, options, written);
-    saveDesign(result, design);
+    if (result.saved) {
+        saveDesign(*result.saved, design);
+    }
     written.keep();
     std::cout << shownList(result, options) << std::flush;
     // What other programs read stays free of remarks.

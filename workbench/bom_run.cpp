@@ -1,13 +1,9 @@
 #include "workbench/bom_run.h"
 
+#include "workbench/addin_session.h"
 #include "workbench/bom_hands.h"
 #include "workbench/exit_code.h"
-#include "workbench/raised.h"
 
-#include "host/session/environment.h"
-#include "host/session/utf8_path.h"
-
-#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -21,22 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 using namespace adsk::core;
 
-/// The folder that keeps the add-in's copy and settings of this user.
-fs::path userFolder() {
-    const fs::path data = host::environment::userDataFolder();
-    if (data.empty()) {
-        throw Failure(ExitCode::NoAddin,
-                      "the system names no folder for a user's data: set XDG_DATA_HOME or HOME");
-    }
-    return data / "tarnix-workbench";
-}
-
 host::SessionOptions sessionOptions(const BomOptions& options) {
-    host::SessionOptions session;
-    session.addin = options.addin.empty()
-                        ? host::environment::programFolder().parent_path() / "Tarnix"
-                        : host::fromUtf8(options.addin);
-    session.home = userFolder();
+    host::SessionOptions session = userSession(options.addin);
     session.shell = options.open ? host::shell_requests::Policy::RecordOpen
                                  : host::shell_requests::Policy::Record;
     return session;
@@ -79,21 +61,6 @@ void exportList(host::Session& session, BomResult& result) {
     }
 }
 
-/// Why a step could not be done: what the add-in raised before, else what was in the way.
-std::string explain(const host::Session& session, const std::string& obstacle) {
-    const auto first =
-        std::find_if_not(session.raised().begin(), session.raised().end(), isOrdinary);
-    return first != session.raised().end() ? describe(*first) : obstacle;
-}
-
-std::unique_ptr<host::Session> startSession(const BomOptions& options) {
-    try {
-        return std::make_unique<host::Session>(sessionOptions(options));
-    } catch (const host::SessionError& error) {
-        throw Failure(ExitCode::NoAddin, error.what());
-    }
-}
-
 /// Shows the tab as it is wished for.
 void arrange(host::Session& session, const BomTab& tab, const BomWishes& wishes) {
     session.activateTab(tab.tab);
@@ -118,7 +85,7 @@ void noteTraces(const host::Session& session, BomResult& result) {
 /// Does something in the dialog of a design, in a session of its own.
 void useAddin(const BomOptions& options, host::DesignData design, BomResult& result,
               const std::function<void(host::Session&)>& work) {
-    const std::unique_ptr<host::Session> session = startSession(options);
+    const std::unique_ptr<host::Session> session = startSession(sessionOptions(options));
     try {
         session->openDesign(std::move(design));
         openDialog(*session);

@@ -1,4 +1,5 @@
 #include "workbench/bom_command.h"
+#include "workbench/common_options.h"
 #include "workbench/console.h"
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
@@ -19,20 +20,6 @@ constexpr const char* kFooter =
     "missing or in use, 4 the add-in failed, 5 a result cannot be written. Unless it is 0, one "
     "line\n"
     "on stderr says why, and no file was written.";
-
-void addFile(CLI::App& command, std::string& file) {
-    command.add_option("FILE", file, "A STEP file (.step, .stp, .p21), or a design file")
-        ->required();
-}
-
-void addLimits(CLI::App& command, ReadingLimits& limits) {
-    command.add_option("--max-seconds", limits.maxSeconds, "Give up reading after this time")
-        ->check(CLI::Range(1, 86400))
-        ->capture_default_str();
-    command.add_option("--max-memory", limits.maxMegabytes, "Give up reading beyond this many MB")
-        ->check(CLI::Range(16, 1 << 20))
-        ->capture_default_str();
-}
 
 /// The options that act in the add-in's dialog.
 void addWishes(CLI::App& command, BomOptions& options) {
@@ -58,20 +45,10 @@ void addWishes(CLI::App& command, BomOptions& options) {
                     "As in \"--set '2:Part Number=P-7' --set '2:BOM Structure=Buy'\". Needs --save")
         ->type_name("CELL=VALUE")
         ->allow_extra_args(false);
-    command
-        .add_option_function<std::string>(
-            "--save",
-            [&options](const std::string& file) {
-                options.save = true;
-                options.saveFile = file;
-            },
+    addSave(command, options.save, options.saveFile,
             "Press \"Save Changes and Close\", which writes the tab shown into the design, and\n"
             "save that as a design file; by default in the one that was opened, else beside\n"
-            "FILE. Of rows with the same component, the last one wins")
-        ->type_name("[FILE]")
-        ->expected(0, 1)
-        ->run_callback_for_default()
-        ->default_str("");
+            "FILE. Of rows with the same component, the last one wins");
 }
 
 CLI::App* addBom(CLI::App& program, BomOptions& options) {
@@ -92,8 +69,7 @@ CLI::App* addBom(CLI::App& program, BomOptions& options) {
     command->add_flag("--open", options.open, "Let the add-in open its workbook");
     command->add_flag("--verbose", options.verbose,
                       "Also tell what the add-in raises as a matter of course");
-    command->add_option("--addin", options.addin, "Another folder with the add-in")
-        ->type_name("DIR");
+    addAddin(*command, options.addin);
     addLimits(*command, options.limits);
     return command;
 }

@@ -1,0 +1,43 @@
+#include "workbench/save_target.h"
+
+#include "workbench/exit_code.h"
+
+#include "host/session/utf8_path.h"
+
+namespace workbench {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isDesignFile(const fs::path& file) { return file.extension() == ".json"; }
+
+}  // namespace
+
+fs::path saveTarget(const std::string& file, const std::string& named) {
+    const fs::path input = host::fromUtf8(file);
+    const fs::path target = host::fromUtf8(named);
+    if (!target.empty() && !isDesignFile(target)) {
+        throw Failure(ExitCode::BadUsage,
+                      "--save " + named + ": a design file's name has to end in .json");
+    }
+    if (!target.empty() || isDesignFile(input)) {
+        return target.empty() ? input : target;
+    }
+    fs::path beside = input;
+    beside.replace_extension(host::kDesignFileEnding);
+    if (fs::exists(beside)) {
+        throw Failure(ExitCode::BadUsage, host::toUtf8(beside) + " is there already; --save " +
+                                              host::toUtf8(beside) + " replaces it");
+    }
+    return beside;
+}
+
+void saveDesign(const host::DesignData& design, const fs::path& file) {
+    try {
+        host::saveDesignFile(file, design);
+    } catch (const host::DesignError& error) {
+        throw Failure(ExitCode::OutputFailed, error.what());
+    }
+}
+
+}  // namespace workbench
