@@ -2,6 +2,7 @@
 #include "workbench/common_options.h"
 #include "workbench/console.h"
 #include "workbench/display_text.h"
+#include "workbench/editing_commands.h"
 #include "workbench/exit_code.h"
 #include "workbench/info_command.h"
 
@@ -112,6 +113,7 @@ int runProgram(const std::vector<std::string>& arguments) {
     InfoOptions info;
     const CLI::App* bomCommand = addBom(program, bom);
     addInfo(program, info);
+    const EditingCommands editing(program);
     program.set_version_flag("--version", "tarnix-workbench " TARNIX_VERSION);
     program.require_subcommand(1);
     program.footer(kFooter);
@@ -121,7 +123,7 @@ int runProgram(const std::vector<std::string>& arguments) {
     }
     if (bomCommand->parsed()) {
         runBom(bom);
-    } else {
+    } else if (!editing.run()) {
         runInfo(info);
     }
     return static_cast<int>(ExitCode::Success);

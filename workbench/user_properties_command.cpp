@@ -1,0 +1,107 @@
+#include "workbench/user_properties_command.h"
+
+#include "workbench/dialog_run.h"
+#include "workbench/display_text.h"
+#include "workbench/exit_code.h"
+#include "workbench/shown_properties.h"
+
+#include "host/session/hands.h"
+
+#include <algorithm>
+#include <iostream>
+#include <vector>
+
+namespace workbench {
+namespace {
+
+using namespace adsk::core;
+
+constexpr const char* kTable = "userProperty";
+constexpr const char* kSave = "QEMA_btnSaveUserIProperty";
+
+void showList(DialogRun& run) {
+    run.open(kPropertiesCommand);
+    run.act([](host::Session& session) { session.activateTab("QEMA_tab_Settings"); });
+}
+
+std::vector<std::string> namesIn(const host::Session& session) {
+    const Ptr<TableCommandInput> table = session.table(kTable);
+    std::vector<std::string> names;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const Ptr<StringValueCommandInput> cell = table->getInputAtPosition(row, 0);
+        names.push_back(cell ? cell->value() : "");
+    }
+    return names;
+}
+
+/// Presses the button that saves; where it is off, what the dialog says is the error.
+void save(host::Session& session) {
+    if (!session.input(kSave)->isEnabled()) {
+        const Ptr<TextBoxCommandInput> message = session.input("messageSave");
+        throw Failure(ExitCode::BadUsage, message->text());
+    }
+    session.click(kSave);
+}
+
+/// Of two lines with one id the dialog writes both, and the second would undo what is typed into
+/// the first.
+void refuseTakenName(const host::Session& session, const std::string& name) {
+    for (const ShownProperty& each : readProperties(session)) {
+        if (each.id == "QEMA_" + name) {
+            throw Failure(ExitCode::BadUsage, "there is a property \"" + each.name + "\" already");
+        }
+    }
+}
+
+void add(host::Session& session, const std::string& name) {
+    if (name.empty()) {
+        throw Failure(ExitCode::BadUsage, "a custom property needs a name");
+    }
+    refuseTakenName(session, name);
+    session.click("propertyAdd");
+    const Ptr<TableCommandInput> table = session.table(kTable);
+    host::pasteText(table->getInputAtPosition(table->rowCount() - 1, 0), name);
+    save(session);
+}
+
+void remove(host::Session& session, const std::string& name) {
+    const std::vector<std::string> names = namesIn(session);
+    const auto found = std::find(names.begin(), names.end(), name);
+    if (found == names.end()) {
+        throw Failure(ExitCode::BadUsage, "there is no custom property \"" + name + "\"");
+    }
+    session.selectRow(kTable, static_cast<int>(found - names.begin()));
+    session.click("propertyDelete");
+    save(session);
+}
+
+void change(DialogRun& run, const UserPropertiesOptions& options) {
+    showList(run);
+    run.act([&](host::Session& session) {
+        if (options.action == UserPropertiesOptions::Action::Add) {
+            add(session, options.name);
+        } else {
+            remove(session, options.name);
+        }
+        session.cancel();
+    });
+}
+
+}  // namespace
+
+void runUserProperties(const UserPropertiesOptions& options) {
+    DialogRun run(options.addin);
+    if (options.action != UserPropertiesOptions::Action::List) {
+        change(run, options);
+    }
+    showList(run);
+    for (const std::string& name : namesIn(run.session())) {
+        std::cout << printable(name) << "\n";
+    }
+    run.act([](host::Session& session) { session.cancel(); });
+    if (!std::cout.flush()) {
+        throw Failure(ExitCode::OutputFailed, "cannot write to stdout");
+    }
+}
+
+}  // namespace workbench
