@@ -2,20 +2,19 @@
 
 #include "host/base/gate.h"
 
-#include <chrono>
+#include <ctime>
 
 namespace bench {
 
 double measure(benchmark::State& state, const std::string& name,
                const std::function<void()>& action) {
     host::gate::reset();
-    const auto begin = std::chrono::steady_clock::now();
+    const std::clock_t begin = std::clock();
     action();
-    const std::chrono::duration<double, std::milli> taken =
-        std::chrono::steady_clock::now() - begin;
-    state.counters[name + "_ms"] = taken.count();
+    const double taken = 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    state.counters[name + "_ms"] = taken;
     state.counters[name + "_calls"] = static_cast<double>(host::gate::total());
-    return taken.count();
+    return taken;
 }
 
 }  // namespace bench

@@ -8,6 +8,9 @@
 namespace bench {
 
 /// Does one thing, and notes its time and its host calls under `name`. Yields the milliseconds.
+///
+/// The time is the processor's: all is done in one thread that waits for nothing, and what else
+/// runs on the machine is left out.
 double measure(benchmark::State& state, const std::string& name,
                const std::function<void()>& action);
 

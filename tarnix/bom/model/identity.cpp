@@ -1,6 +1,7 @@
 #include "tarnix/bom/model/identity.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnix {
 namespace {
@@ -43,19 +44,21 @@ std::optional<std::size_t> ItemIndex::add(const std::string& partNumber, const s
     return first < added ? std::optional(first) : std::nullopt;
 }
 
-std::optional<std::size_t> ItemIndex::find(const std::string& partNumber,
-                                           const std::string& path) const {
-    std::optional<std::size_t> found;
-    if (const auto item = firstOfItem_.find(itemOf(partNumber, path)); item != firstOfItem_.end()) {
-        found = item->second;
+bool ItemIndex::addIfNew(const std::string& partNumber, const std::string& path) {
+    const bool underRoot = isUnderRoot(path);
+    const auto [top, isNewTop] = underRoot ? firstUnderRoot_.try_emplace(partNumber, rowCount_)
+                                           : std::pair(firstUnderRoot_.end(), true);
+    if (!isNewTop) {
+        return false;
     }
-    if (isUnderRoot(path)) {
-        const auto top = firstUnderRoot_.find(partNumber);
-        if (top != firstUnderRoot_.end()) {
-            found = std::min(found.value_or(top->second), top->second);
+    if (!firstOfItem_.try_emplace(itemOf(partNumber, path), rowCount_).second) {
+        if (underRoot) {
+            firstUnderRoot_.erase(top);
         }
+        return false;
     }
-    return found;
+    ++rowCount_;
+    return true;
 }
 
 }  // namespace tarnix

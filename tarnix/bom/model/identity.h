@@ -31,10 +31,8 @@ public:
     /// The index of the first row added before it that is the same item.
     std::optional<std::size_t> add(const std::string& partNumber, const std::string& path);
 
-    /// The index of the first row added that is the same item as an occurrence at `path` whose
-    /// component has `partNumber`.
-    [[nodiscard]] std::optional<std::size_t> find(const std::string& partNumber,
-                                                  const std::string& path) const;
+    /// Takes the row unless it is the same item as one added before; false then.
+    bool addIfNew(const std::string& partNumber, const std::string& path);
 
 private:
     struct Item {

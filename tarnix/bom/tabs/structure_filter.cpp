@@ -69,12 +69,7 @@ bool StructureFilter::followsSubtreeEnd(const BomRow& row) const {
 }
 
 bool StructureFilter::isFurtherOfItem(const BomRow& row, const std::string& path) {
-    const std::string partNumber = row.component->partNumber();
-    if (seen_.find(partNumber, path)) {
-        return true;
-    }
-    seen_.add(partNumber, path);
-    return false;
+    return !seen_.addIfNew(row.component->partNumber(), path);
 }
 
 void StructureFilter::noteShown(const BomRow& row, const std::string& path) {
