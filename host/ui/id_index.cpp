@@ -12,37 +12,38 @@ constexpr std::size_t kFirstSize = 16;
 
 }  // namespace
 
-std::size_t IdIndex::placeOf(const std::string& id, std::size_t hash) const {
-    const std::size_t mask = firsts_.size() - 1;
+std::size_t IdIndex::placeOf(const std::string& id, std::uint32_t hash) const {
+    const std::size_t mask = places_.size() - 1;
     std::size_t place = hash & mask;
-    while (firsts_[place] != nullptr &&
-           (firsts_[place]->hash != hash || firsts_[place]->id() != id)) {
+    while (places_[place].first != nullptr &&
+           (places_[place].hash != hash || places_[place].first->id() != id)) {
         place = (place + 1) & mask;
     }
     return place;
 }
 
 void IdIndex::grow() {
-    const std::vector<InputState*> old = std::exchange(
-        firsts_, std::vector<InputState*>(firsts_.empty() ? kFirstSize : 2 * firsts_.size()));
-    const std::size_t mask = firsts_.size() - 1;
-    for (InputState* each : old) {
-        if (each == nullptr) continue;
-        std::size_t place = each->hash & mask;
-        while (firsts_[place] != nullptr) {
+    const std::vector<Place> old = std::exchange(
+        places_, std::vector<Place>(places_.empty() ? kFirstSize : 2 * places_.size()));
+    const std::size_t mask = places_.size() - 1;
+    for (const Place& each : old) {
+        if (each.first == nullptr) continue;
+        std::size_t place = each.hash & mask;
+        while (places_[place].first != nullptr) {
             place = (place + 1) & mask;
         }
-        firsts_[place] = each;
+        places_[place] = each;
     }
 }
 
 void IdIndex::add(InputState& input) {
-    if (2 * (used_ + 1) > firsts_.size()) {
+    if (2 * (used_ + 1) > places_.size()) {
         grow();
     }
-    InputState*& first = firsts_[placeOf(input.id(), input.hash)];
+    Place& place = places_[placeOf(input.id(), input.hash)];
+    InputState* first = place.first;
     if (first == nullptr) {
-        first = &input;
+        place = {&input, input.hash};
         input.previousSameId = &input;
         ++used_;
         return;
@@ -55,14 +56,14 @@ void IdIndex::add(InputState& input) {
 
 void IdIndex::remove(InputState& input) {
     const std::size_t place = placeOf(input.id(), input.hash);
-    InputState* first = firsts_[place];
+    InputState* first = places_[place].first;
     InputState* next = input.nextSameId;
     if (first == &input) {
         if (next == nullptr) {
             vacate(place);
         } else {
             next->previousSameId = input.previousSameId;
-            firsts_[place] = next;
+            places_[place].first = next;
         }
     } else {
         input.previousSameId->nextSameId = next;
@@ -74,26 +75,26 @@ void IdIndex::remove(InputState& input) {
 
 // Moves up what stands behind a place that becomes free, as far as it was kept from its own one.
 void IdIndex::vacate(std::size_t place) {
-    const std::size_t mask = firsts_.size() - 1;
+    const std::size_t mask = places_.size() - 1;
     --used_;
-    for (std::size_t next = (place + 1) & mask; firsts_[next] != nullptr;
+    for (std::size_t next = (place + 1) & mask; places_[next].first != nullptr;
          next = (next + 1) & mask) {
-        const std::size_t wanted = firsts_[next]->hash & mask;
+        const std::size_t wanted = places_[next].hash & mask;
         if (((next - wanted) & mask) >= ((next - place) & mask)) {
-            firsts_[place] = firsts_[next];
+            places_[place] = places_[next];
             place = next;
         }
     }
-    firsts_[place] = nullptr;
+    places_[place] = {};
 }
 
 InputState* IdIndex::find(const std::string& id) const {
-    if (firsts_.empty()) return nullptr;
-    return firsts_[placeOf(id, static_cast<std::uint32_t>(std::hash<std::string>()(id)))];
+    if (places_.empty()) return nullptr;
+    return places_[placeOf(id, static_cast<std::uint32_t>(std::hash<std::string>()(id)))].first;
 }
 
 void IdIndex::clear() {
-    firsts_.clear();
+    places_.clear();
     used_ = 0;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,8 @@ class InputState;
 /// Finds the inputs of one collection by their ids.
 ///
 /// Ids may repeat: inputs of one id hang on a chain in the order they were added, and the first one
-/// is found. Adding, removing and finding take constant time, and an input costs two pointers here.
+/// is found. Adding, removing and finding take constant time. The places hold the hashes as well:
+/// an input lies anywhere in memory, and one of another id is passed without a look at it.
 class IdIndex {
 public:
     /// Adds an input behind the others of its id.
@@ -25,11 +27,16 @@ public:
     void clear();
 
 private:
-    [[nodiscard]] std::size_t placeOf(const std::string& id, std::size_t hash) const;
+    struct Place {
+        InputState* first = nullptr;
+        std::uint32_t hash = 0;
+    };
+
+    [[nodiscard]] std::size_t placeOf(const std::string& id, std::uint32_t hash) const;
     void grow();
     void vacate(std::size_t place);
 
-    std::vector<InputState*> firsts_;  ///< open addressing; the size is a power of two
+    std::vector<Place> places_;  ///< open addressing; the size is a power of two
     std::size_t used_ = 0;
 };
 
