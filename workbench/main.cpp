@@ -4,6 +4,7 @@
 #include "workbench/display_text.h"
 #include "workbench/editing_commands.h"
 #include "workbench/exit_code.h"
+#include "workbench/helpdesk_options.h"
 #include "workbench/info_command.h"
 
 #include <CLI/CLI.hpp>
@@ -111,8 +112,10 @@ int runProgram(const std::vector<std::string>& arguments) {
         "tarnix-workbench");
     BomOptions bom;
     InfoOptions info;
+    HelpdeskOptions helpdesk;
     const CLI::App* bomCommand = addBom(program, bom);
     addInfo(program, info);
+    const CLI::App* helpdeskCommand = addHelpdesk(program, helpdesk);
     const EditingCommands editing(program);
     program.set_version_flag("--version", "tarnix-workbench " TARNIX_VERSION);
     program.require_subcommand(1);
@@ -123,6 +126,8 @@ int runProgram(const std::vector<std::string>& arguments) {
     }
     if (bomCommand->parsed()) {
         runBom(bom);
+    } else if (helpdeskCommand->parsed()) {
+        runHelpdesk(helpdesk);
     } else if (!editing.run()) {
         runInfo(info);
     }
