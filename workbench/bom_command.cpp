@@ -8,6 +8,7 @@
 #include "workbench/save_target.h"
 #include "workbench/written_files.h"
 
+#include "host/session/design_files.h"
 #include "host/session/utf8_path.h"
 
 #include <algorithm>
@@ -18,6 +19,17 @@ namespace workbench {
 namespace {
 
 namespace fs = std::filesystem;
+
+void saveDesign(const BomResult& result, const fs::path& file) {
+    if (!result.saved) {
+        return;
+    }
+    try {
+        host::saveDesignFile(file, *result.saved);
+    } catch (const host::DesignError& error) {
+        throw Failure(ExitCode::OutputFailed, error.what());
+    }
+}
 
 /// Tells what the add-in said, and ends the program when it failed.
 void reportRaised(const BomResult& result, const BomOptions& options) {
@@ -83,9 +95,7 @@ void runBom(const BomOptions& options) {
         makeBom(readDesign(options.file, options.limits), tab, options, wishes, written);
     reportRaised(result, options);
     const fs::path file = deliver(result, options, written);
-    if (result.saved) {
-        saveDesign(*result.saved, design);
-    }
+    saveDesign(result, design);
     written.keep();
     std::cout << shownList(result, options) << std::flush;
     // What other programs read stays free of remarks.

@@ -4,6 +4,8 @@
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
 
+#include "host/session/design_files.h"
+
 #include <cstddef>
 #include <iostream>
 #include <stdexcept>
@@ -53,6 +55,14 @@ void DialogRun::open(const std::string& command) {
     act([&](host::Session& session) { session.press(command); });
     if (!session_->dialogOpen()) {
         throw Failure(ExitCode::AddinFailed, "the add-in opened no dialog for " + command);
+    }
+}
+
+void DialogRun::save(const std::filesystem::path& file) {
+    try {
+        session_->save(file);
+    } catch (const host::DesignError& error) {
+        throw Failure(ExitCode::OutputFailed, error.what());
     }
 }
 

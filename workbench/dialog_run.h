@@ -2,6 +2,7 @@
 
 #include "host/session/session.h"
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -25,6 +26,10 @@ public:
 
     /// Presses the button of a command; raises a `Failure` when no dialog opens.
     void open(const std::string& command);
+
+    /// Writes the open design into a design file, whole or not at all; a relative path starts where
+    /// the program was started. Raises a `Failure` where that cannot be done.
+    void save(const std::filesystem::path& file);
 
     [[nodiscard]] host::Session& session() { return *session_; }
 

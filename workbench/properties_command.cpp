@@ -110,7 +110,7 @@ void runProperties(const PropertiesOptions& options) {
     const std::string text = asLines(pathOf(picked(run.session())), readProperties(run.session()));
     run.act([](host::Session& session) { session.cancel(); });
     if (options.save) {
-        saveDesign(run.session().design(), target);
+        run.save(target);
     }
     std::cout << text;
     if (options.save) {

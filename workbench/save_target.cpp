@@ -2,6 +2,7 @@
 
 #include "workbench/exit_code.h"
 
+#include "host/session/design_files.h"
 #include "host/session/utf8_path.h"
 
 namespace workbench {
@@ -30,14 +31,6 @@ fs::path saveTarget(const std::string& file, const std::string& named) {
                                               host::toUtf8(beside) + " replaces it");
     }
     return beside;
-}
-
-void saveDesign(const host::DesignData& design, const fs::path& file) {
-    try {
-        host::saveDesignFile(file, design);
-    } catch (const host::DesignError& error) {
-        throw Failure(ExitCode::OutputFailed, error.what());
-    }
 }
 
 }  // namespace workbench

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/session/design_files.h"
-
 #include <filesystem>
 #include <string>
 
@@ -11,9 +9,5 @@ namespace workbench {
 /// where it is one, else one beside it, which must not be there yet. Raises a `Failure` for a name
 /// that is none of a design file.
 std::filesystem::path saveTarget(const std::string& file, const std::string& named);
-
-/// Writes a design into a design file, whole or not at all. Raises a `Failure` where that cannot be
-/// done.
-void saveDesign(const host::DesignData& design, const std::filesystem::path& file);
 
 }  // namespace workbench

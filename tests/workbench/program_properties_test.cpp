@@ -98,6 +98,29 @@ TEST_F(Properties, AreEditedAndSavedThroughTheDialog) {
     EXPECT_EQ(again.output, result.output.substr(0, result.output.find("\nSaved")));
 }
 
+TEST_F(Properties, AreSavedInAFileThatIsNamedByItsNameAlone) {
+    design(kAssembly);
+    const std::filesystem::path startedIn = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+
+    const ProgramResult result =
+        run({"properties", "sample.design.json", "--set", "Description=new", "--save", "b.json"});
+
+    std::filesystem::current_path(startedIn);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("Saved: b.json\n"), std::string::npos) << result.output;
+    EXPECT_NE(readFile(folder.path() / "b.json").find("\"new\""), std::string::npos);
+}
+
+TEST_F(Properties, ThatCannotBeSavedLeaveNothing) {
+    const ProgramResult result = run({"properties", design(kAssembly), "--set", "Description=new",
+                                      "--save", out() + "/missing/b.json"});
+
+    EXPECT_EQ(result.status, 5);
+    EXPECT_EQ(result.output, "");
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+}
+
 TEST_F(Properties, AreSeenByThePartsList) {
     addProperty("Colour");
     const std::string file = design("Bolt");
@@ -190,6 +213,23 @@ TEST_F(Workbench, AUserPropertyThatTheDialogRefusesIsRefusedInItsWords) {
     EXPECT_EQ(readFile(settingsFile()), old);
 }
 
+TEST_F(Workbench, AUserPropertyThatTheDialogHasAlreadyIsRefused) {
+    run({"user-properties", "add", "Colour"});
+    const std::string old = readFile(settingsFile());
+
+    EXPECT_EQ(run({"user-properties", "add", "Colour"}).errors,
+              "tarnix-workbench: there is a property \"Colour\" already\n");
+    const ProgramResult result = run({"user-properties", "add", "Part Number"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tarnix-workbench: there is a property \"Part Number\" already\n");
+    EXPECT_EQ(readFile(settingsFile()), old);
+}
+
+TEST_F(Workbench, AUserPropertyMayBeginWithAHyphen) {
+    EXPECT_EQ(run({"user-properties", "add", "--", "-x"}).output, "-x\n");
+    EXPECT_EQ(run({"user-properties", "remove", "--", "-x"}).output, "");
+}
+
 TEST_F(Workbench, AUserPropertyThatIsNotThereCannotBeRemoved) {
     const ProgramResult result = run({"user-properties", "remove", "Colour"});
 
@@ -210,6 +250,7 @@ TEST_F(Workbench, TheSupportProviderIsChosenAndShown) {
     EXPECT_EQ(run({"configure", "--support-url", "http://help.example/?a=1&b=2"}).output,
               "Support provider: http://help.example/?a=1&b=2\n");
     EXPECT_EQ(run({"configure"}).output, "Support provider: http://help.example/?a=1&b=2\n");
+    EXPECT_EQ(run({"configure", "--support-url", ""}).output, "Support provider: none\n");
     EXPECT_EQ(run({"configure", "--support-url", "default"}).output,
               "Support provider: http://helpdesk.tarnix.example/ (default)\n");
 }
