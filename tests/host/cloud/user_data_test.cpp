@@ -1,0 +1,221 @@
+#include "host/cloud/user_data.h"
+
+#include "host/base/gate.h"
+#include "host/design/document.h"
+#include "host/design/outline.h"
+#include "tests/support/files.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+
+class UserDataTest : public testing::Test {
+protected:
+    ~UserDataTest() override { endDocument(document); }
+
+    /// Puts files on the disk, by their paths below the user's data.
+    void store(const std::vector<std::string>& files) const {
+        for (const std::string& file : files) {
+            std::filesystem::create_directories((folder.path() / file).parent_path());
+            test_support::writeFile(folder.path() / file, "x");
+        }
+    }
+
+    void open(const std::string& activeProject = "",
+              ReferencedFiles references = ReferencedFiles::KnownAtOnce) {
+        data = std::make_unique<UserData>(UserDataSetup{folder.path(), activeProject, references});
+    }
+
+    [[nodiscard]] Ptr<DataFolder> root() const {
+        return data->api()->activeProject()->rootFolder();
+    }
+
+    [[nodiscard]] Ptr<DataFile> fileAt(const std::string& path) const {
+        return data->fileAt(folder.path() / path);
+    }
+
+    /// The names below a folder: "Bought(Engine) Gearbox".
+    static std::string tree(const Ptr<DataFolder>& from) {
+        std::string all;
+        for (std::size_t i = 0; i < from->dataFolders()->count(); ++i) {
+            const Ptr<DataFolder> each = from->dataFolders()->item(i);
+            all += (all.empty() ? "" : " ") + each->name() + "(" + tree(each) + ")";
+        }
+        for (std::size_t i = 0; i < from->dataFiles()->count(); ++i) {
+            all += (all.empty() ? "" : " ") + from->dataFiles()->item(i)->name();
+        }
+        return all;
+    }
+
+    test_support::TemporaryFolder folder;
+    std::unique_ptr<UserData> data;
+    Ptr<Document> document;
+};
+
+TEST_F(UserDataTest, ShowsEachFolderAsAProject) {
+    store({"Beta/b.step", "Alfa/a.step", ".hidden/c.step"});
+    open();
+    EXPECT_EQ(data->api()->activeProject()->name(), "Alfa");
+    open("Beta");
+    EXPECT_EQ(data->api()->activeProject()->name(), "Beta");
+    EXPECT_EQ(tree(root()), "b");
+}
+
+TEST_F(UserDataTest, ShowsFoldersAndFilesInOrderWithoutTheirEndings) {
+    store({"Alfa/Designs/Motors/Gearbox.design.json", "Alfa/Designs/b.step", "Alfa/a.b.stp",
+           "Alfa/.lock"});
+    open();
+    EXPECT_EQ(tree(root()), "Designs(Motors(Gearbox) b) a.b");
+}
+
+TEST_F(UserDataTest, FindsWhatIsPutThereLaterAndLosesWhatGoes) {
+    store({"Alfa/a.step", "Alfa/b.step"});
+    open();
+    const Ptr<DataFile> gone = fileAt("Alfa/a.step");
+    std::filesystem::remove(folder.path() / "Alfa" / "a.step");
+    store({"Alfa/c.step"});
+    EXPECT_EQ(tree(root()), "b c");
+    EXPECT_FALSE(gone->isValid());
+    EXPECT_EQ(gone->name(), "");
+    EXPECT_EQ(gone->parentFolder(), nullptr);
+}
+
+TEST_F(UserDataTest, AFileKnowsItsFolderAndProject) {
+    store({"Alfa/Designs/Gearbox.step"});
+    open();
+    const Ptr<DataFile> file = fileAt("Alfa/Designs/Gearbox.step");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->name(), "Gearbox");
+    EXPECT_EQ(file->parentProject(), data->api()->activeProject());
+    EXPECT_EQ(file->parentFolder()->name(), "Designs");
+    EXPECT_FALSE(file->parentFolder()->isRoot());
+    EXPECT_TRUE(file->parentFolder()->parentFolder()->isRoot());
+    EXPECT_EQ(file->parentFolder()->parentFolder()->parentFolder(), nullptr);
+}
+
+TEST_F(UserDataTest, HandsOutOneObjectForAFile) {
+    store({"Alfa/a.step"});
+    open();
+    EXPECT_EQ(fileAt("Alfa/a.step"), root()->dataFiles()->item(0));
+    EXPECT_EQ(root(), fileAt("Alfa/a.step")->parentFolder());
+}
+
+TEST_F(UserDataTest, IdsOfFilesDiffer) {
+    store({"Alfa/a.step", "Alfa/a.stp", "Beta/a.step"});
+    open();
+    EXPECT_NE(fileAt("Alfa/a.step")->id(), fileAt("Alfa/a.stp")->id());
+    EXPECT_NE(fileAt("Alfa/a.step")->id(), fileAt("Beta/a.step")->id());
+}
+
+TEST_F(UserDataTest, HasNoFileOutsideItsProjects) {
+    store({"Alfa/a.step", "loose.step"});
+    open();
+    EXPECT_FALSE(fileAt("loose.step"));
+    EXPECT_FALSE(fileAt("Alfa"));
+    EXPECT_FALSE(fileAt("Alfa/b.step"));
+    EXPECT_FALSE(fileAt("../outside.step"));
+    EXPECT_TRUE(fileAt("Beta/../Alfa/a.step"));
+}
+
+TEST_F(UserDataTest, RefusesWhatIsNoFolderOrNoProject) {
+    store({"Alfa/a.step"});
+    EXPECT_THROW(UserData({folder.path() / "missing", "", {}}), std::invalid_argument);
+    EXPECT_THROW(UserData({folder.path() / "Alfa" / "a.step", "", {}}), std::invalid_argument);
+    EXPECT_THROW(UserData({folder.path(), "Gamma", {}}), std::invalid_argument);
+}
+
+TEST_F(UserDataTest, WithoutAProjectHasNoActiveOne) {
+    open();
+    EXPECT_EQ(data->api()->activeProject(), nullptr);
+}
+
+TEST_F(UserDataTest, TiesADocumentToItsFile) {
+    store({"Alfa/Gearbox.step"});
+    open();
+    document = makeDocument(parseOutline("Bolt"));
+    EXPECT_FALSE(document->isSaved());
+    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    EXPECT_EQ(document->dataFile(), fileAt("Alfa/Gearbox.step"));
+    EXPECT_TRUE(document->isSaved());
+}
+
+TEST_F(UserDataTest, TiesReferencedDocumentsByTheirNames) {
+    store({"Alfa/Gearbox.step", "Alfa/Bought/Engine.step", "Alfa/Engine.step"});
+    open();
+    document = makeDocument(parseOutline("Motor  document=Engine\nBelt  document=Missing"));
+    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    EXPECT_EQ(referencesOf(document)[0]->dataFile(), fileAt("Alfa/Bought/Engine.step"));
+    EXPECT_EQ(referencesOf(document)[1]->dataFile(), nullptr);
+}
+
+TEST_F(UserDataTest, AReferencedFileCanStayUnknownUntilItsFolderIsListed) {
+    store({"Alfa/Gearbox.step", "Alfa/Bought/Engine.step"});
+    open("", ReferencedFiles::KnownWhenListed);
+    document = makeDocument(parseOutline("Motor  document=Engine"));
+    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    const Ptr<Document> engine = referencesOf(document)[0];
+    EXPECT_EQ(engine->dataFile(), nullptr);
+    static_cast<void>(root()->dataFiles());
+    EXPECT_EQ(engine->dataFile(), nullptr);
+    static_cast<void>(root()->dataFolders()->item(0)->dataFiles());
+    EXPECT_EQ(engine->dataFile(), fileAt("Alfa/Bought/Engine.step"));
+}
+
+TEST_F(UserDataTest, AReferencedFileInAListedFolderIsKnownAtOnce) {
+    store({"Alfa/Gearbox.step", "Alfa/Engine.step"});
+    open("", ReferencedFiles::KnownWhenListed);
+    static_cast<void>(root()->dataFiles());
+    document = makeDocument(parseOutline("Motor  document=Engine"));
+    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    EXPECT_EQ(referencesOf(document)[0]->dataFile(), fileAt("Alfa/Engine.step"));
+}
+
+TEST_F(UserDataTest, ADocumentThatWasClosedMeanwhileLearnsNothing) {
+    store({"Alfa/Gearbox.step", "Alfa/Engine.step"});
+    open("", ReferencedFiles::KnownWhenListed);
+    document = makeDocument(parseOutline("Motor  document=Engine"));
+    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    const Ptr<Document> engine = referencesOf(document)[0];
+    endDocument(document);
+    static_cast<void>(root()->dataFiles());
+    EXPECT_FALSE(engine->isValid());
+    EXPECT_EQ(engine->dataFile(), nullptr);
+}
+
+TEST_F(UserDataTest, AfterItsEndNothingOfItIsValid) {
+    store({"Alfa/Designs/a.step"});
+    open();
+    const Ptr<Data> api = data->api();
+    const Ptr<DataProject> project = api->activeProject();
+    const Ptr<DataFolders> folders = project->rootFolder()->dataFolders();
+    const Ptr<DataFile> file = fileAt("Alfa/Designs/a.step");
+    data.reset();
+    EXPECT_FALSE(api->isValid());
+    EXPECT_EQ(api->activeProject(), nullptr);
+    EXPECT_EQ(project->rootFolder(), nullptr);
+    EXPECT_EQ(folders->item(0)->name(), "");
+    EXPECT_EQ(file->parentProject(), nullptr);
+    EXPECT_EQ(folders->item(1), nullptr);
+}
+
+TEST_F(UserDataTest, ChangesItsActiveProject) {
+    store({"Alfa/a.step", "Beta/b.step"});
+    open("Beta");
+    const Ptr<DataProject> beta = data->api()->activeProject();
+    open();
+    EXPECT_FALSE(data->api()->activeProject(beta));
+    EXPECT_FALSE(data->api()->activeProject(nullptr));
+    const Ptr<DataProject> second = fileAt("Beta/b.step")->parentProject();
+    EXPECT_TRUE(data->api()->activeProject(second));
+    EXPECT_EQ(data->api()->activeProject()->name(), "Beta");
+}
+
+}  // namespace
+}  // namespace host
