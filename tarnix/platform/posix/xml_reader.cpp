@@ -3,6 +3,7 @@
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 
+#include <exception>
 #include <fstream>
 #include <iterator>
 #include <limits>
@@ -28,29 +29,44 @@ public:
     explicit Builder(xmlParserCtxt& parser) : parser_(parser) {
         xmlSAXHandler& handler = *parser.sax;
         handler = {};
-        handler.startDocument = [](void* self) { of(self).declaration(); };
-        handler.internalSubset = [](void* self, auto...) { of(self).refuse(); };
-        handler.startElement = [](void* self, const xmlChar* name, const xmlChar** attributes) {
-            of(self).startElement(name, attributes);
+        handler.startDocument = [](void* self) {
+            report(self, [](Builder& builder) { builder.declaration(); });
         };
-        handler.endElement = [](void* self, const xmlChar*) { of(self).endElement(); };
+        handler.internalSubset = [](void* self, auto...) {
+            report(self, [](Builder& builder) { builder.refuse(); });
+        };
+        handler.startElement = [](void* self, const xmlChar* name, const xmlChar** attributes) {
+            report(self, [=](Builder& builder) { builder.startElement(name, attributes); });
+        };
+        handler.endElement = [](void* self, const xmlChar*) {
+            report(self, [](Builder& builder) { builder.endElement(); });
+        };
         handler.characters = [](void* self, const xmlChar* text, int length) {
-            of(self).text_ += asText(text, length);
+            report(self, [=](Builder& builder) { builder.text_ += asText(text, length); });
         };
         handler.cdataBlock = [](void* self, const xmlChar* text, int length) {
-            of(self).add(XmlKind::CharacterData, "#cdata-section", asText(text, length));
+            report(self, [=](Builder& builder) {
+                builder.add(XmlKind::CharacterData, "#cdata-section", asText(text, length));
+            });
         };
         handler.comment = [](void* self, const xmlChar* text) {
-            of(self).add(XmlKind::Comment, "#comment", asText(text));
+            report(self, [=](Builder& builder) {
+                builder.add(XmlKind::Comment, "#comment", asText(text));
+            });
         };
         handler.processingInstruction = [](void* self, const xmlChar* target, const xmlChar* data) {
-            of(self).add(XmlKind::Instruction, asText(target), asText(data));
+            report(self, [=](Builder& builder) {
+                builder.add(XmlKind::Instruction, asText(target), asText(data));
+            });
         };
         parser.userData = this;
     }
 
-    /// What was built, if the parser was content with it.
+    /// What was built, if the parser was content with it. Raises what was raised meanwhile.
     XmlBodies result() {
+        if (raised_) {
+            std::rethrow_exception(raised_);
+        }
         if (refused_ || parser_.wellFormed == 0) {
             return {};
         }
@@ -59,7 +75,20 @@ public:
     }
 
 private:
-    static Builder& of(void* self) { return *static_cast<Builder*>(self); }
+    /// Takes a report of the parser, whose C frames nothing may be raised through.
+    template <class Action>
+    static void report(void* self, Action action) {
+        Builder& builder = *static_cast<Builder*>(self);
+        if (builder.raised_) {
+            return;
+        }
+        try {
+            action(builder);
+        } catch (...) {
+            builder.raised_ = std::current_exception();
+            xmlStopParser(&builder.parser_);
+        }
+    }
 
     void declaration() {
         constexpr int noDeclaration = -1;
@@ -117,6 +146,7 @@ private:
     Body* current_ = &document_;
     std::string text_;
     bool refused_ = false;
+    std::exception_ptr raised_;
 };
 
 }  // namespace
