@@ -1,0 +1,129 @@
+// Every host call of the dialog's flows, refused once each: the add-in neither crashes nor loses
+// memory, raises nothing but the plain exception of a null handle, and leaves its settings whole.
+
+#include "tests/support/addin_test.h"
+#include "tests/support/files.h"
+#include "tests/support/refusal.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+
+namespace tarnix {
+namespace {
+
+using host::Session;
+using test_support::refuseEachCall;
+
+constexpr const char* kStored = "<www>http://old.example/</www>";
+
+std::filesystem::path settingsOf(const Session& session) {
+    return session.addin().folder / "Tarnix_configuration.xml";
+}
+
+/// What stands in the category of the provider, an empty element in its short form; the whole file
+/// where there is none.
+std::string stored(const Session& session) {
+    const std::string bytes = test_support::readFile(settingsOf(session));
+    const std::string before =
+        "<configuration nameOfApplication=\"Tarnix\"><category name=\"httpHelpdesk\">";
+    const std::string behind = "</category></configuration>";
+    const std::size_t from = bytes.find(before);
+    const std::size_t to = bytes.find(behind);
+    const bool isWhole = from != std::string::npos && to != std::string::npos;
+    if (!isWhole) {
+        return bytes;
+    }
+    const std::string found = bytes.substr(from + before.size(), to - from - before.size());
+    return found == "<www></www>" ? "<www/>" : found;
+}
+
+void expectPlainExceptionsAlone(const Session& session) {
+    for (const host::Raised& raised : session.raised()) {
+        EXPECT_EQ(raised.type, "std::exception") << raised.text << " in " << raised.event;
+        EXPECT_EQ(raised.text, "");
+    }
+}
+
+void checkFlow(Session& session, const std::string& /*call*/) {
+    expectPlainExceptionsAlone(session);
+    EXPECT_EQ(stored(session), kStored);
+    if (session.dialogOpen()) {
+        session.cancel();
+    }
+    session.stop();
+}
+
+/// The address as it was where something was raised, else the new one, or what a box that tells
+/// nothing stands for: its text is empty, or it is not visible.
+void checkAccepted(Session& session, const std::string& call) {
+    const std::string now = stored(session);
+    if (!session.raised().empty()) {
+        EXPECT_EQ(now, kStored) << call;
+    } else if (call == "TextBoxCommandInput::text") {
+        EXPECT_EQ(now, "<www/>");
+    } else if (call == "CommandInput::isVisible") {
+        EXPECT_EQ(now, "<www>http://helpdesk.tarnix.example/</www>");
+    } else {
+        EXPECT_EQ(now, "<www>http://new.example/</www>") << call;
+    }
+    expectPlainExceptionsAlone(session);
+}
+
+void storeSettings(const Session& session) {
+    test_support::writeFile(
+        settingsOf(session),
+        std::string(
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+            "<configuration nameOfApplication=\"Tarnix\"><category name=\"httpHelpdesk\">") +
+            kStored + "</category></configuration>\r\n");
+}
+
+void load(Session& session) {
+    storeSettings(session);
+    ASSERT_TRUE(session.run());
+}
+
+void openDialog(Session& session) {
+    load(session);
+    session.press("QM_TX_configuration");
+    ASSERT_TRUE(session.raised().empty());
+}
+
+TEST(RefusedHostCalls, WhileTheConfigurationOpens) {
+    const std::uint64_t calls = refuseEachCall(
+        {load, [](Session& session) { session.press("QM_TX_configuration"); }, checkFlow});
+
+    EXPECT_GT(calls, 12U);
+}
+
+TEST(RefusedHostCalls, InSwitchingTheProvider) {
+    const std::uint64_t calls = refuseEachCall(
+        {openDialog,
+         [](Session& session) {
+             session.choose("choiceProvider", "Set Ostrel Works as your support provider");
+             session.choose("choiceProvider", "Set other support provider");
+         },
+         checkFlow});
+
+    EXPECT_GT(calls, 12U);
+}
+
+TEST(RefusedHostCalls, InAcceptingTheConfiguration) {
+    const std::uint64_t calls =
+        refuseEachCall({[](Session& session) {
+                            openDialog(session);
+                            session.paste("helpdeskOther", "http://new.example/");
+                        },
+                        [](Session& session) {
+                            storeSettings(session);
+                            session.ok();
+                        },
+                        checkAccepted});
+
+    EXPECT_GT(calls, 4U);
+}
+
+}  // namespace
+}  // namespace tarnix
