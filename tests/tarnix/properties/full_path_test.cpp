@@ -142,6 +142,28 @@ TEST_F(FullPath, OfAReferenceIsEmptyWhereTheUserHasNoData) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(FullPath, OfAReferenceIsEmptyWhereItsComponentTellsNoDesign) {
+    store("Alfa/Engine", "Piston");
+    store("Alfa/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Gearbox");
+    openProperties();
+    host::gate::refuse("Component::parentDesign", 1);
+    session->pick("Motor:1");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, OfAReferenceIsEmptyWhereItsDesignTellsNoDocument) {
+    store("Alfa/Engine", "Piston");
+    store("Alfa/Gearbox", "Motor  document=Engine");
+    openStored("Alfa/Gearbox");
+    openProperties();
+    host::gate::refuse("Product::parentDocument", 1);
+    session->pick("Motor:1");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(FullPath, WithoutASelectionIsThisDocument) {
     store("Alfa/Bought/Engine", "Piston");
     store("Alfa/Gearbox", "Motor  document=Engine");

@@ -23,6 +23,17 @@ protected:
         }
         return all;
     }
+
+    /// The recorded calls on the command, in their order.
+    static std::string commandCalls() {
+        std::string all;
+        for (const std::string& call : host::gate::recorded()) {
+            if (call.starts_with("Command::")) {
+                all += (all.empty() ? "" : " ") + call;
+            }
+        }
+        return all;
+    }
 };
 
 TEST_F(PropertiesDialog, HasTwoTabsAndASize) {
@@ -34,6 +45,14 @@ TEST_F(PropertiesDialog, HasTwoTabsAndASize) {
     EXPECT_EQ(raised(), "");
     EXPECT_TRUE(session->messages().empty());
     EXPECT_TRUE(host::misuses().empty());
+}
+
+TEST_F(PropertiesDialog, GetsItsSizeAndThenItsHandlers) {
+    host::gate::record(true);
+    openProperties();
+    EXPECT_EQ(commandCalls(),
+              "Command::commandInputs Command::setDialogInitialSize Command::inputChanged "
+              "Command::execute Command::validateInputs");
 }
 
 TEST_F(PropertiesDialog, PicksOneComponentAndShowsTwoGroups) {
@@ -120,7 +139,9 @@ TEST_F(PropertiesDialog, PicksOccurrencesAndTheRootComponentAlone) {
     open("Bolt");
     openProperties();
     session->pick("Bolt:1");
+    EXPECT_EQ(value(kPartName), "Bolt");
     session->pick("Design");
+    EXPECT_EQ(value(kPartName), "Design");
     const Ptr<adsk::core::Base> component =
         session->dialog()->parentCommandDefinition();  // of a kind that no filter accepts
     EXPECT_THROW(host::pick(component), host::MisuseError);

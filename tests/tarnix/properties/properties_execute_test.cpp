@@ -10,6 +10,15 @@ class PropertiesOk : public PropertiesTest {
 protected:
     /// Runs the handlers of OK although the host would not let a person press it.
     static void forceOk() { host::acceptAnyway(); }
+
+    /// Accepts an edited dialog with one host call refused.
+    void okWithout(const std::string& call, std::uint64_t nth) {
+        open("Bolt");
+        openAndPick("Bolt:1");
+        session->type(kPartNumber, "lost");
+        host::gate::refuse(call, nth);
+        session->ok();
+    }
 };
 
 TEST_F(PropertiesOk, WritesEveryInputInTheOrderOfTheDialog) {
@@ -83,6 +92,36 @@ TEST_F(PropertiesOk, WithoutASelectionLeavesTheDesignUntouched) {
     forceOk();
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
     EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, StopsSilentlyWithoutTheInputs) {
+    okWithout("Command::commandInputs", 1);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelectionInput) {
+    okWithout("CommandInputs::itemById", 1);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, StopsSilentlyWithoutTheEntity) {
+    okWithout("Selection::entity", 1);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, RaisesWithoutTheGroupOfTheProperties) {
+    okWithout("CommandInputs::itemById", 2);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+}
+
+TEST_F(PropertiesOk, RaisesWithoutTheListOfTheButtons) {
+    okWithout("ButtonRowCommandInput::listItems", 1);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
 }
 
 TEST_F(PropertiesOk, WritesInputsThatAreDisabledToo) {

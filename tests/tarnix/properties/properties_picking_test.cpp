@@ -144,6 +144,20 @@ TEST_F(PickedComponent, InManufacturingStillShowsItsFullPath) {
     EXPECT_EQ(box->text(), "ThisDoc: Alfa // Gearbox");
 }
 
+TEST_F(PickedComponent, ThatIsNoneEnablesTheGroupsAndFillsNothing) {
+    offer({"QEMA_Colour;Colour"});
+    open("Bolt");
+    openProperties();
+    session->input("QEMA_Colour")->isEnabled(false);
+    // The full path asks for the entity first, then the dialog does.
+    host::gate::refuse("Selection::entity", 2);
+    session->pick("Bolt:1");
+    EXPECT_EQ(values(), " |  |  |  | ");
+    EXPECT_EQ(enabled(), "++++++");
+    EXPECT_EQ(session->input(kSelection)->tooltip(), "");
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(PickedComponent, StaysAsItIsWhileItIsEdited) {
     offer({"QEMA_Colour;Colour"});
     open("Bolt  number=B-1");
