@@ -3,6 +3,7 @@
 #include "tarnix/properties/full_path.h"
 #include "tarnix/properties/property_inputs.h"
 #include "tarnix/properties/property_store.h"
+#include "tarnix/properties/selection_filters.h"
 #include "tarnix/settings/settings_document.h"
 
 #include <cstddef>
@@ -158,10 +159,10 @@ void buildPropertiesDialog(Ptr<CommandInputs> inputs) {
 }
 
 void setSelectionFilters(Ptr<SelectionCommandInput> selectionInput) {
-    if (!selectionInput->addSelectionFilter("Occurrences")) {
+    if (!selectionInput->addSelectionFilter(selection_filter::kOccurrences)) {
         tellUser("occurrence failed");
     }
-    if (!selectionInput->addSelectionFilter("RootComponents")) {
+    if (!selectionInput->addSelectionFilter(selection_filter::kRootComponents)) {
         tellUser("root failed");
     }
 }

@@ -102,6 +102,7 @@ std::string settingsFilePath() {
 }
 
 XmlDocument openSettingsDocument(const std::string& path) {
+    // First, since the default document is made with it as well.
     platform::initializeCom();
     if (!platform::canRead(path)) {
         createDefaultSettings(path);

@@ -1,6 +1,7 @@
 #include "tests/tarnix/addin/addin_ui_test.h"
 #include "tests/tarnix/bom/behaviour/own_dialog.h"
 
+#include "host/base/gate.h"
 #include "host/design/document.h"
 #include "host/ui/application.h"
 #include "host/ui/hands.h"
@@ -188,6 +189,16 @@ TEST_F(EndingHook, LetsABomDialogGoWithItsDocument) {
 
     session->newDesign();
 
+    EXPECT_FALSE(session->dialogOpen());
+}
+
+TEST_F(EndingHook, LetsABomDialogGoThatTheHostAborted) {
+    host::gate::refuse("Command::commandInputs", 1);
+
+    session->press("QM_TX_BOM");
+
+    // Its handler raised before there was an input. A second start would have shown the dialog.
+    EXPECT_EQ(session->raised().size(), 1U);
     EXPECT_FALSE(session->dialogOpen());
 }
 

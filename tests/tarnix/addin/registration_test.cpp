@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+namespace tarnix {
+extern "C" bool stop(const char* context);
+}
+
 /// Registration by direct calls, for what `run` does only once. The module stands by unused.
 namespace test_support {
 namespace {
@@ -61,6 +65,14 @@ TEST_F(Registration, OfACommandStandsAsLongAsItsObject) {
     command.reset();
 
     EXPECT_FALSE(definition("OwnCommand"));
+}
+
+TEST_F(Registration, StopWithoutTheUserInterfaceLetsTheApplicationGo) {
+    tarnix::ui = nullptr;
+
+    EXPECT_TRUE(tarnix::stop(nullptr));
+
+    EXPECT_FALSE(tarnix::app);
 }
 
 TEST_F(Registration, IsDoneOnce) {
@@ -143,12 +155,19 @@ TEST_F(Registration, OfAHelpdeskPanelNeedsAWorkspace) {
 }
 
 TEST_F(Registration, TellsTheUserWhyTheHostRefusedAHelpdeskCommand) {
+    ui()->commandDefinitions()->addButtonDefinition("QM_HD_captureScreen", "Another's", "");
     const host::gate::Module asModule;
-    host::gate::refuse("CommandDefinitions::addButtonDefinition", 3);
+    // It does not find the other one, and may not add its own.
+    host::gate::refuse("CommandDefinitions::itemById", 2);
 
     EXPECT_FALSE(tarnix::createHelpdeskCommands());
 
-    EXPECT_EQ(session->messages().size(), 1U);
+    std::string reason;
+    Application::get()->getLastError(&reason);
+    EXPECT_NE(reason, "");
+    host::Message told;  // no title, no picture, one button
+    told.text = reason;
+    EXPECT_EQ(session->messages(), std::vector{told});
     EXPECT_EQ(standing(), text(R"(
         QM_HD_openHelpdesk
         QM_HD_captureScreen)"));

@@ -45,7 +45,7 @@ TEST_F(Run, CaptionsThePanels) {
     EXPECT_EQ(panel("QM_HD_panelCAMEnvironment")->name(), "QM Helpdesk");
 }
 
-TEST_F(Run, AttachesTheFourHooks) { EXPECT_EQ(adsk::autoTerminate(), false); }
+TEST_F(Run, KeepsTheModuleLoaded) { EXPECT_EQ(adsk::autoTerminate(), false); }
 
 class RunOnce : public UnstartedAddinTest {};
 
@@ -66,6 +66,58 @@ TEST_F(RunOnce, SubscribesTheFourHooksInTheirOrder) {
               "UserInterface::commandStarting\nEvent::add\n"
               "UserInterface::commandTerminated\nEvent::add\n"
               "adsk::autoTerminate\n");
+}
+
+/// A start in which one host call yields nothing.
+class RefusedRun : public UnstartedAddinTest {
+protected:
+    bool runsWithout(const std::string& call, std::uint64_t nth = 1) {
+        restart(options());
+        host::gate::reset();
+        host::gate::refuse(call, nth);
+        const bool succeeds = run();
+        EXPECT_EQ(raised(), "");
+        return succeeds;
+    }
+};
+
+TEST_F(RefusedRun, NeedsTheApplicationAndItsUserInterface) {
+    EXPECT_FALSE(runsWithout("Application::get"));
+    EXPECT_FALSE(runsWithout("Application::userInterface"));
+}
+
+TEST_F(RefusedRun, NeedsThePanelsOfEachWorkspace) {
+    EXPECT_FALSE(runsWithout("Workspace::toolbarPanels"));
+}
+
+TEST_F(RefusedRun, NeedsTheHelpdeskCommands) {
+    // Eight main commands come first.
+    EXPECT_FALSE(runsWithout("CommandDefinitions::addButtonDefinition", 9));
+}
+
+TEST_F(RefusedRun, FillsTheHelpdeskPanelAtTheSecondCallWhereTheFirstFails) {
+    // The tools of two workspaces, each with six controls, look for their workspace first.
+    EXPECT_TRUE(runsWithout("Workspaces::itemById", 2 * (1 + 6) + 1));
+    EXPECT_EQ(panel("QM_HD_panelFusionSolidEnvironment")->controls()->count(), 9U);
+}
+
+TEST_F(RefusedRun, FailsWhereTheSecondCallForTheHelpdeskPanelFails) {
+    EXPECT_FALSE(runsWithout("Workspaces::itemById", 2 * (1 + 6) + 2));
+}
+
+TEST_F(RefusedRun, NeedsTheEventOfEachHook) {
+    EXPECT_FALSE(runsWithout("UserInterface::markingMenuDisplaying"));
+    EXPECT_FALSE(runsWithout("UserInterface::workspaceActivated"));
+    EXPECT_FALSE(runsWithout("UserInterface::commandStarting"));
+    EXPECT_FALSE(runsWithout("UserInterface::commandTerminated"));
+}
+
+TEST_F(RefusedRun, NeedsOnlyTheHookOnActivatedWorkspaces) {
+    // Behind the handlers of eight main commands and of eight of the helpdesk.
+    EXPECT_TRUE(runsWithout("Event::add", 16 + 1));
+    EXPECT_FALSE(runsWithout("Event::add", 16 + 2));
+    EXPECT_TRUE(runsWithout("Event::add", 16 + 3));
+    EXPECT_TRUE(runsWithout("Event::add", 16 + 4));
 }
 
 class RunWithoutManufacture : public UnstartedAddinTest {
