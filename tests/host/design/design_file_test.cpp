@@ -5,9 +5,8 @@
 #include "host/design/outline.h"
 #include "host/design/transform.h"
 #include "tests/host/design/file_fixture.h"
+#include "tests/support/comma_locale.h"
 
-#include <clocale>
-#include <locale>
 #include <memory>
 #include <sstream>
 #include <utility>
@@ -145,36 +144,17 @@ TEST_F(DesignFile, ReadsWhatSomebodyWroteByHand) {
     EXPECT_EQ(data.components[1].geometry->box({}), (Box{{0, 0, 0}, {1, 1, 1}}));
 }
 
-/// A decimal comma and digits in groups.
-class CommaNumbers final : public std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\3"; }
-};
-
 TEST_F(DesignFile, NumbersHaveAPointWhateverTheLocale) {
-    const std::locale before =
-        std::locale::global(std::locale(std::locale::classic(), new CommaNumbers));
+    const test_support::CommaLocale locale;
+    ASSERT_TRUE(locale.isSystems()) << "there is no Czech locale";
+
     const DesignData loaded = saveAndLoad(parseOutline("Bolt  at=12345.5,0.25,0 box=1000x2.5x1"));
     const DesignData outline = parseOutline("Bolt  at=1.5,0,0");
-    std::locale::global(before);
 
     EXPECT_EQ(loaded.components[0].children[0].transform, translation(12345.5, 0.25, 0));
     EXPECT_EQ(loaded.components[1].geometry->volume(), 2500);
     EXPECT_EQ(outline.components[0].children[0].transform, translation(1.5, 0, 0));
     EXPECT_NE(read(path).find("12345.5"), std::string::npos);
-}
-
-TEST_F(DesignFile, NumbersHaveAPointInALocaleOfTheSystemToo) {
-    const std::string before = std::setlocale(LC_ALL, nullptr);
-    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr &&
-        std::setlocale(LC_ALL, "German") == nullptr) {
-        GTEST_SKIP() << "no locale with a decimal comma is installed";
-    }
-    const DesignData loaded = saveAndLoad(parseOutline("Bolt  at=0.5,0,0"));
-    std::setlocale(LC_ALL, before.c_str());
-
-    EXPECT_EQ(loaded.components[0].children[0].transform, translation(0.5, 0, 0));
 }
 
 TEST_F(DesignFile, BytesThatAreNoUtf8AreReplacedAndTheFileCanBeRead) {

@@ -42,6 +42,9 @@ file(WRITE "${place}/design.design.json" [[
  {"name": "Bolt", "partNumber": "M8", "material": {"name": "Steel", "density": 0.5},
   "geometry": {"area": 6, "volume": 1, "min": [0, 0, 0], "max": [1, 1, 1]}}]}
 ]])
+# The module that is loaded is the user's copy, which lies in that folder as well.
+set(ENV{XDG_DATA_HOME} "${place}/data")
+set(ENV{LOCALAPPDATA} "Z:${place}/data")
 execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out .
                 WORKING_DIRECTORY "${place}" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
 file(READ "${place}/TarnixBOM.csv" csv)
@@ -51,4 +54,10 @@ set(told "Pos.;Part Number;BOM Structure;\n1;M8;Produce;\n\n;Total mass of struc
 if(NOT csv STREQUAL told)
     message(FATAL_ERROR "exported:\n${csv}\nexpected:\n${told}")
 endif()
+file(GLOB_RECURSE kept RELATIVE "${place}/data" "${place}/data/*")
+foreach(file Tarnix.dll Tarnix_configuration.xml TarnixBOM.csv)
+    if(NOT "${kept}" MATCHES "/Tarnix/${file}(;|$)")
+        message(FATAL_ERROR "no ${file} beside the loaded module: ${kept}")
+    endif()
+endforeach()
 message("the package loads from '${NAME}'")

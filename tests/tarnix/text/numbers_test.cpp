@@ -1,11 +1,11 @@
 #include "tarnix/text/numbers.h"
 
+#include "tests/support/comma_locale.h"
+
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
 #include <limits>
-#include <locale>
 #include <stdexcept>
 #include <string>
 
@@ -168,32 +168,14 @@ TEST(Decimal, WritesNoGrouping) {
     EXPECT_EQ(decimal(-1), "-1");
 }
 
-/// Writes and reads 1234567.5 as 1.234.567,5.
-class Comma : public std::numpunct<char> {
-protected:
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\3"; }
-};
-
-/// The whole process runs with a decimal comma and grouping.
 class UnderACommaLocale : public testing::Test {
-protected:
-    UnderACommaLocale()
-        : before_(std::locale::global(std::locale(std::locale::classic(), new Comma))) {
-        // The C library has a locale of its own; where the system has no German, it stays.
-        if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
-            std::setlocale(LC_ALL, "German_Germany.1252");
-        }
-    }
-    ~UnderACommaLocale() override {
-        std::locale::global(before_);
-        std::setlocale(LC_ALL, "C");
-    }
-
 private:
-    std::locale before_;
+    test_support::CommaLocale locale_;
 };
+
+TEST_F(UnderACommaLocale, TheSystemsLocaleIsInForce) {
+    EXPECT_TRUE(test_support::CommaLocale::isSystems()) << "there is no Czech locale";
+}
 
 TEST_F(UnderACommaLocale, NumbersAreWrittenWithThePoint) {
     EXPECT_EQ(formatFixed(1234567.5, 2), "1234567.50");

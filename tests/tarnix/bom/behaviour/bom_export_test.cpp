@@ -1,5 +1,6 @@
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 
+#include "tests/support/comma_locale.h"
 #include "tests/support/files.h"
 #include "tests/support/kept_file.h"
 #include "tests/support/temporary_folder.h"
@@ -213,6 +214,23 @@ TEST_F(BomExport, LeavesOutARowThatIsHiddenAsAReference) {
               "2;B-1;Produce;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;0.000\r\n");
+}
+
+TEST_F(BomExport, WritesNumbersWithThePointUnderACommaLocale) {
+    const CommaLocale locale;
+    configure({"QEMA_Mass;Mass", "QEMA_Length;Length"});
+    // 400,000 cm3 of steel weigh 3140 kg.
+    open("Beam  number=B-1 box=250x1x1 measures=10:400000");
+    showStructure();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;Mass [kg];Length;\r\n"
+              "1;B-1;Produce;3140.000;2500.0;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;3140.000\r\n");
+    EXPECT_EQ(raised(), "");
 }
 
 TEST_F(BomExport, OpensTheWorkbookBesideTheModule) {
