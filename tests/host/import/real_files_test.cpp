@@ -1,10 +1,11 @@
 #include "drafts.h"
 
+#include "tests/support/real_files.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <map>
 #include <set>
 #include <utility>
@@ -15,11 +16,6 @@ namespace {
 
 using drafts::tree;
 using host::DesignData;
-
-std::filesystem::path dataFolder() {
-    const char* const chosen = std::getenv("TARNIX_TEST_DATA");
-    return chosen != nullptr ? chosen : TEST_DATA_FOLDER;
-}
 
 struct Counted {
     std::size_t nodes = 0;
@@ -84,13 +80,11 @@ bool isShapeless(const host::ComponentData& component) {
 
 class RealFiles : public testing::Test {
 protected:
-    void SetUp() override {
-        if (!std::filesystem::is_directory(dataFolder())) {
-            GTEST_SKIP() << "no folder of real STEP files; TARNIX_TEST_DATA names one";
-        }
-    }
+    void SetUp() override { test_support::needRealFiles(); }
 
-    static std::string path(const std::string& name) { return (dataFolder() / name).string(); }
+    static std::string path(const std::string& name) {
+        return (test_support::realFiles() / name).string();
+    }
 
     DesignData import(const std::string& name) {
         return host::importStep(path(name), {}, {}, warnings);

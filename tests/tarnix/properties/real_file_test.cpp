@@ -1,9 +1,9 @@
 #include "tests/support/files.h"
+#include "tests/support/real_files.h"
 #include "tests/tarnix/properties/properties_test.h"
 
 #include "host/ui/hands.h"
 
-#include <cstdlib>
 #include <vector>
 
 /// The dialog and the BOM edit the same properties, here of assemblies that were read from STEP.
@@ -96,12 +96,10 @@ class PropertiesOfARealFile : public PropertiesOfAFile {
 protected:
     void SetUp() override {
         PropertiesOfAFile::SetUp();
-        const char* const chosen = std::getenv("TARNIX_TEST_DATA");
-        const std::filesystem::path folder = chosen != nullptr ? chosen : TEST_DATA_FOLDER;
-        if (!std::filesystem::is_directory(folder)) {
-            GTEST_SKIP() << "no folder of real STEP files; TARNIX_TEST_DATA names one";
+        test_support::needRealFiles();
+        if (!IsSkipped()) {
+            session->open(test_support::realFiles() / "as1-oc-214.stp");
         }
-        session->open(folder / "as1-oc-214.stp");
     }
 };
 
