@@ -43,6 +43,17 @@ void save(host::Session& session) {
     session.click(kSave);
 }
 
+/// A name that is none to the settings, which keep no blanks at the ends of a text.
+void refuseUnusableName(const std::string& name) {
+    if (name.empty()) {
+        throw Failure(ExitCode::BadUsage, "a custom property needs a name");
+    }
+    if (name.front() == ' ' || name.back() == ' ') {
+        throw Failure(ExitCode::BadUsage,
+                      "\"" + name + "\": the settings keep no blank at the ends of a name");
+    }
+}
+
 /// Of two lines with one id the dialog writes both, and the second would undo what is typed into
 /// the first.
 void refuseTakenName(const host::Session& session, const std::string& name) {
@@ -54,9 +65,7 @@ void refuseTakenName(const host::Session& session, const std::string& name) {
 }
 
 void add(host::Session& session, const std::string& name) {
-    if (name.empty()) {
-        throw Failure(ExitCode::BadUsage, "a custom property needs a name");
-    }
+    refuseUnusableName(name);
     refuseTakenName(session, name);
     session.click("propertyAdd");
     const Ptr<TableCommandInput> table = session.table(kTable);

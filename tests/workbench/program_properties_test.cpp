@@ -225,6 +225,15 @@ TEST_F(Workbench, AUserPropertyThatTheDialogHasAlreadyIsRefused) {
     EXPECT_EQ(readFile(settingsFile()), old);
 }
 
+TEST_F(Workbench, AUserPropertyWithABlankAtAnEndIsRefused) {
+    const ProgramResult result = run({"user-properties", "add", "Colour "});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: \"Colour \": the settings keep no blank at the ends of a name\n");
+    EXPECT_EQ(run({"user-properties", "list"}).output, "");
+}
+
 TEST_F(Workbench, AUserPropertyMayBeginWithAHyphen) {
     EXPECT_EQ(run({"user-properties", "add", "--", "-x"}).output, "-x\n");
     EXPECT_EQ(run({"user-properties", "remove", "--", "-x"}).output, "");
