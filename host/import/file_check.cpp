@@ -54,6 +54,13 @@ bool beginsAsStep(std::string_view text) {
     }
 }
 
+/// An IGES file: its first line, of 80 columns, belongs to the start section.
+bool beginsAsIges(std::string_view text) {
+    constexpr std::size_t kSectionColumn = 72;
+    return text.size() > kSectionColumn && text[kSectionColumn] == 'S' &&
+           text.find_first_of("\r\n") > kSectionColumn;
+}
+
 }  // namespace
 
 fs::path checkStepFile(const std::string& path) {
@@ -77,7 +84,7 @@ fs::path checkStepFile(const std::string& path) {
     if (start.empty()) {
         refuse(path, "is empty; a STEP file begins with \"" + std::string(kStart) + "\"");
     }
-    if (!beginsAsStep(start)) {
+    if (!beginsAsStep(start) && !beginsAsIges(start)) {
         refuse(path, "is no STEP file; such a file begins with \"" + std::string(kStart) + "\"");
     }
     return fs::canonical(file);

@@ -21,6 +21,8 @@
 /// - Part numbers are the products' ids, else the component names. Products that share both id and
 ///   name with others say nothing by them; their part numbers are their component names.
 /// - A product without material is of the host's default material, one without density as dense.
+/// - An IGES file, told by its first line, is one component with all its bodies, named like the
+///   file.
 /// - Instance numbers count the uses of a component from the top of the opened tree to its end.
 namespace host {
 

@@ -1,6 +1,7 @@
 #include "host/import/reader/answers.h"
 #include "host/import/reader/assembly.h"
 #include "host/import/reader/bounds_of_process.h"
+#include "host/import/reader/iges.h"
 #include "host/import/reader/shapes.h"
 
 #include <Message_ProgressIndicator.hxx>
@@ -14,9 +15,9 @@
 
 /// step-reader FILE OCCURRENCES LEVELS SECONDS MEGABYTES
 ///
-/// Reads a STEP file, tells what it holds, and answers questions about its shapes; see answers.h.
-/// It is a program of its own so that a file which makes Open CASCADE crash, hang or grow without
-/// end takes down nothing but this.
+/// Reads a STEP file (or an IGES file), tells what it holds, and answers questions about its
+/// shapes; see answers.h. It is a program of its own so that a file which makes Open CASCADE crash,
+/// hang or grow without end takes down nothing but this.
 namespace {
 
 class Progress final : public Message_ProgressIndicator {
@@ -35,8 +36,18 @@ private:
     double shown_ = 0;
 };
 
+void runIges(const std::string& file) {
+    TopTools_IndexedMapOfShape shapes;
+    step::say({{"design", step::readIges(file, shapes)}});
+    step::answerRequests(std::cin, shapes);
+}
+
 void run(const std::string& file, const step::TreeLimits& limits) {
     step::say({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
+    if (step::looksLikeIges(file)) {
+        runIges(file);
+        return;
+    }
     step::Assembly assembly = step::readAssembly(file, limits);
     if (!assembly.files.front()->faults.empty()) {
         step::say({{"faults", assembly.files.front()->faults}});

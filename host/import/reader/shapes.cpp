@@ -29,24 +29,6 @@ void addAll(TopoDS_Compound& bodies, TopExp_Explorer explorer) {
     }
 }
 
-/// The bodies in a shape; null when there are none.
-TopoDS_Shape bodiesOf(const TopoDS_Shape& shape) {
-    TopoDS_Compound bodies;
-    BRep_Builder().MakeCompound(bodies);
-    if (TopExp_Explorer(shape, TopAbs_SOLID).More()) {
-        addAll(bodies, TopExp_Explorer(shape, TopAbs_SOLID));
-    } else {
-        addAll(bodies, TopExp_Explorer(shape, TopAbs_FACE));
-    }
-    TopoDS_Iterator inside(bodies);
-    if (!inside.More()) {
-        return {};
-    }
-    const TopoDS_Shape first = inside.Value();
-    inside.Next();
-    return inside.More() ? bodies : first;
-}
-
 class ShapeBuilder {
 public:
     explicit ShapeBuilder(Assembly& assembly) : assembly_(assembly) {}
@@ -132,6 +114,23 @@ private:
 };
 
 }  // namespace
+
+TopoDS_Shape bodiesOf(const TopoDS_Shape& shape) {
+    TopoDS_Compound bodies;
+    BRep_Builder().MakeCompound(bodies);
+    if (TopExp_Explorer(shape, TopAbs_SOLID).More()) {
+        addAll(bodies, TopExp_Explorer(shape, TopAbs_SOLID));
+    } else {
+        addAll(bodies, TopExp_Explorer(shape, TopAbs_FACE));
+    }
+    TopoDS_Iterator inside(bodies);
+    if (!inside.More()) {
+        return {};
+    }
+    const TopoDS_Shape first = inside.Value();
+    inside.Next();
+    return inside.More() ? bodies : first;
+}
 
 TopTools_IndexedMapOfShape buildShapes(Assembly& assembly, const Message_ProgressRange& progress) {
     return ShapeBuilder(assembly).build(progress);

@@ -4,6 +4,7 @@
 
 #include <Message_ProgressRange.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS_Shape.hxx>
 
 namespace step {
 
@@ -13,5 +14,8 @@ namespace step {
 /// A component's bodies are its solids; where it has none, its free faces. Curves and points that
 /// stand beside them are construction and no bodies. What hangs below it by a usage is not its own.
 TopTools_IndexedMapOfShape buildShapes(Assembly& assembly, const Message_ProgressRange& progress);
+
+/// The bodies in a shape: its solids, else its faces; null when there are none.
+TopoDS_Shape bodiesOf(const TopoDS_Shape& shape);
 
 }  // namespace step

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <TopTools_IndexedMapOfShape.hxx>
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+
+namespace step {
+
+/// Whether a file is marked as IGES: its first line belongs to the start section.
+bool looksLikeIges(const std::filesystem::path& file);
+
+/// Reads an IGES file: what it holds, as `designOf` tells it, is one component with all bodies,
+/// which are added to `shapes`. Raises `ReadError`.
+nlohmann::json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes);
+
+}  // namespace step
