@@ -2,6 +2,7 @@
 
 #include "host/cloud/data_lists.h"
 #include "host/cloud/data_project.h"
+#include "host/cloud/upload.h"
 #include "host/design/denied.h"
 #include "host/session/utf8_path.h"
 
@@ -111,10 +112,9 @@ Ptr<DataFiles> DataFolderObject::dataFiles() const {
     return make<DataFilesObject>(valuesOf<DataFile>(files_));
 }
 
-Ptr<DataFileFuture> DataFolderObject::uploadFile(const std::string& /*filename*/) {
+Ptr<DataFileFuture> DataFolderObject::uploadFile(const std::string& filename) {
     if (denied<"DataFolder::uploadFile">(*this)) return {};
-    notBuilt("DataFolder::uploadFile");
-    return {};
+    return beginUpload(Ptr<DataFolderObject>(this), filename);
 }
 
 void DataFolderObject::refresh() {

@@ -161,7 +161,7 @@ void Session::openForeignDocument() {
 void Session::save(const std::filesystem::path& file) {
     saveDesignFile(absolute(file), design());
     if (data_) {
-        data_->tie(document_, absolute(file));
+        data_->tie(Application::current()->document(), absolute(file));
     }
 }
 
@@ -175,7 +175,27 @@ void Session::useData(UserDataSetup setup) {
     Application::current()->setData(data_->api());
 }
 
-DesignData Session::design() const { return snapshot(document_); }
+DesignData Session::design() const { return snapshot(Application::current()->document()); }
+
+std::vector<DesignData> Session::designsOpenedByModule() const {
+    std::vector<DesignData> designs;
+    for (const Ptr<Document>& each : Application::current()->openedInHost()) {
+        designs.push_back(snapshot(each));
+    }
+    return designs;
+}
+
+void Session::editSketch(std::size_t component, std::size_t sketch) {
+    const Ptr<Application> application = Application::current();
+    const Ptr<adsk::fusion::Sketch> edited = sketchOf(application->document(), component, sketch);
+    if (!edited) {
+        throw SessionError("component " + std::to_string(component) + " has no sketch " +
+                           std::to_string(sketch));
+    }
+    application->setActiveEditObject(edited);
+}
+
+void Session::leaveSketch() { Application::current()->setActiveEditObject(nullptr); }
 
 void Session::press(const std::string& commandId) { pressCommand(commandId); }
 
@@ -220,7 +240,7 @@ void Session::activateTab(const std::string& id) {
 }
 
 void Session::pick(const std::string& path) {
-    host::pick(inBrowserTree(designOf(document_), path));
+    host::pick(inBrowserTree(designOf(Application::current()->document()), path));
 }
 
 void Session::selectRow(const std::string& tableId, int row) {

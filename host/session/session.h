@@ -19,6 +19,7 @@
 #include <Fusion/FusionAll.h>
 
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -131,6 +132,16 @@ public:
 
     /// The open design as it is now.
     [[nodiscard]] DesignData design() const;
+
+    /// The designs that the module opened as documents of their own, oldest first.
+    [[nodiscard]] std::vector<DesignData> designsOpenedByModule() const;
+
+    /// Begins to edit a sketch of the open design; components and their sketches are counted as in
+    /// its `DesignData`. Raises a `SessionError` where there is none.
+    void editSketch(std::size_t component, std::size_t sketch);
+
+    /// Goes back to editing the component.
+    void leaveSketch();
     /// @}
 
     /// @name Hands

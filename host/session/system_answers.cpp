@@ -1,5 +1,6 @@
 #include "host/session/system_answers.h"
 
+#include "host/base/clock.h"
 #include "host/session/environment.h"
 #include "host/ui/messages.h"
 
@@ -71,6 +72,7 @@ StandInAnswer standin_sleep(int milliseconds) {
         return StandInAnswer::NotMine;
     }
     state().sleeps.push_back(milliseconds);
+    host::clock::pass(std::chrono::milliseconds(milliseconds));
     return state().answers.sleepTakesTime ? StandInAnswer::NotMine : StandInAnswer::Done;
 }
 

@@ -1,13 +1,19 @@
 #include "host/ui/application.h"
 
+#include "host/base/clock.h"
 #include "host/base/last_error.h"
+#include "host/cloud/storage_pace.h"
 #include "host/design/document.h"
+#include "host/ui/file_dialog.h"
 #include "host/ui/main_queue.h"
+#include "host/ui/progress_dialog.h"
 
 #include <Core/Data.h>
 #include <Core/Import.h>
 #include <Fusion/Component.h>
 #include <Fusion/Design.h>
+
+#include <utility>
 
 namespace host {
 namespace {
@@ -26,7 +32,10 @@ constexpr const char* kDesignType = "DesignProductType";
 }  // namespace
 
 Application::Application(const HostSetup& setup)
-    : ui_(make<ui::UserInterface>(setup)), preferences_(make<ui::Preferences>()) {}
+    : ui_(make<ui::UserInterface>(setup)),
+      preferences_(make<ui::Preferences>()),
+      documents_(make<DocumentsObject>()),
+      importManager_(make<ImportManagerObject>()) {}
 
 Ptr<Application> Application::current() { return running(); }
 
@@ -61,14 +70,12 @@ Ptr<core::Data> Application::data() const {
 
 Ptr<core::Documents> Application::documents() const {
     if (closed<"Application::documents">(*this)) return {};
-    notBuilt("Application::documents");
-    return {};
+    return documents_;
 }
 
 Ptr<core::ImportManager> Application::importManager() const {
     if (closed<"Application::importManager">(*this)) return {};
-    notBuilt("Application::importManager");
-    return {};
+    return importManager_;
 }
 
 Ptr<core::Preferences> Application::preferences() const {
@@ -86,9 +93,10 @@ int Application::getLastError(std::string* description) const {
 
 void Application::setActiveDocument(const Ptr<core::Document>& document,
                                     const Ptr<core::Product>& product) {
-    if (ui_->runner().active()) {
+    if (ui_->runner().active() && !ui_->runner().isExecuting()) {
         ui_->runner().end(core::SessionEndingTerminationReason);
     }
+    documents_->add(document);
     ui_->selections().list.clear();
     const gate::Outside outside;
     const Ptr<adsk::fusion::Design> design = designOf(document);
@@ -97,6 +105,13 @@ void Application::setActiveDocument(const Ptr<core::Document>& document,
     otherProduct_ = otherProductOf(document);
     root_ = design ? design->rootComponent() : nullptr;
     editObject_ = nullptr;
+}
+
+Ptr<core::Document> Application::openInHost(DesignData data) {
+    Ptr<core::Document> document = makeDocument(std::move(data), Ptr<Application>(this));
+    documents_->own(document);
+    setActiveDocument(document);
+    return document;
 }
 
 void Application::setData(const Ptr<core::Data>& data) { data_ = data; }
@@ -112,6 +127,8 @@ std::uint64_t Application::editsOfModel() const { return document_ ? editCount(d
 void Application::dispose() {
     ui_->dispose();
     preferences_->dispose();
+    documents_->dispose();
+    importManager_->invalidate();
     data_ = nullptr;
     document_ = nullptr;
     product_ = nullptr;
@@ -126,6 +143,10 @@ Ptr<Application> startHost(const HostSetup& setup) {
     lastError() = {};
     clearMisuses();
     ui::resetMessages();
+    ui::resetFileDialogs();
+    storagePace() = {};
+    ui::startWaits(setup.longestWait);
+    clock::start(setup.clock);
     running() = make<Application>(setup);
     return running();
 }
@@ -135,6 +156,7 @@ void endHost() {
     running()->dispose();
     running() = nullptr;
     ui::forgetPosted();
+    clock::start(clock::Pace::Standing);
 }
 
 }  // namespace host

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "host/cloud/documents.h"
+#include "host/design/design_data.h"
+#include "host/import/import_manager.h"
 #include "host/ui/host_setup.h"
 #include "host/ui/messages.h"
 #include "host/ui/misuse.h"
@@ -39,11 +42,20 @@ public:
     /// @name For whoever started it
     /// @{
 
-    /// Makes a document the active one. A running command ends, since its document goes; what was
-    /// selected is no longer. In workspaces for designs `product` is what is shown of it: its
-    /// design where that is null.
+    /// Makes a document the active one. A running command ends, since its document goes, unless it
+    /// is inside its execution; what was selected is no longer. In workspaces for designs `product`
+    /// is what is shown of it: its design where that is null.
     void setActiveDocument(const adsk::core::Ptr<adsk::core::Document>& document,
                            const adsk::core::Ptr<adsk::core::Product>& product = nullptr);
+
+    /// Opens a design as a document of the host's own, which it ends itself, and makes it the
+    /// active one. A command that is inside its execution goes on.
+    adsk::core::Ptr<adsk::core::Document> openInHost(DesignData data);
+
+    /// The documents that were opened so and are still open, oldest first.
+    [[nodiscard]] const std::vector<adsk::core::Ptr<adsk::core::Document>>& openedInHost() const {
+        return documents_->owned();
+    }
 
     /// Gives the host the user's projects; null takes them away.
     void setData(const adsk::core::Ptr<adsk::core::Data>& data);
@@ -69,6 +81,8 @@ public:
 private:
     adsk::core::Ptr<ui::UserInterface> ui_;
     adsk::core::Ptr<ui::Preferences> preferences_;
+    adsk::core::Ptr<DocumentsObject> documents_;
+    adsk::core::Ptr<ImportManagerObject> importManager_;
     adsk::core::Ptr<adsk::core::Data> data_;
     adsk::core::Ptr<adsk::core::Document> document_;
     adsk::core::Ptr<adsk::core::Product> product_;

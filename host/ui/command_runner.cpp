@@ -5,6 +5,7 @@
 #include "host/ui/user_interface.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace host::ui {
@@ -26,6 +27,33 @@ public:
 
 private:
     int& counter_;
+};
+
+/// While it lives, a command that waits is out of the way: nothing is at work, and if it is the one
+/// that runs, none runs.
+class StandingBack {
+public:
+    StandingBack(core::Ptr<Command>& active, bool standsBack, int& busy, int& notifying)
+        : active_(active),
+          waiting_(standsBack ? std::exchange(active, nullptr) : nullptr),
+          busy_(busy),
+          notifying_(notifying),
+          before_(std::exchange(busy, 0), std::exchange(notifying, 0)) {}
+    StandingBack(const StandingBack&) = delete;
+    StandingBack& operator=(const StandingBack&) = delete;
+    ~StandingBack() {
+        if (!active_) {
+            active_ = waiting_;
+        }
+        std::tie(busy_, notifying_) = before_;
+    }
+
+private:
+    core::Ptr<Command>& active_;
+    core::Ptr<Command> waiting_;
+    int& busy_;
+    int& notifying_;
+    std::pair<int, int> before_;
 };
 
 SelectionInput& selectionOf(InputState* input) { return static_cast<SelectionInput&>(*input); }
@@ -94,14 +122,15 @@ void CommandRunner::create(const core::Ptr<CommandDefinition>& definition) {
     } else if (!quiet) {
         end(core::AbortedTerminationReason);
     } else if (command->executesByItself()) {
-        end(execute() ? core::CompletedTerminationReason : core::AbortedTerminationReason);
+        const bool executed = execute();
+        end(command, executed ? core::CompletedTerminationReason : core::AbortedTerminationReason);
     }
 }
 
 void CommandRunner::show() {
     const core::Ptr<Command> command = active_;
     command->show();
-    fireCommand(command->activateEvent);
+    fireCommand(command, command->activateEvent);
     takeCurrentSelections();
     if (active_ == command) {
         validate();
@@ -258,19 +287,24 @@ void CommandRunner::accept() {
         end(core::CompletedTerminationReason);
         return;
     }
-    end(execute() ? core::CompletedTerminationReason : core::AbortedTerminationReason);
+    const core::Ptr<Command> command = active_;
+    const bool executed = execute();
+    end(command, executed ? core::CompletedTerminationReason : core::AbortedTerminationReason);
 }
 
 bool CommandRunner::execute() {
+    const core::Ptr<Command> command = active_;
     takeBackPreview();
     const std::uint64_t edits = ui_->editsOfModel();
     if (ui_->history.mark) {
         ui_->history.mark();
     }
-    const auto arguments = make<CommandArguments>(active_->executeEvent, active_);
+    const auto arguments = make<CommandArguments>(command->executeEvent, command);
     {
         const Counting notifying(notifying_);
-        active_->executeEvent->fire(arguments);
+        executing_.push_back(command);
+        command->executeEvent->fire(arguments);
+        executing_.pop_back();
     }
     if (arguments->failed()) {
         if (ui_->history.takeBack) {
@@ -324,10 +358,14 @@ bool CommandRunner::terminate() {
 }
 
 void CommandRunner::end(core::CommandTerminationReason reason) {
-    const Counting busy(busy_);
     const core::Ptr<Command> command = active_;
+    end(command, reason);
+}
+
+void CommandRunner::end(const core::Ptr<Command>& command, core::CommandTerminationReason reason) {
+    const Counting busy(busy_);
     takeBackPreview();
-    fireCommand(command->deactivateEvent);
+    fireCommand(command, command->deactivateEvent);
     {
         const Counting notifying(notifying_);
         command->destroyEvent->fire(make<CommandArguments>(command->destroyEvent, command, reason));
@@ -335,9 +373,12 @@ void CommandRunner::end(core::CommandTerminationReason reason) {
     for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
         selectionOf(each).dropAll();
     }
-    active_ = nullptr;
-    codeChanged_.clear();
-    asked_ = Asked::Nothing;
+    // Another one stands there where it was started while this one waited.
+    if (active_ == command) {
+        active_ = nullptr;
+        codeChanged_.clear();
+        asked_ = Asked::Nothing;
+    }
     const core::Ptr<CommandDefinition> definition = command->definition();
     command->dispose();
     const Counting notifying(notifying_);
@@ -353,9 +394,23 @@ void CommandRunner::dispose() {
     requested_.clear();
 }
 
-bool CommandRunner::fireCommand(const core::Ptr<CommandEvent>& event) {
+bool CommandRunner::fireCommand(const core::Ptr<Command>& command,
+                                const core::Ptr<CommandEvent>& event) {
     const Counting notifying(notifying_);
-    return event->fire(make<CommandArguments>(event, active_));
+    return event->fire(make<CommandArguments>(event, command));
+}
+
+bool CommandRunner::isExecuting() const {
+    return active_ && std::find(executing_.begin(), executing_.end(), active_) != executing_.end();
+}
+
+void CommandRunner::whileWaiting(const std::function<void()>& work) {
+    if (executing_.empty()) {
+        work();
+        return;
+    }
+    const StandingBack waiting(active_, isExecuting(), busy_, notifying_);
+    work();
 }
 
 }  // namespace host::ui

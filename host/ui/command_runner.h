@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -72,6 +73,13 @@ public:
     /// True while a command is at work, so that a person has to wait.
     [[nodiscard]] bool isBusy() const { return busy_ > 0; }
 
+    /// True while the command that runs is inside its execution.
+    [[nodiscard]] bool isExecuting() const;
+
+    /// Does what came in while a command's execution waits for the host. A person can act
+    /// meanwhile: the waiting command stands back and goes on afterwards, whatever was started.
+    void whileWaiting(const std::function<void()>& work);
+
     /// Ends the running command and forgets what was asked for; the host ends.
     void dispose();
 
@@ -87,11 +95,12 @@ private:
     void validate();
     void preview();
     void takeBackPreview();
+    void end(const core::Ptr<Command>& command, core::CommandTerminationReason reason);
     [[nodiscard]] std::string refusalByInputs() const;
     bool execute();
     void obeyCode();
     void preEmpt();
-    bool fireCommand(const core::Ptr<CommandEvent>& event);
+    bool fireCommand(const core::Ptr<Command>& command, const core::Ptr<CommandEvent>& event);
 
     UserInterface* ui_;
     CodeChanges codeChanges_;
@@ -100,6 +109,7 @@ private:
     std::map<std::string, int> starts_;  ///< since a person did something
     int notifying_ = 0;
     int busy_ = 0;
+    std::vector<core::Ptr<Command>> executing_;  ///< each was started while the one before waited
 
     std::uint32_t firstNewSerial_ =
         0;                       ///< inputs from this one on were made by the running handlers

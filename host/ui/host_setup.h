@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/clock.h"
+
 #include <string>
 #include <vector>
 
@@ -29,6 +31,13 @@ struct HostSetup {
         {"FusionDocumentationEnvironment", "Drawing", "DrawingProductType"},
     };
     CodeChanges codeChanges = CodeChanges::Lists;
+
+    /// Whether waiting takes a module real time.
+    clock::Pace clock = clock::Pace::Standing;
+
+    /// How many seconds a progress dialog may wait before the host presses its Cancel: what nobody
+    /// is there to end comes to an end all the same.
+    double longestWait = 86400;
 
     /// Whether the panel for scripts and add-ins holds the control "RepeatCommand".
     bool repeatControl = false;

@@ -1,8 +1,10 @@
 #include "host/ui/main_queue.h"
 
+#include "host/base/clock.h"
 #include "host/base/gate.h"
 #include "host/base/last_error.h"
 #include "host/ui/application.h"
+#include "host/ui/progress_dialog.h"
 
 #include <Core/Utils.h>
 
@@ -39,12 +41,23 @@ void runPosted() {
         due.swap(queue().posted);
     }
     const gate::Outside outside;
-    for (const std::function<void()>& each : due) {
-        each();
+    const auto work = [&due] {
+        for (const std::function<void()>& each : due) {
+            each();
+        }
+        clock::runDue();
+        ui::endLongWaits();
+    };
+    const adsk::core::Ptr<Application> application = Application::current();
+    if (!application) {
+        work();
+        return;
     }
-    if (const adsk::core::Ptr<Application> application = Application::current()) {
-        application->ui().runner().settle();
-    }
+    ui::CommandRunner& runner = application->ui().runner();
+    runner.whileWaiting([&] {
+        work();
+        runner.settle();
+    });
 }
 
 bool unloadsAfterRun() { return queue().autoTerminate; }

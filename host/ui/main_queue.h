@@ -9,7 +9,8 @@ namespace host {
 /// thread comes to it: in `runPosted`, or while a module calls `adsk::doEvents`.
 void post(std::function<void()> work);
 
-/// Does what was posted until then. Only the main thread may call it.
+/// Does what was posted until then, and what the clock has planned. Only the main thread may call
+/// it.
 void runPosted();
 
 /// What `adsk::autoTerminate` was last set to; true in the beginning.

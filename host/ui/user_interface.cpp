@@ -1,9 +1,10 @@
 #include "host/ui/user_interface.h"
 
-#include "host/base/last_error.h"
 #include "host/ui/application.h"
 #include "host/ui/entries.h"
+#include "host/ui/file_dialog.h"
 #include "host/ui/messages.h"
+#include "host/ui/progress_dialog.h"
 
 #include <Core/Dialogs.h>
 
@@ -125,14 +126,12 @@ core::DialogResults UserInterface::messageBox(const std::string& text, const std
 
 core::Ptr<core::FileDialog> UserInterface::createFileDialog() {
     if (closed<"UserInterface::createFileDialog">(*this)) return {};
-    notBuilt("UserInterface::createFileDialog");
-    return {};
+    return make<FileDialog>();
 }
 
 core::Ptr<core::ProgressDialog> UserInterface::createProgressDialog() {
     if (closed<"UserInterface::createProgressDialog">(*this)) return {};
-    notBuilt("UserInterface::createProgressDialog");
-    return {};
+    return make<ProgressDialog>();
 }
 
 bool UserInterface::terminateActiveCommand() {

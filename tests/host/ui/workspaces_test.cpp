@@ -112,12 +112,12 @@ TEST_F(WorkspaceTest, ADocumentCanBeShownWithAnotherProduct) {
 }
 
 TEST_F(WorkspaceTest, WhatIsNotBuiltRefusesByName) {
-    EXPECT_FALSE(app()->data());
-    EXPECT_FALSE(ui()->createFileDialog());
+    ui()->activeSelections()->add(designOf(document)->rootComponent());
+    EXPECT_FALSE(ui()->activeSelections()->item(0)->point());
 
     std::string text;
     app()->getLastError(&text);
-    EXPECT_EQ(text, "UserInterface::createFileDialog is not part of the stand-in host");
+    EXPECT_EQ(text, "Selection::point is not part of the stand-in host");
 }
 
 TEST_F(WorkspaceTest, TheLanguageIsEnglishUntilItIsSet) {

@@ -1,0 +1,21 @@
+#pragma once
+
+namespace host {
+
+/// How long the user's storage takes for what a module uploads, by the clock of the host, and what
+/// goes wrong there. As it stands: nothing takes time and all goes well.
+struct StoragePace {
+    double uploadSeconds = 0;
+    bool uploadFails = false;  ///< at the end of that time
+
+    /// From the end of an upload until the file can be opened.
+    double conversionSeconds = 0;
+
+    int conversionsYieldingNothing = 0;  ///< so many tries to open a file yield null
+    int conversionsRaising = 0;          ///< so many tries, before those, raise an exception
+};
+
+/// How the storage of the host that runs behaves; to be changed by whoever started it.
+StoragePace& storagePace();
+
+}  // namespace host

@@ -1,0 +1,102 @@
+#include "host/cloud/upload.h"
+
+#include "host/base/clock.h"
+#include "host/base/last_error.h"
+#include "host/cloud/storage_pace.h"
+#include "host/design/denied.h"
+#include "host/import/found_file.h"
+#include "host/session/utf8_path.h"
+
+#include <exception>
+#include <functional>
+#include <system_error>
+
+namespace host {
+
+namespace fs = std::filesystem;
+using adsk::core::DataFile;
+using adsk::core::DataFileFuture;
+using adsk::core::Ptr;
+using adsk::core::UploadStates;
+
+namespace {
+
+/// A name that no listing shows, in the same folder: what is half copied is no file of the user's.
+fs::path hiddenBeside(const fs::path& path) {
+    fs::path name = ".";
+    name += path.filename();
+    name += ".uploading";
+    return path.parent_path() / name;
+}
+
+void copyWhole(const fs::path& source, const fs::path& target) {
+    const fs::path half = hiddenBeside(target);
+    try {
+        fs::copy_file(source, half, fs::copy_options::overwrite_existing);
+        fs::rename(half, target);
+    } catch (const fs::filesystem_error&) {
+        std::error_code ignored;
+        fs::remove(half, ignored);
+        throw;
+    }
+}
+
+/// What happens to an upload when its time has come.
+std::function<void()> endOf(const Ptr<UploadObject>& upload, const std::string& filename) {
+    if (storagePace().uploadFails) {
+        return [upload] { upload->fail("the storage does not take the file"); };
+    }
+    try {
+        return [upload, source = foundFile(filename), name = fromUtf8(filename).filename()] {
+            upload->arrive(source, name);
+        };
+    } catch (const std::exception& error) {
+        return [upload, why = std::string(error.what())] { upload->fail(why); };
+    }
+}
+
+}  // namespace
+
+UploadStates UploadObject::uploadState() const {
+    if (denied<"DataFileFuture::uploadState">(*this)) return {};
+    return state_;
+}
+
+Ptr<DataFile> UploadObject::dataFile() const {
+    if (denied<"DataFileFuture::dataFile">(*this)) return {};
+    return file_;
+}
+
+void UploadObject::arrive(const fs::path& source, const fs::path& name) {
+    try {
+        if (!folder_->isValid()) {
+            fail("its folder is gone");
+            return;
+        }
+        copyWhole(source, folder_->path() / name);
+        folder_->refresh();
+        file_ = folder_->file(name);
+    } catch (const fs::filesystem_error& error) {
+        fail(error.what());
+        return;
+    }
+    if (file_) {
+        file_->convertedAt(clock::now() + storagePace().conversionSeconds);
+        state_ = adsk::core::UploadFinished;
+    } else {
+        fail("a name that begins with a dot is passed over");
+    }
+}
+
+void UploadObject::fail(const std::string& why) {
+    host::fail(adsk::core::OperationFailed, "DataFolder::uploadFile: " + why);
+    state_ = adsk::core::UploadFailed;
+}
+
+Ptr<DataFileFuture> beginUpload(const Ptr<DataFolderObject>& folder, const std::string& filename) {
+    Ptr<UploadObject> upload = make<UploadObject>(folder);
+    clock::at(clock::now() + storagePace().uploadSeconds, endOf(upload, filename));
+    return upload;
+}
+
+}  // namespace host

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "host/base/clock.h"
+#include "host/ui/misuse.h"
+
+#include <Core/Dialogs.h>
+
+#include <optional>
+#include <string>
+
+/// The progress dialogs that a module has, and a person's cancelling in them.
+namespace host {
+
+/// A dialog as a person would read it.
+struct Progress {
+    std::string text;  ///< with the numbers in the places of "%v", "%m" and "%p"
+    int value = 0;
+    std::string cancelButton;  ///< empty where it has none
+    bool cancelled = false;
+
+    bool operator==(const Progress&) const = default;
+};
+
+/// The newest progress dialog that a module holds and has not hidden; none without one.
+std::optional<Progress> progressDialog();
+
+/// Presses the cancel button of the newest progress dialog. Raises a `MisuseError` where there is
+/// no dialog or no button.
+void cancelProgress();
+
+namespace ui {
+
+/// Begins anew: dialogs that have waited for so many seconds are cancelled by `endLongWaits`.
+void startWaits(double longestWait);
+
+/// Cancels the dialogs that have waited too long, whether or not they have a button for it.
+void endLongWaits();
+
+class ProgressDialog final : public Object<adsk::core::ProgressDialog> {
+public:
+    ProgressDialog();
+    ProgressDialog(const ProgressDialog&) = delete;
+    ProgressDialog& operator=(const ProgressDialog&) = delete;
+    ~ProgressDialog() override;
+
+    [[nodiscard]] std::string cancelButtonText() const override;
+    bool cancelButtonText(const std::string& value) override;
+    [[nodiscard]] bool isBackgroundTranslucent() const override;
+    bool isBackgroundTranslucent(bool value) override;
+    [[nodiscard]] bool isCancelButtonShown() const override;
+    bool isCancelButtonShown(bool value) override;
+    [[nodiscard]] std::string message() const override;
+    bool message(const std::string& value) override;
+    [[nodiscard]] int progressValue() const override;
+    bool progressValue(int value) override;
+    [[nodiscard]] bool wasCancelled() const override;
+    bool hide() override;
+    bool show(const std::string& title, const std::string& message, int minimumValue,
+              int maximumValue, int delay) override;
+
+    /// @name For the host itself
+    /// @{
+    [[nodiscard]] Progress seen() const;
+    [[nodiscard]] bool isHidden() const { return hidden_; }
+    [[nodiscard]] bool hasCancelButton() const { return cancelButtonShown_; }
+    [[nodiscard]] double madeAt() const { return madeAt_; }
+    void cancel() { cancelled_ = true; }
+    /// @}
+
+private:
+    std::string cancelButtonText_ = "Cancel";
+    bool translucent_ = false;
+    bool cancelButtonShown_ = false;
+    std::string message_;
+    int value_ = 0;
+    int minimum_ = 0;
+    int maximum_ = 100;
+    double madeAt_ = clock::now();
+    bool cancelled_ = false;
+    bool hidden_ = false;
+};
+
+}  // namespace ui
+}  // namespace host

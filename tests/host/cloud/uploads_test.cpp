@@ -1,0 +1,199 @@
+#include "host/base/clock.h"
+#include "host/base/last_error.h"
+#include "host/cloud/storage_pace.h"
+#include "host/cloud/user_data.h"
+#include "host/design/design_file.h"
+#include "host/design/document.h"
+#include "host/design/outline.h"
+#include "host/session/utf8_path.h"
+#include "host/ui/application.h"
+#include "host/ui/main_queue.h"
+#include "tests/support/files.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+using namespace std::chrono_literals;
+
+/// A host whose user has one project, "Workshop", and a folder of files beside the project.
+class Uploads : public testing::Test {
+protected:
+    Uploads() {
+        startHost({});
+        std::filesystem::create_directories(project());
+        std::filesystem::create_directories(folder.path() / "disk");
+        data = std::make_unique<UserData>(
+            UserDataSetup{folder.path() / "data", "", ReferencedFiles::KnownAtOnce});
+        host::Application::current()->setData(data->api());
+    }
+    ~Uploads() override { endHost(); }
+
+    [[nodiscard]] std::filesystem::path project() const {
+        return folder.path() / "data" / "Workshop";
+    }
+
+    [[nodiscard]] std::string disk(const std::string& name) const {
+        return toUtf8(folder.path() / "disk" / fromUtf8(name));
+    }
+
+    [[nodiscard]] std::string design(const std::string& name) const {
+        saveDesignFile(fromUtf8(disk(name)), parseOutline("Bolt"));
+        return disk(name);
+    }
+
+    Ptr<DataFileFuture> upload(const std::string& file) const {
+        return data->api()->activeProject()->rootFolder()->uploadFile(file);
+    }
+
+    static Ptr<Documents> documents() { return adsk::core::Application::get()->documents(); }
+
+    static void wait(std::chrono::milliseconds duration) {
+        clock::pass(duration);
+        runPosted();
+    }
+
+    test_support::TemporaryFolder folder;
+    std::unique_ptr<UserData> data;
+};
+
+TEST_F(Uploads, AreUnderWayUntilTheirTimeHasCome) {
+    storagePace().uploadSeconds = 5;
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+
+    wait(4s);
+    EXPECT_EQ(future->uploadState(), UploadProcessing);
+    EXPECT_FALSE(future->dataFile());
+    EXPECT_FALSE(std::filesystem::exists(project() / "frame.ipt"));
+
+    wait(1s);
+    EXPECT_EQ(future->uploadState(), UploadFinished);
+    EXPECT_EQ(future->dataFile()->name(), "frame");
+    EXPECT_EQ(test_support::readFile(project() / "frame.ipt"),
+              test_support::readFile(fromUtf8(disk("frame.ipt"))));
+}
+
+TEST_F(Uploads, GoOnWhenNobodyHoldsThemAnyMore) {
+    storagePace().uploadSeconds = 5;
+    upload(design("frame.ipt"));
+
+    wait(5s);
+
+    EXPECT_TRUE(std::filesystem::exists(project() / "frame.ipt"));
+}
+
+TEST_F(Uploads, PutAFileInThePlaceOfOneOfItsName) {
+    test_support::writeFile(project() / "frame.ipt", "old");
+
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+    wait(0s);
+
+    EXPECT_EQ(future->uploadState(), UploadFinished);
+    EXPECT_NE(test_support::readFile(project() / "frame.ipt"), "old");
+}
+
+TEST_F(Uploads, FailAtTheEndOfTheirTimeWhereTheStorageFails) {
+    storagePace().uploadSeconds = 2;
+    storagePace().uploadFails = true;
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+
+    wait(1s);
+    EXPECT_EQ(future->uploadState(), UploadProcessing);
+    wait(1s);
+
+    EXPECT_EQ(future->uploadState(), UploadFailed);
+    EXPECT_FALSE(future->dataFile());
+    EXPECT_FALSE(std::filesystem::exists(project() / "frame.ipt"));
+}
+
+TEST_F(Uploads, OfAMissingFileFailByName) {
+    const Ptr<DataFileFuture> future = upload(disk("missing.ipt"));
+    wait(0s);
+
+    EXPECT_EQ(future->uploadState(), UploadFailed);
+    EXPECT_EQ(lastError().description,
+              "DataFolder::uploadFile: " + disk("missing.ipt") + ": there is no such file");
+}
+
+TEST_F(Uploads, OfAFileThatGoesMeanwhileFail) {
+    storagePace().uploadSeconds = 2;
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+
+    std::filesystem::remove(fromUtf8(disk("frame.ipt")));
+    wait(2s);
+
+    EXPECT_EQ(future->uploadState(), UploadFailed);
+}
+
+TEST_F(Uploads, OfAFolderFail) {
+    const Ptr<DataFileFuture> future = upload(toUtf8(folder.path() / "disk"));
+    wait(0s);
+
+    EXPECT_EQ(future->uploadState(), UploadFailed);
+}
+
+TEST_F(Uploads, IntoAFolderThatIsGoneFail) {
+    storagePace().uploadSeconds = 2;
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+
+    std::filesystem::remove_all(project());
+    wait(2s);
+
+    EXPECT_EQ(future->uploadState(), UploadFailed);
+}
+
+TEST_F(Uploads, CanBeOpenedOnceTheyAreConverted) {
+    storagePace().conversionSeconds = 3;
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+    wait(0s);
+
+    EXPECT_FALSE(documents()->open(future->dataFile()));
+    wait(3s);
+    const Ptr<Document> document = documents()->open(future->dataFile());
+
+    ASSERT_TRUE(document);
+    EXPECT_TRUE(document->dataFile() == future->dataFile());
+    EXPECT_TRUE(adsk::core::Application::get()->activeDocument() == document);
+}
+
+TEST_F(Uploads, RaiseAndYieldNothingAsOftenAsTheStorageIsTold) {
+    storagePace().conversionsRaising = 1;
+    storagePace().conversionsYieldingNothing = 1;
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+    wait(0s);
+
+    EXPECT_THROW(documents()->open(future->dataFile()), std::runtime_error);
+    EXPECT_FALSE(documents()->open(future->dataFile()));
+    EXPECT_TRUE(documents()->open(future->dataFile()));
+}
+
+TEST_F(Uploads, OfWhatIsNoDesignAreNeverOpened) {
+    test_support::writeFile(fromUtf8(disk("frame.ipt")), "nothing");
+    const Ptr<DataFileFuture> future = upload(disk("frame.ipt"));
+    wait(0s);
+
+    EXPECT_FALSE(documents()->open(future->dataFile()));
+    EXPECT_FALSE(documents()->open(nullptr));
+}
+
+TEST_F(Uploads, DocumentsListsWhatIsOpen) {
+    const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
+    wait(0s);
+    const std::size_t before = documents()->count();
+
+    const Ptr<Document> document = documents()->open(future->dataFile());
+
+    EXPECT_EQ(documents()->count(), before + 1);
+    EXPECT_TRUE(documents()->item(before) == document);
+    EXPECT_FALSE(documents()->item(before + 1));
+}
+
+}  // namespace
+}  // namespace host
