@@ -4,8 +4,10 @@
 #include "tarnix/platform/processor.h"
 #include "tarnix/platform/screen.h"
 #include "tarnix/platform/shell.h"
+#include "tarnix/platform/top_windows.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 /// The operations that a stand-in process may answer, as the system itself answers them. The add-in
@@ -33,5 +35,8 @@ WindowOnScreen findWindow(const std::string& title);
 
 /// As `tarnix::platform::processorInformation`.
 ProcessorRegisters processorInformation(std::uint32_t leaf);
+
+/// As `tarnix::platform::visitTopWindows`.
+void visitTopWindows(const std::function<bool(const TopWindow&)>& visit);
 
 }  // namespace tarnix::platform::native

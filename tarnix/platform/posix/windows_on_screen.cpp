@@ -2,6 +2,7 @@
 #include "tarnix/platform/posix/x11.h"
 
 #include <string_view>
+#include <vector>
 
 namespace tarnix::platform::native {
 namespace {
@@ -78,6 +79,32 @@ ScreenArea insideOf(const Display& display, xcb_window_t window) {
     return {place->dst_x, place->dst_y, place->dst_x + size->width, place->dst_y + size->height};
 }
 
+/// The windows directly on the screen, the hindmost first: what a window manager calls its clients,
+/// without one the children of the root.
+std::vector<xcb_window_t> topWindows(const Display& display) {
+    constexpr std::uint32_t kMost = 1U << 16U;
+    constexpr std::uint8_t kBitsOfWindow = 32;
+    const xcb_window_t root = display.screen().root;
+    const Owned<xcb_get_property_reply_t> clients(::xcb_get_property_reply(
+        display.connection(),
+        ::xcb_get_property(display.connection(), /*_delete=*/0, root,
+                           atom(display, "_NET_CLIENT_LIST_STACKING"), XCB_GET_PROPERTY_TYPE_ANY,
+                           /*long_offset=*/0, kMost),
+        nullptr));
+    if (clients != nullptr && clients->format == kBitsOfWindow && clients->value_len > 0) {
+        const auto* const first =
+            static_cast<const xcb_window_t*>(::xcb_get_property_value(clients.get()));
+        return {first, first + clients->value_len};
+    }
+    const Owned<xcb_query_tree_reply_t> tree(::xcb_query_tree_reply(
+        display.connection(), ::xcb_query_tree(display.connection(), root), nullptr));
+    if (tree == nullptr) {
+        return {};
+    }
+    const xcb_window_t* const first = ::xcb_query_tree_children(tree.get());
+    return {first, first + ::xcb_query_tree_children_length(tree.get())};
+}
+
 }  // namespace
 
 ScreenArea virtualScreen() {
@@ -96,6 +123,22 @@ WindowOnScreen findWindow(const std::string& title) {
     const xcb_window_t window =
         findBelow(display, display.screen().root, atom(display, "_NET_WM_NAME"), title, kLevels);
     return window != 0 ? WindowOnScreen{window, insideOf(display, window)} : WindowOnScreen();
+}
+
+void visitTopWindows(const std::function<bool(const TopWindow&)>& visit) {
+    const Display display;
+    if (!display) {
+        return;
+    }
+    const xcb_atom_t utf8Title = atom(display, "_NET_WM_NAME");
+    const std::vector<xcb_window_t> windows = topWindows(display);
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        const TopWindow shown = {titleOf(display, *window, utf8Title),
+                                 [&display, window] { return insideOf(display, *window); }};
+        if (!visit(shown)) {
+            return;
+        }
+    }
 }
 
 }  // namespace tarnix::platform::native

@@ -1,0 +1,43 @@
+#include "tarnix/platform/top_windows.h"
+
+#include "tarnix/platform/native.h"
+#include "tarnix/platform/process_function.h"
+
+#include <StandIn/Process.h>
+
+#include <exception>
+
+namespace tarnix::platform {
+namespace {
+
+/// The caller's visitor, and what it raised: no exception may cross the process's C function.
+struct Visit {
+    const std::function<bool(const TopWindow&)>& visitor;
+    std::exception_ptr raised;
+};
+
+int visitOne(void* context, const char* title, const StandInArea* inside) {
+    auto& visit = *static_cast<Visit*>(context);
+    const ScreenArea area = {inside->left, inside->top, inside->right, inside->bottom};
+    try {
+        return visit.visitor({title, [area] { return area; }}) ? 1 : 0;
+    } catch (...) {
+        visit.raised = std::current_exception();
+        return 0;
+    }
+}
+
+}  // namespace
+
+void visitTopWindows(const std::function<bool(const TopWindow&)>& visitor) {
+    using Question = decltype(&standin_visitWindows);
+    const auto ask = reinterpret_cast<Question>(processFunction("standin_visitWindows"));
+    Visit visit = {visitor, nullptr};
+    if (ask == nullptr || ask(&visitOne, &visit) == StandInAnswer::NotMine) {
+        native::visitTopWindows(visitor);
+    } else if (visit.raised) {
+        std::rethrow_exception(visit.raised);
+    }
+}
+
+}  // namespace tarnix::platform

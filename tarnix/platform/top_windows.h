@@ -1,0 +1,26 @@
+#pragma once
+
+#include "tarnix/platform/screen.h"
+
+#include <functional>
+#include <string>
+
+/// The windows that stand on the screen.
+namespace tarnix::platform {
+
+/// A window that lies in no other.
+struct TopWindow {
+    std::string title;  ///< in UTF-8; empty for none
+
+    /// Where it is without its frame; empty where the window is gone by now. To be called during
+    /// the visit alone.
+    std::function<ScreenArea()> clientArea;
+};
+
+/// Shows all top-level windows of the screen to `visit`, the foremost first, hidden ones among
+/// them, until it yields false. What `visit` raises ends the visits and is raised from here.
+///
+/// A process without a screen has no windows.
+void visitTopWindows(const std::function<bool(const TopWindow&)>& visit);
+
+}  // namespace tarnix::platform
