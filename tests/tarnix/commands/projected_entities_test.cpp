@@ -1,0 +1,115 @@
+#include "tests/support/addin_test.h"
+
+#include "host/base/gate.h"
+#include "host/design/document.h"
+#include "host/ui/application.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using adsk::core::Ptr;
+using host::SketchCurveData;
+
+constexpr const char* kCommand = "QM_TX_projectedEntitiesAsConstruction";
+
+class ProjectedEntities : public test_support::AddinTest {
+protected:
+    /// Opens a part with one sketch of these curves.
+    void openSketch(std::vector<SketchCurveData> curves) {
+        host::DesignData design;
+        design.name = "Plate";
+        design.components.emplace_back().name = "Plate";
+        design.components.front().sketches = {{"Outline", std::move(curves)}};
+        session->openDesign(std::move(design));
+    }
+
+    /// Begins to edit the sketch, as a double click on it does.
+    static void edit() {
+        const Ptr<host::Application> application = host::Application::current();
+        application->setActiveEditObject(host::sketchOf(application->document(), 0, 0));
+    }
+
+    [[nodiscard]] std::vector<SketchCurveData> curves() const {
+        return session->design().components.front().sketches.front().curves;
+    }
+};
+
+constexpr SketchCurveData kDrawn = {.reference = false, .construction = false};
+constexpr SketchCurveData kDrawnToHelp = {.reference = false, .construction = true};
+constexpr SketchCurveData kProjected = {.reference = true, .construction = false};
+constexpr SketchCurveData kProjectedToHelp = {.reference = true, .construction = true};
+
+using Curves = std::vector<SketchCurveData>;
+
+TEST_F(ProjectedEntities, SketchWithNoCurvesNothingHappens) {
+    openSketch({});
+    edit();
+
+    session->press(kCommand);
+
+    EXPECT_EQ(curves(), Curves());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ProjectedEntities, StartedWithAComponentUnderEditNothingHappensAndNoMessageIsShown) {
+    openSketch({kProjected, kDrawn});
+
+    session->press(kCommand);
+
+    EXPECT_EQ(curves(), (Curves{kProjected, kDrawn}));
+    EXPECT_TRUE(session->messages().empty());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ProjectedEntities, ProjectedCurvesBecomeConstructionGeometryAndDrawnOnesStayAsTheyWere) {
+    openSketch({kDrawn, kProjected, kDrawnToHelp, kProjectedToHelp, kProjected});
+    edit();
+
+    session->press(kCommand);
+
+    EXPECT_EQ(curves(),
+              (Curves{kDrawn, kProjectedToHelp, kDrawnToHelp, kProjectedToHelp, kProjectedToHelp}));
+    EXPECT_FALSE(session->dialogOpen());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ProjectedEntities, CurveThatIsConstructionAlreadyIsSetAgain) {
+    openSketch({kProjectedToHelp, kDrawn});
+    edit();
+    host::gate::reset();
+
+    session->press(kCommand);
+
+    EXPECT_EQ(host::gate::count("SketchCurve::isConstruction"), 1U);
+    EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kDrawn}));
+}
+
+TEST_F(ProjectedEntities, RaisesWhereTheHostGivesNoCurves) {
+    openSketch({kProjected});
+    edit();
+    host::gate::refuse("Sketch::sketchCurves", 1);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(curves(), Curves{kProjected});
+}
+
+TEST_F(ProjectedEntities, WithoutACommandNothingIsAttached) {
+    openSketch({kProjected});
+    edit();
+    host::gate::refuse("CommandCreatedEventArgs::command", 1);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(curves(), Curves{kProjected});
+}
+
+}  // namespace
