@@ -1,8 +1,45 @@
 #include "tarnix/commands/online_models.h"
 
 namespace tarnix {
+namespace {
 
-void OnLineLibraryCreateEventHandler::notify(
-    const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& /*eventArgs*/) {}
+using namespace adsk::core;
+
+constexpr const char* kPaletteId = "onLineModels";
+constexpr const char* kPage = "http://www.tarnix.example/download/CAM/f360/fusion_pruvodce.htm";
+
+/// The host's palettes, null where it has none to give.
+Ptr<Palettes> hostPalettes() {
+    const Ptr<Application> application = Application::get();
+    const Ptr<UserInterface> userInterface =
+        application ? application->userInterface() : Ptr<UserInterface>();
+    return userInterface ? userInterface->palettes() : Ptr<Palettes>();
+}
+
+void addPalette(const Ptr<Palettes>& palettes) {
+    const Ptr<Palette> palette =
+        palettes->add(kPaletteId, "On-Line models", kPage, /*isVisible=*/true,
+                      /*showCloseButton=*/true, /*isResizable=*/true, /*width=*/350, /*height=*/300,
+                      /*useNewWebBrowser=*/false);
+    palette->dockingState(PaletteDockStateLeft);
+}
+
+}  // namespace
+
+void OnLineLibraryExecuteHandler::notify(const Ptr<CommandEventArgs>& /*eventArgs*/) {
+    const Ptr<Palettes> palettes = hostPalettes();
+    if (!palettes) {
+        return;
+    }
+    if (const Ptr<Palette> palette = palettes->itemById(kPaletteId)) {
+        palette->isVisible(true);
+    } else {
+        addPalette(palettes);
+    }
+}
+
+void OnLineLibraryCreateEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
+    eventArgs->command()->execute()->add(&executeHandler_);
+}
 
 }  // namespace tarnix

@@ -4,10 +4,23 @@
 
 namespace tarnix {
 
-/// Answers the command "Units Conversion".
+/// Carries out "Units Conversion": shows the palette with the converter in the lower right corner
+/// of the host's main window, wherever the user had moved it.
+///
+/// The foremost window with the host's name in its title is taken for that window; where none has
+/// it, nothing happens.
+class UnitsConversionCmdExecuteHandler final : public adsk::core::CommandEventHandler {
+public:
+    void notify(const adsk::core::Ptr<adsk::core::CommandEventArgs>& eventArgs) override;
+};
+
+/// Answers the start of the command "Units Conversion", which has no dialog.
 class UnitsConversionCmdCreateEventHandler final : public adsk::core::CommandCreatedEventHandler {
 public:
     void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
+
+private:
+    UnitsConversionCmdExecuteHandler executeHandler_;
 };
 
 }  // namespace tarnix

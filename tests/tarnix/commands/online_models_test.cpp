@@ -1,0 +1,73 @@
+#include "tests/tarnix/commands/palette_test.h"
+
+#include "host/base/gate.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace adsk::core;
+
+constexpr const char* kCommand = "QM_TX_onLineLibrary";
+constexpr const char* kPalette = "onLineModels";
+
+using OnLineModels = PaletteTest;
+
+TEST_F(OnLineModels, OpensAPaletteDockedAtTheLeft) {
+    session->press(kCommand);
+
+    const Ptr<Palette> shown = palette(kPalette);
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->name(), "On-Line models");
+    EXPECT_TRUE(shown->isVisible());
+    EXPECT_EQ(shown->dockingState(), PaletteDockStateLeft);
+    EXPECT_EQ(shown->width(), 350);
+    EXPECT_EQ(shown->height(), 300);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OnLineModels, ShowsThePageOfTheMakersSite) {
+    session->press(kCommand);
+
+    const std::string address = palette(kPalette)->htmlFileURL();
+    const std::string path = "/download/CAM/f360/fusion_pruvodce.htm";
+    EXPECT_EQ(address.substr(0, 7), "http://");
+    EXPECT_EQ(address.substr(address.size() - path.size()), path);
+}
+
+TEST_F(OnLineModels, SecondExecutionCreatesNoSecondPaletteAndMakesTheFirstOneVisibleAgain) {
+    session->press(kCommand);
+    const Ptr<Palette> first = palette(kPalette);
+    first->isVisible(false);
+    first->setPosition(11, 22);
+    first->setSize(333, 444);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(palettes()->count(), 1U);
+    EXPECT_TRUE(palette(kPalette) == first);
+    EXPECT_TRUE(first->isVisible());
+    EXPECT_EQ(placeOf(first), (std::vector<int>{11, 22, 333, 444}));
+    EXPECT_EQ(first->dockingState(), PaletteDockStateFloating);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OnLineModels, WithoutTheHostsPalettesNothingHappens) {
+    host::gate::refuse("UserInterface::palettes", 1);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(palettes()->count(), 0U);
+    EXPECT_TRUE(session->messages().empty());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OnLineModels, StopRemovesThePalette) {
+    session->press(kCommand);
+
+    stop();
+
+    EXPECT_EQ(palettes()->count(), 0U);
+}
+
+}  // namespace

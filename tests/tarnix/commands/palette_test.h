@@ -1,0 +1,33 @@
+#pragma once
+
+#include "tests/support/addin_test.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A test of a command that shows a palette, at a screen of the test's own.
+class PaletteTest : public test_support::AddinTest {
+protected:
+    /// The windows on the screen, the foremost first.
+    std::vector<host::WindowShown> windows;
+
+    [[nodiscard]] host::SessionOptions options() const override {
+        host::SessionOptions with = AddinTest::options();
+        with.system.windows = windows;
+        return with;
+    }
+
+    static adsk::core::Ptr<adsk::core::Palettes> palettes() {
+        return adsk::core::Application::get()->userInterface()->palettes();
+    }
+
+    static adsk::core::Ptr<adsk::core::Palette> palette(const std::string& id) {
+        return palettes()->itemById(id);
+    }
+
+    /// Left, top, width and height.
+    static std::vector<int> placeOf(const adsk::core::Ptr<adsk::core::Palette>& palette) {
+        return {palette->left(), palette->top(), palette->width(), palette->height()};
+    }
+};
