@@ -1,0 +1,166 @@
+#include "tests/tarnix/commands/open_local_file_test.h"
+
+#include "host/base/gate.h"
+#include "host/base/last_error.h"
+#include "host/ui/file_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+namespace {
+
+using OpenLocalFile = OpenLocalFileTest;
+
+std::uint64_t calls(const std::string& name) { return host::gate::count(name); }
+
+constexpr const char* kFilter =
+    "Supported Files(*.wire; *.dwg; *.f3d; *.f2d; *.cam360; *.iam; *.ipt; *.CATProduct; *.CATPart; "
+    "*.dxf; *.fbx; *.igs; *.ige; *.iges; *.prt; *.obj; *.x_b; *.x_t; *.prt; *.asm; *.g; *.neu; "
+    "*.3dm; *.sat; *.smb; *.smt; *.sab; *.asm; *.sldprt; *.sldasm; *.prt; *.step; *.stp; *.ste; "
+    "*.stl; *.sku);; Alias files(*.wire);;AutoCAD DWG files(*.dwg);;Autodesk Fusion 360 "
+    "files(*.f3d);;Autodesk Fusion 360 Drawing files(*.f2d);;Autodesk Fusion 360 Toolpath "
+    "files(*.cam360);;Autodesk Inventor files(*.iam; *.ipt);; Catia V5 files(*.CATProduct; "
+    "*.CATPart);;DXF files(*.dxf);;FBX files(*.fbx);;IGES files(*.iges; *.ige; *.igs);;NX "
+    "files(*.prt);;OBJ files(*.obj);;Parasolid Binary files(*.x_b);;Parasolid Text "
+    "files(*.x_t);;Pro / ENGINEER and Creo Parametric files(*.asm; *.prt);;Pro / ENGINEER Granite "
+    "files(*.g);;Pro / ENGINEER Neutral files(*.neu);;Rhino files(*.3dm);;SAT / SMT files(*.sab; "
+    "*.sat; *.smb; *.smt);;SolidWorks files(*.prt; *.asm; *.sldprt; *.sldasm);;STEP files(*.ste; "
+    "*.step; *.stp);;STL files(*.stl);; SketchUp files(*.sku);;All Files(*.*)";
+
+TEST_F(OpenLocalFile, AsksForSeveralFilesOfManyKinds) {
+    pickNothing();
+
+    host::FileDialogShown expected;
+    expected.title = "Select local file to open/import";
+    expected.filter = kFilter;
+    expected.multiSelect = true;
+    EXPECT_EQ(host::fileDialogs(), std::vector<host::FileDialogShown>{expected});
+}
+
+TEST_F(OpenLocalFile, FirstPickCancelledThereIsNothingToDo) {
+    host::gate::reset();
+
+    pickNothing();
+
+    EXPECT_EQ(calls("UserInterface::terminateActiveCommand"), 1U);
+    EXPECT_EQ(calls("Application::importManager"), 0U);
+    EXPECT_EQ(calls("Application::data"), 0U);
+    EXPECT_EQ(opened(), Texts());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, LaterPickCancelledTheEarlierListRunsAgain) {
+    pick({design("part.f3d")});
+
+    pickNothing();
+
+    EXPECT_EQ(opened(), (Texts{"part", "part"}));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, NextPickReplacesTheList) {
+    pick({design("first.f3d")});
+
+    pick({design("second.f3d")});
+
+    EXPECT_EQ(opened(), (Texts{"first", "second"}));
+}
+
+TEST_F(OpenLocalFile, ImportedDocumentBecomesTheActiveOne) {
+    pick({design("bracket.f3d")});
+
+    EXPECT_EQ(session->design().name, "bracket");
+    EXPECT_EQ(session->design().components.at(1).name, "Plate");
+    EXPECT_EQ(messages(), Texts());
+}
+
+TEST_F(OpenLocalFile, EachExtensionHasItsFactory) {
+    host::gate::reset();
+
+    pick({pathOf("a.igs"), pathOf("a.iges"), pathOf("a.ige"), pathOf("a.f3d"), pathOf("a.sab"),
+          pathOf("a.sat"), pathOf("a.smb"), pathOf("a.smt"), pathOf("a.stp"), pathOf("a.step"),
+          pathOf("a.ste")});
+
+    EXPECT_EQ(calls("ImportManager::createIGESImportOptions"), 3U);
+    EXPECT_EQ(calls("ImportManager::createFusionArchiveImportOptions"), 1U);
+    EXPECT_EQ(calls("ImportManager::createSATImportOptions"), 2U);
+    EXPECT_EQ(calls("ImportManager::createSMTImportOptions"), 2U);
+    EXPECT_EQ(calls("ImportManager::createSTEPImportOptions"), 3U);
+    EXPECT_EQ(calls("ImportManager::importToNewDocument"), 11U);
+    EXPECT_EQ(calls("DataFolder::uploadFile"), 0U);
+    EXPECT_EQ(opened(), Texts());
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, StepFileInUpperCaseGoesThroughTheImportWithTheLowerCasedPath) {
+    pick({"/nowhere/PART.STEP"});
+
+    EXPECT_EQ(host::lastError().description, "/nowhere/part.step: there is no such file");
+    EXPECT_EQ(calls("ImportManager::createSTEPImportOptions"), 1U);
+}
+
+TEST_F(OpenLocalFile, FileInAFolderInUpperCaseIsFound) {
+    pick({design("Shared Designs/V2/BRACKET.F3D")});
+
+    EXPECT_EQ(opened(), Texts{"BRACKET"});
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, FileOfAFormatThatTheHostCannotReadIsSkipped) {
+    pick({file("block.sat", "400 0 1 0"), design("part.f3d")});
+
+    EXPECT_EQ(opened(), Texts{"part"});
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, InventorFileMatchesNoGroupAndIsUploaded) {
+    host::gate::reset();
+
+    pick({design("model.ipt")});
+
+    EXPECT_EQ(calls("Application::importManager"), 0U);
+    EXPECT_EQ(uploaded(), Texts{"model"});
+    EXPECT_EQ(opened(), Texts{"model"});
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, FileWithoutAnExtensionInADottedFolderIsUploaded) {
+    host::gate::reset();
+
+    pick({design("release.f3d/model")});
+
+    // What follows the dot is "f3d/model".
+    EXPECT_EQ(calls("Application::importManager"), 0U);
+    EXPECT_EQ(uploaded(), Texts{"model"});
+}
+
+TEST_F(OpenLocalFile, EmptyNameIsToldToBeWrong) {
+    pick({""});
+
+    EXPECT_EQ(messages(), Texts{"Something is wrong with the file"});
+    EXPECT_EQ(calls("DataFolder::uploadFile"), 0U);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, RaisesWhereTheHostHasNoImportManager) {
+    host::gate::refuse("Application::importManager", 1);
+
+    pick({design("part.f3d"), design("other.f3d")});
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(opened(), Texts());
+}
+
+TEST_F(OpenLocalFile, WithoutTheUserInterfaceTheEarlierListRunsAgain) {
+    pick({design("part.f3d")});
+    host::gate::refuse("Application::userInterface", 1);
+
+    session->press("QEMA_OpenLocalCmd_QAT");
+
+    EXPECT_EQ(opened(), (Texts{"part", "part"}));
+}
+
+}  // namespace
