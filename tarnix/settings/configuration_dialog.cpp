@@ -34,9 +34,10 @@ void buildConfigurationDialog(const Ptr<Command>& command) {
     inputs->addTextBoxCommandInput(kProviderDescription, "", kDescription, 2, /*isReadOnly=*/true);
     const Ptr<TextBoxCommandInput> address = inputs->addTextBoxCommandInput(
         kProviderAddress, "", readHelpdeskUrl(), 2, /*isReadOnly=*/false);
-    const bool isDefault = readHelpdeskUrl() == defaultHelpdeskUrl;
-    providers->item(isDefault ? kDefaultProvider : kOtherProvider)->isSelected(true);
-    address->isVisible(!isDefault);
+    // Each question reads the settings anew.
+    providers->item(readHelpdeskUrl() == defaultHelpdeskUrl ? kDefaultProvider : kOtherProvider)
+        ->isSelected(true);
+    address->isVisible(readHelpdeskUrl() != defaultHelpdeskUrl);
 }
 
 }  // namespace tarnix
