@@ -170,9 +170,7 @@ private:
     int partNumberColumn_ = -1;  ///< stays from one row to the next
 };
 
-/// The first occurrence at the top whose part number stands in column 3 of `table`, or none.
-///
-/// Nobody asks for more than whether there is one, so the search stops there.
+/// The occurrences at the top whose part number stands in column 3 of `table`.
 std::vector<Ptr<Occurrence>> matchingOccurrences(const Ptr<OccurrenceList>& occurrences,
                                                  const Ptr<TableCommandInput>& table) {
     constexpr int kPartNumberColumn = 3;
@@ -184,14 +182,15 @@ std::vector<Ptr<Occurrence>> matchingOccurrences(const Ptr<OccurrenceList>& occu
             texts.insert(cell->value());
         }
     }
+    std::vector<Ptr<Occurrence>> matching;
     const std::size_t count = texts.empty() ? 0 : occurrences->count();
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<Occurrence> occurrence = occurrences->item(i);
         if (texts.contains(occurrence->component()->partNumber())) {
-            return {occurrence};
+            matching.push_back(occurrence);
         }
     }
-    return {};
+    return matching;
 }
 
 }  // namespace

@@ -245,6 +245,32 @@ TEST_F(BomWriteBack, OfACombinedRowWithoutADescriptionWritesNothing) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(BomWriteBack, OfTheStructureTableRaisesWhereAPlaceAtTheTopIsEmpty) {
+    open(R"(
+        Bolt  number=B-1
+        (absent))");
+    showStructure();
+    session->paste("partNumberOcc_1", "B-2");
+
+    session->ok();
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(component(0)->partNumber(), "B-1");
+    EXPECT_EQ(attributes(0), "");
+}
+
+TEST_F(BomWriteBack, OfTheStructureTableLooksBehindTheFirstMatchToo) {
+    open(R"(
+        Bolt  number=B-1
+        (absent))");
+    showStructure();
+
+    session->ok();
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(attributes(0), "");
+}
+
 TEST_F(BomWriteBack, LeavesAlonePlacementsAndOtherGroups) {
     open(R"(
         Bolt  at=1,2,3 grounded attribute=Other/Key/value)");
