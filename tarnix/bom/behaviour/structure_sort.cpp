@@ -25,6 +25,9 @@ constexpr std::size_t kPositionColumn = 1;
 constexpr std::size_t kGraphColumn = 2;
 constexpr std::size_t kFirstPropertyColumn = 5;
 
+/// Whether what stands behind the last "_" of an id is exactly "0".
+bool isHeaderId(const std::string& id) { return id == "0" || id.ends_with("_0"); }
+
 /// The rows that hold anything but header cells, in the table's order.
 std::vector<CellRow> dataRows(const Ptr<TableCommandInput>& table) {
     std::vector<CellRow> rows;
@@ -34,7 +37,7 @@ std::vector<CellRow> dataRows(const Ptr<TableCommandInput>& table) {
         CellRow cells;
         for (int column = 0; column <= lastColumn; ++column) {
             Ptr<CommandInput> cell = table->getInputAtPosition(row, column);
-            if (cell && idTail(cell->id()) != "0") {
+            if (cell && !isHeaderId(cell->id())) {
                 cells.push_back(std::move(cell));
             }
         }
