@@ -1,0 +1,37 @@
+#pragma once
+
+#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/plain_write_back.h"
+
+#include <string>
+#include <vector>
+
+namespace test_support {
+
+/// What the write-back of the open dialog makes of the design, against what the plain one makes.
+class WrittenDesign : public BehaviourTest {
+protected:
+    /// Everything of a design but its bodies: components with their texts, attributes, materials
+    /// and sketches, and where and how they are used.
+    [[nodiscard]] static std::string describe(const host::DesignData& design);
+
+    /// The ids of the cells of a column of the shown table that a person can use, from the top.
+    [[nodiscard]] std::vector<std::string> cellIds(int column) const;
+
+    /// Unfolds assemblies of the model table from the top, at most this many.
+    void unfold(int atMost);
+
+    /// Accepts the dialog with `tab` shown, has the plain write-back do its work on an equal
+    /// design, and expects the two to be equal, what they raised included. The dialog is closed
+    /// then, and the plainly written design is open.
+    void expectWrittenLikeThePlain(plain::Tab tab, int configuredColumns);
+
+    /// Saves the open design, opens the file, and expects nothing to be lost on the way.
+    void expectKeptInItsFile();
+
+private:
+    /// Accepts the dialog and yields what that raised, empty for nothing.
+    std::string accept();
+};
+
+}  // namespace test_support
