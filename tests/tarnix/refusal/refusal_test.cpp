@@ -6,12 +6,11 @@
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
 #include "tests/support/settings.h"
+#include "tests/tarnix/refusal/known_raised.h"
 #include "tests/tarnix/refusal/traces.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <map>
 #include <string>
 #include <vector>
@@ -38,26 +37,6 @@ const Texts kColumns = {"QEMA_Quantity;Qty", "QEMA_Mass;Mass", "QEMA_Length;Leng
 
 /// What stays behind after `stop`, whatever happens: nothing ever destroys that command.
 constexpr const char* kToldTrace = "definition QEMA_OpenLocalCmd_QAT";
-
-/// What the add-in raises where a host call yields nothing.
-bool isKnown(const host::Raised& raised) {
-    static const std::array<std::string, 7> kTexts = {"",
-                                                      "invalid stoi argument",
-                                                      "stoi argument out of range",
-                                                      "invalid stod argument",
-                                                      "stod argument out of range",
-                                                      "invalid vector subscript",
-                                                      "invalid string position"};
-    const bool known = std::find(kTexts.begin(), kTexts.end(), raised.text) != kTexts.end();
-    return known && raised.type.rfind("std::", 0) == 0;
-}
-
-void expectOnlyKnownRaised(const Session& session) {
-    for (const host::Raised& raised : session.raised()) {
-        EXPECT_TRUE(isKnown(raised))
-            << raised.type << " (" << raised.text << ") in " << raised.event;
-    }
-}
 
 void expectSettingsWhole(const Session& session) {
     EXPECT_EQ(test_support::readFile(session.addin().folder / "Tarnix_configuration.xml"),
