@@ -20,9 +20,10 @@ Screen& screen() {
 PickedFiles answerOf(const FileDialogShown& dialog) {
     Screen& all = screen();
     if (!all.answers.empty()) {
-        PickedFiles answer = std::move(all.answers.front());
-        all.answers.pop_front();
-        return answer;
+        std::deque<PickedFiles> next;
+        next.swap(all.answers);
+        all.answers.assign(next.begin() + 1, next.end());
+        return std::move(next.front());
     }
     if (!all.ask) return std::nullopt;
     const gate::Outside outside;
