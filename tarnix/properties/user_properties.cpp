@@ -118,7 +118,9 @@ std::vector<std::string> collectUserProperties(const Ptr<InputChangedEventArgs>&
 }
 
 void saveUserProperties(const Ptr<InputChangedEventArgs>& eventArgs) {
-    replaceCategoryItems("iProperty", collectUserProperties(eventArgs), MissingCategory::LeaveOut);
+    replaceCategoryItems(
+        "iProperty", [&eventArgs] { return collectUserProperties(eventArgs); },
+        MissingCategory::LeaveOut);
 }
 
 }  // namespace tarnix

@@ -75,14 +75,15 @@ void addItem(const XmlDocument& document, const XmlNode& category, const std::st
 
 /// The work of `replaceCategoryItems` between opening and closing.
 void replaceItems(const XmlDocument& document, const std::string& categoryName,
-                  const std::vector<std::string>& items, MissingCategory missing) {
+                  const std::function<std::vector<std::string>()>& readItems,
+                  MissingCategory missing) {
     std::vector<XmlNode> categories = categoriesOf(document, "category", categoryName);
     if (categories.empty() && missing == MissingCategory::Create) {
         categories.push_back(appendCategory(document, "category", "name", categoryName));
     }
     for (const XmlNode& category : categories) {
         removeChildren(category);
-        for (const std::string& item : items) {
+        for (const std::string& item : readItems()) {
             addItem(document, category, "item_" + categoryName, item);
         }
     }
@@ -189,13 +190,14 @@ XmlNode appendItem(const XmlDocument& document, XmlNode parent, const std::strin
     return parent.appendChild(makeElement(document, elementName, attributeName, attributeValue));
 }
 
-void replaceCategoryItems(const std::string& categoryName, const std::vector<std::string>& items,
+void replaceCategoryItems(const std::string& categoryName,
+                          const std::function<std::vector<std::string>()>& readItems,
                           MissingCategory missing) {
     const std::string path = settingsFilePath();
     {
         // Let go before COM is: its library may be unloaded with the last user.
         const XmlDocument document = openSettingsDocument(path);
-        replaceItems(document, categoryName, items, missing);
+        replaceItems(document, categoryName, readItems, missing);
         document.save(path);
     }
     platform::uninitializeCom();

@@ -2,6 +2,7 @@
 
 #include "tarnix/platform/xml.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -63,10 +64,12 @@ platform::XmlNode appendItem(const platform::XmlDocument& document, platform::Xm
 enum class MissingCategory { Create, LeaveOut };
 
 /// Replaces the items of a category in the stored document: opens it, removes what the category
-/// holds, adds an element "item_" + `categoryName` for each text, split at its first ";" into key
-/// and value, and saves. Categories of the same name all get the items. When anything raises, the
-/// file stays as it was.
-void replaceCategoryItems(const std::string& categoryName, const std::vector<std::string>& items,
+/// holds, adds an element "item_" + `categoryName` for each text of `readItems`, split at its first
+/// ";" into key and value, and saves. Categories of the same name all get the items. `readItems` is
+/// asked when a category has been emptied, and not where there is none. When anything raises, the
+/// file stays as it was; one that was missing has been made by then.
+void replaceCategoryItems(const std::string& categoryName,
+                          const std::function<std::vector<std::string>()>& readItems,
                           MissingCategory missing = MissingCategory::Create);
 
 }  // namespace tarnix

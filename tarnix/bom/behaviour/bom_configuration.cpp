@@ -15,7 +15,7 @@ using adsk::core::StringValueCommandInput;
 using adsk::core::TableCommandInput;
 
 void saveBomConfiguration(Ptr<CommandInput> input) {
-    replaceCategoryItems("bomItems", readBomConfigTable(input));
+    replaceCategoryItems("bomItems", [&input] { return readBomConfigTable(input); });
 }
 
 std::vector<std::string> readBomConfigTable(Ptr<CommandInput> input) {

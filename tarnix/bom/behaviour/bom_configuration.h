@@ -12,7 +12,7 @@ namespace tarnix {
 /// other tabs take them when the dialog is opened again.
 ///
 /// A tab without the table empties the stored choice. When anything raises, the document stays as
-/// it was.
+/// it was; one that was missing has been made by then.
 void saveBomConfiguration(adsk::core::Ptr<adsk::core::CommandInput> input);
 
 /// The columns in which a property is chosen, from left to right: the property's key, ";" and the

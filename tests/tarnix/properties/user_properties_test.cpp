@@ -220,6 +220,16 @@ TEST_F(UserProperties, RaiseForACellThatIsNoLineOfText) {
     EXPECT_EQ(settings(), before);
 }
 
+TEST_F(UserProperties, AreNotReadWhereTheSettingsHaveNoCategoryForThem) {
+    test_support::writeFile(settingsFile(), settingsWith(""));
+    showList();
+    const Ptr<TableCommandInput> table = session->table(kTable);
+    table->addCommandInput(table->commandInputs()->addBoolValueInput("odd", "Odd", true), 0, 0);
+    session->click(kSave);
+    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(savedList(), "none");
+}
+
 TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsAreNoXml) {
     showList();
     test_support::writeFile(settingsFile(), "<configuration");

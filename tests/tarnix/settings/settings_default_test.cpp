@@ -43,7 +43,7 @@ TEST_F(DefaultSettings, FolderThatCannotBeWrittenRaises) {
     test::modulePath() = folder.windows("missing/Tarnix.dll");
     EXPECT_LT(comError([] { readCategoryItems("category", "bomItems"); }), 0);
     EXPECT_LT(comError([] { readHelpdeskUrl(); }), 0);
-    EXPECT_LT(comError([] { replaceCategoryItems("bomItems", {"a;b"}); }), 0);
+    EXPECT_LT(comError([] { replaceItems("bomItems", {"a;b"}); }), 0);
     EXPECT_EQ(folder.count(), 0);
 }
 
@@ -57,7 +57,7 @@ TEST_F(DefaultSettings, PathMayHoldBlanksAndSpecialCharacters) {
 TEST_F(DefaultSettings, PathMayHoldLettersOfTheCodePage) {
     test::modulePath() = folder.windows("caf") + "\xE9.dll";
     EXPECT_EQ(readHelpdeskUrl(), defaultHelpdeskUrl);
-    replaceCategoryItems("bomItems", {"a;1"});
+    replaceItems("bomItems", {"a;1"});
     EXPECT_EQ(readCategoryItems("category", "bomItems"), Items{"a;1"});
     EXPECT_EQ(folder.count(), 1);
 }

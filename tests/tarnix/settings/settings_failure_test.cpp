@@ -64,16 +64,15 @@ TEST_F(FailingWrite, OfTheHelpdeskUrlLeavesTheFileAsItWas) {
 
 TEST_F(FailingWrite, OfTheCustomPropertiesLeavesTheFileAsItWas) {
     EXPECT_EQ(leftByFailures([] {
-                  replaceCategoryItems("iProperty", {"QEMA_Colour;Colour", "QEMA_Size;Size"},
-                                       MissingCategory::LeaveOut);
+                  replaceItems("iProperty", {"QEMA_Colour;Colour", "QEMA_Size;Size"},
+                               MissingCategory::LeaveOut);
               }),
               unchanged());
     EXPECT_GT(failures, 10);
 }
 
 TEST_F(FailingWrite, OfTheColumnsLeavesTheFileAsItWas) {
-    EXPECT_EQ(leftByFailures([] { replaceCategoryItems("bomItems", {"QEMA_Mass;Weight"}); }),
-              unchanged());
+    EXPECT_EQ(leftByFailures([] { replaceItems("bomItems", {"QEMA_Mass;Weight"}); }), unchanged());
     EXPECT_GT(failures, 10);
 }
 

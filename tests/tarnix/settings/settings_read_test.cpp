@@ -124,7 +124,7 @@ TEST_F(SettingsItems, FileThatIsNoXmlRaises) {
     folder.write(kFile, "no xml");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
     EXPECT_EQ(comError([] { readHelpdeskUrl(); }), E_POINTER);
-    EXPECT_EQ(comError([] { replaceCategoryItems("bomItems", {"a;b"}); }), E_POINTER);
+    EXPECT_EQ(comError([] { replaceItems("bomItems", {"a;b"}); }), E_POINTER);
     EXPECT_EQ(folder.read(kFile), "no xml");
 }
 

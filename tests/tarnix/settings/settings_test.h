@@ -13,6 +13,13 @@ namespace tarnix {
 using platform::comError;
 using Items = std::vector<std::string>;
 
+/// Makes these the items of a category in the stored document.
+inline void replaceItems(const std::string& categoryName, const Items& items,
+                         MissingCategory missing = MissingCategory::Create) {
+    replaceCategoryItems(
+        categoryName, [&items] { return items; }, missing);
+}
+
 /// Tests of the settings of a module that lies in a folder of the test's own. COM is ready, as it
 /// is on a host's thread.
 class Settings : public testing::Test {

@@ -1,6 +1,8 @@
 #include "tests/tarnix/settings/failing_allocation.h"
 #include "tests/tarnix/settings/settings_test.h"
 
+#include <stdexcept>
+
 namespace tarnix {
 namespace {
 
@@ -10,7 +12,7 @@ protected:
 };
 
 TEST_F(ReplacedItems, AreWrittenInTheirOrder) {
-    replaceCategoryItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;Surface"});
+    replaceItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;Surface"});
     EXPECT_EQ(stored(),
               "<configuration nameOfApplication=\"Tarnix\">"
               "<category name=\"httpHelpdesk\"><www>http://helpdesk.tarnix.example/</www>"
@@ -25,7 +27,7 @@ TEST_F(ReplacedItems, AreWrittenInTheirOrder) {
 
 TEST_F(ReplacedItems, AreNamedAfterTheirCategory) {
     writeSettings("<category name=\"iProperty\"/>");
-    replaceCategoryItems("iProperty", {"QEMA_Color;Color"});
+    replaceItems("iProperty", {"QEMA_Color;Color"});
     EXPECT_EQ(stored(),
               "<configuration nameOfApplication=\"Tarnix\"><category name=\"iProperty\">"
               "<item_iProperty id=\"QEMA_Color\"><displayName>Color</displayName></item_iProperty>"
@@ -36,14 +38,14 @@ TEST_F(ReplacedItems, TakeThePlaceOfAllThatTheCategoryHeld) {
     writeSettings(
         "<category name=\"bomItems\"><!--note-->text<i id=\"a\"><d>1</d></i><i/></category>"
         "<category name=\"iProperty\"><i id=\"b\"><d>2</d></i></category>");
-    replaceCategoryItems("bomItems", {"c;3"});
+    replaceItems("bomItems", {"c;3"});
     EXPECT_EQ(bomItems(), Items{"c;3"});
     EXPECT_EQ(readCategoryItems("category", "iProperty"), Items{"b;2"});
 }
 
 TEST_F(ReplacedItems, MayBeNone) {
     writeSettings("<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category>");
-    replaceCategoryItems("bomItems", {});
+    replaceItems("bomItems", {});
     EXPECT_EQ(stored(),
               "<configuration nameOfApplication=\"Tarnix\"><category name=\"bomItems\"/>"
               "</configuration>");
@@ -51,7 +53,7 @@ TEST_F(ReplacedItems, MayBeNone) {
 
 TEST_F(ReplacedItems, MissingCategoryIsAddedBehindTheOthers) {
     writeSettings("<other/>");
-    replaceCategoryItems("bomItems", {"a;1"});
+    replaceItems("bomItems", {"a;1"});
     EXPECT_EQ(stored(),
               "<configuration nameOfApplication=\"Tarnix\"><other/><category name=\"bomItems\">"
               "<item_bomItems id=\"a\"><displayName>1</displayName></item_bomItems></category>"
@@ -60,7 +62,7 @@ TEST_F(ReplacedItems, MissingCategoryIsAddedBehindTheOthers) {
 
 TEST_F(ReplacedItems, MissingCategoryIsLeftOutOnRequest) {
     writeSettings("<other/>");
-    replaceCategoryItems("bomItems", {"a;1"}, MissingCategory::LeaveOut);
+    replaceItems("bomItems", {"a;1"}, MissingCategory::LeaveOut);
     EXPECT_EQ(stored(), "<configuration nameOfApplication=\"Tarnix\"><other/></configuration>");
 }
 
@@ -68,38 +70,38 @@ TEST_F(ReplacedItems, EachCategoryOfTheNameGetsThem) {
     writeSettings(
         "<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category>"
         "<category name=\"bomItems\"><i id=\"b\"><d>2</d></i></category>");
-    replaceCategoryItems("bomItems", {"c;3"});
+    replaceItems("bomItems", {"c;3"});
     EXPECT_EQ(bomItems(), (Items{"c;3", "c;3"}));
 }
 
 TEST_F(ReplacedItems, AreCutAtTheirFirstSemicolon) {
-    replaceCategoryItems("bomItems", {"QEMA_Mass;Weight; in kg"});
+    replaceItems("bomItems", {"QEMA_Mass;Weight; in kg"});
     EXPECT_EQ(bomItems(), Items{"QEMA_Mass;Weight; in kg"});
     EXPECT_NE(stored().find("<item_bomItems id=\"QEMA_Mass\"><displayName>Weight; in kg<"),
               std::string::npos);
 }
 
 TEST_F(ReplacedItems, EmptyValueReadsBackAsMissing) {
-    replaceCategoryItems("bomItems", {"QEMA_Mass;"});
+    replaceItems("bomItems", {"QEMA_Mass;"});
     EXPECT_EQ(bomItems(), Items{"QEMA_Mass;missing"});
 }
 
 TEST_F(ReplacedItems, WithSpecialCharactersReadBackAsTheyWere) {
     const Items items = {"QEMA_A&B<c>\"d\"'e';A & B <c> \"d\" 'e' &amp; ]]>",
                          "QEMA_\xC4\x8D\xE6\xBC\xA2;\xF0\x9F\x98\x80"};
-    replaceCategoryItems("bomItems", items);
+    replaceItems("bomItems", items);
     EXPECT_EQ(bomItems(), items);
 }
 
 TEST_F(ReplacedItems, ControlCharactersDoNotSpoilTheFile) {
-    replaceCategoryItems("bomItems", {"QEMA_a\x01;b\x02"});
+    replaceItems("bomItems", {"QEMA_a\x01;b\x02"});
     EXPECT_EQ(bomItems(), Items{"QEMA_a;b"});
 }
 
 TEST_F(ReplacedItems, WrittenTwiceGiveTheSameFile) {
-    replaceCategoryItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;"});
+    replaceItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;"});
     const std::string once = folder.read(kFile);
-    replaceCategoryItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;"});
+    replaceItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;"});
     EXPECT_EQ(folder.read(kFile), once);
 }
 
@@ -108,7 +110,7 @@ TEST_F(ReplacedItems, WhatWasWrittenByHandElsewhereStays) {
                  "<!-- mine -->\n<configuration b=\"1\" a=\"2\">\n  <!-- note -->\n"
                  "  <extra><x y=\"z\"/></extra>\n  <category name=\"bomItems\"/>\n"
                  "</configuration>");
-    replaceCategoryItems("bomItems", {"a;1"});
+    replaceItems("bomItems", {"a;1"});
     EXPECT_NE(folder.read(kFile).find("<!-- mine -->"), std::string::npos);
     EXPECT_EQ(stored(),
               "<configuration b=\"1\" a=\"2\"><!-- note --><extra><x y=\"z\"/></extra>"
@@ -119,8 +121,31 @@ TEST_F(ReplacedItems, WhatWasWrittenByHandElsewhereStays) {
 TEST_F(ReplacedItems, FileKeepsItsContentWhenACategoryRaises) {
     writeSettings("<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category><category/>");
     const std::string before = folder.read(kFile);
-    EXPECT_EQ(comError([] { replaceCategoryItems("bomItems", {"b;2"}); }), E_POINTER);
+    EXPECT_EQ(comError([] { replaceItems("bomItems", {"b;2"}); }), E_POINTER);
     EXPECT_EQ(folder.read(kFile), before);
+}
+
+TEST_F(ReplacedItems, AreAskedForBehindTheOpeningOfTheDocument) {
+    const auto readItems = []() -> Items { throw std::runtime_error("no items"); };
+    EXPECT_THROW(replaceCategoryItems("bomItems", readItems), std::runtime_error);
+    EXPECT_EQ(stored(),
+              "<configuration nameOfApplication=\"Tarnix\">"
+              "<category name=\"httpHelpdesk\"><www>http://helpdesk.tarnix.example/</www>"
+              "</category><category name=\"iProperty\"/><category name=\"bomItems\"/>"
+              "</configuration>");
+}
+
+TEST_F(ReplacedItems, AreNotAskedForOfACategoryThatIsLeftOut) {
+    writeSettings("<other/>");
+    const auto readItems = []() -> Items { throw std::runtime_error("no items"); };
+    EXPECT_NO_THROW(replaceCategoryItems("bomItems", readItems, MissingCategory::LeaveOut));
+}
+
+TEST_F(ReplacedItems, StayAsTheyAreWhenAskingForOthersRaises) {
+    writeSettings("<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category>");
+    const auto readItems = []() -> Items { throw std::runtime_error("no items"); };
+    EXPECT_THROW(replaceCategoryItems("bomItems", readItems), std::runtime_error);
+    EXPECT_EQ(bomItems(), Items{"a;1"});
 }
 
 class AppendedElements : public Settings {

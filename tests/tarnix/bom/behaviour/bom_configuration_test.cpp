@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace test_support {
 namespace {
 
@@ -165,6 +167,18 @@ TEST_F(BomConfiguration, WithoutACaptionFieldLeavesTheFileAlone) {
 
     EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnSaveConfigBom");
     EXPECT_EQ(readFile(settingsFile()), before);
+}
+
+TEST_F(BomConfiguration, MakesAMissingFileBeforeItReadsTheTable) {
+    showConfiguration();
+    session->choose("iProperty_0", "Mass");
+    session->table("QEMA_bom_config_table")->removeInput(1, 4);
+    ASSERT_TRUE(std::filesystem::remove(settingsFile()));
+
+    session->click("QEMA_btnSaveConfigBom");
+
+    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnSaveConfigBom");
+    EXPECT_EQ(stored(), "<category name=\"bomItems\"/>");
 }
 
 }  // namespace
