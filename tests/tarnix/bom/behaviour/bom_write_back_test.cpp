@@ -101,6 +101,20 @@ TEST_F(BomWriteBack, TakesTheOldStructureAway) {
     EXPECT_EQ(attributes(0), "Produce= Buy= AsPart=1 Divided= Reference=");
 }
 
+TEST_F(BomWriteBack, WritesAReferenceThatTheModelTableDidNotHide) {
+    open(R"(
+        Bolt  structure=Buy
+        Plate)");
+    showModel();
+    session->choose("modelBomStructure_1", "Reference");
+    ASSERT_TRUE(session->input("modelPartNumberOcc_1")->isVisible());
+
+    save();
+
+    EXPECT_EQ(attributes(0), "Produce= Buy= AsPart= Divided= Reference=1");
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(BomWriteBack, KeepsThePartNumberWhenTheNameChanges) {
     configure({"QEMA_Part Name;Name"});
     open("Bolt");
@@ -174,6 +188,22 @@ TEST_F(BomWriteBack, WritesHiddenRowsToo) {
 
     EXPECT_EQ(component(1)->partNumber(), "P-2");
     EXPECT_EQ(attributes(1), "Produce= Buy= AsPart= Divided= Reference=1");
+}
+
+TEST_F(BomWriteBack, WritesFoldedRowsToo) {
+    open(R"(
+        Frame
+          Leg  number=L-1)");
+    showModel();
+    session->click("modelColapseRow_1");
+    session->paste("modelPartNumberOcc_2", "L-2");
+    session->click("modelColapseRow_1");
+    ASSERT_FALSE(session->input("modelPartNumberOcc_2")->isVisible());
+
+    save();
+
+    EXPECT_EQ(component(0)->occurrences()->item(0)->component()->partNumber(), "L-2");
+    EXPECT_EQ(raised(), "");
 }
 
 TEST_F(BomWriteBack, LetsTheLastRowOfAComponentWin) {
