@@ -5,8 +5,26 @@
 namespace test_support {
 namespace {
 
+using adsk::core::Command;
 using adsk::core::DropDownCommandInput;
+using adsk::core::InputChangedEventArgs;
 using adsk::core::Ptr;
+
+/// The inputs of a dialog that its handlers were told of while this lives.
+class ChangedInputs final : public adsk::core::InputChangedEventHandler {
+public:
+    explicit ChangedInputs(const Ptr<Command>& dialog) { dialog->inputChanged()->add(this); }
+
+    /// Their ids, oldest first, with a blank between.
+    [[nodiscard]] std::string ids() const { return ids_; }
+
+    void notify(const Ptr<InputChangedEventArgs>& eventArgs) override {
+        ids_ += (ids_.empty() ? "" : " ") + eventArgs->input()->id();
+    }
+
+private:
+    std::string ids_;
+};
 
 class ColumnChoice : public BehaviourTest {
 protected:
@@ -42,6 +60,37 @@ TEST_F(ColumnChoice, OfAHeadingFreesItsColumn) {
     const Ptr<DropDownCommandInput> dropDown = session->input("iProperty_4");
     EXPECT_EQ(dropDown->selectedItem()->name(), "---Select One---");
     EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ColumnChoice, OfAPropertyIsSeenOnce) {
+    showConfiguration();
+    const ChangedInputs changed(session->dialog());
+
+    session->choose("iProperty_4", "Mass");
+
+    EXPECT_EQ(changed.ids(), "iProperty_4");
+}
+
+TEST_F(ColumnChoice, OfAHeadingIsSeenOnceMoreForTheFirstEntry) {
+    showConfiguration();
+    const ChangedInputs changed(session->dialog());
+
+    session->choose("iProperty_4", "--- User Property ---");
+
+    EXPECT_EQ(changed.ids(), "iProperty_4 iProperty_4");
+    EXPECT_EQ(value("colUsrHeader_5"), "not use");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(ColumnChoice, OfTheFirstEntryIsSeenOnce) {
+    showConfiguration();
+    session->choose("iProperty_4", "Mass");
+    const ChangedInputs changed(session->dialog());
+
+    session->choose("iProperty_4", "---Select One---");
+
+    EXPECT_EQ(changed.ids(), "iProperty_4");
+    EXPECT_EQ(value("colUsrHeader_5"), "not use");
 }
 
 TEST_F(ColumnChoice, LeavesTheOtherColumnsAlone) {
@@ -100,6 +149,24 @@ TEST_F(ColumnChoice, OfAnotherStructureShowsNothingAgain) {
         3 | Part | Rod
         4 | Part | Nut
         5 | Part | Cap)"));
+}
+
+TEST_F(ColumnChoice, OfReferenceHidesUntilTheDialogOpensAnew) {
+    showStructure();
+    session->choose("bomStructure_2", "Reference");
+    session->choose("bomStructure_1", "Buy");
+    ASSERT_FALSE(session->input("partNumberOcc_2")->isVisible());
+    session->cancel();
+
+    showStructure();
+
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | Bolt
+        2 | Part | Plate
+        3 | Part | Rod
+        4 | Part | Nut
+        5 | Part | Cap)"));
+    EXPECT_EQ(raised(), "");
 }
 
 TEST_F(ColumnChoice, OfReferenceStaysOutOfSightBehindAChangeOfTab) {
