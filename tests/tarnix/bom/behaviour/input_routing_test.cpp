@@ -96,9 +96,10 @@ TEST_F(InputRouting, ACellOfTheConfigurationTabSelectsNothing) {
     showConfiguration();
     select(1);
 
-    session->paste("nameCol5", "Weight");
+    session->choose("iProperty_1", "Mass");
 
     EXPECT_EQ(selected(), "Plate:1");
+    EXPECT_EQ(raised(), "");
 }
 
 TEST_F(InputRouting, AHeaderCellSelectsNothing) {
