@@ -2,8 +2,7 @@
 #include "tarnix/bom/behaviour/structure_refresh.h"
 
 #include "tests/support/files.h"
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
-#include "tests/tarnix/bom/behaviour/own_dialog.h"
+#include "tests/tarnix/bom/behaviour/own_table.h"
 
 #include <gtest/gtest.h>
 
@@ -11,32 +10,10 @@
 namespace test_support {
 namespace {
 
-using adsk::core::BoolValueCommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::DropDownCommandInput;
 using adsk::core::Ptr;
-using adsk::core::TabCommandInput;
-using adsk::core::TableCommandInput;
 using adsk::core::TextListDropDownStyle;
-
-class OwnTable : public BehaviourTest {
-protected:
-    /// A table in a tab, whose cells `fill` makes.
-    void show(const std::string& id, int columns,
-              const std::function<void(const Ptr<CommandInputs>&)>& fill) {
-        dialog_ = std::make_unique<OwnDialog>("OwnTable", [&](const Ptr<CommandInputs>& inputs) {
-            const Ptr<TabCommandInput> tab = inputs->addTabCommandInput("ownTab", "");
-            rows = tab->children()->addTableCommandInput(id, "", columns, "");
-            fill(tab->children());
-        });
-        dialog_->open();
-    }
-
-    Ptr<TableCommandInput> rows;
-
-private:
-    std::unique_ptr<OwnDialog> dialog_;
-};
 
 TEST_F(OwnTable, IsExportedWithTheUnderscoresOfItsTextBoxesAsBlanks) {
     show("own", 1, [&](const Ptr<CommandInputs>& inputs) {

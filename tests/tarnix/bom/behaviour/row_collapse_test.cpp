@@ -1,5 +1,7 @@
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 
+#include "host/ui/hands.h"
+
 #include <gtest/gtest.h>
 
 namespace test_support {
@@ -43,6 +45,7 @@ constexpr int kLeg = 4;
 constexpr int kFoot = 5;
 constexpr int kBox = 23;
 constexpr int kLid = 24;
+constexpr int kLast = 25;
 
 class RowCollapse : public BehaviourTest {
 protected:
@@ -117,6 +120,7 @@ TEST_F(RowCollapse, CollapsingHidesEverythingBelowAndNothingThatBeginsAlike) {
     EXPECT_FALSE(shows(kFoot));
     EXPECT_TRUE(shows(kBox));
     EXPECT_TRUE(shows(kLid));
+    EXPECT_TRUE(shows(kLast));
 }
 
 TEST_F(RowCollapse, CollapsingEmptiesTheGraphOfARowAtTheTop) {
@@ -172,9 +176,9 @@ TEST_F(RowCollapse, OfAPartDoesNothing) {
 }
 
 TEST_F(RowCollapse, OfTheLastRowDoesNothing) {
-    click(25);
+    click(kLast);
 
-    EXPECT_EQ(icon(25), "Part");
+    EXPECT_EQ(icon(kLast), "Part");
     EXPECT_EQ(raised(), "");
 }
 
@@ -210,6 +214,28 @@ TEST_F(RowCollapse, OfTheStructureTablesHeaderDoesNothing) {
 
     EXPECT_EQ(shownTable(), before);
     EXPECT_EQ(raised(), "");
+}
+
+TEST_F(RowCollapse, OfARowOfTheStructureTableRaises) {
+    showStructure();
+    const std::string before = shownTable();
+
+    // Nobody can click there: the cell is an image.
+    host::reportChange(session->input("colapseRow_1"));
+
+    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of colapseRow_1");
+    EXPECT_EQ(shownTable(), before);
+}
+
+TEST_F(RowCollapse, OfARowBehindTheTablesEndRaises) {
+    // The ids stay, so that the last row's number is one more than the table has.
+    ASSERT_TRUE(shownTableInput()->deleteRow(1));
+    const std::string before = shownTable();
+
+    click(kLast);
+
+    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of modelColapseRow_25");
+    EXPECT_EQ(shownTable(), before);
 }
 
 TEST_F(RowCollapse, MatchesPositionsBehindAnIndent) {

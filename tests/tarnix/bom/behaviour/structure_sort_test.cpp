@@ -1,3 +1,5 @@
+#include "tarnix/bom/behaviour/structure_sort.h"
+
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 
 #include "host/ui/hands.h"
@@ -194,7 +196,8 @@ TEST_F(StructureSort, OfTheGraphColumnMovesNothing) {
         B
         A)");
     showStructure();
-    session->choose("QEMA_droDown_AscDesc", "Ascending");
+    // All cells of the column are empty; a sort by their ids alone would turn the rows round.
+    session->choose("QEMA_droDown_AscDesc", "Descending");
     session->clearRaised();
 
     // Nobody can click there: the column has no width.
@@ -206,17 +209,27 @@ TEST_F(StructureSort, OfTheGraphColumnMovesNothing) {
     EXPECT_EQ(raised(), "");
 }
 
-TEST_F(StructureSort, OfTheIconColumnTakesTheFoldingRoute) {
+TEST_F(StructureSort, OfTheIconColumnMovesNothing) {
     open(R"(
-        B
-        A)");
+        A
+        B)");
     showStructure();
 
-    sortBy("colapseRow_0", "Ascending");
+    tarnix::sortStructureTable(shownTableInput(), session->input("colapseRow_0"), "Descending");
 
     EXPECT_EQ(table(), text(R"(
-        1 | Part | B
-        2 | Part | A)"));
+        1 | Part | A
+        2 | Part | B)"));
+}
+
+TEST_F(StructureSort, OfTheIconColumnTakesTheFoldingRoute) {
+    open("");
+    showStructure();
+
+    sortBy("colapseRow_0", "Descending");
+
+    // Sorting a table without rows would have raised.
+    EXPECT_EQ(raised(), "");
 }
 
 TEST_F(StructureSort, WaitsForAnOrderToBeChosen) {
@@ -249,8 +262,8 @@ TEST_F(StructureSort, WaitsForAClickOnAHeader) {
 TEST_F(StructureSort, LeavesTheModelTableAlone) {
     configure({"QEMA_Mass;Mass"});
     open(R"(
-        B
-        A)");
+        B  measures=10:200
+        A  measures=10:100)");
     showStructure();
     session->choose("QEMA_droDown_AscDesc", "Ascending");
     session->clearRaised();
@@ -258,9 +271,28 @@ TEST_F(StructureSort, LeavesTheModelTableAlone) {
 
     session->click("QEMA_Mass_0");
 
-    EXPECT_EQ(shownTableInput()->getInputAtPosition(1, 3)->id(), "modelPartNumberOcc_1");
-    EXPECT_EQ(value("modelPartNumberOcc_1"), "B");
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | B | 1.570
+        2 | Part | A | 0.785)"));
     EXPECT_EQ(raised(), "");
+}
+
+TEST_F(StructureSort, IsNotAskedForByAHeaderOfTheModelTable) {
+    configure({"QEMA_Mass;Mass"});
+    open(R"(
+        B  measures=10:200
+        A  measures=10:100)");
+    showStructure();
+    session->choose("QEMA_droDown_AscDesc", "Ascending");
+    showModel();
+    session->click("QEMA_Mass_0");
+
+    showStructure();
+
+    // The header of that id in this table would have brought the lighter row to the front.
+    EXPECT_EQ(table(), text(R"(
+        1 | Part | B | 1.570
+        2 | Part | A | 0.785)"));
 }
 
 TEST_F(StructureSort, TakesHiddenRowsAlongAndKeepsThemHidden) {
@@ -279,12 +311,16 @@ TEST_F(StructureSort, TakesHiddenRowsAlongAndKeepsThemHidden) {
     EXPECT_FALSE(shownTableInput()->getInputAtPosition(2, 3)->isVisible());
 }
 
-TEST_F(StructureSort, OfOneRowLeavesItInTheTable) {
+TEST_F(StructureSort, OfOneRowMovesItBehindTheTablesRows) {
     open("Only");
     showStructure();
+    ASSERT_TRUE(shownTableInput()->getInputAtPosition(1, 5));
 
     sortBy("partNumberOcc_0", "Ascending");
 
+    // The cells of columns without a property stay behind, and go with the row that was closed up.
+    EXPECT_FALSE(shownTableInput()->getInputAtPosition(1, 5));
+    EXPECT_EQ(shownTableInput()->rowCount(), 2);
     EXPECT_EQ(table(), "1 | Part | Only");
     EXPECT_EQ(raised(), "");
 }
