@@ -1,23 +1,12 @@
 #include "tarnix/bom/behaviour/row_numbering.h"
 
-#include "tarnix/bom/behaviour/table_rows.h"
-
-#include "tests/support/addin_test.h"
-#include "tests/tarnix/bom/behaviour/own_dialog.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace test_support {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
 using tarnix::RowNumbers;
 
 /// What the rows at the top so far leave behind: the last number given is `count`.
@@ -111,105 +100,6 @@ TEST(RowNumbers, TakesOneOffTheRowsOwnNumberBehindADeeperRowWhereTheNextOneIsHig
 
 TEST(RowNumbers, RaisesWhereThePositionHoldsNoNumber) {
     EXPECT_THROW(behindNested(3).nextNested({"5.x", 2, 0}), std::invalid_argument);
-}
-
-/// A table whose second column holds text boxes.
-class Renumbering : public AddinTest {
-protected:
-    /// Makes a table with a header and a row for each position.
-    void show(const std::vector<std::string>& positions) {
-        dialog_ =
-            std::make_unique<OwnDialog>("OwnPositions", [&](const Ptr<CommandInputs>& inputs) {
-                rows_ = inputs->addTableCommandInput("own", "", 2, "1:1");
-                addRow(inputs, "Pos.");
-                for (const std::string& position : positions) {
-                    addRow(inputs, position);
-                }
-            });
-        dialog_->open();
-    }
-
-    void addRow(const Ptr<CommandInputs>& inputs, const std::string& position) {
-        const int row = rows_->rowCount();
-        rows_->addCommandInput(inputs->addBoolValueInput("", "", false), row, 0);
-        rows_->addCommandInput(inputs->addTextBoxCommandInput("", "", position, 1, true), row, 1);
-    }
-
-    [[nodiscard]] Ptr<TextBoxCommandInput> box(int row) const {
-        return rows_->getInputAtPosition(row, 1);
-    }
-
-    /// The positions that the table shows without their indent, a line for each data row.
-    [[nodiscard]] std::string positions() const {
-        std::string lines;
-        for (int row = 1; row < rows_->rowCount(); ++row) {
-            lines += (lines.empty() ? "" : "\n") + tarnix::positionOfRow(rows_, row);
-        }
-        return lines;
-    }
-
-    std::unique_ptr<OwnDialog> dialog_;
-    Ptr<TableCommandInput> rows_;
-};
-
-TEST_F(Renumbering, LeavesAWholeTableAsItIs) {
-    show({"1", "1.1", "1.2", "2", "3", "3.1"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
-        1
-        1.1
-        1.2
-        2
-        3
-        3.1)"));
-}
-
-TEST_F(Renumbering, ClosesTheGapsOfHiddenRows) {
-    show({"1", "2", "2.1", "2.2", "3"});
-    rows_->getInputAtPosition(1, 0)->isVisible(false);
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
-        1
-        1
-        1.1
-        1.2
-        2)"));
-}
-
-TEST_F(Renumbering, IndentsByWhiteUnderscores) {
-    show({"1", "1.1"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(box(1)->formattedText(), "<p><span style=\"color:#000000\"><b>1</b></span></p>");
-    EXPECT_EQ(box(2)->formattedText(),
-              "<p><span style=\"color:#FFFFFF\">_</span>"
-              "<span style=\"color:#000000\"><b>1.1</b></span></p>");
-}
-
-TEST_F(Renumbering, LeavesTheNamesOfButtonsAlone) {
-    open(R"(
-        Bolt
-        Plate
-        Rod)");
-    showStructure();
-
-    session->choose("bomStructure_1", "Reference");
-
-    EXPECT_EQ(table(), text(R"(
-        2 | Part | Plate
-        3 | Part | Rod)"));
-}
-
-TEST_F(Renumbering, OfARowWithoutAPositionRaises) {
-    show({"1", "2"});
-    rows_->removeInput(2, 1);
-
-    EXPECT_THROW(tarnix::renumberVisibleRows(rows_), std::exception);
 }
 
 }  // namespace

@@ -1,0 +1,348 @@
+#include "tarnix/bom/behaviour/row_numbering.h"
+
+#include "tarnix/bom/behaviour/table_rows.h"
+
+#include "tests/support/addin_test.h"
+#include "tests/tarnix/bom/behaviour/own_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace test_support {
+namespace {
+
+using adsk::core::CommandInputs;
+using adsk::core::Ptr;
+using adsk::core::TableCommandInput;
+using adsk::core::TextBoxCommandInput;
+
+/// A table whose second column holds text boxes.
+class Renumbering : public AddinTest {
+protected:
+    /// Makes a table with a header and a row for each position.
+    void show(const std::vector<std::string>& positions) {
+        dialog_ =
+            std::make_unique<OwnDialog>("OwnPositions", [&](const Ptr<CommandInputs>& inputs) {
+                rows_ = inputs->addTableCommandInput("own", "", 2, "1:1");
+                addRow(inputs, "Pos.");
+                for (const std::string& position : positions) {
+                    addRow(inputs, position);
+                }
+            });
+        dialog_->open();
+    }
+
+    /// Takes a row out of sight.
+    void hide(int row) { rows_->getInputAtPosition(row, 0)->isVisible(false); }
+
+    void addRow(const Ptr<CommandInputs>& inputs, const std::string& position) {
+        const int row = rows_->rowCount();
+        rows_->addCommandInput(inputs->addBoolValueInput("", "", false), row, 0);
+        rows_->addCommandInput(inputs->addTextBoxCommandInput("", "", position, 1, true), row, 1);
+    }
+
+    /// What the renumbering raises; empty if nothing.
+    [[nodiscard]] std::string raisedByRenumbering() const {
+        try {
+            tarnix::renumberVisibleRows(rows_);
+        } catch (const std::exception& error) {
+            return error.what();
+        }
+        return "";
+    }
+
+    [[nodiscard]] Ptr<TextBoxCommandInput> box(int row) const {
+        return rows_->getInputAtPosition(row, 1);
+    }
+
+    /// The positions that the table shows without their indent, a line for each data row.
+    [[nodiscard]] std::string positions() const {
+        std::string lines;
+        for (int row = 1; row < rows_->rowCount(); ++row) {
+            lines += (lines.empty() ? "" : "\n") + tarnix::positionOfRow(rows_, row);
+        }
+        return lines;
+    }
+
+    std::unique_ptr<OwnDialog> dialog_;
+    Ptr<TableCommandInput> rows_;
+};
+
+TEST_F(Renumbering, LeavesAWholeTableAsItIs) {
+    show({"1", "1.1", "1.2", "2", "3", "3.1"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.2
+        2
+        3
+        3.1)"));
+}
+
+TEST_F(Renumbering, ClosesTheGapsOfHiddenRows) {
+    show({"1", "2", "2.1", "2.2", "3"});
+    hide(1);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1
+        1.1
+        1.2
+        2)"));
+}
+
+// How a deeper row, one of the same depth and the first below the top are numbered.
+TEST_F(Renumbering, CountsLevelsWhereTwoOpenAtOnce) {
+    show({"1", "2", "2.1.1", "2.1.2"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // Row 3 stands two levels below the 2. Row 4 then is one level below the 2.2 above it.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        2
+        2.2
+        2.2.1)"));
+}
+
+TEST_F(Renumbering, ReadsTheNewNumberOfTheRowInFront) {
+    show({"1", "1.1.1", "1.1"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // By its old position row 2 is deeper than row 3; by the 1.2 that it got it is as deep.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.2
+        1.3)"));
+}
+
+TEST_F(Renumbering, BeginsAtOneBehindAHiddenRowOfTheSameDepth) {
+    show({"1", "1.1", "1.2", "1.3"});
+    hide(2);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // The last number given is 1, which has no dot.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.1
+        1.2)"));
+}
+
+// The first row, in front of which the header stands: "Pos." has a dot.
+TEST_F(Renumbering, TakesTheHeaderForARowOfDepthOne) {
+    show({"1.1", "1.2"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        .1
+        .2)"));
+}
+
+TEST_F(Renumbering, GoesOneLevelDeeperThanTheHeader) {
+    show({"1.1.1", "2"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        .1
+        1)"));
+}
+
+TEST_F(Renumbering, ComparesWithAHiddenFirstRowAndNotWithTheHeader) {
+    show({"1.1.1", "1.2"});
+    hide(1);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // Row 2 is higher than the hidden row and the last one: it repeats the number before it, which
+    // is none. Beside the header it would have got ".1".
+    EXPECT_EQ(positions(), "1.1.1\n");
+    EXPECT_EQ(box(2)->formattedText(), "<p><span style=\"color:#000000\"><b></b></span></p>");
+}
+
+// A row behind a deeper one, when the row behind it is deeper again.
+TEST_F(Renumbering, CountsOnBehindADeeperRowWhereTheNextOneIsDeeper) {
+    show({"1", "1.1", "1.1.1", "1.2", "1.2.1"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.1.1
+        1.2
+        1.2.1)"));
+}
+
+TEST_F(Renumbering, CountsOnWithTheNewNumbersBehindAGap) {
+    show({"1", "2", "2.1", "2.2", "2.2.1", "2.3", "2.3.1"});
+    hide(1);
+    hide(3);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // Row 4 is as deep as the hidden row 3, and begins at one below the 1 that row 2 got.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1
+        2.1
+        1.1
+        1.1.1
+        1.2
+        1.2.1)"));
+}
+
+TEST_F(Renumbering, BeginsAtOneBehindADeeperHiddenRowWhereTheNextOneIsDeeper) {
+    show({"1", "1.1.1", "1.2", "1.2.1"});
+    hide(2);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // The last number given has one digit.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1.1
+        1.1
+        1.1.1)"));
+}
+
+TEST_F(Renumbering, LooksAtAHiddenRowBehind) {
+    show({"1", "1.1", "1.1.1", "1.2", "1.2.1", "2"});
+    hide(5);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // Before the 2 that is seen next, row 4 would have got 1.1.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.1.1
+        1.2
+        1.2.1
+        2)"));
+}
+
+TEST_F(Renumbering, RaisesWhereThePlaceOfTheDotIsBehindTheLastNumber) {
+    show({"1", "1.1", "9.9.9", "15.4", "15.4.1"});
+    hide(3);
+
+    EXPECT_EQ(raisedByRenumbering(), "invalid stoi argument");
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        9.9.9
+        15.4
+        15.4.1)"));
+}
+
+// A row behind a deeper one, when the row behind it is as deep as itself.
+TEST_F(Renumbering, RepeatsTheNumberBehindADeeperRowWhereTheNextOneIsAsDeep) {
+    show({"1", "1.1", "1.1.1", "1.2", "1.3", "1.4"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // The repeated number makes each row that follows one behind a deeper row.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.1.1
+        1.1.1
+        1.1.1
+        1.1.1)"));
+}
+
+TEST_F(Renumbering, OfTheLastRowTakesItsOwnDepthForThatBehindIt) {
+    show({"1", "1.1", "1.1.1", "1.2"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.1.1
+        1.1.1)"));
+}
+
+// A row behind a deeper one, when the row behind it is higher.
+TEST_F(Renumbering, TakesOneOffBehindADeeperRowWhereTheNextOneIsHigher) {
+    show({"1", "1.1", "1.1.1", "1.5", "2", "2.1"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.1.1
+        1.4
+        2
+        2.1)"));
+}
+
+TEST_F(Renumbering, RaisesWhereTheNumberToTakeOneOffIsNone) {
+    show({"1", "1.1", "1.1.1", "1.x", "2"});
+
+    EXPECT_EQ(raisedByRenumbering(), "invalid stoi argument");
+}
+
+TEST_F(Renumbering, LooksAtAHiddenRowInFront) {
+    show({"1", "1.1", "1.2.1", "1.5", "2"});
+    hide(3);
+
+    tarnix::renumberVisibleRows(rows_);
+
+    // Beside the 1.1 that is seen before it, row 4 would have got 1.2.
+    EXPECT_EQ(positions(), text(R"(
+        1
+        1.1
+        1.2.1
+        1.4
+        2)"));
+}
+
+TEST_F(Renumbering, IndentsByWhiteUnderscores) {
+    show({"1", "1.1"});
+
+    tarnix::renumberVisibleRows(rows_);
+
+    EXPECT_EQ(box(1)->formattedText(), "<p><span style=\"color:#000000\"><b>1</b></span></p>");
+    EXPECT_EQ(box(2)->formattedText(),
+              "<p><span style=\"color:#FFFFFF\">_</span>"
+              "<span style=\"color:#000000\"><b>1.1</b></span></p>");
+}
+
+TEST_F(Renumbering, LeavesTheNamesOfButtonsAlone) {
+    open(R"(
+        Bolt
+        Plate
+        Rod)");
+    showStructure();
+
+    session->choose("bomStructure_1", "Reference");
+
+    EXPECT_EQ(table(), text(R"(
+        2 | Part | Plate
+        3 | Part | Rod)"));
+}
+
+TEST_F(Renumbering, OfARowWithoutAPositionRaises) {
+    show({"1", "2"});
+    rows_->removeInput(2, 1);
+
+    EXPECT_THROW(tarnix::renumberVisibleRows(rows_), std::exception);
+}
+
+}  // namespace
+}  // namespace test_support
