@@ -124,6 +124,19 @@ TEST_F(BomExport, OfARowWithoutAChosenStructureSaysNotAvailable) {
               ";Total mass of structure BOM [kg]: ;\r\n");
 }
 
+TEST_F(BomExport, OfAPartNumberOfOneSaysNotAvailable) {
+    open("Plate  number=1");
+    showStructure();
+
+    exportBom();
+
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;1;n/a;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;0.000\r\n");
+}
+
 TEST_F(BomExport, LetsASemicolonBreakTheColumns) {
     open("Plate  number=P;1");
     showModel();

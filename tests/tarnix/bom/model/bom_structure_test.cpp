@@ -38,9 +38,19 @@ TEST(FirstSetProperty, IsACustomPropertyOfOneThatStandsInFront) {
     EXPECT_EQ(firstSetProperty(rowWith({{"QEMA_Count", "1"}, {"Reference", "1"}})), "QEMA_Count");
 }
 
-TEST(FirstSetProperty, LooksAtTheModelsOwnKeysToo) {
+TEST(FirstSetProperty, IsAPartNumberOfOne) {
     EXPECT_EQ(firstSetProperty(rowWith({{kPartNumberKey, "1"}, {"Reference", "1"}})),
               "QEMA_Part Number");
+}
+
+TEST(FirstSetProperty, IsANameOfOne) {
+    EXPECT_EQ(firstSetProperty(rowWith({{kPartNameKey, "1"}, {"Reference", "1"}})),
+              "QEMA_Part Name");
+}
+
+TEST(FirstSetProperty, IsADescriptionOfOne) {
+    EXPECT_EQ(firstSetProperty(rowWith({{kDescriptionKey, "1"}, {"Reference", "1"}})),
+              "QEMA_Description");
 }
 
 }  // namespace

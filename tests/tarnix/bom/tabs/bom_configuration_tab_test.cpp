@@ -13,6 +13,18 @@ const char* const kFixedEntries =
 
 class BomConfigurationTab : public BomTabsTest {
 protected:
+    /// The chosen entry of each of the six drop-downs, "-" for none, with blanks between.
+    [[nodiscard]] std::string chosenEntries() const {
+        std::string all;
+        for (int k = 0; k < 6; ++k) {
+            const adsk::core::Ptr<adsk::core::DropDownCommandInput> choice =
+                session->input("iProperty_" + std::to_string(k));
+            const auto selected = choice->selectedItem();
+            all += (k == 0 ? "" : " ") + (selected ? selected->name() : "-");
+        }
+        return all;
+    }
+
     /// The saved columns as the tab shows them: state, caption and choice of the free columns.
     [[nodiscard]] std::string freeColumn(int k) const {
         const auto table = session->table(kConfigurationTable);
@@ -53,6 +65,7 @@ TEST_F(BomConfigurationTab, WithoutItemsShowsSixUnusedColumns) {
         7 text nameCol8 "NameCol8"
         8 text nameCol9 "NameCol9"
         9 text nameCol10 "NameCol10")"));
+    EXPECT_EQ(chosenEntries(), "- - - - - -");
 }
 
 TEST_F(BomConfigurationTab, ShowsAModelOfARowWithSixDropDowns) {

@@ -217,6 +217,20 @@ TEST_F(DataOfModelTab, SelectsNothingWhereACustomPropertyHoldsOne) {
     EXPECT_EQ(column(kModelTable, 4), "Produce/Buy/AsPart/Divided/Reference");
 }
 
+TEST_F(DataOfModelTab, SelectsNothingWhereANumberANameOrADescriptionIsOne) {
+    open(R"(
+        Bolt  number=1
+        1  number=P-1
+        Nut  description=1
+        Cap  description=10)");
+    openBom();
+    EXPECT_EQ(column(kModelTable, 4), text(R"(
+        Produce/Buy/AsPart/Divided/Reference
+        Produce/Buy/AsPart/Divided/Reference
+        Produce/Buy/AsPart/Divided/Reference
+        *Produce/Buy/AsPart/Divided/Reference)"));
+}
+
 TEST_F(DataOfModelTab, SelectsTheLastOfTwoStructuresThatAreSet) {
     open(
         "Bolt  attribute=QEMA_PropertiesAttributesGroup/Buy/1 "

@@ -67,6 +67,20 @@ TEST_F(StructureTab, ShowsTwoEqualBoltsAsOneLine) {
     EXPECT_EQ(rowCount(kStructureTable), 2);
 }
 
+TEST_F(StructureTab, ChoosesNothingWhereANumberANameOrADescriptionIsOne) {
+    open(R"(
+        Bolt  number=1
+        1  number=P-1
+        Nut  description=1
+        Cap  description=10)");
+    showStructure();
+    EXPECT_EQ(column(kStructureTable, 4), text(R"(
+        Produce/Buy/AsPart/Divided/Reference
+        Produce/Buy/AsPart/Divided/Reference
+        Produce/Buy/AsPart/Divided/Reference
+        *Produce/Buy/AsPart/Divided/Reference)"));
+}
+
 TEST_F(StructureTab, ShowsTwoNamesOfOnePartNumberAsOneCombinedLine) {
     configure({"QEMA_Quantity;Pcs"});
     open(R"(
