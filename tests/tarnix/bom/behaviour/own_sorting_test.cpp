@@ -44,10 +44,10 @@ TEST_F(OwnSorting, ByATextLeavesARowWithATextBoxWhereItIs) {
         addRow(inputs, kTextColumn, inputs->addStringValueInput("part_3", "", "b"));
     });
 
-    sortStructureTable(rows, header, "Ascending");
+    sortStructureTable(rows, header, "Descending");
 
     // The sorted rows went behind the one that was dropped from the sort.
-    EXPECT_EQ(ids(kTextColumn), "part_2 part_3 part_1");
+    EXPECT_EQ(ids(kTextColumn), "part_2 part_1 part_3");
 }
 
 TEST_F(OwnSorting, ByANumberLeavesARowWithAnImageWhereItIs) {

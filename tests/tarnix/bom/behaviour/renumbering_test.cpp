@@ -127,17 +127,18 @@ TEST_F(Renumbering, ReadsTheNewNumberOfTheRowInFront) {
 }
 
 TEST_F(Renumbering, BeginsAtOneBehindAHiddenRowOfTheSameDepth) {
-    show({"1", "1.1", "1.2", "1.3"});
+    show({"1", "1.1.1", "1.1.2", "1.1.3"});
     hide(2);
 
     tarnix::renumberVisibleRows(rows_);
 
-    // The last number given is 1, which has no dot.
+    // The last number given is 1, which has no dot. Behind a row that shows, row 3 would have got
+    // 1.2 for its two levels.
     EXPECT_EQ(positions(), text(R"(
         1
+        1.1.1
         1.1
-        1.1
-        1.2)"));
+        1.1.1)"));
 }
 
 // The first row, in front of which the header stands: "Pos." has a dot.
@@ -206,17 +207,17 @@ TEST_F(Renumbering, CountsOnWithTheNewNumbersBehindAGap) {
 }
 
 TEST_F(Renumbering, BeginsAtOneBehindADeeperHiddenRowWhereTheNextOneIsDeeper) {
-    show({"1", "1.1.1", "1.2", "1.2.1"});
+    show({"1", "1.1.1.1", "1.1.2", "1.1.2.1"});
     hide(2);
 
     tarnix::renumberVisibleRows(rows_);
 
-    // The last number given has one digit.
+    // The last number given has one digit. Row 4 then is two levels below the 1.1 above it.
     EXPECT_EQ(positions(), text(R"(
         1
-        1.1.1
+        1.1.1.1
         1.1
-        1.1.1)"));
+        1.1.2)"));
 }
 
 TEST_F(Renumbering, LooksAtAHiddenRowBehind) {
