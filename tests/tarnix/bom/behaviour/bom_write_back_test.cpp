@@ -301,6 +301,20 @@ TEST_F(BomWriteBack, OfTheStructureTableLooksBehindTheFirstMatchToo) {
     EXPECT_EQ(attributes(0), "");
 }
 
+TEST_F(BomWriteBack, OfTheModelTableSkipsAPlaceAtTheTopThatIsEmpty) {
+    open(R"(
+        Bolt  number=B-1
+        (absent)
+        Plate  number=P-1)");
+    showModel();
+    session->paste("modelPartNumberOcc_2", "P-2");
+
+    save();
+
+    EXPECT_EQ(component(2)->partNumber(), "P-2");
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(BomWriteBack, LeavesAlonePlacementsAndOtherGroups) {
     open(R"(
         Bolt  at=1,2,3 grounded attribute=Other/Key/value)");
