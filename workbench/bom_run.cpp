@@ -3,6 +3,7 @@
 #include "workbench/addin_session.h"
 #include "workbench/bom_hands.h"
 #include "workbench/exit_code.h"
+#include "workbench/unmeasured.h"
 
 #include <fstream>
 #include <functional>
@@ -125,6 +126,7 @@ BomResult makeBom(host::DesignData design, const BomTab& tab, const BomOptions& 
              [&](host::Session& session) {
                  arrange(session, tab, wishes);
                  result.list = readShownList(session, tab);
+                 refuseUnmeasured(session.unmeasured());
                  exportList(session, result);
              });
     return result;

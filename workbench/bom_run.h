@@ -29,7 +29,8 @@ struct BomResult {
 /// Runs the add-in on a design as its user would: BOM, the tab, the export, Close; before, what
 /// else is wished for. Each wish has a session of its own, since line numbers go on from one
 /// opening to the next. The settings are handed to `written` before they are saved. Raises a
-/// `Failure` where a step cannot be done.
+/// `Failure` where a step cannot be done, and before the export where a shape could not be
+/// measured.
 BomResult makeBom(host::DesignData design, const BomTab& tab, const BomOptions& options,
                   const BomWishes& wishes, WrittenFiles& written);
 

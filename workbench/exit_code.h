@@ -9,7 +9,7 @@ namespace workbench {
 /// output file written or changed.
 enum class ExitCode : int {
     Success = 0,
-    BadInput = 1,  ///< the given file cannot be read as a design
+    BadInput = 1,  ///< the given file cannot be read as a design, or not be measured
     BadUsage = 2,  ///< the command line makes no sense
     NoAddin = 3,   ///< the add-in is missing, cannot be started, or is in use by another process
     AddinFailed =

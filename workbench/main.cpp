@@ -18,10 +18,10 @@ namespace workbench {
 namespace {
 
 constexpr const char* kFooter =
-    "Exit status: 0 done, 1 the file cannot be read as a design, 2 wrong usage, 3 the add-in is\n"
-    "missing or in use, 4 the add-in failed, 5 a result cannot be written. Unless it is 0, one "
-    "line\n"
-    "on stderr says why, and no file was written.";
+    "Exit status: 0 done, 1 the file cannot be read as a design or not be measured, 2 wrong "
+    "usage,\n"
+    "3 the add-in is missing or in use, 4 the add-in failed, 5 a result cannot be written. Unless\n"
+    "it is 0, one line on stderr says why, and no file was written.";
 
 /// The options that act in the add-in's dialog.
 void addWishes(CLI::App& command, BomOptions& options) {

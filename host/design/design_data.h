@@ -31,7 +31,8 @@ struct Box {
 
 /// The bodies of one component, measured when somebody asks.
 ///
-/// One object serves all components that share the same shape, so a shape is measured once.
+/// One object serves all components that share the same shape, so a shape is measured once. What
+/// cannot be measured raises a `std::exception` that says why, each time that somebody asks.
 class Geometry {
 public:
     virtual ~Geometry() = default;

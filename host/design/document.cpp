@@ -83,6 +83,11 @@ DesignData snapshot(const Ptr<Document>& document) {
     return object != nullptr && object->model() != nullptr ? object->snapshot() : DesignData();
 }
 
+std::vector<Unmeasured> unmeasuredIn(const Ptr<Document>& document) {
+    const Model* model = modelOf(document);
+    return model != nullptr ? model->unmeasured : std::vector<Unmeasured>();
+}
+
 std::uint64_t editCount(const Ptr<Document>& document) {
     const Model* model = modelOf(document);
     return model != nullptr ? model->edits.all : 0;

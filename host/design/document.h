@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/design/design_data.h"
+#include "host/design/unmeasured.h"
 
 #include <Core/Application.h>
 #include <Core/Data.h>
@@ -51,6 +52,9 @@ void setDataFile(const adsk::core::Ptr<adsk::core::Document>& document,
 
 /// The design with all that was done to it; empty for null and after the end.
 DesignData snapshot(const adsk::core::Ptr<adsk::core::Document>& document);
+
+/// The components that could not be measured so far, since they were asked for.
+std::vector<Unmeasured> unmeasuredIn(const adsk::core::Ptr<adsk::core::Document>& document);
 
 /// How often the design was changed since it was opened.
 std::uint64_t editCount(const adsk::core::Ptr<adsk::core::Document>& document);

@@ -8,17 +8,27 @@
 #include <Core/Enums.h>
 
 #include <exception>
+#include <string>
+#include <utility>
 
 namespace host {
 namespace {
 
-/// Asks a geometry; what cannot be measured counts as if there were no body, and is noted.
+void noteFailure(ComponentObject& component, const std::string& reason) {
+    fail(adsk::core::InvalidGeometryError, reason);
+    if (!std::exchange(component.measureCache().failed, true)) {
+        component.model().unmeasured.push_back({component.data().name, reason});
+    }
+}
+
+/// Asks a component's geometry; what cannot be measured counts as if there were no body, and is
+/// noted.
 template <class Result, class Ask>
-Result asked(Geometry& geometry, Ask ask) {
+Result asked(ComponentObject& component, Ask ask) {
     try {
-        return ask(geometry);
+        return ask(*component.data().geometry);
     } catch (const std::exception& error) {
-        fail(adsk::core::InvalidGeometryError, error.what());
+        noteFailure(component, error.what());
         return {};
     }
 }
@@ -28,7 +38,7 @@ Measures ownMeasures(ComponentObject& component) {
     if (!cache.own) {
         cache.own = Measures();
         if (component.data().geometry) {
-            cache.own = asked<Measures>(*component.data().geometry, [](Geometry& geometry) {
+            cache.own = asked<Measures>(component, [](Geometry& geometry) {
                 return Measures{geometry.area(), geometry.volume(), 0};
             });
         }
@@ -42,7 +52,7 @@ std::optional<Box> measuredBox(ComponentObject& component, const Transform& plac
     if (!component.data().geometry) {
         return std::nullopt;
     }
-    return asked<std::optional<Box>>(*component.data().geometry,
+    return asked<std::optional<Box>>(component,
                                      [&](Geometry& geometry) { return geometry.box(placement); });
 }
 

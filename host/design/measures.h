@@ -30,10 +30,13 @@ struct MeasureCache {
     bool boxKnown = false;
     std::optional<Box> box;
     std::uint64_t boxEdits = 0;  ///< the count of `Edits::placements` that `box` fits
+
+    bool failed = false;  ///< its own bodies could not be measured
 };
 
 /// Measures a component: its bodies, and everything that stands in it, each as often as it stands
-/// there. Every component is measured once, until a material changes.
+/// there. Every component is measured once, until a material changes. Bodies that cannot be
+/// measured count as none; the host's last error and `Model::unmeasured` tell of them.
 Measures measure(ComponentObject& component);
 
 /// The box around a component along its axes, exact for every body in it; none without any body.

@@ -4,6 +4,7 @@
 #include "host/design/edits.h"
 #include "host/design/material_object.h"
 #include "host/design/naming.h"
+#include "host/design/unmeasured.h"
 
 #include <Core/Memory.h>
 
@@ -44,6 +45,7 @@ public:
     Edits edits;
     ComponentNames names;
     Materials materials{edits};
+    std::vector<Unmeasured> unmeasured;  ///< each component once, in the order they came up
 
 private:
     DesignData rest_;  ///< without components

@@ -1,11 +1,10 @@
 #include "host/import/step_geometry.h"
 
-#include "host/base/last_error.h"
-
 #include <nlohmann/json.hpp>
 
 #include <array>
 #include <charconv>
+#include <stdexcept>
 #include <utility>
 
 namespace host {
@@ -13,9 +12,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr int kOperationFailed = 5;  // GenericErrors::OperationFailed
-
-/// Asks, and notes a failure as the host's last error; an empty object then.
+/// The reader's answer; raises why there is none.
 json ask(ReaderProcess& reader, const std::string& request, const std::string& file) {
     std::string reason;
     try {
@@ -31,8 +28,7 @@ json ask(ReaderProcess& reader, const std::string& request, const std::string& f
     } catch (const json::exception& failure) {
         reason = failure.what();
     }
-    fail(kOperationFailed, file + ": a shape cannot be measured: " + reason);
-    return json::object();
+    throw std::runtime_error(file + ": a shape cannot be measured: " + reason);
 }
 
 /// All digits that tell the value, with a point whatever the process' locale is.
@@ -72,13 +68,18 @@ std::optional<Box> StepGeometry::box(const Transform& placement) {
 }
 
 void StepGeometry::measure() {
-    if (measured_) {
-        return;
+    if (!std::exchange(measured_, true)) {
+        try {
+            const json answer = ask(*reader_, "measure " + std::to_string(shape_), file_);
+            area_ = answer.at("area");
+            volume_ = answer.at("volume");
+        } catch (const std::exception& error) {
+            failure_ = error.what();
+        }
     }
-    measured_ = true;
-    const json answer = ask(*reader_, "measure " + std::to_string(shape_), file_);
-    area_ = answer.value("area", 0.0);
-    volume_ = answer.value("volume", 0.0);
+    if (!failure_.empty()) {
+        throw std::runtime_error(failure_);
+    }
 }
 
 }  // namespace host

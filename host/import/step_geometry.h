@@ -9,6 +9,9 @@
 namespace host {
 
 /// A shape that a reader holds: it is asked when somebody wants to know its size, once.
+///
+/// A reader that fails raises a `std::runtime_error` with the file and the reason: for this
+/// question, and where it crashed or was ended for every later one.
 class StepGeometry final : public Geometry {
 public:
     /// The number of the shape is the reader's; `file` names the source where a failure is told.
@@ -25,6 +28,7 @@ private:
     int shape_;
     std::string file_;
     bool measured_ = false;
+    std::string failure_;  ///< why it could not be measured; empty when it could
     double area_ = 0;
     double volume_ = 0;
 };

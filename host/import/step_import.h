@@ -49,8 +49,8 @@ MaterialData defaultMaterial();
 /// should know although the design could be read is appended to `warnings`, one line each. Raises
 /// `ImportError`.
 ///
-/// A measurement that fails later (the reader crashed, or took more than the limits allow) measures
-/// nothing: zero, or no box. The host's last error then tells why.
+/// A measurement that fails later (the reader crashed, or took more than the limits allow) raises a
+/// `std::runtime_error`. A reader that crashed or was ended measures nothing any more.
 DesignData importStep(const std::string& path, const ImportLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings);
 

@@ -257,6 +257,8 @@ const std::vector<Raised>& Session::raised() const { return host::raised(); }
 
 void Session::clearRaised() { host::clearRaised(); }
 
+std::vector<Unmeasured> Session::unmeasured() const { return unmeasuredIn(document_); }
+
 const std::vector<Message>& Session::messages() const { return host::messages(); }
 
 const std::vector<std::string>& Session::openedByShell() const {

@@ -3,6 +3,7 @@
 #include "host/base/dispatcher.h"
 #include "host/base/gate.h"
 #include "host/cloud/user_data.h"
+#include "host/design/unmeasured.h"
 #include "host/session/addin_copy.h"
 #include "host/session/loaded_module.h"
 #include "host/session/opening.h"
@@ -203,6 +204,10 @@ public:
     /// What left the module as an exception since the session began, or since it was cleared.
     [[nodiscard]] const std::vector<Raised>& raised() const;
     void clearRaised();
+
+    /// The components of the open design that were asked for their size and could not be measured:
+    /// each stands in every sum with nothing.
+    [[nodiscard]] std::vector<Unmeasured> unmeasured() const;
 
     /// The messages that were shown, oldest first.
     [[nodiscard]] const std::vector<Message>& messages() const;

@@ -4,6 +4,7 @@
 
 #include <Standard_Failure.hxx>
 
+#include <cmath>
 #include <exception>
 #include <iostream>
 #include <sstream>
@@ -96,6 +97,9 @@ json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes
     }
     if (verb == "measure") {
         const Size size = sizeOf(shapes(shape + 1));
+        if (!std::isfinite(size.area) || !std::isfinite(size.volume)) {
+            return {{"error", "its surfaces enclose nothing that could be measured"}};
+        }
         return {{"area", size.area}, {"volume", size.volume}};
     }
     const std::optional<Bounds> bounds = boundsOf(shapes(shape + 1), placementOf(words));

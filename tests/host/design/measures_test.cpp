@@ -193,5 +193,22 @@ TEST_F(MeasuresTest, ShapeThatCannotBeMeasuredCountsAsNoneAndIsNoted) {
     EXPECT_EQ(cornersOf(root()->boundingBox()), Corners());
 }
 
+TEST_F(MeasuresTest, WhatCouldNotBeMeasuredIsToldOnceForEachComponent) {
+    DesignData data = parseOutline(R"(
+        Bolt
+        Nut
+        Washer  box=1x1x1)");
+    data.components[1].geometry = std::make_shared<BrokenGeometry>();
+    data.components[2].geometry = data.components[1].geometry;
+    open(std::move(data));
+    EXPECT_EQ(unmeasuredIn(document), std::vector<Unmeasured>());
+
+    root()->physicalProperties();
+    root()->boundingBox();
+
+    EXPECT_EQ(unmeasuredIn(document), (std::vector<Unmeasured>{{"Bolt", "the shell is open"},
+                                                               {"Nut", "the shell is open"}}));
+}
+
 }  // namespace
 }  // namespace host

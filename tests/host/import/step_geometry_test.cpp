@@ -1,8 +1,9 @@
 #include "host/import/step_geometry.h"
 
-#include "host/base/last_error.h"
-
 #include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
 
 namespace {
 
@@ -14,6 +15,17 @@ StepGeometry answering(const std::string& script) {
     return {std::make_shared<ReaderProcess>("/bin/sh", std::vector<std::string>{"-c", script},
                                             ReaderProcess::Bounds{30, 1000}),
             3, "a.step"};
+}
+
+/// What an operation raises as its reason; empty when it raises nothing.
+template <class Operation>
+std::string complaint(Operation operation) {
+    try {
+        operation();
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+    return {};
 }
 
 TEST(StepGeometry, AShapeIsMeasuredOnce) {
@@ -39,20 +51,30 @@ TEST(StepGeometry, AShapeWithoutExtentHasNoBox) {
     EXPECT_EQ(answering("read line; echo '{}'").box({}), std::nullopt);
 }
 
-TEST(StepGeometry, AReaderThatIsGoneMeasuresNothingAndSaysWhy) {
+TEST(StepGeometry, AReaderThatIsGoneRaisesEachTime) {
     StepGeometry geometry = answering("read line; kill -SEGV $$");
+    const std::string why =
+        "a.step: a shape cannot be measured: the reader crashed (Segmentation fault)";
 
-    EXPECT_EQ(geometry.volume(), 0);
-    EXPECT_EQ(host::lastError().description,
-              "a.step: a shape cannot be measured: the reader crashed (Segmentation fault)");
-    EXPECT_EQ(geometry.box({}), std::nullopt);
+    EXPECT_EQ(complaint([&] { geometry.volume(); }), why);
+    EXPECT_EQ(complaint([&] { geometry.volume(); }), why);
+    EXPECT_EQ(complaint([&] { geometry.box({}); }), why);
 }
 
-TEST(StepGeometry, AFailureInsideTheReaderIsTold) {
-    StepGeometry geometry = answering(R"(read line; echo '{"error": "no surface"}')");
+TEST(StepGeometry, AFailureInsideTheReaderLeavesItForOtherQuestions) {
+    StepGeometry geometry =
+        answering(R"(read line; echo '{"error": "no surface"}'; read line; echo '{}')");
+    const std::string why = "a.step: a shape cannot be measured: no surface";
 
-    EXPECT_EQ(geometry.area(), 0);
-    EXPECT_EQ(host::lastError().description, "a.step: a shape cannot be measured: no surface");
+    EXPECT_EQ(complaint([&] { geometry.area(); }), why);
+    EXPECT_EQ(geometry.box({}), std::nullopt);
+    EXPECT_EQ(complaint([&] { geometry.volume(); }), why);
+}
+
+TEST(StepGeometry, AnAnswerWithoutASizeIsAFailure) {
+    StepGeometry geometry = answering(R"(read line; echo '{"area": 6}')");
+
+    EXPECT_THROW(geometry.area(), std::runtime_error);
 }
 
 }  // namespace
