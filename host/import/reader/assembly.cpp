@@ -26,8 +26,8 @@ public:
             return known->second;
         }
         auto file = std::make_unique<StepFile>(path);
-        if (!file->warning.empty()) {
-            warn(path, file->warning);
+        for (const std::string& warning : file->warnings) {
+            warn(path, warning);
         }
         assembly_.files.push_back(std::move(file));
         const std::size_t number = assembly_.files.size() - 1;

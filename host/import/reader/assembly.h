@@ -5,6 +5,7 @@
 
 #include <StepBasic_ProductDefinition.hxx>
 #include <StepRepr_NextAssemblyUsageOccurrence.hxx>
+#include <StepRepr_RepresentationItem.hxx>
 #include <gp_Trsf.hxx>
 
 #include <cstddef>
@@ -37,7 +38,8 @@ struct Component {
     std::vector<Use> uses;
     std::size_t file = 0;  ///< the file that it stands in
     Handle(StepBasic_ProductDefinition) definition;
-    bool described = false;              ///< whether the file gives it a shape representation
+    bool described = false;  ///< whether the file gives it a shape representation
+    std::vector<Handle(StepRepr_RepresentationItem)> bodies;  ///< what is told of there as bodies
     int shape = -1;                      ///< its bodies, once shapes are built; -1 without any
     std::optional<std::size_t> content;  ///< the component of another file that fills it
 };

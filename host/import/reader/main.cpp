@@ -38,7 +38,11 @@ private:
 
 void runIges(const std::string& file) {
     TopTools_IndexedMapOfShape shapes;
-    step::say({{"design", step::readIges(file, shapes)}});
+    const nlohmann::json design = step::readIges(file, shapes);
+    if (shapes.IsEmpty()) {
+        step::say({{"warning", "holds no body that can be built"}});
+    }
+    step::say({{"design", design}});
     step::answerRequests(std::cin, shapes);
 }
 

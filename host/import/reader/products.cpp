@@ -1,6 +1,7 @@
 #include "host/import/reader/products.h"
 
 #include "host/import/reader/text_encoding.h"
+#include "host/import/reader/told_bodies.h"
 
 #include <StepBasic_Product.hxx>
 #include <StepBasic_ProductDefinitionFormation.hxx>
@@ -88,8 +89,9 @@ std::unordered_set<std::size_t> addUses(Assembly& assembly, const Index& index) 
     return used;
 }
 
-void markDescribed(Assembly& assembly, const Index& index) {
+void noteDescriptions(Assembly& assembly, const Index& index) {
     const StepFile& file = *assembly.files.back();
+    const ToldBodies told(file);
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
         const auto link = entity<StepShape_ShapeDefinitionRepresentation>(file, number);
         if (link.IsNull() || link->Definition().PropertyDefinition().IsNull()) {
@@ -99,7 +101,10 @@ void markDescribed(Assembly& assembly, const Index& index) {
             link->Definition().PropertyDefinition()->Definition();
         const auto found = index.find(owner.ProductDefinition().get());
         if (found != index.end()) {
-            assembly.components[found->second].described = true;
+            Component& component = assembly.components[found->second];
+            component.described = true;
+            const auto bodies = told.in(link->UsedRepresentation());
+            component.bodies.insert(component.bodies.end(), bodies.begin(), bodies.end());
         }
     }
 }
@@ -110,7 +115,7 @@ std::vector<std::size_t> addProducts(Assembly& assembly) {
     const std::size_t first = assembly.components.size();
     const Index index = addComponents(assembly);
     const std::unordered_set<std::size_t> used = addUses(assembly, index);
-    markDescribed(assembly, index);
+    noteDescriptions(assembly, index);
     std::vector<std::size_t> roots;
     for (std::size_t at = first; at < assembly.components.size(); ++at) {
         if (!used.contains(at)) {

@@ -1,27 +1,16 @@
 #include "host/import/reader/shapes.h"
 
+#include "host/import/reader/told_bodies.h"
+
 #include <BRep_Builder.hxx>
 #include <Message_ProgressScope.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_MapOfShape.hxx>
 #include <TopoDS_Compound.hxx>
 #include <TopoDS_Iterator.hxx>
-#include <TransferBRep.hxx>
-#include <Transfer_Binder.hxx>
-#include <Transfer_TransientProcess.hxx>
-#include <XSControl_TransferReader.hxx>
-#include <XSControl_WorkSession.hxx>
 
 namespace step {
 namespace {
-
-/// What came of an entity of a file; a null shape when nothing did.
-TopoDS_Shape resultOf(const StepFile& file, const Handle(Standard_Transient) & entity) {
-    const Handle(Transfer_TransientProcess) process =
-        file.reader.WS()->TransferReader()->TransientProcess();
-    const Handle(Transfer_Binder) binder = process->Find(entity);
-    return binder.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(binder);
-}
 
 void addAll(TopoDS_Compound& bodies, TopExp_Explorer explorer) {
     for (; explorer.More(); explorer.Next()) {
@@ -36,8 +25,8 @@ public:
     TopTools_IndexedMapOfShape build(const Message_ProgressRange& progress) {
         transfer(progress);
         for (Component& component : assembly_.components) {
-            const TopoDS_Shape whole = resultOf(fileOf(component), component.definition);
-            const TopoDS_Shape bodies = place(component, whole);
+            const TopoDS_Shape bodies =
+                place(component, fileOf(component).shapeOf(component.definition));
             component.shape = bodies.IsNull() ? -1 : shapes_.Add(bodies) - 1;
         }
         for (Component& component : assembly_.components) {
@@ -50,6 +39,9 @@ public:
             assembly_.warnings.push_back(
                 "tells no placement for " + std::to_string(unplaced_) +
                 (unplaced_ == 1 ? " usage; it stands" : " usages; they stand") + " at the origin");
+        }
+        if (const std::string complaint = complaintAboutBodies(assembly_); !complaint.empty()) {
+            assembly_.warnings.push_back(complaint);
         }
         return shapes_;
     }
@@ -64,7 +56,7 @@ private:
             const Message_ProgressRange range = scope.Next();
             StepFile& file = fileOf(component);
             // The transfer of an assembly takes along what hangs below it: most come here done.
-            if (resultOf(file, component.definition).IsNull()) {
+            if (file.shapeOf(component.definition).IsNull()) {
                 file.reader.TransferEntity(component.definition, range);
             }
         }
@@ -78,14 +70,13 @@ private:
                 continue;
             }
             StepFile& file = *assembly_.files[assembly_.components[use.component].file];
-            const TopoDS_Shape used = resultOf(file, use.usage);
+            const TopoDS_Shape used = file.shapeOf(use.usage);
             if (used.IsNull()) {
                 ++unplaced_;
                 continue;
             }
             below.Add(used);
-            const TopoDS_Shape plain =
-                resultOf(file, assembly_.components[use.component].definition);
+            const TopoDS_Shape plain = file.shapeOf(assembly_.components[use.component].definition);
             const TopLoc_Location own = plain.IsNull() ? TopLoc_Location() : plain.Location();
             use.placement = (used.Location() * own.Inverted()).Transformation();
         }

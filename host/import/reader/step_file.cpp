@@ -5,6 +5,10 @@
 #include <Message_Messenger.hxx>
 #include <Message_Printer.hxx>
 #include <TColStd_SequenceOfAsciiString.hxx>
+#include <TransferBRep.hxx>
+#include <Transfer_Binder.hxx>
+#include <Transfer_TransientProcess.hxx>
+#include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
 
 #include <algorithm>
@@ -96,22 +100,32 @@ std::string count(std::size_t number, const std::string& one, const std::string&
     return std::to_string(number) + " " + (number == 1 ? one : several);
 }
 
-/// What the check of the loaded entities says, the first complaint in words.
-std::string complaints(const StepData_StepModel& model) {
-    std::size_t faulty = 0;
-    std::string first;
-    for (int number = 1; number <= model.NbEntities(); ++number) {
-        const Handle(Interface_Check)& check = model.Check(number, /*syntactic=*/true);
-        if (!check->HasFailed()) {
-            continue;
-        }
-        if (faulty++ == 0) {
-            first = check->CFail(1, /*final=*/true);
-            first += " (#" + std::to_string(model.IdentLabel(model.Value(number))) + ")";
+/// Entities that are not as their schema wants them, the first complaint in words.
+class Faults {
+public:
+    void add(const std::string& complaint, int label) {
+        if (count_++ == 0) {
+            first_ = complaint + " (#" + std::to_string(label) + ")";
         }
     }
-    return faulty == 0 ? ""
-                       : count(faulty, "faulty entity", "faulty entities") + ", first " + first;
+
+    [[nodiscard]] std::string text() const {
+        return count_ == 0
+                   ? ""
+                   : count(count_, "faulty entity", "faulty entities") + ", first " + first_;
+    }
+
+private:
+    std::size_t count_ = 0;
+    std::string first_;
+};
+
+/// Whether a design lacks something where this is wrong with one of its entities. Products, places
+/// and shapes are built from these kinds; a name that is not told is an empty one.
+bool matters(const std::string& complaint, std::string_view kind) {
+    return complaint.find("not a quoted String") == std::string::npos &&
+           (kind.starts_with("StepBasic_") || kind.starts_with("StepGeom_") ||
+            kind.starts_with("StepRepr_") || kind.starts_with("StepShape_"));
 }
 
 }  // namespace
@@ -129,15 +143,43 @@ StepFile::StepFile(const std::filesystem::path& file) : path(file), texts(conten
     if (status != IFSelect_RetDone || model.IsNull()) {
         throw ReadError("cannot be read as STEP; export it again");
     }
-    faults = complaints(*model);
     if (const std::size_t missing = listening.listener->unresolved; missing > 0) {
-        warning = count(missing, "reference leads", "references lead") +
-                  " to an entity that is missing; what needs it is left out";
+        warnings.push_back(count(missing, "reference leads", "references lead") +
+                           " to an entity that is missing; what needs it is left out");
+    }
+    checkEntities();
+}
+
+void StepFile::checkEntities() {
+    Faults all;
+    Faults mattering;
+    for (int number = 1; number <= model->NbEntities(); ++number) {
+        const Handle(Interface_Check)& check = model->Check(number, /*syntactic=*/true);
+        if (!check->HasFailed()) {
+            continue;
+        }
+        const Handle(Standard_Transient) entity = model->Value(number);
+        const std::string complaint = check->CFail(1, /*final=*/true);
+        all.add(complaint, label(entity));
+        if (matters(complaint, entity->DynamicType()->Name())) {
+            mattering.add(complaint, label(entity));
+        }
+    }
+    faults = all.text();
+    if (const std::string text = mattering.text(); !text.empty()) {
+        warnings.push_back("has " + text + "; what needs them may be missing or wrong");
     }
 }
 
 int StepFile::label(const Handle(Standard_Transient) & entity) const {
     return model->IdentLabel(entity);
+}
+
+TopoDS_Shape StepFile::shapeOf(const Handle(Standard_Transient) & entity) const {
+    const Handle(Transfer_TransientProcess) process =
+        reader.WS()->TransferReader()->TransientProcess();
+    const Handle(Transfer_Binder) binder = process->Find(entity);
+    return binder.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(binder);
 }
 
 std::string StepFile::unit() {

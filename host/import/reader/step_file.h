@@ -4,10 +4,12 @@
 
 #include <STEPControl_Reader.hxx>
 #include <StepData_StepModel.hxx>
+#include <TopoDS_Shape.hxx>
 
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace step {
 
@@ -27,6 +29,9 @@ public:
     /// The label of an entity in the file, the number behind "#".
     [[nodiscard]] int label(const Handle(Standard_Transient) & entity) const;
 
+    /// What came of an entity once shapes were built; a null shape when nothing did.
+    [[nodiscard]] TopoDS_Shape shapeOf(const Handle(Standard_Transient) & entity) const;
+
     /// "mm", "cm", "m", "in" ...: the length unit that most of the file is in; empty if it tells
     /// none.
     std::string unit();
@@ -35,8 +40,11 @@ public:
     STEPControl_Reader reader;
     Handle(StepData_StepModel) model;
     Part21Texts texts;
-    std::string faults;   ///< entities that are not as their schema wants them, empty if none
-    std::string warning;  ///< what a person should know, empty if nothing
+    std::string faults;  ///< entities that are not as their schema wants them, empty if none
+    std::vector<std::string> warnings;  ///< what a person should know
+
+private:
+    void checkEntities();
 };
 
 }  // namespace step

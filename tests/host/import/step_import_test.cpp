@@ -28,6 +28,20 @@ using samples::Solid;
 /// A plate of 10 x 20 x 5 mm on the plane z = 0, its middle above the origin.
 const Solid kPlate = {{{rectangle(10, 20), 5}}, {}};
 
+/// The reference of the first entity of this kind.
+std::string labelOf(const std::string& text, const std::string& kind) {
+    const std::size_t end = text.find("=" + kind + "(");
+    return text.substr(text.rfind('#', end), end - text.rfind('#', end));
+}
+
+/// Puts something else in the place of what first begins and then ends like this.
+void damage(std::string& text, const std::string& begin, const std::string& end,
+            const std::string& other) {
+    const std::size_t from = text.find(begin);
+    const std::size_t to = text.find(end, from) + end.size();
+    text.replace(from, to - from, other);
+}
+
 class StepImport : public testing::Test {
 protected:
     DesignData importText(const std::string& text) {
@@ -106,14 +120,84 @@ TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
                                               usage(30, 10, 20) + usage(31, 10, 99)));
 
     EXPECT_EQ(tree(design), "Top\n  Bar:1\n");
+    const std::string path = folder.path.string() + "/Design.step: ";
+    EXPECT_EQ(
+        warnings,
+        (std::vector<std::string>{
+            path + "1 reference leads to an entity that is missing; what needs it is left out",
+            path + "has 1 faulty entity, first Parameter n0.5 (product_definition_relationship."
+                   "related_product_definition) : Entity has illegal type (#31); what needs them "
+                   "may be missing or wrong",
+            path + "places a product that is missing (#31); it is left out",
+            path + "tells no placement for 1 usage; it stands at the origin"}));
+}
+
+TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {
+    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    const std::string body = labelOf(text, "MANIFOLD_SOLID_BREP");
+    damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
+
+    const DesignData design = importText(text);
+
+    EXPECT_EQ(design.components[0].geometry, nullptr);
+    const std::string path = folder.path.string() + "/Design.step: ";
     EXPECT_EQ(warnings,
               (std::vector<std::string>{
-                  folder.path.string() + "/Design.step: 1 reference leads to an entity that is "
-                                         "missing; what needs it is left out",
-                  folder.path.string() + "/Design.step: places a product that is missing (#31); it "
-                                         "is left out",
-                  folder.path.string() + "/Design.step: tells no placement for 1 usage; it stands "
-                                         "at the origin"}));
+                  path + "has 1 faulty entity, first Parameter n0.2 (outer) not an Entity (" +
+                      body + "); what needs them may be missing or wrong",
+                  path + "has 1 body that cannot be built whole, first " + body +
+                      " of \"Plate\"; areas and masses are without them"}));
+}
+
+TEST_F(StepImport, ABodyThatLacksAFaceIsWarnedOf) {
+    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    const std::string face = labelOf(text, "ADVANCED_FACE");
+    damage(text, "ADVANCED_FACE('',(#", ");", "ADVANCED_FACE('',(),$,.T.);");
+
+    const DesignData design = importText(text);
+
+    EXPECT_NE(design.components[0].geometry, nullptr);
+    ASSERT_EQ(warnings.size(), 2U);
+    EXPECT_NE(warnings[0].find("has 1 faulty entity, first Parameter n0.3 (face_geometry)"),
+              std::string::npos)
+        << warnings[0];
+    EXPECT_NE(warnings[0].find("(" + face + ")"), std::string::npos) << warnings[0];
+    EXPECT_EQ(warnings[1].substr(warnings[1].find(": ")),
+              ": has 1 body that cannot be built whole, first " +
+                  labelOf(text, "MANIFOLD_SOLID_BREP") +
+                  " of \"Plate\"; areas and masses are without them");
+}
+
+TEST_F(StepImport, ABodyWithoutAnyFaceIsWarnedOf) {
+    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    damage(text, "CLOSED_SHELL('',(", ");", "CLOSED_SHELL('',());");
+
+    importText(text);
+
+    ASSERT_EQ(warnings.size(), 1U);
+    EXPECT_NE(warnings[0].find("has 1 body that cannot be built whole"), std::string::npos)
+        << warnings[0];
+}
+
+TEST_F(StepImport, BodiesOfOtherPartsAreThereBesideOneThatCannotBeBuilt) {
+    std::string text =
+        samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
+                                {"bar", "B", "Bar", "", {}, kPlate, {}},
+                                {"top", "A", "Top", "", {}, {}, {{"plate", {}}, {"bar", {}}}}});
+    damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
+
+    const DesignData design = importText(text);
+
+    EXPECT_EQ(design.components[1].geometry, nullptr);
+    EXPECT_NEAR(design.components[2].geometry->volume(), 1, 1e-9);
+}
+
+TEST_F(StepImport, AnEntityWithoutItsNameIsNoFault) {
+    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    damage(text, "MANIFOLD_SOLID_BREP(''", ",", "MANIFOLD_SOLID_BREP($,");
+
+    EXPECT_NE(importText(text).components[0].geometry, nullptr);
+    EXPECT_EQ(warnings, std::vector<std::string>());
 }
 
 TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/import/reader/step_file.h"
+
+#include <StepRepr_Representation.hxx>
+#include <StepRepr_RepresentationItem.hxx>
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace step {
+
+/// The bodies that a file tells of, whether or not they can be built.
+class ToldBodies {
+public:
+    explicit ToldBodies(const StepFile& file);
+
+    /// The solids and surfaces in a representation, and in those that the file relates to it as the
+    /// same shape. None for null.
+    [[nodiscard]] std::vector<Handle(StepRepr_RepresentationItem)> in(
+        const Handle(StepRepr_Representation) & representation) const;
+
+private:
+    using Representation = const StepRepr_Representation*;
+
+    std::unordered_map<Representation, std::vector<Representation>> same_;
+};
+
+struct Assembly;
+
+/// Tells of bodies of which nothing came, or not every face; to be asked once shapes are built. One
+/// line, empty when there are none.
+std::string complaintAboutBodies(const Assembly& assembly);
+
+}  // namespace step
