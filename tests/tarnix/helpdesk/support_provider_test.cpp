@@ -69,6 +69,21 @@ TEST_F(SupportProvider, WithAnEmptyAddressIsAskedForAsItIs) {
     EXPECT_EQ(shownMessages(), kRefused);
 }
 
+TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndTold) {
+    restartWithShell(host::shell_requests::Policy::RecordOpen);
+    choose("");
+    press("openHelpdesk");
+    EXPECT_EQ(shownMessages(), kRefused);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(SupportProvider, IsAskedForWithTheAddressAsItStands) {
+    choose("http://other.example/$(touch x)`touch y`;\"z\" %20'|&gt;");
+    press("openHelpdesk");
+    EXPECT_EQ(opened(),
+              std::vector<std::string>{"http://other.example/$(touch x)`touch y`;\"z\" %20'|>"});
+}
+
 TEST_F(SupportProvider, IsNotOpenedInAWorkspaceWithoutTheConfigurationControl) {
     session->activateWorkspace("FusionRenderEnvironment");
     press("openHelpdesk");

@@ -8,5 +8,10 @@ TEST_F(Shell, OpensAWebAddress) {
     EXPECT_EQ(opened(), "http://helpdesk.example/\n");
 }
 
+TEST_F(Shell, FailsForAnEmptyAddress) {
+    EXPECT_FALSE(openWithShell("", ShellTarget::Address));
+    EXPECT_EQ(openedSoFar(), "");
+}
+
 }  // namespace
 }  // namespace tarnix::platform

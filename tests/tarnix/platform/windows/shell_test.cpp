@@ -2,6 +2,8 @@
 
 #include "tests/tarnix/platform/scratch_folder.h"
 
+#include <algorithm>
+
 namespace tarnix::platform {
 namespace {
 
@@ -10,6 +12,20 @@ using WindowsShell = Shell;
 TEST_F(WindowsShell, FailsForAFileThatIsNotThere) {
     const ScratchFolder folder;
     EXPECT_FALSE(openWithShell(folder.windows("missing.xlsm")));
+}
+
+TEST_F(WindowsShell, FailsForAnAddressThatNoProgramIsFor) {
+    EXPECT_FALSE(openWithShell("no address at all", ShellTarget::Address));
+    EXPECT_FALSE(openWithShell("unheard-of://a.example/", ShellTarget::Address));
+}
+
+TEST_F(WindowsShell, CharactersOfTheCommandLineMeanNothingInAnAddress) {
+    EXPECT_TRUE(openWithShell("http://a.example/$(touch)`false`;ab'd'*&|>z", ShellTarget::Address));
+    // The browser of Wine escapes what an address cannot hold.
+    const std::string address = opened();
+    EXPECT_EQ(address.rfind("http://a.example/$(touch)", 0), 0U) << address;
+    EXPECT_TRUE(address.ends_with("z\n")) << address;
+    EXPECT_EQ(std::count(address.begin(), address.end(), '\n'), 1) << address;
 }
 
 }  // namespace
