@@ -1,81 +1,13 @@
-#include "tests/support/files.h"
-#include "tests/support/run_program.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/workbench/program_helpdesk_test.h"
 
-#include "host/session/environment.h"
 #include "host/session/utf8_path.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <optional>
-#include <string>
-#include <vector>
-
 namespace fs = std::filesystem;
-namespace environment = host::environment;
 using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::writeFile;
 
 namespace {
-
-/// The variables of a person's surroundings that these tests give values of their own.
-const std::vector<environment::Text> kVariables = {
-    fs::path("XDG_DATA_HOME").native(), fs::path("LOCALAPPDATA").native(),
-    fs::path("TMPDIR").native(), fs::path("TMP").native(), fs::path("DISPLAY").native()};
-
-/// The built program, with a user of its own, whose folder for temporary files is empty, and who
-/// stands in a folder with a file.
-class HelpdeskOfTheWorkbench : public testing::Test {
-protected:
-    void SetUp() override {
-        fs::create_directories(mine());
-        fs::create_directories(stand());
-        writeFile(stand() / "kept", "x");
-        for (const environment::Text& name : kVariables) {
-            before.push_back(environment::variable(name));
-        }
-        set(0, folder.path() / "data");
-        set(1, folder.path() / "data");
-        set(2, mine());
-        set(3, mine());
-        environment::setVariable(kVariables[4], std::nullopt);
-        startedIn = fs::current_path();
-        fs::current_path(stand());
-    }
-
-    void TearDown() override {
-        fs::current_path(startedIn);
-        for (std::size_t i = 0; i < before.size(); ++i) {
-            environment::setVariable(kVariables[i], before[i]);
-        }
-    }
-
-    static void set(std::size_t variable, const fs::path& value) {
-        environment::setVariable(kVariables[variable], value.native());
-    }
-
-    /// The person's own folder for temporary files.
-    [[nodiscard]] fs::path mine() const { return folder.path() / "mine"; }
-
-    /// Where the person stands.
-    [[nodiscard]] fs::path stand() const { return folder.path() / "stand"; }
-
-    /// The support folder of the workbench.
-    [[nodiscard]] fs::path support() const {
-        return folder.path() / "data" / "tarnix-workbench" / "temp" / "Helpdesk";
-    }
-
-    static ProgramResult helpdesk(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "helpdesk");
-        return test_support::runProgram("tarnix-workbench", arguments);
-    }
-
-    test_support::TemporaryFolder folder;
-    std::vector<std::optional<environment::Text>> before;
-    fs::path startedIn;
-};
 
 std::string folderLine(const fs::path& folder) {
     return "Support folder: " + host::toUtf8(fs::path(folder).make_preferred());
@@ -161,6 +93,21 @@ TEST_F(HelpdeskOfTheWorkbench, RefusesAnUnknownAction) {
 
     EXPECT_EQ(result.status, 2);
     EXPECT_NE(result.errors.find("capture-screen"), std::string::npos) << result.errors;
+}
+
+TEST_F(HelpdeskOfTheWorkbench, TellsWhatTheAddinRaised) {
+    // What is left of the low byte of U+00E9 is no UTF-8, in which the folder is remembered.
+    set("TMPDIR", fs::path(mine() / u8"\u00E9"));
+    set("TMP", fs::path(mine() / u8"\u00E9"));
+    fs::create_directory(mine() / u8"\u00E9");
+
+    const ProgramResult result = helpdesk({"--here", "open", "clear"});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(
+        result.errors,
+        "tarnix-workbench: the add-in raised std::range_error (bad conversion) in OnExecute\n");
+    EXPECT_TRUE(fs::exists(stand() / "kept"));
 }
 
 TEST_F(HelpdeskOfTheWorkbench, WantsAnAction) { EXPECT_EQ(helpdesk({}).status, 2); }

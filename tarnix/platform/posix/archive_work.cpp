@@ -92,6 +92,23 @@ private:
     std::future<void> last_;
 };
 
+/// Has libzip do once, on this thread, what it does on the other at the beginning of its writing:
+/// make a temporary file, whose name comes from a library with a clean-up of its own. That is then
+/// registered before the waiting for the works, and so comes after it at the end of the process.
+/// Yields whether that file could be made, which does not matter.
+bool startRandomNames(const std::string& archive) {
+    zip_error_t ignored;
+    ::zip_error_init(&ignored);
+    zip_source_t* const source = ::zip_source_file_create(archive.c_str(), 0, 0, &ignored);
+    const bool isMade = source != nullptr && ::zip_source_begin_write(source) == 0;
+    if (isMade) {
+        ::zip_source_rollback_write(source);
+    }
+    ::zip_source_free(source);
+    ::zip_error_fini(&ignored);
+    return isMade;
+}
+
 Works& works() {
     static Works instance;
     return instance;
@@ -102,6 +119,7 @@ Works& works() {
 bool isArchive(const std::string& path) { return openArchive(path) != nullptr; }
 
 void fillArchiveBeside(const std::string& archive, const std::string& folder) {
+    [[maybe_unused]] static const bool isStarted = startRandomNames(archive);
     works().add(archive, folder);
 }
 

@@ -1,3 +1,6 @@
+#include "tarnix/helpdesk/folder_packing.h"
+#include "tarnix/platform/posix/archive_work.h"
+
 #include "tests/support/files.h"
 #include "tests/support/text.h"
 #include "tests/tarnix/helpdesk/helpdesk_test.h"
@@ -6,9 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <random>
 #include <string>
 #include <thread>
 #include <vector>
@@ -17,6 +22,8 @@ namespace fs = std::filesystem;
 
 namespace test_support {
 namespace {
+
+const std::string kEmptyArchive = std::string("PK\5\6", 4) + std::string(18, '\0');
 
 /// What a command line prints.
 std::string outputOf(const std::string& command) {
@@ -91,6 +98,37 @@ TEST_F(ZipArchive, LeavesOutWhatALinkLeadsTo) {
     press("compressFolder");
     waitUntilFilled();
     EXPECT_EQ(entries(), "screen_001.png\n");
+}
+
+TEST_F(ZipArchive, IsTheEmptyRecordUntilItIsWhole) {
+    // Noise, which takes its time to pack.
+    std::mt19937 random(1);
+    std::string noise(8'000'000, '\0');
+    std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random()); });
+    put("noise", noise);
+    press("compressFolder");
+    const std::string first = readFile(archive());
+    EXPECT_TRUE(first == kEmptyArchive || first.size() > noise.size()) << first.size();
+    // What is not the record any more is the whole archive at once.
+    waitUntilFilled();
+    EXPECT_EQ(outputOf("unzip -tqq '" + archive() + "' 2>&1"), "");
+    EXPECT_GT(fs::file_size(archive()), noise.size());
+}
+
+TEST_F(ZipArchive, OfAnEmptyFolderStaysTheEmptyRecord) {
+    tarnix::createEmptyZip(supportFolderText() + "helpdesk.zip");
+    tarnix::platform::fillArchiveBeside(archive(), supportFolder());
+    tarnix::platform::finishArchives();
+    EXPECT_EQ(readFile(archive()), kEmptyArchive);
+}
+
+TEST_F(ZipArchive, HoldsTheFilesOfSubfoldersBelowTheirNames) {
+    fs::create_directory(supportFolder() / "sub");
+    put("sub/a.txt", "text");
+    put("b.txt");
+    press("compressFolder");
+    waitUntilFilled();
+    EXPECT_EQ(entries(), "b.txt\nsub/a.txt\n");
 }
 
 TEST_F(ZipArchive, IsWaitedForOneSecond) {
