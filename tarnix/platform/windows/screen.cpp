@@ -38,10 +38,20 @@ struct ScreenPicture::State {
     PngImage image;
 };
 
+namespace {
+
+/// For an area without a width or height the system has a bitmap of its own, of one pixel, which is
+/// no picture.
+HBITMAP newBitmap(HDC screen, int width, int height) {
+    return width != 0 && height != 0 ? ::CreateCompatibleBitmap(screen, width, height) : nullptr;
+}
+
+}  // namespace
+
 ScreenPicture::ScreenPicture(int left, int top, int width, int height, WindowHandle window) {
     const HDC screen = ::GetDC(nullptr);
     const HDC memory = ::CreateCompatibleDC(screen);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, width, height);
+    const HBITMAP bitmap = newBitmap(screen, width, height);
     ::SelectObject(memory, bitmap);
     // What could not be copied is black in the picture.
     static_cast<void>(::BitBlt(memory, 0, 0, width, height, screen, left, top, SRCCOPY));

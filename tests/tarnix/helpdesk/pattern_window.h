@@ -1,10 +1,9 @@
 #pragma once
 
-#include <cstddef>
-#include <filesystem>
+#include "tests/tarnix/helpdesk/picture.h"
+
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace test_support {
 
@@ -15,6 +14,7 @@ public:
     static constexpr unsigned kLeft = 0xC02040;
     static constexpr unsigned kRight = 0x1060E0;
     static constexpr unsigned kCorner = 0x20F010;
+    static constexpr int kCornerSize = 10;
 
     /// Shows the window, its inside being that part of the screen, and waits until it is drawn.
     PatternWindow(const std::string& title, int left, int top, int width, int height);
@@ -22,24 +22,13 @@ public:
     PatternWindow& operator=(const PatternWindow&) = delete;
     ~PatternWindow();
 
+    /// Puts the inside of such a window into a picture.
+    static void draw(Picture& picture, int left, int top, int width, int height);
+
 private:
     struct State;
 
     std::unique_ptr<State> state_;
-};
-
-/// A PNG file that was read again.
-struct PngPixels {
-    explicit PngPixels(const std::filesystem::path& file);
-
-    /// Red, green and blue of a pixel, as in 0xRRGGBB.
-    [[nodiscard]] unsigned at(int x, int y) const {
-        return pixels.at(static_cast<std::size_t>(y) * width + x);
-    }
-
-    int width = 0;  ///< 0 if the file could not be read
-    int height = 0;
-    std::vector<unsigned> pixels;
 };
 
 }  // namespace test_support

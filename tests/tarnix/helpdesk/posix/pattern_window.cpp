@@ -47,7 +47,7 @@ PatternWindow::PatternWindow(const std::string& title, int left, int top, int wi
     state_->finish();
     state_->fill(kLeft, 0, 0, width / 2, height);
     state_->fill(kRight, width / 2, 0, width - width / 2, height);
-    state_->fill(kCorner, width - 10, height - 10, 10, 10);
+    state_->fill(kCorner, width - kCornerSize, height - kCornerSize, kCornerSize, kCornerSize);
     state_->finish();
 }
 
@@ -57,23 +57,24 @@ PatternWindow::~PatternWindow() {
     ::xcb_disconnect(state_->connection);
 }
 
-PngPixels::PngPixels(const std::filesystem::path& file) {
+Picture readPng(const std::filesystem::path& file) {
     png_image image = {};
     image.version = PNG_IMAGE_VERSION;
     if (::png_image_begin_read_from_file(&image, file.c_str()) == 0) {
-        return;
+        return {};
     }
     image.format = PNG_FORMAT_RGB;
     std::vector<std::uint8_t> bytes(PNG_IMAGE_SIZE(image));
     if (::png_image_finish_read(&image, nullptr, bytes.data(), 0, nullptr) == 0) {
-        return;
+        return {};
     }
-    width = static_cast<int>(image.width);
-    height = static_cast<int>(image.height);
-    for (std::size_t i = 0; i + 2 < bytes.size(); i += 3) {
-        pixels.push_back(static_cast<unsigned>(bytes[i]) << 16 |
-                         static_cast<unsigned>(bytes[i + 1]) << 8 | bytes[i + 2]);
+    Picture picture = blackPicture(static_cast<int>(image.width), static_cast<int>(image.height));
+    for (std::size_t i = 0; i < picture.pixels.size(); ++i) {
+        const std::uint8_t* const color = &bytes[3 * i];
+        picture.pixels[i] =
+            static_cast<unsigned>(color[0]) << 16 | static_cast<unsigned>(color[1]) << 8 | color[2];
     }
+    return picture;
 }
 
 }  // namespace test_support
