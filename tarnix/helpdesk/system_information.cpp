@@ -45,9 +45,10 @@ void writeSystemInfo() {
     provideHelpdeskFolder();
     // The folder of the module's start, and not the one that was just made sure of.
     file.open(helpdeskFolderAtLoad + "SystemInfo.txt");
+    const std::string brand = processorBrand();
     file.write("Hardware information: \n");
     file.write("  CPU : \n");
-    file.write("    " + processorBrand() + "\n");
+    file.write("    " + brand + "\n");
     const unsigned cores = platform::processorCount();
     const std::uint64_t mebibytes = platform::memorySize() >> 20;
     file.write("  RAM : \n");
