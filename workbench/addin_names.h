@@ -5,6 +5,10 @@
 namespace workbench {
 
 inline constexpr const char* kBomCommand = "QM_TX_BOM";
+inline constexpr const char* kMoveToOriginCommand = "QM_TX_moveComponentToOrigin";
+inline constexpr const char* kGroundInput = "ground";
+inline constexpr const char* kProjectedEntitiesCommand = "QM_TX_projectedEntitiesAsConstruction";
+inline constexpr const char* kOpenLocalCommand = "QEMA_OpenLocalCmd_QAT";
 inline constexpr const char* kExportButton = "QEMA_btnExportXls";
 inline constexpr const char* kTotalMass = "idAllMass";
 inline constexpr const char* kExportFile = "TarnixBOM.csv";

@@ -5,7 +5,8 @@
 namespace workbench {
 
 void addFile(CLI::App& command, std::string& file) {
-    command.add_option("FILE", file, "A STEP file (.step, .stp, .p21), or a design file")
+    command
+        .add_option("FILE", file, "A STEP file (.step, .stp, .p21), an IGES file, or a design file")
         ->required();
 }
 

@@ -6,7 +6,7 @@
 namespace workbench {
 
 /// The exit status of the program. Anything but `Success` comes with a line on stderr, and with no
-/// output file written or changed.
+/// output file written or changed, except by what opens several files.
 enum class ExitCode : int {
     Success = 0,
     BadInput = 1,  ///< the given file cannot be read as a design, or not be measured

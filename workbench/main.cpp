@@ -6,6 +6,7 @@
 #include "workbench/exit_code.h"
 #include "workbench/helpdesk_options.h"
 #include "workbench/info_command.h"
+#include "workbench/modelling_commands.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,7 +22,8 @@ constexpr const char* kFooter =
     "Exit status: 0 done, 1 the file cannot be read as a design or not be measured, 2 wrong "
     "usage,\n"
     "3 the add-in is missing or in use, 4 the add-in failed, 5 a result cannot be written. Unless\n"
-    "it is 0, one line on stderr says why, and no file was written.";
+    "it is 0, one line on stderr says why, and no file was written but those that open-local\n"
+    "tells of.";
 
 /// The options that act in the add-in's dialog.
 void addWishes(CLI::App& command, BomOptions& options) {
@@ -117,6 +119,7 @@ int runProgram(const std::vector<std::string>& arguments) {
     addInfo(program, info);
     const CLI::App* helpdeskCommand = addHelpdesk(program, helpdesk);
     const EditingCommands editing(program);
+    const ModellingCommands modelling(program);
     program.set_version_flag("--version", "tarnix-workbench " TARNIX_VERSION);
     program.require_subcommand(1);
     program.footer(kFooter);
@@ -128,7 +131,7 @@ int runProgram(const std::vector<std::string>& arguments) {
         runBom(bom);
     } else if (helpdeskCommand->parsed()) {
         runHelpdesk(helpdesk);
-    } else if (!editing.run()) {
+    } else if (!editing.run() && !modelling.run()) {
         runInfo(info);
     }
     return static_cast<int>(ExitCode::Success);

@@ -1,8 +1,8 @@
 #include "workbench/reading.h"
 
-#include "workbench/console.h"
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
+#include "workbench/progress_line.h"
 
 #include "host/session/utf8_path.h"
 
@@ -13,27 +13,6 @@
 
 namespace workbench {
 namespace {
-
-/// One line on a terminal that is written over again and again, and is gone at the end.
-class ProgressLine {
-public:
-    explicit ProgressLine(bool shown) : shown_(shown) {}
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-    ~ProgressLine() { show(""); }
-
-    void show(const std::string& line) {
-        if (shown_ && line != last_) {
-            constexpr const char* kEraseLine = "\r\x1B[K";
-            std::cerr << kEraseLine << line << std::flush;
-            last_ = line;
-        }
-    }
-
-private:
-    bool shown_;
-    std::string last_;
-};
 
 host::ImportLimits importLimits(const ReadingLimits& limits) {
     host::ImportLimits result;
@@ -47,7 +26,7 @@ host::ImportLimits importLimits(const ReadingLimits& limits) {
 host::DesignData readDesign(const std::string& file, const ReadingLimits& limits) {
     std::vector<std::string> warnings;
     try {
-        ProgressLine line(console::errorIsTerminal());
+        ProgressLine line;
         constexpr double kPercent = 100;
         const auto progress = [&](const std::string& stage, double fraction) {
             line.show(printable(stage) + " " + printable(file) + " " +
