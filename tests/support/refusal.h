@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/addin_test.h"
+
 #include "host/session/session.h"
 
 #include <cstdint>
@@ -23,6 +25,9 @@ struct RefusalSweep {
     /// Looks at what came of it, with the name of the refused call. What it finds wrong it says
     /// through gtest's expectations.
     std::function<void(host::Session&, const std::string& call)> check;
+
+    /// What the sessions are started with.
+    host::SessionOptions options = addinOptions();
 };
 
 /// Runs a sweep and yields how many calls were refused. A run that crashes, or that a sanitizer

@@ -74,7 +74,7 @@ int runInChild(host::Session& session, const RefusalSweep& sweep, std::uint64_t 
 }  // namespace
 
 std::uint64_t refuseEachCall(const RefusalSweep& sweep) {
-    host::Session session(addinOptions());
+    host::Session session(sweep.options);
     sweep.prepare(session);
     prepareLeakReports();
     const std::set<fs::path> files = filesIn(session.folder());

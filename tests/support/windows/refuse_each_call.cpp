@@ -6,7 +6,7 @@ namespace test_support {
 // Each run has a session of its own, whose module goes with it: a process could not hold thousands.
 std::uint64_t refuseEachCall(const RefusalSweep& sweep) {
     const int before = failuresSoFar();
-    host::SessionOptions options = addinOptions();
+    host::SessionOptions options = sweep.options;
     options.unloadAtEnd = true;
     for (std::uint64_t nth = 1;; ++nth) {
         host::Session session(options);

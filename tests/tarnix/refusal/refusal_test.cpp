@@ -80,14 +80,18 @@ void checkRun(Session& session, const std::string& call) {
     EXPECT_EQ(traces(), left);
 }
 
+constexpr std::size_t kPalettes = 2;
+
 /// The most that `stop` leaves in the host when one of its calls is refused: what that call itself
 /// would have removed, or led to.
 std::size_t keptBy(const std::string& call) {
-    // Seven commands, the helpdesk's eight, and two panels in each of two workspaces: without the
-    // palettes `stop` yields false and has done nothing.
-    constexpr std::size_t kEverything = 7 + 8 + 2 * 2;
+    // Seven commands, the helpdesk's eight, two panels in each of two workspaces, and the palettes
+    // that are open: without the host's list of these `stop` yields false and has done nothing.
+    constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + kPalettes;
     static const std::map<std::string, std::size_t> kKept = {
         {"UserInterface::palettes", kEverything},
+        {"Palettes::itemById", 1},
+        {"Palette::deleteMe", 1},
         {"UserInterface::allToolbarPanels", 2},  // the panels of one kind
         {"UserInterface::workspaces", 2},
         {"Workspaces::count", 2},
@@ -110,6 +114,13 @@ void checkStop(Session& session, const std::string& call) {
     const std::size_t left = traces().size();
     EXPECT_LE(left, call == "CommandDefinition::deleteMe" ? 1U : 0U)
         << testing::PrintToString(traces());
+}
+
+/// With the control that it looks for at its end, one `stop` is all: the next has lost the host.
+void checkOnlyStop(Session& session, const std::string& call) {
+    expectOnlyKnownRaised(session);
+    expectSettingsWhole(session);
+    EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
 }
 
 void load(Session& session) {
@@ -191,4 +202,20 @@ TEST(RefusedHostCalls, InStop) {
         refuseEachCall({start, [](Session& session) { session.stop(); }, checkStop});
 
     EXPECT_GT(calls, 50U);
+}
+
+TEST(RefusedHostCalls, InStopWithOpenPalettes) {
+    RefusalSweep sweep;
+    sweep.options.host.repeatControl = true;
+    sweep.options.system.windows = {{{"Autodesk Fusion 360", {0, 0, 1280, 800}}}};
+    sweep.prepare = [](Session& session) {
+        start(session);
+        session.press("QM_TX_onLineLibrary");
+        session.press("QM_TX_unitsConversion");
+        ASSERT_EQ(traces().size(), 7 + 8 + 2 * 2 + kPalettes);
+    };
+    sweep.flow = [](Session& session) { session.stop(); };
+    sweep.check = checkOnlyStop;
+
+    EXPECT_GT(refuseEachCall(sweep), 60U);
 }
