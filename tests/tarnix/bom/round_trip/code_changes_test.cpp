@@ -66,12 +66,32 @@ protected:
         session->paste("partNumberOcc_1", "F-9");
     }
 
-    /// Uses the whole dialog in a host that tells these changes.
-    Outcome use(CodeChanges told) {
+    void startHostThatTells(CodeChanges told) {
         host::SessionOptions with = addinOptions();
         with.host.codeChanges = told;
         restart(with);
         EXPECT_TRUE(run());
+    }
+
+    /// Unfolds an assembly and the one in it, and folds that again: the graphs that this writes are
+    /// changes too.
+    void fold(CodeChanges told) {
+        startHostThatTells(told);
+        open(R"(
+            Frame
+              Leg assembly
+                Leg
+              Foot
+            Bolt)");
+        showModel();
+        session->click("modelColapseRow_1");
+        session->click("modelColapseRow_2");
+        session->click("modelColapseRow_2");
+    }
+
+    /// Uses the whole dialog in a host that tells these changes.
+    Outcome use(CodeChanges told) {
+        startHostThatTells(told);
         open(R"(
             Frame  box=10x10x1 material=Sheet:0.01 property=Supplier/Acme
             Bolt  box=10x5x1 material=Sheet:0.01
@@ -114,6 +134,24 @@ TEST_F(ChangesByCode, OfAnyKindMakeNoDifferenceWhereTheyAreTold) {
     const Outcome told = use(CodeChanges::All);
 
     EXPECT_EQ(told, use(CodeChanges::None));
+}
+
+TEST_F(ChangesByCode, ThatFoldingMakesLeaveTheRowsOfAHostThatTellsNone) {
+    fold(CodeChanges::None);
+
+    EXPECT_EQ(table(), text(R"(
+        1   | UnColapseAsm | Frame
+        1.1 | ColapseAsm   | Leg assembly
+        1.2 | Part         | Foot
+        2   | Part         | Bolt)"));
+}
+
+TEST_F(ChangesByCode, ThatFoldingMakesMakeNoDifferenceWhereTheyAreTold) {
+    fold(CodeChanges::All);
+    const std::string told = shownTable();
+    fold(CodeChanges::None);
+
+    EXPECT_EQ(told, shownTable());
 }
 
 }  // namespace
