@@ -24,3 +24,7 @@ if(TARNIX_SANITIZE)
                                                    -fno-omit-frame-pointer)
     target_link_options(project_flags INTERFACE -fsanitize=address,undefined)
 endif()
+
+if(TARNIX_FUZZ)
+    target_compile_options(project_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()

@@ -1,0 +1,103 @@
+#include "tests/fuzz/fuzzed_session.h"
+#include "tests/support/files.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+/// What the fuzzers found worth keeping, and some that chance makes up, in every build.
+namespace fuzz {
+namespace {
+
+using File = std::filesystem::path;
+
+std::vector<File> corpus(const std::string& name) {
+    std::vector<File> files;
+    for (const auto& entry : std::filesystem::directory_iterator(File(TEST_CORPUS_FOLDER) / name)) {
+        files.push_back(entry.path());
+    }
+    std::sort(files.begin(), files.end());
+    EXPECT_FALSE(files.empty()) << name;
+    return files;
+}
+
+std::vector<std::uint8_t> bytesOf(const File& file) {
+    const std::string text = test_support::readFile(file);
+    return {text.begin(), text.end()};
+}
+
+/// Bytes that the same number gives again.
+std::vector<std::uint8_t> madeUp(unsigned seed) {
+    constexpr std::size_t kBytes = 240;
+    std::mt19937 random(seed);
+    std::vector<std::uint8_t> bytes(kBytes);
+    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<std::uint8_t>(random()); });
+    return bytes;
+}
+
+/// The same with some bytes changed, left out or doubled.
+std::vector<std::uint8_t> mutated(std::vector<std::uint8_t> bytes, unsigned seed) {
+    std::mt19937 random(seed);
+    for (int i = 0; i < 3 && !bytes.empty(); ++i) {
+        const auto at = bytes.begin() + static_cast<std::ptrdiff_t>(random() % bytes.size());
+        switch (random() % 3) {
+            case 0:
+                *at = static_cast<std::uint8_t>(random());
+                break;
+            case 1:
+                bytes.erase(at, at + static_cast<std::ptrdiff_t>(
+                                         random() % static_cast<unsigned>(bytes.end() - at)));
+                break;
+            default:
+                bytes.insert(at, *at);
+        }
+    }
+    return bytes;
+}
+
+void replayDialogs(host::CodeChanges told) {
+    FuzzedSession session(told);
+    for (const File& file : corpus("dialog")) {
+        EXPECT_EQ(session.useDialog(bytesOf(file)), "") << file;
+    }
+}
+
+TEST(DialogRuns, KeptOnesFindNothingWhereNoChangesByCodeAreTold) {
+    replayDialogs(host::CodeChanges::None);
+}
+
+TEST(DialogRuns, KeptOnesFindNothingWhereThoseOfListsAreTold) {
+    replayDialogs(host::CodeChanges::Lists);
+}
+
+TEST(DialogRuns, KeptOnesFindNothingWhereAllAreTold) { replayDialogs(host::CodeChanges::All); }
+
+TEST(DialogRuns, MadeUpOnesFindNothing) {
+    FuzzedSession session;
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        EXPECT_EQ(session.useDialog(madeUp(seed)), "") << "seed " << seed;
+    }
+}
+
+TEST(SettingsRuns, KeptOnesFindNothing) {
+    FuzzedSession session;
+    for (const File& file : corpus("settings")) {
+        EXPECT_EQ(session.useSettings(bytesOf(file)), "") << file;
+    }
+}
+
+TEST(SettingsRuns, MutatedOnesFindNothing) {
+    FuzzedSession session;
+    unsigned seed = 0;
+    for (const File& file : corpus("settings")) {
+        EXPECT_EQ(session.useSettings(mutated(bytesOf(file), ++seed)), "") << file;
+    }
+}
+
+}  // namespace
+}  // namespace fuzz
