@@ -164,5 +164,17 @@ TEST_F(SupportFolderBelow, ANameThatIsNoUtf8AnyMoreRaisesWhenItIsCleared) {
     EXPECT_EQ(raised(), "std::range_error: bad conversion in OnExecute");
 }
 
+TEST_F(SupportFolderBelow, AFolderThatIsMissingIsNotMadeWithIt) {
+    restartBelow(u8"missing");
+    fs::remove(below);
+    press("openFolder");
+    press("systemInfo");
+    press("compressFolder");
+    EXPECT_FALSE(fs::exists(below));
+    EXPECT_EQ(session->openedByShell().size(), 1U);
+    EXPECT_EQ(shownMessages(), "Information (2): Target directory does not exist.\n");
+    EXPECT_EQ(raised(), "");
+}
+
 }  // namespace
 }  // namespace test_support

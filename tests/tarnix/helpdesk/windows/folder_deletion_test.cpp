@@ -1,0 +1,29 @@
+#include "tarnix/helpdesk/folder_deletion.h"
+
+#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/tarnix/platform/test_system.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tarnix {
+namespace {
+
+// Elsewhere it is a whole folder whose files cannot be deleted.
+TEST(FolderDeletionOfWindows, KeepsALockedFileAndWhatStandsBehindIt) {
+    const ScratchFolder folder;
+    folder.write("screen_001.png", "x");
+    folder.write("screen_002.png", "x");
+    folder.write("screen_003.png", "x");
+    const test::Undeletable locked(folder.path() / "screen_002.png");
+    ASSERT_TRUE(locked.isEffective());
+    const std::string path = folder.windows("");
+    EXPECT_FALSE(deleteDirectoryTree({path.begin(), path.end()}));
+    EXPECT_FALSE(folder.has("screen_001.png"));
+    EXPECT_TRUE(folder.has("screen_002.png"));
+    EXPECT_TRUE(folder.has("screen_003.png"));
+}
+
+}  // namespace
+}  // namespace tarnix
