@@ -17,17 +17,18 @@ Screen& screen() {
     return *instance;
 }
 
-PickedFiles answerOf(const FileDialogShown& dialog) {
+/// Has the dialog answered: by the answer that waits for it, else by whoever is asked.
+void answer(FileDialogShown& dialog) {
     Screen& all = screen();
     if (!all.answers.empty()) {
-        std::deque<PickedFiles> next;
-        next.swap(all.answers);
-        all.answers.assign(next.begin() + 1, next.end());
-        return std::move(next.front());
+        dialog.picked = all.answers.front();
+        all.answers.pop_front();
+    } else if (all.ask) {
+        const gate::Outside outside;
+        dialog.picked = all.ask(dialog);
+    } else {
+        dialog.picked.reset();
     }
-    if (!all.ask) return std::nullopt;
-    const gate::Outside outside;
-    return all.ask(dialog);
 }
 
 }  // namespace
@@ -88,7 +89,7 @@ bool FileDialog::filterIndex(int value) {
 
 adsk::core::DialogResults FileDialog::showOpen() {
     if (closed<"FileDialog::showOpen">(*this)) return {};
-    state_.picked = answerOf(state_);
+    answer(state_);
     if (state_.picked && state_.picked->size() > 1 && !state_.multiSelect) {
         misuse("FileDialog::showOpen", "several files were picked in a dialog that takes one");
         state_.picked->resize(1);
