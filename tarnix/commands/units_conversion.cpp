@@ -43,9 +43,10 @@ void putIntoCorner(const Ptr<Palette>& palette, const platform::ScreenArea& area
     palette->dockingOption(PaletteDockOptionsNone);
 }
 
-/// Looks at one window; false, with the palette shown in it, for the host's.
-bool findHostWindow(const TopWindow& window) {
-    if (window.title.find(kHostTitle) == std::string::npos) {
+/// Looks at one window; false, with the palette shown in it, for the first with `needle` in its
+/// title.
+bool findHostWindow(const TopWindow& window, const std::string& needle) {
+    if (window.title.find(needle) == std::string::npos) {
         return true;
     }
     const Ptr<Palettes> palettes = Application::get()->userInterface()->palettes();
@@ -58,7 +59,8 @@ bool findHostWindow(const TopWindow& window) {
 }  // namespace
 
 void UnitsConversionCmdExecuteHandler::notify(const Ptr<CommandEventArgs>& /*eventArgs*/) {
-    platform::visitTopWindows(findHostWindow);
+    platform::visitTopWindows(
+        [](const TopWindow& window) { return findHostWindow(window, kHostTitle); });
 }
 
 void UnitsConversionCmdCreateEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {

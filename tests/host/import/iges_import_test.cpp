@@ -1,4 +1,8 @@
 #include "drafts.h"
+#include "host/design/document.h"
+#include "host/ui/application.h"
+
+#include <Core/CoreAll.h>
 
 #include <gtest/gtest.h>
 
@@ -91,6 +95,18 @@ TEST_F(IgesImport, WithoutBodiesHasNone) {
 
     EXPECT_EQ(drafts::tree(design), "line\n");
     EXPECT_FALSE(design.components.front().geometry);
+}
+
+TEST_F(IgesImport, IsOpenedByTheImportManager) {
+    using namespace adsk::core;
+    host::startHost({});
+    const Ptr<ImportManager> manager = Application::get()->importManager();
+
+    const Ptr<Document> document = manager->importToNewDocument(
+        manager->createIGESImportOptions(folder.write("Panel.ige", iges(kRectangle))));
+
+    EXPECT_EQ(drafts::tree(host::snapshot(document)), "Panel\n");
+    host::endHost();
 }
 
 TEST_F(IgesImport, RefusesWhatOnlyBeginsAsIges) {
