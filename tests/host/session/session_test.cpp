@@ -2,6 +2,7 @@
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 
+#include "host/design/outline.h"
 #include "host/session/session.h"
 #include "host/ui/main_queue.h"
 
@@ -9,6 +10,7 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -112,6 +114,41 @@ TEST_F(SessionWithAddin, AFileThatCannotBeReadLeavesTheDesignOpen) {
 
     EXPECT_THROW(session->open(file), host::DesignError);
     EXPECT_EQ(session->design().components.size(), 2U);
+}
+
+TEST_F(SessionWithAddin, ASketchIsEditedUntilItIsLeft) {
+    host::DesignData design = host::parseOutline("Bolt");
+    design.components.at(1).sketches = {{"Outline", {}}, {"Holes", {{true, false}}}};
+    session->openDesign(std::move(design));
+    const auto application = adsk::core::Application::get();
+
+    session->editSketch(1, 1);
+    const adsk::core::Ptr<adsk::fusion::Sketch> edited = application->activeEditObject();
+    ASSERT_TRUE(edited);
+    EXPECT_EQ(edited->sketchCurves()->count(), 1U);
+
+    session->leaveSketch();
+    EXPECT_FALSE(adsk::core::Ptr<adsk::fusion::Sketch>(application->activeEditObject()));
+}
+
+TEST_F(SessionWithAddin, ASketchThatIsNotThereIsRefused) {
+    session->openOutline("Bolt");
+
+    EXPECT_THROW(session->editSketch(1, 0), SessionError);
+    EXPECT_THROW(session->editSketch(7, 0), SessionError);
+}
+
+TEST_F(SessionWithAddin, DesignsThatTheModuleOpensAreNotThoseOfThePerson) {
+    session->openOutline("Bolt");
+    EXPECT_TRUE(session->designsOpenedByModule().empty());
+    host::DesignData design = host::parseOutline("Nut");
+    design.name = "Opened";
+
+    host::Application::current()->openInHost(std::move(design));
+
+    ASSERT_EQ(session->designsOpenedByModule().size(), 1U);
+    EXPECT_EQ(session->designsOpenedByModule().front().name, "Opened");
+    EXPECT_EQ(session->design().name, "Opened");
 }
 
 TEST_F(SessionWithAddin, AnUnknownInputIsRefusedWithTheIdsThereAre) {

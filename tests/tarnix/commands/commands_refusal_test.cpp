@@ -7,7 +7,6 @@
 #include "host/base/clock.h"
 #include "host/cloud/storage_pace.h"
 #include "host/design/design_file.h"
-#include "host/design/document.h"
 #include "host/design/outline.h"
 #include "host/session/utf8_path.h"
 #include "host/ui/file_dialog.h"
@@ -50,8 +49,7 @@ void startSketch(Session& session) {
     host::DesignData design = host::parseOutline(kDesign);
     design.components.front().sketches = {{"Outline", {{true, false}, {false, false}}}};
     session.openDesign(design);
-    const adsk::core::Ptr<host::Application> application = host::Application::current();
-    application->setActiveEditObject(host::sketchOf(application->document(), 0, 0));
+    session.editSketch(0, 0);
 }
 
 /// Shows a window of the host.

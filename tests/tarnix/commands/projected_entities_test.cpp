@@ -1,8 +1,6 @@
 #include "tests/support/addin_test.h"
 
 #include "host/base/gate.h"
-#include "host/design/document.h"
-#include "host/ui/application.h"
 
 #include <gtest/gtest.h>
 
@@ -30,10 +28,7 @@ protected:
     }
 
     /// Begins to edit the sketch, as a double click on it does.
-    static void edit() {
-        const Ptr<host::Application> application = host::Application::current();
-        application->setActiveEditObject(host::sketchOf(application->document(), 0, 0));
-    }
+    void edit() const { session->editSketch(0, 0); }
 
     [[nodiscard]] std::vector<SketchCurveData> curves() const {
         return session->design().components.front().sketches.front().curves;
