@@ -34,6 +34,11 @@ ItemIndex::Item ItemIndex::itemOf(const std::string& partNumber, const std::stri
     return {partNumber, parentPath(path)};
 }
 
+void ItemIndex::reserve(std::size_t rowCount) {
+    firstOfItem_.reserve(rowCount);
+    firstUnderRoot_.reserve(rowCount);
+}
+
 std::optional<std::size_t> ItemIndex::add(const std::string& partNumber, const std::string& path) {
     const std::size_t added = rowCount_++;
     std::size_t first = firstOfItem_.try_emplace(itemOf(partNumber, path), added).first->second;

@@ -28,6 +28,9 @@ int findBomRow(const std::vector<BomRow>& rows,
 /// paths do not change in the design, which is the case within one walk over it.
 class ItemIndex {
 public:
+    /// Makes room for so many rows at once; more may come.
+    void reserve(std::size_t rowCount);
+
     /// Takes the next row of the list, an occurrence at `path` whose component has `partNumber`.
     /// The index of the first row added before it that is the same item.
     std::optional<std::size_t> add(const std::string& partNumber, const std::string& path);

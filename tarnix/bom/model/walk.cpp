@@ -66,7 +66,8 @@ void walk(BomModel& model, const Ptr<OccurrenceList>& occurrences, int level, Ap
 /// length.
 class MergingAppender {
 public:
-    explicit MergingAppender(BomModel& model) : model_(model) {
+    MergingAppender(BomModel& model, std::size_t expected) : model_(model) {
+        index_.reserve(model.rows.size() + expected);
         for (const BomRow& row : model.rows) {
             index_.add(row.component->partNumber(), row.occurrence->fullPathName());
         }
@@ -103,7 +104,7 @@ const std::vector<BomRow>& walkOccurrences(BomModel& model, Ptr<OccurrenceList> 
 
 const std::vector<BomRow>& walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
                                                  int level) {
-    MergingAppender append(model);
+    MergingAppender append(model, occurrences->count());
     walk(model, occurrences, level, append);
     return model.rows;
 }
