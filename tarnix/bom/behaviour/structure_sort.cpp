@@ -4,10 +4,10 @@
 #include "tarnix/text/ids.h"
 #include "tarnix/text/numbers.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
-#include <unordered_map>
 #include <utility>
 
 namespace tarnix {
@@ -33,8 +33,10 @@ std::vector<CellRow> dataRows(const Ptr<TableCommandInput>& table) {
     std::vector<CellRow> rows;
     const int rowCount = table->rowCount();
     const int lastColumn = table->numberOfColumns();
+    rows.reserve(static_cast<std::size_t>(rowCount));
     for (int row = 0; row < rowCount; ++row) {
         CellRow cells;
+        cells.reserve(static_cast<std::size_t>(lastColumn) + 1);
         for (int column = 0; column <= lastColumn; ++column) {
             Ptr<CommandInput> cell = table->getInputAtPosition(row, column);
             if (cell && !isHeaderId(cell->id())) {
@@ -72,70 +74,78 @@ std::optional<std::string> sortText(const Ptr<CommandInput>& cell) {
     return std::nullopt;
 }
 
-/// Compares pairs by plain less-than, first the keys, then the ids. The standard's own comparison
-/// of pairs takes a key that is not a number for equal to every other, and a set would drop its
-/// row.
+using Rows = std::vector<const CellRow*>;
+
+/// What the sorted column holds under one id.
+template <class Key>
+struct Entry {
+    std::optional<Key> key;  ///< none where no cell has a text
+    Rows rows;               ///< in the table's order
+};
+
+template <class Key>
+using EntryOfId = std::pair<const std::string, Entry<Key>>;
+
+/// Compares by plain less-than, first the keys, then the ids. The standard's own comparison of
+/// pairs takes a key that is not a number for equal to every other, and a set would drop its row.
 template <class Key>
 struct PlainLess {
-    bool operator()(const std::pair<Key, std::string>& left,
-                    const std::pair<Key, std::string>& right) const {
+    using Pair = std::pair<Key, EntryOfId<Key>*>;
+
+    bool operator()(const Pair& left, const Pair& right) const {
         return left.first < right.first ||
-               (!(right.first < left.first) && left.second < right.second);
+               (!(right.first < left.first) && left.second->first < right.second->first);
     }
 };
 
-/// The ids of a column's cells, sorted by the keys that `keyOf` makes of their texts.
+/// The column's entries by their ids, with the keys that `keyOf` makes of their texts.
+template <class Key, class KeyOf>
+std::map<std::string, Entry<Key>> entriesOf(const std::vector<CellRow>& rows, std::size_t column,
+                                            KeyOf keyOf) {
+    std::map<std::string, Entry<Key>> entries;
+    for (const CellRow& row : rows) {
+        const Ptr<CommandInput>& cell = at(row, column);
+        const std::optional<std::string> text = sortText(cell);
+        Entry<Key>& entry = entries[cell->id()];
+        entry.rows.push_back(&row);
+        if (text) {
+            entry.key = keyOf(*text);
+        }
+    }
+    return entries;
+}
+
+/// The rows of each id, sorted by their keys.
 ///
 /// A set and not a sorting algorithm: with keys that are not numbers no order is a strict one, and
 /// a set stays within its bounds all the same.
 template <class Key, class KeyOf>
-std::vector<std::string> sortedIds(const std::vector<CellRow>& rows, std::size_t column,
-                                   KeyOf keyOf) {
-    std::map<std::string, Key> keys;
-    for (const CellRow& row : rows) {
-        const Ptr<CommandInput>& cell = at(row, column);
-        if (const std::optional<std::string> text = sortText(cell)) {
-            keys[cell->id()] = keyOf(*text);
+std::vector<Rows> sortedRows(const std::vector<CellRow>& rows, std::size_t column, KeyOf keyOf) {
+    std::map<std::string, Entry<Key>> entries = entriesOf<Key>(rows, column, keyOf);
+    std::set<std::pair<Key, EntryOfId<Key>*>, PlainLess<Key>> pairs;
+    for (EntryOfId<Key>& each : entries) {
+        if (each.second.key) {
+            pairs.emplace(*std::move(each.second.key), &each);
         }
     }
-    std::set<std::pair<Key, std::string>, PlainLess<Key>> pairs;
-    for (const auto& [id, key] : keys) {
-        pairs.emplace(key, id);
-    }
-    std::vector<std::string> ids;
-    ids.reserve(pairs.size());
+    std::vector<Rows> sorted;
+    sorted.reserve(pairs.size());
     for (const auto& pair : pairs) {
-        ids.push_back(pair.second);
+        sorted.push_back(std::move(pair.second->second.rows));
     }
-    return ids;
+    return sorted;
 }
 
-std::vector<std::string> idsInOrder(const std::vector<CellRow>& rows, std::size_t column) {
+std::vector<Rows> rowsInOrder(const std::vector<CellRow>& rows, std::size_t column) {
     if (column == 0 || column == kGraphColumn) {
         return {};
     }
     const bool isNumber = column == kPositionColumn ||
                           (column >= kFirstPropertyColumn && isNumericColumn(rows, column));
     if (isNumber) {
-        return sortedIds<double>(rows, column, parseDouble);
+        return sortedRows<double>(rows, column, parseDouble);
     }
-    return sortedIds<std::string>(rows, column, [](const std::string& text) { return text; });
-}
-
-/// The rows in the order of the ids in their column; all rows that have an id stand in its place.
-std::vector<const CellRow*> rowsInOrder(const std::vector<CellRow>& rows, std::size_t column,
-                                        const std::vector<std::string>& ids) {
-    std::unordered_map<std::string, std::vector<const CellRow*>> rowsOfId;
-    for (const CellRow& row : rows) {
-        rowsOfId[row[column]->id()].push_back(&row);
-    }
-    std::vector<const CellRow*> ordered;
-    ordered.reserve(rows.size());
-    for (const std::string& id : ids) {
-        const std::vector<const CellRow*>& found = rowsOfId[id];
-        ordered.insert(ordered.end(), found.begin(), found.end());
-    }
-    return ordered;
+    return sortedRows<std::string>(rows, column, [](const std::string& text) { return text; });
 }
 
 /// Moves the row's cells behind the table's rows.
@@ -153,17 +163,16 @@ void sortStructureTable(Ptr<TableCommandInput> table, Ptr<CommandInput> input,
                         const std::string& orderText) {
     const std::vector<CellRow> rows = dataRows(table);
     const std::size_t column = columnOf(at(rows, 0), idBase(input->id()));
-    std::vector<std::string> ids = idsInOrder(rows, column);
+    std::vector<Rows> sorted = rowsInOrder(rows, column);
     if (orderText == "Descending") {
-        ids = std::vector<std::string>(ids.rbegin(), ids.rend());
+        std::ranges::reverse(sorted);
     } else if (orderText != "Ascending") {
         return;
     }
-    if (ids.empty()) {
-        return;
-    }
-    for (const CellRow* row : rowsInOrder(rows, column, ids)) {
-        moveToEnd(table, *row);
+    for (const Rows& rowsOfId : sorted) {
+        for (const CellRow* row : rowsOfId) {
+            moveToEnd(table, *row);
+        }
     }
 }
 
