@@ -90,14 +90,6 @@ Found fileOfReference(const Ptr<Application>& application, const Ptr<Occurrence>
     return {file, /*isReferenced=*/true};
 }
 
-/// What is selected, where that is one entity and it is picked for the dialog.
-Ptr<Selection> onlySelection(const Ptr<UserInterface>& userInterface,
-                             const Ptr<SelectionCommandInput>& input) {
-    const Ptr<Selections> selections = userInterface->activeSelections();
-    const bool isOnly = selections && selections->count() == 1 && input->selectionCount() == 1;
-    return isOnly ? selections->item(0) : nullptr;
-}
-
 /// Whether an entity brings its own document in: an occurrence of a referenced component, and not
 /// the root component of the design in work.
 bool isReference(const Ptr<Design>& design, const Ptr<Base>& entity) {
@@ -109,12 +101,34 @@ bool isReference(const Ptr<Design>& design, const Ptr<Base>& entity) {
     return occurrence && occurrence->isReferencedComponent();
 }
 
+Found fileOfActive(const Ptr<Application>& application) {
+    return {fileOf(application->activeDocument()), /*isReferenced=*/false};
+}
+
+/// The file of what is selected where that is one entity and it is picked for the dialog, else that
+/// of the active document. None where the host does not tell what is selected.
+Found fileOfSelected(const Ptr<Application>& application, const Ptr<Selections>& selections,
+                     const Ptr<SelectionCommandInput>& input) {
+    if (!selections) {
+        return {};
+    }
+    if (selections->count() != 1 || input->selectionCount() != 1) {
+        return fileOfActive(application);
+    }
+    const Ptr<Selection> selection = selections->item(0);
+    if (!selection) {
+        return {};
+    }
+    const Ptr<Base> entity = selection->entity();
+    return isReference(application->activeProduct(), entity) ? fileOfReference(application, entity)
+                                                             : fileOfActive(application);
+}
+
 Found findFile(const Ptr<CommandInputs>& inputs) {
     const Ptr<Application> application = Application::get();
     if (!application) {
         return {};
     }
-    const Ptr<Design> design = application->activeProduct();
     const Ptr<SelectionCommandInput> input =
         inputs ? inputs->itemById(property_inputs::kSelection) : nullptr;
     const Ptr<UserInterface> userInterface = application->userInterface();
@@ -122,14 +136,10 @@ Found findFile(const Ptr<CommandInputs>& inputs) {
     if (!input || !workspace) {
         return {};
     }
-    if (workspace->id() != "FusionDocumentationEnvironment") {
-        const Ptr<Selection> selection = onlySelection(userInterface, input);
-        const Ptr<Base> entity = selection ? selection->entity() : nullptr;
-        if (isReference(design, entity)) {
-            return fileOfReference(application, entity);
-        }
+    if (workspace->id() == "FusionDocumentationEnvironment") {
+        return fileOfActive(application);
     }
-    return {fileOf(application->activeDocument()), /*isReferenced=*/false};
+    return fileOfSelected(application, userInterface->activeSelections(), input);
 }
 
 /// The folders of a file from the outermost to the innermost, each behind a separator. The root

@@ -1,8 +1,5 @@
 #include "tests/tarnix/properties/properties_test.h"
 
-#include "host/design/document.h"
-#include "host/session/browser_tree.h"
-#include "host/ui/application.h"
 #include "host/ui/hands.h"
 
 namespace tarnix {
@@ -37,8 +34,24 @@ protected:
         return box->text();
     }
 
-    [[nodiscard]] static Ptr<adsk::core::Base> entity(const std::string& path) {
-        return host::inBrowserTree(host::designOf(host::Application::current()->document()), path);
+    /// Opens a design of a bolt and a referenced motor, and shows the motor's path.
+    void showReferenced() {
+        store("Alfa/Engine", "Piston");
+        store("Alfa/Gearbox", R"(
+            Motor  document=Engine
+            Bolt)");
+        openStored("Alfa/Gearbox");
+        openAndPick("Motor:1");
+        ASSERT_EQ(shown(), "RefDoc: Alfa // Engine");
+    }
+
+    /// Picks the motor afresh with one host call refused.
+    void pickMotorWithout(const std::string& call) {
+        showReferenced();
+        session->pick("Bolt:1");
+        ASSERT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
+        host::gate::refuse(call, 1);
+        session->pick("Motor:1");
     }
 };
 
@@ -70,16 +83,14 @@ TEST_F(FullPath, OfAFileInTheRootFolderHasOneSeparator) {
 }
 
 TEST_F(FullPath, OfThePickedRootComponentIsThisDocument) {
-    store("Alfa/Gearbox", "Motor  document=Engine");
-    openStored("Alfa/Gearbox");
-    openAndPick("");
+    showReferenced();
+    session->pick("");
     EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
 }
 
 TEST_F(FullPath, OfAnOrdinaryOccurrenceIsThisDocument) {
-    store("Alfa/Gearbox", "Bolt");
-    openStored("Alfa/Gearbox");
-    openAndPick("Bolt:1");
+    showReferenced();
+    session->pick("Bolt:1");
     EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
 }
 
@@ -120,6 +131,7 @@ TEST_F(FullPath, OfAReferenceThatWasFoundNeedsNoSecondWalk) {
     openStored("Alfa/Gearbox", host::ReferencedFiles::KnownWhenListed);
     openAndPick("Motor:1");
     session->pick("Bolt:1");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
     host::gate::reset();
     session->pick("Motor:1");
     EXPECT_EQ(shown(), "RefDoc: Alfa // Bought // Engine");
@@ -169,6 +181,7 @@ TEST_F(FullPath, WithoutASelectionIsThisDocument) {
     store("Alfa/Gearbox", "Motor  document=Engine");
     openStored("Alfa/Gearbox");
     openAndPick("Motor:1");
+    EXPECT_EQ(shown(), "RefDoc: Alfa // Bought // Engine");
     session->pick("Motor:1");
     EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
 }
@@ -214,6 +227,26 @@ TEST_F(FullPath, IsEmptyWhenTheActiveDocumentIsMissing) {
     host::gate::refuse("Application::activeDocument", 1);
     session->pick("Bolt:1");
     EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, IsEmptyWhereTheHostDoesNotTellWhatIsSelected) {
+    pickMotorWithout("UserInterface::activeSelections");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(value(kPartName), "Motor");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, IsEmptyWhereTheHostDoesNotGiveWhatIsSelected) {
+    pickMotorWithout("Selections::item");
+    EXPECT_EQ(box(kFullPath), "");
+    EXPECT_EQ(value(kPartName), "Motor");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(FullPath, OfASelectionWithoutAnEntityIsThisDocument) {
+    pickMotorWithout("Selection::entity");
+    EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
     EXPECT_EQ(raised(), "");
 }
 

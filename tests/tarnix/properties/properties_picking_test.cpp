@@ -1,8 +1,5 @@
 #include "tests/tarnix/properties/properties_test.h"
 
-#include "host/design/document.h"
-#include "host/session/browser_tree.h"
-#include "host/ui/application.h"
 #include "host/ui/hands.h"
 
 namespace tarnix {
@@ -10,10 +7,7 @@ namespace {
 
 class PickedComponent : public PropertiesTest {
 protected:
-    static void selectBefore(const std::string& path) {
-        host::selectInModel(
-            {host::inBrowserTree(host::designOf(host::Application::current()->document()), path)});
-    }
+    static void selectBefore(const std::string& path) { host::selectInModel({entity(path)}); }
 
     /// Which inputs of the groups can be changed, one character each: "+" or "-".
     [[nodiscard]] std::string enabled() const {
@@ -114,6 +108,32 @@ TEST_F(PickedComponent, WhenItIsClearedWithoutADesignChangesNothing) {
     session->pick("Bolt:1");
     EXPECT_EQ(value(kDescription), "mine");
     EXPECT_EQ(enabled(), "++++++");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PickedComponent, WhenItIsClearedWithoutARootComponentChangesNothing) {
+    offer({"QEMA_Colour;Colour"});
+    open("Bolt  description=long");
+    openAndPick("Bolt:1");
+    host::gate::refuse("Design::rootComponent", 1);
+    session->pick("Bolt:1");
+    EXPECT_EQ(host::gate::refusedCall(), "Design::rootComponent");
+    EXPECT_EQ(value(kDescription), "long");
+    EXPECT_EQ(enabled(), "++++++");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PickedComponent, IsNotLookedForWhereTheInputIsNoSelection) {
+    open("Bolt");
+    openAndPick("Bolt:1");
+    const adsk::core::Ptr<adsk::core::TextBoxCommandInput> box = session->input(kFullPath);
+    box->text("old");
+    session->input(kSelection)->deleteMe();
+    const adsk::core::Ptr<adsk::core::TabCommandInput> tab = session->input(kPropertiesTab);
+    tab->children()->addBoolValueInput(kSelection, "Component", true);
+    session->click(kSelection);
+    EXPECT_EQ(box->text(), "old");
+    EXPECT_EQ(values(), " | Bolt | Bolt | ");
     EXPECT_EQ(raised(), "");
 }
 

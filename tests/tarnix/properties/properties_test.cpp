@@ -2,6 +2,10 @@
 
 #include "tests/support/files.h"
 
+#include "host/design/design_file.h"
+#include "host/design/document.h"
+#include "host/session/browser_tree.h"
+#include "host/ui/application.h"
 #include "host/ui/hands.h"
 
 #include <algorithm>
@@ -137,6 +141,12 @@ std::string PropertiesTest::values() const {
     return all;
 }
 
+std::string PropertiesTest::wholeDesign() const {
+    const std::filesystem::path file = session->folder() / "whole.design.json";
+    host::saveDesignFile(file, session->design());
+    return test_support::readFile(file);
+}
+
 std::string PropertiesTest::buttonsOn() const {
     const Ptr<ButtonRowCommandInput> row = session->input(kStructure);
     std::string all;
@@ -167,6 +177,21 @@ std::string PropertiesTest::rows() const {
         all += cell->value() + "|";
     }
     return all;
+}
+
+std::string PropertiesTest::placeOfCell(int row) const {
+    const Ptr<TableCommandInput> table = session->table(kTable);
+    int at = -1;
+    int column = -1;
+    int rowSpan = -1;
+    int columnSpan = -1;
+    table->getPosition(table->getInputAtPosition(row, 0), at, column, rowSpan, columnSpan);
+    return "row " + std::to_string(at) + ", column " + std::to_string(column) + ", spans " +
+           std::to_string(rowSpan) + " and " + std::to_string(columnSpan);
+}
+
+Ptr<Base> PropertiesTest::entity(const std::string& path) {
+    return host::inBrowserTree(host::designOf(host::Application::current()->document()), path);
 }
 
 std::string PropertiesTest::rowId(int row) const {

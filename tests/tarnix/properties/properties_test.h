@@ -61,6 +61,9 @@ protected:
     /// The texts of the properties, the buttons that are on in front: "Buy | B-1 | Bolt | | red".
     [[nodiscard]] std::string values() const;
 
+    /// The open design as a design file would have it.
+    [[nodiscard]] std::string wholeDesign() const;
+
     /// The captions of the buttons that are on, with a blank between them.
     [[nodiscard]] std::string buttonsOn() const;
 
@@ -72,6 +75,12 @@ protected:
 
     /// The names in the rows of the list, with "|" around each.
     [[nodiscard]] std::string rows() const;
+
+    /// Where the host has the cell of a row of the list: "row 0, column 0, spans 0 and 0".
+    [[nodiscard]] std::string placeOfCell(int row) const;
+
+    /// What a path of the browser tree stands for.
+    [[nodiscard]] static adsk::core::Ptr<adsk::core::Base> entity(const std::string& path);
 
     /// The id of the input in a row of the list.
     [[nodiscard]] std::string rowId(int row) const;
