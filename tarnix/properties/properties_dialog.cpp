@@ -50,9 +50,15 @@ std::string keyOf(const std::string& entry) { return entry.substr(0, entry.find(
 std::string displayNameOf(const std::string& entry) { return entry.substr(entry.find(';') + 1); }
 
 /// The id of an entry's row. It lacks the key's last character: the key itself is the id of the
-/// property's input on the other tab, and ids of a command's inputs have to differ.
+/// property's input on the other tab, and ids of a command's inputs have to differ. An entry that
+/// has no ";" is all id, on both.
 std::string rowId(const std::string& entry) {
-    return entry.substr(0, entry.find(';') - 1);  // all of an entry without ";"
+    std::string key = keyOf(entry);
+    const bool isWholeEntry = key.size() == entry.size();
+    if (!isWholeEntry && !key.empty()) {
+        key.pop_back();
+    }
+    return key;
 }
 
 void addSelection(const Ptr<CommandInputs>& inputs) {

@@ -60,6 +60,12 @@ TEST_F(UserPropertyRows, OfAnEntryWithoutSemicolonHaveItWholeAsIdAndName) {
     EXPECT_EQ(table->maximumVisibleRows(), 20);
 }
 
+TEST_F(UserPropertyRows, OfAnEmptyKeyHaveAnEmptyId) {
+    fillUserPropertyTable(table, {";x"});
+
+    EXPECT_EQ(rows(), " x x");
+}
+
 TEST_F(UserPropertyRows, AreTwentyAtATimeAlsoWithoutAny) {
     fillUserPropertyTable(table, {});
 
