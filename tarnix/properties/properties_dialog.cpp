@@ -68,16 +68,16 @@ void addSelection(const Ptr<CommandInputs>& inputs) {
     selection->setSelectionLimits(1, 1);
 }
 
-/// The children of a new group, null where the host gives none.
-Ptr<CommandInputs> addGroup(const Ptr<CommandInputs>& inputs, const char* id, const char* name) {
-    const Ptr<GroupCommandInput> group = inputs->addGroupCommandInput(id, name);
-    if (!group) {
-        return nullptr;
+/// A new group, null where the host gives none.
+Ptr<GroupCommandInput> addGroup(const Ptr<CommandInputs>& inputs, const char* id,
+                                const char* name) {
+    Ptr<GroupCommandInput> group = inputs->addGroupCommandInput(id, name);
+    if (group) {
+        group->isExpanded(true);
+        group->isFullWidth(true);
+        group->isEnabledCheckBoxDisplayed(false);
     }
-    group->isExpanded(true);
-    group->isFullWidth(true);
-    group->isEnabledCheckBoxDisplayed(false);
-    return group->children();
+    return group;
 }
 
 bool addStructureButtons(const Ptr<CommandInputs>& inputs) {
@@ -93,29 +93,34 @@ bool addStructureButtons(const Ptr<CommandInputs>& inputs) {
     return true;
 }
 
-/// The properties that every component has. False where the host gives no group or no buttons.
+/// The properties that every component has. False where the host gives no group, nothing to fill it
+/// by, or no buttons.
 ///
 /// The part number comes before the part name, since they are written in the order of the dialog.
 bool addProperties(const Ptr<CommandInputs>& inputs, const Ptr<CommandInputs>& tab) {
-    const Ptr<CommandInputs> group = addGroup(tab, kProperties, "Properties");
-    if (!group || !addStructureButtons(group)) {
+    const Ptr<GroupCommandInput> group = addGroup(tab, kProperties, "Properties");
+    const Ptr<CommandInputs> children = group ? group->children() : nullptr;
+    if (!children || !addStructureButtons(children)) {
         return false;
     }
-    group->addStringValueInput(kPartNumberKey, "Part Number", "");
-    group->addStringValueInput(kPartNameKey, "Part Name", "");
-    group->addStringValueInput(kDescriptionKey, "Description", "");
-    group->addTextBoxCommandInput(kFullPath, "Full Path", formatFullPath(inputs), 1,
-                                  /*isReadOnly=*/true);
+    children->addStringValueInput(kPartNumberKey, "Part Number", "");
+    children->addStringValueInput(kPartNameKey, "Part Name", "");
+    children->addStringValueInput(kDescriptionKey, "Description", "");
+    children->addTextBoxCommandInput(kFullPath, "Full Path", formatFullPath(inputs), 1,
+                                     /*isReadOnly=*/true);
     return true;
 }
 
+/// A line for each entry of the settings. False where the host gives no group; one that cannot be
+/// filled raises as soon as there is an entry.
 bool addCustomProperties(const Ptr<CommandInputs>& tab, const Entries& entries) {
-    const Ptr<CommandInputs> group = addGroup(tab, kCustomProperties, "Custom Properties");
+    const Ptr<GroupCommandInput> group = addGroup(tab, kCustomProperties, "Custom Properties");
     if (!group) {
         return false;
     }
+    const Ptr<CommandInputs> children = group->children();
     for (const std::string& entry : entries) {
-        group->addStringValueInput(keyOf(entry), displayNameOf(entry), "");
+        children->addStringValueInput(keyOf(entry), displayNameOf(entry), "");
     }
     return true;
 }

@@ -23,7 +23,8 @@ extern int addedRowCounter;
 /// Makes all inputs of the dialog.
 ///
 /// Ends early, and leaves what it has made, where the host gives no tab, no group, no button row or
-/// none of their contents. Anything else that is missing raises a plain `std::exception`.
+/// none of their contents. Anything else that is missing raises a plain `std::exception`, and so do
+/// the contents of the second group where there are custom properties for it.
 void buildPropertiesDialog(adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 
 /// Has the selection accept occurrences and the root component, and tells the user of a filter that

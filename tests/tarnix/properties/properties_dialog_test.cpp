@@ -8,15 +8,20 @@ namespace {
 
 using adsk::core::Ptr;
 using adsk::core::SelectionCommandInput;
+using adsk::core::TabCommandInput;
 
 class PropertiesDialog : public PropertiesTest {
 protected:
-    /// The dialog with one host call refused: all inputs of the dialog that have an id.
-    std::string withoutCall(const std::string& call, int nth) {
+    void openWithout(const std::string& call, int nth) {
         host::gate::reset();
         host::gate::refuse(call, static_cast<std::uint64_t>(nth));
         openProperties();
         host::gate::reset();
+    }
+
+    /// The dialog with one host call refused: all inputs of the dialog that have an id.
+    std::string withoutCall(const std::string& call, int nth) {
+        openWithout(call, nth);
         std::string all;
         for (const std::string& id : session->inputIds()) {
             all += (all.empty() ? "" : " ") + id;
@@ -61,6 +66,22 @@ TEST_F(PropertiesDialog, PicksOneComponentAndShowsTwoGroups) {
         selection QEMA_selectComponent "Component" prompt "Select component"
         group QEMA_properties "Properties", expanded, full width
         group QEMA_customProperties "Custom Properties", expanded, full width)"));
+}
+
+TEST_F(PropertiesDialog, AsksForWhatTheHostDoesAnyway) {
+    openProperties();
+    EXPECT_EQ(host::gate::count("SelectionCommandInput::setSelectionLimits"), 1U);
+    EXPECT_EQ(host::gate::count("GroupCommandInput::isExpanded"), 2U);
+    EXPECT_EQ(host::gate::count("GroupCommandInput::isEnabledCheckBoxDisplayed"), 2U);
+    EXPECT_EQ(host::gate::count("TableCommandInput::maximumVisibleRows"), 1U);
+}
+
+TEST_F(PropertiesDialog, HasTabsWithoutIcons) {
+    openProperties();
+    const Ptr<TabCommandInput> properties = session->input(kPropertiesTab);
+    const Ptr<TabCommandInput> settings = session->input(kSettingsTab);
+    EXPECT_EQ(properties->resourceFolder(), "");
+    EXPECT_EQ(settings->resourceFolder(), "");
 }
 
 TEST_F(PropertiesDialog, ShowsStructureTextsAndFullPathAsProperties) {
@@ -125,6 +146,13 @@ TEST_F(PropertiesDialog, TheIdOfARowIsACharacterShorterThanTheKey) {
     EXPECT_EQ(rowId(1), "");
 }
 
+TEST_F(PropertiesDialog, HasRowsOfOneCellThatSpansNoOther) {
+    offer({"QEMA_Material;Material", "QEMA_Colour;Colour"});
+    openProperties();
+    EXPECT_EQ(placeOfCell(0), "row 0, column 0, spans 0 and 0");
+    EXPECT_EQ(placeOfCell(1), "row 1, column 0, spans 0 and 0");
+}
+
 TEST_F(PropertiesDialog, AnEntryWithoutSemicolonIsIdAndName) {
     // An item without a key reads as an empty text, the one entry that has no semicolon.
     offer({";Lost"});
@@ -142,9 +170,9 @@ TEST_F(PropertiesDialog, PicksOccurrencesAndTheRootComponentAlone) {
     EXPECT_EQ(value(kPartName), "Bolt");
     session->pick("Design");
     EXPECT_EQ(value(kPartName), "Design");
-    const Ptr<adsk::core::Base> component =
-        session->dialog()->parentCommandDefinition();  // of a kind that no filter accepts
-    EXPECT_THROW(host::pick(component), host::MisuseError);
+    const Ptr<adsk::fusion::Occurrence> bolt = entity("Bolt:1");
+    EXPECT_THROW(host::pick(bolt->component()), host::MisuseError);
+    EXPECT_EQ(host::gate::count("SelectionCommandInput::addSelectionFilter"), 2U);
 }
 
 TEST_F(PropertiesDialog, CannotBeAcceptedBeforeAComponentIsPicked) {
@@ -202,6 +230,12 @@ TEST_F(PropertiesDialog, StopsWithoutItsFirstGroup) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsFirstGroup) {
+    EXPECT_EQ(withoutCall("GroupCommandInput::children", 1),
+              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(PropertiesDialog, StopsWithoutItsButtons) {
     EXPECT_EQ(withoutCall("CommandInputs::addButtonRowCommandInput", 1),
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
@@ -218,6 +252,26 @@ TEST_F(PropertiesDialog, StopsWithoutItsSecondGroup) {
     EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 2),
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
               "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, RaisesWithoutTheChildrenOfItsSecondGroupWhereTheListHasEntries) {
+    offer({"QEMA_Colour;Colour"});
+    openWithout("GroupCommandInput::children", 2);
+    EXPECT_EQ(raised(), "std::exception:  in OnCommandCreated");
+}
+
+TEST_F(PropertiesDialog, NeedsNoChildrenOfItsSecondGroupForAnEmptyList) {
+    openWithout("GroupCommandInput::children", 2);
+    EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsSecondTab) {
+    EXPECT_EQ(withoutCall("TabCommandInput::children", 2),
+              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
+              "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc "
+              "QEMA_customProperties QEMA_tab_Settings");
     EXPECT_EQ(raised(), "");
 }
 
