@@ -77,7 +77,7 @@ void EditPropertiesCmdInputChangedHandler::notify(const Ptr<InputChangedEventArg
     } else if (id == kAddRow || id == kDeleteRow) {
         onTableButton(eventArgs);
     } else if (id == kBomStructure) {
-        keepOneBomStructure(input, selectedBomStructure_);
+        onBomStructureChanged(input);
     } else if (id == kSave) {
         saveUserProperties(eventArgs);
     } else if (input->parentCommandInput()->id() == kTable) {
@@ -108,6 +108,10 @@ void EditPropertiesCmdInputChangedHandler::onSelectionChanged(
     const ComponentProperties properties = readComponentProperties(component);
     fillInputs(childrenOf(eventArgs->inputs(), kProperties), properties);
     fillInputs(childrenOf(eventArgs->inputs(), kCustomProperties), properties);
+}
+
+void EditPropertiesCmdInputChangedHandler::onBomStructureChanged(const Ptr<CommandInput>& input) {
+    keepOneBomStructure(input, selectedBomStructure_);
 }
 
 void EditPropertiesCmdInputChangedHandler::fillInputs(const Ptr<CommandInputs>& inputs,

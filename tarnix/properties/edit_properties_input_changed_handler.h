@@ -23,6 +23,9 @@ private:
     void onSelectionChanged(const adsk::core::Ptr<adsk::core::CommandInput>& input,
                             const adsk::core::Ptr<adsk::core::InputChangedEventArgs>& eventArgs);
 
+    /// Keeps at most one button of the BOM structure on, the one just pressed.
+    void onBomStructureChanged(const adsk::core::Ptr<adsk::core::CommandInput>& input);
+
     /// Loads properties into the inputs of a collection: the buttons of a row by their captions,
     /// lines of text by their ids. A property that is missing clears its input.
     void fillInputs(const adsk::core::Ptr<adsk::core::CommandInputs>& inputs,

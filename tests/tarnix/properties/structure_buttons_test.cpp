@@ -1,11 +1,21 @@
 #include "tests/tarnix/properties/properties_test.h"
 
+#include "host/ui/hands.h"
+
 namespace tarnix {
 namespace {
 
 class StructureButtons : public PropertiesTest {
 protected:
     void press(const std::string& caption) { session->choose(kStructure, caption); }
+
+    /// Switches two buttons on and reports one change, as no person can.
+    void switchOnProduceAndBuyAtOnce() {
+        const adsk::core::Ptr<adsk::core::ButtonRowCommandInput> row = session->input(kStructure);
+        row->listItems()->item(0)->isSelected(true);
+        row->listItems()->item(1)->isSelected(true);
+        host::reportChange(row);
+    }
 
     /// A component on which these are on.
     void pickOneWith(const std::string& buttons) {
@@ -74,8 +84,16 @@ TEST_F(StructureButtons, StoresNothingWhenAComponentWithoutStructureIsLoaded) {
         Nut)");
     openAndPick("Bolt:1");
     session->pick("Nut:1");
+    switchOnProduceAndBuyAtOnce();
+    EXPECT_EQ(buttonsOn(), "Produce Buy");
+}
+
+TEST_F(StructureButtons, KeepTheStoredOneInMindWhenItIsSwitchedOff) {
+    open("Bolt  structure=Buy");
+    openAndPick("Bolt:1");
     press("Buy");
-    press("Produce");
+    ASSERT_EQ(buttonsOn(), "");
+    switchOnProduceAndBuyAtOnce();
     EXPECT_EQ(buttonsOn(), "Produce");
 }
 
