@@ -85,12 +85,16 @@ TEST_F(PropertiesOk, WithoutASelectionIsRefusedByTheHost) {
 }
 
 TEST_F(PropertiesOk, WithoutASelectionLeavesTheDesignUntouched) {
-    open("Bolt");
+    open(R"(
+        Gearbox
+          Bolt  number=B-1 description=long structure=Buy property=Colour/red
+        Nut)");
+    const std::string before = wholeDesign();
     openProperties();
-    session->choose(kStructure, "Buy");
+    session->choose(kStructure, "Produce");
     session->type(kPartNumber, "lost");
     forceOk();
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(wholeDesign(), before);
     EXPECT_EQ(raised(), "");
 }
 
@@ -102,6 +106,18 @@ TEST_F(PropertiesOk, StopsSilentlyWithoutTheInputs) {
 
 TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelectionInput) {
     okWithout("CommandInputs::itemById", 1);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelection) {
+    okWithout("SelectionCommandInput::selection", 1);
+    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(PropertiesOk, StopsSilentlyWithoutTheComponentOfAnOccurrence) {
+    okWithout("Occurrence::component", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
     EXPECT_EQ(raised(), "");
 }

@@ -162,6 +162,13 @@ TEST(RefusedHostCalls, InDeletingARow) {
     EXPECT_GT(calls, 6U);
 }
 
+TEST(RefusedHostCalls, InDeletingARowWithNoneSelected) {
+    const std::uint64_t calls =
+        refuseEachCall({showList, [](Session& session) { session.click(kDeleteRow); }, checkFlow});
+
+    EXPECT_GT(calls, 6U);
+}
+
 TEST(RefusedHostCalls, InTypingAName) {
     const std::uint64_t calls =
         refuseEachCall({showList,

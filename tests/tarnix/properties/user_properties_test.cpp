@@ -1,4 +1,5 @@
 #include "tests/support/files.h"
+#include "tests/support/unwritable_file.h"
 #include "tests/tarnix/properties/properties_test.h"
 
 #include "host/ui/hands.h"
@@ -120,6 +121,44 @@ TEST_F(UserProperties, AreNotDeletedWithoutASelectedRow) {
     EXPECT_EQ(rows(), "|Colour|");
 }
 
+TEST_F(UserProperties, StayWhereTheHostGivesNoTable) {
+    offer({"QEMA_Colour;Colour"});
+    showList();
+    host::gate::refuse("CommandInputs::itemById", 1);
+    session->click(kAddRow);
+    host::gate::refuse("CommandInputs::itemById", 1);
+    session->click(kDeleteRow);
+    EXPECT_EQ(rows(), "|Colour|");
+    EXPECT_TRUE(session->messages().empty());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(UserProperties, AreNotCheckedWithoutTheBoxForTheMessage) {
+    offer({"QEMA_Colour;Colour"});
+    showList();
+    host::gate::refuse("CommandInputs::itemById", 1);
+    EXPECT_TRUE(accepts("a.b"));
+    EXPECT_EQ(host::gate::refusedCall(), "CommandInputs::itemById");
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(UserProperties, AreNotCheckedInACellThatIsNoLineOfText) {
+    showList();
+    const Ptr<TableCommandInput> table = session->table(kTable);
+    table->addCommandInput(table->commandInputs()->addBoolValueInput("odd", "Odd", true), 0, 0);
+    session->click("odd");
+    EXPECT_EQ(box(kMessage), kNotice);
+    EXPECT_TRUE(isEnabled(kSave));
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(UserProperties, AreAddedInOneCellThatSpansNoOther) {
+    offer({"QEMA_Colour;Colour"});
+    showList();
+    session->click(kAddRow);
+    EXPECT_EQ(placeOfCell(1), "row 1, column 0, spans 0 and 0");
+}
+
 TEST_F(UserProperties, AreDeletedByTheirSelectedRow) {
     offer({"QEMA_Colour;Colour", "QEMA_Size;Size", "QEMA_Norm;Norm"});
     showList();
@@ -238,6 +277,23 @@ TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsAreNoXml) {
     EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
     EXPECT_EQ(settings(), "<configuration");
     EXPECT_TRUE(session->dialogOpen());
+}
+
+TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsCannotBeWritten) {
+    offer({"QEMA_Colour;Colour"});
+    showList();
+    nameRow(0, "Size");
+    const std::string before = settings();
+    {
+        const test_support::UnwritableFile unwritable(settingsFile());
+        session->click(kSave);
+    }
+    ASSERT_EQ(session->raised().size(), 1U);
+    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
+    EXPECT_EQ(settings(), before);
+    EXPECT_TRUE(session->dialogOpen());
+    session->click(kSave);
+    EXPECT_NE(savedList().find("QEMA_Size"), std::string::npos);
 }
 
 TEST_F(UserProperties, AreSavedAndStayWhenTheDialogIsCancelled) {
