@@ -44,13 +44,21 @@ protected:
         session->ok();
     }
 
-    /// Edits part number and structure of a line of the parts list.
+    /// Gives a component its attributes: the BOM writes a custom property only where there is one.
+    void acceptInDialog(const std::string& path) {
+        openAndPick(path);
+        session->ok();
+    }
+
+    /// Edits part number, structure, description and colour of a line of the parts list.
     void editInBom(const std::string& number) {
         showStructure();
         const Cells cells = cellsFrom(number);
-        ASSERT_GE(cells.size(), 2U);
+        ASSERT_EQ(cells.size(), 5U);
         host::pasteText(cells[0], "Y-2");
         host::chooseItem(cells[1], "Divided");
+        host::pasteText(cells[3], "in the BOM");
+        host::pasteText(cells[4], "green");
         session->ok();
         session->cancel();
     }
@@ -114,10 +122,11 @@ TEST_F(PropertiesOfASample, EditedInTheDialogAreSeenByTheBom) {
 }
 
 TEST_F(PropertiesOfASample, EditedInTheBomAreSeenByTheDialog) {
+    acceptInDialog("Rail 600:1");
     editInBom("CS-101");
     openAndPick("Rail 600:1");
 
-    EXPECT_EQ(values(), "Divided | Y-2 | Rail 600 | anodised | ");
+    EXPECT_EQ(values(), "Divided | Y-2 | Rail 600 | in the BOM | green");
     EXPECT_EQ(raised(), "");
 }
 
@@ -130,10 +139,11 @@ TEST_F(PropertiesOfARealFile, EditedInTheDialogAreSeenByTheBom) {
 }
 
 TEST_F(PropertiesOfARealFile, EditedInTheBomAreSeenByTheDialog) {
+    acceptInDialog("plate:1");
     editInBom("plate");
     openAndPick("plate:1");
 
-    EXPECT_EQ(values(), "Divided | Y-2 | plate |  | ");
+    EXPECT_EQ(values(), "Divided | Y-2 | plate | in the BOM | green");
     EXPECT_EQ(raised(), "");
 }
 
