@@ -2,6 +2,8 @@
 
 #include "tarnix/settings/settings_document.h"
 
+#include <string>
+
 namespace tarnix {
 
 using adsk::core::Command;
@@ -32,8 +34,12 @@ void buildConfigurationDialog(const Ptr<Command>& command) {
     const Ptr<CommandInputs> inputs = command->commandInputs();
     const Ptr<ListItems> providers = addChoice(inputs);
     inputs->addTextBoxCommandInput(kProviderDescription, "", kDescription, 2, /*isReadOnly=*/true);
-    const Ptr<TextBoxCommandInput> address = inputs->addTextBoxCommandInput(
-        kProviderAddress, "", readHelpdeskUrl(), 2, /*isReadOnly=*/false);
+    const std::string url = readHelpdeskUrl();
+    const Ptr<TextBoxCommandInput> address =
+        inputs->addTextBoxCommandInput(kProviderAddress, "", url, 2, /*isReadOnly=*/false);
+    // The host takes what a box begins with for HTML, in which an address with "&lt;" or "<" would
+    // read otherwise, and OK would store that.
+    address->text(url);
     // Each question reads the settings anew.
     providers->item(readHelpdeskUrl() == defaultHelpdeskUrl ? kDefaultProvider : kOtherProvider)
         ->isSelected(true);

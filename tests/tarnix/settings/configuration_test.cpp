@@ -1,5 +1,6 @@
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
+#include "tests/support/unwritable_file.h"
 
 #include "host/ui/hands.h"
 
@@ -61,6 +62,7 @@ TEST_F(Configuration, HasTheChoiceTheDescriptionAndTheAddress) {
     EXPECT_EQ(choice->listItems()->item(0)->name(), kDefaultCaption);
     EXPECT_EQ(choice->listItems()->item(1)->name(), kOtherCaption);
     EXPECT_EQ(choice->listItems()->item(0)->icon(), "");
+    EXPECT_EQ(choice->listItems()->item(1)->icon(), "");
     EXPECT_EQ(raised(), "");
 }
 
@@ -73,6 +75,17 @@ TEST_F(Configuration, DescribesTheAddressInABoxThatIsAlwaysVisible) {
               "Enter the URL of your support provider e.g. http://support.fusion.example/");
     EXPECT_EQ(box->numRows(), 2);
     EXPECT_TRUE(box->isReadOnly());
+    EXPECT_TRUE(box->isVisible());
+}
+
+TEST_F(Configuration, ShowsTheDescriptionWhicheverProviderIsChosen) {
+    store("https://help.example/desk");
+    openConfiguration();
+    const Ptr<TextBoxCommandInput> box = session->input("helpdeskOtherDecription");
+    EXPECT_TRUE(box->isVisible());
+    session->choose(kChoice, kDefaultCaption);
+    EXPECT_TRUE(box->isVisible());
+    session->choose(kChoice, kOtherCaption);
     EXPECT_TRUE(box->isVisible());
 }
 
@@ -166,6 +179,22 @@ TEST_F(Configuration, GivesAnAddressWithAnAmpersandBackUnchanged) {
     EXPECT_EQ(stored(), "http://help.example/?a=1&amp;b=2&amp;lang=cs");
 }
 
+TEST_F(Configuration, GivesAnAddressThatHoldsAnEntityBackUnchanged) {
+    store("http://h/?a=1&amp;amp;b=2&amp;lt;");
+    openConfiguration();
+    EXPECT_EQ(shown(), "1 http://h/?a=1&amp;b=2&lt;");
+    session->ok();
+    EXPECT_EQ(stored(), "http://h/?a=1&amp;amp;b=2&amp;lt;");
+}
+
+TEST_F(Configuration, GivesAnAddressThatHoldsATagBackUnchanged) {
+    store("http://h/&lt;b&gt;bold&lt;/b&gt;");
+    openConfiguration();
+    EXPECT_EQ(shown(), "1 http://h/<b>bold</b>");
+    session->ok();
+    EXPECT_EQ(stored(), "http://h/&lt;b&gt;bold&lt;/b&gt;");
+}
+
 TEST_F(Configuration, CancelledWritesNothing) {
     store("https://help.example/desk");
     const std::string before = test_support::readFile(settingsFile());
@@ -175,9 +204,10 @@ TEST_F(Configuration, CancelledWritesNothing) {
     EXPECT_EQ(test_support::readFile(settingsFile()), before);
 }
 
-TEST_F(Configuration, WithoutACategoryForTheProviderChangesNothing) {
+TEST_F(Configuration, WithoutACategoryForTheProviderSavesTheSettingsAsTheyAre) {
+    // The quotes tell whether they were written anew.
     test_support::writeFile(settingsFile(),
-                            "<configuration><category name=\"mine\"><a/></category>"
+                            "<configuration><category name='mine'><a/></category>"
                             "</configuration>");
     openConfiguration();
     EXPECT_EQ(shown(), "1 ");
@@ -205,6 +235,21 @@ TEST_F(Configuration, LeavesAFileThatIsNoXmlAsItWas) {
     EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
     EXPECT_EQ(test_support::readFile(settingsFile()), "<configuration");
     EXPECT_FALSE(session->dialogOpen());
+}
+
+TEST_F(Configuration, LeavesAFileThatCannotBeWrittenAsItWas) {
+    store("https://help.example/desk");
+    openConfiguration();
+    session->paste(kAddress, "http://lost.example/");
+    const std::string before = test_support::readFile(settingsFile());
+    {
+        const test_support::UnwritableFile unwritable(settingsFile());
+        session->ok();
+    }
+    ASSERT_EQ(session->raised().size(), 1U);
+    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
+    EXPECT_EQ(session->raised()[0].event, "OnExecute");
+    EXPECT_EQ(test_support::readFile(settingsFile()), before);
 }
 
 TEST_F(Configuration, AnswersOnlyItsChoice) {
