@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <map>
 #include <utility>
 
 namespace workbench {
@@ -61,6 +62,30 @@ std::string pathOf(const Ptr<Base>& entity) {
     return component->name();
 }
 
+/// Puts all values in; the last one of each line by its id.
+std::map<std::string, std::string> setValues(host::Session& session,
+                                             const std::vector<Value>& values) {
+    std::map<std::string, std::string> asked;
+    for (const auto& [name, value] : values) {
+        asked[setProperty(session, name, value)] = value;
+    }
+    return asked;
+}
+
+/// What the design does not take, such as another name for its root component, is not passed over:
+/// the add-in tells nobody of it.
+void refuseUntaken(const std::map<std::string, std::string>& asked,
+                   const std::vector<ShownProperty>& held) {
+    for (const ShownProperty& each : held) {
+        const auto found = asked.find(each.id);
+        if (found != asked.end() && found->second != each.value) {
+            throw Failure(ExitCode::AddinFailed, "--set \"" + each.name + "=" + found->second +
+                                                     "\": the design would hold \"" + each.value +
+                                                     "\" instead");
+        }
+    }
+}
+
 /// Accepts the dialog, and opens it again on the same component: its path changes with its name.
 void acceptAndReopen(DialogRun& run) {
     const Ptr<Base> entity = picked(run.session());
@@ -100,12 +125,10 @@ void runProperties(const PropertiesOptions& options) {
     run.open(kPropertiesCommand);
     run.act([&](host::Session& session) { session.pick(options.component); });
     if (options.save) {
-        run.act([&](host::Session& session) {
-            for (const auto& [name, value] : values) {
-                setProperty(session, name, value);
-            }
-        });
+        std::map<std::string, std::string> asked;
+        run.act([&](host::Session& session) { asked = setValues(session, values); });
         acceptAndReopen(run);
+        refuseUntaken(asked, readProperties(run.session()));
     }
     const std::string text = asLines(pathOf(picked(run.session())), readProperties(run.session()));
     run.act([](host::Session& session) { session.cancel(); });

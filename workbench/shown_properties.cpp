@@ -78,7 +78,7 @@ std::vector<ShownProperty> readProperties(const host::Session& session) {
     return properties;
 }
 
-void setProperty(host::Session& session, const std::string& name, const std::string& value) {
+std::string setProperty(host::Session& session, const std::string& name, const std::string& value) {
     const std::vector<ShownProperty> properties = readProperties(session);
     const auto found = std::find_if(
         properties.begin(), properties.end(),
@@ -95,6 +95,7 @@ void setProperty(host::Session& session, const std::string& name, const std::str
     } else {
         session.paste(found->id, value);
     }
+    return found->id;
 }
 
 }  // namespace workbench

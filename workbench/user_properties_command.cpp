@@ -84,7 +84,16 @@ void remove(host::Session& session, const std::string& name) {
     save(session);
 }
 
-void change(DialogRun& run, const UserPropertiesOptions& options) {
+/// What the rows say that have a name: the others are not saved.
+std::vector<std::string> namesToKeep(const host::Session& session) {
+    std::vector<std::string> names = namesIn(session);
+    names.erase(std::remove(names.begin(), names.end(), ""), names.end());
+    return names;
+}
+
+/// Edits the list and saves it; yields the names that it then has to have.
+std::vector<std::string> change(DialogRun& run, const UserPropertiesOptions& options) {
+    std::vector<std::string> names;
     showList(run);
     run.act([&](host::Session& session) {
         if (options.action == UserPropertiesOptions::Action::Add) {
@@ -92,18 +101,33 @@ void change(DialogRun& run, const UserPropertiesOptions& options) {
         } else {
             remove(session, options.name);
         }
+        names = namesToKeep(session);
         session.cancel();
     });
+    return names;
+}
+
+/// The add-in tells nobody of a list that its settings do not take, such as those that have no
+/// place for one.
+void refuseUntaken(const std::vector<std::string>& names, const host::Session& session,
+                   const std::string& name) {
+    if (namesToKeep(session) != names) {
+        throw Failure(ExitCode::AddinFailed,
+                      "\"" + name + "\": the add-in's settings did not take the list");
+    }
 }
 
 }  // namespace
 
 void runUserProperties(const UserPropertiesOptions& options) {
     DialogRun run(options.addin);
-    if (options.action != UserPropertiesOptions::Action::List) {
-        change(run, options);
+    if (options.action == UserPropertiesOptions::Action::List) {
+        showList(run);
+    } else {
+        const std::vector<std::string> names = change(run, options);
+        showList(run);
+        refuseUntaken(names, run.session(), options.name);
     }
-    showList(run);
     for (const std::string& name : namesIn(run.session())) {
         std::cout << printable(name) << "\n";
     }

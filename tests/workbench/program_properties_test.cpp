@@ -169,6 +169,29 @@ TEST_F(Properties, WithAnUnknownStructureAreRefused) {
               "\"Buy\", \"AsPart\", \"Divided\", \"Reference\"\n");
 }
 
+TEST_F(Properties, ThatTheDesignDoesNotTakeAreToldAndNothingIsSaved) {
+    const std::string file = design(kAssembly);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult result =
+        run({"properties", file, "--set", "Description=new", "--set", "Part Name=X", "--save"});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(
+        result.errors,
+        "tarnix-workbench: --set \"Part Name=X\": the design would hold \"sample\" instead\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+TEST_F(Properties, ThatAreSetTwiceHaveTheLastValue) {
+    const ProgramResult result = run({"properties", design(kAssembly), "--set", "Description=a",
+                                      "--set", "QEMA_Description=b", "--save"});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("Description    b\n"), std::string::npos) << result.output;
+}
+
 TEST_F(Properties, OfAComponentThatIsNotThereAreRefused) {
     const ProgramResult result =
         run({"properties", design(kAssembly), "--component", "Gearbox:1+Rivet:1"});
@@ -234,6 +257,30 @@ TEST_F(Workbench, AUserPropertyWithABlankAtAnEndIsRefused) {
     EXPECT_EQ(run({"user-properties", "list"}).output, "");
 }
 
+TEST_F(Workbench, AUserPropertyThatTheSettingsHaveNoPlaceForIsTold) {
+    storeSettings(R"(<category name="bomItems"/>)");
+    const std::string old = readFile(settingsFile());
+
+    const ProgramResult result = run({"user-properties", "add", "Colour"});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: \"Colour\": the add-in's settings did not take the list\n");
+    EXPECT_EQ(readFile(settingsFile()), old);
+}
+
+TEST_F(Workbench, AUserPropertyIsAddedBesideOneThatHasNoName) {
+    storeSettings(
+        R"(<category name="iProperty"><item_iProperty id=""><displayName/></item_iProperty>)"
+        R"(</category>)");
+
+    const ProgramResult result = run({"user-properties", "add", "Colour"});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, "Colour\n");
+}
+
 TEST_F(Workbench, AUserPropertyMayBeginWithAHyphen) {
     EXPECT_EQ(run({"user-properties", "add", "--", "-x"}).output, "-x\n");
     EXPECT_EQ(run({"user-properties", "remove", "--", "-x"}).output, "");
@@ -262,4 +309,43 @@ TEST_F(Workbench, TheSupportProviderIsChosenAndShown) {
     EXPECT_EQ(run({"configure", "--support-url", ""}).output, "Support provider: none\n");
     EXPECT_EQ(run({"configure", "--support-url", "default"}).output,
               "Support provider: http://helpdesk.tarnix.example/ (default)\n");
+}
+
+TEST_F(Workbench, ASupportProviderThatTheSettingsHaveNoPlaceForIsTold) {
+    storeSettings(R"(<category name="bomItems"/>)");
+    const std::string old = readFile(settingsFile());
+
+    const ProgramResult other = run({"configure", "--support-url", "http://help.example/"});
+    const ProgramResult standard = run({"configure", "--support-url", "default"});
+
+    EXPECT_EQ(other.status, 4);
+    EXPECT_EQ(other.output, "");
+    EXPECT_EQ(
+        other.errors,
+        "tarnix-workbench: --support-url \"http://help.example/\": the add-in's settings hold "
+        "\"\" instead\n");
+    EXPECT_EQ(standard.status, 4);
+    EXPECT_EQ(standard.errors,
+              "tarnix-workbench: --support-url \"default\": the add-in's settings hold \"\" "
+              "instead\n");
+    EXPECT_EQ(readFile(settingsFile()), old);
+}
+
+TEST_F(Workbench, ASupportProvidersAddressWithABlankAtAnEndIsRefused) {
+    const ProgramResult result = run({"configure", "--support-url", "http://help.example/ "});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: --support-url \"http://help.example/ \": the settings keep no "
+              "blank at the ends of an address\n");
+    EXPECT_EQ(run({"configure"}).output,
+              "Support provider: http://helpdesk.tarnix.example/ (default)\n");
+}
+
+TEST_F(Workbench, ASupportProvidersAddressMayLookLikeMarkup) {
+    const std::string url = "http://help.example/?a=1&amp;b=<b>2</b>";
+
+    EXPECT_EQ(run({"configure", "--support-url", url}).output, "Support provider: " + url + "\n");
+    EXPECT_EQ(run({"configure"}).output, "Support provider: " + url + "\n");
 }

@@ -51,6 +51,15 @@ protected:
         writeFile(settingsFile(), settingsDocument(items));
     }
 
+    /// Settings of this user with these children of their root.
+    void storeSettings(const std::string& categories) {
+        std::filesystem::create_directories(addinCopy());
+        writeFile(settingsFile(),
+                  "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+                  "<configuration nameOfApplication=\"Tarnix\">" +
+                      categories + "</configuration>\r\n");
+    }
+
     [[nodiscard]] std::filesystem::path addinCopy() const {
         return folder.path() / "data" / "tarnix-workbench" / "Tarnix";
     }
