@@ -12,10 +12,12 @@ enum class ShellTarget {
 };
 
 /// Asks the shell to open a file or folder (a path in Windows terms) or a web address with the
-/// program that the user has for it, as a double click would. Does not wait for that program.
+/// program that the user has for it, as a double click would. Does not wait for that program's end,
+/// and some seconds at most for the shell's answer.
 ///
 /// The text is taken as it stands: blanks, quotes and the like mean nothing in it. False when the
-/// shell refuses at once; callers with no use for that drop it.
+/// shell refuses in that time, as for an address that no program is for; callers with no use for
+/// that drop it.
 bool openWithShell(const std::string& target, ShellTarget kind = ShellTarget::File);
 
 }  // namespace tarnix::platform

@@ -77,6 +77,15 @@ TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndTold) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsTold) {
+    restartWithShell(host::shell_requests::Policy::RecordOpen);
+    choose("unheard-of://a.example/");
+    press("openHelpdesk");
+    EXPECT_EQ(opened(), std::vector<std::string>{"unheard-of://a.example/"});
+    EXPECT_EQ(shownMessages(), kRefused);
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(SupportProvider, IsAskedForWithTheAddressAsItStands) {
     choose("http://other.example/$(touch x)`touch y`;\"z\" %20'|&gt;");
     press("openHelpdesk");

@@ -13,5 +13,10 @@ TEST_F(Shell, FailsForAnEmptyAddress) {
     EXPECT_EQ(openedSoFar(), "");
 }
 
+TEST_F(Shell, FailsForAnAddressThatNoProgramIsFor) {
+    EXPECT_FALSE(openWithShell("unheard-of://a.example/", ShellTarget::Address));
+    EXPECT_EQ(openedSoFar(), "");
+}
+
 }  // namespace
 }  // namespace tarnix::platform

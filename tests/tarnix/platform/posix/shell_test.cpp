@@ -16,9 +16,13 @@ protected:
 
     /// Puts a script in the place of the recorder.
     void replaceOpener(const std::string& script) {
-        folder.write("xdg-open", "#!/bin/sh\n" + script + "\n");
-        ::chmod((folder.path() / "xdg-open").c_str(), 0755);
+        writeProgram("xdg-open", script);
         ::setenv("PATH", (folder.path().string() + ":" + path).c_str(), 1);
+    }
+
+    void writeProgram(const std::string& name, const std::string& script) const {
+        folder.write(name, "#!/bin/sh\n" + script + "\n");
+        ::chmod((folder.path() / name).c_str(), 0755);
     }
 
     const std::string path = environment("PATH");
@@ -66,7 +70,21 @@ TEST_F(PosixShell, DoesNotWaitForTheProgram) {
     EXPECT_EQ(opened(), "let go\n");
 }
 
+TEST_F(PosixShell, FailsForWhatTheOpenerDoesNotOpenAfterAWhile) {
+    replaceOpener("sleep 0.3\nexit 4");
+    EXPECT_FALSE(openWithShell("http://a.example/"));
+}
+
+TEST_F(PosixShell, OpenerThatFailsIsLeftToNobody) {
+    replaceOpener("exit 4");
+    EXPECT_FALSE(openWithShell("http://a.example/"));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
 TEST_F(PosixShell, FailsWhereThereIsNoOpener) {
+    writeProgram("setsid", "exec /usr/bin/setsid \"$@\"");
+    writeProgram("sh", "exec /bin/sh \"$@\"");
     ::setenv("PATH", folder.path().c_str(), 1);
     EXPECT_FALSE(openWithShell("http://a.example/"));
 }
