@@ -1,0 +1,48 @@
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <thread>
+
+namespace test_support {
+
+/// A file that whoever opens it has to wait for, until it is let go. A lease on the file, which not
+/// every file system has.
+class HeldFile {
+public:
+    explicit HeldFile(const std::filesystem::path& file)
+        : descriptor_(::open(file.c_str(), O_RDWR | O_CLOEXEC)) {
+        // The system tells of the waiting by a signal; this one is ignored where nobody wants it.
+        ::fcntl(descriptor_, F_SETSIG, SIGURG);
+        isHeld_ = ::fcntl(descriptor_, F_SETLEASE, F_WRLCK) == 0;
+    }
+    HeldFile(const HeldFile&) = delete;
+    HeldFile& operator=(const HeldFile&) = delete;
+    ~HeldFile() {
+        letGo();
+        ::close(descriptor_);
+    }
+
+    /// False where the file system does not do that.
+    [[nodiscard]] bool isHeld() const { return isHeld_; }
+
+    /// Waits until somebody waits for the file; false if nobody does for half a minute.
+    [[nodiscard]] bool waitUntilAsked() const {
+        for (int i = 0; i < 600 && ::fcntl(descriptor_, F_GETLEASE) == F_WRLCK; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        return ::fcntl(descriptor_, F_GETLEASE) != F_WRLCK;
+    }
+
+    void letGo() const { ::fcntl(descriptor_, F_SETLEASE, F_UNLCK); }
+
+private:
+    int descriptor_;
+    bool isHeld_ = false;
+};
+
+}  // namespace test_support
