@@ -1,10 +1,14 @@
 #include "tarnix/platform/posix/archive_work.h"
 
+#include <unistd.h>
 #include <zip.h>
 
+#include <atomic>
 #include <filesystem>
 #include <future>
+#include <map>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -16,8 +20,8 @@ namespace fs = std::filesystem;
 /// An archive that is open; unless it is closed before, nothing of what was done stays.
 using Archive = std::unique_ptr<zip_t, void (*)(zip_t*)>;
 
-Archive openArchive(const std::string& path) {
-    return {::zip_open(path.c_str(), 0, nullptr), ::zip_discard};
+Archive openArchive(const std::string& path, int flags) {
+    return {::zip_open(path.c_str(), flags, nullptr), ::zip_discard};
 }
 
 /// The files below a folder, links left out. What cannot be read is left out, too.
@@ -46,20 +50,56 @@ void addFile(zip_t* archive, const fs::path& file, const fs::path& folder) {
     }
 }
 
-void fillArchive(const fs::path& path, const fs::path& folder) {
-    Archive archive = openArchive(path.string());
-    if (!archive) {
-        return;
-    }
+void addFiles(zip_t* archive, const fs::path& path, const fs::path& folder) {
     for (const fs::path& file : filesBelow(folder)) {
         std::error_code unknown;
         if (!fs::equivalent(file, path, unknown)) {
-            addFile(archive.get(), file, folder);
+            addFile(archive, file, folder);
         }
     }
-    // A failure leaves the archive as it was, and it is still open then.
-    if (::zip_close(archive.get()) == 0) {
-        static_cast<void>(archive.release());
+}
+
+/// One work. Another for the same archive makes it outdated, which it may be told from any thread.
+struct Work {
+    fs::path archive;
+    fs::path folder;
+    std::atomic<bool> isOutdated = false;
+};
+
+/// Packs the folder of a work into a new file; false if it has no files, or that failed.
+bool pack(const Work& work, const std::string& file) {
+    // What an earlier process of this number left would be added to.
+    Archive archive = openArchive(file, ZIP_CREATE | ZIP_TRUNCATE);
+    if (!archive) {
+        return false;
+    }
+    addFiles(archive.get(), work.archive, work.folder);
+    if (::zip_get_num_entries(archive.get(), 0) == 0 || ::zip_close(archive.get()) != 0) {
+        return false;
+    }
+    // Closed means gone.
+    static_cast<void>(archive.release());
+    return true;
+}
+
+/// Puts the packed file in the place of the archive, which keeps its permissions. One that is not
+/// there any more does not come back.
+bool takePlace(const Work& work, const std::string& file) {
+    std::error_code failure;
+    const fs::file_status before = fs::status(work.archive, failure);
+    if (work.isOutdated || !fs::is_regular_file(before)) {
+        return false;
+    }
+    fs::permissions(file, before.permissions(), failure);
+    fs::rename(file, work.archive, failure);
+    return !failure;
+}
+
+void fillArchive(const Work& work) {
+    const std::string file = work.archive.string() + ".new-" + std::to_string(::getpid());
+    if (!pack(work, file) || !takePlace(work, file)) {
+        std::error_code ignored;
+        fs::remove(file, ignored);
     }
 }
 
@@ -71,15 +111,21 @@ public:
     Works& operator=(const Works&) = delete;
     ~Works() { finish(); }
 
-    void add(fs::path archive, fs::path folder) {
-        last_ =
-            std::async(std::launch::async, [before = std::move(last_), archive = std::move(archive),
-                                            folder = std::move(folder)]() mutable {
-                if (before.valid()) {
-                    before.wait();
-                }
-                fillArchive(archive, folder);
-            });
+    void add(const std::string& archive, const std::string& folder) {
+        const auto work = std::make_shared<Work>();
+        work->archive = archive;
+        work->folder = folder;
+        std::shared_ptr<Work>& newest = newest_[archive];
+        if (newest) {
+            newest->isOutdated = true;
+        }
+        newest = work;
+        last_ = std::async(std::launch::async, [before = std::move(last_), work] {
+            if (before.valid()) {
+                before.wait();
+            }
+            fillArchive(*work);
+        });
     }
 
     void finish() {
@@ -90,6 +136,7 @@ public:
 
 private:
     std::future<void> last_;
+    std::map<std::string, std::shared_ptr<Work>> newest_;  ///< by archive
 };
 
 /// Has libzip do once, on this thread, what it does on the other at the beginning of its writing:
@@ -116,7 +163,7 @@ Works& works() {
 
 }  // namespace
 
-bool isArchive(const std::string& path) { return openArchive(path) != nullptr; }
+bool isArchive(const std::string& path) { return openArchive(path, ZIP_RDONLY) != nullptr; }
 
 void fillArchiveBeside(const std::string& archive, const std::string& folder) {
     [[maybe_unused]] static const bool isStarted = startRandomNames(archive);

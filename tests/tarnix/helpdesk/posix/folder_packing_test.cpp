@@ -13,6 +13,7 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -63,6 +64,10 @@ protected:
         return last;
     }
 
+    [[nodiscard]] long filesInFolder() const {
+        return std::distance(fs::directory_iterator(supportFolder()), {});
+    }
+
     /// The names of the entries, sorted, a line for each.
     [[nodiscard]] std::string entries() const {
         return outputOf("unzip -Z1 '" + archive() + "' | LC_ALL=C sort");
@@ -96,6 +101,54 @@ TEST_F(ZipArchive, OfASecondTimeHasNoEntryOfWhatIsGone) {
     put("screen_002.png");
     press("compressFolder");
     waitUntilFilled();
+    EXPECT_EQ(entries(), "screen_002.png\n");
+}
+
+TEST_F(ZipArchive, OfASecondTimeHasNoEntryOfWhatTheFirstStillPacks) {
+    put("screen_001.png");
+    const HeldFile first(supportFolder() / "screen_001.png");
+    if (!first.isHeld()) {
+        GTEST_SKIP() << "the file system cannot hold a file";
+    }
+    press("compressFolder");
+    ASSERT_TRUE(first.waitUntilAsked());
+    fs::remove(supportFolder() / "screen_001.png");
+    put("screen_002.png");
+    const HeldFile second(supportFolder() / "screen_002.png");
+    press("compressFolder");
+    first.letGo();
+    ASSERT_TRUE(second.waitUntilAsked());
+    // What the first has packed has no part in it.
+    EXPECT_EQ(readFile(archive()), kEmptyArchive);
+    second.letGo();
+    waitUntilFilled();
+    EXPECT_EQ(entries(), "screen_002.png\n");
+    EXPECT_EQ(filesInFolder(), 2);
+}
+
+TEST_F(ZipArchive, IsNotMadeAgainWhenItIsDeletedMeanwhile) {
+    put("screen_001.png");
+    const HeldFile held(supportFolder() / "screen_001.png");
+    if (!held.isHeld()) {
+        GTEST_SKIP() << "the file system cannot hold a file";
+    }
+    put("helpdesk.zip", kEmptyArchive);
+    tarnix::platform::fillArchiveBeside(archive(), supportFolder());
+    ASSERT_TRUE(held.waitUntilAsked());
+    fs::remove(archive());
+    held.letGo();
+    tarnix::platform::finishArchives();
+    EXPECT_EQ(filesInFolder(), 1);
+}
+
+TEST_F(ZipArchive, TakesThePlaceOfOneThatHasEntries) {
+    put("screen_001.png");
+    press("compressFolder");
+    waitUntilFilled();
+    fs::remove(supportFolder() / "screen_001.png");
+    put("screen_002.png");
+    tarnix::platform::fillArchiveBeside(archive(), supportFolder());
+    tarnix::platform::finishArchives();
     EXPECT_EQ(entries(), "screen_002.png\n");
 }
 
