@@ -175,5 +175,26 @@ TEST_F(UserGuide, RaisesAPlainExceptionWithoutGeneralPreferences) {
     EXPECT_TRUE(session->openedByShell().empty());
 }
 
+/// The add-in below a folder with a module's ending in its name.
+class UserGuideBelowAnotherEnding : public UserGuide {
+protected:
+    [[nodiscard]] host::SessionOptions options() const override {
+        host::SessionOptions below = addinOptions();
+        below.freshIn /= "old.dll.d";
+        return below;
+    }
+};
+
+TEST_F(UserGuideBelowAnotherEnding, HasTheSuffixInThePlaceOfTheFirstOne) {
+    press("openHelp");
+    ASSERT_EQ(session->openedByShell().size(), 1U);
+    const std::string module = besideModule("Tarnix.dll");
+    const std::string parent = module.substr(0, module.find("\\old.dll.d\\"));
+    const std::string rest = module.substr(parent.size() + std::string("\\old.dll").size());
+    EXPECT_EQ(session->openedByShell().front(), parent + "\\old_UsersGuide.pdf" + rest);
+    EXPECT_TRUE(rest.ends_with("\\Tarnix.dll")) << rest;
+    EXPECT_EQ(raised(), "");
+}
+
 }  // namespace
 }  // namespace test_support
