@@ -10,7 +10,6 @@
 namespace tarnix {
 namespace {
 
-// Elsewhere it is a whole folder whose files cannot be deleted.
 TEST(FolderDeletionOfWindows, KeepsALockedFileAndWhatStandsBehindIt) {
     const ScratchFolder folder;
     folder.write("screen_001.png", "x");
