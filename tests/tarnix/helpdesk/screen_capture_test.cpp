@@ -84,6 +84,7 @@ TEST_F(ScreenCapture, EndsWithAMessageWhenAllNumbersAreTaken) {
 TEST_F(ScreenCapture, MakesTheFolderAgainAfterItsDeletion) {
     press("openFolder");
     press("clearFolder");
+    EXPECT_FALSE(fs::exists(supportFolder()));
     press("captureScreen");
     EXPECT_TRUE(hasPictures(1, 1));
 }
