@@ -12,6 +12,8 @@ namespace fs = std::filesystem;
 namespace test_support {
 namespace {
 
+const std::string kEmptyArchive = std::string("PK\5\6", 4) + std::string(18, '\0');
+
 /// Whether this is Wine, whose Shell has no compressed folders.
 bool isWine() {
     return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
@@ -19,9 +21,13 @@ bool isWine() {
 
 class ZipOfTheShell : public HelpdeskTest {
 protected:
-    /// The archive of a folder with one file, right behind the command.
-    std::string pack() {
+    void SetUp() override {
+        HelpdeskTest::SetUp();
         fs::create_directory(supportFolder());
+    }
+
+    /// The archive of a folder with one more file, right behind the command.
+    std::string pack() {
         put("screen_001.png", "picture");
         press("compressFolder");
         return readFile(supportFolder() / "helpdesk.zip");
@@ -40,7 +46,15 @@ TEST_F(ZipOfTheShell, LeavesTheEmptyRecordWhereThereAreNoCompressedFolders) {
     if (!isWine()) {
         GTEST_SKIP() << "here the Shell has them";
     }
-    EXPECT_EQ(pack(), std::string("PK\5\6", 4) + std::string(18, '\0'));
+    EXPECT_EQ(pack(), kEmptyArchive);
+}
+
+TEST_F(ZipOfTheShell, BeginsWithTheEmptyRecordInThePlaceOfAnEarlierArchive) {
+    if (!isWine()) {
+        GTEST_SKIP() << "here the Shell may have filled it";
+    }
+    put("helpdesk.zip", std::string(1000, 'z'));
+    EXPECT_EQ(pack(), kEmptyArchive);
 }
 
 }  // namespace
