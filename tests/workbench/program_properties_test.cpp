@@ -259,7 +259,7 @@ TEST_F(Workbench, AUserPropertyWithABlankAtAnEndIsRefused) {
 
 TEST_F(Workbench, AUserPropertyThatTheSettingsHaveNoPlaceForIsTold) {
     storeSettings(R"(<category name="bomItems"/>)");
-    const std::string old = readFile(settingsFile());
+    const std::string old = settingsRoot();
 
     const ProgramResult result = run({"user-properties", "add", "Colour"});
 
@@ -267,7 +267,7 @@ TEST_F(Workbench, AUserPropertyThatTheSettingsHaveNoPlaceForIsTold) {
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors,
               "tarnix-workbench: \"Colour\": the add-in's settings did not take the list\n");
-    EXPECT_EQ(readFile(settingsFile()), old);
+    EXPECT_EQ(settingsRoot(), old);
 }
 
 TEST_F(Workbench, AUserPropertyIsAddedBesideOneThatHasNoName) {
@@ -313,7 +313,7 @@ TEST_F(Workbench, TheSupportProviderIsChosenAndShown) {
 
 TEST_F(Workbench, ASupportProviderThatTheSettingsHaveNoPlaceForIsTold) {
     storeSettings(R"(<category name="bomItems"/>)");
-    const std::string old = readFile(settingsFile());
+    const std::string old = settingsRoot();
 
     const ProgramResult other = run({"configure", "--support-url", "http://help.example/"});
     const ProgramResult standard = run({"configure", "--support-url", "default"});
@@ -328,7 +328,7 @@ TEST_F(Workbench, ASupportProviderThatTheSettingsHaveNoPlaceForIsTold) {
     EXPECT_EQ(standard.errors,
               "tarnix-workbench: --support-url \"default\": the add-in's settings hold \"\" "
               "instead\n");
-    EXPECT_EQ(readFile(settingsFile()), old);
+    EXPECT_EQ(settingsRoot(), old);
 }
 
 TEST_F(Workbench, ASupportProvidersAddressWithABlankAtAnEndIsRefused) {

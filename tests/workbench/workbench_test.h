@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -58,6 +59,14 @@ protected:
                   "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
                   "<configuration nameOfApplication=\"Tarnix\">" +
                       categories + "</configuration>\r\n");
+    }
+
+    /// The root of this user's settings with all that it holds; the line ends around it are the
+    /// system's.
+    [[nodiscard]] std::string settingsRoot() const {
+        const std::string bytes = readFile(settingsFile());
+        const std::size_t from = std::min(bytes.find("<configuration"), bytes.size());
+        return bytes.substr(from, bytes.rfind('>') + 1 - from);
     }
 
     [[nodiscard]] std::filesystem::path addinCopy() const {
