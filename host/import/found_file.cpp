@@ -48,7 +48,7 @@ std::vector<fs::path> variantsOf(const fs::path& path) {
 }  // namespace
 
 fs::path foundFile(const std::string& path) {
-    const fs::path file = fromUtf8(path);
+    fs::path file = fromUtf8(path);
     std::error_code error;
     if (fs::exists(file, error)) {
         return file;
