@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/base/dispatcher.h"
+#include "host/base/misuse.h"
 #include "host/base/object.h"
 
 #include <Core/Event.h>
@@ -56,27 +57,30 @@ public:
         : name_(std::move(name)), sender_(sender) {}
 
     [[nodiscard]] std::string name() const override {
-        if (refused<"Event::name">()) return {};
+        if (closed<"Event::name">(*this)) return {};
         return name_;
     }
 
     [[nodiscard]] adsk::core::Ptr<adsk::core::Base> sender() const override {
-        if (refused<"Event::sender">()) return {};
+        if (closed<"Event::sender">(*this)) return {};
         return adsk::core::Ptr<adsk::core::Base>(sender_);
     }
 
     bool add(Handler* handler) override {
-        if (refused<"Event::add">()) return false;
+        if (closed<"Event::add">(*this)) return false;
         return link_->add(handler);
     }
 
     bool remove(Handler* handler) override {
-        if (refused<"Event::remove">()) return false;
+        if (closed<"Event::remove">(*this)) return false;
         return link_->remove(handler);
     }
 
-    /// Cuts the event off from what fires it, which is about to go.
-    void forgetSender() { sender_ = nullptr; }
+    /// Deletes the event with what fires it. A notification that runs goes on.
+    void dispose() {
+        sender_ = nullptr;
+        this->invalidate();
+    }
 
     [[nodiscard]] bool hasHandlers() const { return !link_->handlers.empty(); }
 

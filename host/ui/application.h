@@ -1,11 +1,11 @@
 #pragma once
 
+#include "host/base/misuse.h"
 #include "host/cloud/documents.h"
 #include "host/design/design_data.h"
 #include "host/import/import_manager.h"
 #include "host/ui/host_setup.h"
 #include "host/ui/messages.h"
-#include "host/ui/misuse.h"
 #include "host/ui/preferences.h"
 #include "host/ui/user_interface.h"
 

@@ -203,10 +203,10 @@ void Command::dispose() {
     inputs_->dispose();
     for (const core::Ptr<CommandEvent>& each :
          {executeEvent, previewEvent, activateEvent, deactivateEvent, destroyEvent}) {
-        each->forgetSender();
+        each->dispose();
     }
-    changedEvent->forgetSender();
-    validateEvent->forgetSender();
+    changedEvent->dispose();
+    validateEvent->dispose();
     invalidate();
 }
 

@@ -89,7 +89,7 @@ bool CommandDefinition::deleteMe() {
 }
 
 void CommandDefinition::dispose() {
-    createdEvent->forgetSender();
+    createdEvent->dispose();
     owner_ = nullptr;
     invalidate();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/base/events.h"
-#include "host/ui/misuse.h"
+#include "host/base/misuse.h"
 
 #include <Core/CommandDefinitions.h>
 #include <Core/CommandInputs.h>

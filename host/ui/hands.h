@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/base/misuse.h"
 #include "host/ui/command.h"
 #include "host/ui/host_setup.h"
-#include "host/ui/misuse.h"
 
 #include <Core/CommandDefinitions.h>
 #include <Core/CommandInputs.h>

@@ -1,7 +1,7 @@
 #include "host/ui/messages.h"
 
 #include "host/base/gate.h"
-#include "host/ui/misuse.h"
+#include "host/base/misuse.h"
 
 #include <algorithm>
 #include <deque>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/ui/misuse.h"
+#include "host/base/misuse.h"
 
 #include <Core/Palettes.h>
 

@@ -158,13 +158,13 @@ void UserInterface::leaveWorkspace() {
 void UserInterface::dispose() {
     runner_.dispose();
     for (const core::Ptr<ApplicationEvent>& each : {startingEvent, createdEvent, terminatedEvent}) {
-        each->forgetSender();
+        each->dispose();
     }
     for (const core::Ptr<WorkspaceEvent>& each :
          {preActivateEvent, activatedEvent, preDeactivateEvent, deactivatedEvent}) {
-        each->forgetSender();
+        each->dispose();
     }
-    menuEvent->forgetSender();
+    menuEvent->dispose();
     definitions_->dispose();
     panels_->dispose();
     for (const core::Ptr<ToolbarTabList>& each : tabLists_) {

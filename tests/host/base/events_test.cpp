@@ -1,5 +1,7 @@
 #include "host/base/events.h"
 
+#include "host/base/last_error.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -95,6 +97,20 @@ TEST_F(EventDispatch, HandlerOutlivesItsEvent) {
     event = nullptr;
 
     EXPECT_EQ(handler.calls, 0);
+}
+
+TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndSaysSo) {
+    Counting handler;
+    clearMisuses();
+
+    event->dispose();
+
+    EXPECT_FALSE(event->isValid());
+    EXPECT_FALSE(event->add(&handler));
+    EXPECT_FALSE(event->remove(&handler));
+    EXPECT_EQ(event->name(), "");
+    EXPECT_EQ(lastError().code, 4);  // UnderlyingObjectDeletedError
+    EXPECT_EQ(misuses().size(), 3U);
 }
 
 TEST_F(EventDispatch, RaisingHandlerIsRecordedAndTheNextIsCalled) {

@@ -63,6 +63,32 @@ TEST_F(Handles, EventsOfAnEndedHostForgetTheirHandlersGoingEither) {
     EXPECT_FALSE(event->sender());
 }
 
+TEST_F(Handles, OfEventsEndWithWhatFiresThem) {
+    const Ptr<CommandDefinition> definition = define("Cmd", [](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "", true);
+    });
+    const Ptr<ApplicationCommandEvent> ofTheHost = ui()->commandStarting();
+    const Ptr<CommandCreatedEvent> ofTheDefinition = definition->commandCreated();
+    pressCommand("Cmd");
+    const Ptr<CommandEvent> ofTheCommand = openDialog()->execute();
+    OnCommand onCommand([](const auto&) {});
+    OnCreated onCreated([](const auto&) {});
+    OnApplication onApplication([](const auto&) {});
+
+    pressCancel();
+    EXPECT_FALSE(ofTheCommand->add(&onCommand));
+    EXPECT_TRUE(ofTheDefinition->add(&onCreated));
+    definition->deleteMe();
+    EXPECT_FALSE(ofTheDefinition->remove(&onCreated));
+    EXPECT_TRUE(ofTheHost->add(&onApplication));
+    endHost();
+    EXPECT_FALSE(ofTheHost->add(&onApplication));
+
+    EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
+    EXPECT_EQ(lastError().description,
+              "Event::add: the adsk::core::ApplicationCommandEvent was deleted");
+}
+
 TEST_F(Handles, AHandlerThatGoesIsCalledNoMore) {
     define("Cmd", [](const Ptr<Command>&) {});
     {

@@ -1,4 +1,4 @@
-#include "host/ui/misuse.h"
+#include "host/base/misuse.h"
 
 #include "host/base/last_error.h"
 
