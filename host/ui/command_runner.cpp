@@ -67,11 +67,21 @@ void CommandRunner::request(const core::Ptr<CommandDefinition>& definition) {
 
 void CommandRunner::settle() {
     if (busy_ > 0 || gate::state().modules > 0) return;
-    while (!requested_.empty()) {
-        const core::Ptr<CommandDefinition> next = requested_.front();
-        requested_.pop_front();
-        start(next);
-    }
+    do {
+        while (!requested_.empty()) {
+            const core::Ptr<CommandDefinition> next = requested_.front();
+            requested_.pop_front();
+            start(next);
+        }
+        fallIdle();
+    } while (!requested_.empty());
+}
+
+// Nothing can keep the host from falling idle: a handler that objects is not heard.
+void CommandRunner::fallIdle() {
+    if (!idle_ || active_ || std::exchange(isIdle_, true)) return;
+    const Counting busy(busy_);
+    announce(idle_);
 }
 
 void CommandRunner::countStart(const std::string& id) {
@@ -379,6 +389,7 @@ void CommandRunner::end(const core::Ptr<Command>& command, core::CommandTerminat
         codeChanged_.clear();
         asked_ = Asked::Nothing;
     }
+    isIdle_ = false;
     const core::Ptr<CommandDefinition> definition = command->definition();
     command->dispose();
     const Counting notifying(notifying_);
@@ -391,6 +402,7 @@ void CommandRunner::dispose() {
     if (active_) {
         end(core::SessionEndingTerminationReason);
     }
+    idle_ = nullptr;
     requested_.clear();
 }
 

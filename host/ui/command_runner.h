@@ -25,6 +25,9 @@ public:
     CommandRunner(UserInterface* ui, CodeChanges codeChanges)
         : ui_(ui), codeChanges_(codeChanges) {}
 
+    /// Announces `idle` from now on whenever no other command runs.
+    void setIdleCommand(const core::Ptr<CommandDefinition>& idle) { idle_ = idle; }
+
     /// The command that runs, null for none.
     [[nodiscard]] const core::Ptr<Command>& active() const { return active_; }
 
@@ -86,6 +89,7 @@ public:
 private:
     void start(const core::Ptr<CommandDefinition>& definition);
     void countStart(const std::string& id);
+    void fallIdle();
     bool announce(const core::Ptr<CommandDefinition>& definition);
     void create(const core::Ptr<CommandDefinition>& definition);
     void show();
@@ -105,6 +109,8 @@ private:
     UserInterface* ui_;
     CodeChanges codeChanges_;
     core::Ptr<Command> active_;
+    core::Ptr<CommandDefinition> idle_;
+    bool isIdle_ = false;  ///< `idle_` was announced since a command ended
     std::deque<core::Ptr<CommandDefinition>> requested_;
     std::map<std::string, int> starts_;  ///< since a person did something
     int notifying_ = 0;

@@ -39,6 +39,9 @@ struct HostSetup {
     /// is there to end comes to an end all the same.
     double longestWait = 86400;
 
+    /// Whether the host's own command "SelectCommand" is announced whenever no other runs.
+    bool selectCommand = false;
+
     /// Whether the panel for scripts and add-ins holds the control "RepeatCommand".
     bool repeatControl = false;
 };

@@ -31,6 +31,9 @@ UserInterface::UserInterface(const HostSetup& setup)
 
 // What stands in the toolbars before any module comes.
 void UserInterface::furnish(const HostSetup& setup) {
+    if (setup.selectCommand) {
+        runner_.setIdleCommand(definitions_->addNative("SelectCommand", "Select"));
+    }
     if (!workspaces_->active()) return;
     const core::Ptr<ToolbarPanel> panel = workspaces_->active()->toolsTab().add(
         "SolidScriptsAddinsPanel", "Add-Ins", /*native=*/true, /*place=*/0);

@@ -406,5 +406,62 @@ TEST_F(CommandLife, AFailedExecutionIsTakenBack) {
     EXPECT_EQ(noted(), "mark back");
 }
 
+/// A host that tells of its own command for selecting, too.
+class IdleCommand : public HostTest {
+protected:
+    IdleCommand() : HostTest(telling()) { traceHost(); }
+
+    static HostSetup telling() {
+        HostSetup setup;
+        setup.selectCommand = true;
+        return setup;
+    }
+};
+
+TEST_F(IdleCommand, StartsBehindEachCommand) {
+    define("Button", [](const Ptr<Command>&) {});
+
+    pressCommand("Button");
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(),
+              "starting:Button created terminated:Button=1 starting:SelectCommand "
+              "starting:Button created terminated:Button=1 starting:SelectCommand");
+}
+
+TEST_F(IdleCommand, WaitsForTheEndOfADialog) {
+    define("Dialog", [](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+    });
+    pressCommand("Dialog");
+    EXPECT_EQ(noted(), "starting:Dialog created");
+
+    pressCancel();
+
+    EXPECT_EQ(noted(), "terminated:Dialog=2 starting:SelectCommand");
+}
+
+TEST_F(IdleCommand, StartsOnceWhileNothingElseDoes) {
+    settle();
+    settle();
+
+    EXPECT_EQ(noted(), "starting:SelectCommand");
+}
+
+TEST_F(IdleCommand, MakesRoomForWhatItsHandlersStart) {
+    const Ptr<CommandDefinition> button = define("Button", [](const Ptr<Command>&) {});
+    on<OnApplication>(ui()->commandStarting(), [&, asked = false](const auto& arguments) mutable {
+        if (arguments->commandId() == "SelectCommand" && !std::exchange(asked, true)) {
+            button->execute();
+        }
+    });
+
+    settle();
+
+    EXPECT_EQ(noted(),
+              "starting:SelectCommand starting:Button created terminated:Button=1 "
+              "starting:SelectCommand");
+}
+
 }  // namespace
 }  // namespace host

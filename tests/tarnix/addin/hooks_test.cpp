@@ -116,6 +116,17 @@ TEST_F(StartingHook, HidesTheButtonBehindTheSketch) {
     EXPECT_FALSE(button(kSolid)->isVisible());
 }
 
+TEST_F(StartingHook, RunsForTheHostsOwnCommandToo) {
+    host::SessionOptions options = addinOptions();
+    options.host.selectCommand = true;
+    restart(options);
+
+    run();
+
+    EXPECT_FALSE(button(kSolid)->isVisible());
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(StartingHook, LooksAtTheActiveWorkspaceAlone) {
     openSketch();
     session->activateWorkspace(kRender);
