@@ -17,6 +17,12 @@ void addLimits(CLI::App& command, ReadingLimits& limits) {
     command.add_option("--max-memory", limits.maxMegabytes, "Give up reading beyond this many MB")
         ->check(CLI::Range(16, 1 << 20))
         ->capture_default_str();
+    command
+        .add_option("--max-occurrences", limits.maxOccurrences,
+                    "Refuse a design that has more occurrences, those in a sub-assembly\n"
+                    "counted again wherever it is used")
+        ->check(CLI::Range(1, static_cast<int>(host::kMaximumOccurrences)))
+        ->capture_default_str();
 }
 
 void addAddin(CLI::App& command, std::string& folder) {

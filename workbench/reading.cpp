@@ -18,6 +18,7 @@ host::ImportLimits importLimits(const ReadingLimits& limits) {
     host::ImportLimits result;
     result.seconds = limits.maxSeconds;
     result.megabytes = static_cast<std::size_t>(limits.maxMegabytes);
+    result.occurrences = static_cast<std::size_t>(limits.maxOccurrences);
     return result;
 }
 

@@ -2,7 +2,6 @@
 
 #include "host/session/opening.h"
 
-#include <cstdint>
 #include <string>
 
 namespace workbench {
@@ -10,7 +9,8 @@ namespace workbench {
 /// What a file may cost while it is read.
 struct ReadingLimits {
     int maxSeconds = 300;
-    int maxMegabytes = 3072;
+    int maxMegabytes = static_cast<int>(host::kUsualMegabytes);
+    int maxOccurrences = static_cast<int>(host::kUsualOccurrences);
 };
 
 /// Reads a design out of a file, with a progress line on a terminal and a line on stderr for each

@@ -17,6 +17,12 @@ public:
 /// How many occurrences a design may have, those in context counted one by one.
 inline constexpr std::size_t kMaximumOccurrences = 1'000'000;
 
+/// How many occurrences a file may bring unless somebody asks for more.
+inline constexpr std::size_t kUsualOccurrences = 200'000;
+
+/// The memory that reading a file may take unless somebody asks for more.
+inline constexpr std::size_t kUsualMegabytes = 3072;
+
 /// How deep assemblies may stand in each other.
 inline constexpr std::size_t kMaximumLevels = 500;
 

@@ -19,6 +19,14 @@ namespace fs = std::filesystem;
 constexpr const char* kFormat = "standin-host-design";
 constexpr std::size_t kVersion = 1;
 
+// What a byte of text can become while it is parsed: "0," is a number of 16 bytes in a list that is
+// being moved to twice its size, "[]," a list beside it.
+constexpr std::uintmax_t kBytesPerByte = 32;
+constexpr std::uintmax_t kMegabyte = std::uintmax_t{1} << 20;
+
+// Lists in lists are the one thing that takes more: a hundred bytes for each bracket.
+constexpr std::size_t kDeepestNesting = 100;
+
 std::string utf8(const fs::path& path) {
     const std::u8string text = path.u8string();
     return {text.begin(), text.end()};
@@ -38,13 +46,14 @@ std::string withoutOrigin(const std::string& text) {
     return text.starts_with('[') && end != std::string::npos ? text.substr(end + 2) : text;
 }
 
-std::string readAll(const fs::path& path) {
+std::string readAll(const fs::path& path, std::size_t megabytes) {
     std::error_code error;
     if (!fs::is_regular_file(path, error)) {
         refuse(path, fs::exists(path, error) ? "is no file" : "is not there");
     }
-    if (fs::file_size(path, error) > kMaximumFileSize) {
-        refuse(path, "is larger than " + std::to_string(kMaximumFileSize) + " bytes");
+    if (fs::file_size(path, error) > megabytes * kMegabyte / kBytesPerByte) {
+        refuse(path, "may take more than " + std::to_string(megabytes) +
+                         " megabytes of memory; open a smaller design, or raise the limit");
     }
     std::ifstream stream(path, std::ios::binary);
     std::ostringstream content;
@@ -55,7 +64,30 @@ std::string readAll(const fs::path& path) {
     return std::move(content).str();
 }
 
-ReadDesign parse(const std::string& text) {
+/// Brackets that stand open at once, at the most; those in texts are none.
+std::size_t nestingOf(const std::string& text) {
+    std::size_t open = 0;
+    std::size_t most = 0;
+    bool quoted = false;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char c = text[at];
+        if (c == '"') {
+            quoted = !quoted;
+        } else if (quoted) {
+            at += c == '\\' ? 1 : 0;
+        } else if (c == '[' || c == '{') {
+            most = std::max(most, ++open);
+        } else if ((c == ']' || c == '}') && open > 0) {
+            --open;
+        }
+    }
+    return most;
+}
+
+ReadDesign parse(const std::string& text, std::size_t occurrences) {
+    if (nestingOf(text) > kDeepestNesting) {
+        throw DesignError("is no design file: too many brackets stand in each other");
+    }
     const nlohmann::json json = nlohmann::json::parse(text);
     const JsonNode whole(json);
     if (whole.member("format").text() != kFormat) {
@@ -67,6 +99,10 @@ ReadDesign parse(const std::string& text) {
     }
     ReadDesign design = fromJson(json);
     checkDesign(design.data);
+    if (countOccurrences(design.data) > occurrences) {
+        throw DesignError("would become more than " + std::to_string(occurrences) +
+                          " occurrences; open a part of the assembly, or raise the limit");
+    }
     return design;
 }
 
@@ -119,11 +155,12 @@ void saveDesignFile(const fs::path& path, const DesignData& data) {
     }
 }
 
-DesignData loadDesignFile(const fs::path& path, const ReadSource& readSource) {
-    const std::string text = readAll(path);
+DesignData loadDesignFile(const fs::path& path, const ReadSource& readSource,
+                          const DesignFileLimits& limits) {
+    const std::string text = readAll(path, limits.megabytes);
     ReadDesign design;
     try {
-        design = parse(text);
+        design = parse(text, limits.occurrences);
     } catch (const nlohmann::json::exception& error) {
         refuse(path, "is no design file: " + withoutOrigin(error.what()));
     } catch (const DesignError& error) {

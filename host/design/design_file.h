@@ -3,7 +3,7 @@
 #include "host/design/design_check.h"
 #include "host/design/design_data.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 
@@ -16,8 +16,11 @@ namespace host {
 /// The ending of a design file's name.
 inline constexpr const char* kDesignFileEnding = ".design.json";
 
-/// The largest design file that is read, in bytes.
-inline constexpr std::uintmax_t kMaximumFileSize = std::uintmax_t{1} << 30;
+/// What a design file may take while it is read.
+struct DesignFileLimits {
+    std::size_t megabytes = kUsualMegabytes;      ///< what its text can take at the most
+    std::size_t occurrences = kUsualOccurrences;  ///< below the root, those in context one by one
+};
 
 /// Reads the source of a design again, with its `source` telling the fingerprint that it has now.
 /// What it raises leaves `loadDesignFile` as it is.
@@ -34,6 +37,7 @@ void saveDesignFile(const std::filesystem::path& path, const DesignData& data);
 /// `readSource` is asked only where bodies are in a source; the source is looked for at its path
 /// and then beside the design file. Raises `DesignError` that names the file, the place in it and
 /// what would be right.
-DesignData loadDesignFile(const std::filesystem::path& path, const ReadSource& readSource = {});
+DesignData loadDesignFile(const std::filesystem::path& path, const ReadSource& readSource = {},
+                          const DesignFileLimits& limits = {});
 
 }  // namespace host

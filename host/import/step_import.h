@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/design/design_check.h"
 #include "host/design/design_data.h"
 
 #include <cstddef>
@@ -34,9 +35,9 @@ public:
 
 /// What an import may take before it is given up.
 struct ImportLimits {
-    double seconds = 300;              ///< for reading; the same again for each measurement
-    std::size_t megabytes = 3072;      ///< memory of the reading program
-    std::size_t occurrences = 200000;  ///< below the root, every use in context counted
+    double seconds = 300;                         ///< for reading; again for each measurement
+    std::size_t megabytes = kUsualMegabytes;      ///< memory of the reading program
+    std::size_t occurrences = kUsualOccurrences;  ///< below the root, those in context one by one
 };
 
 /// Hears how far an import is: a stage ("Reading", "Building") and the part of it that is done.

@@ -29,9 +29,11 @@ DesignData readDesign(const std::filesystem::path& file, const ImportLimits& lim
     if (!looksLikeDesignFile(file)) {
         return importStep(toUtf8(file), limits, progress, warnings);
     }
-    return loadDesignFile(file, [&](const SourceFile& source) {
-        return importStep(source.path, limits, progress, warnings);
-    });
+    return loadDesignFile(file,
+                          [&](const SourceFile& source) {
+                              return importStep(source.path, limits, progress, warnings);
+                          },
+                          {limits.megabytes, limits.occurrences});
 }
 
 }  // namespace host

@@ -32,10 +32,10 @@ protected:
         return complaint();
     }
 
-    std::string complaint(const ReadSource& readSource = {}) {
+    std::string complaint(const ReadSource& readSource = {}, const DesignFileLimits& limits = {}) {
         const std::u8string name = path.u8string();
         try {
-            loadDesignFile(path, readSource);
+            loadDesignFile(path, readSource, limits);
         } catch (const DesignError& error) {
             const std::string text = error.what();
             const std::string start = std::string(name.begin(), name.end()) + ": ";
@@ -199,14 +199,21 @@ TEST_F(DesignFile, WhatIsNoJsonIsRefused) {
     EXPECT_TRUE(complaint("{\"format\":").starts_with("is no design file: parse error at line 1"));
     EXPECT_TRUE(complaint("{\"a\": 1e999}").starts_with("is no design file: number overflow"));
     EXPECT_TRUE(complaint("{\"a\": \"\xff\"}").starts_with("is no design file: parse error"));
-    EXPECT_TRUE(complaint(std::string(200'000, '[')).starts_with("is no design file: parse"));
 }
 
-TEST_F(DesignFile, DeepNestingCostsNoStack) {
-    const std::string deep = std::string(200'000, '[') + std::string(200'000, ']');
+TEST_F(DesignFile, BracketsThatStandInEachOtherForEverAreRefused) {
+    const std::string reason = "is no design file: too many brackets stand in each other";
 
-    EXPECT_EQ(complaint(deep), "the whole: should be an object");
-    EXPECT_EQ(complaint(with(deep)), "components[0]: should be an object");
+    EXPECT_EQ(complaint(std::string(101, '[')), reason);
+    EXPECT_EQ(complaint(with(std::string(200'000, '[') + std::string(200'000, ']'))), reason);
+    EXPECT_EQ(complaint(std::string(100, '[') + std::string(100, ']')),
+              "the whole: should be an object");
+}
+
+TEST_F(DesignFile, BracketsInATextStandInNothing) {
+    EXPECT_EQ(
+        complaint(with("[{\"name\":\"D\",\"partNumber\":\"\\\"" + std::string(200, '[') + "\"}]")),
+        "none");
 }
 
 TEST_F(DesignFile, ForeignFormatAndOtherVersionsAreRefused) {
@@ -271,6 +278,34 @@ TEST_F(DesignFile, ExpansionBeyondTheLimitIsRefused) {
     EXPECT_EQ(complaint(with(components.str())),
               "components: the assembly has more than 1000000 occurrences, which is the most that "
               "can be opened");
+}
+
+TEST_F(DesignFile, MoreOccurrencesThanAskedForAreRefused) {
+    // Two frames with three bolts each: eight occurrences.
+    saveDesignFile(path, parseOutline(R"(
+        Frame
+          Bolt
+          Bolt
+          Bolt
+        Frame)"));
+
+    EXPECT_EQ(complaint({}, {kUsualMegabytes, 8}), "none");
+    EXPECT_EQ(
+        complaint({}, {kUsualMegabytes, 7}),
+        "would become more than 7 occurrences; open a part of the assembly, or raise the limit");
+}
+
+TEST_F(DesignFile, TextThatMayTakeMoreMemoryThanAskedForIsRefused) {
+    // A megabyte is for 32768 bytes.
+    const std::string design = with(R"([{"name":"D","partNumber":""}])");
+    write(path, design + std::string(32768 - design.size(), ' '));
+    EXPECT_EQ(complaint({}, {1, 10}), "none");
+
+    write(path, design + std::string(32769 - design.size(), ' '));
+
+    EXPECT_EQ(
+        complaint({}, {1, 10}),
+        "may take more than 1 megabytes of memory; open a smaller design, or raise the limit");
 }
 
 /// A body that only the source knows.
