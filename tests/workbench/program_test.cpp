@@ -127,6 +127,20 @@ TEST_F(Workbench, OutGetsACopyOfTheExport) {
     EXPECT_FALSE(fs::exists(folder.path() / "out" / "TarnixBOM.csv.new"));
 }
 
+TEST_F(Workbench, AFileInThePlaceOfTheFolderForTheExportIsRefusedWithALine) {
+    writeFile(folder.path() / "out", "mine");
+
+    const ProgramResult result = run({"bom", design(kSmallDesign), "--out", out()});
+
+    EXPECT_EQ(result.status, 5);
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+    const std::string file = host::toUtf8(folder.path() / "out" / "TarnixBOM.csv");
+    EXPECT_EQ(result.errors.rfind("tarnix-workbench: cannot write " + file + ": ", 0), 0U)
+        << result.errors;
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(readFile(folder.path() / "out"), "mine");
+}
+
 TEST_F(Workbench, ADesignWithoutOccurrencesHasNothingToExport) {
     const ProgramResult result = run({"bom", design("")});
 

@@ -39,6 +39,27 @@ TEST_F(BomExport, WritesTheStructureTableByteForByte) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(BomExport, IsWholeWhereTheShellOpensNothing) {
+    host::SessionOptions failing = addinOptions();
+    failing.shell = host::shell_requests::Policy::RecordFail;
+    restart(failing);
+    run();
+    open("Plate  number=P-1 measures=10:200");
+    showStructure();
+
+    exportBom();
+
+    EXPECT_EQ(session->openedByShell().size(), 1U);
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;1.570\r\n");
+    EXPECT_TRUE(session->dialogOpen());
+    EXPECT_TRUE(session->messages().empty());
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(BomExport, WritesTheModelTableWithItsPositions) {
     configure({"QEMA_Part Name;Name"});
     open(kBoltsAndPlate);
