@@ -1,10 +1,10 @@
+#include "tests/support/real_files.h"
 #include "tests/tarnix/bom/behaviour/written_design.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -17,20 +17,15 @@ namespace fs = std::filesystem;
 
 constexpr int kColumns = 6;
 
-fs::path dataFolder() {
-    const char* const chosen = std::getenv("TARNIX_TEST_DATA");
-    return chosen != nullptr ? chosen : TEST_DATA_FOLDER;
-}
-
 bool isReadable(const fs::path& file) {
     return file.extension() == ".stp" || file.extension() == ".step";
 }
 
 /// The STEP files of the folder, and the one below it that refers to files beside it.
-std::vector<std::string> realFiles() {
+std::vector<std::string> fileNames() {
     std::vector<std::string> names;
-    if (!fs::is_directory(dataFolder())) return names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(dataFolder())) {
+    if (!fs::is_directory(realFiles())) return names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(realFiles())) {
         if (isReadable(entry.path())) names.push_back(entry.path().filename().string());
     }
     names.push_back("s1-c5-214/s1-c5-214.stp");
@@ -57,7 +52,7 @@ protected:
         WrittenDesign::SetUp();
         configure({"QEMA_Part Name;Name", "QEMA_Description;Text", "QEMA_Quantity;Qty",
                    "QEMA_Mass;Mass", "QEMA_Supplier;From", "QEMA_Bounding Box;Box"});
-        session->open(dataFolder() / GetParam());
+        session->open(realFiles() / GetParam());
         session->openDesign(withAttributes(session->design()));
     }
 
@@ -116,10 +111,10 @@ TEST_P(RealWriteBack, OfBothTablesInTurnIsLikeThePlainOneAndKept) {
 }
 
 TEST(RealFiles, StandBesideTheProject) {
-    if (realFiles().empty()) {
-        GTEST_SKIP() << "no folder of real STEP files; TARNIX_TEST_DATA names one";
+    needRealFiles();
+    if (!IsSkipped()) {
+        EXPECT_TRUE(fs::is_regular_file(realFiles() / fileNames().front()));
     }
-    EXPECT_TRUE(fs::is_regular_file(dataFolder() / realFiles().front()));
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& file) {
@@ -130,7 +125,7 @@ std::string testName(const testing::TestParamInfo<std::string>& file) {
 
 // Without the folder there is no such test, which GoogleTest would take for a mistake.
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealWriteBack);
-INSTANTIATE_TEST_SUITE_P(File, RealWriteBack, testing::ValuesIn(realFiles()), testName);
+INSTANTIATE_TEST_SUITE_P(File, RealWriteBack, testing::ValuesIn(fileNames()), testName);
 
 }  // namespace
 }  // namespace test_support
