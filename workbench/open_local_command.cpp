@@ -7,6 +7,7 @@
 #include "workbench/exit_code.h"
 #include "workbench/opened_designs.h"
 #include "workbench/progress_line.h"
+#include "workbench/reading.h"
 
 #include "host/session/utf8_path.h"
 #include "host/session/waits.h"
@@ -132,6 +133,7 @@ void runOpenLocal(const OpenLocalOptions& options) {
     DialogRun run(waitingSession(options));
     run.act([&](host::Session& session) { useProjects(session, options.data); });
     const std::optional<Failure> obstacle = open(run, names);
+    tellWarnings(run.session().importWarnings());
     const std::vector<host::DesignData> designs = run.session().designsOpenedByModule();
     saveInFolder(designs, out);
     if (obstacle) {

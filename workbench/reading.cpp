@@ -36,12 +36,16 @@ host::DesignData readDesign(const std::string& file, const ReadingLimits& limits
         host::DesignData design =
             host::readDesign(host::fromUtf8(file), importLimits(limits), progress, warnings);
         line.show("");
-        for (const std::string& warning : warnings) {
-            std::cerr << "warning: " << printable(warning) << "\n";
-        }
+        tellWarnings(warnings);
         return design;
     } catch (const std::exception& error) {
         throw Failure(ExitCode::BadInput, error.what());
+    }
+}
+
+void tellWarnings(const std::vector<std::string>& warnings) {
+    for (const std::string& warning : warnings) {
+        std::cerr << "warning: " << printable(warning) << "\n";
     }
 }
 

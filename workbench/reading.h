@@ -3,6 +3,7 @@
 #include "host/session/opening.h"
 
 #include <string>
+#include <vector>
 
 namespace workbench {
 
@@ -16,5 +17,8 @@ struct ReadingLimits {
 /// Reads a design out of a file, with a progress line on a terminal and a line on stderr for each
 /// thing that the reader had to say. Raises a `Failure` for a file that cannot be read.
 host::DesignData readDesign(const std::string& file, const ReadingLimits& limits);
+
+/// Writes what a reader had to say on stderr, a line for each.
+void tellWarnings(const std::vector<std::string>& warnings);
 
 }  // namespace workbench

@@ -32,8 +32,8 @@ bool takeOne(int& tries) {
 }
 
 DesignData readConverted(const DataFileObject& file) {
-    std::vector<std::string> warnings;
-    return readDesign(file.path(), ImportLimits(), ImportProgress(), warnings);
+    return readDesign(file.path(), ImportLimits(), ImportProgress(),
+                      Application::current()->importWarnings);
 }
 
 /// The design of a file, or a raised exception that tells why it cannot be opened yet, or ever.

@@ -17,9 +17,9 @@ using namespace adsk::core;
 
 /// A STEP or IGES file.
 DesignData readShapes(const std::string& path) {
-    // Nobody is there to read the warnings: the API has no place for them.
-    std::vector<std::string> warnings;
-    return importStep(path, ImportLimits(), ImportProgress(), warnings);
+    // The API has no place for warnings; whoever drives the host may ask for them.
+    return importStep(path, ImportLimits(), ImportProgress(),
+                      Application::current()->importWarnings);
 }
 
 DesignData readArchive(const std::string& path) {

@@ -257,7 +257,13 @@ const std::vector<Raised>& Session::raised() const { return host::raised(); }
 
 void Session::clearRaised() { host::clearRaised(); }
 
-std::vector<Unmeasured> Session::unmeasured() const { return unmeasuredIn(document_); }
+const std::vector<std::string>& Session::importWarnings() const {
+    return Application::current()->importWarnings;
+}
+
+std::vector<Unmeasured> Session::unmeasured() const {
+    return unmeasuredIn(Application::current()->document());
+}
 
 const std::vector<Message>& Session::messages() const { return host::messages(); }
 

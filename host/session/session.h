@@ -205,6 +205,9 @@ public:
     [[nodiscard]] const std::vector<Raised>& raised() const;
     void clearRaised();
 
+    /// What the reader had to say of files that the module opened, as `open` yields it of others.
+    [[nodiscard]] const std::vector<std::string>& importWarnings() const;
+
     /// The components of the open design that were asked for their size and could not be measured:
     /// each stands in every sum with nothing.
     [[nodiscard]] std::vector<Unmeasured> unmeasured() const;

@@ -16,6 +16,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace host {
 
@@ -56,6 +57,9 @@ public:
     [[nodiscard]] const std::vector<adsk::core::Ptr<adsk::core::Document>>& openedInHost() const {
         return documents_->owned();
     }
+
+    /// What a person should know of files that modules opened, one line each, oldest first.
+    std::vector<std::string> importWarnings;
 
     /// Gives the host the user's projects; null takes them away.
     void setData(const adsk::core::Ptr<adsk::core::Data>& data);

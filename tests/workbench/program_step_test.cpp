@@ -1,3 +1,4 @@
+#include "tests/host/import/drafts.h"
 #include "tests/support/real_files.h"
 #include "tests/support/text.h"
 #include "tests/workbench/workbench_test.h"
@@ -16,6 +17,7 @@ using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::realFiles;
 using test_support::Workbench;
+using test_support::writeFile;
 
 /// The lines of README.md that stand indented behind the first `line`, without their indent.
 std::string shownInReadme(const std::string& line) {
@@ -45,6 +47,21 @@ TEST_F(StepFile, OfTheSamplesGivesTheListThatTheReadmeShows) {
     const std::string shown = shownInReadme("      Pos.  Part Number");
     EXPECT_EQ(std::count(shown.begin(), shown.end(), '\n'), 13) << shown;
     EXPECT_EQ(firstLines(result.output, 13), shown);
+}
+
+TEST_F(StepFile, ThatTheAddinOpensIsWarnedOfToo) {
+    const std::filesystem::path file = folder.path() / "cart.step";
+    writeFile(file, drafts::step(drafts::product(10, "A", "Cart") +
+                                 drafts::product(20, "W", "Wheel") + drafts::usage(30, 10, 20)));
+    std::filesystem::create_directories(out());
+
+    const ProgramResult result = run({"open-local", file.string(), "--out", out()});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(test_support::isOneLine(result.errors)) << result.errors;
+    EXPECT_EQ(result.errors.rfind("warning: ", 0), 0U) << result.errors;
+    EXPECT_NE(result.errors.find("tells no placement for 1 usage"), std::string::npos)
+        << result.errors;
 }
 
 /// A real file and the occurrences in it, as counted in its text.

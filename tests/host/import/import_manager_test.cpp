@@ -43,6 +43,18 @@ TEST_F(ImportManagerTest, OpensStepFilesAsNewDocuments) {
     EXPECT_FALSE(document->dataFile());
 }
 
+TEST_F(ImportManagerTest, KeepsWhatTheReaderHadToSay) {
+    const std::string file = folder.write(
+        "a.step",
+        step(product(10, "A", "Cart") + product(20, "W", "Wheel") + drafts::usage(30, 10, 20)));
+
+    manager()->importToNewDocument(manager()->createSTEPImportOptions(file));
+
+    EXPECT_EQ(host::Application::current()->importWarnings,
+              (std::vector<std::string>{
+                  file + ": tells no placement for 1 usage; it stands at the origin"}));
+}
+
 TEST_F(ImportManagerTest, OpensDesignFilesInThePlaceOfArchives) {
     const std::string file = (folder.path / "Drive.f3d").string();
     saveDesignFile(file, parseOutline("Bolt"));

@@ -9,6 +9,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -149,6 +152,30 @@ TEST_F(SessionWithAddin, DesignsThatTheModuleOpensAreNotThoseOfThePerson) {
     ASSERT_EQ(session->designsOpenedByModule().size(), 1U);
     EXPECT_EQ(session->designsOpenedByModule().front().name, "Opened");
     EXPECT_EQ(session->design().name, "Opened");
+}
+
+/// A shape that nobody can measure.
+class NoSize final : public host::Geometry {
+public:
+    double area() override { throw std::runtime_error("the shell is open"); }
+    double volume() override { throw std::runtime_error("the shell is open"); }
+    std::optional<host::Box> box(const host::Transform& /*placement*/) override {
+        throw std::runtime_error("the shell is open");
+    }
+};
+
+TEST_F(SessionWithAddin, WhatCannotBeMeasuredIsToldOfTheDesignThatIsOpen) {
+    ASSERT_TRUE(session->run());
+    host::DesignData design = host::parseOutline("Bolt");
+    design.components[1].geometry = std::make_shared<NoSize>();
+    session->openDesign(std::move(design));
+    showStructure();
+
+    EXPECT_EQ(session->unmeasured(),
+              (std::vector<host::Unmeasured>{{"Bolt", "the shell is open"}}));
+
+    session->newDesign();
+    EXPECT_TRUE(session->unmeasured().empty());
 }
 
 TEST_F(SessionWithAddin, AnUnknownInputIsRefusedWithTheIdsThereAre) {
