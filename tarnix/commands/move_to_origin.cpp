@@ -3,6 +3,7 @@
 #include <Fusion/FusionAll.h>
 
 #include <cstddef>
+#include <exception>
 #include <vector>
 
 namespace tarnix {
@@ -32,7 +33,11 @@ Occurrences selectedOccurrences(const Ptr<SelectionCommandInput>& input) {
     Occurrences result;
     const std::size_t count = input->selectionCount();
     for (std::size_t index = 0; index < count; ++index) {
-        result.emplace_back(input->selection(index)->entity());
+        const Ptr<Occurrence> occurrence = input->selection(index)->entity();
+        if (!occurrence) {
+            throw std::exception();
+        }
+        result.push_back(occurrence);
     }
     return result;
 }

@@ -183,6 +183,34 @@ TEST_F(MoveToOrigin, SecondOpeningHasInputsOfItsOwn) {
     EXPECT_EQ(places(), "Housing 0 0 0 grounded\nShaft 0 0 0\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
+TEST_F(MoveToOrigin, RaisesWithoutTheSelectionInput) {
+    host::gate::refuse("CommandInputs::addSelectionInput", 1);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(raised(), "std::exception:  in OnCommandCreated");
+}
+
+TEST_F(MoveToOrigin, RaisesWhereTheHostGivesNoSelection) {
+    select({0, 1});
+    host::gate::refuse("SelectionCommandInput::selection", 2);
+
+    session->ok();
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
+}
+
+TEST_F(MoveToOrigin, RaisesWhereTheHostGivesNoOccurrence) {
+    select({0, 1});
+    host::gate::refuse("Selection::entity", 2);
+
+    session->ok();
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
+}
+
 TEST_F(MoveToOrigin, RaisesWhereTheHostGivesNoOccurrenceToGround) {
     select({0});
     session->click("ground");
