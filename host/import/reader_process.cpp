@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <cstring>
 #include <fstream>
 #include <system_error>
@@ -69,13 +70,13 @@ std::size_t residentMegabytes(pid_t process) {
     return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) / kMegabyte;
 }
 
+/// With a point in every locale.
 std::string shortNumber(double value) {
-    std::string text = std::to_string(value);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.') || text.ends_with(',')) {
-        text.pop_back();
-    }
-    return text;
+    constexpr std::size_t kLongest = 330;  // digits and zeros of the smallest number
+    std::array<char, kLongest> digits = {};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                      std::chars_format::fixed);
+    return {digits.data(), result.ptr};
 }
 
 }  // namespace

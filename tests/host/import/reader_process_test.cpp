@@ -1,5 +1,7 @@
 #include "host/import/reader_process.h"
 
+#include "tests/support/comma_locale.h"
+
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
@@ -68,6 +70,17 @@ TEST(ReaderProcess, TheLastLineBeforeTheEndIsHeard) {
 
 TEST(ReaderProcess, OneThatTakesTooLongIsEnded) {
     EXPECT_EQ(failureOf("exec sleep 60", {0.2, 1000}), "the reader took longer than 0.2 seconds");
+}
+
+TEST(ReaderProcess, ItsTimeIsToldWithAPointInEveryLocale) {
+    const test_support::CommaLocale locale;
+
+    ASSERT_TRUE(test_support::CommaLocale::isSystems());
+    EXPECT_EQ(failureOf("exec sleep 60", {0.25, 1000}), "the reader took longer than 0.25 seconds");
+}
+
+TEST(ReaderProcess, WholeSecondsAreToldWithoutAPoint) {
+    EXPECT_EQ(failureOf("exec sleep 60", {1, 1000}), "the reader took longer than 1 seconds");
 }
 
 TEST(ReaderProcess, OneThatTalksForEverIsEnded) {
