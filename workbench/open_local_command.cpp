@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -44,16 +45,20 @@ private:
 };
 
 /// Shows what the add-in waits for, and cancels it when the user wants it; from now on at each look
-/// of the host at its clock.
-void watchWaiting(ProgressLine& line) {
+/// of the host at its clock, for as long as somebody keeps the line.
+void watchWaiting(const std::weak_ptr<ProgressLine>& watched) {
+    const std::shared_ptr<ProgressLine> line = watched.lock();
+    if (!line) {
+        return;
+    }
     const std::optional<host::Progress> progress = host::progressDialog();
     if (progress && interrupted != 0) {
         host::cancelProgress();
     } else if (progress) {
-        line.show(printable(progress->text) + "  (Ctrl-C cancels)");
+        line->show(printable(progress->text) + "  (Ctrl-C cancels)");
     }
     constexpr double kLookEach = 0.1;
-    host::clock::at(host::clock::now() + kLookEach, [&line] { watchWaiting(line); });
+    host::clock::at(host::clock::now() + kLookEach, [watched] { watchWaiting(watched); });
 }
 
 host::SessionOptions waitingSession(const OpenLocalOptions& options) {
@@ -98,13 +103,13 @@ Failure explained(const Failure& failure, const host::Session& session) {
 /// Presses the button and picks the files; what went wrong then.
 std::optional<Failure> open(DialogRun& run, const std::vector<std::string>& names) {
     const NotingInterrupts noting;
-    ProgressLine line;
+    const auto line = std::make_shared<ProgressLine>();
     watchWaiting(line);
     try {
         run.act([&](host::Session& session) {
             host::answerNextFileDialog(names);
             session.press(kOpenLocalCommand);
-            line.show("");
+            line->show("");
         });
         return std::nullopt;
     } catch (const Failure& failure) {
