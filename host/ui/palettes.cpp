@@ -165,7 +165,7 @@ core::Ptr<core::Palette> Palettes::itemById(const std::string& id) const {
 core::Ptr<core::Palette> Palettes::add(const std::string& id, const std::string& name,
                                        const std::string& htmlFileURL, bool isVisible,
                                        bool showCloseButton, bool isResizable, int width,
-                                       int height, bool /*useNewWebBrowser*/) {
+                                       int height, bool useNewWebBrowser) {
     constexpr const char* kOperation = "Palettes::add";
     if (closed<"Palettes::add">(*this)) return {};
     if (id.empty() || find(id)) {
@@ -180,6 +180,7 @@ core::Ptr<core::Palette> Palettes::add(const std::string& id, const std::string&
     state.visible = isVisible;
     state.closeButton = showCloseButton;
     state.resizable = isResizable;
+    state.newWebBrowser = useNewWebBrowser;
     state.width = width;
     state.height = height;
     all_.push_back(make<Palette>(this, state));

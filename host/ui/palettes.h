@@ -23,6 +23,7 @@ struct PaletteState {
     bool visible = true;
     bool closeButton = true;
     bool resizable = true;
+    bool newWebBrowser = false;  ///< which of the host's browsers shows the page
     core::PaletteDockingStates dockingState = core::PaletteDockStateFloating;
     core::PaletteDockingOptions dockingOption = core::PaletteDockOptionsToVerticalAndHorizontal;
     int left = 0;

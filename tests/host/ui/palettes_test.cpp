@@ -1,5 +1,7 @@
 #include "tests/host/ui/host_test.h"
 
+#include "host/ui/palettes.h"
+
 namespace host {
 namespace {
 
@@ -25,6 +27,21 @@ TEST_F(PaletteTest, KeepsWhatItWasMadeWith) {
     EXPECT_EQ(made->width(), 260);
     EXPECT_EQ(made->height(), 400);
     EXPECT_EQ(made->dockingState(), PaletteDockStateFloating);
+}
+
+TEST_F(PaletteTest, KeepsItsBrowserAndHowItsWindowBehaves) {
+    ui()->palettes()->add("old", "Old", "http://page.example/", true, true, false, 1, 1, false);
+    ui()->palettes()->add("new", "New", "http://page.example/", true, false, true, 1, 1, true);
+
+    const auto state = [](const char* id) {
+        return host::Application::current()->ui().allPalettes().find(id)->state;
+    };
+    EXPECT_FALSE(state("old").newWebBrowser);
+    EXPECT_TRUE(state("old").closeButton);
+    EXPECT_FALSE(state("old").resizable);
+    EXPECT_TRUE(state("new").newWebBrowser);
+    EXPECT_FALSE(state("new").closeButton);
+    EXPECT_TRUE(state("new").resizable);
 }
 
 TEST_F(PaletteTest, AnIdInUseYieldsNull) {

@@ -35,6 +35,16 @@ TEST_F(OnLineModels, ShowsThePageOfTheMakersSite) {
     EXPECT_EQ(address.substr(address.size() - path.size()), path);
 }
 
+TEST_F(OnLineModels, PaletteCanBeClosedAndResizedAndUsesTheOldBrowser) {
+    session->press(kCommand);
+
+    ASSERT_TRUE(palette(kPalette));
+    const host::ui::PaletteState state = stateOf(kPalette);
+    EXPECT_TRUE(state.closeButton);
+    EXPECT_TRUE(state.resizable);
+    EXPECT_FALSE(state.newWebBrowser);
+}
+
 TEST_F(OnLineModels, SecondExecutionCreatesNoSecondPaletteAndMakesTheFirstOneVisibleAgain) {
     session->press(kCommand);
     const Ptr<Palette> first = palette(kPalette);
@@ -49,6 +59,35 @@ TEST_F(OnLineModels, SecondExecutionCreatesNoSecondPaletteAndMakesTheFirstOneVis
     EXPECT_TRUE(first->isVisible());
     EXPECT_EQ(placeOf(first), (std::vector<int>{11, 22, 333, 444}));
     EXPECT_EQ(first->dockingState(), PaletteDockStateFloating);
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OnLineModels, SecondExecutionLeavesItDockedWhereItIs) {
+    session->press(kCommand);
+    palette(kPalette)->dockingState(PaletteDockStateRight);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(palette(kPalette)->dockingState(), PaletteDockStateRight);
+}
+
+TEST_F(OnLineModels, WithoutTheHostItselfNothingHappens) {
+    host::gate::refuse("Application::get", 1);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(palettes()->count(), 0U);
+    EXPECT_TRUE(session->messages().empty());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OnLineModels, WithoutTheUserInterfaceNothingHappens) {
+    host::gate::refuse("Application::userInterface", 1);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(palettes()->count(), 0U);
+    EXPECT_TRUE(session->messages().empty());
     EXPECT_EQ(raised(), "");
 }
 

@@ -2,6 +2,9 @@
 
 #include "tests/support/addin_test.h"
 
+#include "host/ui/application.h"
+#include "host/ui/palettes.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +27,11 @@ protected:
 
     static adsk::core::Ptr<adsk::core::Palette> palette(const std::string& id) {
         return palettes()->itemById(id);
+    }
+
+    /// What the host has been told of a palette, with what its API does not tell again.
+    static host::ui::PaletteState stateOf(const std::string& id) {
+        return host::Application::current()->ui().allPalettes().find(id)->state;
     }
 
     /// Left, top, width and height.

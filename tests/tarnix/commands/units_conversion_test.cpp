@@ -39,6 +39,26 @@ TEST_F(UnitsConversion, OpensAFloatingPaletteInTheLowerRightCornerOfTheHostsWind
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(UnitsConversion, PaletteCanBeClosedAndResizedAndUsesTheOldBrowser) {
+    session->press(kCommand);
+
+    ASSERT_TRUE(palette(kPalette));
+    const host::ui::PaletteState state = stateOf(kPalette);
+    EXPECT_TRUE(state.closeButton);
+    EXPECT_TRUE(state.resizable);
+    EXPECT_FALSE(state.newWebBrowser);
+}
+
+TEST_F(UnitsConversion, ToldToFloatOnceWhenItIsMade) {
+    host::gate::reset();
+
+    session->press(kCommand);
+    session->press(kCommand);
+
+    // A palette floats from the beginning in this host, and need not in another.
+    EXPECT_EQ(host::gate::count("Palette::dockingState"), 1U);
+}
+
 TEST_F(UnitsConversion, ShowsThePageOfTheConverter) {
     session->press(kCommand);
 
