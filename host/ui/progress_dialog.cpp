@@ -78,7 +78,8 @@ ProgressDialog::ProgressDialog() { living().push_back(this); }
 ProgressDialog::~ProgressDialog() { std::erase(living(), this); }
 
 Progress ProgressDialog::seen() const {
-    Progress seen = {message_, value_, cancelButtonShown_ ? cancelButtonText_ : "", cancelled_};
+    Progress seen = {message_, value_, cancelButtonShown_ ? cancelButtonText_ : "", cancelled_,
+                     translucent_};
     fillIn(seen.text, 'v', value_);
     fillIn(seen.text, 'm', maximum_);
     fillIn(seen.text, 'p', percent(value_, minimum_, maximum_));

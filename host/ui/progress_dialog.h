@@ -17,6 +17,7 @@ struct Progress {
     int value = 0;
     std::string cancelButton;  ///< empty where it has none
     bool cancelled = false;
+    bool translucent = false;  ///< what lies behind shines through
 
     bool operator==(const Progress&) const = default;
 };

@@ -44,6 +44,12 @@ TEST_F(ProgressDialogs, PutNumbersIntoTheirMessage) {
     EXPECT_EQ(progressDialog(), (Progress{"30 of 50 are 50 %, 30", 30, "", false}));
 }
 
+TEST_F(ProgressDialogs, ShowWhetherTheyAreTranslucent) {
+    dialog->isBackgroundTranslucent(true);
+
+    EXPECT_EQ(progressDialog(), (Progress{"", 0, "", false, true}));
+}
+
 TEST_F(ProgressDialogs, AreCancelledByAPerson) {
     dialog->isCancelButtonShown(true);
     dialog->cancelButtonText("Stop");

@@ -53,6 +53,34 @@ TEST_F(OpenLocalFileUploads, WaitIsShownInADialogThatIsNotBroughtOnScreen) {
     EXPECT_EQ(host::gate::count("ProgressDialog::show"), 0U);
 }
 
+TEST_F(OpenLocalFileUploads, DialogIsPreparedOnceForAllTheWaiting) {
+    storage().uploadSeconds = 2;
+    storage().conversionSeconds = 2;
+    host::gate::reset();
+
+    pick({design("model.ipt")});
+
+    EXPECT_EQ(host::gate::count("UserInterface::createProgressDialog"), 1U);
+    EXPECT_EQ(host::gate::count("ProgressDialog::isBackgroundTranslucent"), 1U);
+    EXPECT_EQ(host::gate::count("ProgressDialog::cancelButtonText"), 1U);
+    EXPECT_EQ(host::gate::count("ProgressDialog::isCancelButtonShown"), 1U);
+    // Uploading, then converting.
+    EXPECT_EQ(host::gate::count("ProgressDialog::message"), 2U);
+}
+
+TEST_F(OpenLocalFileUploads, TurnsToTheConversionWithZero) {
+    storage().uploadSeconds = 3;
+    std::optional<host::Progress> seen;
+    host::clock::at(4, [&] { seen = host::progressDialog(); });
+    // At 4 the upload's wait ends. The host looks at its clock once before the text changes, which
+    // would be too early; after one call behind the upload, four in the wait, this is the sixth.
+    host::gate::refuse("adsk::doEvents", 6);
+
+    pick({design("model.ipt")});
+
+    EXPECT_EQ(seen, (host::Progress{"Converting: 0 secs", 0, "Upload in Backround", false}));
+}
+
 TEST_F(OpenLocalFileUploads, ConversionIsCountedFromZero) {
     storage().uploadSeconds = 3;
     storage().conversionSeconds = 100;
