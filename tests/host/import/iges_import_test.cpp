@@ -1,69 +1,16 @@
 #include "drafts.h"
 #include "host/design/document.h"
 #include "host/ui/application.h"
+#include "iges_drafts.h"
 
 #include <Core/CoreAll.h>
 
 #include <gtest/gtest.h>
 
-#include <iomanip>
-#include <sstream>
-#include <string>
-#include <vector>
-
 namespace {
 
-/// One record of 80 columns.
-std::string record(const std::string& text, char section, std::size_t number) {
-    std::ostringstream line;
-    line << std::left << std::setw(72) << text << section << std::right << std::setw(7) << number
-         << "\n";
-    return line.str();
-}
-
-/// An entity's parameters, which begin with its type; the form is that of its directory entry.
-struct Entity {
-    int type = 0;
-    int form = 0;
-    std::string parameters;
-};
-
-std::string fields(const std::vector<int>& numbers) {
-    std::ostringstream text;
-    for (const int each : numbers) {
-        text << std::setw(8) << each;
-    }
-    return text.str();
-}
-
-/// An IGES file whose unit has this flag and name.
-std::string iges(const std::vector<Entity>& entities, const std::string& unit = "2,2HMM") {
-    std::string directory;
-    std::string parameters;
-    for (std::size_t index = 0; index < entities.size(); ++index) {
-        const Entity& each = entities[index];
-        const auto place = static_cast<int>(index) + 1;
-        directory += record(fields({each.type, place, 0, 0, 0, 0, 0, 0, 0}), 'D', 2 * index + 1);
-        directory +=
-            record(fields({each.type, 0, 0, 1, each.form, 0, 0, 0, 0}), 'D', 2 * index + 2);
-        std::ostringstream line;
-        line << std::left << std::setw(64) << each.parameters << std::right << std::setw(8)
-             << 2 * index + 1;
-        parameters += record(line.str(), 'P', index + 1);
-    }
-    std::ostringstream end;
-    end << "S" << std::setw(7) << 1 << "G" << std::setw(7) << 2 << "D" << std::setw(7)
-        << 2 * entities.size() << "P" << std::setw(7) << entities.size();
-    return record("A draft.", 'S', 1) +
-           record("1H,,1H;,5Hdraft,9Hdraft.igs,5Hhands,1H1,32,38,6,308,15,5Hdraft,1.0,", 'G', 1) +
-           record(unit + ",1,0.01,15H20260101.000000,1.0E-6,100.0,2Hme,2Hme,11,0;", 'G', 2) +
-           directory + parameters + record(end.str(), 'T', 1);
-}
-
-/// A rectangle of 10 x 20 that two lines span.
-const std::vector<Entity> kRectangle = {{110, 0, "110,0.,0.,0.,10.,0.,0.;"},
-                                        {110, 0, "110,0.,20.,0.,10.,20.,0.;"},
-                                        {118, 1, "118,1,3,0,1;"}};
+using drafts::iges;
+using drafts::kRectangle;
 
 class IgesImport : public testing::Test {
 protected:
@@ -110,7 +57,8 @@ TEST_F(IgesImport, IsOpenedByTheImportManager) {
 }
 
 TEST_F(IgesImport, RefusesWhatOnlyBeginsAsIges) {
-    const std::string file = folder.write("broken.igs", record("Nothing follows.", 'S', 1));
+    const std::string file =
+        folder.write("broken.igs", drafts::igesRecord("Nothing follows.", 'S', 1));
 
     EXPECT_EQ(drafts::refusal(file), file + ": cannot be read as IGES; export it again");
 }

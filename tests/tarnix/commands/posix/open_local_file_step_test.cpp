@@ -1,5 +1,6 @@
 // STEP and IGES are read by Open CASCADE, which is native only.
 
+#include "tests/host/import/iges_drafts.h"
 #include "tests/tarnix/commands/open_local_file_test.h"
 
 #include <gtest/gtest.h>
@@ -24,6 +25,17 @@ TEST_F(OpenLocalFileOfAnotherSystem, OpensAStepFileOfUpperCaseInAFolderOfUpperCa
     pick({sample("From THEM/SLIDER.STEP")});
 
     EXPECT_EQ(session->design().name, "SLIDER");
+    EXPECT_EQ(uploaded(), Texts());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFileOfAnotherSystem, OpensAnIgesFileOfUpperCase) {
+    pick({file("From THEM/PANEL.IGS", drafts::iges(drafts::kRectangle))});
+
+    EXPECT_EQ(session->design().name, "PANEL");
+    ASSERT_TRUE(session->design().components.front().geometry);
+    // 10 x 20 mm in cm2.
+    EXPECT_NEAR(session->design().components.front().geometry->area(), 2, 1e-9);
     EXPECT_EQ(uploaded(), Texts());
     EXPECT_EQ(raised(), "");
 }
