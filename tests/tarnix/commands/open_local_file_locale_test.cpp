@@ -1,3 +1,4 @@
+#include "tests/support/files.h"
 #include "tests/tarnix/commands/open_local_file_test.h"
 
 #include "host/design/design_file.h"
@@ -54,9 +55,13 @@ TEST_F(OpenLocalFileLocale, LeavesThePointToDesignFiles) {
     makeLocale();
     open(kPlate);
 
-    session->save(folder.path() / "saved.design.json");
+    const std::filesystem::path file = folder.path() / "saved.design.json";
+    session->save(file);
 
-    const host::DesignData saved = host::loadDesignFile(folder.path() / "saved.design.json");
+    const std::string bytes = test_support::readFile(file);
+    EXPECT_NE(bytes.find("1234.5"), std::string::npos) << bytes;
+    EXPECT_EQ(bytes.find("1234,5"), std::string::npos) << bytes;
+    const host::DesignData saved = host::loadDesignFile(file);
     EXPECT_EQ(saved.components.front().children.front().transform.cells[3], 1234.5);
     EXPECT_EQ(saved.components.at(1).geometry->volume(), 25000);
 }

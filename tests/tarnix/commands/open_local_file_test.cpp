@@ -7,12 +7,28 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace {
 
 using OpenLocalFile = OpenLocalFileTest;
 
 std::uint64_t calls(const std::string& name) { return host::gate::count(name); }
+
+/// The formats of the options that were made, of the calls recorded.
+std::vector<std::string> factoriesCalled() {
+    const std::string before = "ImportManager::create";
+    const std::string behind = "ImportOptions";
+    std::vector<std::string> formats;
+    for (const std::string& call : host::gate::recorded()) {
+        if (call.rfind(before, 0) == 0) {
+            formats.push_back(
+                call.substr(before.size(), call.size() - before.size() - behind.size()));
+        }
+    }
+    return formats;
+}
 
 constexpr const char* kFilter =
     "Supported Files(*.wire; *.dwg; *.f3d; *.f2d; *.cam360; *.iam; *.ipt; *.CATProduct; *.CATPart; "
@@ -77,16 +93,15 @@ TEST_F(OpenLocalFile, ImportedDocumentBecomesTheActiveOne) {
 
 TEST_F(OpenLocalFile, EachExtensionHasItsFactory) {
     host::gate::reset();
+    host::gate::record(true);
 
     pick({pathOf("a.igs"), pathOf("a.iges"), pathOf("a.ige"), pathOf("a.f3d"), pathOf("a.sab"),
           pathOf("a.sat"), pathOf("a.smb"), pathOf("a.smt"), pathOf("a.stp"), pathOf("a.step"),
           pathOf("a.ste")});
 
-    EXPECT_EQ(calls("ImportManager::createIGESImportOptions"), 3U);
-    EXPECT_EQ(calls("ImportManager::createFusionArchiveImportOptions"), 1U);
-    EXPECT_EQ(calls("ImportManager::createSATImportOptions"), 2U);
-    EXPECT_EQ(calls("ImportManager::createSMTImportOptions"), 2U);
-    EXPECT_EQ(calls("ImportManager::createSTEPImportOptions"), 3U);
+    EXPECT_EQ(factoriesCalled(),
+              (std::vector<std::string>{"IGES", "IGES", "IGES", "FusionArchive", "SAT", "SAT",
+                                        "SMT", "SMT", "STEP", "STEP", "STEP"}));
     EXPECT_EQ(calls("ImportManager::importToNewDocument"), 11U);
     EXPECT_EQ(calls("DataFolder::uploadFile"), 0U);
     EXPECT_EQ(opened(), Texts());
@@ -127,6 +142,17 @@ TEST_F(OpenLocalFile, InventorFileMatchesNoGroupAndIsUploaded) {
     EXPECT_EQ(raised(), "");
 }
 
+TEST_F(OpenLocalFile, InventorFileInUpperCaseIsUploadedWithTheLowerCasedPath) {
+    pick({design("Shared Designs/MODEL.IPT")});
+
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "data" / "Workshop" / "model.ipt"));
+    EXPECT_EQ(uploaded(), Texts{"model"});
+    // The design's own name, which the file's content tells.
+    EXPECT_EQ(opened(), Texts{"MODEL"});
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(raised(), "");
+}
+
 TEST_F(OpenLocalFile, FileWithoutAnExtensionInADottedFolderIsUploaded) {
     host::gate::reset();
 
@@ -152,6 +178,38 @@ TEST_F(OpenLocalFile, RaisesWhereTheHostHasNoImportManager) {
 
     EXPECT_EQ(raised(), "std::exception:  in OnExecute");
     EXPECT_EQ(opened(), Texts());
+}
+
+TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsPassedOver) {
+    host::gate::refuse("ImportManager::createFusionArchiveImportOptions", 1);
+
+    pick({design("part.f3d"), design("other.f3d")});
+
+    // The host is asked all the same, and what it yields is not looked at.
+    EXPECT_EQ(calls("ImportManager::importToNewDocument"), 2U);
+    EXPECT_EQ(opened(), Texts{"other"});
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(raised(), "");
+}
+
+TEST_F(OpenLocalFile, RaisesWhereTheHostMakesNoProgressDialog) {
+    host::gate::refuse("UserInterface::createProgressDialog", 1);
+
+    pick({design("model.ipt"), design("part.f3d")});
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uploaded(), Texts());
+    EXPECT_EQ(opened(), Texts());
+}
+
+TEST_F(OpenLocalFile, RaisesWhereTheHostGivesNothingToWaitFor) {
+    host::gate::refuse("DataFolder::uploadFile", 1);
+
+    pick({design("model.ipt"), design("part.f3d")});
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(opened(), Texts());
+    EXPECT_EQ(messages(), Texts());
 }
 
 TEST_F(OpenLocalFile, WithoutTheUserInterfaceTheEarlierListRunsAgain) {

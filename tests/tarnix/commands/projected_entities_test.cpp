@@ -96,6 +96,17 @@ TEST_F(ProjectedEntities, RaisesWhereTheHostGivesNoCurves) {
     EXPECT_EQ(curves(), Curves{kProjected});
 }
 
+TEST_F(ProjectedEntities, RaisesAtACurveThatTheHostDoesNotGive) {
+    openSketch({kProjected, kProjected, kProjected});
+    edit();
+    host::gate::refuse("SketchCurves::item", 2);
+
+    session->press(kCommand);
+
+    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kProjected, kProjected}));
+}
+
 TEST_F(ProjectedEntities, WithoutACommandNothingIsAttached) {
     openSketch({kProjected});
     edit();
