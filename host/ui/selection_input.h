@@ -64,4 +64,9 @@ private:
     bool usesCurrent_ = true;
 };
 
+/// An input of the kind for selections as what it is.
+inline SelectionInput& selectionOf(InputState* input) {
+    return static_cast<SelectionInput&>(*input);
+}
+
 }  // namespace host::ui
