@@ -1,6 +1,7 @@
 #include "tests/tarnix/addin/addin_ui_test.h"
 
 #include <gtest/gtest.h>
+#include <windows.h>
 
 namespace test_support {
 namespace {
@@ -15,6 +16,38 @@ protected:
         return abroad;
     }
 };
+
+/// The add-in in a folder whose name holds a blank and a letter of the western code page.
+class FolderOfTheCodePage : public AddinUiTest {
+protected:
+    void SetUp() override {
+        if (::GetACP() != 1252) {
+            GTEST_SKIP() << "written for the code page 1252";
+        }
+        AddinUiTest::SetUp();
+    }
+
+    [[nodiscard]] host::SessionOptions options() const override {
+        host::SessionOptions there = addinOptions();
+        there.freshIn /= L"J\u00F6rgs Ablage";
+        return there;
+    }
+};
+
+TEST_F(FolderOfTheCodePage, KeepsSettingsAndExportBesideTheModule) {
+    open("Plate  number=P-1");
+    showModel();
+
+    exportBom();
+
+    EXPECT_TRUE(std::filesystem::exists(settingsFile()));
+    EXPECT_EQ(csv(),
+              "Pos.;Part Number;BOM Structure;\r\n"
+              "1;P-1;Produce;\r\n"
+              "\r\n"
+              ";Total mass of structure BOM [kg]: ;\r\n");
+    EXPECT_EQ(raised(), "");
+}
 
 TEST_F(FolderBeyondTheCodePage, StillLetsTheAddinRun) {
     EXPECT_TRUE(definition("QM_TX_BOM"));
