@@ -80,14 +80,14 @@ void checkRun(Session& session, const std::string& call) {
     EXPECT_EQ(traces(), left);
 }
 
-constexpr std::size_t kPalettes = 2;
+/// What stands in the host with both palettes open: seven commands, the helpdesk's eight, two
+/// panels in each of two workspaces, and the palettes.
+constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + 2;
 
 /// The most that `stop` leaves in the host when one of its calls is refused: what that call itself
-/// would have removed, or led to.
+/// would have removed, or led to. Without the host's list of palettes it yields false and has done
+/// nothing.
 std::size_t keptBy(const std::string& call) {
-    // Seven commands, the helpdesk's eight, two panels in each of two workspaces, and the palettes
-    // that are open: without the host's list of these `stop` yields false and has done nothing.
-    constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + kPalettes;
     static const std::map<std::string, std::size_t> kKept = {
         {"UserInterface::palettes", kEverything},
         {"Palettes::itemById", 1},
@@ -212,7 +212,7 @@ TEST(RefusedHostCalls, InStopWithOpenPalettes) {
         start(session);
         session.press("QM_TX_onLineLibrary");
         session.press("QM_TX_unitsConversion");
-        ASSERT_EQ(traces().size(), 7 + 8 + 2 * 2 + kPalettes);
+        ASSERT_EQ(traces().size(), kEverything);
     };
     sweep.flow = [](Session& session) { session.stop(); };
     sweep.check = checkOnlyStop;
