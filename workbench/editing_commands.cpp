@@ -8,17 +8,10 @@
 
 namespace workbench {
 
-EditingCommands::EditingCommands(CLI::App& program) {
+EditingCommands::EditingCommands(CLI::App& program, std::function<void()>& given) : given_(given) {
     addProperties(program);
     addUserProperties(program);
     addConfigure(program);
-}
-
-bool EditingCommands::run() const {
-    if (given_) {
-        given_();
-    }
-    return static_cast<bool>(given_);
 }
 
 void EditingCommands::addProperties(CLI::App& program) {

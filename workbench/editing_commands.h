@@ -15,11 +15,9 @@ namespace workbench {
 /// The commands that edit through the add-in's smaller dialogs, on the command line.
 class EditingCommands {
 public:
-    /// Adds them to the program, which is to be parsed while this lives.
-    explicit EditingCommands(CLI::App& program);
-
-    /// Runs the one that was given; false when it was none of them.
-    bool run() const;
+    /// Adds them to the program, which is to be parsed while this lives. Parsing puts what is to be
+    /// done for the one that was given into `given`.
+    EditingCommands(CLI::App& program, std::function<void()>& given);
 
 private:
     void addProperties(CLI::App& program);
@@ -29,7 +27,7 @@ private:
     PropertiesOptions properties_;
     UserPropertiesOptions userProperties_;
     ConfigureOptions configure_;
-    std::function<void()> given_;
+    std::function<void()>& given_;
 };
 
 }  // namespace workbench

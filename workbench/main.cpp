@@ -11,6 +11,7 @@
 #include <CLI/CLI.hpp>
 
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -115,11 +116,14 @@ int runProgram(const std::vector<std::string>& arguments) {
     BomOptions bom;
     InfoOptions info;
     HelpdeskOptions helpdesk;
-    const CLI::App* bomCommand = addBom(program, bom);
-    addInfo(program, info);
-    const CLI::App* helpdeskCommand = addHelpdesk(program, helpdesk);
-    const EditingCommands editing(program);
-    const ModellingCommands modelling(program);
+    std::function<void()> given;
+    addBom(program, bom)->final_callback([&] { given = [&bom] { runBom(bom); }; });
+    addInfo(program, info)->final_callback([&] { given = [&info] { runInfo(info); }; });
+    addHelpdesk(program, helpdesk)->final_callback([&] {
+        given = [&helpdesk] { runHelpdesk(helpdesk); };
+    });
+    const EditingCommands editing(program, given);
+    const ModellingCommands modelling(program, given);
     program.set_version_flag("--version", "tarnix-workbench " TARNIX_VERSION);
     program.require_subcommand(1);
     program.footer(kFooter);
@@ -127,13 +131,7 @@ int runProgram(const std::vector<std::string>& arguments) {
     if (parsed >= 0) {
         return parsed;
     }
-    if (bomCommand->parsed()) {
-        runBom(bom);
-    } else if (helpdeskCommand->parsed()) {
-        runHelpdesk(helpdesk);
-    } else if (!editing.run() && !modelling.run()) {
-        runInfo(info);
-    }
+    given();
     return static_cast<int>(ExitCode::Success);
 }
 

@@ -6,17 +6,11 @@
 
 namespace workbench {
 
-ModellingCommands::ModellingCommands(CLI::App& program) {
+ModellingCommands::ModellingCommands(CLI::App& program, std::function<void()>& given)
+    : given_(given) {
     addMoveToOrigin(program);
     addProjectToConstruction(program);
     addOpenLocal(program);
-}
-
-bool ModellingCommands::run() const {
-    if (given_) {
-        given_();
-    }
-    return static_cast<bool>(given_);
 }
 
 CLI::App& ModellingCommands::addDesignCommand(CLI::App& program, const std::string& name,

@@ -15,13 +15,11 @@ namespace workbench {
 /// The add-in's commands for modelling and for files, on the command line.
 class ModellingCommands {
 public:
-    /// Adds them to the program, which is to be parsed while this lives.
-    explicit ModellingCommands(CLI::App& program);
+    /// Adds them to the program, which is to be parsed while this lives. Parsing puts what is to be
+    /// done for the one that was given into `given`.
+    ModellingCommands(CLI::App& program, std::function<void()>& given);
     ModellingCommands(const ModellingCommands&) = delete;
     ModellingCommands& operator=(const ModellingCommands&) = delete;
-
-    /// Runs the one that was given; false when it was none of them.
-    bool run() const;
 
 private:
     CLI::App& addDesignCommand(CLI::App& program, const std::string& name,
@@ -33,7 +31,7 @@ private:
     DesignCommandOptions design_;
     bool save_ = true;  ///< these always do
     OpenLocalOptions openLocal_;
-    std::function<void()> given_;
+    std::function<void()>& given_;
 };
 
 }  // namespace workbench
