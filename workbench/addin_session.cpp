@@ -3,8 +3,8 @@
 #include "workbench/exit_code.h"
 #include "workbench/raised.h"
 
+#include "host/base/utf8_path.h"
 #include "host/session/environment.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 

@@ -8,8 +8,8 @@
 #include "workbench/save_target.h"
 #include "workbench/written_files.h"
 
-#include "host/session/design_files.h"
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
+#include "host/design/design_file.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -4,8 +4,8 @@
 #include "workbench/raised.h"
 #include "workbench/shown_columns.h"
 
-#include "host/session/hands.h"
 #include "host/session/table_view.h"
+#include "host/session/user_actions.h"
 
 #include <algorithm>
 #include <string>

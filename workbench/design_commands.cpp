@@ -6,7 +6,7 @@
 #include "workbench/exit_code.h"
 #include "workbench/save_target.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 #include <algorithm>
 #include <cstddef>

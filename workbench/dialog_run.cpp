@@ -4,7 +4,7 @@
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
 
-#include "host/session/design_files.h"
+#include "host/design/design_file.h"
 
 #include <cstddef>
 #include <iostream>

@@ -6,8 +6,8 @@
 #include "workbench/helpdesk_actions.h"
 #include "workbench/raised.h"
 
+#include "host/base/utf8_path.h"
 #include "host/session/session.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -9,8 +9,11 @@
 #include "workbench/progress_line.h"
 #include "workbench/reading.h"
 
-#include "host/session/utf8_path.h"
-#include "host/session/waits.h"
+#include "host/base/clock.h"
+#include "host/base/utf8_path.h"
+#include "host/cloud/storage_pace.h"
+#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/progress_dialog.h"
 
 #include <algorithm>
 #include <csignal>

@@ -3,7 +3,7 @@
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 #include <algorithm>
 #include <iostream>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/session/design_files.h"
+#include "host/design/design_file.h"
 
 #include <filesystem>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "workbench/exit_code.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 #include <fstream>
 #include <system_error>

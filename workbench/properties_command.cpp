@@ -6,7 +6,7 @@
 #include "workbench/save_target.h"
 #include "workbench/shown_properties.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -4,7 +4,7 @@
 #include "workbench/exit_code.h"
 #include "workbench/progress_line.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 #include <exception>
 #include <iostream>

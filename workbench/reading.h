@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/session/opening.h"
+#include "host/import/read_design.h"
 
 #include <string>
 #include <vector>

@@ -2,8 +2,8 @@
 
 #include "workbench/exit_code.h"
 
-#include "host/session/design_files.h"
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
+#include "host/design/design_file.h"
 
 namespace workbench {
 namespace {

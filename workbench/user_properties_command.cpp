@@ -5,7 +5,7 @@
 #include "workbench/exit_code.h"
 #include "workbench/shown_properties.h"
 
-#include "host/session/hands.h"
+#include "host/session/user_actions.h"
 
 #include <algorithm>
 #include <iostream>

@@ -1,10 +1,10 @@
 #include "host/cloud/data_file.h"
 
+#include "host/base/utf8_path.h"
 #include "host/cloud/data_folder.h"
 #include "host/cloud/data_project.h"
 #include "host/design/denied.h"
 #include "host/design/document.h"
-#include "host/session/utf8_path.h"
 
 #include <utility>
 

@@ -1,10 +1,10 @@
 #include "host/cloud/data_folder.h"
 
+#include "host/base/utf8_path.h"
 #include "host/cloud/data_lists.h"
 #include "host/cloud/data_project.h"
 #include "host/cloud/upload.h"
 #include "host/design/denied.h"
-#include "host/session/utf8_path.h"
 
 #include <set>
 #include <system_error>

@@ -1,7 +1,7 @@
 #include "host/cloud/data_project.h"
 
+#include "host/base/utf8_path.h"
 #include "host/design/denied.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 

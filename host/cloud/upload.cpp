@@ -2,10 +2,10 @@
 
 #include "host/base/clock.h"
 #include "host/base/last_error.h"
+#include "host/base/utf8_path.h"
 #include "host/cloud/storage_pace.h"
 #include "host/design/denied.h"
 #include "host/import/found_file.h"
-#include "host/session/utf8_path.h"
 
 #include <exception>
 #include <functional>

@@ -1,8 +1,8 @@
 #include "host/cloud/user_data.h"
 
+#include "host/base/utf8_path.h"
 #include "host/cloud/data_project.h"
 #include "host/design/document.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,7 +1,7 @@
 #include "host/import/found_file.h"
 
+#include "host/base/utf8_path.h"
 #include "host/import/step_import.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 #include <system_error>

@@ -1,7 +1,7 @@
 #include "host/session/addin_copy.h"
 
+#include "host/base/utf8_path.h"
 #include "host/session/session_error.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,12 +1,12 @@
 #include "host/session/session.h"
 
+#include "host/application/main_queue.h"
+#include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
 #include "host/session/browser_tree.h"
 #include "host/session/dialog_inputs.h"
-#include "host/session/utf8_path.h"
-#include "host/ui/main_queue.h"
 
 #include <map>
 #include <stdexcept>

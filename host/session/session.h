@@ -1,20 +1,20 @@
 #pragma once
 
+#include "host/application/application.h"
 #include "host/base/dispatcher.h"
 #include "host/base/gate.h"
 #include "host/cloud/user_data.h"
 #include "host/design/unmeasured.h"
+#include "host/import/read_design.h"
 #include "host/session/addin_copy.h"
 #include "host/session/loaded_module.h"
-#include "host/session/opening.h"
+#include "host/session/process_sandbox.h"
 #include "host/session/session_error.h"
 #include "host/session/session_folder.h"
 #include "host/session/shell_requests.h"
-#include "host/session/surroundings.h"
-#include "host/session/system_answers.h"
+#include "host/session/system_overrides.h"
 #include "host/session/table_view.h"
-#include "host/ui/application.h"
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <Core/CoreAll.h>
 #include <Fusion/FusionAll.h>
@@ -37,7 +37,7 @@
 ///
 /// What the module raises never reaches the caller: it is recorded, and `raised` tells it. What the
 /// screen does not offer raises a `MisuseError`. Actions that are not among the members here are in
-/// `host/ui/hands.h`; they work on the host of the session.
+/// `host/session/user_actions.h`; they work on the host of the session.
 namespace host {
 
 struct SessionOptions {

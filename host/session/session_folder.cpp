@@ -1,8 +1,8 @@
 #include "host/session/session_folder.h"
 
+#include "host/base/utf8_path.h"
 #include "host/session/environment.h"
 #include "host/session/session_error.h"
-#include "host/session/utf8_path.h"
 
 #include <map>
 #include <random>

@@ -1,6 +1,6 @@
 #include "host/session/table_view.h"
 
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <cstddef>
 

@@ -1,10 +1,10 @@
 #include "host/ui/user_interface.h"
 
-#include "host/ui/application.h"
-#include "host/ui/entries.h"
-#include "host/ui/file_dialog.h"
-#include "host/ui/messages.h"
-#include "host/ui/progress_dialog.h"
+#include "host/application/application.h"
+#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/messages.h"
+#include "host/ui/dialogs/progress_dialog.h"
+#include "host/ui/toolbar/entries.h"
 
 #include <Core/Dialogs.h>
 

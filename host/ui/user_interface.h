@@ -1,11 +1,11 @@
 #pragma once
 
-#include "host/ui/command_runner.h"
+#include "host/ui/commands/command_runner.h"
+#include "host/ui/commands/selections.h"
+#include "host/ui/dialogs/palettes.h"
 #include "host/ui/host_setup.h"
-#include "host/ui/marking_menu.h"
-#include "host/ui/palettes.h"
-#include "host/ui/selections.h"
-#include "host/ui/workspaces.h"
+#include "host/ui/toolbar/marking_menu.h"
+#include "host/ui/toolbar/workspaces.h"
 
 #include <Core/UserInterface.h>
 

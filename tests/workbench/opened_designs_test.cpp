@@ -1,6 +1,6 @@
 #include "workbench/opened_designs.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>

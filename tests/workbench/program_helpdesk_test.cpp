@@ -1,6 +1,6 @@
 #include "tests/workbench/program_helpdesk_test.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 namespace fs = std::filesystem;
 using test_support::ProgramResult;

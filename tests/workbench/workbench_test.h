@@ -6,10 +6,10 @@
 #include "tests/support/settings.h"
 #include "tests/support/temporary_folder.h"
 
+#include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
 #include "host/session/environment.h"
-#include "host/session/utf8_path.h"
 
 #include <gtest/gtest.h>
 

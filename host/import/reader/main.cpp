@@ -1,7 +1,7 @@
-#include "host/import/reader/answers.h"
 #include "host/import/reader/assembly.h"
-#include "host/import/reader/bounds_of_process.h"
 #include "host/import/reader/iges.h"
+#include "host/import/reader/process_limits.h"
+#include "host/import/reader/protocol.h"
 #include "host/import/reader/shapes.h"
 
 #include <Message_ProgressIndicator.hxx>

@@ -1,7 +1,7 @@
 #include "host/import/reader/products.h"
 
+#include "host/import/reader/declared_bodies.h"
 #include "host/import/reader/text_encoding.h"
-#include "host/import/reader/told_bodies.h"
 
 #include <StepBasic_Product.hxx>
 #include <StepBasic_ProductDefinitionFormation.hxx>

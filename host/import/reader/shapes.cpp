@@ -1,6 +1,6 @@
 #include "host/import/reader/shapes.h"
 
-#include "host/import/reader/told_bodies.h"
+#include "host/import/reader/declared_bodies.h"
 
 #include <BRep_Builder.hxx>
 #include <Message_ProgressScope.hxx>

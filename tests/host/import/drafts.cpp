@@ -1,4 +1,4 @@
-#include "drafts.h"
+#include "tests/host/import/drafts.h"
 
 #include <unistd.h>
 

@@ -1,7 +1,7 @@
 #include "host/import/found_file.h"
 
-#include "drafts.h"
 #include "host/import/step_import.h"
+#include "tests/host/import/drafts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "drafts.h"
+#include "host/application/application.h"
 #include "host/design/document.h"
-#include "host/ui/application.h"
-#include "iges_drafts.h"
+#include "tests/host/import/drafts.h"
+#include "tests/host/import/iges_drafts.h"
 
 #include <Core/CoreAll.h>
 

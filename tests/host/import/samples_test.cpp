@@ -1,6 +1,6 @@
 #include "samples/samples.h"
 
-#include "drafts.h"
+#include "tests/host/import/drafts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "host/import/step_import.h"
 
-#include "drafts.h"
 #include "host/import/reader_program.h"
 #include "samples/product.h"
+#include "tests/host/import/drafts.h"
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>

@@ -1,4 +1,4 @@
-#include "drafts.h"
+#include "tests/host/import/drafts.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -2,9 +2,9 @@
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 
+#include "host/application/main_queue.h"
 #include "host/design/outline.h"
 #include "host/session/session.h"
-#include "host/ui/main_queue.h"
 
 #include <gtest/gtest.h>
 

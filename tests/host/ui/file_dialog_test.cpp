@@ -1,6 +1,6 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/file_dialog.h"
+#include "host/ui/dialogs/file_dialog.h"
 
 namespace host {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/application/application.h"
 #include "host/base/dispatcher.h"
-#include "host/ui/application.h"
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <Core/CoreAll.h>
 

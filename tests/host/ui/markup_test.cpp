@@ -1,6 +1,6 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/markup.h"
+#include "host/ui/inputs/markup.h"
 
 namespace host {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/main_queue.h"
+#include "host/application/main_queue.h"
 
 namespace host {
 namespace {

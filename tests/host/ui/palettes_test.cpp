@@ -1,6 +1,6 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/palettes.h"
+#include "host/ui/dialogs/palettes.h"
 
 namespace host {
 namespace {

@@ -1,8 +1,8 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/container_inputs.h"
-#include "host/ui/drop_down.h"
-#include "host/ui/field_inputs.h"
+#include "host/ui/inputs/container_inputs.h"
+#include "host/ui/inputs/drop_down.h"
+#include "host/ui/inputs/field_inputs.h"
 
 #include <random>
 

@@ -1,4 +1,4 @@
-#include "host/ui/sequence.h"
+#include "host/ui/inputs/sequence.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "tests/host/ui/host_test.h"
 
+#include "host/application/main_queue.h"
 #include "host/base/clock.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
-#include "host/ui/main_queue.h"
 
 namespace host {
 namespace {

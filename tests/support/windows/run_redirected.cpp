@@ -1,6 +1,6 @@
 #include "tests/support/run_program.h"
 
-#include "host/session/utf8_path.h"
+#include "host/base/utf8_path.h"
 
 #include <windows.h>
 

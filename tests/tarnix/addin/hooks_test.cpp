@@ -1,10 +1,10 @@
 #include "tests/tarnix/addin/addin_ui_test.h"
 #include "tests/tarnix/bom/behaviour/own_dialog.h"
 
+#include "host/application/application.h"
 #include "host/base/gate.h"
 #include "host/design/document.h"
-#include "host/ui/application.h"
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <gtest/gtest.h>
 

@@ -5,12 +5,12 @@
 #include "tests/support/refusal.h"
 
 #include "host/base/clock.h"
+#include "host/base/utf8_path.h"
 #include "host/cloud/storage_pace.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
-#include "host/session/utf8_path.h"
-#include "host/ui/file_dialog.h"
-#include "host/ui/progress_dialog.h"
+#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/progress_dialog.h"
 
 #include <gtest/gtest.h>
 

@@ -2,10 +2,10 @@
 
 #include "tests/support/files.h"
 
+#include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
-#include "host/session/utf8_path.h"
-#include "host/ui/file_dialog.h"
+#include "host/ui/dialogs/file_dialog.h"
 
 #include <clocale>
 #include <locale>

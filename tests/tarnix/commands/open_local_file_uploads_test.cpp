@@ -1,10 +1,10 @@
 #include "tests/tarnix/commands/open_local_file_test.h"
 
+#include "host/application/main_queue.h"
 #include "host/base/clock.h"
 #include "host/base/gate.h"
-#include "host/ui/file_dialog.h"
-#include "host/ui/main_queue.h"
-#include "host/ui/progress_dialog.h"
+#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/progress_dialog.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "tests/support/addin_test.h"
 
-#include "host/ui/application.h"
-#include "host/ui/palettes.h"
+#include "host/application/application.h"
+#include "host/ui/dialogs/palettes.h"
 
 #include <optional>
 #include <string>

@@ -4,7 +4,7 @@
 #include "tests/support/text.h"
 #include "tests/tarnix/helpdesk/helpdesk_test.h"
 
-#include "host/session/system_answers.h"
+#include "host/session/system_overrides.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "tests/support/files.h"
 
+#include "host/base/utf8_path.h"
 #include "host/session/environment.h"
-#include "host/session/utf8_path.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include "tests/tarnix/helpdesk/helpdesk_test.h"
 #include "tests/tarnix/helpdesk/pattern_window.h"
 
-#include "host/session/system_answers.h"
+#include "host/session/system_overrides.h"
 
 #include <gtest/gtest.h>
 

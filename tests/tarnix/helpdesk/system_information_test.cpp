@@ -3,7 +3,7 @@
 #include "tests/support/files.h"
 #include "tests/tarnix/helpdesk/helpdesk_test.h"
 
-#include "host/session/system_answers.h"
+#include "host/session/system_overrides.h"
 
 #include <gtest/gtest.h>
 

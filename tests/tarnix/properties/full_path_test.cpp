@@ -1,6 +1,6 @@
 #include "tests/tarnix/properties/properties_test.h"
 
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 namespace tarnix {
 namespace {

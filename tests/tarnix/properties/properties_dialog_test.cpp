@@ -1,7 +1,7 @@
 #include "tests/support/files.h"
 #include "tests/tarnix/properties/properties_test.h"
 
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 namespace tarnix {
 namespace {

@@ -5,7 +5,7 @@
 #include "tests/support/refusal.h"
 #include "tests/tarnix/properties/properties_test.h"
 
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <gtest/gtest.h>
 

@@ -2,11 +2,11 @@
 
 #include "tests/support/files.h"
 
+#include "host/application/application.h"
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/session/browser_tree.h"
-#include "host/ui/application.h"
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include "tests/support/real_files.h"
 #include "tests/tarnix/properties/properties_test.h"
 
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 
 #include "tests/tarnix/bom/behaviour/behaviour_test.h"
 
-#include "host/ui/hands.h"
+#include "host/session/user_actions.h"
 
 #include <gtest/gtest.h>
 

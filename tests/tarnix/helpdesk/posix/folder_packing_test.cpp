@@ -6,7 +6,7 @@
 #include "tests/tarnix/helpdesk/helpdesk_test.h"
 #include "tests/tarnix/helpdesk/posix/held_file.h"
 
-#include "host/session/system_answers.h"
+#include "host/session/system_overrides.h"
 
 #include <gtest/gtest.h>
 

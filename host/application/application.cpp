@@ -1,0 +1,171 @@
+#include "host/application/application.h"
+
+#include "host/application/main_queue.h"
+#include "host/base/clock.h"
+#include "host/base/last_error.h"
+#include "host/cloud/storage_pace.h"
+#include "host/design/document.h"
+#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/progress_dialog.h"
+
+#include <Core/Data.h>
+#include <Core/Import.h>
+#include <Fusion/Component.h>
+#include <Fusion/Design.h>
+
+#include <utility>
+
+namespace host {
+namespace {
+
+namespace core = adsk::core;
+using core::Ptr;
+
+// Never destroyed by itself: modules and the host end in either order.
+Ptr<Application>& running() {
+    static auto* instance = new Ptr<Application>;
+    return *instance;
+}
+
+constexpr const char* kDesignType = "DesignProductType";
+
+}  // namespace
+
+Application::Application(const HostSetup& setup)
+    : ui_(make<ui::UserInterface>(setup)),
+      preferences_(make<ui::Preferences>()),
+      documents_(make<DocumentsObject>()),
+      importManager_(make<ImportManagerObject>()) {}
+
+Ptr<Application> Application::current() { return running(); }
+
+Ptr<core::UserInterface> Application::userInterface() const {
+    if (closed<"Application::userInterface">(*this)) return {};
+    return ui_;
+}
+
+Ptr<core::Document> Application::activeDocument() const {
+    if (closed<"Application::activeDocument">(*this)) return {};
+    return document_;
+}
+
+Ptr<core::Product> Application::activeProduct() const {
+    if (closed<"Application::activeProduct">(*this)) return {};
+    const Ptr<ui::Workspace>& workspace = ui_->spaces().active();
+    return workspace && workspace->product() != kDesignType ? otherProduct_ : product_;
+}
+
+Ptr<core::Base> Application::activeEditObject() const {
+    if (closed<"Application::activeEditObject">(*this)) return {};
+    return editObject_ ? editObject_ : root_;
+}
+
+Ptr<core::Data> Application::data() const {
+    if (closed<"Application::data">(*this)) return {};
+    if (!data_) {
+        fail(core::OperationFailed, "Application::data: no folder stands in for the user's data");
+    }
+    return data_;
+}
+
+Ptr<core::Documents> Application::documents() const {
+    if (closed<"Application::documents">(*this)) return {};
+    return documents_;
+}
+
+Ptr<core::ImportManager> Application::importManager() const {
+    if (closed<"Application::importManager">(*this)) return {};
+    return importManager_;
+}
+
+Ptr<core::Preferences> Application::preferences() const {
+    if (closed<"Application::preferences">(*this)) return {};
+    return preferences_;
+}
+
+int Application::getLastError(std::string* description) const {
+    if (closed<"Application::getLastError">(*this)) return {};
+    if (description != nullptr) {
+        *description = lastError().description;
+    }
+    return lastError().code;
+}
+
+void Application::setActiveDocument(const Ptr<core::Document>& document,
+                                    const Ptr<core::Product>& product) {
+    if (ui_->runner().active() && !ui_->runner().isExecuting()) {
+        ui_->runner().end(core::SessionEndingTerminationReason);
+    }
+    documents_->add(document);
+    ui_->selections().list.clear();
+    const gate::Outside outside;
+    const Ptr<adsk::fusion::Design> design = designOf(document);
+    document_ = document;
+    product_ = product ? product : Ptr<core::Product>(design);
+    otherProduct_ = otherProductOf(document);
+    root_ = design ? design->rootComponent() : nullptr;
+    editObject_ = nullptr;
+}
+
+Ptr<core::Document> Application::openInHost(DesignData data) {
+    Ptr<core::Document> document = makeDocument(std::move(data), Ptr<Application>(this));
+    documents_->own(document);
+    setActiveDocument(document);
+    return document;
+}
+
+void Application::setData(const Ptr<core::Data>& data) { data_ = data; }
+
+void Application::setActiveEditObject(const Ptr<core::Base>& object) { editObject_ = object; }
+
+bool Application::isRootComponent(const Ptr<core::Base>& entity) const {
+    return entity && entity == root_;
+}
+
+std::uint64_t Application::editsOfModel() const { return document_ ? editCount(document_) : 0; }
+
+void Application::dispose() {
+    ui_->dispose();
+    preferences_->dispose();
+    documents_->dispose();
+    importManager_->invalidate();
+    data_ = nullptr;
+    document_ = nullptr;
+    product_ = nullptr;
+    otherProduct_ = nullptr;
+    root_ = nullptr;
+    editObject_ = nullptr;
+    invalidate();
+}
+
+Ptr<Application> startHost(const HostSetup& setup) {
+    endHost();
+    lastError() = {};
+    clearMisuses();
+    ui::resetMessages();
+    ui::resetFileDialogs();
+    storagePace() = {};
+    ui::startWaits(setup.longestWait);
+    clock::start(setup.clock);
+    running() = make<Application>(setup);
+    return running();
+}
+
+void endHost() {
+    if (!running()) return;
+    running()->dispose();
+    running() = nullptr;
+    ui::forgetPosted();
+    clock::start(clock::Pace::Standing);
+}
+
+}  // namespace host
+
+namespace adsk::core {
+
+Ptr<Application> Application::get() {
+    if (host::refused<"Application::get">()) return {};
+    return host::Application::current();
+}
+
+}  // namespace adsk::core

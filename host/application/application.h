@@ -1,0 +1,105 @@
+#pragma once
+
+#include "host/application/documents.h"
+#include "host/application/import_manager.h"
+#include "host/base/misuse.h"
+#include "host/design/design_data.h"
+#include "host/ui/dialogs/messages.h"
+#include "host/ui/host_setup.h"
+#include "host/ui/preferences.h"
+#include "host/ui/user_interface.h"
+
+#include <Core/Application.h>
+#include <Core/Data.h>
+#include <Core/Document.h>
+#include <Core/Product.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// The host itself. One runs at a time, from `startHost` to `endHost`.
+///
+/// Whoever starts it gives it its document and drives it through `hands.h`.
+class Application final : public Object<adsk::core::Application> {
+public:
+    explicit Application(const HostSetup& setup);
+
+    /// The one that runs, null for none.
+    static adsk::core::Ptr<Application> current();
+
+    [[nodiscard]] adsk::core::Ptr<adsk::core::UserInterface> userInterface() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Document> activeDocument() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Product> activeProduct() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Base> activeEditObject() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Data> data() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Documents> documents() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::ImportManager> importManager() const override;
+    [[nodiscard]] adsk::core::Ptr<adsk::core::Preferences> preferences() const override;
+    int getLastError(std::string* description) const override;
+
+    /// @name For whoever started it
+    /// @{
+
+    /// Makes a document the active one. A running command ends, since its document goes, unless it
+    /// is inside its execution; what was selected is no longer. In workspaces for designs `product`
+    /// is what is shown of it: its design where that is null.
+    void setActiveDocument(const adsk::core::Ptr<adsk::core::Document>& document,
+                           const adsk::core::Ptr<adsk::core::Product>& product = nullptr);
+
+    /// Opens a design as a document of the host's own, which it ends itself, and makes it the
+    /// active one. A command that is inside its execution goes on.
+    adsk::core::Ptr<adsk::core::Document> openInHost(DesignData data);
+
+    /// The documents that were opened so and are still open, oldest first.
+    [[nodiscard]] const std::vector<adsk::core::Ptr<adsk::core::Document>>& openedInHost() const {
+        return documents_->owned();
+    }
+
+    /// What a person should know of files that modules opened, one line each, oldest first.
+    std::vector<std::string> importWarnings;
+
+    /// Gives the host the user's projects; null takes them away.
+    void setData(const adsk::core::Ptr<adsk::core::Data>& data);
+
+    /// What a person edits, such as an open sketch; the root component where it is null.
+    void setActiveEditObject(const adsk::core::Ptr<adsk::core::Base>& object);
+
+    [[nodiscard]] const adsk::core::Ptr<adsk::core::Document>& document() const {
+        return document_;
+    }
+
+    /// Whether this is the root component of the active document's design.
+    [[nodiscard]] bool isRootComponent(const adsk::core::Ptr<adsk::core::Base>& entity) const;
+
+    /// How often the active document's model was changed.
+    [[nodiscard]] std::uint64_t editsOfModel() const;
+
+    [[nodiscard]] ui::UserInterface& ui() const { return *ui_; }
+    /// @}
+
+    void dispose();
+
+private:
+    adsk::core::Ptr<ui::UserInterface> ui_;
+    adsk::core::Ptr<ui::Preferences> preferences_;
+    adsk::core::Ptr<DocumentsObject> documents_;
+    adsk::core::Ptr<ImportManagerObject> importManager_;
+    adsk::core::Ptr<adsk::core::Data> data_;
+    adsk::core::Ptr<adsk::core::Document> document_;
+    adsk::core::Ptr<adsk::core::Product> product_;
+    adsk::core::Ptr<adsk::core::Product> otherProduct_;
+    adsk::core::Ptr<adsk::core::Base> root_;
+    adsk::core::Ptr<adsk::core::Base> editObject_;
+};
+
+/// Starts a host; one that runs is ended first. Messages and misuses begin anew.
+adsk::core::Ptr<Application> startHost(const HostSetup& setup = {});
+
+/// Ends the host that runs: a running command ends with it, and whatever a module still holds is no
+/// longer valid. Its document is left to whoever made it. Nothing happens when none runs.
+void endHost();
+
+}  // namespace host

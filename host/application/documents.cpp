@@ -1,0 +1,108 @@
+#include "host/application/documents.h"
+
+#include "host/application/application.h"
+#include "host/base/clock.h"
+#include "host/base/last_error.h"
+#include "host/base/utf8_path.h"
+#include "host/cloud/data_file.h"
+#include "host/cloud/data_folder.h"
+#include "host/cloud/storage_pace.h"
+#include "host/design/document.h"
+#include "host/import/read_design.h"
+
+#include <algorithm>
+#include <exception>
+#include <stdexcept>
+#include <string>
+
+namespace host {
+
+using adsk::core::DataFile;
+using adsk::core::Document;
+using adsk::core::OperationFailed;
+using adsk::core::Ptr;
+
+namespace {
+
+/// Counts one try down; false when there is none.
+bool takeOne(int& tries) {
+    if (tries <= 0) return false;
+    --tries;
+    return true;
+}
+
+DesignData readConverted(const DataFileObject& file) {
+    return readDesign(file.path(), ImportLimits(), ImportProgress(),
+                      Application::current()->importWarnings);
+}
+
+/// The design of a file, or a raised exception that tells why it cannot be opened yet, or ever.
+DesignData convertedDesign(const DataFileObject& file) {
+    if (takeOne(storagePace().conversionsYieldingNothing) || clock::now() < file.convertedAt()) {
+        throw std::runtime_error(file.title() + ": is still being converted");
+    }
+    return readConverted(file);
+}
+
+}  // namespace
+
+std::size_t DocumentsObject::count() const {
+    if (closed<"Documents::count">(*this)) return {};
+    return open().size();
+}
+
+Ptr<Document> DocumentsObject::item(std::size_t index) const {
+    if (closed<"Documents::item">(*this)) return {};
+    const std::vector<Ptr<Document>> all = open();
+    return index < all.size() ? all[index] : nullptr;
+}
+
+Ptr<Document> DocumentsObject::open(const Ptr<DataFile>& dataFile, bool /*visible*/) {
+    if (closed<"Documents::open">(*this)) return {};
+    if (takeOne(storagePace().conversionsRaising)) {
+        throw std::runtime_error("the conversion failed");
+    }
+    const Ptr<DataFileObject> file = dataFile;
+    if (!file || !file->isValid()) {
+        fail(adsk::core::BadApiCallError, "Documents::open: there is no such file");
+        return {};
+    }
+    try {
+        Ptr<Document> document = Application::current()->openInHost(convertedDesign(*file));
+        setDataFile(document, dataFile);
+        return document;
+    } catch (const std::exception& error) {
+        fail(OperationFailed, std::string("Documents::open: ") + error.what());
+        return {};
+    }
+}
+
+void DocumentsObject::add(const Ptr<Document>& document) {
+    if (document && std::find(all_.begin(), all_.end(), document) == all_.end()) {
+        all_ = open();
+        all_.push_back(document);
+    }
+}
+
+void DocumentsObject::own(const Ptr<Document>& document) {
+    owned_.push_back(document);
+    add(document);
+}
+
+void DocumentsObject::dispose() {
+    for (const Ptr<Document>& each : owned_) {
+        endDocument(each);
+    }
+    owned_.clear();
+    all_.clear();
+    invalidate();
+}
+
+std::vector<Ptr<Document>> DocumentsObject::open() const {
+    std::vector<Ptr<Document>> result;
+    std::copy_if(all_.begin(), all_.end(), std::back_inserter(result),
+                 [](const Ptr<Document>& each) { return each->isValid(); });
+    return result;
+}
+
+}  // namespace host

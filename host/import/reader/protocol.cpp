@@ -1,0 +1,148 @@
+#include "host/import/reader/protocol.h"
+
+#include "host/import/reader/measure.h"
+
+#include <Standard_Failure.hxx>
+
+#include <cmath>
+#include <exception>
+#include <iostream>
+#include <sstream>
+#include <unordered_map>
+
+namespace step {
+namespace {
+
+using nlohmann::json;
+
+constexpr double kMillimetresPerCentimetre = 10;
+
+/// The first three rows of the matrix, translation in cm.
+json cellsOf(const gp_Trsf& placement) {
+    json cells = json::array();
+    for (int row = 1; row <= 3; ++row) {
+        for (int column = 1; column <= 4; ++column) {
+            const double scale = column == 4 ? kMillimetresPerCentimetre : 1;
+            cells.push_back(placement.Value(row, column) / scale + 0.0);  // no negative zero
+        }
+    }
+    return cells;
+}
+
+gp_Trsf placementOf(std::istream& cells) {
+    std::array<double, 12> values = {};
+    for (double& value : values) {
+        cells >> value;
+    }
+    for (const std::size_t column : {3U, 7U, 11U}) {
+        values[column] *= kMillimetresPerCentimetre;
+    }
+    gp_Trsf placement;
+    placement.SetValues(values[0], values[1], values[2], values[3], values[4], values[5], values[6],
+                        values[7], values[8], values[9], values[10], values[11]);
+    return placement;
+}
+
+/// The components that the roots lead to, as they are first met from top to bottom.
+struct TreeOrder {
+    explicit TreeOrder(const Assembly& assembly) {
+        for (const std::size_t root : assembly.roots) {
+            note(assembly, root);
+        }
+    }
+
+    std::vector<std::size_t> components;
+    std::unordered_map<std::size_t, std::size_t> index;
+
+private:
+    // As deep as the tree, which has been checked.
+    void note(const Assembly& assembly, std::size_t component) {
+        if (!index.try_emplace(component, components.size()).second) {
+            return;
+        }
+        components.push_back(component);
+        for (const Use& use : assembly.components[component].uses) {
+            note(assembly, use.component);
+        }
+    }
+};
+
+json jsonOf(const Component& component, const std::unordered_map<std::size_t, std::size_t>& index) {
+    json uses = json::array();
+    for (const Use& use : component.uses) {
+        uses.push_back(
+            {{"component", index.at(use.component)}, {"placement", cellsOf(use.placement)}});
+    }
+    json result = {{"id", component.id},
+                   {"name", component.name},
+                   {"description", component.description},
+                   {"uses", uses},
+                   {"shape", component.shape}};
+    if (component.material) {
+        result["material"] = component.material->name;
+        if (component.material->density) {
+            result["density"] = *component.material->density;
+        }
+    }
+    return result;
+}
+
+json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes) {
+    std::istringstream words(request);
+    std::string verb;
+    int shape = -1;
+    words >> verb >> shape;
+    if (shape < 0 || shape >= shapes.Extent()) {
+        return {{"error", "there is no such shape"}};
+    }
+    if (verb == "measure") {
+        const Size size = sizeOf(shapes(shape + 1));
+        if (!std::isfinite(size.area) || !std::isfinite(size.volume)) {
+            return {{"error", "its surfaces enclose nothing that could be measured"}};
+        }
+        return {{"area", size.area}, {"volume", size.volume}};
+    }
+    const std::optional<Bounds> bounds = boundsOf(shapes(shape + 1), placementOf(words));
+    return bounds ? json{{"min", bounds->min}, {"max", bounds->max}} : json::object();
+}
+
+}  // namespace
+
+void say(const json& line) {
+    // A file's name may be no UTF-8; a text that cannot be shown must not end the answer.
+    std::cout << line.dump(-1, ' ', false, json::error_handler_t::replace) << '\n' << std::flush;
+}
+
+json designOf(const Assembly& assembly) {
+    const TreeOrder order(assembly);
+    json roots = json::array();
+    for (const std::size_t root : assembly.roots) {
+        roots.push_back(order.index.at(root));
+    }
+    json components = json::array();
+    for (const std::size_t component : order.components) {
+        components.push_back(jsonOf(assembly.components[component], order.index));
+    }
+    json files = json::array();
+    for (const auto& file : assembly.files) {
+        files.push_back(file->path.string());
+    }
+    return {{"unit", assembly.files.front()->unit()},
+            {"files", files},
+            {"roots", roots},
+            {"components", components}};
+}
+
+void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes) {
+    for (std::string request; std::getline(requests, request);) {
+        try {
+            say(answer(request, shapes));
+        } catch (const Standard_Failure& failure) {
+            say({{"error", failure.GetMessageString()}});
+        } catch (const std::exception& failure) {
+            say({{"error", failure.what()}});
+        }
+    }
+}
+
+}  // namespace step

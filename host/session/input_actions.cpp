@@ -1,0 +1,324 @@
+#include "host/session/user_action.h"
+#include "host/session/user_actions.h"
+#include "host/ui/inputs/container_inputs.h"
+#include "host/ui/inputs/field_inputs.h"
+#include "host/ui/inputs/item_list.h"
+#include "host/ui/inputs/reachability.h"
+#include "host/ui/inputs/selection_input.h"
+#include "host/ui/inputs/table_input.h"
+
+#include <algorithm>
+
+namespace host {
+namespace {
+
+namespace core = adsk::core;
+using core::Ptr;
+using ui::Acting;
+using ui::InputKind;
+using ui::InputState;
+
+/// Whoever acts on a cell selects its row.
+void selectRowOf(const InputState& input) {
+    if (input.inLine != nullptr && !input.inLine->table->isToolbar(*input.inLine)) {
+        input.inLine->table->select(*input.inLine);
+    }
+}
+
+/// Ends in the middle of a character nowhere: the length of the first `count` characters, or all.
+std::vector<std::string> prefixes(const std::string& text) {
+    std::vector<std::string> all;
+    for (std::size_t end = 1; end <= text.size(); ++end) {
+        const bool inside =
+            end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80;
+        if (!inside) {
+            all.push_back(text.substr(0, end));
+        }
+    }
+    if (all.empty()) {
+        all.emplace_back();
+    }
+    return all;
+}
+
+bool isReadOnly(const InputState& input) {
+    if (input.kind == InputKind::String) {
+        return static_cast<const ui::StringInput&>(input).readOnly();
+    }
+    return static_cast<const ui::TextBoxInput&>(input).readOnly();
+}
+
+/// A text that a person can write into.
+InputState& writable(const Ptr<core::CommandInput>& input) {
+    InputState& state = ui::usable(input, "type into");
+    if (state.kind != InputKind::String && state.kind != InputKind::TextBox) {
+        throw MisuseError("cannot type into " + ui::describe(state) + ": it holds no text");
+    }
+    if (isReadOnly(state)) {
+        throw MisuseError("cannot type into " + ui::describe(state) + ": it is read-only");
+    }
+    return state;
+}
+
+void enter(InputState& input, const std::string& text) {
+    if (input.kind == InputKind::String) {
+        static_cast<ui::StringInput&>(input).enter(text);
+    } else {
+        static_cast<ui::TextBoxInput&>(input).enter(text);
+    }
+}
+
+bool isList(InputKind kind) {
+    return kind == InputKind::DropDown || kind == InputKind::ButtonRow ||
+           kind == InputKind::RadioGroup;
+}
+
+ui::ListState& listAt(const Ptr<core::CommandInput>& input) {
+    InputState& state = ui::usable(input, "choose from");
+    if (!isList(state.kind)) {
+        throw MisuseError("cannot choose from " + ui::describe(state) + ": it has no items");
+    }
+    return static_cast<ui::ListState&>(state);
+}
+
+std::string itemNames(const ui::ListState& list) {
+    std::string names;
+    for (const ui::ListState::Entry& each : list.entries()) {
+        names += (names.empty() ? "\"" : ", \"") + *each.name + "\"";
+    }
+    return names.empty() ? "it has none" : "it has " + names;
+}
+
+void choose(Acting& acting, ui::ListState& list, std::size_t index) {
+    selectRowOf(list);
+    const bool unselects = list.several() && list.entries()[index].selected;
+    if (list.select(index, !unselects)) {
+        acting.runner().changed(list);
+    }
+    acting.finish();
+}
+
+void showTab(Acting& acting, InputState& tab) {
+    ui::Command& dialog = ui::shownDialog();
+    if (dialog.activeTab() != &tab) {
+        dialog.activeTab(&tab);
+        acting.runner().tabChanged();
+    }
+    acting.finish();
+}
+
+/// What a click does beside selecting a row; true where handlers are to be told.
+bool clicked(InputState& input) {
+    switch (input.kind) {
+        case InputKind::Bool:
+            static_cast<ui::BoolInput&>(input).toggle();
+            return true;
+        case InputKind::Group:
+            static_cast<ui::GroupInput&>(input).toggle();
+            return false;
+        case InputKind::Selection:
+            ui::shownDialog().focus(&input);
+            return false;
+        default:
+            return false;
+    }
+}
+
+/// The selection that a pick goes to.
+ui::SelectionInput& pickTarget(const ui::Command& dialog) {
+    InputState* focus = dialog.focus();
+    if (focus == nullptr) {
+        throw MisuseError("cannot pick: no selection of the dialog has the focus");
+    }
+    const std::string why = ui::refusalToReach(*focus);
+    if (!why.empty()) {
+        throw MisuseError("cannot pick for " + ui::describe(*focus) + ": " + why);
+    }
+    return static_cast<ui::SelectionInput&>(*focus);
+}
+
+/// The next selection that has room gets the focus once one is full.
+void passFocus(ui::Command& dialog, const ui::SelectionInput& full) {
+    if (!full.isFull()) return;
+    for (InputState* each : dialog.inputs().ofKind(InputKind::Selection)) {
+        if (!static_cast<ui::SelectionInput*>(each)->isFull() &&
+            ui::refusalToReach(*each).empty()) {
+            dialog.focus(each);
+            return;
+        }
+    }
+}
+
+void pickInDialog(Acting& acting, const Ptr<core::Base>& entity) {
+    ui::Command& dialog = ui::shownDialog();
+    ui::SelectionInput& target = pickTarget(dialog);
+    if (target.picks().holds(entity)) {
+        target.drop(entity);
+    } else {
+        if (!target.accepts(entity)) {
+            throw MisuseError("cannot pick for " + ui::describe(target) +
+                              ": its filters refuse the entity");
+        }
+        if (target.isFull() && target.maximum() > 1) {
+            throw MisuseError("cannot pick for " + ui::describe(target) + ": it takes " +
+                              std::to_string(target.maximum()) + " at most");
+        }
+        if (target.isFull()) {
+            target.dropAll();
+        }
+        target.take(entity);
+    }
+    const Ptr<core::CommandInput> kept(target.api());
+    acting.runner().changed(target);
+    if (openDialog().get() == &dialog && kept->isValid()) {
+        passFocus(dialog, target);
+    }
+}
+
+}  // namespace
+
+void click(const Ptr<core::CommandInput>& input) {
+    Acting acting;
+    InputState* tab = InputState::of(input);
+    if (tab != nullptr && tab->kind == InputKind::Tab) {
+        activateTab(input);
+        return;
+    }
+    InputState& state = ui::usable(input, "click");
+    selectRowOf(state);
+    if (clicked(state)) {
+        acting.runner().changed(state);
+    }
+    acting.finish();
+}
+
+void typeText(const Ptr<core::CommandInput>& input, const std::string& text) {
+    for (const std::string& grown : prefixes(text)) {
+        Acting acting;
+        InputState& state = writable(input);
+        selectRowOf(state);
+        enter(state, grown);
+        acting.runner().changed(state);
+        acting.finish();
+    }
+}
+
+void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
+    Acting acting;
+    InputState& state = writable(input);
+    selectRowOf(state);
+    enter(state, text);
+    acting.runner().changed(state);
+    acting.finish();
+}
+
+void chooseItem(const Ptr<core::CommandInput>& input, const std::string& item) {
+    Acting acting;
+    ui::ListState& list = listAt(input);
+    const int index = list.indexOf(item);
+    if (index < 0) {
+        throw MisuseError("cannot choose \"" + item + "\" from " + ui::describe(list) + ": " +
+                          itemNames(list));
+    }
+    choose(acting, list, static_cast<std::size_t>(index));
+}
+
+void chooseItem(const Ptr<core::CommandInput>& input, std::size_t index) {
+    Acting acting;
+    ui::ListState& list = listAt(input);
+    if (index >= list.entries().size()) {
+        throw MisuseError("cannot choose item " + std::to_string(index) + " from " +
+                          ui::describe(list) + ": " + itemNames(list));
+    }
+    choose(acting, list, index);
+}
+
+void activateTab(const Ptr<core::TabCommandInput>& tab) {
+    Acting acting;
+    InputState* state = InputState::of(tab);
+    if (state == nullptr || state->command() != &ui::shownDialog()) {
+        throw MisuseError("cannot show a tab that the open dialog does not have");
+    }
+    if (!state->visible) {
+        throw MisuseError("cannot show " + ui::describe(*state) + ": it is not visible");
+    }
+    showTab(acting, *state);
+}
+
+void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
+    const Acting acting;
+    auto& state = static_cast<ui::TableInput&>(ui::usable(table, "select a row of"));
+    const std::vector<int> shown = shownRows(table);
+    if (std::find(shown.begin(), shown.end(), row) == shown.end()) {
+        throw MisuseError("cannot select row " + std::to_string(row) + " of " +
+                          ui::describe(state) + ": it does not show");
+    }
+    state.select(state.lines().at(static_cast<std::size_t>(row)));
+}
+
+void pick(const Ptr<core::Base>& entity) {
+    Acting acting;
+    if (!entity || !entity->isValid()) {
+        throw MisuseError("cannot pick: there is no such entity");
+    }
+    if (openDialog()) {
+        pickInDialog(acting, entity);
+    } else {
+        acting.ui().selections().list.clear();
+        acting.ui().selections().list.add(entity);
+    }
+    acting.finish();
+}
+
+void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
+    const Acting acting;
+    if (openDialog()) {
+        throw MisuseError("cannot select in the model: a dialog is open, pick for it");
+    }
+    acting.ui().selections().list.clear();
+    for (const Ptr<core::Base>& each : entities) {
+        if (each && each->isValid()) {
+            acting.ui().selections().list.add(each);
+        }
+    }
+}
+
+void reportChange(const Ptr<core::CommandInput>& input) {
+    Acting acting;
+    InputState* state = InputState::of(input);
+    if (state == nullptr || state->command() != &ui::shownDialog()) {
+        throw MisuseError("cannot report a change of an input that the open dialog does not have");
+    }
+    acting.runner().changed(*state);
+    acting.finish();
+}
+
+std::vector<int> shownRows(const Ptr<core::TableCommandInput>& table) {
+    const auto* state = static_cast<const ui::TableInput*>(InputState::of(table));
+    if (state == nullptr) return {};
+    const std::vector<int> columns = state->shownColumns();
+    std::vector<int> shown;
+    for (std::size_t row = 0; row < state->lines().count(); ++row) {
+        if (state->isShown(state->lines().at(row), columns)) {
+            shown.push_back(static_cast<int>(row));
+        }
+    }
+    return shown;
+}
+
+std::vector<int> shownColumns(const Ptr<core::TableCommandInput>& table) {
+    const auto* state = static_cast<const ui::TableInput*>(InputState::of(table));
+    return state == nullptr ? std::vector<int>() : state->shownColumns();
+}
+
+std::vector<Ptr<core::CommandInput>> toolbarOf(const Ptr<core::TableCommandInput>& table) {
+    const auto* state = static_cast<const ui::TableInput*>(InputState::of(table));
+    std::vector<Ptr<core::CommandInput>> inputs;
+    if (state == nullptr) return inputs;
+    for (InputState* each : state->toolbar()) {
+        inputs.emplace_back(each->api());
+    }
+    return inputs;
+}
+
+}  // namespace host

@@ -1,0 +1,33 @@
+#include "host/session/process_sandbox.h"
+
+namespace host {
+
+namespace fs = std::filesystem;
+
+Surroundings::Surroundings(const fs::path& folder, TemporaryFiles temporaryFiles)
+    : startedIn_(fs::current_path()), work_(folder / "work") {
+    const fs::path temporary = folder / "temp";
+    fs::remove_all(work_);
+    fs::create_directories(work_);
+    fs::create_directories(temporary);
+    fs::current_path(work_);
+    if (temporaryFiles == TemporaryFiles::Persons) {
+        return;
+    }
+    for (const environment::Text& name : environment::temporaryFolderNames()) {
+        variables_[name] = environment::variable(name);
+        environment::setVariable(name, temporary.native());
+    }
+}
+
+Surroundings::~Surroundings() {
+    for (const auto& [name, value] : variables_) {
+        environment::setVariable(name, value);
+    }
+    // The folder the process stood in may have gone meanwhile; then it stays where it is.
+    std::error_code ignored;
+    fs::current_path(startedIn_, ignored);
+    fs::remove_all(work_, ignored);
+}
+
+}  // namespace host

@@ -1,0 +1,162 @@
+#include "host/session/user_actions.h"
+
+#include "host/session/user_action.h"
+#include "host/ui/inputs/selection_input.h"
+
+#include <algorithm>
+
+namespace host {
+namespace {
+
+namespace core = adsk::core;
+using core::Ptr;
+using ui::Acting;
+
+std::vector<Ptr<ui::CommandControl>> controlsOf(const ui::CommandDefinition& definition,
+                                                const ui::Workspace& workspace) {
+    std::vector<Ptr<ui::CommandControl>> found;
+    for (const Ptr<ui::ToolbarPanel>& panel : workspace.panels()) {
+        for (const Ptr<ui::CommandControl>& each : panel->buttons().all()) {
+            if (each->definition().get() == &definition) {
+                found.push_back(each);
+            }
+        }
+    }
+    return found;
+}
+
+void press(Acting& acting, const Ptr<ui::CommandDefinition>& definition) {
+    const Ptr<ui::Workspace>& workspace = acting.ui().spaces().active();
+    if (workspace) {
+        const auto controls = controlsOf(*definition, *workspace);
+        const bool hidden = std::none_of(controls.begin(), controls.end(),
+                                         [](const auto& each) { return each->shown(); });
+        if (!controls.empty() && hidden) {
+            throw MisuseError("cannot press " + definition->identifier() +
+                              ": its button is not visible in " + workspace->identifier());
+        }
+    }
+    acting.runner().request(definition);
+    acting.finish();
+}
+
+std::string knownIds(const ui::CommandDefinitions& definitions) {
+    std::string ids;
+    for (const Ptr<ui::CommandDefinition>& each : definitions.all()) {
+        ids += (ids.empty() ? "" : ", ") + each->identifier();
+    }
+    return ids.empty() ? "there are none" : ids;
+}
+
+}  // namespace
+
+void pressCommand(const Ptr<core::CommandDefinition>& definition) {
+    Acting acting;
+    const Ptr<ui::CommandDefinition> known = definition;
+    if (!known || !known->isValid()) {
+        throw MisuseError("cannot press a command that does not exist: the definitions are " +
+                          knownIds(acting.ui().definitions()));
+    }
+    press(acting, known);
+}
+
+void pressCommand(const std::string& id) {
+    Acting acting;
+    const Ptr<ui::CommandDefinition> known = acting.ui().definitions().find(id);
+    if (!known) {
+        throw MisuseError("cannot press " + id + ", which does not exist: the definitions are " +
+                          knownIds(acting.ui().definitions()));
+    }
+    press(acting, known);
+}
+
+Ptr<core::Command> openDialog() {
+    const Ptr<ui::Command>& active = ui::hostAtHand().ui().runner().active();
+    return active && active->isShown() ? active : nullptr;
+}
+
+ui::DialogSize dialogSize() {
+    const ui::Command& dialog = ui::shownDialog();
+    const auto& remembered = ui::hostAtHand().ui().rememberedSizes;
+    const auto found = remembered.find(dialog.definition()->identifier());
+    ui::DialogSize size = found == remembered.end() ? dialog.initialSize() : found->second;
+    size.width = std::max(size.width, dialog.minimumSize().width);
+    size.height = std::max(size.height, dialog.minimumSize().height);
+    return size;
+}
+
+void resizeDialog(int width, int height) {
+    const Acting acting;
+    acting.ui().rememberedSizes[ui::shownDialog().definition()->identifier()] = {width, height};
+}
+
+void pressOk() {
+    Acting acting;
+    const std::string why = acting.runner().refusalOfOk();
+    if (!why.empty()) {
+        throw MisuseError("cannot press OK: " + why);
+    }
+    acting.runner().accept();
+    acting.finish();
+}
+
+void acceptAnyway() {
+    Acting acting;
+    static_cast<void>(ui::shownDialog());
+    acting.runner().accept();
+    acting.finish();
+}
+
+void pressCancel() {
+    Acting acting;
+    if (!acting.runner().active()) {
+        throw MisuseError("cannot press Cancel: no command runs");
+    }
+    acting.runner().end(core::CancelledTerminationReason);
+    acting.finish();
+}
+
+void settle() { ui::hostAtHand().ui().runner().settle(); }
+
+void closePalette(const std::string& id) {
+    const Acting acting;
+    const Ptr<ui::Palette> palette = acting.ui().allPalettes().find(id);
+    if (!palette || !palette->state.visible || !palette->state.closeButton) {
+        throw MisuseError("cannot close the palette " + id + ": " +
+                          (!palette                  ? "there is none of this id"
+                           : !palette->state.visible ? "it is not visible"
+                                                     : "it has no close button"));
+    }
+    palette->state.visible = false;
+}
+
+void activateWorkspace(const std::string& id) {
+    Acting acting;
+    const Ptr<ui::Workspace> workspace = acting.ui().spaces().find(id);
+    if (!workspace) {
+        throw MisuseError("cannot show the workspace " + id + ": there is none of this id");
+    }
+    acting.ui().spaces().activate(workspace);
+    acting.finish();
+}
+
+std::vector<std::string> showMarkingMenu() {
+    Acting acting;
+    const Ptr<ui::MarkingMenuEvent>& event = acting.ui().menuEvent;
+    const Ptr<ui::LinearMarkingMenu> linear = make<ui::LinearMarkingMenu>();
+    const Ptr<ui::RadialMarkingMenu> radial = make<ui::RadialMarkingMenu>();
+    event->fire(make<ui::MarkingMenuArguments>(event, linear, radial,
+                                               acting.ui().selections().list.entities()));
+    std::vector<std::string> shown;
+    for (const Ptr<ui::CommandControl>& each : linear->entries().all()) {
+        if (each->shown() && each->definition()->isValid()) {
+            shown.push_back(each->identifier());
+        }
+    }
+    linear->dispose();
+    radial->invalidate();
+    acting.finish();
+    return shown;
+}
+
+}  // namespace host

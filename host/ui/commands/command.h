@@ -1,0 +1,136 @@
+#pragma once
+
+#include "host/ui/commands/command_definitions.h"
+#include "host/ui/commands/command_events.h"
+#include "host/ui/inputs/command_inputs.h"
+#include "host/ui/inputs/text_pool.h"
+
+#include <cstdint>
+#include <string>
+
+namespace host::ui {
+
+class CommandRunner;
+class SelectionInput;
+class TabInput;
+
+/// A size in pixels; nothing where it is 0 by 0.
+struct DialogSize {
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const DialogSize&) const = default;
+};
+
+/// The row of tabs, which reports changes of tab.
+class TabBar final : public Input<core::CommandInput> {
+public:
+    explicit TabBar(const InputOrigin& origin) : Input(origin, InputKind::TabBar) {}
+};
+
+/// One run of a command definition: what the module sees of it, and what its dialog shows.
+///
+/// `CommandRunner` leads it through its life.
+class Command final : public Object<core::Command> {
+public:
+    Command(core::Ptr<CommandDefinition> definition, CommandRunner* runner);
+
+    [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override;
+    [[nodiscard]] core::Ptr<core::CommandDefinition> parentCommandDefinition() const override;
+    [[nodiscard]] core::Ptr<core::CommandEvent> execute() const override;
+    [[nodiscard]] core::Ptr<core::CommandEvent> executePreview() const override;
+    [[nodiscard]] core::Ptr<core::CommandEvent> activate() const override;
+    [[nodiscard]] core::Ptr<core::CommandEvent> deactivate() const override;
+    [[nodiscard]] core::Ptr<core::CommandEvent> destroy() const override;
+    [[nodiscard]] core::Ptr<core::InputChangedEvent> inputChanged() const override;
+    [[nodiscard]] core::Ptr<core::ValidateInputsEvent> validateInputs() const override;
+    [[nodiscard]] std::string okButtonText() const override;
+    bool okButtonText(const std::string& value) override;
+    [[nodiscard]] std::string cancelButtonText() const override;
+    bool cancelButtonText(const std::string& value) override;
+    [[nodiscard]] bool isOKButtonVisible() const override;
+    bool isOKButtonVisible(bool value) override;
+    [[nodiscard]] bool isAutoExecute() const override;
+    bool isAutoExecute(bool value) override;
+    [[nodiscard]] bool isExecutedWhenPreEmpted() const override;
+    bool isExecutedWhenPreEmpted(bool value) override;
+    [[nodiscard]] bool isRepeatable() const override;
+    bool isRepeatable(bool value) override;
+    bool setDialogInitialSize(int width, int height) override;
+    bool setDialogMinimumSize(int width, int height) override;
+    bool doExecute(bool terminate) override;
+
+    /// @name For the host itself
+    /// @{
+
+    [[nodiscard]] TextPool& texts() { return texts_; }
+    [[nodiscard]] std::uint32_t nextSerial() { return ++newestSerial_; }
+    [[nodiscard]] std::uint32_t newestSerial() const { return newestSerial_; }
+    [[nodiscard]] CommandInputs& inputs() const { return *inputs_; }
+    [[nodiscard]] const core::Ptr<CommandDefinition>& definition() const { return definition_; }
+
+    /// The tab that shows: the one that was activated, else the first; null without any.
+    [[nodiscard]] InputState* activeTab() const;
+    void activeTab(InputState* tab) { activeTab_ = tab; }
+
+    /// What a change of tab is told as; no collection holds it.
+    [[nodiscard]] InputState& tabBar();
+
+    /// The selection that picks go to: the one that was focused, else the first; null without any.
+    [[nodiscard]] InputState* focus() const;
+    void focus(InputState* selection);
+
+    /// An input goes: it is neither the tab that shows nor the selection with the focus any more.
+    void forget(const InputState& input);
+
+    /// Whether its dialog stands on the screen.
+    [[nodiscard]] bool isShown() const { return shown_; }
+    void show() { shown_ = true; }
+
+    /// Whether handlers gave the dialog a size or a text, which an empty dialog shows too.
+    [[nodiscard]] bool isDressed() const { return dressed_; }
+
+    [[nodiscard]] DialogSize initialSize() const { return initialSize_; }
+    [[nodiscard]] DialogSize minimumSize() const { return minimumSize_; }
+    [[nodiscard]] bool okShown() const { return okVisible_; }
+    [[nodiscard]] bool executesByItself() const { return autoExecute_; }
+    [[nodiscard]] bool executesWhenPreEmpted() const { return executedWhenPreEmpted_; }
+
+    /// Code changed the value of an input, or selected an item of its list.
+    void changedByCode(InputState& input, CodeChange what);
+
+    /// Ends it: handles find an invalid command, and its inputs are gone.
+    void dispose();
+
+    const core::Ptr<CommandEvent> executeEvent;
+    const core::Ptr<CommandEvent> previewEvent;
+    const core::Ptr<CommandEvent> activateEvent;
+    const core::Ptr<CommandEvent> deactivateEvent;
+    const core::Ptr<CommandEvent> destroyEvent;
+    const core::Ptr<ChangedEvent> changedEvent;
+    const core::Ptr<ValidateEvent> validateEvent;
+    /// @}
+
+private:
+    core::Ptr<CommandDefinition> definition_;
+    CommandRunner* runner_;
+    TextPool texts_;
+    std::uint32_t newestSerial_ = 0;
+    core::Ptr<CommandInputs> inputs_;
+    core::Ptr<TabBar> tabBar_;
+    InputState* activeTab_ = nullptr;
+    InputState* focus_ = nullptr;
+    bool focusGiven_ = false;
+    bool shown_ = false;
+    bool dressed_ = false;
+    DialogSize initialSize_;
+    DialogSize minimumSize_;
+    std::string okText_ = "OK";
+    std::string cancelText_ = "Cancel";
+    bool okVisible_ = true;
+    bool autoExecute_ = true;
+    bool executedWhenPreEmpted_ = true;
+    bool repeatable_ = true;
+};
+
+}  // namespace host::ui

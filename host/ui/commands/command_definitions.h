@@ -1,0 +1,77 @@
+#pragma once
+
+#include "host/ui/commands/command_events.h"
+
+#include <Core/CommandDefinitions.h>
+
+#include <cstddef>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace host::ui {
+
+class CommandDefinitions;
+class CommandRunner;
+
+class CommandDefinition final : public Object<core::CommandDefinition> {
+public:
+    CommandDefinition(CommandDefinitions* owner, std::string id, std::string name,
+                      std::string tooltip, std::string resourceFolder, bool native);
+
+    [[nodiscard]] std::string id() const override;
+    [[nodiscard]] std::string name() const override;
+    bool name(const std::string& value) override;
+    [[nodiscard]] std::string tooltip() const override;
+    bool tooltip(const std::string& value) override;
+    [[nodiscard]] std::string resourceFolder() const override;
+    bool resourceFolder(const std::string& value) override;
+    [[nodiscard]] core::Ptr<core::CommandCreatedEvent> commandCreated() const override;
+    bool execute(const core::Ptr<core::NamedValues>& input) override;
+    bool deleteMe() override;
+
+    [[nodiscard]] const std::string& identifier() const { return id_; }
+    [[nodiscard]] const std::string& caption() const { return name_; }
+    void dispose();
+
+    const core::Ptr<CreatedEvent> createdEvent;
+
+private:
+    CommandDefinitions* owner_;
+    std::string id_;
+    std::string name_;
+    std::string tooltip_;
+    std::string resourceFolder_;
+    bool native_;
+};
+
+class CommandDefinitions final : public Object<core::CommandDefinitions> {
+public:
+    explicit CommandDefinitions(CommandRunner* runner) : runner_(runner) {}
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] core::Ptr<core::CommandDefinition> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::CommandDefinition> itemById(const std::string& id) const override;
+    core::Ptr<core::CommandDefinition> addButtonDefinition(
+        const std::string& id, const std::string& name, const std::string& tooltip,
+        const std::string& resourceFolder) override;
+
+    /// @name For the host itself
+    /// @{
+    [[nodiscard]] CommandRunner& runner() const { return *runner_; }
+    [[nodiscard]] core::Ptr<CommandDefinition> find(const std::string& id) const;
+    [[nodiscard]] const std::vector<core::Ptr<CommandDefinition>>& all() const { return all_; }
+
+    /// Adds a definition of the host's own, which cannot be deleted.
+    core::Ptr<CommandDefinition> addNative(const std::string& id, const std::string& name);
+    void remove(CommandDefinition& definition);
+    void dispose();
+    /// @}
+
+private:
+    CommandRunner* runner_;
+    std::vector<core::Ptr<CommandDefinition>> all_;
+    std::unordered_map<std::string, core::Ptr<CommandDefinition>> byId_;
+};
+
+}  // namespace host::ui

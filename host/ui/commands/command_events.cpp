@@ -1,0 +1,109 @@
+#include "host/ui/commands/command_events.h"
+
+namespace host::ui {
+
+core::Ptr<core::Command> CreatedArguments::command() const {
+    if (refused<"CommandCreatedEventArgs::command">()) return {};
+    return command_;
+}
+
+core::Ptr<core::Command> CommandArguments::command() const {
+    if (refused<"CommandEventArgs::command">()) return {};
+    return command_;
+}
+
+bool CommandArguments::executeFailed() const {
+    if (refused<"CommandEventArgs::executeFailed">()) return {};
+    return failed_;
+}
+
+bool CommandArguments::executeFailed(bool value) {
+    if (refused<"CommandEventArgs::executeFailed">()) return {};
+    failed_ = value;
+    return true;
+}
+
+std::string CommandArguments::executeFailedMessage() const {
+    if (refused<"CommandEventArgs::executeFailedMessage">()) return {};
+    return message_;
+}
+
+bool CommandArguments::executeFailedMessage(const std::string& value) {
+    if (refused<"CommandEventArgs::executeFailedMessage">()) return {};
+    message_ = value;
+    return true;
+}
+
+bool CommandArguments::isValidResult() const {
+    if (refused<"CommandEventArgs::isValidResult">()) return {};
+    return validResult_;
+}
+
+bool CommandArguments::isValidResult(bool value) {
+    if (refused<"CommandEventArgs::isValidResult">()) return {};
+    validResult_ = value;
+    return true;
+}
+
+core::CommandTerminationReason CommandArguments::terminationReason() const {
+    if (refused<"CommandEventArgs::terminationReason">()) return {};
+    return reason_;
+}
+
+core::Ptr<core::CommandInput> ChangedArguments::input() const {
+    if (refused<"InputChangedEventArgs::input">()) return {};
+    return input_;
+}
+
+core::Ptr<core::CommandInputs> ChangedArguments::inputs() const {
+    if (refused<"InputChangedEventArgs::inputs">()) return {};
+    return inputs_;
+}
+
+bool ValidateArguments::areInputsValid() const {
+    if (refused<"ValidateInputsEventArgs::areInputsValid">()) return {};
+    return valid_;
+}
+
+bool ValidateArguments::areInputsValid(bool value) {
+    if (refused<"ValidateInputsEventArgs::areInputsValid">()) return {};
+    valid_ = value;
+    return true;
+}
+
+core::Ptr<core::CommandInputs> ValidateArguments::inputs() const {
+    if (refused<"ValidateInputsEventArgs::inputs">()) return {};
+    return inputs_;
+}
+
+std::string ApplicationArguments::commandId() const {
+    if (refused<"ApplicationCommandEventArgs::commandId">()) return {};
+    return commandId_;
+}
+
+core::Ptr<core::CommandDefinition> ApplicationArguments::commandDefinition() const {
+    if (refused<"ApplicationCommandEventArgs::commandDefinition">()) return {};
+    return definition_;
+}
+
+core::CommandTerminationReason ApplicationArguments::terminationReason() const {
+    if (refused<"ApplicationCommandEventArgs::terminationReason">()) return {};
+    return reason_;
+}
+
+bool ApplicationArguments::isCanceled() const {
+    if (refused<"ApplicationCommandEventArgs::isCanceled">()) return {};
+    return cancelled_;
+}
+
+bool ApplicationArguments::isCanceled(bool value) {
+    constexpr const char* kOperation = "ApplicationCommandEventArgs::isCanceled";
+    if (refused<"ApplicationCommandEventArgs::isCanceled">()) return {};
+    if (!cancellable_) {
+        return misuse(kOperation, "only a command that is about to start can be kept from it");
+    }
+    cancelled_ = value;
+    return true;
+}
+
+}  // namespace host::ui

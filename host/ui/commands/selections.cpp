@@ -1,0 +1,85 @@
+#include "host/ui/commands/selections.h"
+
+#include "host/base/last_error.h"
+
+#include <Core/CoreAll.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace host::ui {
+
+core::Ptr<core::Base> Selection::entity() const {
+    if (closed<"Selection::entity">(*this)) return {};
+    return entity_;
+}
+
+core::Ptr<core::Point3D> Selection::point() const {
+    if (closed<"Selection::point">(*this)) return {};
+    notBuilt("Selection::point");
+    return {};
+}
+
+bool SelectionList::holds(const core::Ptr<core::Base>& entity) const {
+    return held_.count(entity.get()) > 0;
+}
+
+core::Ptr<core::Selection> SelectionList::at(std::size_t index) const {
+    return index < selections_.size() ? selections_[index] : nullptr;
+}
+
+bool SelectionList::add(const core::Ptr<core::Base>& entity) {
+    if (!held_.insert(entity.get()).second) return false;
+    selections_.push_back(make<Selection>(entity));
+    return true;
+}
+
+void SelectionList::remove(const core::Ptr<core::Base>& entity) {
+    if (held_.erase(entity.get()) == 0) return;
+    const auto found = std::find_if(selections_.begin(), selections_.end(),
+                                    [&](const auto& each) { return each->selected() == entity; });
+    (*found)->invalidate();
+    selections_.erase(found);
+}
+
+void SelectionList::clear() {
+    for (const core::Ptr<Selection>& each : selections_) {
+        each->invalidate();
+    }
+    selections_.clear();
+    held_.clear();
+}
+
+std::vector<core::Ptr<core::Base>> SelectionList::entities() const {
+    std::vector<core::Ptr<core::Base>> entities;
+    std::transform(selections_.begin(), selections_.end(), std::back_inserter(entities),
+                   [](const core::Ptr<Selection>& each) { return each->selected(); });
+    return entities;
+}
+
+std::size_t Selections::count() const {
+    if (closed<"Selections::count">(*this)) return {};
+    return list.count();
+}
+
+core::Ptr<core::Selection> Selections::item(std::size_t index) const {
+    if (closed<"Selections::item">(*this)) return {};
+    return list.at(index);
+}
+
+bool Selections::add(const core::Ptr<core::Base>& entity) {
+    if (closed<"Selections::add">(*this)) return {};
+    if (!entity) {
+        return fail(core::BadApiCallError, "Selections::add: there is no entity");
+    }
+    list.add(entity);
+    return true;
+}
+
+bool Selections::clear() {
+    if (closed<"Selections::clear">(*this)) return {};
+    list.clear();
+    return true;
+}
+
+}  // namespace host::ui

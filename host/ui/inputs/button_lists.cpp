@@ -1,0 +1,30 @@
+#include "host/ui/inputs/button_lists.h"
+
+namespace host::ui {
+
+core::Ptr<core::ListItems> ButtonRowInput::listItems() const {
+    if (closed<"ButtonRowCommandInput::listItems">(*this)) return {};
+    return itemsApi();
+}
+
+core::Ptr<core::ListItem> ButtonRowInput::selectedItem() const {
+    if (closed<"ButtonRowCommandInput::selectedItem">(*this)) return {};
+    return selectedItemApi();
+}
+
+bool ButtonRowInput::isMultiSelectEnabled() const {
+    if (closed<"ButtonRowCommandInput::isMultiSelectEnabled">(*this)) return {};
+    return several();
+}
+
+core::Ptr<core::ListItems> RadioGroupInput::listItems() const {
+    if (closed<"RadioButtonGroupCommandInput::listItems">(*this)) return {};
+    return itemsApi();
+}
+
+core::Ptr<core::ListItem> RadioGroupInput::selectedItem() const {
+    if (closed<"RadioButtonGroupCommandInput::selectedItem">(*this)) return {};
+    return selectedItemApi();
+}
+
+}  // namespace host::ui

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/ui/inputs/command_inputs.h"
+
+#include <string>
+
+/// The inputs that hold others.
+namespace host::ui {
+
+/// What tabs and groups have in common: a collection of their own.
+class ContainerState : public InputState {
+public:
+    ContainerState(const InputOrigin& origin, InputKind inputKind);
+
+    void retire() override;
+    [[nodiscard]] CommandInputs* inside() const override { return inside_.get(); }
+
+private:
+    core::Ptr<CommandInputs> inside_;
+};
+
+class TabInput final : public Input<core::TabCommandInput, ContainerState> {
+public:
+    TabInput(const InputOrigin& origin, const std::string& resourceFolder)
+        : Input(origin, InputKind::Tab), resourceFolder_(resourceFolder) {}
+
+    [[nodiscard]] core::Ptr<core::CommandInputs> children() const override;
+    [[nodiscard]] bool isActive() const override;
+    bool activate() override;
+    [[nodiscard]] std::string resourceFolder() const override;
+
+private:
+    std::string resourceFolder_;
+};
+
+class GroupInput final : public Input<core::GroupCommandInput, ContainerState> {
+public:
+    explicit GroupInput(const InputOrigin& origin) : Input(origin, InputKind::Group) {}
+
+    [[nodiscard]] core::Ptr<core::CommandInputs> children() const override;
+    [[nodiscard]] bool isExpanded() const override;
+    bool isExpanded(bool value) override;
+    [[nodiscard]] bool isEnabledCheckBoxDisplayed() const override;
+    bool isEnabledCheckBoxDisplayed(bool value) override;
+    [[nodiscard]] bool isEnabledCheckBoxChecked() const override;
+    bool isEnabledCheckBoxChecked(bool value) override;
+
+    [[nodiscard]] bool expanded() const { return expanded_; }
+
+    /// Clicks its heading as a person does.
+    void toggle() { expanded_ = !expanded_; }
+
+private:
+    bool expanded_ = true;
+    bool checkBox_ = false;
+    bool checked_ = true;
+};
+
+}  // namespace host::ui

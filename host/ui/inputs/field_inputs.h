@@ -1,0 +1,94 @@
+#pragma once
+
+#include "host/ui/inputs/input.h"
+
+#include <string>
+
+/// The inputs that hold one value: a line of text, a button or check box, a text box, a picture.
+namespace host::ui {
+
+class StringInput final : public Input<core::StringValueCommandInput> {
+public:
+    StringInput(const InputOrigin& origin, const std::string& value)
+        : Input(origin, InputKind::String), value_(value) {}
+
+    [[nodiscard]] std::string value() const override;
+    bool value(const std::string& value) override;
+    [[nodiscard]] bool isReadOnly() const override;
+    bool isReadOnly(bool value) override;
+
+    /// Writes into it as a person does.
+    void enter(const std::string& value) { value_ = value; }
+    [[nodiscard]] bool readOnly() const { return readOnly_; }
+
+private:
+    bool readOnly_ = false;
+    std::string value_;
+};
+
+class BoolInput final : public Input<core::BoolValueCommandInput> {
+public:
+    BoolInput(const InputOrigin& origin, bool checkBox, const std::string& resourceFolder,
+              bool value)
+        : Input(origin, InputKind::Bool),
+          checkBox_(checkBox),
+          value_(value),
+          resourceFolder_(shared(resourceFolder)),
+          text_(shared("")) {}
+
+    [[nodiscard]] bool value() const override;
+    bool value(bool value) override;
+    [[nodiscard]] std::string resourceFolder() const override;
+    bool resourceFolder(const std::string& value) override;
+    [[nodiscard]] bool isCheckBox() const override;
+    [[nodiscard]] std::string text() const override;
+    bool text(const std::string& value) override;
+
+    /// Clicks it as a person does.
+    void toggle() { value_ = !value_; }
+
+private:
+    bool checkBox_;
+    bool value_;
+    const std::string* resourceFolder_;  ///< of the command's pool
+    const std::string* text_;            ///< of the command's pool
+};
+
+class TextBoxInput final : public Input<core::TextBoxCommandInput> {
+public:
+    TextBoxInput(const InputOrigin& origin, const std::string& formattedText, int rows,
+                 bool readOnly);
+
+    [[nodiscard]] std::string text() const override;
+    bool text(const std::string& value) override;
+    [[nodiscard]] std::string formattedText() const override;
+    bool formattedText(const std::string& value) override;
+    [[nodiscard]] int numRows() const override;
+    bool numRows(int value) override;
+    [[nodiscard]] bool isReadOnly() const override;
+    bool isReadOnly(bool value) override;
+
+    /// Writes into it as a person does.
+    void enter(const std::string& value);
+    [[nodiscard]] bool readOnly() const { return readOnly_; }
+
+private:
+    std::string text_;
+    std::string formatted_;
+    int rows_;
+    bool readOnly_;
+};
+
+class ImageInput final : public Input<core::ImageCommandInput> {
+public:
+    ImageInput(const InputOrigin& origin, const std::string& imageFile)
+        : Input(origin, InputKind::Image), imageFile_(shared(imageFile)) {}
+
+    [[nodiscard]] std::string imageFile() const override;
+    bool imageFile(const std::string& value) override;
+
+private:
+    const std::string* imageFile_;  ///< of the command's pool
+};
+
+}  // namespace host::ui

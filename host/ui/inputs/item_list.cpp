@@ -1,0 +1,204 @@
+#include "host/ui/inputs/item_list.h"
+
+#include "host/base/last_error.h"
+
+#include <algorithm>
+
+namespace host::ui {
+
+ListState::~ListState() = default;
+
+void ListState::retire() {
+    clear();
+    if (items_ != nullptr) {
+        items_->invalidate();
+    }
+    InputState::retire();
+}
+
+int ListState::selectedIndex() const {
+    if (!several_) return selected_;
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [](const Entry& each) { return each.selected; });
+    return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+}
+
+bool ListState::select(std::size_t index, bool selected) {
+    if (entries_[index].selected == selected) return false;
+    if (!several_) {
+        if (selected_ >= 0) {
+            entries_[static_cast<std::size_t>(selected_)].selected = false;
+        }
+        selected_ = selected ? static_cast<int>(index) : -1;
+    }
+    entries_[index].selected = selected;
+    return true;
+}
+
+int ListState::indexOf(const std::string& name) const {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& each) { return *each.name == name; });
+    return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+}
+
+std::size_t ListState::add(const std::string& name, bool selected, const std::string& icon,
+                           int before) {
+    const std::size_t end = entries_.size();
+    const bool inside = before >= 0 && static_cast<std::size_t>(before) < end;
+    const std::size_t index = inside ? static_cast<std::size_t>(before) : end;
+    entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(index),
+                    {shared(name), shared(icon), nullptr, false});
+    if (inside) {
+        renumber(index + 1);
+    }
+    if (selected) {
+        select(index, true);
+    }
+    return index;
+}
+
+void ListState::remove(std::size_t index) {
+    if (ListItem* item = entries_[index].item) {
+        item->invalidate();
+    }
+    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+    renumber(index);
+}
+
+void ListState::clear() {
+    for (const Entry& each : entries_) {
+        if (each.item != nullptr) {
+            each.item->invalidate();
+        }
+    }
+    entries_.clear();
+    selected_ = -1;
+}
+
+// Places from `from` on hold other items than before.
+void ListState::renumber(std::size_t from) {
+    selected_ = -1;
+    for (std::size_t index = 0; index < entries_.size(); ++index) {
+        if (index >= from && entries_[index].item != nullptr) {
+            entries_[index].item->moved(index);
+        }
+        if (!several_ && entries_[index].selected) {
+            selected_ = static_cast<int>(index);
+        }
+    }
+}
+
+void ListState::rename(std::size_t index, const std::string& name) {
+    entries_[index].name = shared(name);
+}
+
+void ListState::changeIcon(std::size_t index, const std::string& icon) {
+    entries_[index].icon = shared(icon);
+}
+
+// The API's getters are const and hand out what can be changed: so does a list here.
+core::Ptr<core::ListItems> ListState::itemsApi() const {
+    if (items_ != nullptr) return core::Ptr<core::ListItems>(items_);
+    core::Ptr<ListItems> made = make<ListItems>(const_cast<ListState*>(this));
+    items_ = made.get();
+    return made;
+}
+
+core::Ptr<core::ListItem> ListState::itemApi(std::size_t index) const {
+    if (ListItem* item = entries_[index].item) return core::Ptr<core::ListItem>(item);
+    core::Ptr<ListItem> made = make<ListItem>(const_cast<ListState*>(this), index);
+    entries_[index].item = made.get();
+    return made;
+}
+
+core::Ptr<core::ListItem> ListState::selectedItemApi() const {
+    const int index = selectedIndex();
+    return index < 0 ? nullptr : itemApi(static_cast<std::size_t>(index));
+}
+
+ListItems::~ListItems() { list_->items_ = nullptr; }
+
+std::size_t ListItems::count() const {
+    if (closed<"ListItems::count">(*this)) return {};
+    return list_->entries().size();
+}
+
+core::Ptr<core::ListItem> ListItems::item(std::size_t index) const {
+    if (closed<"ListItems::item">(*this)) return {};
+    return index < list_->entries().size() ? list_->itemApi(index) : nullptr;
+}
+
+core::Ptr<core::ListItem> ListItems::add(const std::string& name, bool isSelected,
+                                         const std::string& icon, int beforeIndex) {
+    if (closed<"ListItems::add">(*this)) return {};
+    return list_->itemApi(list_->add(name, isSelected, icon, beforeIndex));
+}
+
+bool ListItems::clear() {
+    if (closed<"ListItems::clear">(*this)) return {};
+    list_->clear();
+    return true;
+}
+
+ListItem::~ListItem() {
+    if (isValid()) {
+        list_->entries_[index_].item = nullptr;
+    }
+}
+
+std::string ListItem::name() const {
+    if (closed<"ListItem::name">(*this)) return {};
+    return *entry().name;
+}
+
+bool ListItem::name(const std::string& value) {
+    if (closed<"ListItem::name">(*this)) return {};
+    list_->rename(index_, value);
+    return true;
+}
+
+bool ListItem::isSelected() const {
+    if (closed<"ListItem::isSelected">(*this)) return {};
+    return entry().selected;
+}
+
+bool ListItem::isSelected(bool value) {
+    if (closed<"ListItem::isSelected">(*this)) return {};
+    if (list_->select(index_, value)) {
+        list_->changedByCode(value ? CodeChange::Selected : CodeChange::Value);
+    }
+    return true;
+}
+
+int ListItem::index() const {
+    if (closed<"ListItem::index">(*this)) return {};
+    return static_cast<int>(index_);
+}
+
+std::string ListItem::icon() const {
+    if (closed<"ListItem::icon">(*this)) return {};
+    return *entry().icon;
+}
+
+bool ListItem::icon(const std::string& value) {
+    if (closed<"ListItem::icon">(*this)) return {};
+    list_->changeIcon(index_, value);
+    return true;
+}
+
+bool ListItem::isSeparator() const {
+    if (closed<"ListItem::isSeparator">(*this)) return {};
+    return false;
+}
+
+bool ListItem::deleteMe() {
+    if (closed<"ListItem::deleteMe">(*this)) return {};
+    if (list_->kind == InputKind::DropDown && entry().selected && !list_->several()) {
+        return fail(core::OperationFailed,
+                    "ListItem::deleteMe: the selected item of a drop-down stays");
+    }
+    list_->remove(index_);
+    return true;
+}
+
+}  // namespace host::ui

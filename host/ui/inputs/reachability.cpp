@@ -1,0 +1,57 @@
+#include "host/ui/inputs/reachability.h"
+
+#include "host/application/application.h"
+#include "host/ui/inputs/container_inputs.h"
+#include "host/ui/inputs/table_input.h"
+
+#include <algorithm>
+
+namespace host::ui {
+namespace {
+
+std::string refusalByHolder(const InputState& holder) {
+    if (holder.kind == InputKind::Tab && holder.command()->activeTab() != &holder) {
+        return "its tab " + describe(holder) + " does not show: activate it first";
+    }
+    if (holder.kind == InputKind::Group && !static_cast<const GroupInput&>(holder).expanded()) {
+        return "its group " + describe(holder) + " is folded: click it first";
+    }
+    return {};
+}
+
+std::string refusalByTable(const InputState& input) {
+    const TableInput& table = *input.inLine->table;
+    if (table.isToolbar(*input.inLine)) return {};
+    const std::vector<int> shown = table.shownColumns();
+    if (std::find(shown.begin(), shown.end(), input.inColumn) == shown.end()) {
+        return "its column " + std::to_string(input.inColumn) + " of the table " + describe(table) +
+               " has no width";
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string describe(const InputState& input) {
+    if (!input.id().empty() || input.inLine == nullptr) return "\"" + input.id() + "\"";
+    return "in column " + std::to_string(input.inColumn) + " of " + describe(*input.inLine->table);
+}
+
+std::string refusalToReach(const InputState& input) {
+    const core::Ptr<Command>& active = Application::current()->ui().runner().active();
+    if (input.command() == nullptr || input.command() != active.get() || !active->isShown()) {
+        return "it is not part of the open dialog";
+    }
+    for (const InputState* each = &input; each != nullptr; each = each->parent()) {
+        if (!each->visible) {
+            return each == &input ? "it is not visible" : describe(*each) + " is not visible";
+        }
+        std::string why = each->inLine != nullptr ? refusalByTable(*each)
+                          : each == &input        ? ""
+                                                  : refusalByHolder(*each);
+        if (!why.empty()) return why;
+    }
+    return {};
+}
+
+}  // namespace host::ui

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "host/ui/inputs/input.h"
+#include "host/ui/inputs/table_lines.h"
+
+#include <Core/TableCommandInput.h>
+
+#include <string>
+#include <vector>
+
+namespace host::ui {
+
+class TableInput final : public Input<core::TableCommandInput> {
+public:
+    TableInput(const InputOrigin& origin, int columns, const std::string& ratio);
+
+    bool addCommandInput(const core::Ptr<core::CommandInput>& input, int row, int column,
+                         int rowSpan, int columnSpan) override;
+    bool addToolbarCommandInput(const core::Ptr<core::CommandInput>& input) override;
+    [[nodiscard]] core::Ptr<core::CommandInput> getInputAtPosition(int row,
+                                                                   int column) const override;
+    bool getPosition(const core::Ptr<core::CommandInput>& input, int& row, int& column,
+                     int& rowSpan, int& columnSpan) const override;
+    bool removeInput(int row, int column) override;
+    bool deleteRow(int row) override;
+    bool clear() override;
+    [[nodiscard]] int rowCount() const override;
+    [[nodiscard]] int numberOfColumns() const override;
+    bool numberOfColumns(int value) override;
+    [[nodiscard]] std::string columnRatio() const override;
+    bool columnRatio(const std::string& value) override;
+    [[nodiscard]] int maximumVisibleRows() const override;
+    bool maximumVisibleRows(int value) override;
+    [[nodiscard]] int minimumVisibleRows() const override;
+    bool minimumVisibleRows(int value) override;
+    [[nodiscard]] int selectedRow() const override;
+    bool selectedRow(int value) override;
+    [[nodiscard]] core::TablePresentationStyles tablePresentationStyle() const override;
+    bool tablePresentationStyle(core::TablePresentationStyles value) override;
+
+    void retire() override;
+
+    /// @name For the host itself
+    /// @{
+
+    /// Takes an input that stands in it, as a cell or in its toolbar, out of it.
+    void letGo(InputState& input);
+
+    /// Selects a row as a person does.
+    void select(const TableLine& line) { lines_.select(&line); }
+
+    [[nodiscard]] const TableLines& lines() const { return lines_; }
+    [[nodiscard]] const std::vector<InputState*>& toolbar() const { return toolbar_.cells; }
+
+    [[nodiscard]] bool isToolbar(const TableLine& line) const { return &line == &toolbar_; }
+
+    /// The columns of a width, of those from 0 to `numberOfColumns`.
+    [[nodiscard]] std::vector<int> shownColumns() const;
+
+    /// Whether a visible cell stands in one of the columns `shown`.
+    [[nodiscard]] bool isShown(const TableLine& line, const std::vector<int>& shown) const;
+    /// @}
+
+private:
+    [[nodiscard]] InputState* acceptable(const core::Ptr<core::CommandInput>& input,
+                                         const char* operation) const;
+    void eraseWithInputs(TableLine& line);
+
+    int columns_;
+    std::string ratio_;
+    TableLines lines_;
+    TableLine toolbar_;
+    int maximumVisibleRows_ = 4;
+    int minimumVisibleRows_ = 2;
+    core::TablePresentationStyles style_ = core::itemBorderTablePresentationStyle;
+};
+
+}  // namespace host::ui

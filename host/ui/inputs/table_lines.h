@@ -1,0 +1,73 @@
+#pragma once
+
+#include "host/ui/inputs/sequence.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+/// The rows behind a table.
+namespace host::ui {
+
+class InputState;
+class TableInput;
+
+/// One row of a table, or its toolbar.
+struct TableLine {
+    TableInput* table = nullptr;
+    std::size_t slot = 0;            ///< among the lines; unused for the toolbar
+    int counted = 0;                 ///< cells in the table's own columns
+    std::vector<InputState*> cells;  ///< by column, null where none is; of the toolbar: in order
+};
+
+/// Inputs in rows and columns, without regard to what they are.
+///
+/// A line counts as a row while it holds a cell in the table's own columns, and is closed up when
+/// the last of these goes: what it holds beyond them then leaves the table. Placing, taking and
+/// finding cost at most logarithmic time, so rows can be moved one by one.
+class TableLines {
+public:
+    /// `lastColumn` is the last one of the table's own columns.
+    TableLines(TableInput* table, int lastColumn) : table_(table), lastColumn_(lastColumn) {}
+
+    /// The number of lines that count as rows.
+    [[nodiscard]] std::size_t rows() const { return rows_; }
+
+    /// The number of lines, with those that nothing was put into.
+    [[nodiscard]] std::size_t count() const { return lines_.count(); }
+
+    [[nodiscard]] TableLine& at(std::size_t row) const { return *lines_.at(row); }
+    [[nodiscard]] std::size_t indexOf(const TableLine& line) const {
+        return lines_.indexOf(line.slot);
+    }
+
+    /// The input at a place, null where none is.
+    [[nodiscard]] InputState* cell(std::size_t row, std::size_t column) const;
+
+    /// Puts an input, which stands nowhere in the table, at a place; what stood there leaves.
+    void place(InputState& input, std::size_t row, std::size_t column);
+
+    /// Takes the cell at `column` out of `line` and closes the line up if no row is left in it.
+    void take(TableLine& line, std::size_t column);
+
+    /// Takes a line out; its cells leave the table.
+    void erase(TableLine& line);
+
+    /// The line that is selected, null for none; it is none once it was taken out.
+    [[nodiscard]] const TableLine* selected() const { return selected_; }
+    void select(const TableLine* line) { selected_ = line; }
+
+private:
+    [[nodiscard]] bool counts(std::size_t column) const {
+        return column <= static_cast<std::size_t>(lastColumn_);
+    }
+    void count(TableLine& line, int change);
+
+    TableInput* table_;
+    int lastColumn_;
+    std::size_t rows_ = 0;
+    const TableLine* selected_ = nullptr;
+    Sequence<std::unique_ptr<TableLine>> lines_;
+};
+
+}  // namespace host::ui

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "host/ui/commands/command_definitions.h"
+
+#include <Core/Toolbars.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace host::ui {
+
+class ToolbarControls;
+
+class CommandControl final : public Object<core::CommandControl> {
+public:
+    CommandControl(ToolbarControls* owner, core::Ptr<CommandDefinition> definition)
+        : owner_(owner), id_(definition->identifier()), definition_(std::move(definition)) {}
+
+    [[nodiscard]] std::string id() const override;
+    [[nodiscard]] bool isVisible() const override;
+    bool isVisible(bool value) override;
+    [[nodiscard]] core::Ptr<core::Base> parent() const override;
+    [[nodiscard]] std::size_t index() const override;
+    bool deleteMe() override;
+    [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override;
+    [[nodiscard]] bool isPromoted() const override;
+    bool isPromoted(bool value) override;
+
+    [[nodiscard]] const std::string& identifier() const { return id_; }
+    [[nodiscard]] bool shown() const { return visible_; }
+    [[nodiscard]] bool promoted() const { return promoted_; }
+    [[nodiscard]] const core::Ptr<CommandDefinition>& definition() const { return definition_; }
+    void dispose();
+
+private:
+    ToolbarControls* owner_;
+    std::string id_;
+    core::Ptr<CommandDefinition> definition_;
+    bool visible_ = true;
+    bool promoted_ = false;
+};
+
+/// The controls of a panel or of a menu; owns them.
+class ToolbarControls final : public Object<core::ToolbarControls> {
+public:
+    /// `parent` is the panel or menu; in a panel controls can be promoted.
+    ToolbarControls(core::Base* parent, bool inPanel) : parent_(parent), inPanel_(inPanel) {}
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarControl> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::ToolbarControl> itemById(const std::string& id) const override;
+    core::Ptr<core::CommandControl> addCommand(
+        const core::Ptr<core::CommandDefinition>& commandDefinition, const std::string& positionID,
+        bool isBefore) override;
+
+    [[nodiscard]] const std::vector<core::Ptr<CommandControl>>& all() const { return all_; }
+    [[nodiscard]] core::Base* parent() const { return parent_; }
+    [[nodiscard]] bool inPanel() const { return inPanel_; }
+    core::Ptr<CommandControl> append(const core::Ptr<CommandDefinition>& definition);
+    void remove(CommandControl& control);
+    void dispose();
+
+private:
+    [[nodiscard]] std::size_t placeOf(const std::string& id) const;
+
+    core::Base* parent_;
+    bool inPanel_;
+    std::vector<core::Ptr<CommandControl>> all_;
+};
+
+}  // namespace host::ui

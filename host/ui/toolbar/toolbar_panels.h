@@ -1,0 +1,103 @@
+#pragma once
+
+#include "host/ui/toolbar/toolbar_controls.h"
+
+#include <Core/Toolbars.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+/// The tabs of the toolbar and the panels in them.
+namespace host::ui {
+
+class ToolbarTab;
+class Workspace;
+class Workspaces;
+
+class ToolbarPanel final : public Object<core::ToolbarPanel> {
+public:
+    ToolbarPanel(ToolbarTab* owner, std::string id, std::string name, bool native);
+
+    [[nodiscard]] std::string id() const override;
+    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override;
+    bool deleteMe() override;
+
+    [[nodiscard]] const std::string& identifier() const { return id_; }
+    [[nodiscard]] const std::string& caption() const { return name_; }
+    [[nodiscard]] ToolbarControls& buttons() const { return *controls_; }
+    void dispose();
+
+private:
+    ToolbarTab* owner_;
+    std::string id_;
+    std::string name_;
+    bool native_;
+    core::Ptr<ToolbarControls> controls_;
+};
+
+using PanelList = std::vector<core::Ptr<ToolbarPanel>>;
+
+/// The panels of a tab, or of a workspace over all of its tabs.
+class ToolbarPanels final : public Object<core::ToolbarPanels> {
+public:
+    /// `tab` is null for the panels of the workspace.
+    ToolbarPanels(Workspace* workspace, ToolbarTab* tab) : workspace_(workspace), tab_(tab) {}
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanel> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanel> itemById(const std::string& id) const override;
+    core::Ptr<core::ToolbarPanel> add(const std::string& id, const std::string& name,
+                                      const std::string& positionID, bool isBefore) override;
+    void dispose();
+
+private:
+    [[nodiscard]] PanelList panels() const;
+
+    Workspace* workspace_;
+    ToolbarTab* tab_;
+};
+
+/// The panels of all workspaces.
+class ToolbarPanelList final : public Object<core::ToolbarPanelList> {
+public:
+    explicit ToolbarPanelList(Workspaces* workspaces) : workspaces_(workspaces) {}
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanel> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanel> itemById(const std::string& id) const override;
+    void dispose();
+
+private:
+    Workspaces* workspaces_;
+};
+
+/// One tab of a workspace's toolbar; owns its panels.
+class ToolbarTab final : public Object<core::ToolbarTab> {
+public:
+    ToolbarTab(Workspace* workspace, std::string id, std::string name);
+
+    [[nodiscard]] std::string id() const override;
+    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override;
+
+    [[nodiscard]] const std::string& identifier() const { return id_; }
+    [[nodiscard]] const PanelList& panels() const { return panels_; }
+
+    /// Adds a panel at a place, at the end for one that does not exist.
+    core::Ptr<ToolbarPanel> add(const std::string& id, const std::string& name, bool native,
+                                std::size_t place);
+    void remove(ToolbarPanel& panel);
+    void dispose();
+
+private:
+    std::string id_;
+    std::string name_;
+    PanelList panels_;
+    core::Ptr<ToolbarPanels> api_;
+};
+
+using TabList = std::vector<core::Ptr<ToolbarTab>>;
+
+}  // namespace host::ui

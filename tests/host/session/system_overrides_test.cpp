@@ -1,0 +1,118 @@
+#include "host/session/system_overrides.h"
+
+#include "host/ui/dialogs/messages.h"
+
+#include <StandIn/Process.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace answers = host::system_answers;
+using host::SystemAnswers;
+
+namespace {
+
+class AnswersForTheSystem : public testing::Test {
+protected:
+    ~AnswersForTheSystem() override {
+        answers::end();
+        host::clearMessages();
+    }
+};
+
+}  // namespace
+
+TEST_F(AnswersForTheSystem, WithoutASessionAreTheSystems) {
+    StandInArea area = {};
+    std::array<unsigned, 4> registers = {};
+    EXPECT_EQ(standin_sleep(1), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_messageBox("text", "title", 64), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_windowArea("title", &area), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_cpuid(0, registers.data()), StandInAnswer::NotMine);
+}
+
+TEST_F(AnswersForTheSystem, WaitAtOnceUnlessToldOtherwise) {
+    answers::start({});
+    EXPECT_EQ(standin_sleep(250), StandInAnswer::Done);
+    EXPECT_EQ(standin_sleep(1000), StandInAnswer::Done);
+    EXPECT_EQ(answers::sleeps(), (std::vector<int>{250, 1000}));
+
+    SystemAnswers inTime;
+    inTime.sleepTakesTime = true;
+    answers::start(inTime);
+    EXPECT_EQ(standin_sleep(250), StandInAnswer::NotMine);
+    EXPECT_EQ(answers::sleeps(), std::vector<int>{250});
+}
+
+TEST_F(AnswersForTheSystem, KeepAMessageWithItsIcon) {
+    answers::start({});
+    EXPECT_EQ(standin_messageBox("one", "first", 64), StandInAnswer::Done);
+    EXPECT_EQ(standin_messageBox("two", "second", 16), StandInAnswer::Done);
+    ASSERT_EQ(host::messages().size(), 2U);
+    EXPECT_EQ(host::messages()[0].text, "one");
+    EXPECT_EQ(host::messages()[0].title, "first");
+    EXPECT_EQ(host::messages()[0].icon, adsk::core::InformationIconType);
+    EXPECT_EQ(host::messages()[1].icon, adsk::core::CriticalIconType);
+}
+
+TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneUnlessToldOtherwise) {
+    answers::start({});
+    EXPECT_EQ(standin_hideConsole(), StandInAnswer::Done);
+    EXPECT_EQ(answers::consoleHidings(), 1);
+
+    SystemAnswers hiding;
+    hiding.consoleMayHide = true;
+    answers::start(hiding);
+    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotMine);
+    EXPECT_EQ(answers::consoleHidings(), 1);
+}
+
+TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
+    SystemAnswers screen;
+    screen.screen = host::ScreenRectangle{-640, 0, 800, 600};
+    screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
+    answers::start(screen);
+    StandInArea area = {};
+    EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::Done);
+    EXPECT_EQ(area.left, -640);
+    EXPECT_EQ(area.bottom, 600);
+    EXPECT_EQ(standin_windowArea("a", &area), StandInAnswer::Done);
+    EXPECT_EQ(area.top, 2);
+    EXPECT_EQ(area.right, 3);
+    EXPECT_EQ(standin_windowArea("b", &area), StandInAnswer::Failed);
+}
+
+namespace {
+
+/// Notes the titles and left edges; two windows are enough.
+int lookAtTwo(void* context, const char* title, const StandInArea* inside) {
+    auto& seen = *static_cast<std::vector<std::string>*>(context);
+    seen.push_back(title + std::to_string(inside->left));
+    return seen.size() < 2 ? 1 : 0;
+}
+
+}  // namespace
+
+TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
+    std::vector<std::string> seen;
+    EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::NotMine);
+    SystemAnswers screen;
+    screen.windows = std::vector<host::WindowShown>{{"b", {5, 0, 9, 9}}, {"a", {6, 0, 9, 9}}, {}};
+    answers::start(screen);
+    EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::Done);
+    EXPECT_EQ(seen, (std::vector<std::string>{"b5", "a6"}));
+}
+
+TEST_F(AnswersForTheSystem, SpeakForAnotherProcessor) {
+    SystemAnswers other;
+    other.processor = [](unsigned leaf) { return std::array<unsigned, 4>{leaf, 1, 2, 3}; };
+    answers::start(other);
+    std::array<unsigned, 4> registers = {};
+    EXPECT_EQ(standin_cpuid(0x80000000U, registers.data()), StandInAnswer::Done);
+    EXPECT_EQ(registers, (std::array<unsigned, 4>{0x80000000U, 1, 2, 3}));
+}
