@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// Does one thing, and notes its time and its host calls under `name`. Yields the milliseconds.
+/// Does one thing, and notes its time and its host calls under `name`. Returns the milliseconds.
 ///
 /// The time is the processor's: all is done in one thread that waits for nothing, and what else
 /// runs on the machine is left out.

@@ -30,7 +30,7 @@ struct Product {
 };
 
 /// Writes products as a STEP file, parts before the assemblies that use them. A use of a product
-/// that comes later or is missing raises `std::out_of_range`.
+/// that comes later or is missing throws `std::out_of_range`.
 std::string stepFile(const std::string& name, const std::vector<Product>& products);
 
 }  // namespace samples

@@ -1,7 +1,7 @@
 #include "workbench/addin_session.h"
 
 #include "workbench/exit_code.h"
-#include "workbench/raised.h"
+#include "workbench/uncaught.h"
 
 #include "host/base/utf8_path.h"
 #include "host/session/environment.h"
@@ -38,9 +38,9 @@ std::unique_ptr<host::Session> startSession(const host::SessionOptions& options)
 }
 
 std::string explain(const host::Session& session, const std::string& obstacle) {
-    const auto first =
-        std::find_if_not(session.raised().begin(), session.raised().end(), isOrdinary);
-    return first != session.raised().end() ? describe(*first) : obstacle;
+    const auto first = std::find_if_not(session.uncaughtExceptions().begin(),
+                                        session.uncaughtExceptions().end(), isOrdinary);
+    return first != session.uncaughtExceptions().end() ? describe(*first) : obstacle;
 }
 
 }  // namespace workbench

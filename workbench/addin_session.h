@@ -10,7 +10,7 @@
 namespace workbench {
 
 /// The folder that keeps what the program has of this user: the add-in's copy with its settings.
-/// Raises a `Failure` where the system names no place for it.
+/// Throws a `Failure` where the system names no place for it.
 std::filesystem::path userFolder();
 
 /// What a session of this user is started with; `addin` is the add-in's folder, empty for the one
@@ -20,7 +20,7 @@ host::SessionOptions userSession(const std::string& addin);
 /// Starts a session; a `Failure` tells what is in the way.
 std::unique_ptr<host::Session> startSession(const host::SessionOptions& options);
 
-/// Why a step could not be done: what the add-in raised before, else what was in the way.
+/// Why a step could not be done: what the add-in threw before, else what was in the way.
 std::string explain(const host::Session& session, const std::string& obstacle);
 
 }  // namespace workbench

@@ -4,8 +4,8 @@
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
 #include "workbench/output_file.h"
-#include "workbench/raised.h"
 #include "workbench/save_target.h"
+#include "workbench/uncaught.h"
 #include "workbench/written_files.h"
 
 #include "host/base/utf8_path.h"
@@ -32,20 +32,20 @@ void saveDesign(const BomResult& result, const fs::path& file) {
 }
 
 /// Tells what the add-in said, and ends the program when it failed.
-void reportRaised(const BomResult& result, const BomOptions& options) {
+void reportThrown(const BomResult& result, const BomOptions& options) {
     bool failed = false;
-    for (const host::Raised& raised : result.raised) {
-        const bool ordinary = isOrdinary(raised);
+    for (const host::UncaughtException& thrown : result.thrown) {
+        const bool ordinary = isOrdinary(thrown);
         failed = failed || !ordinary;
         if (options.verbose && ordinary) {
-            std::cerr << printable(describe(raised)) << "\n";
+            std::cerr << printable(describe(thrown)) << "\n";
         }
     }
     for (const std::string& message : result.messages) {
         std::cerr << "the add-in says: " << printable(message) << "\n";
     }
     if (failed) {
-        const auto first = std::find_if_not(result.raised.begin(), result.raised.end(), isOrdinary);
+        const auto first = std::find_if_not(result.thrown.begin(), result.thrown.end(), isOrdinary);
         throw Failure(ExitCode::AddinFailed, describe(*first));
     }
 }
@@ -93,7 +93,7 @@ void runBom(const BomOptions& options) {
     WrittenFiles written;
     const BomResult result =
         makeBom(readDesign(options.file, options.limits), tab, options, wishes, written);
-    reportRaised(result, options);
+    reportThrown(result, options);
     const fs::path file = deliver(result, options, written);
     saveDesign(result, design);
     written.keep();

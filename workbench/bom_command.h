@@ -20,14 +20,14 @@ struct BomOptions {
     std::string saveFile;              ///< where to; empty: in its design file, else beside it
     std::string addin;                 ///< folder of the add-in; empty: the one beside the program
     bool open = false;                 ///< lets the shell open what the add-in asks it to
-    bool verbose = false;              ///< shows what the add-in raises as a matter of course, too
+    bool verbose = false;              ///< shows what the add-in throws as a matter of course, too
     ReadingLimits limits;
 };
 
 /// Opens a design, has the add-in make its parts list and export it, and prints the list on stdout.
 /// The columns are saved first; with `save`, the cells are then edited, and what is printed is the
-/// saved design opened anew. Raises a `Failure`, with nothing printed and nothing written, when any
-/// of this fails.
+/// saved design opened again. Throws a `Failure`, with nothing printed and nothing written, when
+/// any of this fails.
 void runBom(const BomOptions& options);
 
 }  // namespace workbench

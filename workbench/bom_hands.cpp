@@ -1,8 +1,8 @@
 #include "workbench/bom_hands.h"
 
 #include "workbench/exit_code.h"
-#include "workbench/raised.h"
 #include "workbench/shown_columns.h"
+#include "workbench/uncaught.h"
 
 #include "host/session/table_view.h"
 #include "host/session/user_actions.h"
@@ -62,12 +62,12 @@ bool isEditable(const TableCell& cell) {
            (cell.kind == TableCell::Kind::Text || cell.kind == TableCell::Kind::Choice);
 }
 
-std::string nameOf(const CellWish& wish) {
+std::string nameOf(const CellEdit& wish) {
     return "--set " + std::to_string(wish.row) + ":" + wish.column;
 }
 
 /// The cell that a wish means. Refuses what is not there, or cannot be edited.
-TableCell findCell(const host::TableView& table, const CellWish& wish) {
+TableCell findCell(const host::TableView& table, const CellEdit& wish) {
     const std::size_t rows = table.rows.size() - 1;  // without the captions
     const auto row = static_cast<std::size_t>(wish.row);
     if (row > rows) {
@@ -86,11 +86,11 @@ TableCell findCell(const host::TableView& table, const CellWish& wish) {
 /// An edit that was looked up.
 struct Edit {
     Ptr<CommandInput> input;
-    const CellWish* wish;
+    const CellEdit* wish;
 };
 
 Edit lookUp(const Ptr<TableCommandInput>& table, const host::TableView& view,
-            const CellWish& wish) {
+            const CellEdit& wish) {
     const TableCell cell = findCell(view, wish);
     const int row = view.rows[static_cast<std::size_t>(wish.row)].row;
     const Ptr<CommandInput> input = table->getInputAtPosition(row, cell.column);
@@ -121,7 +121,7 @@ void make(const Edit& edit) {
 void saveColumns(host::Session& session, const std::vector<ColumnWish>& columns) {
     session.activateTab(kConfigurationTab);
     checkProperties(session, columns);
-    const std::size_t since = session.raised().size();
+    const std::size_t since = session.uncaughtExceptions().size();
     for (int i = 0; i < kFreeColumns; ++i) {
         const bool used = static_cast<std::size_t>(i) < columns.size();
         const ColumnWish wish =
@@ -130,24 +130,24 @@ void saveColumns(host::Session& session, const std::vector<ColumnWish>& columns)
         session.paste(kCaptionField + std::to_string(kFirstCaptionField + i), wish.caption);
     }
     session.click(kSaveConfiguration);
-    refuseRaised(session, since, "cannot save the columns");
+    refuseThrown(session, since, "cannot save the columns");
 }
 
 void sortBy(host::Session& session, const BomTab& tab, const SortWish& wish) {
     const Ptr<TableCommandInput> table = session.table(tab.table);
     const ShownColumn column =
         findColumn(sortableColumns(host::readTable(table)), wish.column, "--sort " + wish.column);
-    const std::size_t since = session.raised().size();
+    const std::size_t since = session.uncaughtExceptions().size();
     session.choose(kSortOrder, wish.descending ? "Descending" : "Ascending");
     host::click(table->getInputAtPosition(0, column.column));
-    refuseRaised(session, since, "cannot sort by \"" + column.key + "\"");
+    refuseThrown(session, since, "cannot sort by \"" + column.key + "\"");
 }
 
 void expandTree(host::Session& session, const BomTab& tab, int levels) {
     constexpr int kToggleColumn = 0;
     constexpr int kPositionColumn = 1;
     const Ptr<TableCommandInput> table = session.table(tab.table);
-    const std::size_t since = session.raised().size();
+    const std::size_t since = session.uncaughtExceptions().size();
     const int count = table->rowCount();
     for (int row = 1; row < count; ++row) {
         const TableCell toggle = host::readCell(table, row, kToggleColumn);
@@ -159,27 +159,27 @@ void expandTree(host::Session& session, const BomTab& tab, int levels) {
             host::click(button);
         }
     }
-    refuseRaised(session, since, "cannot expand the tree");
+    refuseThrown(session, since, "cannot expand the tree");
 }
 
-void editCells(host::Session& session, const BomTab& tab, const std::vector<CellWish>& cells) {
+void editCells(host::Session& session, const BomTab& tab, const std::vector<CellEdit>& cells) {
     const Ptr<TableCommandInput> table = session.table(tab.table);
     const host::TableView view = host::readTable(table);
     std::vector<Edit> edits;
-    for (const CellWish& cell : cells) {
+    for (const CellEdit& cell : cells) {
         edits.push_back(lookUp(table, view, cell));
     }
     for (const Edit& edit : edits) {
-        const std::size_t since = session.raised().size();
+        const std::size_t since = session.uncaughtExceptions().size();
         make(edit);
-        refuseRaised(session, since, nameOf(*edit.wish));
+        refuseThrown(session, since, nameOf(*edit.wish));
     }
 }
 
 void acceptChanges(host::Session& session, const BomTab& tab) {
-    const std::size_t since = session.raised().size();
+    const std::size_t since = session.uncaughtExceptions().size();
     session.ok();
-    refuseRaised(session, since, "cannot save the tab " + std::string(tab.name));
+    refuseThrown(session, since, "cannot save the tab " + std::string(tab.name));
 }
 
 }  // namespace workbench

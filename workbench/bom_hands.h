@@ -9,8 +9,8 @@
 
 /// What a person does in the open BOM dialog.
 ///
-/// Each of these raises a `Failure` for wrong usage where the dialog has no such property, column
-/// or cell, with the names that it has, and one of the add-in where that raised something.
+/// Each of these throws a `Failure` for wrong usage where the dialog has no such property, column
+/// or cell, with the names that it has, and one of the add-in where that threw something.
 namespace workbench {
 
 /// Chooses the free columns, gives them their captions, and saves them. The dialog shows them from
@@ -26,7 +26,7 @@ void expandTree(host::Session& session, const BomTab& tab, int levels);
 
 /// Edits cells of the shown tab. All cells are looked for before the first is edited, so that rows
 /// that an edit hides do not shift the others.
-void editCells(host::Session& session, const BomTab& tab, const std::vector<CellWish>& cells);
+void editCells(host::Session& session, const BomTab& tab, const std::vector<CellEdit>& cells);
 
 /// Accepts the dialog, which writes the shown tab into the design.
 void acceptChanges(host::Session& session, const BomTab& tab);

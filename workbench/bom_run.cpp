@@ -77,7 +77,8 @@ void arrange(host::Session& session, const BomTab& tab, const BomWishes& wishes)
 void noteTraces(const host::Session& session, BomResult& result) {
     result.shell.insert(result.shell.end(), session.openedByShell().begin(),
                         session.openedByShell().end());
-    result.raised.insert(result.raised.end(), session.raised().begin(), session.raised().end());
+    result.thrown.insert(result.thrown.end(), session.uncaughtExceptions().begin(),
+                         session.uncaughtExceptions().end());
     for (const host::Message& message : session.messages()) {
         result.messages.push_back(message.text);
     }

@@ -67,7 +67,7 @@ int readLevels(const std::string& text) {
     return levels;
 }
 
-CellWish readCell(const std::string& text) {
+CellEdit readCell(const std::string& text) {
     const std::size_t colon = text.find(':');
     const std::size_t mark = colon == std::string::npos ? colon : text.find('=', colon);
     const int row = positive(std::string_view(text).substr(0, colon));

@@ -24,12 +24,12 @@ struct SortWish {
 };
 
 /// A cell to edit.
-struct CellWish {
+struct CellEdit {
     int row = 0;  ///< line of the list as it is printed, from 1
     std::string column;
     std::string value;
 
-    bool operator==(const CellWish&) const = default;
+    bool operator==(const CellEdit&) const = default;
 };
 
 /// What the command line wants done in the dialog.
@@ -37,10 +37,10 @@ struct BomWishes {
     std::vector<ColumnWish> columns;  ///< none: those of the settings stay
     std::optional<SortWish> sort;
     int levels = 1;  ///< of the tree to show
-    std::vector<CellWish> cells;
+    std::vector<CellEdit> cells;
 };
 
-/// Takes the options apart. Raises a `Failure` for wrong usage: a text that does not follow its
+/// Takes the options apart. Throws a `Failure` for wrong usage: a text that does not follow its
 /// form, more columns than there are, a wish that the chosen tab cannot fulfil.
 BomWishes readWishes(const BomOptions& options);
 

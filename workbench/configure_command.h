@@ -11,7 +11,7 @@ struct ConfigureOptions {
 };
 
 /// Chooses this user's support provider in the add-in's dialog, if one is given, and prints what
-/// the dialog then shows. The address is taken as it stands. Raises a `Failure` when the dialog
+/// the dialog then shows. The address is taken as it stands. Throws a `Failure` when the dialog
 /// cannot be used, or when it shows another provider when it opens again.
 void runConfigure(const ConfigureOptions& options);
 

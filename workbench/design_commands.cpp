@@ -20,7 +20,7 @@ namespace {
 using namespace adsk::core;
 using Names = std::vector<std::string>;
 
-/// Does its work on the open design; yields the line that tells what was done.
+/// Does its work on the open design; returns the line that tells what was done.
 using Work = std::function<std::string(DialogRun&)>;
 
 /// Opens the design, has the work done, and saves what came of it.

@@ -18,11 +18,11 @@ struct DesignCommandOptions {
     ReadingLimits limits;
 };
 
-/// Has "Move To Origin" place occurrences at the origin. Raises a `Failure`, with nothing saved.
+/// Has "Move To Origin" place occurrences at the origin. Throws a `Failure`, with nothing saved.
 void runMoveToOrigin(const DesignCommandOptions& options);
 
 /// Has "Projected Entities As Construction" do its work in each sketch of the design, which is
-/// opened for edit for it. Raises a `Failure`, with nothing saved.
+/// opened for edit for it. Throws a `Failure`, with nothing saved.
 void runProjectToConstruction(const DesignCommandOptions& options);
 
 }  // namespace workbench

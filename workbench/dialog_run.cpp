@@ -13,11 +13,11 @@
 namespace workbench {
 namespace {
 
-/// Ends the program where the add-in raised what it does not as a matter of course.
+/// Ends the program where the add-in threw what it does not as a matter of course.
 void refuseFailedAddin(const host::Session& session) {
-    const std::string raised = explain(session, "");
-    if (!raised.empty()) {
-        throw Failure(ExitCode::AddinFailed, raised);
+    const std::string thrown = explain(session, "");
+    if (!thrown.empty()) {
+        throw Failure(ExitCode::AddinFailed, thrown);
     }
 }
 

@@ -9,11 +9,10 @@ namespace workbench {
 /// output file written or changed, except by what opens several files.
 enum class ExitCode : int {
     Success = 0,
-    BadInput = 1,  ///< the given file cannot be read as a design, or not be measured
-    BadUsage = 2,  ///< the command line makes no sense
-    NoAddin = 3,   ///< the add-in is missing, cannot be started, or is in use by another process
-    AddinFailed =
-        4,  ///< the add-in raised something it ordinarily does not, or did not do its work
+    BadInput = 1,     ///< the given file cannot be read as a design, or not be measured
+    BadUsage = 2,     ///< the command line makes no sense
+    NoAddin = 3,      ///< the add-in is missing, cannot be started, or is in use by another process
+    AddinFailed = 4,  ///< the add-in threw something it ordinarily does not, or did not do its work
     OutputFailed = 5,  ///< a result cannot be written
 };
 

@@ -4,7 +4,7 @@
 #include "workbench/display_text.h"
 #include "workbench/exit_code.h"
 #include "workbench/helpdesk_actions.h"
-#include "workbench/raised.h"
+#include "workbench/uncaught.h"
 
 #include "host/base/utf8_path.h"
 #include "host/session/session.h"
@@ -24,7 +24,7 @@ host::SessionOptions sessionOptions(const HelpdeskOptions& options) {
     host::SessionOptions session = userSession(options.addin);
     session.shell = options.open ? host::shell_requests::Policy::RecordOpen
                                  : host::shell_requests::Policy::Record;
-    session.personsTemporaryFolder = options.here;
+    session.useUserTempDir = options.here;
     session.system.sleepTakesTime = true;
     session.system.consoleMayHide = true;
     return session;
@@ -42,7 +42,7 @@ struct Outcome {
     fs::path supportFolder;  ///< empty where there is no folder for temporary files
     std::vector<std::string> opened;
     std::vector<host::Message> messages;
-    std::vector<host::Raised> raised;
+    std::vector<host::UncaughtException> thrown;
 };
 
 Outcome pressButtons(const HelpdeskOptions& options) {
@@ -58,10 +58,10 @@ Outcome pressButtons(const HelpdeskOptions& options) {
     const fs::path temporary = fs::temp_directory_path(failure);
     session->stop();
     return {failure ? fs::path() : temporary / kSupportFolder, session->openedByShell(),
-            session->messages(), session->raised()};
+            session->messages(), session->uncaughtExceptions()};
 }
 
-/// Tells what the add-in said and asked for; ends the program when it raised something.
+/// Tells what the add-in said and asked for; ends the program when it threw something.
 void report(const Outcome& outcome, bool mayOpen) {
     for (const std::string& target : outcome.opened) {
         std::cout << "The add-in asked to open " << printable(target)
@@ -70,8 +70,8 @@ void report(const Outcome& outcome, bool mayOpen) {
     for (const host::Message& message : outcome.messages) {
         std::cerr << "the add-in says: " << printable(message.text) << "\n";
     }
-    const auto first = std::find_if_not(outcome.raised.begin(), outcome.raised.end(), isOrdinary);
-    if (first != outcome.raised.end()) {
+    const auto first = std::find_if_not(outcome.thrown.begin(), outcome.thrown.end(), isOrdinary);
+    if (first != outcome.thrown.end()) {
         throw Failure(ExitCode::AddinFailed, describe(*first));
     }
 }

@@ -15,8 +15,8 @@ struct HelpdeskOptions {
 /// The names of the helpdesk buttons on the command line.
 std::vector<std::string> helpdeskActions();
 
-/// Presses helpdesk buttons of the add-in in one host, and prints what came of it. Raises a
-/// `Failure` when the add-in raises something, or cannot be used.
+/// Presses helpdesk buttons of the add-in in one host, and prints what came of it. Throws a
+/// `Failure` when the add-in throws something, or cannot be used.
 void runHelpdesk(const HelpdeskOptions& options);
 
 }  // namespace workbench

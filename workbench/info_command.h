@@ -11,7 +11,7 @@ struct InfoOptions {
     ReadingLimits limits;
 };
 
-/// Prints on stdout what a file holds: components, occurrences, levels, units, materials. Raises a
+/// Prints on stdout what a file holds: components, occurrences, levels, units, materials. Throws a
 /// `Failure` for a file that cannot be read.
 void runInfo(const InfoOptions& options);
 

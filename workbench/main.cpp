@@ -73,7 +73,7 @@ CLI::App* addBom(CLI::App& program, BomOptions& options) {
     addWishes(*command, options);
     command->add_flag("--open", options.open, "Let the add-in open its workbook");
     command->add_flag("--verbose", options.verbose,
-                      "Also tell what the add-in raises as a matter of course");
+                      "Also tell what the add-in throws as a matter of course");
     addAddin(*command, options.addin);
     addLimits(*command, options.limits);
     return command;

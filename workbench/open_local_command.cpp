@@ -61,13 +61,13 @@ void watchWaiting(const std::weak_ptr<ProgressLine>& watched) {
         line->show(printable(progress->text) + "  (Ctrl-C cancels)");
     }
     constexpr double kLookEach = 0.1;
-    host::clock::at(host::clock::now() + kLookEach, [watched] { watchWaiting(watched); });
+    host::clock::schedule(host::clock::now() + kLookEach, [watched] { watchWaiting(watched); });
 }
 
 host::SessionOptions waitingSession(const OpenLocalOptions& options) {
     host::SessionOptions session = userSession(options.addin);
     session.system.sleepTakesTime = true;
-    session.host.clock = host::clock::Pace::Running;
+    session.host.clock = host::clock::ClockMode::Real;
     session.host.longestWait = options.timeout;
     return session;
 }
@@ -91,12 +91,12 @@ std::vector<std::string> absoluteNames(const std::vector<std::string>& files) {
     return names;
 }
 
-/// What the add-in raised for want of its locale, in words that help.
+/// What the add-in threw for want of its locale, in words that help.
 Failure explained(const Failure& failure, const host::Session& session) {
-    const auto& raised = session.raised();
-    const bool missing = std::any_of(raised.begin(), raised.end(), [](const host::Raised& each) {
-        return each.text == "bad locale name";
-    });
+    const auto& thrown = session.uncaughtExceptions();
+    const bool missing = std::any_of(
+        thrown.begin(), thrown.end(),
+        [](const host::UncaughtException& each) { return each.text == "bad locale name"; });
     return missing ? Failure(ExitCode::AddinFailed,
                              "the add-in needs the Czech locale, which this system does not have; "
                              "as root, localedef -i cs_CZ -f UTF-8 cs_CZ.UTF-8 makes it")

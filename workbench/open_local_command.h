@@ -16,7 +16,7 @@ struct OpenLocalOptions {
 /// Has "Open local file" bring files into the host, and saves each document that it opened as a
 /// design file. Ctrl-C presses Cancel in what the add-in waits for; a second one ends the program.
 ///
-/// Raises a `Failure` where not every file became a document; those that did are saved.
+/// Throws a `Failure` where not every file became a document; those that did are saved.
 void runOpenLocal(const OpenLocalOptions& options);
 
 }  // namespace workbench

@@ -9,7 +9,7 @@
 namespace workbench {
 
 /// Saves designs as design files in a folder, each under its name, and tells of each on stdout. A
-/// file that is there already stays: a number goes behind the name then. Raises a `Failure` for one
+/// file that is there already stays: a number goes behind the name then. Throws a `Failure` for one
 /// that cannot be saved.
 void saveInFolder(const std::vector<host::DesignData>& designs,
                   const std::filesystem::path& folder);

@@ -72,7 +72,7 @@ std::map<std::string, std::string> setValues(host::Session& session,
     return asked;
 }
 
-/// What the design does not take, such as another name for its root component, is not passed over:
+/// What the design does not take, such as another name for its root component, is not skipped:
 /// the add-in tells nobody of it.
 void refuseUntaken(const std::map<std::string, std::string>& asked,
                    const std::vector<ShownProperty>& held) {

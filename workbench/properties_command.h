@@ -20,7 +20,7 @@ struct PropertiesOptions {
 
 /// Picks a component in the add-in's dialog and prints what the dialog shows of it. With `save`
 /// the values are put in first, the dialog is accepted, and what is printed is what the design then
-/// holds. Raises a `Failure`, with nothing printed and no design saved, when any of this fails, or
+/// holds. Throws a `Failure`, with nothing printed and no design saved, when any of this fails, or
 /// when the design then holds another value than one that was put in.
 void runProperties(const PropertiesOptions& options);
 

@@ -15,7 +15,7 @@ struct ReadingLimits {
 };
 
 /// Reads a design out of a file, with a progress line on a terminal and a line on stderr for each
-/// thing that the reader had to say. Raises a `Failure` for a file that cannot be read.
+/// thing that the reader had to say. Throws a `Failure` for a file that cannot be read.
 host::DesignData readDesign(const std::string& file, const ReadingLimits& limits);
 
 /// Writes what a reader had to say on stderr, a line for each.

@@ -17,7 +17,7 @@ struct ShownColumn {
 /// The shown columns, in order.
 std::vector<ShownColumn> columnsOf(const host::TableView& table);
 
-/// The column of a name, its key before its property. Raises a `Failure` that begins with `what`
+/// The column of a name, its key before its property. Throws a `Failure` that begins with `what`
 /// and tells the keys, where there is none.
 ShownColumn findColumn(const std::vector<ShownColumn>& columns, const std::string& name,
                        const std::string& what);

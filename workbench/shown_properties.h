@@ -19,8 +19,8 @@ struct ShownProperty {
 /// What the open dialog shows of the picked component, in its order.
 std::vector<ShownProperty> readProperties(const host::Session& session);
 
-/// Puts a value into the line of that name, and yields the line's id. Of buttons the one of that
-/// caption goes on and all others go off; an empty value leaves none on. Raises a `Failure` for a
+/// Puts a value into the line of that name, and returns the line's id. Of buttons the one of that
+/// caption goes on and all others go off; an empty value leaves none on. Throws a `Failure` for a
 /// name or a caption that the dialog does not have.
 std::string setProperty(host::Session& session, const std::string& name, const std::string& value);
 

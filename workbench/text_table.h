@@ -9,7 +9,7 @@ namespace workbench {
 /// A table for the terminal or for a file: a line of captions, a rule, and the rows.
 ///
 /// Columns are as wide as their widest text, measured in terminal columns. A column whose texts all
-/// are numbers stands right-aligned under its caption. No line ends in blanks. Texts are made
+/// are numbers stands right-aligned under its caption. No line ends in spaces. Texts are made
 /// printable on the way in.
 class TextTable {
 public:
@@ -18,7 +18,7 @@ public:
     /// Adds a row; missing cells are empty, surplus ones are dropped.
     void add(const std::vector<std::string>& cells);
 
-    /// All lines, each ended by a line feed. `indent` blanks stand before each.
+    /// All lines, each ended by a line feed. `indent` spaces stand before each.
     [[nodiscard]] std::string text(std::size_t indent = 0) const;
 
 private:

@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-/// Raises a `Failure` when components could not be measured: their masses, and whatever is summed
+/// Throws a `Failure` when components could not be measured: their masses, and whatever is summed
 /// up over them, would be too small without anyone seeing it.
 void refuseUnmeasured(const std::vector<host::Unmeasured>& components);
 

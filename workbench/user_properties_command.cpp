@@ -43,7 +43,7 @@ void save(host::Session& session) {
     session.click(kSave);
 }
 
-/// A name that is none to the settings, which keep no blanks at the ends of a text.
+/// A name that is none to the settings, which keep no spaces at the ends of a text.
 void refuseUnusableName(const std::string& name) {
     if (name.empty()) {
         throw Failure(ExitCode::BadUsage, "a custom property needs a name");
@@ -91,7 +91,7 @@ std::vector<std::string> namesToKeep(const host::Session& session) {
     return names;
 }
 
-/// Edits the list and saves it; yields the names that it then has to have.
+/// Edits the list and saves it; returns the names that it then has to have.
 std::vector<std::string> change(DialogRun& run, const UserPropertiesOptions& options) {
     std::vector<std::string> names;
     showList(run);

@@ -14,7 +14,7 @@ struct UserPropertiesOptions {
 
 /// Prints this user's list of custom properties, a name on each line, after a change of it if one
 /// is asked for. The list is edited in the add-in's dialog; a name that the dialog does not take
-/// raises a `Failure` with what the dialog says, and changes nothing. Another is raised where the
+/// throws a `Failure` with what the dialog says, and changes nothing. Another is thrown where the
 /// dialog does not show the changed list when it opens again.
 void runUserProperties(const UserPropertiesOptions& options);
 

@@ -156,7 +156,7 @@ void endHost() {
     running()->dispose();
     running() = nullptr;
     ui::forgetPosted();
-    clock::start(clock::Pace::Standing);
+    clock::start(clock::ClockMode::Virtual);
 }
 
 }  // namespace host

@@ -95,7 +95,7 @@ private:
     adsk::core::Ptr<adsk::core::Base> editObject_;
 };
 
-/// Starts a host; one that runs is ended first. Messages and misuses begin anew.
+/// Starts a host; one that runs is ended first. Messages and misuses begin again.
 adsk::core::Ptr<Application> startHost(const HostSetup& setup = {});
 
 /// Ends the host that runs: a running command ends with it, and whatever a module still holds is no

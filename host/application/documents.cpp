@@ -36,9 +36,9 @@ DesignData readConverted(const DataFileObject& file) {
                       Application::current()->importWarnings);
 }
 
-/// The design of a file, or a raised exception that tells why it cannot be opened yet, or ever.
+/// The design of a file, or a thrown exception that tells why it cannot be opened yet, or ever.
 DesignData convertedDesign(const DataFileObject& file) {
-    if (takeOne(storagePace().conversionsYieldingNothing) || clock::now() < file.convertedAt()) {
+    if (takeOne(storagePace().conversionsReturningNothing) || clock::now() < file.convertedAt()) {
         throw std::runtime_error(file.title() + ": is still being converted");
     }
     return readConverted(file);
@@ -59,7 +59,7 @@ Ptr<Document> DocumentsObject::item(std::size_t index) const {
 
 Ptr<Document> DocumentsObject::open(const Ptr<DataFile>& dataFile, bool /*visible*/) {
     if (closed<"Documents::open">(*this)) return {};
-    if (takeOne(storagePace().conversionsRaising)) {
+    if (takeOne(storagePace().conversionsThrowing)) {
         throw std::runtime_error("the conversion failed");
     }
     const Ptr<DataFileObject> file = dataFile;

@@ -56,7 +56,7 @@ void runPosted() {
     ui::CommandRunner& runner = application->ui().runner();
     runner.whileWaiting([&] {
         work();
-        runner.settle();
+        runner.drainRequests();
     });
 }
 
@@ -98,7 +98,7 @@ void autoTerminate(bool value) {
 
 void terminate() {
     if (host::refused<"adsk::terminate">()) return;
-    host::notBuilt("adsk::terminate");
+    host::notImplemented("adsk::terminate");
 }
 
 }  // namespace adsk

@@ -9,7 +9,7 @@ namespace {
 using Steady = std::chrono::steady_clock;
 
 struct State {
-    Pace pace = Pace::Standing;
+    ClockMode mode = ClockMode::Virtual;
     double standing = 0;
     Steady::time_point started = Steady::now();
     std::multimap<double, std::function<void()>> planned;
@@ -27,19 +27,19 @@ double seconds(Steady::duration duration) {
 
 }  // namespace
 
-void start(Pace pace) {
+void start(ClockMode mode) {
     state() = {};
-    state().pace = pace;
+    state().mode = mode;
 }
 
 double now() {
     const State& all = state();
-    return all.pace == Pace::Running ? seconds(Steady::now() - all.started) : all.standing;
+    return all.mode == ClockMode::Real ? seconds(Steady::now() - all.started) : all.standing;
 }
 
-void pass(std::chrono::milliseconds duration) { state().standing += seconds(duration); }
+void advance(std::chrono::milliseconds duration) { state().standing += seconds(duration); }
 
-void at(double seconds, std::function<void()> action) {
+void schedule(double seconds, std::function<void()> action) {
     state().planned.emplace(seconds, std::move(action));
 }
 

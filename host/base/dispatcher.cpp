@@ -12,8 +12,8 @@
 namespace host {
 namespace {
 
-std::vector<Raised>& records() {
-    static auto* instance = new std::vector<Raised>;
+std::vector<UncaughtException>& records() {
+    static auto* instance = new std::vector<UncaughtException>;
     return *instance;
 }
 
@@ -39,7 +39,7 @@ bool enterModule(const std::string& event, const std::string& inputId,
         return true;
     } catch (const std::exception& error) {
         const std::string type = currentExceptionType();
-        // A null handle raises the bare class, whose own `what` is only its name.
+        // A null handle throws the bare class, whose own `what` is only its name.
         records().push_back({event, inputId, type, type == "std::exception" ? "" : error.what()});
     } catch (...) {
         records().push_back({event, inputId, currentExceptionType(), ""});
@@ -47,8 +47,8 @@ bool enterModule(const std::string& event, const std::string& inputId,
     return false;
 }
 
-const std::vector<Raised>& raised() { return records(); }
+const std::vector<UncaughtException>& uncaughtExceptions() { return records(); }
 
-void clearRaised() { records().clear(); }
+void clearUncaughtExceptions() { records().clear(); }
 
 }  // namespace host

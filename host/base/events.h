@@ -84,9 +84,9 @@ public:
 
     [[nodiscard]] bool hasHandlers() const { return !link_->handlers.empty(); }
 
-    /// Notifies all handlers in the order they were added. One that raises is recorded and does not
-    /// keep the others from being notified; one that goes while another runs is passed over. Yields
-    /// false when any raised.
+    /// Notifies all handlers in the order they were added. One that throws is recorded and does not
+    /// keep the others from being notified; one that goes while another runs is skipped. Returns
+    /// false when any threw.
     bool fire(const adsk::core::Ptr<ArgumentsInterface>& arguments,
               const std::string& inputId = "") {
         const std::shared_ptr<adsk::core::EventLink> link = link_;

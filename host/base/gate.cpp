@@ -18,7 +18,7 @@ Memory& memory() {
     return *instance;
 }
 
-void updateAttention() { state().attentive = memory().refuseIn > 0 || memory().recording; }
+void updateArmed() { state().armed = memory().refuseIn > 0 || memory().recording; }
 
 }  // namespace
 
@@ -29,7 +29,7 @@ State& state() {
     return instance;
 }
 
-bool attend(Call& passing) {
+bool onArmedCall(Call& passing) {
     Memory& all = memory();
     if (all.recording) {
         all.recorded.emplace_back(passing.name);
@@ -39,7 +39,7 @@ bool attend(Call& passing) {
         return false;
     }
     all.refusedCall = passing.name;
-    updateAttention();
+    updateArmed();
     return true;
 }
 
@@ -52,7 +52,7 @@ void reset() {
     all.refusedCall.reset();
     all.recording = false;
     all.recorded.clear();
-    updateAttention();
+    updateArmed();
 }
 
 std::uint64_t count(const std::string& name) {
@@ -85,7 +85,7 @@ void refuse(const std::string& name, std::uint64_t nth) {
     memory().refusedName = name;
     memory().refuseIn = nth;
     memory().refusedCall.reset();
-    updateAttention();
+    updateArmed();
 }
 
 void refuseAny(std::uint64_t nth) { refuse("", nth); }
@@ -94,7 +94,7 @@ std::optional<std::string> refusedCall() { return memory().refusedCall; }
 
 void record(bool on) {
     memory().recording = on;
-    updateAttention();
+    updateArmed();
 }
 
 std::vector<std::string> recorded() { return memory().recorded; }

@@ -12,7 +12,7 @@
 /// The gate that every call of the public API passes.
 ///
 /// It counts calls by name, can be told to refuse one, and to record their order. A refused call
-/// does nothing and yields null, false, zero or an empty value. Calls count only while a module
+/// does nothing and returns null, false, zero or an empty value. Calls count only while a module
 /// runs, that is inside a `gate::Module`: what the host and a session do among themselves is not a
 /// call.
 ///
@@ -47,14 +47,14 @@ inline Call call{Name.text};
 
 /// What the gate has been asked to do besides counting; read on each call.
 struct State {
-    int modules = 0;         ///< how many notifications run inside each other
-    bool attentive = false;  ///< a refusal is due, or calls are being recorded
+    int modules = 0;     ///< how many notifications run inside each other
+    bool armed = false;  ///< a refusal is due, or calls are being recorded
 };
 
 State& state();
 
 /// The slow way through the gate: records the call, and tells whether it is refused.
-bool attend(Call& passing);
+bool onArmedCall(Call& passing);
 
 /// While it lives, calls are a module's.
 class Module {
@@ -107,7 +107,7 @@ std::vector<std::string> recorded();
 
 }  // namespace gate
 
-/// Passes the gate; true when the call is refused and has to yield nothing.
+/// Passes the gate; true when the call is refused and has to return nothing.
 template <CallName Name>
 bool refused() {
     gate::State& state = gate::state();
@@ -115,7 +115,7 @@ bool refused() {
         return false;
     }
     ++gate::call<Name>.count;
-    return state.attentive && gate::attend(gate::call<Name>);
+    return state.armed && gate::onArmedCall(gate::call<Name>);
 }
 
 }  // namespace host

@@ -17,7 +17,7 @@ bool fail(int code, const std::string& description) {
     return false;
 }
 
-bool notBuilt(const std::string& operation) {
+bool notImplemented(const std::string& operation) {
     return fail(kBadApiCall, operation + " is not part of the stand-in host");
 }
 

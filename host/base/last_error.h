@@ -17,6 +17,6 @@ LastError& lastError();
 bool fail(int code, const std::string& description);
 
 /// Notes a call of an operation that the stand-in does not have; always false.
-bool notBuilt(const std::string& operation);
+bool notImplemented(const std::string& operation);
 
 }  // namespace host

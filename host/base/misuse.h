@@ -10,7 +10,7 @@
 ///
 /// A module's misuse is what the host would punish or leave undefined: a call on a deleted object,
 /// an id used twice for a tab, a call at a wrong time. The call fails as it would in the host, and
-/// is listed here. A person's is an action that the screen does not offer; it raises.
+/// is listed here. A person's is an action that the screen does not offer; it throws.
 namespace host {
 
 /// A call that a module should not have made.
@@ -37,7 +37,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Passes the gate and looks whether the object still stands. True when the operation has to yield
+/// Passes the gate and looks whether the object still stands. True when the operation has to return
 /// nothing: the call is refused, or the object was deleted.
 template <CallName Name, class Interface>
 bool closed(const Object<Interface>& object) {

@@ -42,7 +42,7 @@ std::string DataFileObject::name() const {
 
 bool DataFileObject::name(const std::string& /*value*/) {
     if (denied<"DataFile::name">(*this)) return {};
-    return notBuilt("DataFile::name: to rename a file");
+    return notImplemented("DataFile::name: to rename a file");
 }
 
 Ptr<DataFolder> DataFileObject::parentFolder() const {

@@ -82,7 +82,7 @@ std::string DataFolderObject::name() const {
 
 bool DataFolderObject::name(const std::string& /*value*/) {
     if (denied<"DataFolder::name">(*this)) return {};
-    return notBuilt("DataFolder::name: to rename a folder");
+    return notImplemented("DataFolder::name: to rename a folder");
 }
 
 bool DataFolderObject::isRoot() const {

@@ -26,7 +26,7 @@ std::string DataProjectObject::name() const {
 
 bool DataProjectObject::name(const std::string& /*value*/) {
     if (denied<"DataProject::name">(*this)) return {};
-    return notBuilt("DataProject::name: to rename a project");
+    return notImplemented("DataProject::name: to rename a project");
 }
 
 Ptr<DataFolder> DataProjectObject::rootFolder() const {

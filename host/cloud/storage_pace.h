@@ -11,8 +11,8 @@ struct StoragePace {
     /// From the end of an upload until the file can be opened.
     double conversionSeconds = 0;
 
-    int conversionsYieldingNothing = 0;  ///< so many tries to open a file yield null
-    int conversionsRaising = 0;          ///< so many tries, before those, raise an exception
+    int conversionsReturningNothing = 0;  ///< so many tries to open a file return null
+    int conversionsThrowing = 0;          ///< so many tries, before those, throw an exception
 };
 
 /// How the storage of the host that runs behaves; to be changed by whoever started it.

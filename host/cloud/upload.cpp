@@ -84,7 +84,7 @@ void UploadObject::arrive(const fs::path& source, const fs::path& name) {
         file_->convertedAt(clock::now() + storagePace().conversionSeconds);
         state_ = adsk::core::UploadFinished;
     } else {
-        fail("a name that begins with a dot is passed over");
+        fail("a name that begins with a dot is skipped");
     }
 }
 
@@ -95,7 +95,7 @@ void UploadObject::fail(const std::string& why) {
 
 Ptr<DataFileFuture> beginUpload(const Ptr<DataFolderObject>& folder, const std::string& filename) {
     Ptr<UploadObject> upload = make<UploadObject>(folder);
-    clock::at(clock::now() + storagePace().uploadSeconds, endOf(upload, filename));
+    clock::schedule(clock::now() + storagePace().uploadSeconds, endOf(upload, filename));
     return upload;
 }
 

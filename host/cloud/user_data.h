@@ -12,7 +12,7 @@
 /// Each folder directly in it is a project, and what lies in that are the project's folders and
 /// files. A file is called as on the disk, without its ending. The disk is looked at whenever a
 /// folder is asked for what it holds, so what is put there meanwhile is found. Links to folders are
-/// not followed, and names that begin with "." are passed over.
+/// not followed, and names that begin with "." are skipped.
 namespace host {
 
 /// When the host learns which file a referenced document was saved to.
@@ -32,7 +32,7 @@ class DataObject;
 /// Whoever makes it keeps it; what a module was handed out of it is not valid after its end.
 class UserData {
 public:
-    /// Raises `std::invalid_argument` for a path that is no folder, or a project that is not there.
+    /// Throws `std::invalid_argument` for a path that is no folder, or a project that is not there.
     explicit UserData(UserDataSetup setup);
     UserData(const UserData&) = delete;
     UserData& operator=(const UserData&) = delete;

@@ -9,7 +9,7 @@ namespace host {
 /// after a crash: the content goes into a new file beside it, down to the disk, which then takes
 /// the name. A link is followed, and a file that is replaced hands its permissions on.
 ///
-/// Raises `std::system_error` where that fails; the old file then stands, and nothing new beside
+/// Throws `std::system_error` where that fails; the old file then stands, and nothing new beside
 /// it.
 void writeFileAtomically(const std::filesystem::path& path, std::string_view content);
 

@@ -66,7 +66,7 @@ std::string ComponentObject::partNumber() const {
 bool ComponentObject::partNumber(const std::string& value) {
     if (denied<"Component::partNumber">(*this)) return {};
     data_.partNumber = value;
-    data_.numberIsOwn = true;
+    data_.hasExplicitPartNumber = true;
     ++model_->edits.all;
     return true;
 }

@@ -26,7 +26,7 @@ inline constexpr std::size_t kUsualMegabytes = 3072;
 /// How deep assemblies may stand in each other.
 inline constexpr std::size_t kMaximumLevels = 500;
 
-/// Raises `DesignError` for a design without a root component, with a child that is no component,
+/// Throws `DesignError` for a design without a root component, with a child that is no component,
 /// an assembly that contains itself, more occurrences or levels than allowed, two uses of a
 /// component under one number, two attributes of one name, or numbers that measure nothing.
 ///

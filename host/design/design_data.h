@@ -32,7 +32,7 @@ struct Box {
 /// The bodies of one component, measured when somebody asks.
 ///
 /// One object serves all components that share the same shape, so a shape is measured once. What
-/// cannot be measured raises a `std::exception` that says why, each time that somebody asks.
+/// cannot be measured throws a `std::exception` that says why, each time that somebody asks.
 class Geometry {
 public:
     virtual ~Geometry() = default;
@@ -96,7 +96,8 @@ struct ComponentData {
     std::shared_ptr<Geometry> geometry;  ///< null for a component without bodies of its own
     std::vector<SketchData> sketches;
     std::string document;  ///< the other document that it belongs to; empty for this design's own
-    bool numberIsOwn = false;  ///< the part number was set: it does not follow the name any more
+    bool hasExplicitPartNumber =
+        false;  ///< the part number was set: it does not follow the name any more
 };
 
 /// Where the shapes of a design come from.

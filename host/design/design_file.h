@@ -23,19 +23,19 @@ struct DesignFileLimits {
 };
 
 /// Reads the source of a design again, with its `source` telling the fingerprint that it has now.
-/// What it raises leaves `loadDesignFile` as it is.
+/// What it throws leaves `loadDesignFile` as it is.
 using ReadSource = std::function<DesignData(const SourceFile&)>;
 
 /// Writes a design. The file holds the old design or the new one, whole, whatever happens.
 ///
-/// Bytes of a text that are no UTF-8 become U+FFFD. Raises `DesignError` that names the file and
+/// Bytes of a text that are no UTF-8 become U+FFFD. Throws `DesignError` that names the file and
 /// the reason, for a design that does not fulfil `checkDesign` too; the old file then stands.
 void saveDesignFile(const std::filesystem::path& path, const DesignData& data);
 
 /// Reads a design that `saveDesignFile` wrote, or somebody by hand.
 ///
 /// `readSource` is asked only where bodies are in a source; the source is looked for at its path
-/// and then beside the design file. Raises `DesignError` that names the file, the place in it and
+/// and then beside the design file. Throws `DesignError` that names the file, the place in it and
 /// what would be right.
 DesignData loadDesignFile(const std::filesystem::path& path, const ReadSource& readSource = {},
                           const DesignFileLimits& limits = {});

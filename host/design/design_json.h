@@ -19,7 +19,7 @@ struct ReadDesign {
     std::vector<bool> hasSourceBodies;
 };
 
-/// Reads a design; what it holds is well-formed, but not yet checked as a design. Raises
+/// Reads a design; what it holds is well-formed, but not yet checked as a design. Throws
 /// `DesignError` that names the place and what should stand there.
 ReadDesign fromJson(const nlohmann::json& json);
 

@@ -16,13 +16,13 @@
 /// Documents: a design as the public API shows it, made from a `DesignData` and read back as one.
 ///
 /// Whoever opens a document keeps it and ends it. A module may hold on to anything that it was
-/// handed out of a document for ever: after the end it is not valid, and asking it yields nothing.
+/// handed out of a document for ever: after the end it is not valid, and asking it returns nothing.
 namespace host {
 
 /// Opens a design as a document of `parent`, which may be null.
 ///
 /// The root component is called like the document, and components that share a name are told apart,
-/// as in `makeNamesUnique`. Raises `DesignError` where `checkDesign` does. Nothing is measured.
+/// as in `makeNamesUnique`. Throws `DesignError` where `checkDesign` does. Nothing is measured.
 adsk::core::Ptr<adsk::core::Document> makeDocument(
     DesignData data, const adsk::core::Ptr<adsk::core::Application>& parent = nullptr);
 

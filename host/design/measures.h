@@ -41,7 +41,7 @@ Measures measure(ComponentObject& component);
 
 /// The box around a component along its axes, exact for every body in it; none without any body.
 ///
-/// Worked out once, until something is placed anew.
+/// Worked out once, until something is placed again.
 std::optional<Box> boxOf(ComponentObject& component);
 
 }  // namespace host

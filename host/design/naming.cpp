@@ -50,7 +50,7 @@ void ComponentNames::release(const std::string& name) {
 }
 
 void renameComponent(ComponentData& component, const std::string& name) {
-    if (!component.numberIsOwn && component.partNumber == component.name) {
+    if (!component.hasExplicitPartNumber && component.partNumber == component.name) {
         component.partNumber = name;
     }
     component.name = name;

@@ -14,7 +14,7 @@ namespace host {
 class ComponentNames {
 public:
     /// Takes a name into use: the wanted one, or where that is taken the wanted one with the lowest
-    /// free number behind it, as in "Bolt (1)". Yields the name taken.
+    /// free number behind it, as in "Bolt (1)". Returns the name taken.
     std::string claim(const std::string& wanted);
 
     /// Gives a name back.

@@ -62,7 +62,7 @@ private:
         }
         if (line.indent < base_ || (line.indent - base_) % 2 != 0) {
             refuseLine(line.number,
-                       "the indent should be that of the first line and two blanks more "
+                       "the indent should be that of the first line and two spaces more "
                        "for each level");
         }
         const std::size_t level = (line.indent - base_) / 2 + 1;

@@ -15,8 +15,8 @@ namespace host {
 ///         Bolt
 ///       Bolt
 ///
-/// Each line is a use of a component: its name, then two or more blanks, then what is told of it.
-/// Two more blanks of indent put it into the line above; the indent of the first line is that of
+/// Each line is a use of a component: its name, then two or more spaces, then what is told of it.
+/// Two more spaces of indent put it into the line above; the indent of the first line is that of
 /// what stands directly under the root component. The same name again is the same component: what
 /// is told of a component, and what stands in it, may be given at one of its lines or equally at
 /// several.
@@ -31,10 +31,10 @@ namespace host {
 /// - `document=` the other document that it comes from
 ///
 /// Of this use: `at=x,y,z` in cm, and `grounded`. A line `(absent)` is a place at which the host
-/// has no occurrence to give. A text in double quotes may hold blanks, and `\"` and `\\` in it
+/// has no occurrence to give. A text in double quotes may hold spaces, and `\"` and `\\` in it
 /// stand for a quote and a backslash.
 ///
-/// The design is called "Design". Raises `std::invalid_argument`, naming line and reason, for a
+/// The design is called "Design". Throws `std::invalid_argument`, naming line and reason, for a
 /// text that does not follow this.
 DesignData parseOutline(const std::string& text);
 

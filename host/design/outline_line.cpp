@@ -87,13 +87,13 @@ OutlineLine readLine(const std::string& text, std::size_t number) {
     line.number = number;
     line.indent = text.find_first_not_of(' ');
     if (text.find('\t') != std::string::npos) {
-        refuseLine(number, "tabs are not understood, only blanks");
+        refuseLine(number, "tabs are not understood, only spaces");
     }
     const std::size_t end = std::min(text.find("  ", line.indent), text.size());
     line.label = text.substr(line.indent, end - line.indent);
     line.absent = line.label == "(absent)";
     if (line.label.find('=') != std::string::npos) {
-        refuseLine(number, "two blanks are needed between the name and what is told of it");
+        refuseLine(number, "two spaces are needed between the name and what is told of it");
     }
     const std::vector<std::string> words = splitWords(text.substr(end), number);
     if (line.absent && !words.empty()) {

@@ -66,7 +66,7 @@ std::vector<ComponentData> named(std::vector<ImportedComponent> components) {
         component.data.name = names.take(component.name);
         const bool tells = !component.id.empty() && alike[{component.id, component.name}] == 1;
         component.data.partNumber = tells ? component.id : component.data.name;
-        component.data.numberIsOwn = tells;
+        component.data.hasExplicitPartNumber = tells;
         result.push_back(std::move(component.data));
     }
     return result;

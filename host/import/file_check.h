@@ -7,8 +7,8 @@
 namespace host {
 
 /// Looks whether a file can be STEP at all before a reader is started for it: it must be there, be
-/// an ordinary file that may be read, and begin with "ISO-10303-21;" (behind blanks, comments and
-/// a byte order mark) or be marked as IGES in its first line. Raises `ImportError` with one line
+/// an ordinary file that may be read, and begin with "ISO-10303-21;" (behind spaces, comments and
+/// a byte order mark) or be marked as IGES in its first line. Throws `ImportError` with one line
 /// that begins with the path as it was given.
 ///
 /// Returns the absolute path: files that a STEP file refers to are found from there.

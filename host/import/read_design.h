@@ -13,7 +13,7 @@ namespace host {
 /// Reads a design out of a file: STEP, or a design file of this host, told by its content.
 ///
 /// What a person should know although the design could be read is appended to `warnings`, one line
-/// each. Raises an `ImportError` or a `DesignError`, one line that names the file, for one that
+/// each. Throws an `ImportError` or a `DesignError`, one line that names the file, for one that
 /// cannot be read. It needs no session, and a relative path starts in the working directory.
 DesignData readDesign(const std::filesystem::path& file, const ImportLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings);

@@ -29,20 +29,20 @@ public:
         std::size_t megabytes = 0;  ///< resident memory
     };
 
-    /// Starts the program with its arguments; raises `ReaderFailure` when that is not possible.
+    /// Starts the program with its arguments; throws `ReaderFailure` when that is not possible.
     ReaderProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                   const Bounds& bounds);
     ReaderProcess(const ReaderProcess&) = delete;
     ReaderProcess& operator=(const ReaderProcess&) = delete;
     ~ReaderProcess();
 
-    /// From now on the bounded time runs anew.
+    /// From now on the bounded time runs again.
     void startClock();
 
     /// Sends a line; a failure shows with the next `receive`.
     void send(const std::string& line);
 
-    /// Waits for the next line; raises `ReaderFailure`.
+    /// Waits for the next line; throws `ReaderFailure`.
     std::string receive();
 
     [[nodiscard]] pid_t id() const { return process_; }

@@ -5,7 +5,7 @@
 namespace host {
 
 /// Where the program that reads STEP files stands: beside the host's library, else beside the
-/// running program. Raises `ImportError` when it is at neither place.
+/// running program. Throws `ImportError` when it is at neither place.
 std::filesystem::path findStepReader();
 
 }  // namespace host

@@ -12,7 +12,7 @@ namespace {
 
 using nlohmann::json;
 
-/// The reader's answer; raises why there is none.
+/// The reader's answer; throws why there is none.
 json ask(ReaderProcess& reader, const std::string& request, const std::string& file) {
     std::string reason;
     try {

@@ -10,7 +10,7 @@ namespace host {
 
 /// A shape that a reader holds: it is asked when somebody wants to know its size, once.
 ///
-/// A reader that fails raises a `std::runtime_error` with the file and the reason: for this
+/// A reader that fails throws a `std::runtime_error` with the file and the reason: for this
 /// question, and where it crashed or was ended for every later one.
 class StepGeometry final : public Geometry {
 public:

@@ -20,10 +20,10 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 
 /// Waits for the design and hands on what is told on the way.
-class Listening {
+class ResponseReader {
 public:
-    Listening(ReaderProcess& reader, const std::string& path, const ImportProgress& progress,
-              std::vector<std::string>& warnings)
+    ResponseReader(ReaderProcess& reader, const std::string& path, const ImportProgress& progress,
+                   std::vector<std::string>& warnings)
         : reader_(reader), path_(path), progress_(progress), warnings_(warnings) {}
 
     json design() {
@@ -179,7 +179,7 @@ DesignData importStep(const std::string& path, const ImportLimits& limits,
     } catch (const ReaderFailure& failure) {
         throw ImportError(path + ": " + failure.what());
     }
-    const json read = Listening(*reader, path, progress, warnings).design();
+    const json read = ResponseReader(*reader, path, progress, warnings).design();
     try {
         return designFrom(read, fs::path(path), file, reader);
     } catch (const json::exception&) {

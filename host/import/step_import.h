@@ -47,10 +47,10 @@ using ImportProgress = std::function<void(const std::string& stage, double fract
 MaterialData defaultMaterial();
 
 /// Reads a STEP file. The path may be relative; an empty `progress` is not called. What a person
-/// should know although the design could be read is appended to `warnings`, one line each. Raises
+/// should know although the design could be read is appended to `warnings`, one line each. Throws
 /// `ImportError`.
 ///
-/// A measurement that fails later (the reader crashed, or took more than the limits allow) raises a
+/// A measurement that fails later (the reader crashed, or took more than the limits allow) throws a
 /// `std::runtime_error`. A reader that crashed or was ended measures nothing any more.
 DesignData importStep(const std::string& path, const ImportLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings);

@@ -14,11 +14,11 @@ struct AddinFiles {
     [[nodiscard]] std::filesystem::path manifest() const;
 };
 
-/// The add-in of a folder; raises a `SessionError` that names what is missing.
+/// The add-in of a folder; throws a `SessionError` that names what is missing.
 AddinFiles findAddin(const std::filesystem::path& folder);
 
-/// Brings a copy of the add-in up to date in `parent`, in a folder of the add-in's name, and yields
-/// the copy.
+/// Brings a copy of the add-in up to date in `parent`, in a folder of the add-in's name, and
+/// returns the copy.
 ///
 /// The module and the manifest are copied where they differ, the other files where they are missing
 /// or newer than their copy. What stands only in the copy (settings, exports) is left alone.

@@ -8,7 +8,7 @@
 namespace host {
 
 /// What a person picks in the browser tree: the root component by its name or by an empty path, an
-/// occurrence by its full path name. Raises a `SessionError` that tells what stands where the path
+/// occurrence by its full path name. Throws a `SessionError` that tells what stands where the path
 /// goes astray.
 adsk::core::Ptr<adsk::core::Base> inBrowserTree(const adsk::core::Ptr<adsk::fusion::Design>& design,
                                                 const std::string& path);

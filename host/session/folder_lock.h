@@ -11,8 +11,8 @@ namespace host {
 /// whatever way that goes.
 class FolderLock {
 public:
-    /// Takes the lock of an existing folder at once, or yields none: another process has it, or the
-    /// folder cannot be written. A second lock in the same process counts as another's.
+    /// Takes the lock of an existing folder at once, or returns none: another process has it, or
+    /// the folder cannot be written. A second lock in the same process counts as another's.
     static std::unique_ptr<FolderLock> take(const std::filesystem::path& folder);
 
     FolderLock() = default;

@@ -14,9 +14,9 @@ namespace {
 
 namespace core = adsk::core;
 using core::Ptr;
-using ui::Acting;
 using ui::InputKind;
 using ui::InputState;
+using ui::UserAction;
 
 /// Whoever acts on a cell selects its row.
 void selectRowOf(const InputState& input) {
@@ -89,7 +89,7 @@ std::string itemNames(const ui::ListState& list) {
     return names.empty() ? "it has none" : "it has " + names;
 }
 
-void choose(Acting& acting, ui::ListState& list, std::size_t index) {
+void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
     selectRowOf(list);
     const bool unselects = list.several() && list.entries()[index].selected;
     if (list.select(index, !unselects)) {
@@ -98,7 +98,7 @@ void choose(Acting& acting, ui::ListState& list, std::size_t index) {
     acting.finish();
 }
 
-void showTab(Acting& acting, InputState& tab) {
+void showTab(UserAction& acting, InputState& tab) {
     ui::Command& dialog = ui::shownDialog();
     if (dialog.activeTab() != &tab) {
         dialog.activeTab(&tab);
@@ -130,7 +130,7 @@ ui::SelectionInput& pickTarget(const ui::Command& dialog) {
     if (focus == nullptr) {
         throw MisuseError("cannot pick: no selection of the dialog has the focus");
     }
-    const std::string why = ui::refusalToReach(*focus);
+    const std::string why = ui::whyUnreachable(*focus);
     if (!why.empty()) {
         throw MisuseError("cannot pick for " + ui::describe(*focus) + ": " + why);
     }
@@ -142,14 +142,14 @@ void passFocus(ui::Command& dialog, const ui::SelectionInput& full) {
     if (!full.isFull()) return;
     for (InputState* each : dialog.inputs().ofKind(InputKind::Selection)) {
         if (!static_cast<ui::SelectionInput*>(each)->isFull() &&
-            ui::refusalToReach(*each).empty()) {
+            ui::whyUnreachable(*each).empty()) {
             dialog.focus(each);
             return;
         }
     }
 }
 
-void pickInDialog(Acting& acting, const Ptr<core::Base>& entity) {
+void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity) {
     ui::Command& dialog = ui::shownDialog();
     ui::SelectionInput& target = pickTarget(dialog);
     if (target.picks().holds(entity)) {
@@ -178,7 +178,7 @@ void pickInDialog(Acting& acting, const Ptr<core::Base>& entity) {
 }  // namespace
 
 void click(const Ptr<core::CommandInput>& input) {
-    Acting acting;
+    UserAction acting;
     InputState* tab = InputState::of(input);
     if (tab != nullptr && tab->kind == InputKind::Tab) {
         activateTab(input);
@@ -194,7 +194,7 @@ void click(const Ptr<core::CommandInput>& input) {
 
 void typeText(const Ptr<core::CommandInput>& input, const std::string& text) {
     for (const std::string& grown : prefixes(text)) {
-        Acting acting;
+        UserAction acting;
         InputState& state = writable(input);
         selectRowOf(state);
         enter(state, grown);
@@ -204,7 +204,7 @@ void typeText(const Ptr<core::CommandInput>& input, const std::string& text) {
 }
 
 void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
-    Acting acting;
+    UserAction acting;
     InputState& state = writable(input);
     selectRowOf(state);
     enter(state, text);
@@ -213,7 +213,7 @@ void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
 }
 
 void chooseItem(const Ptr<core::CommandInput>& input, const std::string& item) {
-    Acting acting;
+    UserAction acting;
     ui::ListState& list = listAt(input);
     const int index = list.indexOf(item);
     if (index < 0) {
@@ -224,7 +224,7 @@ void chooseItem(const Ptr<core::CommandInput>& input, const std::string& item) {
 }
 
 void chooseItem(const Ptr<core::CommandInput>& input, std::size_t index) {
-    Acting acting;
+    UserAction acting;
     ui::ListState& list = listAt(input);
     if (index >= list.entries().size()) {
         throw MisuseError("cannot choose item " + std::to_string(index) + " from " +
@@ -234,7 +234,7 @@ void chooseItem(const Ptr<core::CommandInput>& input, std::size_t index) {
 }
 
 void activateTab(const Ptr<core::TabCommandInput>& tab) {
-    Acting acting;
+    UserAction acting;
     InputState* state = InputState::of(tab);
     if (state == nullptr || state->command() != &ui::shownDialog()) {
         throw MisuseError("cannot show a tab that the open dialog does not have");
@@ -246,7 +246,7 @@ void activateTab(const Ptr<core::TabCommandInput>& tab) {
 }
 
 void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
-    const Acting acting;
+    const UserAction acting;
     auto& state = static_cast<ui::TableInput&>(ui::usable(table, "select a row of"));
     const std::vector<int> shown = shownRows(table);
     if (std::find(shown.begin(), shown.end(), row) == shown.end()) {
@@ -257,7 +257,7 @@ void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
 }
 
 void pick(const Ptr<core::Base>& entity) {
-    Acting acting;
+    UserAction acting;
     if (!entity || !entity->isValid()) {
         throw MisuseError("cannot pick: there is no such entity");
     }
@@ -271,7 +271,7 @@ void pick(const Ptr<core::Base>& entity) {
 }
 
 void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
-    const Acting acting;
+    const UserAction acting;
     if (openDialog()) {
         throw MisuseError("cannot select in the model: a dialog is open, pick for it");
     }
@@ -284,7 +284,7 @@ void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
 }
 
 void reportChange(const Ptr<core::CommandInput>& input) {
-    Acting acting;
+    UserAction acting;
     InputState* state = InputState::of(input);
     if (state == nullptr || state->command() != &ui::shownDialog()) {
         throw MisuseError("cannot report a change of an input that the open dialog does not have");

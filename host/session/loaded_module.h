@@ -15,7 +15,7 @@ public:
 
     LoadedModule() = default;
 
-    /// Loads the file; raises a `SessionError` with the system's reason when it cannot.
+    /// Loads the file; throws a `SessionError` with the system's reason when it cannot.
     explicit LoadedModule(const std::filesystem::path& file);
 
     /// The exported function of that name, null if there is none.

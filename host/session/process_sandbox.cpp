@@ -4,14 +4,14 @@ namespace host {
 
 namespace fs = std::filesystem;
 
-Surroundings::Surroundings(const fs::path& folder, TemporaryFiles temporaryFiles)
+ProcessSandbox::ProcessSandbox(const fs::path& folder, TemporaryFiles temporaryFiles)
     : startedIn_(fs::current_path()), work_(folder / "work") {
     const fs::path temporary = folder / "temp";
     fs::remove_all(work_);
     fs::create_directories(work_);
     fs::create_directories(temporary);
     fs::current_path(work_);
-    if (temporaryFiles == TemporaryFiles::Persons) {
+    if (temporaryFiles == TemporaryFiles::UserTempDir) {
         return;
     }
     for (const environment::Text& name : environment::temporaryFolderNames()) {
@@ -20,7 +20,7 @@ Surroundings::Surroundings(const fs::path& folder, TemporaryFiles temporaryFiles
     }
 }
 
-Surroundings::~Surroundings() {
+ProcessSandbox::~ProcessSandbox() {
     for (const auto& [name, value] : variables_) {
         environment::setVariable(name, value);
     }

@@ -9,7 +9,7 @@
 namespace host {
 
 /// Where a module makes its temporary files.
-enum class TemporaryFiles { Private, Persons };
+enum class TemporaryFiles { Private, UserTempDir };
 
 /// The place a module runs in.
 ///
@@ -17,15 +17,15 @@ enum class TemporaryFiles { Private, Persons };
 /// files in a private folder, unless it is told to leave those where the person has them. What a
 /// module deletes in either is nobody else's. At the end the process stands where it stood, with
 /// the environment it had, and the working directory is gone.
-class Surroundings {
+class ProcessSandbox {
 public:
     /// Makes both folders below `folder`, as "work" and "temp". A working directory that a run
     /// before left is emptied; temporary files of that run stay.
-    explicit Surroundings(const std::filesystem::path& folder,
-                          TemporaryFiles temporaryFiles = TemporaryFiles::Private);
-    Surroundings(const Surroundings&) = delete;
-    Surroundings& operator=(const Surroundings&) = delete;
-    ~Surroundings();
+    explicit ProcessSandbox(const std::filesystem::path& folder,
+                            TemporaryFiles temporaryFiles = TemporaryFiles::Private);
+    ProcessSandbox(const ProcessSandbox&) = delete;
+    ProcessSandbox& operator=(const ProcessSandbox&) = delete;
+    ~ProcessSandbox();
 
     /// Where the process stood before: what a person's relative paths refer to.
     [[nodiscard]] const std::filesystem::path& startedIn() const { return startedIn_; }

@@ -18,8 +18,8 @@ namespace {
 using namespace adsk::core;
 
 SessionFolder makeFolder(const SessionOptions& options) {
-    return options.home.empty() ? SessionFolder::makeFresh(options.freshIn)
-                                : SessionFolder::keep(options.home, options.patience);
+    return options.home.empty() ? SessionFolder::makeFresh(options.scratchRoot)
+                                : SessionFolder::keep(options.home, options.lockTimeout);
 }
 
 DesignData emptyDesign() {
@@ -37,7 +37,7 @@ std::map<std::filesystem::path, LoadedModule>& leftModules() {
     return *modules;
 }
 
-/// Makes sure that the file will be loaded anew: its statics are to be those of a new session.
+/// Makes sure that the file will be loaded again: its statics are to be those of a new session.
 void takeOutLeftModule(const std::filesystem::path& file) {
     const auto left = leftModules().find(file);
     if (left != leftModules().end()) {
@@ -48,14 +48,14 @@ void takeOutLeftModule(const std::filesystem::path& file) {
 
 }  // namespace
 
-Session::Turn::Turn() {
+Session::SingleSessionGuard::SingleSessionGuard() {
     if (sessionLives) {
         throw SessionError("this process has a session already");
     }
     sessionLives = true;
 }
 
-Session::Turn::~Turn() { sessionLives = false; }
+Session::SingleSessionGuard::~SingleSessionGuard() { sessionLives = false; }
 
 Session::Session(SessionOptions options)
     : options_(std::move(options)),
@@ -74,13 +74,12 @@ Session::~Session() { end(); }
 void Session::begin() {
     takeOutLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
     addin_ = copyAddin(installed_, folder_.path());
-    surroundings_.emplace(folder_.path(), options_.personsTemporaryFolder
-                                              ? TemporaryFiles::Persons
-                                              : TemporaryFiles::Private);
+    sandbox_.emplace(folder_.path(), options_.useUserTempDir ? TemporaryFiles::UserTempDir
+                                                             : TemporaryFiles::Private);
     gate::reset();
-    host::clearRaised();
+    host::clearUncaughtExceptions();
     shell_requests::start(options_.shell);
-    system_answers::start(options_.system);
+    system_overrides::start(options_.system);
     startHost(options_.host);
     newDesign();
     module_ = LoadedModule(addin_.module());
@@ -93,13 +92,13 @@ void Session::end() noexcept {
     document_ = nullptr;
     data_.reset();
     shell_requests::start(shell_requests::Policy::PassOn);
-    system_answers::end();
+    system_overrides::end();
     if (options_.unloadAtEnd) {
         module_.unload();
     } else if (wasLoaded && !options_.home.empty()) {
         leftModules()[addin_.module()] = module_;
     }
-    surroundings_.reset();
+    sandbox_.reset();
     const bool stays = wasLoaded && !options_.unloadAtEnd;
     folder_.discard(stays ? addin_.module() : std::filesystem::path());
 }
@@ -109,7 +108,7 @@ bool Session::call(const char* entry, const char* context) {
     bool result = false;
     if (function != nullptr) {
         enterModule(entry, "", [&] { result = function(context); });
-        settle();
+        drainRequests();
     }
     return result;
 }
@@ -122,7 +121,7 @@ bool Session::run() {
 bool Session::stop() { return call("stop", R"({"IsApplicationClosing": true})"); }
 
 std::filesystem::path Session::absolute(const std::filesystem::path& file) const {
-    return surroundings_->startedIn() / file;
+    return sandbox_->startedIn() / file;
 }
 
 void Session::show(const Ptr<Document>& document, const Ptr<Product>& product) {
@@ -253,9 +252,11 @@ void Session::cancel() { pressCancel(); }
 
 void Session::activateWorkspace(const std::string& id) { host::activateWorkspace(id); }
 
-const std::vector<Raised>& Session::raised() const { return host::raised(); }
+const std::vector<UncaughtException>& Session::uncaughtExceptions() const {
+    return host::uncaughtExceptions();
+}
 
-void Session::clearRaised() { host::clearRaised(); }
+void Session::clearUncaughtExceptions() { host::clearUncaughtExceptions(); }
 
 const std::vector<std::string>& Session::importWarnings() const {
     return Application::current()->importWarnings;

@@ -35,8 +35,8 @@
 /// process has one session at a time, and as many after each other as it likes; each has a host of
 /// its own and the module's statics as they are after loading.
 ///
-/// What the module raises never reaches the caller: it is recorded, and `raised` tells it. What the
-/// screen does not offer raises a `MisuseError`. Actions that are not among the members here are in
+/// What the module throws never reaches the caller: it is recorded, and `thrown` tells it. What the
+/// screen does not offer throws a `MisuseError`. Actions that are not among the members here are in
 /// `host/session/user_actions.h`; they work on the host of the session.
 namespace host {
 
@@ -50,18 +50,18 @@ struct SessionOptions {
     std::filesystem::path home;
 
     /// Where fresh folders are made; empty: the system's folder for temporary files.
-    std::filesystem::path freshIn;
+    std::filesystem::path scratchRoot;
 
     /// How long to wait for a home that another process uses.
-    std::chrono::milliseconds patience{3000};
+    std::chrono::milliseconds lockTimeout{3000};
 
     HostSetup host;
     shell_requests::Policy shell = shell_requests::Policy::Record;
-    SystemAnswers system;
+    SystemOverrides system;
 
     /// Lets the module make its temporary files where the person's are, and not in the private
     /// folder.
-    bool personsTemporaryFolder = false;
+    bool useUserTempDir = false;
 
     /// Takes the module out of the process at the end, which lets thousands of sessions follow each
     /// other; a report of leaks can then not name its functions.
@@ -71,7 +71,7 @@ struct SessionOptions {
 class Session {
 public:
     /// Starts the host in its private surroundings and loads the module; `run` is the caller's.
-    /// Raises a `SessionError` where the add-in or its place is unusable, or another session lives;
+    /// Throws a `SessionError` where the add-in or its place is unusable, or another session lives;
     /// nothing is left then.
     explicit Session(SessionOptions options);
     Session(const Session&) = delete;
@@ -83,11 +83,11 @@ public:
     /// @name The add-in
     /// @{
 
-    /// Calls the module's `run` as a loader does; what it returned, false when it raised or has
+    /// Calls the module's `run` as a loader does; what it returned, false when it threw or has
     /// none.
     bool run();
 
-    /// Calls the module's `stop` as a loader does; what it returned, false when it raised or has
+    /// Calls the module's `stop` as a loader does; what it returned, false when it threw or has
     /// none.
     bool stop();
 
@@ -102,13 +102,13 @@ public:
     /// @{
 
     /// Opens a file in the place of the document that is open: STEP or a design file, told by its
-    /// content. A relative path starts where the process stood before the session. Yields what the
-    /// reader had to say; raises what it cannot read, with the document before still open.
+    /// content. A relative path starts where the process stood before the session. Returns what the
+    /// reader had to say; throws what it cannot read, with the document before still open.
     std::vector<std::string> open(const std::filesystem::path& file,
                                   const ImportLimits& limits = {},
                                   const ImportProgress& progress = {});
 
-    /// Opens a design drawn as an outline; raises a `DesignError` for one that cannot be read.
+    /// Opens a design drawn as an outline; throws a `DesignError` for one that cannot be read.
     void openOutline(const std::string& outline);
 
     /// Opens a design that was made in code.
@@ -127,7 +127,7 @@ public:
     void save(const std::filesystem::path& file);
 
     /// Makes a local folder the user's data. A document that is then opened from a file in one of
-    /// its projects, or saved into one, has that file. Raises a `SessionError` for a folder that is
+    /// its projects, or saved into one, has that file. Throws a `SessionError` for a folder that is
     /// none.
     void useData(UserDataSetup setup);
 
@@ -138,7 +138,7 @@ public:
     [[nodiscard]] std::vector<DesignData> designsOpenedByModule() const;
 
     /// Begins to edit a sketch of the open design; components and their sketches are counted as in
-    /// its `DesignData`. Raises a `SessionError` where there is none.
+    /// its `DesignData`. Throws a `SessionError` where there is none.
     void editSketch(std::size_t component, std::size_t sketch);
 
     /// Goes back to editing the component.
@@ -146,7 +146,7 @@ public:
     /// @}
 
     /// @name Hands
-    /// A `SessionError` or a `MisuseError` is raised for what is not there, with the names of what
+    /// A `SessionError` or a `MisuseError` is thrown for what is not there, with the names of what
     /// is.
     /// @{
 
@@ -202,10 +202,10 @@ public:
     /// @{
 
     /// What left the module as an exception since the session began, or since it was cleared.
-    [[nodiscard]] const std::vector<Raised>& raised() const;
-    void clearRaised();
+    [[nodiscard]] const std::vector<UncaughtException>& uncaughtExceptions() const;
+    void clearUncaughtExceptions();
 
-    /// What the reader had to say of files that the module opened, as `open` yields it of others.
+    /// What the reader had to say of files that the module opened, as `open` returns it of others.
     [[nodiscard]] const std::vector<std::string>& importWarnings() const;
 
     /// The components of the open design that were asked for their size and could not be measured:
@@ -220,13 +220,13 @@ public:
     /// @}
 
 private:
-    /// The right to be the process's session; raises a `SessionError` when there is one.
-    class Turn {
+    /// The right to be the process's session; throws a `SessionError` when there is one.
+    class SingleSessionGuard {
     public:
-        Turn();
-        Turn(const Turn&) = delete;
-        Turn& operator=(const Turn&) = delete;
-        ~Turn();
+        SingleSessionGuard();
+        SingleSessionGuard(const SingleSessionGuard&) = delete;
+        SingleSessionGuard& operator=(const SingleSessionGuard&) = delete;
+        ~SingleSessionGuard();
     };
 
     void begin();
@@ -236,12 +236,12 @@ private:
     [[nodiscard]] std::filesystem::path absolute(const std::filesystem::path& file) const;
     bool call(const char* entry, const char* context);
 
-    Turn turn_;
+    SingleSessionGuard guard_;
     SessionOptions options_;
     AddinFiles installed_;
     SessionFolder folder_;
     AddinFiles addin_;
-    std::optional<Surroundings> surroundings_;
+    std::optional<ProcessSandbox> sandbox_;
     LoadedModule module_;
     adsk::core::Ptr<adsk::core::Document> document_;
     std::unique_ptr<UserData> data_;

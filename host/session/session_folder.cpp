@@ -108,14 +108,14 @@ SessionFolder SessionFolder::makeFresh(const fs::path& parent) {
     return {folder, nullptr};
 }
 
-SessionFolder SessionFolder::keep(const fs::path& home, std::chrono::milliseconds patience) {
+SessionFolder SessionFolder::keep(const fs::path& home, std::chrono::milliseconds lockTimeout) {
     const fs::path folder = fs::absolute(home);
     std::error_code failure;
     fs::create_directories(folder, failure);
     if (failure) {
         throw SessionError("cannot make the folder " + toUtf8(folder) + ": " + failure.message());
     }
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + lockTimeout;
     constexpr std::chrono::milliseconds kPause(20);
     for (;;) {
         if (std::unique_ptr<FolderLock> lock = FolderLock::take(folder)) {

@@ -21,9 +21,9 @@ public:
     static SessionFolder makeFresh(const std::filesystem::path& parent);
 
     /// The folder `home`, made if missing. Where another process has it, waits for as long as told,
-    /// then raises a `SessionError`.
+    /// then throws a `SessionError`.
     static SessionFolder keep(const std::filesystem::path& home,
-                              std::chrono::milliseconds patience);
+                              std::chrono::milliseconds lockTimeout);
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 

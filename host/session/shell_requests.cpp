@@ -28,12 +28,12 @@ StandInAnswer standin_openWithShell(const char* target) {
     using host::shell_requests::Policy;
     auto& state = host::shell_requests::state();
     if (state.policy == Policy::PassOn) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     state.recorded.emplace_back(target);
     switch (state.policy) {
         case Policy::RecordOpen:
-            return StandInAnswer::NotMine;
+            return StandInAnswer::NotHandled;
         case Policy::RecordFail:
             return StandInAnswer::Failed;
         default:

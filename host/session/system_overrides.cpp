@@ -9,12 +9,12 @@
 #include <algorithm>
 #include <utility>
 
-namespace host::system_answers {
+namespace host::system_overrides {
 namespace {
 
 struct State {
     bool isAnswering = false;
-    SystemAnswers answers;
+    SystemOverrides answers;
     std::vector<int> sleeps;
     int consoleHidings = 0;
 };
@@ -45,7 +45,7 @@ adsk::core::MessageBoxIconTypes iconOf(unsigned style) {
 
 }  // namespace
 
-void start(SystemAnswers answers) {
+void start(SystemOverrides answers) {
     state() = {};
     state().isAnswering = true;
     state().answers = std::move(answers);
@@ -63,65 +63,65 @@ const std::vector<int>& sleeps() { return state().sleeps; }
 
 int consoleHidings() { return state().consoleHidings; }
 
-}  // namespace host::system_answers
+}  // namespace host::system_overrides
 
-using host::system_answers::state;
+using host::system_overrides::state;
 
 StandInAnswer standin_sleep(int milliseconds) {
     if (!state().isAnswering) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     state().sleeps.push_back(milliseconds);
-    host::clock::pass(std::chrono::milliseconds(milliseconds));
-    return state().answers.sleepTakesTime ? StandInAnswer::NotMine : StandInAnswer::Done;
+    host::clock::advance(std::chrono::milliseconds(milliseconds));
+    return state().answers.sleepTakesTime ? StandInAnswer::NotHandled : StandInAnswer::Done;
 }
 
 StandInAnswer standin_messageBox(const char* text, const char* title, unsigned style) {
     if (!state().isAnswering) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     host::Message message;
     message.text = text;
     message.title = title;
-    message.icon = host::system_answers::iconOf(style);
+    message.icon = host::system_overrides::iconOf(style);
     host::ui::showMessage(std::move(message));
     return StandInAnswer::Done;
 }
 
 StandInAnswer standin_hideConsole() {
     if (!state().isAnswering) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     ++state().consoleHidings;
-    return state().answers.consoleMayHide ? StandInAnswer::NotMine : StandInAnswer::Done;
+    return state().answers.consoleMayHide ? StandInAnswer::NotHandled : StandInAnswer::Done;
 }
 
 StandInAnswer standin_virtualScreen(StandInArea* area) {
     const auto& screen = state().answers.screen;
-    return screen ? host::system_answers::answerWith(*screen, area) : StandInAnswer::NotMine;
+    return screen ? host::system_overrides::answerWith(*screen, area) : StandInAnswer::NotHandled;
 }
 
 StandInAnswer standin_windowArea(const char* title, StandInArea* area) {
     const auto& windows = state().answers.windows;
     if (!windows) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     const auto found =
         std::find_if(windows->begin(), windows->end(),
                      [&](const host::WindowShown& window) { return window.title == title; });
-    return found != windows->end() ? host::system_answers::answerWith(found->inside, area)
+    return found != windows->end() ? host::system_overrides::answerWith(found->inside, area)
                                    : StandInAnswer::Failed;
 }
 
 StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
     if (!state().answers.windows) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     // A copy: whoever looks may start other answers.
     const std::vector<host::WindowShown> windows = *state().answers.windows;
     for (const host::WindowShown& window : windows) {
         StandInArea area = {};
-        host::system_answers::answerWith(window.inside, &area);
+        host::system_overrides::answerWith(window.inside, &area);
         if (visit(context, window.title.c_str(), &area) == 0) {
             break;
         }
@@ -132,7 +132,7 @@ StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
 StandInAnswer standin_cpuid(unsigned leaf, unsigned* registers) {
     const auto& processor = state().answers.processor;
     if (!processor) {
-        return StandInAnswer::NotMine;
+        return StandInAnswer::NotHandled;
     }
     const std::array<unsigned, 4> values = processor(leaf);
     std::copy(values.begin(), values.end(), registers);

@@ -25,7 +25,7 @@ struct WindowShown {
 };
 
 /// How a session answers. As it stands: without waiting, and with what the machine has.
-struct SystemAnswers {
+struct SystemOverrides {
     bool sleepTakesTime = false;  ///< else a module that wants to wait goes on at once
     bool consoleMayHide = false;  ///< a console that a module hides is shown again at the end
 
@@ -39,10 +39,10 @@ struct SystemAnswers {
     std::function<std::array<unsigned, 4>(unsigned leaf)> processor;
 };
 
-namespace system_answers {
+namespace system_overrides {
 
 /// Answers this way from now on. Message boxes are kept among the messages of the host.
-void start(SystemAnswers answers);
+void start(SystemOverrides answers);
 
 /// Leaves everything to the system again, and shows a console that a module has hidden.
 void end();
@@ -53,5 +53,5 @@ const std::vector<int>& sleeps();
 /// How often since `start` a module wanted the console hidden.
 int consoleHidings();
 
-}  // namespace system_answers
+}  // namespace system_overrides
 }  // namespace host

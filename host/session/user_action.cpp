@@ -14,11 +14,11 @@ Application& hostAtHand() {
     return *application;
 }
 
-Acting::Acting() : application_(&hostAtHand()) {
+UserAction::UserAction() : application_(&hostAtHand()) {
     if (runner().isBusy()) {
         throw MisuseError("a command is at work: wait until it has answered");
     }
-    runner().personActs();
+    runner().beginUserAction();
 }
 
 Command& shownDialog() {
@@ -34,7 +34,7 @@ InputState& usable(const core::Ptr<core::CommandInput>& input, const std::string
     if (state == nullptr) {
         throw MisuseError("cannot " + action + ": there is no such input");
     }
-    const std::string why = refusalOf(input);
+    const std::string why = whyUnusable(input);
     if (!why.empty()) {
         throw MisuseError("cannot " + action + " " + describe(*state) + ": " + why);
     }
@@ -43,10 +43,10 @@ InputState& usable(const core::Ptr<core::CommandInput>& input, const std::string
 
 }  // namespace ui
 
-std::string refusalOf(const adsk::core::Ptr<adsk::core::CommandInput>& input) {
+std::string whyUnusable(const adsk::core::Ptr<adsk::core::CommandInput>& input) {
     const ui::InputState* state = ui::InputState::of(input);
     if (state == nullptr) return "there is no such input";
-    const std::string why = ui::refusalToReach(*state);
+    const std::string why = ui::whyUnreachable(*state);
     return why.empty() && !state->enabled ? "it is not enabled" : why;
 }
 

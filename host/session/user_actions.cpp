@@ -10,7 +10,7 @@ namespace {
 
 namespace core = adsk::core;
 using core::Ptr;
-using ui::Acting;
+using ui::UserAction;
 
 std::vector<Ptr<ui::CommandControl>> controlsOf(const ui::CommandDefinition& definition,
                                                 const ui::Workspace& workspace) {
@@ -25,7 +25,7 @@ std::vector<Ptr<ui::CommandControl>> controlsOf(const ui::CommandDefinition& def
     return found;
 }
 
-void press(Acting& acting, const Ptr<ui::CommandDefinition>& definition) {
+void press(UserAction& acting, const Ptr<ui::CommandDefinition>& definition) {
     const Ptr<ui::Workspace>& workspace = acting.ui().spaces().active();
     if (workspace) {
         const auto controls = controlsOf(*definition, *workspace);
@@ -51,7 +51,7 @@ std::string knownIds(const ui::CommandDefinitions& definitions) {
 }  // namespace
 
 void pressCommand(const Ptr<core::CommandDefinition>& definition) {
-    Acting acting;
+    UserAction acting;
     const Ptr<ui::CommandDefinition> known = definition;
     if (!known || !known->isValid()) {
         throw MisuseError("cannot press a command that does not exist: the definitions are " +
@@ -61,7 +61,7 @@ void pressCommand(const Ptr<core::CommandDefinition>& definition) {
 }
 
 void pressCommand(const std::string& id) {
-    Acting acting;
+    UserAction acting;
     const Ptr<ui::CommandDefinition> known = acting.ui().definitions().find(id);
     if (!known) {
         throw MisuseError("cannot press " + id + ", which does not exist: the definitions are " +
@@ -86,13 +86,13 @@ ui::DialogSize dialogSize() {
 }
 
 void resizeDialog(int width, int height) {
-    const Acting acting;
+    const UserAction acting;
     acting.ui().rememberedSizes[ui::shownDialog().definition()->identifier()] = {width, height};
 }
 
 void pressOk() {
-    Acting acting;
-    const std::string why = acting.runner().refusalOfOk();
+    UserAction acting;
+    const std::string why = acting.runner().whyOkRefused();
     if (!why.empty()) {
         throw MisuseError("cannot press OK: " + why);
     }
@@ -101,14 +101,14 @@ void pressOk() {
 }
 
 void acceptAnyway() {
-    Acting acting;
+    UserAction acting;
     static_cast<void>(ui::shownDialog());
     acting.runner().accept();
     acting.finish();
 }
 
 void pressCancel() {
-    Acting acting;
+    UserAction acting;
     if (!acting.runner().active()) {
         throw MisuseError("cannot press Cancel: no command runs");
     }
@@ -116,10 +116,10 @@ void pressCancel() {
     acting.finish();
 }
 
-void settle() { ui::hostAtHand().ui().runner().settle(); }
+void drainRequests() { ui::hostAtHand().ui().runner().drainRequests(); }
 
 void closePalette(const std::string& id) {
-    const Acting acting;
+    const UserAction acting;
     const Ptr<ui::Palette> palette = acting.ui().allPalettes().find(id);
     if (!palette || !palette->state.visible || !palette->state.closeButton) {
         throw MisuseError("cannot close the palette " + id + ": " +
@@ -131,7 +131,7 @@ void closePalette(const std::string& id) {
 }
 
 void activateWorkspace(const std::string& id) {
-    Acting acting;
+    UserAction acting;
     const Ptr<ui::Workspace> workspace = acting.ui().spaces().find(id);
     if (!workspace) {
         throw MisuseError("cannot show the workspace " + id + ": there is none of this id");
@@ -141,7 +141,7 @@ void activateWorkspace(const std::string& id) {
 }
 
 std::vector<std::string> showMarkingMenu() {
-    Acting acting;
+    UserAction acting;
     const Ptr<ui::MarkingMenuEvent>& event = acting.ui().menuEvent;
     const Ptr<ui::LinearMarkingMenu> linear = make<ui::LinearMarkingMenu>();
     const Ptr<ui::RadialMarkingMenu> radial = make<ui::RadialMarkingMenu>();

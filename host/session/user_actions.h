@@ -16,10 +16,10 @@
 ///
 /// Each of these is one action: the handlers of the module are told, and whatever commands were
 /// asked for meanwhile have started before it returns. An action that the screen does not offer
-/// raises a `MisuseError` and changes nothing: an input that is hidden, disabled, or stands in
+/// throws a `MisuseError` and changes nothing: an input that is hidden, disabled, or stands in
 /// another tab, an item that the list does not hold, OK while the host refuses it.
 ///
-/// What handlers raise is recorded by the dispatcher, under "OnInputChanged" with the id of the
+/// What handlers throw is recorded by the dispatcher, under "OnInputChanged" with the id of the
 /// changed input, "OnExecute", "OnCommandCreated", "OnCommandStarting", "OnCommandTerminated",
 /// "OnActivate", "OnDeactivate", "OnDestroy", "OnValidateInputs", "OnExecutePreview",
 /// "OnWorkspaceActivated" or "OnMarkingMenuDisplaying".
@@ -54,7 +54,7 @@ void acceptAnyway();
 void pressCancel();
 
 /// Starts the commands that a module asked for while nobody acted, for instance in its `run`.
-void settle();
+void drainRequests();
 /// @}
 
 /// @name Inputs of the open dialog
@@ -104,7 +104,7 @@ void activateWorkspace(const std::string& id);
 /// Closes a palette with the button in its corner, which hides it.
 void closePalette(const std::string& id);
 
-/// Opens the context menu and yields the ids of the commands in its list; none where it is empty,
+/// Opens the context menu and returns the ids of the commands in its list; none where it is empty,
 /// and so does not show.
 std::vector<std::string> showMarkingMenu();
 /// @}
@@ -123,7 +123,7 @@ std::vector<adsk::core::Ptr<adsk::core::CommandInput>> toolbarOf(
     const adsk::core::Ptr<adsk::core::TableCommandInput>& table);
 
 /// Why a person cannot use an input; empty where they can.
-std::string refusalOf(const adsk::core::Ptr<adsk::core::CommandInput>& input);
+std::string whyUnusable(const adsk::core::Ptr<adsk::core::CommandInput>& input);
 /// @}
 
 }  // namespace host

@@ -33,7 +33,7 @@ struct HostSetup {
     CodeChanges codeChanges = CodeChanges::Lists;
 
     /// Whether waiting takes a module real time.
-    clock::Pace clock = clock::Pace::Standing;
+    clock::ClockMode clock = clock::ClockMode::Virtual;
 
     /// How many seconds a progress dialog may wait before the host presses its Cancel: what nobody
     /// is there to end comes to an end all the same.

@@ -10,7 +10,7 @@
 
 namespace host::ui {
 
-// The names that records show for what a handler raised.
+// The names that records show for what a handler threw.
 UserInterface::UserInterface(const HostSetup& setup)
     : startingEvent(make<ApplicationEvent>("OnCommandStarting", this)),
       createdEvent(make<ApplicationEvent>("OnApplicationCommandCreated", this)),
@@ -26,11 +26,11 @@ UserInterface::UserInterface(const HostSetup& setup)
       panels_(make<ToolbarPanelList>(workspaces_.get())),
       palettes_(make<Palettes>()),
       selections_(make<Selections>()) {
-    furnish(setup);
+    createDefaultLayout(setup);
 }
 
 // What stands in the toolbars before any module comes.
-void UserInterface::furnish(const HostSetup& setup) {
+void UserInterface::createDefaultLayout(const HostSetup& setup) {
     if (setup.selectCommand) {
         runner_.setIdleCommand(definitions_->addNative("SelectCommand", "Select"));
     }

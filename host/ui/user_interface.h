@@ -84,7 +84,7 @@ public:
     /// @}
 
 private:
-    void furnish(const HostSetup& setup);
+    void createDefaultLayout(const HostSetup& setup);
 
     CommandRunner runner_;
     core::Ptr<CommandDefinitions> definitions_;

@@ -19,7 +19,7 @@ AddinCommand::AddinCommand(const CommandTexts& texts,
       resourceFolder(texts.resourceFolder),
       createdHandler(std::move(handler)) {}
 
-// Delegates, so that the destructor cleans up in the host when the subscription raises.
+// Delegates, so that the destructor cleans up in the host when the subscription throws.
 AddinCommand::AddinCommand(const Ptr<Application>& application, const CommandTexts& texts,
                            std::unique_ptr<CommandCreatedEventHandler> handler)
     : AddinCommand(texts, std::move(handler)) {

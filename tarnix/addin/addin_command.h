@@ -26,7 +26,7 @@ public:
     /// Registers the command of these texts with `application`.
     ///
     /// A host that refuses the definition leaves the object without one, silently. Without the
-    /// definition's event a plain `std::exception` is raised and nothing is left in the host.
+    /// definition's event a plain `std::exception` is thrown and nothing is left in the host.
     AddinCommand(const adsk::core::Ptr<adsk::core::Application>& application,
                  const CommandTexts& texts,
                  std::unique_ptr<adsk::core::CommandCreatedEventHandler> handler);

@@ -2,7 +2,7 @@
 //
 // The host calls `run` once it has loaded the module and `stop` before it lets it go. In between
 // the add-in runs inside the host's notifications alone. Neither looks at its argument nor tells
-// the user anything, and what a null handle raises leaves them.
+// the user anything, and what a null handle throws leaves them.
 
 #include "tarnix/addin/helpdesk_commands.h"
 #include "tarnix/addin/hooks.h"
@@ -64,7 +64,7 @@ void deletePanels(std::string (*panelId)(const std::string& workspaceId)) {
     }
 }
 
-/// Looks up a control that is the host's own. One that is missing raises, and `stop` ends there.
+/// Looks up a control that is the host's own. One that is missing throws, and `stop` ends there.
 void touchRepeatCommand() {
     const Ptr<ToolbarTabList> tabs = ui->toolbarTabsByProductType("DesignProductType");
     const Ptr<ToolbarTab> tab = tabs->itemById("ToolsTab");

@@ -70,7 +70,7 @@ void addToolsControl(AddinCommand& command, const std::string& workspaceId,
     if (isPromoted) {
         control->isPromoted(true);
     }
-    // A null handle would raise while the command goes.
+    // A null handle would throw while the command goes.
     if (control) {
         command.controls.push_back(control);
     }

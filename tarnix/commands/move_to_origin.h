@@ -8,7 +8,7 @@ namespace tarnix {
 /// identity as their placement, all in one step, and are grounded there if the user wants that.
 ///
 /// With no design on the screen nothing happens. An input that is not there, or a selection that
-/// is none, raises; whether the host moved anything is not asked.
+/// is none, throws; whether the host moved anything is not asked.
 class MoveCompToOriginCmdExecuteHendler final : public adsk::core::CommandEventHandler {
 public:
     void notify(const adsk::core::Ptr<adsk::core::CommandEventArgs>& eventArgs) override;

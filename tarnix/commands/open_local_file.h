@@ -26,7 +26,7 @@ private:
     /// Opens a file of a format that the host imports; false for every other one.
     bool importFile(const std::string& fileName);
 
-    /// Uploads a file and opens it when it is converted. Without an active project it raises.
+    /// Uploads a file and opens it when it is converted. Without an active project it throws.
     void uploadAndOpenFile(const std::string& fileName);
 
     /// Waits for the end of an upload; true when the file has arrived. The user is told of a

@@ -11,7 +11,7 @@ void createEmptyZip(std::string archivePath);
 
 /// Packs what a folder holds into an archive, which may lie in that folder. Both are 8-bit texts.
 ///
-/// The archive is made anew and empty; the system's compressed folders fill it, without a dialog.
+/// The archive is made again and empty; the system's compressed folders fill it, without a dialog.
 /// That goes on beside the host's thread: this waits a second, and nobody asks whether it is done.
 void zipHelpdeskFolder(std::string folder, std::string archivePath);
 

@@ -25,7 +25,7 @@ void capture(int left, int top, int width, int height, WindowHandle window) {
     if (!picture) {
         return;
     }
-    provideHelpdeskFolder();
+    ensureHelpdeskFolder();
     if (platform::directoryExists(helpdeskFolderPath())) {
         saveBitmapAsPng(picture, nextScreenFileName());
     }

@@ -15,7 +15,7 @@ std::string helpdeskFolderPath() {
     return temporary ? lowBytes(*temporary + u"Helpdesk\\") : "";
 }
 
-void provideHelpdeskFolder() {
+void ensureHelpdeskFolder() {
     if (!platform::directoryExists(helpdeskFolderPath())) {
         platform::makeDirectory(helpdeskFolderPath());
     }

@@ -24,7 +24,7 @@ extern const std::string helpdeskFolderAtLoad;
 extern std::string rememberedHelpdeskFolder;
 
 /// Makes the support folder where it is missing; that it cannot be made shows in what follows.
-void provideHelpdeskFolder();
+void ensureHelpdeskFolder();
 
 /// A 16-bit text with each unit cut down to its low byte.
 std::string lowBytes(const std::u16string& text);
@@ -35,7 +35,7 @@ void openHelpdeskFolder();
 /// Deletes the remembered support folder and what it holds, without asking.
 ///
 /// As long as none is remembered the path is empty, and what goes is the content of the process's
-/// current directory. Raises `std::range_error` for a remembered folder that is no UTF-8.
+/// current directory. Throws `std::range_error` for a remembered folder that is no UTF-8.
 void clearHelpdeskFolder();
 
 }  // namespace tarnix

@@ -42,7 +42,7 @@ std::string processorBrand() {
 }
 
 void writeSystemInfo() {
-    provideHelpdeskFolder();
+    ensureHelpdeskFolder();
     // The folder of the module's start, and not the one that was just made sure of.
     file.open(helpdeskFolderAtLoad + "SystemInfo.txt");
     const std::string brand = processorBrand();

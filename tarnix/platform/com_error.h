@@ -1,6 +1,6 @@
 #pragma once
 
-/// `_com_error`, which a failing call of the XML document raises: the system's own class where
+/// `_com_error`, which a failing call of the XML document throws: the system's own class where
 /// there is one, else one with the same name and the same use. It is no `std::exception`.
 #ifdef _WIN32
 #include <comdef.h>

@@ -5,7 +5,7 @@
 namespace tarnix::platform {
 
 /// Makes the locale "Czech" (on Linux that is cs_CZ.UTF-8) the global one of the process, where it
-/// stays. Raises a `std::runtime_error`, "bad locale name", where the system does not have it; the
+/// stays. Throws a `std::runtime_error`, "bad locale name", where the system does not have it; the
 /// locale is then as it was.
 void useCzechLocale();
 

@@ -9,7 +9,7 @@ namespace tarnix::platform {
 /// EAX, EBX, ECX and EDX after CPUID.
 using ProcessorRegisters = std::array<std::uint32_t, 4>;
 
-/// What the processor's instruction CPUID yields for a leaf; zeros on a processor without it.
+/// What the processor's instruction CPUID returns for a leaf; zeros on a processor without it.
 ProcessorRegisters processorInformation(std::uint32_t leaf);
 
 /// Logical processors that are in use.

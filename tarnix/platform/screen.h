@@ -22,7 +22,7 @@ struct ScreenArea {
     bool operator==(const ScreenArea&) const = default;
 };
 
-/// Hides the console window of the process, and yields it; 0 where there is none.
+/// Hides the console window of the process, and returns it; 0 where there is none.
 WindowHandle hideConsole();
 
 /// The area of all monitors together.

@@ -6,7 +6,7 @@
 
 namespace tarnix::platform {
 
-/// A text file that is written anew each time it is opened.
+/// A text file that is written again each time it is opened.
 ///
 /// Line ends come out as CR LF on every system. As long as no file is open, because opening failed
 /// or it was closed, what is written is swallowed.

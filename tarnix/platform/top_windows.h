@@ -18,7 +18,7 @@ struct TopWindow {
 };
 
 /// Shows all top-level windows of the screen to `visit`, the foremost first, hidden ones among
-/// them, until it yields false. What `visit` raises ends the visits and is raised from here.
+/// them, until it returns false. What `visit` throws ends the visits and is thrown from here.
 ///
 /// A process without a screen has no windows.
 void visitTopWindows(const std::function<bool(const TopWindow&)>& visit);

@@ -7,11 +7,11 @@
 /// The XML document object of Windows (`Msxml2.DOMDocument.6.0`), cut to what the settings need.
 ///
 /// Handles share what they refer to and may refer to nothing. Any call on a handle that refers to
-/// nothing raises `_com_error` with `E_POINTER`; a call that fails otherwise raises `_com_error`
+/// nothing throws `_com_error` with `E_POINTER`; a call that fails otherwise throws `_com_error`
 /// with the result of that call (`com_error.h`). Names, values and texts are UTF-8. Characters that
 /// no XML document can hold are left out of a value or a text that is set.
 ///
-/// Documents are read without their white space: a text of blanks, tabs and line ends alone is no
+/// Documents are read without their white space: a text of spaces, tabs and line ends alone is no
 /// node, and `text` does not begin or end with any. A document type declaration is refused, and
 /// nothing but the file itself is ever read.
 namespace tarnix::platform {
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] std::string nodeName() const;
 
     /// Value of an attribute, text, comment or instruction. An element or a document has none,
-    /// which raises `_com_error` with `DISP_E_TYPEMISMATCH`.
+    /// which throws `_com_error` with `DISP_E_TYPEMISMATCH`.
     [[nodiscard]] std::string nodeValue() const;
     void setNodeValue(const std::string& value);
 
@@ -56,17 +56,17 @@ public:
     /// The attributes of an element in document order; nothing for a text or a comment.
     [[nodiscard]] XmlAttributeMap attributes() const;
 
-    /// Adds a node behind all children and yields it.
+    /// Adds a node behind all children and returns it.
     XmlNode appendChild(const XmlNode& child);
 
-    /// Takes a child out and yields it.
+    /// Takes a child out and returns it.
     XmlNode removeChild(const XmlNode& child);
 
 protected:
     friend class XmlNodeList;
     friend class XmlAttributeMap;
 
-    /// What the handle refers to; raises if that is nothing.
+    /// What the handle refers to; throws if that is nothing.
     [[nodiscard]] Body& body() const;
 
     std::shared_ptr<Body> body_;
@@ -102,7 +102,7 @@ public:
     [[nodiscard]] XmlNode item(long index) const;
 
     /// Puts an attribute node in, in the place of one of the same name or behind all others, and
-    /// yields it.
+    /// returns it.
     XmlNode setNamedItem(const XmlNode& attribute);
 
 private:
@@ -126,7 +126,7 @@ public:
     bool load(const std::string& path);
 
     /// Writes a file with nothing between the elements. Windows keeps the encoding that the
-    /// document was read in, other systems write UTF-8. Raises when the file cannot be written.
+    /// document was read in, other systems write UTF-8. Throws when the file cannot be written.
     void save(const std::string& path) const;
 
     /// The root element, or nothing.

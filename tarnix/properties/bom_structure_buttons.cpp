@@ -24,7 +24,7 @@ std::vector<std::string> captionsThatAreOn(const Ptr<ListItems>& buttons) {
     return captions;
 }
 
-/// Switches `before` off, if it is among `captions`, and yields the last of the others.
+/// Switches `before` off, if it is among `captions`, and returns the last of the others.
 std::string switchOff(const Ptr<ListItems>& buttons, const std::vector<std::string>& captions,
                       const std::string& before) {
     std::string choice;

@@ -13,7 +13,7 @@
 namespace tarnix {
 
 /// Switches on what `properties` has on, and all others off. `selected` becomes the last one that
-/// is on, the empty text for none.
+/// is on, an empty string for none.
 void loadBomStructure(const adsk::core::Ptr<adsk::core::ButtonRowCommandInput>& row,
                       const ComponentProperties& properties, std::string& selected);
 

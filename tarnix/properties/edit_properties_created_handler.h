@@ -16,7 +16,7 @@ namespace tarnix {
 class EditPropertiesCmdCreateHandler final : public adsk::core::CommandCreatedEventHandler {
 public:
     /// Builds the dialog, then sets its size and attaches the handlers, so that both are left out
-    /// when the building raises.
+    /// when the building throws.
     void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
 
 private:

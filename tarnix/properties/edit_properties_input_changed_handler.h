@@ -11,11 +11,11 @@ namespace tarnix {
 /// What the open dialog "Edit custom properties" does about a change of any of its inputs.
 ///
 /// The id of the changed input is the routing key. Nothing here changes the design; that is left to
-/// OK. What is raised passes on to the host, which keeps the dialog open.
+/// OK. What is thrown passes on to the host, which keeps the dialog open.
 class EditPropertiesCmdInputChangedHandler final : public adsk::core::InputChangedEventHandler {
 public:
     /// Does what the changed input asks for: loads the picked component, keeps one button of the
-    /// BOM structure on, edits or saves the list of custom properties. Raises a plain
+    /// BOM structure on, edits or saves the list of custom properties. Throws a plain
     /// `std::exception` for any other input that lies in no other.
     void notify(const adsk::core::Ptr<adsk::core::InputChangedEventArgs>& eventArgs) override;
 

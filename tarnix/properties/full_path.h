@@ -12,7 +12,7 @@ namespace tarnix {
 /// `inputs` is a collection that finds the dialog's selection. The file is the active document's,
 /// unless exactly one entity is selected, and that is an occurrence of a component of another
 /// document. Empty where no file is found, as for a document that was never saved. Behind the file
-/// a missing project raises a plain `std::exception`.
+/// a missing project throws a plain `std::exception`.
 std::string formatFullPath(adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 
 }  // namespace tarnix

@@ -3,7 +3,7 @@
 #include <Core/CoreAll.h>
 
 /// What is done to the inputs in the groups of a collection; inputs beside the groups, and the
-/// selection of the component, are passed over.
+/// selection of the component, are skipped.
 namespace tarnix {
 
 /// Empties the lines of text. Text boxes and buttons stay as they are.

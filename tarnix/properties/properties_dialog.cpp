@@ -112,7 +112,7 @@ bool addProperties(const Ptr<CommandInputs>& inputs, const Ptr<CommandInputs>& t
 }
 
 /// A line for each entry of the settings. False where the host gives no group; one that cannot be
-/// filled raises as soon as there is an entry.
+/// filled throws as soon as there is an entry.
 bool addCustomProperties(const Ptr<CommandInputs>& tab, const Entries& entries) {
     const Ptr<GroupCommandInput> group = addGroup(tab, kCustomProperties, "Custom Properties");
     if (!group) {

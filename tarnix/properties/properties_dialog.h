@@ -23,7 +23,7 @@ extern int addedRowCounter;
 /// Makes all inputs of the dialog.
 ///
 /// Ends early, and leaves what it has made, where the host gives no tab, no group, no button row or
-/// none of their contents. Anything else that is missing raises a plain `std::exception`, and so do
+/// none of their contents. Anything else that is missing throws a plain `std::exception`, and so do
 /// the contents of the second group where there are custom properties for it.
 void buildPropertiesDialog(adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 

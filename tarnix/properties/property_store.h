@@ -40,17 +40,17 @@ struct ComponentProperties {
 /// group in the host's order.
 ///
 /// An attribute under one of the three model keys is skipped. A component without an attribute
-/// collection has no entries at all. Raises a plain `std::exception` for a null component.
+/// collection has no entries at all. Throws a plain `std::exception` for a null component.
 ComponentProperties readComponentProperties(adsk::core::Ptr<adsk::fusion::Component> component);
 
 /// Writes the entries to their component, in order; what has no entry stays as it was.
 ///
 /// The part number has to come before the part name: writing a name sets the part number again to
-/// the one that was written last, the empty text if none was. A component without an attribute
-/// collection takes nothing. Raises a plain `std::exception` for a null component.
+/// the one that was written last, an empty string if none was. A component without an attribute
+/// collection takes nothing. Throws a plain `std::exception` for a null component.
 void writeComponentProperties(ComponentProperties properties);
 
-/// The value of the first entry under `key`; the empty text where there is none.
+/// The value of the first entry under `key`; an empty string where there is none.
 std::string findProperty(ComponentProperties properties, std::string key);
 
 }  // namespace tarnix

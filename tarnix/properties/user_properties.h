@@ -26,7 +26,7 @@ void onUserPropertyEdited(const adsk::core::Ptr<adsk::core::CommandInput>& input
 bool isValidInPropertyName(char character);
 
 /// The entries of the table's rows in their order, rows without a name left out: key, ";" and name.
-/// Empty where the host gives no table. Raises a plain `std::exception` for a row whose cell is no
+/// Empty where the host gives no table. Throws a plain `std::exception` for a row whose cell is no
 /// line of text.
 std::vector<std::string> collectUserProperties(
     const adsk::core::Ptr<adsk::core::InputChangedEventArgs>& eventArgs);

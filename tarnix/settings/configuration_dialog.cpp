@@ -40,7 +40,7 @@ void buildConfigurationDialog(const Ptr<Command>& command) {
     // The host takes what a box begins with for HTML, in which an address with "&lt;" or "<" would
     // read otherwise, and OK would store that.
     address->text(url);
-    // Each question reads the settings anew.
+    // Each question reads the settings again.
     providers->item(readHelpdeskUrl() == defaultHelpdeskUrl ? kDefaultProvider : kOtherProvider)
         ->isSelected(true);
     address->isVisible(readHelpdeskUrl() != defaultHelpdeskUrl);

@@ -109,7 +109,7 @@ XmlDocument openSettingsDocument(const std::string& path) {
         createDefaultSettings(path);
     }
     XmlDocument document = XmlDocument::create();
-    // What cannot be parsed leaves an empty document, which raises where its root is needed.
+    // What cannot be parsed leaves an empty document, which throws where its root is needed.
     static_cast<void>(document.load(path));
     return document;
 }

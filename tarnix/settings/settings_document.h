@@ -10,24 +10,24 @@
 ///
 /// A small XML file beside the module holds, in categories under its root, the web address of the
 /// support provider ("httpHelpdesk"), the user's custom property names ("iProperty") and the
-/// columns of the parts list ("bomItems"). It is opened anew for every read and every write, so
+/// columns of the parts list ("bomItems"). It is opened again for every read and every write, so
 /// that a change is seen by the next read, and is made with its default content when it is missing.
 ///
-/// A failing call on the document raises `_com_error`, which no function here catches. A file that
-/// is no XML is not repaired: what needs its root raises `E_POINTER`.
+/// A failing call on the document throws `_com_error`, which no function here catches. A file that
+/// is no XML is not repaired: what needs its root throws `E_POINTER`.
 namespace tarnix {
 
 /// The web address of the default support provider's helpdesk.
 inline constexpr const char* defaultHelpdeskUrl = "http://helpdesk.tarnix.example/";
 
 /// Path of the settings document: the module's own, with the first ".dll" in it replaced by
-/// "_configuration.xml". Raises `std::out_of_range` when the module's path has no ".dll".
+/// "_configuration.xml". Throws `std::out_of_range` when the module's path has no ".dll".
 std::string settingsFilePath();
 
 /// Opens the document, which is made with the default content if it cannot be opened for reading.
-/// A file that cannot be parsed yields an empty document. COM is made ready once more by each call;
-/// a writer takes that back with `platform::uninitializeCom` when it has saved and let the document
-/// go, a reader does not.
+/// A file that cannot be parsed returns an empty document. COM is made ready once more by each
+/// call; a writer takes that back with `platform::uninitializeCom` when it has saved and let the
+/// document go, a reader does not.
 platform::XmlDocument openSettingsDocument(const std::string& path);
 
 /// Writes the default document. COM must be ready on the thread.
@@ -46,16 +46,16 @@ std::string itemToString(const platform::XmlNode& itemElement);
 std::string readHelpdeskUrl();
 
 /// Stores the web address of the support provider. A document without a category for it is saved as
-/// it is; when anything raises, the file stays as it was.
+/// it is; when anything throws, the file stays as it was.
 void writeHelpdeskUrl(const std::string& url);
 
-/// Adds an element with one attribute under the root, and yields it. Nothing, and nothing added, if
-/// a `std::exception` was raised on the way.
+/// Adds an element with one attribute under the root, and returns it. Nothing, and nothing added,
+/// if a `std::exception` was thrown on the way.
 platform::XmlNode appendCategory(const platform::XmlDocument& document,
                                  const std::string& elementName, const std::string& attributeName,
                                  const std::string& attributeValue);
 
-/// Adds an element with one attribute under `parent`, and yields it.
+/// Adds an element with one attribute under `parent`, and returns it.
 platform::XmlNode appendItem(const platform::XmlDocument& document, platform::XmlNode parent,
                              const std::string& elementName, const std::string& attributeName,
                              const std::string& attributeValue);
@@ -66,7 +66,7 @@ enum class MissingCategory { Create, LeaveOut };
 /// Replaces the items of a category in the stored document: opens it, removes what the category
 /// holds, adds an element "item_" + `categoryName` for each text of `readItems`, split at its first
 /// ";" into key and value, and saves. Categories of the same name all get the items. `readItems` is
-/// asked when a category has been emptied, and not where there is none. When anything raises, the
+/// asked when a category has been emptied, and not where there is none. When anything throws, the
 /// file stays as it was; one that was missing has been made by then.
 void replaceCategoryItems(const std::string& categoryName,
                           const std::function<std::vector<std::string>()>& readItems,

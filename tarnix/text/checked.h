@@ -7,7 +7,7 @@
 
 namespace tarnix {
 
-/// The element at `index`; raises `std::out_of_range` ("invalid vector subscript") where there is
+/// The element at `index`; throws `std::out_of_range` ("invalid vector subscript") where there is
 /// none. The text is the same from every compiler, other than that of `std::vector::at`.
 template <class T>
 const T& at(const std::vector<T>& elements, std::size_t index) {
@@ -26,7 +26,7 @@ T& at(std::vector<T>& elements, std::size_t index) {
     return elements[index];
 }
 
-/// What `text` holds from `position` on; raises `std::out_of_range` ("invalid string position")
+/// What `text` holds from `position` on; throws `std::out_of_range` ("invalid string position")
 /// where `text` is shorter than that. The end of the text is a position still, and gives the empty
 /// text.
 inline std::string substringFrom(const std::string& text, std::size_t position) {

@@ -12,7 +12,7 @@ std::string idTail(const std::string& id);
 /// What stands in front of the last "_" of `id`: the whole id where it has none.
 std::string idBase(const std::string& id);
 
-/// The number behind the last "_" of `id`; raises as `parseInt` does where there is none.
+/// The number behind the last "_" of `id`; throws as `parseInt` does where there is none.
 int idNumber(const std::string& id);
 
 }  // namespace tarnix

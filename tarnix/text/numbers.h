@@ -6,8 +6,8 @@ namespace tarnix {
 
 /// The integer that `text` begins with, as `std::stoi` reads it in base 10.
 ///
-/// Leading blanks are skipped, a sign may follow, and whatever stands behind the digits is left
-/// alone: "12abc" is 12. Raises `std::invalid_argument` ("invalid stoi argument") where no digit is
+/// Leading spaces are skipped, a sign may follow, and whatever stands behind the digits is left
+/// alone: "12abc" is 12. Throws `std::invalid_argument` ("invalid stoi argument") where no digit is
 /// found and `std::out_of_range` ("stoi argument out of range") where the number is no `int`: the
 /// same texts from every compiler.
 int parseInt(const std::string& text);
@@ -15,8 +15,8 @@ int parseInt(const std::string& text);
 /// The number that `text` begins with, as `std::stod` reads it, with the point as decimal separator
 /// whatever locale the process has.
 ///
-/// Leading blanks, a sign, decimal and hexadecimal numbers with an exponent, "inf", "infinity" and
-/// "nan" in any case are read; what follows is left alone. Raises `std::invalid_argument` ("invalid
+/// Leading spaces, a sign, decimal and hexadecimal numbers with an exponent, "inf", "infinity" and
+/// "nan" in any case are read; what follows is left alone. Throws `std::invalid_argument` ("invalid
 /// stod argument") where no number is found, and `std::out_of_range` ("stod argument out of range")
 /// where it is too large for a double, or so small that no normal double stands for it.
 double parseDouble(const std::string& text);

@@ -9,7 +9,7 @@ namespace tarnix {
 /// How many levels below the top `position` stands: its count of ".".
 int positionDepth(const std::string& position);
 
-/// `text` from its first character that is no indent on; the empty text where all are.
+/// `text` from its first character that is no indent on; an empty string where all are.
 ///
 /// A position may be indented on screen with "`", blank, "_", "-" and "|".
 std::string stripPositionPrefix(const std::string& text);

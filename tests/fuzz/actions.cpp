@@ -38,7 +38,7 @@ Ptr<TableCommandInput> shownTable(const Session& session) {
 }
 
 void actOn(const Ptr<CommandInput>& input, Choices& choices) {
-    if (!input || !host::refusalOf(input).empty()) return;
+    if (!input || !host::whyUnusable(input).empty()) return;
     if (const Ptr<DropDownCommandInput> list = input) {
         const std::size_t count = list->listItems()->count();
         if (count > 0) host::chooseItem(input, choices.below(count));

@@ -44,14 +44,14 @@ std::string chosenSettings(Choices& choices) {
     return test_support::settingsDocument(items);
 }
 
-/// What was raised although the add-in is not known to raise it.
+/// What was thrown although the add-in is not known to throw it.
 std::string findUnknown(const Session& session) {
     constexpr std::array kKnown = {"std::exception", "std::out_of_range", "std::invalid_argument",
                                    "_com_error"};
-    for (const host::Raised& raised : session.raised()) {
-        if (std::find(kKnown.begin(), kKnown.end(), raised.type) == kKnown.end()) {
-            return raised.type + " (" + raised.text + ") in " + raised.event + " of " +
-                   raised.inputId;
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        if (std::find(kKnown.begin(), kKnown.end(), thrown.type) == kKnown.end()) {
+            return thrown.type + " (" + thrown.text + ") in " + thrown.event + " of " +
+                   thrown.inputId;
         }
     }
     return "";
@@ -83,11 +83,11 @@ void FuzzedSession::begin(const std::string& settings, host::DesignData design) 
 std::string FuzzedSession::end() {
     if (session_.dialogOpen()) session_.cancel();
     std::string unknown = findUnknown(session_);
-    session_.clearRaised();
+    session_.clearUncaughtExceptions();
     return unknown;
 }
 
-/// Accepts the dialog. Yields a text that the design then holds and nobody wrote.
+/// Accepts the dialog. Returns a text that the design then holds and nobody wrote.
 std::string FuzzedSession::accept() {
     test_support::WrittenTexts written(session_.design());
     if (const auto table = shownTable(session_)) written.addTable(table);
@@ -125,8 +125,8 @@ std::string FuzzedSession::useDialog(Bytes bytes) {
     return stranger.empty() ? unknown : "nobody wrote \"" + stranger + "\"";
 }
 
-/// Saves the columns where the dialog came so far as to offer it. Yields that the second save wrote
-/// something else than the first, if it did.
+/// Saves the columns where the dialog came so far as to offer it. Returns that the second save
+/// wrote something else than the first, if it did.
 std::string FuzzedSession::saveColumnsTwice() {
     showTab(session_, test_support::kConfigurationTab);
     if (!session_.dialog()->commandInputs()->itemById(kSaveColumns)) return "";

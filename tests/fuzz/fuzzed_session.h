@@ -9,7 +9,7 @@
 #include <span>
 #include <string>
 
-/// Runs of the dialogs that are made of bytes. Each looks at what came of it and yields what it
+/// Runs of the dialogs that are made of bytes. Each looks at what came of it and returns what it
 /// found wrong, empty for nothing; a crash or a sanitizer's report is found by whoever runs it.
 namespace fuzz {
 

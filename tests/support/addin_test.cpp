@@ -14,8 +14,8 @@ namespace {
 
 using namespace adsk::core;
 
-bool endsExport(const host::Raised& raised) {
-    return raised.inputId == kExportButton && raised.text == "invalid stoi argument";
+bool endsExport(const host::UncaughtException& thrown) {
+    return thrown.inputId == kExportButton && thrown.text == "invalid stoi argument";
 }
 
 }  // namespace
@@ -24,14 +24,14 @@ host::SessionOptions addinOptions() {
     const std::filesystem::path program = host::environment::programFolder();
     host::SessionOptions options;
     options.addin = program / TEST_ADDIN_FOLDER;
-    options.freshIn = program / TEST_PRIVATE_FOLDER;
+    options.scratchRoot = program / TEST_PRIVATE_FOLDER;
     return options;
 }
 
 void AddinTest::SetUp() {
     restart(options());
     if (runsAtStart()) {
-        ASSERT_TRUE(run()) << raised();
+        ASSERT_TRUE(run()) << uncaughtExceptions();
     }
 }
 
@@ -66,10 +66,11 @@ void AddinTest::showConfiguration() {
 }
 
 void AddinTest::exportBom() {
-    const bool wasQuiet = session->raised().empty();
+    const bool wasQuiet = session->uncaughtExceptions().empty();
     session->click(kExportButton);
-    if (wasQuiet && session->raised().size() == 1 && endsExport(session->raised().front())) {
-        session->clearRaised();
+    if (wasQuiet && session->uncaughtExceptions().size() == 1 &&
+        endsExport(session->uncaughtExceptions().front())) {
+        session->clearUncaughtExceptions();
     }
 }
 
@@ -90,9 +91,9 @@ std::string AddinTest::shownTable() const { return tableText(shownTableInput());
 
 std::string AddinTest::csv() const { return readFile(csvFile()); }
 
-std::string AddinTest::raised() const {
+std::string AddinTest::uncaughtExceptions() const {
     std::string result;
-    for (const host::Raised& each : session->raised()) {
+    for (const host::UncaughtException& each : session->uncaughtExceptions()) {
         result += (result.empty() ? "" : "\n") + each.type + ": " + each.text + " in " + each.event;
         result += each.inputId.empty() ? "" : " of " + each.inputId;
     }

@@ -28,7 +28,8 @@ host::SessionOptions addinOptions();
 ///
 /// Each test has a fresh session: private folders, default settings, statics as after loading.
 /// `run` is called before the test's body, except in a fixture that overrides `runsAtStart`. What
-/// the module raises is in `session->raised()`; a test that expects nothing there says so.
+/// the module throws is in `session->uncaughtExceptions()`; a test that expects nothing there says
+/// so.
 class AddinTest : public testing::Test {
 protected:
     void SetUp() override;
@@ -86,8 +87,8 @@ protected:
     /// The bytes of the exported file; empty if there is none.
     [[nodiscard]] std::string csv() const;
 
-    /// What was raised, a line for each: class, text, event and input.
-    [[nodiscard]] std::string raised() const;
+    /// What was thrown, a line for each: class, text, event and input.
+    [[nodiscard]] std::string uncaughtExceptions() const;
 
     /// The session's copy of the add-in.
     [[nodiscard]] std::filesystem::path moduleFolder() const;

@@ -14,7 +14,7 @@ namespace test_support {
 ///
 /// The flow runs again and again, each time from the same beginning: in the first run its first
 /// host call is refused, in the second its second, and so on until a run in which none was left to
-/// refuse. A refused call does nothing and yields nothing; those behind it come through again.
+/// refuse. A refused call does nothing and returns nothing; those behind it come through again.
 struct RefusalSweep {
     /// Brings a fresh session to where the flow begins.
     std::function<void(host::Session&)> prepare;
@@ -30,7 +30,7 @@ struct RefusalSweep {
     host::SessionOptions options = addinOptions();
 };
 
-/// Runs a sweep and yields how many calls were refused. A run that crashes, or that a sanitizer
+/// Runs a sweep and returns how many calls were refused. A run that crashes, or that a sanitizer
 /// stops, fails the test like an expectation. After some failures it gives up.
 std::uint64_t refuseEachCall(const RefusalSweep& sweep);
 

@@ -17,7 +17,7 @@ struct ProgramResult {
 /// are UTF-8; environment and working directory are those of the caller.
 ProgramResult runProgram(const std::string& name, const std::vector<std::string>& arguments);
 
-/// Runs a program with its two streams going into files; yields its exit status. For `runProgram`.
+/// Runs a program with its two streams going into files; returns its exit status. For `runProgram`.
 int runRedirected(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                   const std::filesystem::path& output, const std::filesystem::path& errors);
 

@@ -27,7 +27,7 @@ private:
     [[nodiscard]] bool isName(const std::string& text) const;
     [[nodiscard]] bool isDescription(std::string text) const;
 
-    /// A structure that is set or not, and what a refused call yields, stand in no cell.
+    /// A structure that is set or not, and what a refused call returns, stand in no cell.
     std::set<std::string> texts_ = {"", "1"};
 };
 

@@ -13,7 +13,7 @@ namespace {
 
 using workbench::BomOptions;
 using workbench::BomWishes;
-using workbench::CellWish;
+using workbench::CellEdit;
 using workbench::ColumnWish;
 using workbench::SortWish;
 
@@ -119,7 +119,7 @@ TEST(BomWishes, ACellIsARowAndAColumn) {
         options.cells = {"12:Part Number=A=B:C", "1:Mass="};
     });
 
-    EXPECT_EQ(wishes.cells, (std::vector<CellWish>{{12, "Part Number", "A=B:C"}, {1, "Mass", ""}}));
+    EXPECT_EQ(wishes.cells, (std::vector<CellEdit>{{12, "Part Number", "A=B:C"}, {1, "Mass", ""}}));
 }
 
 TEST(BomWishes, ACellOfAnotherFormIsRefused) {

@@ -130,7 +130,7 @@ TEST_F(Workbench, ASortOfTextsThatTheAddinTakesForNumbersFails) {
 
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: cannot sort by \"Name\": the add-in raised std::invalid_argument "
+              "tarnix-workbench: cannot sort by \"Name\": the add-in threw std::invalid_argument "
               "(invalid stod argument) in OnInputChanged of QEMA_Part Name_0\n");
     EXPECT_EQ(result.output, "");
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
@@ -246,7 +246,7 @@ TEST_F(Workbench, AnUnknownChoiceNamesThoseThereAre) {
               "\"Produce\", \"Buy\", \"AsPart\", \"Divided\", \"Reference\"\n");
 }
 
-TEST_F(Workbench, ASaveInWhichTheAddinRaisesFailsAndWritesNothing) {
+TEST_F(Workbench, ASaveInWhichTheAddinThrowsFailsAndWritesNothing) {
     // Equal descriptions get no marker, and accepting cuts a marker's length off all the same.
     const std::string file = design(kMerged);
     host::DesignData data = load(file);
@@ -259,7 +259,7 @@ TEST_F(Workbench, ASaveInWhichTheAddinRaisesFailsAndWritesNothing) {
 
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: cannot save the tab structure: the add-in raised "
+              "tarnix-workbench: cannot save the tab structure: the add-in threw "
               "std::out_of_range (invalid string position) in OnExecute\n");
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(readFile(host::fromUtf8(file)), old);

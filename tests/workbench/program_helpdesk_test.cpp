@@ -106,7 +106,7 @@ TEST_F(HelpdeskOfTheWorkbench, TellsWhatTheAddinRaised) {
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(
         result.errors,
-        "tarnix-workbench: the add-in raised std::range_error (bad conversion) in OnExecute\n");
+        "tarnix-workbench: the add-in threw std::range_error (bad conversion) in OnExecute\n");
     EXPECT_TRUE(fs::exists(stand() / "kept"));
 }
 

@@ -147,7 +147,7 @@ TEST_F(BadInput, ADesignFileThatMayTakeTooMuchMemory) {
     writeFile(path, "{" + std::string(kOfSixteenMegabytes, ' '));
 
     EXPECT_EQ(reason(host::toUtf8(path), {"--max-memory", "16"}),
-              "may take more than 16 megabytes of memory; open a smaller design, or raise the "
+              "may take more than 16 megabytes of memory; open a smaller design, or throw the "
               "limit\n");
 }
 

@@ -161,18 +161,17 @@ TEST_F(Workbench, AnOldExportIsNotTakenForANewOne) {
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }
 
-TEST_F(Workbench, VerboseTellsWhatTheAddinRaisesEachTime) {
+TEST_F(Workbench, VerboseTellsWhatTheAddinThrowsEachTime) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--verbose"});
 
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(
-        result.errors,
-        "the add-in raised std::invalid_argument (invalid stoi argument) in OnInputChanged of "
-        "QEMA_btnExportXls\n"
-        "the add-in raised std::exception in stop\n");
+    EXPECT_EQ(result.errors,
+              "the add-in threw std::invalid_argument (invalid stoi argument) in OnInputChanged of "
+              "QEMA_btnExportXls\n"
+              "the add-in threw std::exception in stop\n");
 }
 
-TEST_F(Workbench, WhatTheAddinRaisesOtherwiseFailsWithALine) {
+TEST_F(Workbench, WhatTheAddinThrowsOtherwiseFailsWithALine) {
     // A key of a configured column that is shorter than its prefix.
     configure({"Mass;Mass"});
 
@@ -180,7 +179,7 @@ TEST_F(Workbench, WhatTheAddinRaisesOtherwiseFailsWithALine) {
 
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: the add-in raised std::out_of_range (invalid string position) in "
+              "tarnix-workbench: the add-in threw std::out_of_range (invalid string position) in "
               "OnCommandCreated\n");
     EXPECT_EQ(result.output, "");
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
@@ -193,8 +192,7 @@ TEST_F(Workbench, SettingsThatAreNoXmlFailWithALine) {
     const ProgramResult result = run({"bom", design(kSmallDesign)});
 
     EXPECT_EQ(result.status, 4);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: the add-in raised _com_error in OnCommandCreated\n");
+    EXPECT_EQ(result.errors, "tarnix-workbench: the add-in threw _com_error in OnCommandCreated\n");
     EXPECT_EQ(readFile(addinCopy() / "Tarnix_configuration.xml"), "<configuration");
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void raise(int error, const std::string& what) {
+[[noreturn]] void throwSystemError(int error, const std::string& what) {
     throw std::system_error(error, std::generic_category(), what);
 }
 
@@ -90,7 +90,7 @@ void writeFileAtomically(const fs::path& path, std::string_view content) {
     fs::path created;
     Descriptor file(createBeside(real, created));
     if (file.number() < 0) {
-        raise(errno, "cannot be created");
+        throwSystemError(errno, "cannot be created");
     }
     int error = fill(file, real, content);
     if (error == 0 && ::rename(created.c_str(), real.c_str()) != 0) {
@@ -98,7 +98,7 @@ void writeFileAtomically(const fs::path& path, std::string_view content) {
     }
     if (error != 0) {
         (void)::unlink(created.c_str());
-        raise(error, "cannot be written");
+        throwSystemError(error, "cannot be written");
     }
     syncFolder(real);
 }

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 constexpr DWORD kLongestWrite = 1 << 30;
 
-[[noreturn]] void raise(DWORD error, const std::string& what) {
+[[noreturn]] void throwSystemError(DWORD error, const std::string& what) {
     throw std::system_error(static_cast<int>(error), std::system_category(), what);
 }
 
@@ -81,7 +81,7 @@ void writeFileAtomically(const fs::path& path, std::string_view content) {
     fs::path created;
     Handle file(createBeside(real, created));
     if (!file.isOpen()) {
-        raise(::GetLastError(), "cannot be created");
+        throwSystemError(::GetLastError(), "cannot be created");
     }
     DWORD error = fill(file, content);
     if (error == 0 && ::MoveFileExW(created.c_str(), real.c_str(),
@@ -91,7 +91,7 @@ void writeFileAtomically(const fs::path& path, std::string_view content) {
     if (error != 0) {
         file.close();
         ::DeleteFileW(created.c_str());
-        raise(error, "cannot be written");
+        throwSystemError(error, "cannot be written");
     }
 }
 

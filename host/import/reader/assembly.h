@@ -57,7 +57,7 @@ struct TreeLimits {
     std::size_t levels = 0;
 };
 
-/// Reads a file and the files it refers to, without building shapes. Raises `ReadError` for a file
+/// Reads a file and the files it refers to, without building shapes. Throws `ReadError` for a file
 /// that is damaged or holds no product, a product or file that contains itself, and a tree beyond
 /// the limits. A referenced file that is missing or damaged is a warning; its product stays empty.
 Assembly readAssembly(const std::filesystem::path& file, const TreeLimits& limits);

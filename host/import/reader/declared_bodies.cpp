@@ -58,7 +58,7 @@ private:
 
 }  // namespace
 
-ToldBodies::ToldBodies(const StepFile& file) {
+DeclaredBodies::DeclaredBodies(const StepFile& file) {
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
         // The kind with a transformation, which places a part in an assembly, is none of these.
         const auto link =
@@ -71,7 +71,7 @@ ToldBodies::ToldBodies(const StepFile& file) {
     }
 }
 
-std::vector<Item> ToldBodies::in(const Handle(StepRepr_Representation) & representation) const {
+std::vector<Item> DeclaredBodies::in(const Handle(StepRepr_Representation) & representation) const {
     std::vector<Item> bodies;
     std::vector<Representation> open = {representation.get()};
     std::unordered_set<Representation> seen = {nullptr};

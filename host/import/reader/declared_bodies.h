@@ -12,9 +12,9 @@
 namespace step {
 
 /// The bodies that a file tells of, whether or not they can be built.
-class ToldBodies {
+class DeclaredBodies {
 public:
-    explicit ToldBodies(const StepFile& file);
+    explicit DeclaredBodies(const StepFile& file);
 
     /// The solids and surfaces in a representation, and in those that the file relates to it as the
     /// same shape. None for null.

@@ -12,7 +12,7 @@ namespace step {
 bool looksLikeIges(const std::filesystem::path& file);
 
 /// Reads an IGES file: what it holds, as `designOf` tells it, is one component with all bodies,
-/// which are added to `shapes`. Raises `ReadError`.
+/// which are added to `shapes`. Throws `ReadError`.
 nlohmann::json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes);
 
 }  // namespace step

@@ -28,7 +28,7 @@ protected:
         const double position = GetPosition();
         if (position >= shown_ + 0.01) {
             shown_ = position;
-            step::say({{"progress", {{"stage", "Building"}, {"fraction", position}}}});
+            step::sendLine({{"progress", {{"stage", "Building"}, {"fraction", position}}}});
         }
     }
 
@@ -40,29 +40,29 @@ void runIges(const std::string& file) {
     TopTools_IndexedMapOfShape shapes;
     const nlohmann::json design = step::readIges(file, shapes);
     if (shapes.IsEmpty()) {
-        step::say({{"warning", "holds no body that can be built"}});
+        step::sendLine({{"warning", "holds no body that can be built"}});
     }
-    step::say({{"design", design}});
+    step::sendLine({{"design", design}});
     step::answerRequests(std::cin, shapes);
 }
 
 void run(const std::string& file, const step::TreeLimits& limits) {
-    step::say({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
+    step::sendLine({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
     if (step::looksLikeIges(file)) {
         runIges(file);
         return;
     }
     step::Assembly assembly = step::readAssembly(file, limits);
     if (!assembly.files.front()->faults.empty()) {
-        step::say({{"faults", assembly.files.front()->faults}});
+        step::sendLine({{"faults", assembly.files.front()->faults}});
     }
     const Handle(Progress) progress = new Progress;
     const TopTools_IndexedMapOfShape shapes = step::buildShapes(assembly, progress->Start());
-    step::say({{"progress", {{"stage", "Building"}, {"fraction", 1}}}});
+    step::sendLine({{"progress", {{"stage", "Building"}, {"fraction", 1}}}});
     for (const std::string& warning : assembly.warnings) {
-        step::say({{"warning", warning}});
+        step::sendLine({{"warning", warning}});
     }
-    step::say({{"design", step::designOf(assembly)}});
+    step::sendLine({{"design", step::designOf(assembly)}});
     step::answerRequests(std::cin, shapes);
 }
 
@@ -71,13 +71,13 @@ int runOrTell(const std::string& file, const step::TreeLimits& limits) {
         run(file, limits);
         return EXIT_SUCCESS;
     } catch (const step::ReadError& error) {
-        step::say({{"error", error.what()}});
+        step::sendLine({{"error", error.what()}});
     } catch (const std::bad_alloc&) {
-        step::say({{"error", "needs more memory than it may use"}});
+        step::sendLine({{"error", "needs more memory than it may use"}});
     } catch (const Standard_Failure& failure) {
-        step::say({{"error", std::string("cannot be built: ") + failure.GetMessageString()}});
+        step::sendLine({{"error", std::string("cannot be built: ") + failure.GetMessageString()}});
     } catch (const std::exception& error) {
-        step::say({{"error", std::string("cannot be read: ") + error.what()}});
+        step::sendLine({{"error", std::string("cannot be read: ") + error.what()}});
     }
     return EXIT_FAILURE;
 }

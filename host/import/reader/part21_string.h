@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::string read(std::string_view literal) const;
 
     /// Settles the encodings by what was considered.
-    void settle();
+    void drainRequests();
 
 private:
     std::vector<std::string> raw_;

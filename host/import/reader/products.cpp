@@ -91,7 +91,7 @@ std::unordered_set<std::size_t> addUses(Assembly& assembly, const Index& index) 
 
 void noteDescriptions(Assembly& assembly, const Index& index) {
     const StepFile& file = *assembly.files.back();
-    const ToldBodies told(file);
+    const DeclaredBodies told(file);
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
         const auto link = entity<StepShape_ShapeDefinitionRepresentation>(file, number);
         if (link.IsNull() || link->Definition().PropertyDefinition().IsNull()) {

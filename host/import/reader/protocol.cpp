@@ -108,7 +108,7 @@ json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes
 
 }  // namespace
 
-void say(const json& line) {
+void sendLine(const json& line) {
     // A file's name may be no UTF-8; a text that cannot be shown must not end the answer.
     std::cout << line.dump(-1, ' ', false, json::error_handler_t::replace) << '\n' << std::flush;
 }
@@ -136,11 +136,11 @@ json designOf(const Assembly& assembly) {
 void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes) {
     for (std::string request; std::getline(requests, request);) {
         try {
-            say(answer(request, shapes));
+            sendLine(answer(request, shapes));
         } catch (const Standard_Failure& failure) {
-            say({{"error", failure.GetMessageString()}});
+            sendLine({{"error", failure.GetMessageString()}});
         } catch (const std::exception& failure) {
-            say({{"error", failure.what()}});
+            sendLine({{"error", failure.what()}});
         }
     }
 }

@@ -25,7 +25,7 @@
 namespace step {
 
 /// Sends one line to whoever started the program.
-void say(const nlohmann::json& line);
+void sendLine(const nlohmann::json& line);
 
 /// The tree with the components that its roots lead to.
 nlohmann::json designOf(const Assembly& assembly);

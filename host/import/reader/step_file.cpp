@@ -74,16 +74,16 @@ private:
 };
 
 /// Makes the listener the only one whom Open CASCADE talks to, for as long as it lives.
-class Listening {
+class MessageCollector {
 public:
-    Listening() : listener(new Listener) {
+    MessageCollector() : listener(new Listener) {
         listener->SetTraceLevel(Message_Trace);
         Message::DefaultMessenger()->ChangePrinters().Clear();
         Message::DefaultMessenger()->AddPrinter(listener);
     }
-    Listening(const Listening&) = delete;
-    Listening& operator=(const Listening&) = delete;
-    ~Listening() { Message::DefaultMessenger()->RemovePrinter(listener); }
+    MessageCollector(const MessageCollector&) = delete;
+    MessageCollector& operator=(const MessageCollector&) = delete;
+    ~MessageCollector() { Message::DefaultMessenger()->RemovePrinter(listener); }
 
     Handle(Listener) listener;
 };
@@ -131,7 +131,7 @@ bool matters(const std::string& complaint, std::string_view kind) {
 }  // namespace
 
 StepFile::StepFile(const std::filesystem::path& file) : path(file), texts(contentOf(file)) {
-    const Listening listening;
+    const MessageCollector listening;
     const IFSelect_ReturnStatus status = reader.ReadFile(path.c_str());
     const std::vector<std::string>& syntax = listening.listener->syntax;
     if (!syntax.empty()) {

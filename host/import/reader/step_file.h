@@ -22,7 +22,7 @@ public:
 /// One STEP file, read and not yet turned into shapes.
 class StepFile {
 public:
-    /// Reads it; raises `ReadError` when the text is not intact. Open CASCADE leaves out what it
+    /// Reads it; throws `ReadError` when the text is not intact. Open CASCADE leaves out what it
     /// cannot parse and reports success, so its messages are looked at as well as its status.
     explicit StepFile(const std::filesystem::path& file);
 

@@ -41,7 +41,7 @@ std::string fromIso8859(std::string_view bytes, int part);
 /// non-characters).
 void appendUtf8(std::string& text, char32_t point);
 
-/// A text fit to be shown: control characters become blanks, non-characters U+FFFD, and blanks at
+/// A text fit to be shown: control characters become spaces, non-characters U+FFFD, and spaces at
 /// both ends go. The argument is UTF-8.
 std::string cleaned(std::string_view text);
 

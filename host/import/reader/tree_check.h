@@ -4,7 +4,7 @@
 
 namespace step {
 
-/// Raises `ReadError` for a product that contains itself, naming the way round, and for a tree that
+/// Throws `ReadError` for a product that contains itself, naming the way round, and for a tree that
 /// would grow beyond the limits. Counts without opening the tree: its cost grows with the products
 /// and their uses, however many occurrences these make.
 void checkTree(const Assembly& assembly, const TreeLimits& limits);

@@ -8,7 +8,7 @@ namespace adsk::core {
 ///
 /// Objects belong to the host; a module holds counted references on them through `Ptr`. The same
 /// thing of the host is always the same object, so handles can be compared. No member of any class
-/// raises: a failing call yields null, false or an empty value, and `Application::getLastError`
+/// throws: a failing call returns null, false or an empty value, and `Application::getLastError`
 /// tells why.
 class Base {
 public:

@@ -13,7 +13,7 @@ namespace adsk::core {
 /// The inputs of a command, a tab or a group.
 ///
 /// Every input belongs to one collection, also while it stands in a table. Only the ids of tabs
-/// have to differ: an id in use yields null for a tab, and a further input for everything else.
+/// have to differ: an id in use returns null for a tab, and a further input for everything else.
 class CommandInputs : public Base {
 public:
     static const char* classType();

@@ -59,10 +59,10 @@ public:
 
     /// The object's members.
     ///
-    /// Raises a plain `std::exception`, without a text, where there is no object.
+    /// Throws a plain `std::exception`, without a text, where there is no object.
     T* operator->() const { return &**this; }
 
-    /// The object; raises as `operator->` does.
+    /// The object; throws as `operator->` does.
     T& operator*() const {
         if (object_ == nullptr) {
             throw std::exception();

@@ -4,15 +4,15 @@
 ///
 /// A module that was built for a stand-in process looks these functions up by name, in the program
 /// first and in the host's library (`standinhost.dll`, or any library that the program is linked
-/// with) second. A process that has none, or whose function answers `NotMine`, leaves the matter to
-/// the system. No module links them.
+/// with) second. A process that has none, or whose function answers `NotHandled`, leaves the matter
+/// to the system. No module links them.
 extern "C" {
 
 /// What became of a question.
 enum class StandInAnswer : int {
-    NotMine = 0,  ///< the module asks the system itself
-    Done = 1,     ///< dealt with
-    Failed = 2,   ///< dealt with: the module is to see the failure that the system could have had
+    NotHandled = 0,  ///< the module asks the system itself
+    Done = 1,        ///< dealt with
+    Failed = 2,  ///< dealt with: the module is to see the failure that the system could have had
 };
 
 /// The module wants a file or a web address opened by the shell. `target` is the text that the

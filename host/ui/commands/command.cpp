@@ -6,7 +6,7 @@
 
 namespace host::ui {
 
-// The names that records show for what a handler raised.
+// The names that records show for what a handler threw.
 Command::Command(core::Ptr<CommandDefinition> definition, CommandRunner* runner)
     : executeEvent(make<CommandEvent>("OnExecute", this)),
       previewEvent(make<CommandEvent>("OnExecutePreview", this)),

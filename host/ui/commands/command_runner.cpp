@@ -17,17 +17,17 @@ constexpr int kMostStarts = 10;
 
 /// While it lives, a command that waits is out of the way: nothing is at work, and if it is the one
 /// that runs, none runs.
-class StandingBack {
+class SuspendedCommand {
 public:
-    StandingBack(core::Ptr<Command>& active, bool standsBack, int& busy, int& notifying)
+    SuspendedCommand(core::Ptr<Command>& active, bool standsBack, int& busy, int& notifying)
         : active_(active),
           waiting_(standsBack ? std::exchange(active, nullptr) : nullptr),
           busy_(busy),
           notifying_(notifying),
           before_(std::exchange(busy, 0), std::exchange(notifying, 0)) {}
-    StandingBack(const StandingBack&) = delete;
-    StandingBack& operator=(const StandingBack&) = delete;
-    ~StandingBack() {
+    SuspendedCommand(const SuspendedCommand&) = delete;
+    SuspendedCommand& operator=(const SuspendedCommand&) = delete;
+    ~SuspendedCommand() {
         if (!active_) {
             active_ = waiting_;
         }
@@ -46,10 +46,10 @@ private:
 
 void CommandRunner::request(const core::Ptr<CommandDefinition>& definition) {
     requested_.push_back(definition);
-    settle();
+    drainRequests();
 }
 
-void CommandRunner::settle() {
+void CommandRunner::drainRequests() {
     if (busy_ > 0 || gate::state().modules > 0) return;
     do {
         while (!requested_.empty()) {
@@ -57,14 +57,14 @@ void CommandRunner::settle() {
             requested_.pop_front();
             start(next);
         }
-        fallIdle();
+        enterIdle();
     } while (!requested_.empty());
 }
 
 // Nothing can keep the host from falling idle: a handler that objects is not heard.
-void CommandRunner::fallIdle() {
+void CommandRunner::enterIdle() {
     if (!idle_ || active_ || std::exchange(isIdle_, true)) return;
-    const Counting busy(busy_);
+    const ScopedIncrement busy(busy_);
     announce(idle_);
 }
 
@@ -78,7 +78,7 @@ void CommandRunner::countStart(const std::string& id) {
 void CommandRunner::start(const core::Ptr<CommandDefinition>& definition) {
     if (!definition->isValid()) return;
     countStart(definition->identifier());
-    const Counting busy(busy_);
+    const ScopedIncrement busy(busy_);
     if (!announce(definition)) return;
     if (active_) {
         preEmpt();
@@ -89,7 +89,7 @@ void CommandRunner::start(const core::Ptr<CommandDefinition>& definition) {
 }
 
 bool CommandRunner::announce(const core::Ptr<CommandDefinition>& definition) {
-    const Counting notifying(notifying_);
+    const ScopedIncrement notifying(notifying_);
     const auto arguments =
         make<ApplicationArguments>(ui_->startingEvent, definition->identifier(), definition,
                                    /*cancellable=*/true);
@@ -104,7 +104,7 @@ void CommandRunner::create(const core::Ptr<CommandDefinition>& definition) {
     previewStands_ = false;
     bool quiet = true;
     {
-        const Counting notifying(notifying_);
+        const ScopedIncrement notifying(notifying_);
         quiet = definition->createdEvent->fire(
             make<CreatedArguments>(definition->createdEvent, command));
         ui_->createdEvent->fire(make<ApplicationArguments>(
@@ -129,12 +129,12 @@ void CommandRunner::show() {
     if (active_ == command) {
         validate();
         preview();
-        obeyCode();
+        runDeferredRequests();
     }
 }
 
 void CommandRunner::accept() {
-    const Counting busy(busy_);
+    const ScopedIncrement busy(busy_);
     if (previewStands_) {
         previewed_ = false;
         end(core::CompletedTerminationReason);
@@ -154,7 +154,7 @@ bool CommandRunner::execute() {
     }
     const auto arguments = make<CommandArguments>(command->executeEvent, command);
     {
-        const Counting notifying(notifying_);
+        const ScopedIncrement notifying(notifying_);
         executing_.push_back(command);
         command->executeEvent->fire(arguments);
         executing_.pop_back();
@@ -163,7 +163,7 @@ bool CommandRunner::execute() {
         if (ui_->history.takeBack) {
             ui_->history.takeBack();
         } else {
-            notBuilt("CommandEventArgs::executeFailed: taking back what was done");
+            notImplemented("CommandEventArgs::executeFailed: taking back what was done");
         }
     }
     if (ui_->editsOfModel() != edits) {
@@ -181,7 +181,7 @@ bool CommandRunner::executeByCode(bool terminate) {
 }
 
 // Does what a handler asked for while it ran.
-void CommandRunner::obeyCode() {
+void CommandRunner::runDeferredRequests() {
     const Asked asked = std::exchange(asked_, Asked::Nothing);
     if (!active_ || asked == Asked::Nothing) return;
     if (asked == Asked::ExecuteAndEnd) {
@@ -205,7 +205,7 @@ bool CommandRunner::terminate() {
     }
     if (active_) {
         end(core::CancelledTerminationReason);
-        settle();
+        drainRequests();
     }
     return true;
 }
@@ -216,11 +216,11 @@ void CommandRunner::end(core::CommandTerminationReason reason) {
 }
 
 void CommandRunner::end(const core::Ptr<Command>& command, core::CommandTerminationReason reason) {
-    const Counting busy(busy_);
+    const ScopedIncrement busy(busy_);
     takeBackPreview();
     fireCommand(command, command->deactivateEvent);
     {
-        const Counting notifying(notifying_);
+        const ScopedIncrement notifying(notifying_);
         command->destroyEvent->fire(make<CommandArguments>(command->destroyEvent, command, reason));
     }
     for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
@@ -235,7 +235,7 @@ void CommandRunner::end(const core::Ptr<Command>& command, core::CommandTerminat
     isIdle_ = false;
     const core::Ptr<CommandDefinition> definition = command->definition();
     command->dispose();
-    const Counting notifying(notifying_);
+    const ScopedIncrement notifying(notifying_);
     ui_->terminatedEvent->fire(make<ApplicationArguments>(ui_->terminatedEvent,
                                                           definition->identifier(), definition,
                                                           /*cancellable=*/false, reason));
@@ -251,7 +251,7 @@ void CommandRunner::dispose() {
 
 bool CommandRunner::fireCommand(const core::Ptr<Command>& command,
                                 const core::Ptr<CommandEvent>& event) {
-    const Counting notifying(notifying_);
+    const ScopedIncrement notifying(notifying_);
     return event->fire(make<CommandArguments>(event, command));
 }
 
@@ -264,7 +264,7 @@ void CommandRunner::whileWaiting(const std::function<void()>& work) {
         work();
         return;
     }
-    const StandingBack waiting(active_, isExecuting(), busy_, notifying_);
+    const SuspendedCommand waiting(active_, isExecuting(), busy_, notifying_);
     work();
 }
 

@@ -53,8 +53,8 @@ public:
     /// @name What a person does
     /// @{
 
-    /// A person acts: from here on commands can start anew without end.
-    void personActs() { starts_.clear(); }
+    /// A person acts: from here on commands can start again without end.
+    void beginUserAction() { starts_.clear(); }
 
     /// The person changed an input; tells the handlers, and whatever follows from that.
     void changed(InputState& input);
@@ -63,15 +63,15 @@ public:
     void tabChanged();
 
     /// Why OK cannot be pressed; empty where it can.
-    std::string refusalOfOk();
+    std::string whyOkRefused();
 
     void accept();
     void end(core::CommandTerminationReason reason);
     /// @}
 
-    /// Starts what was asked for, as long as there is something. Raises a `MisuseError` when a
+    /// Starts what was asked for, as long as there is something. Throws a `MisuseError` when a
     /// command would start for ever.
-    void settle();
+    void drainRequests();
 
     /// True while a command is at work, so that a person has to wait.
     [[nodiscard]] bool isBusy() const { return busy_ > 0; }
@@ -89,20 +89,20 @@ public:
 private:
     void start(const core::Ptr<CommandDefinition>& definition);
     void countStart(const std::string& id);
-    void fallIdle();
+    void enterIdle();
     bool announce(const core::Ptr<CommandDefinition>& definition);
     void create(const core::Ptr<CommandDefinition>& definition);
     void show();
     void takeCurrentSelections();
-    void tell(InputState& input);
-    void tellCodeChanges();
+    void notifyInputChanged(InputState& input);
+    void notifyCodeChanges();
     void validate();
     void preview();
     void takeBackPreview();
     void end(const core::Ptr<Command>& command, core::CommandTerminationReason reason);
     [[nodiscard]] std::string refusalByInputs() const;
     bool execute();
-    void obeyCode();
+    void runDeferredRequests();
     void preEmpt();
     bool fireCommand(const core::Ptr<Command>& command, const core::Ptr<CommandEvent>& event);
 

@@ -41,40 +41,40 @@ void CommandRunner::takeCurrentSelections() {
     }
     for (const auto& [input, entities] : taken) {
         if (active_ == command && input->isValid()) {
-            tell(*input);
-            tellCodeChanges();
+            notifyInputChanged(*input);
+            notifyCodeChanges();
         }
     }
 }
 
 void CommandRunner::changed(InputState& input) {
-    const Counting busy(busy_);
+    const ScopedIncrement busy(busy_);
     const core::Ptr<Command> command = active_;
-    tell(input);
-    tellCodeChanges();
+    notifyInputChanged(input);
+    notifyCodeChanges();
     if (active_ == command) {
         validate();
         preview();
-        obeyCode();
+        runDeferredRequests();
     }
 }
 
 // The change of a tab is told as one of the tab bar, and is not validated.
 void CommandRunner::tabChanged() {
-    const Counting busy(busy_);
-    tell(active_->tabBar());
-    tellCodeChanges();
-    obeyCode();
+    const ScopedIncrement busy(busy_);
+    notifyInputChanged(active_->tabBar());
+    notifyCodeChanges();
+    runDeferredRequests();
 }
 
-void CommandRunner::tell(InputState& input) {
+void CommandRunner::notifyInputChanged(InputState& input) {
     const core::Ptr<Command> command = active_;
     const core::Ptr<core::CommandInputs> inputs(input.owner());
     const std::string id = input.id();
     firstNewSerial_ = command->newestSerial() + 1;
     const bool before = std::exchange(tellsChanges_, true);
     {
-        const Counting notifying(notifying_);
+        const ScopedIncrement notifying(notifying_);
         command->changedEvent->fire(
             make<ChangedArguments>(command->changedEvent,
                                    core::Ptr<core::CommandInput>(input.api()), inputs),
@@ -93,7 +93,7 @@ void CommandRunner::changedByCode(InputState& input, CodeChange what) {
     }
 }
 
-void CommandRunner::tellCodeChanges() {
+void CommandRunner::notifyCodeChanges() {
     for (int told = 0; !codeChanged_.empty(); ++told) {
         if (told == kMostCodeChanges) {
             codeChanged_.clear();
@@ -103,13 +103,13 @@ void CommandRunner::tellCodeChanges() {
         codeChanged_.pop_front();
         InputState* input = InputState::of(next);
         if (active_ && input->owner() != nullptr) {
-            tell(*input);
+            notifyInputChanged(*input);
         }
     }
 }
 
 void CommandRunner::validate() {
-    const Counting notifying(notifying_);
+    const ScopedIncrement notifying(notifying_);
     const auto arguments = make<ValidateArguments>(
         active_->validateEvent, core::Ptr<core::CommandInputs>(&active_->inputs()));
     active_->validateEvent->fire(arguments);
@@ -126,7 +126,7 @@ void CommandRunner::preview() {
     ui_->history.mark();
     previewed_ = true;
     const auto arguments = make<CommandArguments>(active_->previewEvent, active_);
-    const Counting notifying(notifying_);
+    const ScopedIncrement notifying(notifying_);
     active_->previewEvent->fire(arguments);
     previewStands_ = arguments->standsForExecution();
 }
@@ -151,7 +151,7 @@ std::string CommandRunner::refusalByInputs() const {
     return valid_ ? "" : "a handler of the dialog finds the inputs not valid";
 }
 
-std::string CommandRunner::refusalOfOk() {
+std::string CommandRunner::whyOkRefused() {
     if (!active_ || !active_->isShown()) return "no dialog is open";
     if (!active_->okShown()) return "the dialog shows no such button";
     return refusalByInputs();

@@ -3,12 +3,12 @@
 namespace host::ui {
 
 /// Counts up while it lives.
-class Counting {
+class ScopedIncrement {
 public:
-    explicit Counting(int& counter) : counter_(counter) { ++counter_; }
-    Counting(const Counting&) = delete;
-    Counting& operator=(const Counting&) = delete;
-    ~Counting() { --counter_; }
+    explicit ScopedIncrement(int& counter) : counter_(counter) { ++counter_; }
+    ScopedIncrement(const ScopedIncrement&) = delete;
+    ScopedIncrement& operator=(const ScopedIncrement&) = delete;
+    ~ScopedIncrement() { --counter_; }
 
 private:
     int& counter_;

@@ -16,7 +16,7 @@ core::Ptr<core::Base> Selection::entity() const {
 
 core::Ptr<core::Point3D> Selection::point() const {
     if (closed<"Selection::point">(*this)) return {};
-    notBuilt("Selection::point");
+    notImplemented("Selection::point");
     return {};
 }
 

@@ -68,7 +68,7 @@ DialogResults showMessage(Message message) {
     const std::vector<DialogResults> buttons = buttonsOf(message.buttons);
     message.answer = answerOf(message, buttons.front());
     if (std::find(buttons.begin(), buttons.end(), message.answer) == buttons.end()) {
-        // Raised from here it would end in the module that waits for the answer.
+        // UncaughtException from here it would end in the module that waits for the answer.
         misuse("UserInterface::messageBox", "the message \"" + message.text +
                                                 "\" has no button for the answer " +
                                                 std::to_string(message.answer));

@@ -34,7 +34,7 @@ void askForAnswers(std::function<adsk::core::DialogResults(const Message&)> ask)
 
 namespace ui {
 
-/// Shows a message: keeps it, and yields its answer.
+/// Shows a message: keeps it, and returns its answer.
 adsk::core::DialogResults showMessage(Message message);
 
 /// Forgets messages, answers and whom to ask.

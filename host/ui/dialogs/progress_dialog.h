@@ -25,13 +25,13 @@ struct Progress {
 /// The newest progress dialog that a module holds and has not hidden; none without one.
 std::optional<Progress> progressDialog();
 
-/// Presses the cancel button of the newest progress dialog. Raises a `MisuseError` where there is
+/// Presses the cancel button of the newest progress dialog. Throws a `MisuseError` where there is
 /// no dialog or no button.
 void cancelProgress();
 
 namespace ui {
 
-/// Begins anew: dialogs that have waited for so many seconds are cancelled by `endLongWaits`.
+/// Begins again: dialogs that have waited for so many seconds are cancelled by `endLongWaits`.
 void startWaits(double longestWait);
 
 /// Cancels the dialogs that have waited too long, whether or not they have a button for it.

@@ -21,8 +21,8 @@ bool isLandmark(InputKind kind) {
 }  // namespace
 
 template <class T, class... Arguments>
-core::Ptr<T> CommandInputs::enrol(const std::string& id, const std::string& name,
-                                  const Arguments&... arguments) {
+core::Ptr<T> CommandInputs::append(const std::string& id, const std::string& name,
+                                   const Arguments&... arguments) {
     const InputOrigin origin{this, &id, command_->texts().share(name)};
     core::Ptr<T> input = make<T>(origin, arguments...);
     input->slot = static_cast<std::uint32_t>(members_.append(input));
@@ -58,26 +58,26 @@ core::Ptr<core::BoolValueCommandInput> CommandInputs::addBoolValueInput(
     const std::string& id, const std::string& name, bool isCheckBox,
     const std::string& resourceFolder, bool initialValue) {
     if (closed<"CommandInputs::addBoolValueInput">(*this)) return {};
-    return enrol<BoolInput>(id, name, isCheckBox, resourceFolder, initialValue);
+    return append<BoolInput>(id, name, isCheckBox, resourceFolder, initialValue);
 }
 
 core::Ptr<core::StringValueCommandInput> CommandInputs::addStringValueInput(
     const std::string& id, const std::string& name, const std::string& initialValue) {
     if (closed<"CommandInputs::addStringValueInput">(*this)) return {};
-    return enrol<StringInput>(id, name, initialValue);
+    return append<StringInput>(id, name, initialValue);
 }
 
 core::Ptr<core::DropDownCommandInput> CommandInputs::addDropDownCommandInput(
     const std::string& id, const std::string& name, core::DropDownStyles dropDownStyle) {
     if (closed<"CommandInputs::addDropDownCommandInput">(*this)) return {};
-    return enrol<DropDownInput>(id, name, dropDownStyle);
+    return append<DropDownInput>(id, name, dropDownStyle);
 }
 
 core::Ptr<core::TableCommandInput> CommandInputs::addTableCommandInput(
     const std::string& id, const std::string& name, int numberOfColumns,
     const std::string& columnRatio) {
     if (closed<"CommandInputs::addTableCommandInput">(*this)) return {};
-    return enrol<TableInput>(id, name, numberOfColumns, columnRatio);
+    return append<TableInput>(id, name, numberOfColumns, columnRatio);
 }
 
 core::Ptr<core::TabCommandInput> CommandInputs::addTabCommandInput(
@@ -92,44 +92,44 @@ core::Ptr<core::TabCommandInput> CommandInputs::addTabCommandInput(
         misuse(kOperation, "the id \"" + id + "\" is in use");
         return {};
     }
-    return enrol<TabInput>(id, name, resourceFolder);
+    return append<TabInput>(id, name, resourceFolder);
 }
 
 core::Ptr<core::GroupCommandInput> CommandInputs::addGroupCommandInput(const std::string& id,
                                                                        const std::string& name) {
     if (closed<"CommandInputs::addGroupCommandInput">(*this)) return {};
-    return enrol<GroupInput>(id, name);
+    return append<GroupInput>(id, name);
 }
 
 core::Ptr<core::ButtonRowCommandInput> CommandInputs::addButtonRowCommandInput(
     const std::string& id, const std::string& name, bool isMultiSelectEnabled) {
     if (closed<"CommandInputs::addButtonRowCommandInput">(*this)) return {};
-    return enrol<ButtonRowInput>(id, name, isMultiSelectEnabled);
+    return append<ButtonRowInput>(id, name, isMultiSelectEnabled);
 }
 
 core::Ptr<core::RadioButtonGroupCommandInput> CommandInputs::addRadioButtonGroupCommandInput(
     const std::string& id, const std::string& name) {
     if (closed<"CommandInputs::addRadioButtonGroupCommandInput">(*this)) return {};
-    return enrol<RadioGroupInput>(id, name);
+    return append<RadioGroupInput>(id, name);
 }
 
 core::Ptr<core::TextBoxCommandInput> CommandInputs::addTextBoxCommandInput(
     const std::string& id, const std::string& name, const std::string& formattedText, int numRows,
     bool isReadOnly) {
     if (closed<"CommandInputs::addTextBoxCommandInput">(*this)) return {};
-    return enrol<TextBoxInput>(id, name, formattedText, numRows, isReadOnly);
+    return append<TextBoxInput>(id, name, formattedText, numRows, isReadOnly);
 }
 
 core::Ptr<core::ImageCommandInput> CommandInputs::addImageCommandInput(
     const std::string& id, const std::string& name, const std::string& imageFile) {
     if (closed<"CommandInputs::addImageCommandInput">(*this)) return {};
-    return enrol<ImageInput>(id, name, imageFile);
+    return append<ImageInput>(id, name, imageFile);
 }
 
 core::Ptr<core::SelectionCommandInput> CommandInputs::addSelectionInput(
     const std::string& id, const std::string& name, const std::string& commandPrompt) {
     if (closed<"CommandInputs::addSelectionInput">(*this)) return {};
-    return enrol<SelectionInput>(id, name, commandPrompt);
+    return append<SelectionInput>(id, name, commandPrompt);
 }
 
 InputState* CommandInputs::find(const std::string& id) const {

@@ -79,8 +79,8 @@ public:
 
 private:
     template <class T, class... Arguments>
-    core::Ptr<T> enrol(const std::string& id, const std::string& name,
-                       const Arguments&... arguments);
+    core::Ptr<T> append(const std::string& id, const std::string& name,
+                        const Arguments&... arguments);
 
     ui::Command* command_;
     InputState* parent_;

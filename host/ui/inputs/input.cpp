@@ -26,7 +26,7 @@ void InputState::retire() {
         owning->forget(*this);
     }
     if (inLine != nullptr) {
-        inLine->table->letGo(*this);
+        inLine->table->detach(*this);
     }
     owner_ = nullptr;
 }

@@ -37,7 +37,7 @@ std::string describe(const InputState& input) {
     return "in column " + std::to_string(input.inColumn) + " of " + describe(*input.inLine->table);
 }
 
-std::string refusalToReach(const InputState& input) {
+std::string whyUnreachable(const InputState& input) {
     const core::Ptr<Command>& active = Application::current()->ui().runner().active();
     if (input.command() == nullptr || input.command() != active.get() || !active->isShown()) {
         return "it is not part of the open dialog";

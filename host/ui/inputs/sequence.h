@@ -19,7 +19,7 @@ class Sequence {
 public:
     [[nodiscard]] std::size_t count() const { return count_; }
 
-    /// Adds an entry behind the others; yields its slot.
+    /// Adds an entry behind the others; returns its slot.
     std::size_t append(T value) {
         slots_.push_back(std::move(value));
         ++count_;

@@ -107,7 +107,7 @@ bool TableInput::addToolbarCommandInput(const core::Ptr<core::CommandInput>& inp
     InputState* state = acceptable(input, kOperation);
     if (state == nullptr) return false;
     if (state->inLine != nullptr) {
-        state->inLine->table->letGo(*state);
+        state->inLine->table->detach(*state);
     }
     toolbar_.cells.push_back(state);
     state->inLine = &toolbar_;
@@ -146,11 +146,11 @@ bool TableInput::removeInput(int row, int column) {
     if (found == nullptr) {
         return fail(core::OperationFailed, "TableCommandInput::removeInput: the place is empty");
     }
-    letGo(*found);
+    detach(*found);
     return true;
 }
 
-void TableInput::letGo(InputState& input) {
+void TableInput::detach(InputState& input) {
     TableLine& line = *input.inLine;
     input.inLine = nullptr;
     if (&line == &toolbar_) {

@@ -44,7 +44,7 @@ public:
     /// @{
 
     /// Takes an input that stands in it, as a cell or in its toolbar, out of it.
-    void letGo(InputState& input);
+    void detach(InputState& input);
 
     /// Selects a row as a person does.
     void select(const TableLine& line) { lines_.select(&line); }

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/// The context menu, made anew for each showing.
+/// The context menu, made again for each showing.
 namespace host::ui {
 
 class LinearMarkingMenu final : public Object<core::LinearMarkingMenu> {

@@ -11,7 +11,7 @@ namespace tarnix {
 /// Replaces the columns in the settings document by those of the tab of `input`, its button. The
 /// other tabs take them when the dialog is opened again.
 ///
-/// A tab without the table empties the stored choice. When anything raises, the document stays as
+/// A tab without the table empties the stored choice. When anything throws, the document stays as
 /// it was; one that was missing has been made by then.
 void saveBomConfiguration(adsk::core::Ptr<adsk::core::CommandInput> input);
 

@@ -16,7 +16,7 @@ namespace tarnix {
 class BomCmdCreateEventHandler final : public adsk::core::CommandCreatedEventHandler {
 public:
     /// Builds the dialog, then sets its size, attaches the handlers and names its buttons, so that
-    /// all of these are left out when the building raises.
+    /// all of these are left out when the building throws.
     void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
 
 private:

@@ -12,8 +12,8 @@ namespace tarnix {
 /// What the open BOM dialog does about a change of any of its inputs.
 ///
 /// The id of the changed input is the whole routing key. Nothing is remembered between two
-/// notifications: each walks the design anew, finds tabs and tables again by id, and lets what is
-/// raised pass on to the host, which keeps the dialog open.
+/// notifications: each walks the design again, finds tabs and tables again by id, and lets what is
+/// thrown pass on to the host, which keeps the dialog open.
 class BomCmdInputChangedHandler final : public adsk::core::InputChangedEventHandler {
 public:
     /// Walks the active design, does what the changed input asks for, and follows it up with the

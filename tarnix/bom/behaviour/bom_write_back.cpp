@@ -43,7 +43,7 @@ constexpr std::array<std::string_view, 13> kBuiltInNames = {
     "Quantity", "Part Name",         "Part Number", "Description", "Area",   "Density",     "Mass",
     "Volume",   "Physical Material", "Length",      "Width",       "Height", "Bounding Box"};
 
-/// The text of a cell; one that is no text field raises.
+/// The text of a cell; one that is no text field throws.
 std::string textOf(const Ptr<CommandInput>& cell) {
     const Ptr<StringValueCommandInput> field = cell;
     return field->value();

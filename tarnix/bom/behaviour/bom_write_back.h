@@ -13,7 +13,7 @@ namespace tarnix {
 /// Writes the table of the active tab into the active design; nothing on the tab "BOM
 /// Configuration", and nothing without a design. What the other tab holds is dropped.
 ///
-/// What is raised ends the write, and what was written stays written.
+/// What is thrown ends the write, and what was written stays written.
 void writeActiveTable(const adsk::core::Ptr<adsk::core::CommandEventArgs>& eventArgs);
 
 /// Writes every data row of `table`, hidden ones too, into the component of its row in the walk
@@ -23,7 +23,7 @@ void writeActiveTable(const adsk::core::Ptr<adsk::core::CommandEventArgs>& event
 /// The last row of a component wins. A cell whose id carries another row's number is not written.
 /// Of a row that merges differently named components only the description is touched: its first 15
 /// characters, the length of the merge marker, are cut off; one that is shorter, but not empty,
-/// raises "invalid string position".
+/// throws "invalid string position".
 void writeBomTable(adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences,
                    std::vector<adsk::core::Ptr<adsk::fusion::Occurrence>> matching,
                    adsk::core::Ptr<adsk::core::TableCommandInput> table,

@@ -17,7 +17,7 @@ namespace tarnix {
 /// Follows up a change of any input.
 ///
 /// `rows` is the plain walk over the design; that the row exists is all that is asked of it. Each
-/// id that comes here has to end in a number: one that does not raises "invalid stoi argument", as
+/// id that comes here has to end in a number: one that does not throws "invalid stoi argument", as
 /// the dialog's buttons and the choice of the sort order do each time, when their work is done.
 void onBomSelectionChange(adsk::core::Ptr<adsk::core::InputChangedEventArgs> eventArgs,
                           const std::vector<BomRow>& rows);
@@ -25,7 +25,7 @@ void onBomSelectionChange(adsk::core::Ptr<adsk::core::InputChangedEventArgs> eve
 /// Hides a row, and each later row whose position is longer and begins with the row's position.
 ///
 /// Positions are compared character by character, whatever the dots: under 1 go 10, 11 and 100 too.
-/// For a row that is not there a plain `std::exception` is raised and nothing is hidden.
+/// For a row that is not there a plain `std::exception` is thrown and nothing is hidden.
 void hideRowWithChildren(adsk::core::Ptr<adsk::core::TableCommandInput> table, int row);
 
 }  // namespace tarnix

@@ -12,14 +12,14 @@ namespace tarnix {
 
 /// Folds or unfolds below the row whose toggle was clicked, on the tab that is active.
 ///
-/// On the tab "Structure" column 0 holds images: a click there raises a plain `std::exception`.
+/// On the tab "Structure" column 0 holds images: a click there throws a plain `std::exception`.
 void toggleRowCollapse(adsk::core::Ptr<adsk::core::CommandInput> input);
 
 /// Hides all rows behind `row` that lie below it, or shows those directly below it and, for each of
 /// these, what its own toggle says.
 ///
 /// Nothing for row 0, and for a row that is not there. A row without a toggle, or without a
-/// position, raises a plain `std::exception`.
+/// position, throws a plain `std::exception`.
 void collapseRows(adsk::core::Ptr<adsk::core::TableCommandInput> table, int row, bool showChildren);
 
 /// Shows or hides the cells of a row, except its position, and gives an assembly the icon that its

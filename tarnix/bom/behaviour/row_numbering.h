@@ -26,7 +26,7 @@ public:
 
     /// The number of the next row below the top.
     ///
-    /// Raises "invalid stoi argument" or "invalid string position" where a number that it has to
+    /// Throws "invalid stoi argument" or "invalid string position" where a number that it has to
     /// count on from is none.
     const std::string& nextNested(const Place& place);
 
@@ -39,10 +39,10 @@ private:
     std::string current_;  ///< stays as it is for a row that nothing is told of
 };
 
-/// Numbers the visible rows of `table` anew.
+/// Numbers the visible rows of `table` again.
 ///
 /// Only text boxes in column 1 take the number, behind an indent in the colour of the ground. A
-/// button keeps its name, so that on the Structure table nothing changes on screen. Raises a plain
+/// button keeps its name, so that on the Structure table nothing changes on screen. Throws a plain
 /// `std::exception` for a row without a text box or button in column 1.
 void renumberVisibleRows(adsk::core::Ptr<adsk::core::TableCommandInput> table);
 

@@ -22,7 +22,7 @@ using CellRow = std::vector<adsk::core::Ptr<adsk::core::CommandInput>>;
 /// others by text, byte by byte. Equal values are ordered by their ids as texts, reversed as well
 /// in a descending order. A row whose cell has no text is not moved.
 ///
-/// Raises "invalid vector subscript" for a table without data rows, and as `isNumericColumn` does;
+/// Throws "invalid vector subscript" for a table without data rows, and as `isNumericColumn` does;
 /// the table stays as it was then.
 void sortStructureTable(adsk::core::Ptr<adsk::core::TableCommandInput> table,
                         adsk::core::Ptr<adsk::core::CommandInput> input,
@@ -30,7 +30,7 @@ void sortStructureTable(adsk::core::Ptr<adsk::core::TableCommandInput> table,
 
 /// Whether any of the column's text fields holds a number other than zero.
 ///
-/// Every one of them is read as a number: an empty one, and a text that begins with none, raises
+/// Every one of them is read as a number: an empty one, and a text that begins with none, throws
 /// "invalid stod argument".
 bool isNumericColumn(const std::vector<CellRow>& rows, std::size_t column);
 

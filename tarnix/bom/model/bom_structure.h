@@ -16,8 +16,8 @@ inline constexpr std::array<const char*, 5> kBomStructures = {"Produce", "Buy", 
 /// another value does not end the search.
 bool isPropertySet(const BomRow& row, const std::string& key);
 
-/// The key of the row's first entry whose value is exactly "1", the empty text where there is none.
-/// All entries are looked at: a part number, or a custom property, of "1" in front of the
+/// The key of the row's first entry whose value is exactly "1", an empty string where there is
+/// none. All entries are looked at: a part number, or a custom property, of "1" in front of the
 /// structure's keys wins.
 std::string firstSetProperty(const BomRow& row);
 

@@ -10,7 +10,7 @@ namespace tarnix {
 /// Stands in front of the name of a property or of a column in its key.
 inline constexpr const char* kPropertyPrefix = "QEMA_";
 
-/// A key without its prefix, whatever the prefix is. Raises `std::out_of_range` ("invalid string
+/// A key without its prefix, whatever the prefix is. Throws `std::out_of_range` ("invalid string
 /// position") for a key that is shorter than that.
 inline std::string withoutPrefix(const std::string& key) {
     constexpr std::size_t kPrefixLength = 5;

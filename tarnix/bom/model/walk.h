@@ -21,12 +21,12 @@ const std::vector<BomRow>& walkOccurrences(
 /// (`mergeInto`), which may change descriptions in the design. Every occurrence has its row all the
 /// same, so the list has the length and the order of the plain one.
 ///
-/// A null list raises a plain `std::exception`.
+/// A null list throws a plain `std::exception`.
 const std::vector<BomRow>& walkOccurrencesMerged(
     BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
 
 /// Adds to `model.userPropertyNames` the names of those properties that are custom ones, without
-/// their prefix. Raises `std::out_of_range` ("invalid string position") for such a key that is
+/// their prefix. Throws `std::out_of_range` ("invalid string position") for such a key that is
 /// shorter than the prefix.
 void collectUserPropertyNames(BomModel& model, const std::vector<PropertyEntry>& properties);
 

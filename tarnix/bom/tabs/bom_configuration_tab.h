@@ -14,7 +14,7 @@ namespace tarnix {
 /// Adds the tab. `model` offers the custom properties met in the design.
 ///
 /// Without a tab, its children or a table nothing more is made. More than six columns in the
-/// settings raise `std::out_of_range` ("invalid vector subscript").
+/// settings throw `std::out_of_range` ("invalid vector subscript").
 void buildBomConfigurationTab(const BomModel& model,
                               adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 

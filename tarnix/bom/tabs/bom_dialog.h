@@ -10,7 +10,7 @@ namespace tarnix {
 /// Model", "Structure", "BOM Configuration".
 ///
 /// The rows are new, the names of custom properties stay and grow. With a product that is no
-/// design, or none, the dialog gets no tabs, and nobody is told. A refused input raises a plain
+/// design, or none, the dialog gets no tabs, and nobody is told. A refused input throws a plain
 /// `std::exception`, as the tabs say.
 void buildBomDialog(BomModel& model, adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 

@@ -15,7 +15,7 @@ namespace tarnix {
 /// component of that name is dropped like one below a reference.
 class StructureFilter {
 public:
-    /// Takes the next row of the list; true when it is shown. Raises a plain `std::exception` for a
+    /// Takes the next row of the list; true when it is shown. Throws a plain `std::exception` for a
     /// row without an occurrence.
     bool accept(const BomRow& row);
 

@@ -6,12 +6,12 @@
 
 namespace tarnix::platform {
 
-/// Asks a function of the process by its name; `NotMine` where the process has none. `Function` is
-/// the type of its address.
+/// Asks a function of the process by its name; `NotHandled` where the process has none. `Function`
+/// is the type of its address.
 template <class Function, class... Arguments>
 StandInAnswer askProcess(const char* name, Arguments... arguments) {
     const auto function = reinterpret_cast<Function>(processFunction(name));
-    return function != nullptr ? function(arguments...) : StandInAnswer::NotMine;
+    return function != nullptr ? function(arguments...) : StandInAnswer::NotHandled;
 }
 
 }  // namespace tarnix::platform

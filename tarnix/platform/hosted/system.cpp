@@ -13,7 +13,7 @@ ScreenArea fromProcess(const StandInArea& area) {
 
 void sleep(int milliseconds) {
     using Question = decltype(&standin_sleep);
-    if (askProcess<Question>("standin_sleep", milliseconds) == StandInAnswer::NotMine) {
+    if (askProcess<Question>("standin_sleep", milliseconds) == StandInAnswer::NotHandled) {
         native::sleep(milliseconds);
     }
 }
@@ -22,7 +22,7 @@ void showMessageBox(const std::string& text, const std::string& title, MessageSt
     using Question = decltype(&standin_messageBox);
     const StandInAnswer answer = askProcess<Question>("standin_messageBox", text.c_str(),
                                                       title.c_str(), static_cast<unsigned>(style));
-    if (answer == StandInAnswer::NotMine) {
+    if (answer == StandInAnswer::NotHandled) {
         native::showMessageBox(text, title, style);
     }
 }
@@ -30,14 +30,14 @@ void showMessageBox(const std::string& text, const std::string& title, MessageSt
 WindowHandle hideConsole() {
     using Question = decltype(&standin_hideConsole);
     const StandInAnswer answer = askProcess<Question>("standin_hideConsole");
-    return answer == StandInAnswer::NotMine ? native::hideConsole() : 0;
+    return answer == StandInAnswer::NotHandled ? native::hideConsole() : 0;
 }
 
 ScreenArea virtualScreen() {
     using Question = decltype(&standin_virtualScreen);
     StandInArea area = {};
     switch (askProcess<Question>("standin_virtualScreen", &area)) {
-        case StandInAnswer::NotMine:
+        case StandInAnswer::NotHandled:
             return native::virtualScreen();
         case StandInAnswer::Done:
             return fromProcess(area);
@@ -50,7 +50,7 @@ WindowOnScreen findWindow(const std::string& title) {
     using Question = decltype(&standin_windowArea);
     StandInArea area = {};
     switch (askProcess<Question>("standin_windowArea", title.c_str(), &area)) {
-        case StandInAnswer::NotMine:
+        case StandInAnswer::NotHandled:
             return native::findWindow(title);
         case StandInAnswer::Done:
             return {0, fromProcess(area)};
@@ -63,7 +63,7 @@ ProcessorRegisters processorInformation(std::uint32_t leaf) {
     using Question = decltype(&standin_cpuid);
     ProcessorRegisters registers = {};
     switch (askProcess<Question>("standin_cpuid", leaf, registers.data())) {
-        case StandInAnswer::NotMine:
+        case StandInAnswer::NotHandled:
             return native::processorInformation(leaf);
         case StandInAnswer::Done:
             return registers;

@@ -10,10 +10,10 @@
 namespace tarnix::platform {
 namespace {
 
-/// The caller's visitor, and what it raised: no exception may cross the process's C function.
+/// The caller's visitor, and what it threw: no exception may cross the process's C function.
 struct Visit {
     const std::function<bool(const TopWindow&)>& visitor;
-    std::exception_ptr raised;
+    std::exception_ptr thrown;
 };
 
 int visitOne(void* context, const char* title, const StandInArea* inside) {
@@ -22,7 +22,7 @@ int visitOne(void* context, const char* title, const StandInArea* inside) {
     try {
         return visit.visitor({title, [area] { return area; }}) ? 1 : 0;
     } catch (...) {
-        visit.raised = std::current_exception();
+        visit.thrown = std::current_exception();
         return 0;
     }
 }
@@ -33,10 +33,10 @@ void visitTopWindows(const std::function<bool(const TopWindow&)>& visitor) {
     using Question = decltype(&standin_visitWindows);
     const auto ask = reinterpret_cast<Question>(processFunction("standin_visitWindows"));
     Visit visit = {visitor, nullptr};
-    if (ask == nullptr || ask(&visitOne, &visit) == StandInAnswer::NotMine) {
+    if (ask == nullptr || ask(&visitOne, &visit) == StandInAnswer::NotHandled) {
         native::visitTopWindows(visitor);
-    } else if (visit.raised) {
-        std::rethrow_exception(visit.raised);
+    } else if (visit.thrown) {
+        std::rethrow_exception(visit.thrown);
     }
 }
 

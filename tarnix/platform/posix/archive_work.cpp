@@ -142,7 +142,7 @@ private:
 /// Has libzip do once, on this thread, what it does on the other at the beginning of its writing:
 /// make a temporary file, whose name comes from a library with a clean-up of its own. That is then
 /// registered before the waiting for the works, and so comes after it at the end of the process.
-/// Yields whether that file could be made, which does not matter.
+/// Returns whether that file could be made, which does not matter.
 bool startRandomNames(const std::string& archive) {
     zip_error_t ignored;
     ::zip_error_init(&ignored);

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// What a COM call yields; negative values are failures.
+/// What a COM call returns; negative values are failures.
 using HRESULT = std::int32_t;
 
 inline constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005);

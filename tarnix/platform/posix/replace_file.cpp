@@ -13,7 +13,7 @@
 namespace tarnix::platform {
 namespace {
 
-/// Raises what the system's last error is called in COM.
+/// Throws what the system's last error is called in COM.
 [[noreturn]] void raiseLastError() {
     const bool denied = errno == EACCES || errno == EPERM || errno == EROFS || errno == EISDIR;
     throw _com_error(denied ? E_ACCESSDENIED : E_FAIL);

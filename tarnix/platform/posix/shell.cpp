@@ -54,9 +54,9 @@ private:
 
 /// What a spawned program starts with: its output goes to a descriptor, nothing else of this
 /// process is left open, and signals are as usual.
-class Surroundings {
+class ProcessSandbox {
 public:
-    explicit Surroundings(int output) {
+    explicit ProcessSandbox(int output) {
         ::posix_spawn_file_actions_init(&files);
         ::posix_spawn_file_actions_adddup2(&files, output, STDOUT_FILENO);
         for (const int descriptor : {STDIN_FILENO, STDERR_FILENO}) {
@@ -69,9 +69,9 @@ public:
         ::posix_spawnattr_setsigmask(&attributes, &none);
         ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
     }
-    Surroundings(const Surroundings&) = delete;
-    Surroundings& operator=(const Surroundings&) = delete;
-    ~Surroundings() {
+    ProcessSandbox(const ProcessSandbox&) = delete;
+    ProcessSandbox& operator=(const ProcessSandbox&) = delete;
+    ~ProcessSandbox() {
         ::posix_spawn_file_actions_destroy(&files);
         ::posix_spawnattr_destroy(&attributes);
     }
@@ -94,7 +94,7 @@ bool startOpener(std::string argument, Pipe& answer) {
     std::array<char*, 8> arguments = {words[0].data(), words[1].data(), words[2].data(),
                                       words[3].data(), words[4].data(), words[2].data(),
                                       argument.data(), nullptr};
-    const Surroundings surroundings(answer.writeEnd());
+    const ProcessSandbox surroundings(answer.writeEnd());
     pid_t child = 0;
     const bool isStarted = ::posix_spawnp(&child, "setsid", &surroundings.files,
                                           &surroundings.attributes, arguments.data(), environ) == 0;

@@ -16,7 +16,7 @@ namespace {
 
 using Body = XmlNode::Body;
 
-[[noreturn]] void raise(HRESULT result) { throw _com_error(result); }
+[[noreturn]] void throwComError(HRESULT result) { throw _com_error(result); }
 
 bool isContainer(const Body& body) {
     return body.kind == XmlKind::Document || body.kind == XmlKind::Element;
@@ -24,7 +24,7 @@ bool isContainer(const Body& body) {
 
 XmlNode make(XmlKind kind, const std::string& name, const std::string& value = "") {
     if (name.empty()) {
-        raise(E_FAIL);
+        throwComError(E_FAIL);
     }
     return XmlNode(std::make_shared<Body>(kind, name, value));
 }
@@ -39,7 +39,7 @@ void removeFrom(XmlBodies& bodies, const Body& body) {
     const auto found = std::find_if(bodies.begin(), bodies.end(),
                                     [&](const auto& one) { return one.get() == &body; });
     if (found == bodies.end()) {
-        raise(E_INVALIDARG);
+        throwComError(E_INVALIDARG);
     }
     (*found)->parent = nullptr;
     bodies.erase(found);
@@ -92,7 +92,7 @@ XmlNode::XmlNode(std::shared_ptr<Body> body) : body_(std::move(body)) {}
 
 XmlNode::Body& XmlNode::body() const {
     if (body_ == nullptr) {
-        raise(E_POINTER);
+        throwComError(E_POINTER);
     }
     return *body_;
 }
@@ -101,14 +101,14 @@ std::string XmlNode::nodeName() const { return body().name; }
 
 std::string XmlNode::nodeValue() const {
     if (isContainer(body())) {
-        raise(DISP_E_TYPEMISMATCH);
+        throwComError(DISP_E_TYPEMISMATCH);
     }
     return body().value;
 }
 
 void XmlNode::setNodeValue(const std::string& value) {
     if (isContainer(body())) {
-        raise(E_FAIL);
+        throwComError(E_FAIL);
     }
     body().value = xmlText(value);
 }
@@ -144,7 +144,7 @@ XmlNode XmlNode::appendChild(const XmlNode& child) {
     Body& added = child.body();
     const bool fits = added.kind != XmlKind::Attribute && added.kind != XmlKind::Document;
     if (!fits || !isContainer(body()) || isInside(&body(), added)) {
-        raise(E_FAIL);
+        throwComError(E_FAIL);
     }
     if (added.parent != nullptr) {
         removeFrom(added.parent->children, added);
@@ -172,7 +172,7 @@ XmlNode XmlAttributeMap::setNamedItem(const XmlNode& attribute) {
     Body& element = element_.body();
     Body& added = attribute.body();
     if (added.kind != XmlKind::Attribute || added.parent != nullptr) {
-        raise(E_FAIL);
+        throwComError(E_FAIL);
     }
     const auto old = std::find_if(element.attributes.begin(), element.attributes.end(),
                                   [&](const auto& one) { return one->name == added.name; });

@@ -62,7 +62,7 @@ public:
         parser.userData = this;
     }
 
-    /// What was built, if the parser was content with it. Raises what was raised meanwhile.
+    /// What was built, if the parser was content with it. Throws what was thrown meanwhile.
     XmlBodies result() {
         if (raised_) {
             std::rethrow_exception(raised_);
@@ -75,7 +75,7 @@ public:
     }
 
 private:
-    /// Takes a report of the parser, whose C frames nothing may be raised through.
+    /// Takes a report of the parser, whose C frames nothing may be thrown through.
     template <class Action>
     static void report(void* self, Action action) {
         Builder& builder = *static_cast<Builder*>(self);

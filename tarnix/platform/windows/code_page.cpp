@@ -9,7 +9,7 @@ std::wstring widen(const std::string& text, UINT codePage) {
     const int size = static_cast<int>(text.size());
     const int length = ::MultiByteToWideChar(codePage, 0, text.data(), size, nullptr, 0);
     std::wstring wide(static_cast<std::size_t>(length), L'\0');
-    // Yields the length again, or 0 for an empty text.
+    // Returns the length again, or 0 for an empty text.
     ::MultiByteToWideChar(codePage, 0, text.data(), size, wide.data(), length);
     return wide;
 }
@@ -19,7 +19,7 @@ std::string narrow(const std::wstring& text, UINT codePage, DWORD flags, const c
     const int length =
         ::WideCharToMultiByte(codePage, flags, text.data(), size, nullptr, 0, blank, nullptr);
     std::string narrowed(static_cast<std::size_t>(length), '\0');
-    // Yields the length again, or 0 for an empty text.
+    // Returns the length again, or 0 for an empty text.
     ::WideCharToMultiByte(codePage, flags, text.data(), size, narrowed.data(), length, blank,
                           nullptr);
     return narrowed;

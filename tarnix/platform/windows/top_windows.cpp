@@ -9,10 +9,10 @@
 namespace tarnix::platform::native {
 namespace {
 
-/// The caller's visitor, and what it raised: no exception may cross the system's enumeration.
+/// The caller's visitor, and what it threw: no exception may cross the system's enumeration.
 struct Visit {
     const std::function<bool(const TopWindow&)>& visitor;
-    std::exception_ptr raised;
+    std::exception_ptr thrown;
 };
 
 std::string titleOf(HWND window) {
@@ -40,7 +40,7 @@ BOOL CALLBACK visitOne(HWND window, LPARAM context) {
         const TopWindow shown = {titleOf(window), [window] { return clientAreaOf(window); }};
         return visit.visitor(shown) ? TRUE : FALSE;
     } catch (...) {
-        visit.raised = std::current_exception();
+        visit.thrown = std::current_exception();
         return FALSE;
     }
 }
@@ -51,8 +51,8 @@ void visitTopWindows(const std::function<bool(const TopWindow&)>& visitor) {
     Visit visit = {visitor, nullptr};
     // It fails where a visit ended it, and where there is no desktop: no windows then.
     static_cast<void>(::EnumWindows(&visitOne, reinterpret_cast<LPARAM>(&visit)));
-    if (visit.raised) {
-        std::rethrow_exception(visit.raised);
+    if (visit.thrown) {
+        std::rethrow_exception(visit.thrown);
     }
 }
 

@@ -85,7 +85,7 @@ struct XmlNode::Body {
 
 namespace {
 
-/// Handle of a node that a call has yielded, which may be none.
+/// Handle of a node that a call has returned, which may be none.
 XmlNode handle(const NodePtr& node) {
     return node != nullptr ? XmlNode(std::make_shared<XmlNode::Body>(node)) : XmlNode();
 }

@@ -13,11 +13,11 @@ using namespace std::chrono_literals;
 
 class ClockTest : public testing::Test {
 protected:
-    ClockTest() { start(Pace::Standing); }
-    ~ClockTest() override { start(Pace::Standing); }
+    ClockTest() { start(ClockMode::Virtual); }
+    ~ClockTest() override { start(ClockMode::Virtual); }
 
     void plan(double seconds, const std::string& what) {
-        at(seconds, [this, what] { done += what; });
+        schedule(seconds, [this, what] { done += what; });
     }
 
     std::string done;
@@ -26,16 +26,16 @@ protected:
 TEST_F(ClockTest, AStandingOneMovesOnlyWhenSomebodyWaits) {
     EXPECT_EQ(now(), 0);
 
-    pass(1500ms);
+    advance(1500ms);
 
     EXPECT_EQ(now(), 1.5);
 }
 
 TEST_F(ClockTest, ARunningOneIsTheSystems) {
-    start(Pace::Running);
+    start(ClockMode::Real);
     const double before = now();
 
-    pass(1h);
+    advance(1h);
     std::this_thread::sleep_for(2ms);
 
     EXPECT_GE(now(), before + 0.002);
@@ -47,7 +47,7 @@ TEST_F(ClockTest, DoesWhatIsDueTheEarliestFirst) {
     plan(1, "a");
     plan(2, "b");
     plan(9, "z");
-    pass(3s);
+    advance(3s);
 
     runDue();
 
@@ -57,7 +57,7 @@ TEST_F(ClockTest, DoesWhatIsDueTheEarliestFirst) {
 TEST_F(ClockTest, DoesNothingOfItself) {
     plan(1, "a");
 
-    pass(5s);
+    advance(5s);
 
     EXPECT_EQ(done, "");
 }
@@ -72,19 +72,19 @@ TEST_F(ClockTest, DoesAThingOnce) {
 }
 
 TEST_F(ClockTest, WhatIsPlannedMeanwhileForThenIsDoneToo) {
-    at(1, [this] { plan(now(), "b"); });
-    pass(1s);
+    schedule(1, [this] { plan(now(), "b"); });
+    advance(1s);
 
     runDue();
 
     EXPECT_EQ(done, "b");
 }
 
-TEST_F(ClockTest, ForgetsWhatWasPlannedWhenItBeginsAnew) {
+TEST_F(ClockTest, ForgetsWhatWasPlannedWhenItBeginsAgain) {
     plan(1, "a");
 
-    start(Pace::Standing);
-    pass(2s);
+    start(ClockMode::Virtual);
+    advance(2s);
     runDue();
 
     EXPECT_EQ(done, "");

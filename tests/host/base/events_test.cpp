@@ -38,9 +38,9 @@ public:
 };
 
 template <class Exception>
-class Raising final : public PingHandler {
+class Throwing final : public PingHandler {
 public:
-    explicit Raising(Exception what) : exception_(std::move(what)) {}
+    explicit Throwing(Exception what) : exception_(std::move(what)) {}
     void notify(const Ptr<PingArgs>& eventArgs) override {
         (void)eventArgs;
         throw exception_;
@@ -52,7 +52,7 @@ private:
 
 class EventDispatch : public ::testing::Test {
 protected:
-    void SetUp() override { clearRaised(); }
+    void SetUp() override { clearUncaughtExceptions(); }
 
     Ptr<PingEvent> event = make<PingEvent>("ping", nullptr);
 };
@@ -113,35 +113,37 @@ TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndSaysSo) {
     EXPECT_EQ(misuses().size(), 3U);
 }
 
-TEST_F(EventDispatch, RaisingHandlerIsRecordedAndTheNextIsCalled) {
-    Raising<std::invalid_argument> raising(std::invalid_argument("invalid stoi argument"));
+TEST_F(EventDispatch, ThrowingHandlerIsRecordedAndTheNextIsCalled) {
+    Throwing<std::invalid_argument> throwing(std::invalid_argument("invalid stoi argument"));
     Counting counting;
-    event->add(&raising);
+    event->add(&throwing);
     event->add(&counting);
 
     EXPECT_FALSE(event->fire(nullptr, "button"));
 
     EXPECT_EQ(counting.calls, 1);
-    EXPECT_EQ(raised(), (std::vector<Raised>{
-                            {"ping", "button", "std::invalid_argument", "invalid stoi argument"}}));
+    EXPECT_EQ(uncaughtExceptions(),
+              (std::vector<UncaughtException>{
+                  {"ping", "button", "std::invalid_argument", "invalid stoi argument"}}));
 }
 
 TEST_F(EventDispatch, PlainExceptionIsRecordedWithoutText) {
-    Raising<std::exception> raising{std::exception()};
-    event->add(&raising);
+    Throwing<std::exception> throwing{std::exception()};
+    event->add(&throwing);
 
     event->fire(nullptr);
 
-    EXPECT_EQ(raised(), (std::vector<Raised>{{"ping", "", "std::exception", ""}}));
+    EXPECT_EQ(uncaughtExceptions(),
+              (std::vector<UncaughtException>{{"ping", "", "std::exception", ""}}));
 }
 
 TEST_F(EventDispatch, WhatIsNoExceptionClassIsRecordedByItsType) {
-    Raising<int> raising(7);
-    event->add(&raising);
+    Throwing<int> throwing(7);
+    event->add(&throwing);
 
     event->fire(nullptr);
 
-    EXPECT_EQ(raised(), (std::vector<Raised>{{"ping", "", "int", ""}}));
+    EXPECT_EQ(uncaughtExceptions(), (std::vector<UncaughtException>{{"ping", "", "int", ""}}));
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ protected:
     static Ptr<Documents> documents() { return adsk::core::Application::get()->documents(); }
 
     static void wait(std::chrono::milliseconds duration) {
-        clock::pass(duration);
+        clock::advance(duration);
         runPosted();
     }
 
@@ -163,9 +163,9 @@ TEST_F(Uploads, CanBeOpenedOnceTheyAreConverted) {
     EXPECT_TRUE(adsk::core::Application::get()->activeDocument() == document);
 }
 
-TEST_F(Uploads, RaiseAndYieldNothingAsOftenAsTheStorageIsTold) {
-    storagePace().conversionsRaising = 1;
-    storagePace().conversionsYieldingNothing = 1;
+TEST_F(Uploads, RaiseAndReturnNothingAsOftenAsTheStorageIsTold) {
+    storagePace().conversionsThrowing = 1;
+    storagePace().conversionsReturningNothing = 1;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
     wait(0s);
 

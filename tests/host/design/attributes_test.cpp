@@ -36,7 +36,7 @@ TEST_F(AttributesOfComponent, ComeInTheOrderTheyWereMade) {
     EXPECT_EQ(attributes()->groupNames(), (Texts{"G", "Other"}));
 }
 
-TEST_F(AttributesOfComponent, AddingOneThatIsThereSetsItsValueAndYieldsIt) {
+TEST_F(AttributesOfComponent, AddingOneThatIsThereSetsItsValueAndReturnsIt) {
     const Ptr<Attribute> first = attributes()->add("G", "a", "1");
     attributes()->add("G", "b", "2");
 
@@ -55,7 +55,7 @@ TEST_F(AttributesOfComponent, NamesThatDifferInCaseAreTwo) {
     EXPECT_EQ(valuesOf("g"), (Texts{"Buy="}));
 }
 
-TEST_F(AttributesOfComponent, UnknownGroupAndNameYieldNothing) {
+TEST_F(AttributesOfComponent, UnknownGroupAndNameReturnNothing) {
     attributes()->add("G", "a", "1");
 
     EXPECT_EQ(valuesOf("H"), Texts());

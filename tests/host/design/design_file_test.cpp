@@ -64,7 +64,7 @@ void expectSame(const OccurrenceData& left, const OccurrenceData& right) {
 void expectSame(const ComponentData& left, const ComponentData& right) {
     EXPECT_EQ(left.name, right.name);
     EXPECT_EQ(left.partNumber, right.partNumber);
-    EXPECT_EQ(left.numberIsOwn, right.numberIsOwn);
+    EXPECT_EQ(left.hasExplicitPartNumber, right.hasExplicitPartNumber);
     EXPECT_EQ(left.description, right.description);
     EXPECT_EQ(left.document, right.document);
     EXPECT_EQ(left.material, right.material);
@@ -85,7 +85,7 @@ TEST_F(DesignFile, HoldsEverythingOfADesign) {
     data.name = "Gearbox";
     data.unit = "mm";
     data.attributes = {{"G", "whole", "line\nbreak"}};
-    data.components[1].numberIsOwn = true;
+    data.components[1].hasExplicitPartNumber = true;
     data.components[2].sketches = {{"Profile", {{true, false}, {false, true}}}, {"Empty", {}}};
 
     const DesignData loaded = saveAndLoad(data);

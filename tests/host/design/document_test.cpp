@@ -122,7 +122,7 @@ TEST_F(DocumentTest, SnapshotHoldsAllEdits) {
               (std::vector<AttributeData>{{"G", "a", "1"}, {"G", "b", "2"}}));
     EXPECT_EQ(data.components[2].partNumber, "M10");
     EXPECT_EQ(data.components[2].description, "long");
-    EXPECT_TRUE(data.components[2].numberIsOwn);
+    EXPECT_TRUE(data.components[2].hasExplicitPartNumber);
 }
 
 TEST_F(DocumentTest, SnapshotOpensAsTheSameDesign) {
@@ -151,7 +151,7 @@ TEST_F(DocumentTest, EditsAreCounted) {
     EXPECT_EQ(editCount(document), 2u);
 }
 
-TEST_F(DocumentTest, HandlesOutliveTheDocumentAndYieldNothing) {
+TEST_F(DocumentTest, HandlesOutliveTheDocumentAndReturnNothing) {
     DesignData data = parseOutline(R"(
         Frame
           Bolt  attribute=G/a/1)");

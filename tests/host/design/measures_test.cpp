@@ -104,7 +104,7 @@ TEST_F(MeasuresTest, BoxOfAnAskewPartIsItsOwnAndNotTheBoxAroundABox) {
     EXPECT_NEAR(component("Outer:1")->boundingBox()->maxPoint()->x(), 3 * h, 1e-12);
 }
 
-TEST_F(MeasuresTest, BoxFollowsWhatIsPlacedAnew) {
+TEST_F(MeasuresTest, BoxFollowsWhatIsPlacedAgain) {
     open("Bolt  box=1x1x1 at=5,0,0");
     EXPECT_EQ(cornersOf(root()->boundingBox()), (Corners{5, 0, 0, 6, 1, 1}));
 

@@ -80,7 +80,7 @@ TEST(MakeNamesUnique, RootComponentTakesNoPart) {
 TEST(MakeNamesUnique, CarriesAnUntouchedPartNumberAlongAndNoOther) {
     DesignData data = withNames({"Design", "Bolt", "Bolt", "Bolt", "Bolt"});
     data.components[3].partNumber = "M8";
-    data.components[4].numberIsOwn = true;
+    data.components[4].hasExplicitPartNumber = true;
 
     makeNamesUnique(data);
 

@@ -80,7 +80,7 @@ TEST_F(OccurrenceTest, PartHasAnEmptyListOfChildren) {
     EXPECT_EQ(component("Bolt:1")->occurrences()->count(), 0u);
 }
 
-TEST_F(OccurrenceTest, BadIndexAndUnknownNameYieldNull) {
+TEST_F(OccurrenceTest, BadIndexAndUnknownNameReturnNull) {
     open(R"(
         Bolt
         Nut)");
@@ -93,7 +93,7 @@ TEST_F(OccurrenceTest, BadIndexAndUnknownNameYieldNull) {
     EXPECT_EQ(all->asList()->itemByName("Nut:1"), all->item(1));
 }
 
-TEST_F(OccurrenceTest, AbsentPlaceIsCountedAndYieldsNull) {
+TEST_F(OccurrenceTest, AbsentPlaceIsCountedAndReturnsNull) {
     open(R"(
         Bolt
         (absent)

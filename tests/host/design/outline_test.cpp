@@ -124,16 +124,16 @@ TEST(Outline, AbsentPlaceIsOne) {
 
 TEST(Outline, ErrorsNameLineAndReason) {
     EXPECT_EQ(complaint("A\n  B\n     C"),
-              "line 3: the indent should be that of the first line and two blanks more for each "
+              "line 3: the indent should be that of the first line and two spaces more for each "
               "level");
     EXPECT_EQ(complaint("  A\nB"),
-              "line 2: the indent should be that of the first line and two blanks more for each "
+              "line 2: the indent should be that of the first line and two spaces more for each "
               "level");
     EXPECT_EQ(complaint("A\n    B"), "line 2: nothing stands at the level above");
     EXPECT_EQ(complaint("(absent)\n  B"), "line 2: nothing stands at the level above");
     EXPECT_EQ(complaint("A  colour=red"), "line 1: \"colour=red\" is none of the keys");
     EXPECT_EQ(complaint("A box=1x1x1"),
-              "line 1: two blanks are needed between the name and what is told of it");
+              "line 1: two spaces are needed between the name and what is told of it");
     EXPECT_EQ(complaint("A  box=1x1"),
               "line 1: \"1x1\" should be 3 numbers with \"x\" between them");
     EXPECT_EQ(complaint("A  at=1,2,inf"),
@@ -146,7 +146,7 @@ TEST(Outline, ErrorsNameLineAndReason) {
               "line 1: an attribute is written attribute=group/name/value");
     EXPECT_EQ(complaint("A  attribute=/n/v"), "line 1: an attribute needs a group and a name");
     EXPECT_EQ(complaint("(absent)  grounded"), "line 1: nothing can be told of what is absent");
-    EXPECT_EQ(complaint("A\tB"), "line 1: tabs are not understood, only blanks");
+    EXPECT_EQ(complaint("A\tB"), "line 1: tabs are not understood, only spaces");
 }
 
 TEST(Outline, LinesThatTellDifferentThingsOfOneComponentAreRefused) {

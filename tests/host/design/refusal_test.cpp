@@ -44,7 +44,7 @@ TEST_F(RefusalTest, EachCallCountsOnceUnderTheClassThatDeclaresIt) {
                      "Point3D::x", "Product::parentDocument"}));
 }
 
-TEST_F(RefusalTest, RefusedGetterYieldsNothingOnce) {
+TEST_F(RefusalTest, RefusedGetterReturnsNothingOnce) {
     const auto frame = occurrence("Frame:1");
 
     gate::refuse("Occurrence::component", 1);
@@ -62,7 +62,7 @@ TEST_F(RefusalTest, RefusedGetterYieldsNothingOnce) {
     EXPECT_EQ(frame->childOccurrences()->count(), 0u);
 }
 
-TEST_F(RefusalTest, RefusedReadingOfAComponentYieldsNothing) {
+TEST_F(RefusalTest, RefusedReadingOfAComponentReturnsNothing) {
     const auto frame = component("Frame:1");
 
     gate::refuse("Component::attributes", 1);

@@ -45,7 +45,7 @@ TEST(DesignNaming, ASecondNameGetsANumber) {
               "1 | A\n2 | A (1)\n3 | A (2)\n");
 }
 
-TEST(DesignNaming, ANumberedNameThatIsTakenIsPassedOver) {
+TEST(DesignNaming, ANumberedNameThatIsTakenIsSkipped) {
     EXPECT_EQ(outline(named({component("1", "A (1)"), component("2", "A"), component("3", "A"),
                              component("4", "A (1)")})),
               "1 | A (1)\n2 | A\n3 | A (2)\n4 | A (1) (1)\n");
@@ -75,8 +75,8 @@ TEST(DesignNaming, UsesAreCountedFromTheTopOfTheOpenedTreeToItsEnd) {
 TEST(DesignNaming, ANumberOfItsOwnIsMarked) {
     const auto components = named({component("P-1", "Plate"), component("", "Rod")});
 
-    EXPECT_TRUE(components[0].numberIsOwn);
-    EXPECT_FALSE(components[1].numberIsOwn);
+    EXPECT_TRUE(components[0].hasExplicitPartNumber);
+    EXPECT_FALSE(components[1].hasExplicitPartNumber);
 }
 
 }  // namespace

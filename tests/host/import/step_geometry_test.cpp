@@ -17,7 +17,7 @@ StepGeometry answering(const std::string& script) {
             3, "a.step"};
 }
 
-/// What an operation raises as its reason; empty when it raises nothing.
+/// What an operation throws as its reason; empty when it throws nothing.
 template <class Operation>
 std::string complaint(Operation operation) {
     try {
@@ -51,7 +51,7 @@ TEST(StepGeometry, AShapeWithoutExtentHasNoBox) {
     EXPECT_EQ(answering("read line; echo '{}'").box({}), std::nullopt);
 }
 
-TEST(StepGeometry, AReaderThatIsGoneRaisesEachTime) {
+TEST(StepGeometry, AReaderThatIsGoneThrowsEachTime) {
     StepGeometry geometry = answering("read line; kill -SEGV $$");
     const std::string why =
         "a.step: a shape cannot be measured: the reader crashed (Segmentation fault)";

@@ -9,7 +9,7 @@
 #include <optional>
 
 namespace fs = std::filesystem;
-using host::Surroundings;
+using host::ProcessSandbox;
 
 namespace {
 
@@ -26,14 +26,14 @@ std::optional<host::environment::Text> temporaryFolderVariable() {
 }  // namespace
 
 TEST_F(SurroundingsOfAModule, TheWorkingDirectoryIsPrivateAndEmpty) {
-    const Surroundings surroundings(folder.path());
+    const ProcessSandbox surroundings(folder.path());
 
     EXPECT_TRUE(fs::equivalent(fs::current_path(), folder.path() / "work"));
     EXPECT_TRUE(fs::is_empty(fs::current_path()));
 }
 
 TEST_F(SurroundingsOfAModule, TemporaryFilesGoIntoThePrivateFolder) {
-    const Surroundings surroundings(folder.path());
+    const ProcessSandbox surroundings(folder.path());
 
     // Windows tells the folder with a backslash at its end, which is no name of a file there.
     const fs::path temporary = (fs::temp_directory_path() / "").parent_path();
@@ -44,7 +44,7 @@ TEST_F(SurroundingsOfAModule, WhatARunBeforeLeftInTheWorkingDirectoryGoes) {
     fs::create_directories(folder.path() / "work" / "sub");
     test_support::writeFile(folder.path() / "work" / "left", "text");
 
-    const Surroundings surroundings(folder.path());
+    const ProcessSandbox surroundings(folder.path());
 
     EXPECT_TRUE(fs::is_empty(fs::current_path()));
 }
@@ -53,7 +53,7 @@ TEST_F(SurroundingsOfAModule, TemporaryFilesOfARunBeforeStay) {
     fs::create_directories(folder.path() / "temp");
     test_support::writeFile(folder.path() / "temp" / "screen", "picture");
 
-    const Surroundings surroundings(folder.path());
+    const ProcessSandbox surroundings(folder.path());
 
     EXPECT_TRUE(fs::exists(folder.path() / "temp" / "screen"));
 }
@@ -62,7 +62,7 @@ TEST_F(SurroundingsOfAModule, AllIsAsItWasInTheEnd) {
     const fs::path before = fs::current_path();
     const auto variable = temporaryFolderVariable();
 
-    { const Surroundings surroundings(folder.path()); }
+    { const ProcessSandbox surroundings(folder.path()); }
 
     EXPECT_EQ(fs::current_path(), before);
     EXPECT_EQ(temporaryFolderVariable(), variable);
@@ -72,7 +72,7 @@ TEST_F(SurroundingsOfAModule, AllIsAsItWasInTheEnd) {
 TEST_F(SurroundingsOfAModule, KnowsWhereTheProcessStood) {
     const fs::path before = fs::current_path();
 
-    const Surroundings surroundings(folder.path());
+    const ProcessSandbox surroundings(folder.path());
 
     EXPECT_EQ(surroundings.startedIn(), before);
 }

@@ -57,7 +57,7 @@ TEST_F(SessionWithAddin, StopIsFalseWhenItRaises) {
     ASSERT_TRUE(session->run());
 
     EXPECT_FALSE(session->stop());
-    EXPECT_EQ(raised(), "std::exception:  in stop");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 }
 
 TEST_F(SessionWithAddin, AnotherSessionHasFreshStatics) {
@@ -233,14 +233,14 @@ TEST_F(SessionWithAddin, AModuleThatIsNoneIsRefusedAndLeavesNothing) {
     const fs::path before = fs::current_path();
     SessionOptions options = addinOptions();
     options.addin = folder.path() / "Fake";
-    options.freshIn = folder.path() / "fresh";
+    options.scratchRoot = folder.path() / "fresh";
     fs::create_directories(options.addin);
     test_support::writeFile(options.addin / "Fake.dll", "no code");
     test_support::writeFile(options.addin / "Fake.manifest", "{}");
 
     EXPECT_EQ(complaint(options).rfind("the add-in's module cannot be loaded: ", 0), 0U)
         << complaint(options);
-    EXPECT_TRUE(fs::is_empty(options.freshIn));
+    EXPECT_TRUE(fs::is_empty(options.scratchRoot));
     EXPECT_EQ(fs::current_path(), before);
 }
 

@@ -20,7 +20,7 @@ protected:
 }  // namespace
 
 TEST_F(ShellRequests, WithoutASessionTheyAreTheSystems) {
-    EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotHandled);
     EXPECT_TRUE(requests::recorded().empty());
 }
 
@@ -35,7 +35,7 @@ TEST_F(ShellRequests, AreRecordedInOrderAndDone) {
 TEST_F(ShellRequests, AreRecordedWhenTheSystemIsToOpenThem) {
     requests::start(Policy::RecordOpen);
 
-    EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotHandled);
     EXPECT_EQ(requests::recorded(), (std::vector<std::string>{"a.txt"}));
 }
 

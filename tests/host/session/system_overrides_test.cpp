@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-namespace answers = host::system_answers;
-using host::SystemAnswers;
+namespace answers = host::system_overrides;
+using host::SystemOverrides;
 
 namespace {
 
@@ -28,12 +28,12 @@ protected:
 TEST_F(AnswersForTheSystem, WithoutASessionAreTheSystems) {
     StandInArea area = {};
     std::array<unsigned, 4> registers = {};
-    EXPECT_EQ(standin_sleep(1), StandInAnswer::NotMine);
-    EXPECT_EQ(standin_messageBox("text", "title", 64), StandInAnswer::NotMine);
-    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotMine);
-    EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::NotMine);
-    EXPECT_EQ(standin_windowArea("title", &area), StandInAnswer::NotMine);
-    EXPECT_EQ(standin_cpuid(0, registers.data()), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_sleep(1), StandInAnswer::NotHandled);
+    EXPECT_EQ(standin_messageBox("text", "title", 64), StandInAnswer::NotHandled);
+    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
+    EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::NotHandled);
+    EXPECT_EQ(standin_windowArea("title", &area), StandInAnswer::NotHandled);
+    EXPECT_EQ(standin_cpuid(0, registers.data()), StandInAnswer::NotHandled);
 }
 
 TEST_F(AnswersForTheSystem, WaitAtOnceUnlessToldOtherwise) {
@@ -42,10 +42,10 @@ TEST_F(AnswersForTheSystem, WaitAtOnceUnlessToldOtherwise) {
     EXPECT_EQ(standin_sleep(1000), StandInAnswer::Done);
     EXPECT_EQ(answers::sleeps(), (std::vector<int>{250, 1000}));
 
-    SystemAnswers inTime;
+    SystemOverrides inTime;
     inTime.sleepTakesTime = true;
     answers::start(inTime);
-    EXPECT_EQ(standin_sleep(250), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_sleep(250), StandInAnswer::NotHandled);
     EXPECT_EQ(answers::sleeps(), std::vector<int>{250});
 }
 
@@ -65,15 +65,15 @@ TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneUnlessToldOtherwise) {
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::Done);
     EXPECT_EQ(answers::consoleHidings(), 1);
 
-    SystemAnswers hiding;
+    SystemOverrides hiding;
     hiding.consoleMayHide = true;
     answers::start(hiding);
-    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotMine);
+    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
     EXPECT_EQ(answers::consoleHidings(), 1);
 }
 
 TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
-    SystemAnswers screen;
+    SystemOverrides screen;
     screen.screen = host::ScreenRectangle{-640, 0, 800, 600};
     screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
     answers::start(screen);
@@ -100,8 +100,8 @@ int lookAtTwo(void* context, const char* title, const StandInArea* inside) {
 
 TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
     std::vector<std::string> seen;
-    EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::NotMine);
-    SystemAnswers screen;
+    EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::NotHandled);
+    SystemOverrides screen;
     screen.windows = std::vector<host::WindowShown>{{"b", {5, 0, 9, 9}}, {"a", {6, 0, 9, 9}}, {}};
     answers::start(screen);
     EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::Done);
@@ -109,7 +109,7 @@ TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
 }
 
 TEST_F(AnswersForTheSystem, SpeakForAnotherProcessor) {
-    SystemAnswers other;
+    SystemOverrides other;
     other.processor = [](unsigned leaf) { return std::array<unsigned, 4>{leaf, 1, 2, 3}; };
     answers::start(other);
     std::array<unsigned, 4> registers = {};

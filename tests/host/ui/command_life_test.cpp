@@ -101,7 +101,7 @@ TEST_F(CommandLife, WithoutInputsButWithAButtonTextShowsAnEmptyDialogAndWaits) {
     EXPECT_TRUE(openDialog());
 }
 
-TEST_F(CommandLife, WhoseCreatedHandlerRaisedAndThatHasNoInputsIsAborted) {
+TEST_F(CommandLife, WhoseCreatedHandlerThrownAndThatHasNoInputsIsAborted) {
     traceHost();
     define("Broken", [this](const Ptr<Command>& command) {
         traceLife(command);
@@ -112,11 +112,12 @@ TEST_F(CommandLife, WhoseCreatedHandlerRaisedAndThatHasNoInputsIsAborted) {
     pressCommand("Broken");
 
     EXPECT_EQ(noted(), "starting:Broken created deactivate destroy=3 terminated:Broken=3");
-    EXPECT_EQ(raised(),
-              (std::vector<Raised>{{"OnCommandCreated", "", "std::runtime_error", "cannot"}}));
+    EXPECT_EQ(
+        uncaughtExceptions(),
+        (std::vector<UncaughtException>{{"OnCommandCreated", "", "std::runtime_error", "cannot"}}));
 }
 
-TEST_F(CommandLife, WhoseCreatedHandlerRaisedBehindItsInputsShowsThem) {
+TEST_F(CommandLife, WhoseCreatedHandlerThrownBehindItsInputsShowsThem) {
     define("Broken", [](const Ptr<Command>& command) {
         command->commandInputs()->addBoolValueInput("box", "Box", true);
         throw std::exception();
@@ -136,7 +137,8 @@ TEST_F(CommandLife, ARaiseInExecuteEndsWithCompleted) {
     pressCommand("Button");
 
     EXPECT_EQ(noted(), "starting:Button created terminated:Button=1");
-    EXPECT_EQ(raised(), (std::vector<Raised>{{"OnExecute", "", "std::exception", ""}}));
+    EXPECT_EQ(uncaughtExceptions(),
+              (std::vector<UncaughtException>{{"OnExecute", "", "std::exception", ""}}));
 }
 
 TEST_F(CommandLife, AFailedExecutionEndsWithAborted) {
@@ -302,7 +304,7 @@ TEST_F(CommandLife, AnExecuteAskedForByAModuleStartsWhenThePersonIsBack) {
     enterModule("run", "", [&] { button->execute(); });
     EXPECT_EQ(noted(), "");
 
-    settle();
+    drainRequests();
     EXPECT_EQ(noted(), "execute deactivate destroy=1");
 }
 
@@ -313,7 +315,7 @@ TEST_F(CommandLife, ADefinitionDeletedInTheMeantimeIsNotStarted) {
         button->execute();
         button->deleteMe();
     });
-    settle();
+    drainRequests();
 
     EXPECT_EQ(noted(), "");
 }
@@ -442,8 +444,8 @@ TEST_F(IdleCommand, WaitsForTheEndOfADialog) {
 }
 
 TEST_F(IdleCommand, StartsOnceWhileNothingElseDoes) {
-    settle();
-    settle();
+    drainRequests();
+    drainRequests();
 
     EXPECT_EQ(noted(), "starting:SelectCommand");
 }
@@ -456,7 +458,7 @@ TEST_F(IdleCommand, MakesRoomForWhatItsHandlersStart) {
         }
     });
 
-    settle();
+    drainRequests();
 
     EXPECT_EQ(noted(),
               "starting:SelectCommand starting:Button created terminated:Button=1 "

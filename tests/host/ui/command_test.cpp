@@ -120,8 +120,9 @@ TEST_F(CommandDialog, ARaiseInInputChangedLeavesItOpenAndUsable) {
 
     EXPECT_EQ(noted(), "box");
     EXPECT_TRUE(openDialog());
-    EXPECT_EQ(raised(), (std::vector<Raised>{{"OnInputChanged", "box", "std::invalid_argument",
-                                              "invalid stoi argument"}}));
+    EXPECT_EQ(uncaughtExceptions(),
+              (std::vector<UncaughtException>{
+                  {"OnInputChanged", "box", "std::invalid_argument", "invalid stoi argument"}}));
 }
 
 TEST_F(CommandDialog, NothingCanBePressedWhileACommandIsAtWork) {

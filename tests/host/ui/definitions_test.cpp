@@ -25,7 +25,7 @@ TEST_F(Definitions, KeepWhatTheyWereMadeWith) {
     EXPECT_EQ(all()->itemById("My_Command1"), made);
 }
 
-TEST_F(Definitions, AnIdInUseYieldsNullAndALastError) {
+TEST_F(Definitions, AnIdInUseReturnsNullAndALastError) {
     add("Command");
 
     EXPECT_FALSE(add("Command"));

@@ -10,7 +10,7 @@ using namespace adsk::core;
 /// What a module holds for longer than the host holds it.
 class Handles : public HostTest {};
 
-TEST_F(Handles, OfAnEndedHostAreNotValidAndYieldNothing) {
+TEST_F(Handles, OfAnEndedHostAreNotValidAndReturnNothing) {
     const Ptr<UserInterface> interface = ui();
     const Ptr<Workspace> workspace = interface->activeWorkspace();
     const Ptr<ToolbarPanel> panel = workspace->toolbarPanels()->add("Mine", "");
@@ -145,7 +145,7 @@ TEST_F(Handles, CallsOfAModuleAreCountedOnceUnderTheClassThatDeclaresThem) {
                                                                     {"Event::add", 1}}));
 }
 
-TEST_F(Handles, ARefusedCallDoesNothingAndYieldsNull) {
+TEST_F(Handles, ARefusedCallDoesNothingAndReturnsNull) {
     openWith([](const Ptr<CommandInputs>& inputs) {
         gate::reset();
         gate::refuse("CommandInputs::addBoolValueInput", 2);

@@ -49,7 +49,7 @@ protected:
 
     explicit HostTest(const HostSetup& setup = {}) {
         startHost(setup);
-        clearRaised();
+        clearUncaughtExceptions();
     }
     ~HostTest() override { endHost(); }
 
@@ -95,7 +95,7 @@ private:
 /// The number that a termination reason stands for, as a text.
 std::string reasonText(adsk::core::CommandTerminationReason reason);
 
-/// What the action raises as a `MisuseError`, empty where it raises none.
+/// What the action throws as a `MisuseError`, empty where it throws none.
 std::string misuseOf(const std::function<void()>& action);
 
 }  // namespace host

@@ -46,7 +46,7 @@ TEST_F(TextBox, ShowsASetTextLiterally) {
     EXPECT_EQ(ui::plainText(box->formattedText()), "<b>a &amp; b</b>");
 }
 
-TEST_F(TextBox, TakesFormattedTextAnew) {
+TEST_F(TextBox, TakesFormattedTextAgain) {
     const Ptr<TextBoxCommandInput> box = add("");
 
     box->formattedText("a<br/>b");

@@ -63,7 +63,7 @@ TEST_F(Messages, WhatIsPostedCountsAsNoCallOfTheModule) {
     EXPECT_EQ(gate::counts(), (std::map<std::string, std::uint64_t>{{"adsk::doEvents", 1}}));
 }
 
-TEST_F(Messages, WhatAPostedActionRaisesDoesNotReachTheModule) {
+TEST_F(Messages, WhatAPostedActionThrowsDoesNotReachTheModule) {
     post([] { pressOk(); });
 
     EXPECT_TRUE(enterModule("run", "", [] { adsk::doEvents(); }));

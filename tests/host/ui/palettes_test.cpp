@@ -44,7 +44,7 @@ TEST_F(PaletteTest, KeepsItsBrowserAndHowItsWindowBehaves) {
     EXPECT_TRUE(state("new").resizable);
 }
 
-TEST_F(PaletteTest, AnIdInUseYieldsNull) {
+TEST_F(PaletteTest, AnIdInUseReturnsNull) {
     add("palette");
 
     EXPECT_FALSE(add("palette"));

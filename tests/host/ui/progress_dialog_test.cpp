@@ -20,7 +20,7 @@ protected:
     }
 
     static void wait(std::chrono::milliseconds duration) {
-        clock::pass(duration);
+        clock::advance(duration);
         adsk::doEvents();
     }
 

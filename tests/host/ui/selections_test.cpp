@@ -73,7 +73,7 @@ TEST_F(SelectionTest, APickUpdatesInputAndActiveSelectionsAndIsThenTold) {
     EXPECT_EQ(input->selection(0)->entity(), part(1));
 }
 
-TEST_F(SelectionTest, ABadIndexYieldsNull) {
+TEST_F(SelectionTest, ABadIndexReturnsNull) {
     const Ptr<SelectionCommandInput> input = openPicker({}, 1, 1);
 
     EXPECT_FALSE(input->selection(input->selectionCount() - 1));

@@ -64,7 +64,7 @@ TEST_F(Table, GrowsToWhereAnInputIsPut) {
     EXPECT_EQ(table->rowCount(), 2);
 }
 
-TEST_F(Table, YieldsNullForEmptyPlacesAndForPlacesOutside) {
+TEST_F(Table, ReturnsNullForEmptyPlacesAndForPlacesOutside) {
     fill();
 
     EXPECT_FALSE(table->getInputAtPosition(0, 2));

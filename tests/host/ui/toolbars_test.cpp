@@ -120,7 +120,7 @@ TEST_F(Toolbars, AnUnknownPositionAppends) {
     EXPECT_EQ(text(panel), "C A B");
 }
 
-TEST_F(Toolbars, NoDefinitionYieldsNoControl) {
+TEST_F(Toolbars, NoDefinitionReturnsNoControl) {
     const Ptr<ToolbarPanel> panel = panels()->add("Mine", "");
 
     EXPECT_FALSE(panel->controls()->addCommand(nullptr));

@@ -44,7 +44,7 @@ TEST_F(Waiting, APersonCanStartACommandMeanwhile) {
     EXPECT_EQ(noted(),
               "starting:Wait created waits starting:Quick created quick terminated:Quick=1 goes_on "
               "terminated:Wait=1");
-    EXPECT_EQ(raised(), std::vector<Raised>());
+    EXPECT_EQ(uncaughtExceptions(), std::vector<UncaughtException>());
 }
 
 TEST_F(Waiting, ADialogOpenedMeanwhileStaysOpenAfterwards) {
@@ -112,7 +112,7 @@ TEST_F(Waiting, InsideAnotherEventNothingElseCanStart) {
 }
 
 TEST_F(Waiting, WhatTheClockHasPlannedHappensMeanwhile) {
-    clock::at(0, [this] { note("due"); });
+    clock::schedule(0, [this] { note("due"); });
 
     pressCommand("Wait");
 

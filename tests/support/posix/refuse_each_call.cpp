@@ -53,7 +53,7 @@ int runOnce(host::Session& session, const RefusalSweep& sweep, std::uint64_t nth
     return refused ? kPassed : kNothingLeft;
 }
 
-/// Runs once in a copy of the process; yields its exit status, or minus the signal that ended it.
+/// Runs once in a copy of the process; returns its exit status, or minus the signal that ended it.
 int runInChild(host::Session& session, const RefusalSweep& sweep, std::uint64_t nth) {
     std::cout << std::flush;
     std::fflush(nullptr);

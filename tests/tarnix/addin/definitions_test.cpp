@@ -89,7 +89,7 @@ TEST_F(Definitions, OfHelpdeskCommandsRunWithoutADialog) {
     session->press("QM_HD_systemInfo");
 
     EXPECT_FALSE(session->dialogOpen());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 class RefusedDefinition : public UnstartedAddinTest {};
@@ -102,7 +102,7 @@ TEST_F(RefusedDefinition, OfAMainCommandGoesUnreported) {
 
     EXPECT_EQ(definition("QM_TX_onLineLibrary")->name(), "Mine");
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RefusedDefinition, OfAHelpdeskCommandIsTakenAsItStands) {

@@ -20,7 +20,7 @@ TEST_F(WorkspaceHook, FillsTheHelpdeskPanelOfAWorkspaceThatIsShown) {
     session->activateWorkspace(kManufacture);
 
     EXPECT_EQ(controls("QM_HD_panelCAMEnvironment"), controls("QM_HD_panelFusionSolidEnvironment"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(WorkspaceHook, AddsNothingWhenAWorkspaceIsShownAgain) {
@@ -92,7 +92,7 @@ TEST_F(StartingHook, HidesTheButtonWhileNoSketchIsEdited) {
     startAnyCommand();
 
     EXPECT_FALSE(button(kSolid)->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StartingHook, ShowsTheButtonWhileASketchIsEdited) {
@@ -124,7 +124,7 @@ TEST_F(StartingHook, RunsForTheHostsOwnCommandToo) {
     run();
 
     EXPECT_FALSE(button(kSolid)->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StartingHook, LooksAtTheActiveWorkspaceAlone) {
@@ -135,7 +135,7 @@ TEST_F(StartingHook, LooksAtTheActiveWorkspaceAlone) {
 
     EXPECT_TRUE(button(kSolid)->isVisible());
     EXPECT_TRUE(button(kManufacture)->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StartingHook, PassesOverAPanelWithoutTheButton) {
@@ -145,7 +145,7 @@ TEST_F(StartingHook, PassesOverAPanelWithoutTheButton) {
     startAnyCommand();
 
     EXPECT_TRUE(button(kManufacture)->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StartingHook, KeepsWhatShowsWhereNothingIsEdited) {
@@ -155,7 +155,7 @@ TEST_F(StartingHook, KeepsWhatShowsWhereNothingIsEdited) {
     startAnyCommand();
 
     EXPECT_TRUE(button(kSolid)->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 class EndingHook : public AddinUiTest {
@@ -174,7 +174,7 @@ TEST_F(EndingHook, BringsACompletedBomDialogBackWithFreshData) {
 
     ASSERT_TRUE(session->dialogOpen());
     EXPECT_EQ(session->dialog()->parentCommandDefinition()->id(), "QM_TX_BOM");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(EndingHook, LetsACancelledBomDialogGo) {
@@ -208,8 +208,8 @@ TEST_F(EndingHook, LetsABomDialogGoThatTheHostAborted) {
 
     session->press("QM_TX_BOM");
 
-    // Its handler raised before there was an input. A second start would have shown the dialog.
-    EXPECT_EQ(session->raised().size(), 1U);
+    // Its handler threw before there was an input. A second start would have shown the dialog.
+    EXPECT_EQ(session->uncaughtExceptions().size(), 1U);
     EXPECT_FALSE(session->dialogOpen());
 }
 
@@ -227,7 +227,7 @@ class MarkingMenu : public AddinUiTest {};
 
 TEST_F(MarkingMenu, OffersTheCustomProperties) {
     EXPECT_EQ(host::showMarkingMenu(), std::vector<std::string>{"QEMA_EditPropertiesCmd"});
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(MarkingMenu, OffersThemEachTimeOnce) {
@@ -240,7 +240,7 @@ TEST_F(MarkingMenu, StaysTheHostsWithoutTheCommand) {
     ASSERT_TRUE(definition("QEMA_EditPropertiesCmd")->deleteMe());
 
     EXPECT_TRUE(host::showMarkingMenu().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

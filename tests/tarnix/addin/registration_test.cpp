@@ -96,7 +96,7 @@ TEST_F(Registration, OfAnIdInUseLeavesTheObjectWithoutADefinition) {
     EXPECT_EQ(created, 1);
 }
 
-TEST_F(Registration, WithoutTheEventRaisesAndLeavesNothing) {
+TEST_F(Registration, WithoutTheEventThrowsAndLeavesNothing) {
     const host::gate::Module asModule;
     host::gate::refuse("CommandDefinition::commandCreated", 1);
 

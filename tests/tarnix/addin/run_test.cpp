@@ -23,7 +23,7 @@ TEST_F(Run, PlacesTheToolsInBothWorkspacesInTheirOrder) {
     EXPECT_EQ(controls("QM_Tarnix_AlfaFusionSolidEnvironment"), tools);
     EXPECT_EQ(controls("QM_Tarnix_AlfaCAMEnvironment"), tools);
     EXPECT_EQ(controls("QM_Tarnix_AlfaFusionRenderEnvironment"), "no panel");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(Run, FillsTheHelpdeskPanelOfTheFirstWorkspaceOnce) {
@@ -68,7 +68,7 @@ TEST_F(RunOnce, SubscribesTheFourHooksInTheirOrder) {
               "adsk::autoTerminate\n");
 }
 
-/// A start in which one host call yields nothing.
+/// A start in which one host call returns nothing.
 class RefusedRun : public UnstartedAddinTest {
 protected:
     bool runsWithout(const std::string& call, std::uint64_t nth = 1) {
@@ -76,7 +76,7 @@ protected:
         host::gate::reset();
         host::gate::refuse(call, nth);
         const bool succeeds = run();
-        EXPECT_EQ(raised(), "");
+        EXPECT_EQ(uncaughtExceptions(), "");
         return succeeds;
     }
 };
@@ -136,7 +136,7 @@ TEST_F(RunWithoutManufacture, FailsBehindThePanelOfTheFirstWorkspace) {
 
     EXPECT_NE(controls("QM_Tarnix_AlfaFusionSolidEnvironment"), "no panel");
     EXPECT_FALSE(definition("QM_HD_openHelpdesk"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RunWithoutManufacture, AttachesNoHook) {

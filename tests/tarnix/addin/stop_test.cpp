@@ -15,10 +15,10 @@ TEST_F(Stop, LeavesOpenLocalFileAlone) {
     EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
 }
 
-TEST_F(Stop, RaisesAtItsEndWhereTheHostHasNoRepeatControl) {
+TEST_F(Stop, ThrowsAtItsEndWhereTheHostHasNoRepeatControl) {
     EXPECT_FALSE(stop());
 
-    EXPECT_EQ(raised(), "std::exception:  in stop");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 }
 
 TEST_F(Stop, DeletesThePalettesThatStand) {
@@ -46,7 +46,7 @@ class StopBeforeRun : public UnstartedAddinTest {};
 TEST_F(StopBeforeRun, Succeeds) {
     EXPECT_TRUE(stop());
 
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StopBeforeRun, ReleasesTheApplicationOfARunThatFoundNoUserInterface) {
@@ -56,7 +56,7 @@ TEST_F(StopBeforeRun, ReleasesTheApplicationOfARunThatFoundNoUserInterface) {
     EXPECT_FALSE(run());
     EXPECT_TRUE(stop());
 
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 class StopWithRepeatControl : public AddinUiTest {
@@ -71,7 +71,7 @@ protected:
 TEST_F(StopWithRepeatControl, Succeeds) {
     EXPECT_TRUE(stop());
 
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
 }
 
@@ -92,7 +92,7 @@ TEST_F(StopWithRepeatControl, LetsRunSucceedAgain) {
     EXPECT_TRUE(run());
 
     EXPECT_EQ(standing(), stood);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StopWithRepeatControl, LetsRunPlaceTheEightOfItsOwn) {

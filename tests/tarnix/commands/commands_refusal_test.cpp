@@ -1,5 +1,5 @@
 // Every host call of the small commands, refused once each: the add-in neither crashes nor loses
-// memory, raises nothing but the plain exception of a null handle, and every wait comes to an end.
+// memory, throws nothing but the plain exception of a null handle, and every wait comes to an end.
 
 #include "tests/support/addin_test.h"
 #include "tests/support/refusal.h"
@@ -28,9 +28,9 @@ constexpr const char* kDesign =
     "Shaft  at=4,5,6\n";
 
 void expectPlainExceptionsAlone(Session& session, const std::string& call) {
-    for (const host::Raised& raised : session.raised()) {
-        EXPECT_EQ(raised.type, "std::exception") << raised.text << " after " << call;
-        EXPECT_EQ(raised.text, "") << "after " << call;
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " after " << call;
+        EXPECT_EQ(thrown.text, "") << "after " << call;
     }
     if (session.dialogOpen()) {
         session.cancel();
@@ -55,9 +55,9 @@ void startSketch(Session& session) {
 /// Shows a window of the host.
 void startAtScreen(Session& session) {
     start(session);
-    host::SystemAnswers screen;
+    host::SystemOverrides screen;
     screen.windows = std::vector<host::WindowShown>{{"Autodesk Fusion 360", {0, 0, 800, 600}}};
-    host::system_answers::start(screen);
+    host::system_overrides::start(screen);
 }
 
 /// A file to import and one to upload lie in the session's folder; what would wait for ever is
@@ -72,7 +72,7 @@ void startWithFiles(Session& session) {
     host::saveDesignFile(model, host::parseOutline(kDesign));
     host::storagePace().uploadSeconds = 2;
     host::storagePace().conversionSeconds = 2;
-    host::clock::at(50, [] {
+    host::clock::schedule(50, [] {
         if (host::progressDialog()) host::cancelProgress();
     });
     host::answerNextFileDialog(std::vector<std::string>{host::toUtf8(part), host::toUtf8(model)});

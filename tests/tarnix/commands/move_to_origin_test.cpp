@@ -94,7 +94,7 @@ TEST_F(MoveToOrigin, DialogsOkIsAvailableOnlyWithAtLeastOneOccurrenceSelected) {
     session->ok();
 
     EXPECT_FALSE(session->dialogOpen());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(MoveToOrigin, SeveralOccurrencesAreMovedByOneCallAllToTheSamePlace) {
@@ -106,7 +106,7 @@ TEST_F(MoveToOrigin, SeveralOccurrencesAreMovedByOneCallAllToTheSamePlace) {
     EXPECT_EQ(places(), "Housing 0 0 0\nShaft 0 0 0\nCover 7 8 9\nDrive 0 0 0\n");
     EXPECT_EQ(host::gate::count("Component::transformOccurrences"), 1U);
     EXPECT_EQ(host::gate::count("Matrix3D::create"), 1U);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(MoveToOrigin, TargetIsTheIdentityWhateverThePlaceWas) {
@@ -157,7 +157,7 @@ TEST_F(MoveToOrigin, GroundsEvenWhatTheHostRefusesToMove) {
     session->ok();
 
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6 grounded\nCover 7 8 9\nDrive 0 0 1\n");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(MoveToOrigin, WithNoDesignAsTheActiveProductNothingIsMovedAndNoMessageIsShown) {
@@ -169,7 +169,7 @@ TEST_F(MoveToOrigin, WithNoDesignAsTheActiveProductNothingIsMovedAndNoMessageIsS
 
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(MoveToOrigin, SecondOpeningHasInputsOfItsOwn) {
@@ -183,42 +183,42 @@ TEST_F(MoveToOrigin, SecondOpeningHasInputsOfItsOwn) {
     EXPECT_EQ(places(), "Housing 0 0 0 grounded\nShaft 0 0 0\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
-TEST_F(MoveToOrigin, RaisesWithoutTheSelectionInput) {
+TEST_F(MoveToOrigin, ThrowsWithoutTheSelectionInput) {
     host::gate::refuse("CommandInputs::addSelectionInput", 1);
 
     session->press(kCommand);
 
-    EXPECT_EQ(raised(), "std::exception:  in OnCommandCreated");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnCommandCreated");
 }
 
-TEST_F(MoveToOrigin, RaisesWhereTheHostGivesNoSelection) {
+TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoSelection) {
     select({0, 1});
     host::gate::refuse("SelectionCommandInput::selection", 2);
 
     session->ok();
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
-TEST_F(MoveToOrigin, RaisesWhereTheHostGivesNoOccurrence) {
+TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoOccurrence) {
     select({0, 1});
     host::gate::refuse("Selection::entity", 2);
 
     session->ok();
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
-TEST_F(MoveToOrigin, RaisesWhereTheHostGivesNoOccurrenceToGround) {
+TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoOccurrenceToGround) {
     select({0});
     session->click("ground");
     host::gate::refuse("Selection::entity", 1);
 
     session->ok();
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
 }
 

@@ -23,7 +23,7 @@ TEST_F(OnLineModels, OpensAPaletteDockedAtTheLeft) {
     EXPECT_EQ(shown->dockingState(), PaletteDockStateLeft);
     EXPECT_EQ(shown->width(), 350);
     EXPECT_EQ(shown->height(), 300);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OnLineModels, ShowsThePageOfTheMakersSite) {
@@ -59,7 +59,7 @@ TEST_F(OnLineModels, SecondExecutionCreatesNoSecondPaletteAndMakesTheFirstOneVis
     EXPECT_TRUE(first->isVisible());
     EXPECT_EQ(placeOf(first), (std::vector<int>{11, 22, 333, 444}));
     EXPECT_EQ(first->dockingState(), PaletteDockStateFloating);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OnLineModels, SecondExecutionLeavesItDockedWhereItIs) {
@@ -78,7 +78,7 @@ TEST_F(OnLineModels, WithoutTheHostItselfNothingHappens) {
 
     EXPECT_EQ(palettes()->count(), 0U);
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OnLineModels, WithoutTheUserInterfaceNothingHappens) {
@@ -88,7 +88,7 @@ TEST_F(OnLineModels, WithoutTheUserInterfaceNothingHappens) {
 
     EXPECT_EQ(palettes()->count(), 0U);
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OnLineModels, WithoutTheHostsPalettesNothingHappens) {
@@ -98,7 +98,7 @@ TEST_F(OnLineModels, WithoutTheHostsPalettesNothingHappens) {
 
     EXPECT_EQ(palettes()->count(), 0U);
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OnLineModels, StopRemovesThePalette) {

@@ -30,7 +30,7 @@ TEST_F(OpenLocalFileLocale, StaysInForceAfterTheCommand) {
     pick({design("part.f3d")});
 
     EXPECT_EQ(decimalPoint(), ",");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileLocale, IsNotMadeForNoFile) {

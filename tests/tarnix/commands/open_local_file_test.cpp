@@ -63,7 +63,7 @@ TEST_F(OpenLocalFile, FirstPickCancelledThereIsNothingToDo) {
     EXPECT_EQ(calls("Application::importManager"), 0U);
     EXPECT_EQ(calls("Application::data"), 0U);
     EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, LaterPickCancelledTheEarlierListRunsAgain) {
@@ -72,7 +72,7 @@ TEST_F(OpenLocalFile, LaterPickCancelledTheEarlierListRunsAgain) {
     pickNothing();
 
     EXPECT_EQ(opened(), (Texts{"part", "part"}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, NextPickReplacesTheList) {
@@ -106,7 +106,7 @@ TEST_F(OpenLocalFile, EachExtensionHasItsFactory) {
     EXPECT_EQ(calls("DataFolder::uploadFile"), 0U);
     EXPECT_EQ(opened(), Texts());
     EXPECT_EQ(messages(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, StepFileInUpperCaseGoesThroughTheImportWithTheLowerCasedPath) {
@@ -120,7 +120,7 @@ TEST_F(OpenLocalFile, FileInAFolderInUpperCaseIsFound) {
     pick({design("Shared Designs/V2/BRACKET.F3D")});
 
     EXPECT_EQ(opened(), Texts{"BRACKET"});
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, FileOfAFormatThatTheHostCannotReadIsSkipped) {
@@ -128,7 +128,7 @@ TEST_F(OpenLocalFile, FileOfAFormatThatTheHostCannotReadIsSkipped) {
 
     EXPECT_EQ(opened(), Texts{"part"});
     EXPECT_EQ(messages(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, InventorFileMatchesNoGroupAndIsUploaded) {
@@ -139,7 +139,7 @@ TEST_F(OpenLocalFile, InventorFileMatchesNoGroupAndIsUploaded) {
     EXPECT_EQ(calls("Application::importManager"), 0U);
     EXPECT_EQ(uploaded(), Texts{"model"});
     EXPECT_EQ(opened(), Texts{"model"});
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, InventorFileInUpperCaseIsUploadedWithTheLowerCasedPath) {
@@ -150,7 +150,7 @@ TEST_F(OpenLocalFile, InventorFileInUpperCaseIsUploadedWithTheLowerCasedPath) {
     // The design's own name, which the file's content tells.
     EXPECT_EQ(opened(), Texts{"MODEL"});
     EXPECT_EQ(messages(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFile, FileWithoutAnExtensionInADottedFolderIsUploaded) {
@@ -168,46 +168,46 @@ TEST_F(OpenLocalFile, EmptyNameIsToldToBeWrong) {
 
     EXPECT_EQ(messages(), Texts{"Something is wrong with the file"});
     EXPECT_EQ(calls("DataFolder::uploadFile"), 0U);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(OpenLocalFile, RaisesWhereTheHostHasNoImportManager) {
+TEST_F(OpenLocalFile, ThrowsWhereTheHostHasNoImportManager) {
     host::gate::refuse("Application::importManager", 1);
 
     pick({design("part.f3d"), design("other.f3d")});
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(opened(), Texts());
 }
 
-TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsPassedOver) {
+TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsSkipped) {
     host::gate::refuse("ImportManager::createFusionArchiveImportOptions", 1);
 
     pick({design("part.f3d"), design("other.f3d")});
 
-    // The host is asked all the same, and what it yields is not looked at.
+    // The host is asked all the same, and what it returns is not looked at.
     EXPECT_EQ(calls("ImportManager::importToNewDocument"), 2U);
     EXPECT_EQ(opened(), Texts{"other"});
     EXPECT_EQ(messages(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(OpenLocalFile, RaisesWhereTheHostMakesNoProgressDialog) {
+TEST_F(OpenLocalFile, ThrowsWhereTheHostMakesNoProgressDialog) {
     host::gate::refuse("UserInterface::createProgressDialog", 1);
 
     pick({design("model.ipt"), design("part.f3d")});
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(uploaded(), Texts());
     EXPECT_EQ(opened(), Texts());
 }
 
-TEST_F(OpenLocalFile, RaisesWhereTheHostGivesNothingToWaitFor) {
+TEST_F(OpenLocalFile, ThrowsWhereTheHostGivesNothingToWaitFor) {
     host::gate::refuse("DataFolder::uploadFile", 1);
 
     pick({design("model.ipt"), design("part.f3d")});
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(opened(), Texts());
     EXPECT_EQ(messages(), Texts());
 }

@@ -22,7 +22,7 @@ class OpenLocalFileUploads : public OpenLocalFileTest {
 protected:
     /// Lets time pass when nobody waits.
     static void passSeconds(int seconds) {
-        host::clock::pass(std::chrono::seconds(seconds));
+        host::clock::advance(std::chrono::seconds(seconds));
         host::runPosted();
     }
 };
@@ -37,14 +37,14 @@ TEST_F(OpenLocalFileUploads, FileIsOpenedWhenUploadAndConversionHaveEnded) {
     EXPECT_EQ(messages(), Texts());
     // Converted at 11; the pass that opened it ends with a second more.
     EXPECT_EQ(host::clock::now(), 12);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, WaitIsShownInADialogThatIsNotBroughtOnScreen) {
     storage().uploadSeconds = 100;
     std::optional<host::Progress> seen;
-    host::clock::at(3, [&] { seen = host::progressDialog(); });
-    host::clock::at(5, host::cancelProgress);
+    host::clock::schedule(3, [&] { seen = host::progressDialog(); });
+    host::clock::schedule(5, host::cancelProgress);
     host::gate::reset();
 
     pick({design("model.ipt")});
@@ -71,7 +71,7 @@ TEST_F(OpenLocalFileUploads, DialogIsPreparedOnceForAllTheWaiting) {
 TEST_F(OpenLocalFileUploads, TurnsToTheConversionWithZero) {
     storage().uploadSeconds = 3;
     std::optional<host::Progress> seen;
-    host::clock::at(4, [&] { seen = host::progressDialog(); });
+    host::clock::schedule(4, [&] { seen = host::progressDialog(); });
     // At 4 the upload's wait ends. The host looks at its clock once before the text changes, which
     // would be too early; after one call behind the upload, four in the wait, this is the sixth.
     host::gate::refuse("adsk::doEvents", 6);
@@ -85,8 +85,8 @@ TEST_F(OpenLocalFileUploads, ConversionIsCountedFromZero) {
     storage().uploadSeconds = 3;
     storage().conversionSeconds = 100;
     std::optional<host::Progress> seen;
-    host::clock::at(6, [&] { seen = host::progressDialog(); });
-    host::clock::at(8, host::cancelProgress);
+    host::clock::schedule(6, [&] { seen = host::progressDialog(); });
+    host::clock::schedule(8, host::cancelProgress);
 
     pick({design("model.ipt")});
 
@@ -112,7 +112,7 @@ TEST_F(OpenLocalFileUploads, FailedUploadIsTold) {
     EXPECT_EQ(messages(), Texts{"Failed"});
     EXPECT_EQ(uploaded(), Texts());
     EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, MissingFileFailsToUpload) {
@@ -123,7 +123,7 @@ TEST_F(OpenLocalFileUploads, MissingFileFailsToUpload) {
 
 TEST_F(OpenLocalFileUploads, CancelledUploadGoesOnInTheHost) {
     storage().uploadSeconds = 60;
-    host::clock::at(5, host::cancelProgress);
+    host::clock::schedule(5, host::cancelProgress);
 
     pick({design("model.ipt")});
 
@@ -133,7 +133,7 @@ TEST_F(OpenLocalFileUploads, CancelledUploadGoesOnInTheHost) {
     passSeconds(60);
     EXPECT_EQ(uploaded(), Texts{"model"});
     EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, AtTheLimitTheCommandEndsSilentlyAndTheUploadGoesOnInTheHost) {
@@ -147,7 +147,7 @@ TEST_F(OpenLocalFileUploads, AtTheLimitTheCommandEndsSilentlyAndTheUploadGoesOnI
     passSeconds(4000);
     EXPECT_EQ(uploaded(), Texts{"model"});
     EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, UploadThatEndsAtTheLimitIsOpened) {
@@ -158,8 +158,8 @@ TEST_F(OpenLocalFileUploads, UploadThatEndsAtTheLimitIsOpened) {
     EXPECT_EQ(opened(), Texts{"model"});
 }
 
-TEST_F(OpenLocalFileUploads, ConversionThatYieldsNothingIsTriedOnceASecond) {
-    storage().conversionsYieldingNothing = 5;
+TEST_F(OpenLocalFileUploads, ConversionThatReturnsNothingIsTriedOnceASecond) {
+    storage().conversionsReturningNothing = 5;
     host::gate::reset();
 
     pick({design("model.ipt")});
@@ -169,8 +169,8 @@ TEST_F(OpenLocalFileUploads, ConversionThatYieldsNothingIsTriedOnceASecond) {
     EXPECT_EQ(opened(), Texts{"model"});
 }
 
-TEST_F(OpenLocalFileUploads, ConversionThatRaisesIsTriedAgainAtOnce) {
-    storage().conversionsRaising = 3;
+TEST_F(OpenLocalFileUploads, ConversionThatThrowsIsTriedAgainAtOnce) {
+    storage().conversionsThrowing = 3;
     host::gate::reset();
 
     pick({design("model.ipt")});
@@ -178,11 +178,11 @@ TEST_F(OpenLocalFileUploads, ConversionThatRaisesIsTriedAgainAtOnce) {
     EXPECT_EQ(host::gate::count("Documents::open"), 4U);
     EXPECT_EQ(host::clock::now(), 1);
     EXPECT_EQ(opened(), Texts{"model"});
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, FileThatCanNeverBeConvertedIsWaitedForUntilTheUserCancels) {
-    host::clock::at(5000, host::cancelProgress);
+    host::clock::schedule(5000, host::cancelProgress);
 
     pick({file("model.ipt", "no design at all")});
 
@@ -191,7 +191,7 @@ TEST_F(OpenLocalFileUploads, FileThatCanNeverBeConvertedIsWaitedForUntilTheUserC
     EXPECT_EQ(opened(), Texts());
     // Cancelled in the pass that began at 5000, which ends before its sleep.
     EXPECT_EQ(host::clock::now(), 5000);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, SeveralFilesAreHandledStrictlyOneAfterTheOther) {
@@ -215,22 +215,22 @@ TEST_F(OpenLocalFileUploads, FailureOfOneFileDoesNotKeepTheNextOneBack) {
 TEST_F(OpenLocalFileUploads, SecondPressDuringAWaitLeavesTheFirstToItsOwnList) {
     storage().uploadSeconds = 6;
     const std::string other = design("other.f3d");
-    host::clock::at(3, [&] { pick({other}); });
+    host::clock::schedule(3, [&] { pick({other}); });
 
     pick({design("slow.ipt"), design("next.f3d")});
 
     EXPECT_EQ(opened(), (Texts{"other", "slow", "next"}));
     pickNothing();
     EXPECT_EQ(opened(), (Texts{"other", "slow", "next", "other"}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, AnotherCommandCanBeUsedDuringAWait) {
     storage().uploadSeconds = 6;
     storage().uploadFails = true;
     open("Housing  box=1x1x1\n");
-    host::clock::at(3, [&] { session->press("QM_TX_BOM"); });
-    host::clock::at(4, [&] { session->activateTab(test_support::kStructureTab); });
+    host::clock::schedule(3, [&] { session->press("QM_TX_BOM"); });
+    host::clock::schedule(4, [&] { session->activateTab(test_support::kStructureTab); });
 
     pick({design("model.ipt")});
 
@@ -239,18 +239,18 @@ TEST_F(OpenLocalFileUploads, AnotherCommandCanBeUsedDuringAWait) {
     EXPECT_EQ(session->dialog()->parentCommandDefinition()->id(), "QM_TX_BOM");
     session->cancel();
     EXPECT_FALSE(session->dialogOpen());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileUploads, DialogOpenedDuringAWaitClosesWhenTheFileBecomesTheActiveDocument) {
     storage().uploadSeconds = 6;
-    host::clock::at(3, [&] { session->press("QM_TX_BOM"); });
+    host::clock::schedule(3, [&] { session->press("QM_TX_BOM"); });
 
     pick({design("model.ipt")});
 
     EXPECT_EQ(opened(), Texts{"model"});
     EXPECT_FALSE(session->dialogOpen());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 class OpenLocalFileWithoutProject : public OpenLocalFileTest {
@@ -259,10 +259,10 @@ protected:
     void SetUp() override { AddinTest::SetUp(); }
 };
 
-TEST_F(OpenLocalFileWithoutProject, RaisesForAFileThatIsToBeUploaded) {
+TEST_F(OpenLocalFileWithoutProject, ThrowsForAFileThatIsToBeUploaded) {
     pick({design("model.ipt"), design("part.f3d")});
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(opened(), Texts());
     EXPECT_EQ(messages(), Texts());
 }
@@ -271,7 +271,7 @@ TEST_F(OpenLocalFileWithoutProject, ImportsWhatTheHostReads) {
     pick({design("part.f3d")});
 
     EXPECT_EQ(opened(), Texts{"part"});
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

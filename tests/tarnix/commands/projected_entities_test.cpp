@@ -49,7 +49,7 @@ TEST_F(ProjectedEntities, SketchWithNoCurvesNothingHappens) {
     session->press(kCommand);
 
     EXPECT_EQ(curves(), Curves());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ProjectedEntities, StartedWithAComponentUnderEditNothingHappensAndNoMessageIsShown) {
@@ -59,7 +59,7 @@ TEST_F(ProjectedEntities, StartedWithAComponentUnderEditNothingHappensAndNoMessa
 
     EXPECT_EQ(curves(), (Curves{kProjected, kDrawn}));
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ProjectedEntities, ProjectedCurvesBecomeConstructionGeometryAndDrawnOnesStayAsTheyWere) {
@@ -71,7 +71,7 @@ TEST_F(ProjectedEntities, ProjectedCurvesBecomeConstructionGeometryAndDrawnOnesS
     EXPECT_EQ(curves(),
               (Curves{kDrawn, kProjectedToHelp, kDrawnToHelp, kProjectedToHelp, kProjectedToHelp}));
     EXPECT_FALSE(session->dialogOpen());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ProjectedEntities, CurveThatIsConstructionAlreadyIsSetAgain) {
@@ -85,25 +85,25 @@ TEST_F(ProjectedEntities, CurveThatIsConstructionAlreadyIsSetAgain) {
     EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kDrawn}));
 }
 
-TEST_F(ProjectedEntities, RaisesWhereTheHostGivesNoCurves) {
+TEST_F(ProjectedEntities, ThrowsWhereTheHostGivesNoCurves) {
     openSketch({kProjected});
     edit();
     host::gate::refuse("Sketch::sketchCurves", 1);
 
     session->press(kCommand);
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(curves(), Curves{kProjected});
 }
 
-TEST_F(ProjectedEntities, RaisesAtACurveThatTheHostDoesNotGive) {
+TEST_F(ProjectedEntities, ThrowsAtACurveThatTheHostDoesNotGive) {
     openSketch({kProjected, kProjected, kProjected});
     edit();
     host::gate::refuse("SketchCurves::item", 2);
 
     session->press(kCommand);
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kProjected, kProjected}));
 }
 
@@ -114,7 +114,7 @@ TEST_F(ProjectedEntities, WithoutACommandNothingIsAttached) {
 
     session->press(kCommand);
 
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_EQ(curves(), Curves{kProjected});
 }
 

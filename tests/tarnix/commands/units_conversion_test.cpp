@@ -36,7 +36,7 @@ TEST_F(UnitsConversion, OpensAFloatingPaletteInTheLowerRightCornerOfTheHostsWind
     EXPECT_TRUE(shown->isVisible());
     EXPECT_EQ(shown->dockingState(), PaletteDockStateFloating);
     EXPECT_EQ(shown->dockingOption(), PaletteDockOptionsNone);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UnitsConversion, PaletteCanBeClosedAndResizedAndUsesTheOldBrowser) {
@@ -82,9 +82,9 @@ TEST_F(UnitsConversion, SecondExecutionMovesThePaletteAlongAndRestoresItsSize) {
     first->isVisible(false);
     first->setSize(500, 600);
     first->dockingOption(PaletteDockOptionsToVerticalOnly);
-    host::SystemAnswers moved;
+    host::SystemOverrides moved;
     moved.windows = std::vector<host::WindowShown>{{"Autodesk Fusion 360", {0, 0, 1920, 1000}}};
-    host::system_answers::start(moved);
+    host::system_overrides::start(moved);
 
     session->press(kCommand);
 
@@ -103,15 +103,15 @@ TEST_F(UnitsConversion, WithoutAWindowOfTheHostNothingHappensAtAll) {
     EXPECT_EQ(palettes()->count(), 0U);
     EXPECT_EQ(host::gate::count("Application::get"), 0U);
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(UnitsConversion, RaisesWithoutTheHostsPalettes) {
+TEST_F(UnitsConversion, ThrowsWithoutTheHostsPalettes) {
     host::gate::refuse("UserInterface::palettes", 1);
 
     session->press(kCommand);
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
 }
 
 TEST_F(UnitsConversion, PaletteThatTheHostRefusesIsLeftAlone) {
@@ -120,7 +120,7 @@ TEST_F(UnitsConversion, PaletteThatTheHostRefusesIsLeftAlone) {
     session->press(kCommand);
 
     EXPECT_EQ(palettes()->count(), 0U);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

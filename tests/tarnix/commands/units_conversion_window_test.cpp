@@ -45,7 +45,7 @@ TEST_F(UnitsConversionAtAWindow, PutsThePaletteIntoTheCornerOfItsInside) {
 
     // 700 - 265 and 550 - 455.
     EXPECT_EQ(place(), (Numbers{435, 95, 260, 400}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UnitsConversionAtAWindow, MovesThePaletteAlongAndRestoresItsSize) {
@@ -77,7 +77,7 @@ TEST_F(UnitsConversionAtAWindow, DoesNothingWithoutAWindowOfThatTitle) {
     session->press(kCommand);
 
     EXPECT_EQ(palettes()->count(), 0U);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ TEST_F(HelpdeskHandler, DoesNothingForAnUnknownId) {
     EXPECT_FALSE(fs::exists(supportFolder()));
     EXPECT_TRUE(session->openedByShell().empty());
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

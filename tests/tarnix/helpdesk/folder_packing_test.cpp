@@ -30,8 +30,8 @@ TEST_F(Zip, WithoutASupportFolderTellsSo) {
     press("compressFolder");
     EXPECT_EQ(shownMessages(), kNoFolder);
     EXPECT_FALSE(fs::exists(supportFolder()));
-    EXPECT_TRUE(host::system_answers::sleeps().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_TRUE(host::system_overrides::sleeps().empty());
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(Zip, RightAfterDeleteHelpdeskFolderTellsThatThereIsNone) {
@@ -72,7 +72,7 @@ TEST_F(Zip, IsQuietWhereTheArchiveCannotBeWritten) {
     fs::create_directories(supportFolder() / "helpdesk.zip");
     press("compressFolder");
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -12,8 +12,8 @@ using host::Session;
 
 /// Whatever the host refused: nothing but the plain exception of a null handle, and nothing said.
 void expectQuiet(Session& session, const std::string& call) {
-    for (const host::Raised& raised : session.raised()) {
-        EXPECT_EQ(raised.type + ": " + raised.text, "std::exception: ") << call;
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        EXPECT_EQ(thrown.type + ": " + thrown.text, "std::exception: ") << call;
     }
     EXPECT_TRUE(session.messages().empty()) << call;
 }

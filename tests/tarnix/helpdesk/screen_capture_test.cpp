@@ -56,7 +56,7 @@ TEST_F(ScreenCapture, TakesTheNumbersInTurn) {
     press("captureScreen");
     EXPECT_TRUE(hasPictures(1, 2));
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ScreenCapture, FillsAGapInTheNumbersFirst) {
@@ -78,7 +78,7 @@ TEST_F(ScreenCapture, EndsWithAMessageWhenAllNumbersAreTaken) {
         shownMessages(),
         "Error message (4): The allowed count of images in the directory has been exceeded\n");
     EXPECT_TRUE(hasPictures(1, 998));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ScreenCapture, MakesTheFolderAgainAfterItsDeletion) {
@@ -91,8 +91,8 @@ TEST_F(ScreenCapture, MakesTheFolderAgainAfterItsDeletion) {
 
 TEST_F(ScreenCapture, HidesTheConsoleAndWaitsUntilItIsGone) {
     press("captureScreen");
-    EXPECT_EQ(host::system_answers::consoleHidings(), 1);
-    EXPECT_EQ(host::system_answers::sleeps(), std::vector<int>{250});
+    EXPECT_EQ(host::system_overrides::consoleHidings(), 1);
+    EXPECT_EQ(host::system_overrides::sleeps(), std::vector<int>{250});
 }
 
 TEST_F(ScreenCapture, TakesANameWhoseFileCannotBeReadForFreeAndLeavesItAsItIs) {
@@ -101,7 +101,7 @@ TEST_F(ScreenCapture, TakesANameWhoseFileCannotBeReadForFreeAndLeavesItAsItIs) {
     EXPECT_TRUE(fs::is_directory(supportFolder() / name(1)));
     EXPECT_FALSE(has(name(2)));
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ScreenCapture, IsNotSavedWhereTheFolderCannotBeMade) {
@@ -109,7 +109,7 @@ TEST_F(ScreenCapture, IsNotSavedWhereTheFolderCannotBeMade) {
     press("captureScreen");
     EXPECT_EQ(readFile(supportFolder()), "a file of this name");
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ScreenCapture, IsOfTheWholeScreen) {
@@ -154,8 +154,8 @@ TEST_F(WindowCapture, IsOfTheInsideOfTheHostsWindow) {
     Picture expected = blackPicture(200, 100);
     PatternWindow::draw(expected, 0, 0, 200, 100);
     EXPECT_EQ(difference(picture(), expected), "");
-    EXPECT_EQ(host::system_answers::consoleHidings(), 0);
-    EXPECT_TRUE(host::system_answers::sleeps().empty());
+    EXPECT_EQ(host::system_overrides::consoleHidings(), 0);
+    EXPECT_TRUE(host::system_overrides::sleeps().empty());
 }
 
 TEST_F(WindowCapture, PassesOverAWindowWithALongerTitle) {
@@ -168,7 +168,7 @@ TEST_F(WindowCapture, WithoutTheHostsWindowLeavesNothing) {
     press("captureFusion");
     EXPECT_FALSE(fs::exists(supportFolder()));
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(WindowCapture, IsOfTheWindowThatTheSessionNames) {

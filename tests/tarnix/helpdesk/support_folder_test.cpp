@@ -23,7 +23,7 @@ TEST_F(SupportFolder, OpenedTwiceIsMadeOnceAndOpenedTwice) {
     EXPECT_TRUE(has("screen_001.png"));
     EXPECT_EQ(session->openedByShell(),
               (std::vector<std::string>{supportFolderText(), supportFolderText()}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportFolder, IsOpenedQuietlyWhereItCannotBeMade) {
@@ -31,7 +31,7 @@ TEST_F(SupportFolder, IsOpenedQuietlyWhereItCannotBeMade) {
     press("openFolder");
     EXPECT_EQ(session->openedByShell(), std::vector<std::string>{supportFolderText()});
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportFolder, IsGoneWithItsFilesWhenDeletedAfterOpening) {
@@ -41,7 +41,7 @@ TEST_F(SupportFolder, IsGoneWithItsFilesWhenDeletedAfterOpening) {
     press("clearFolder");
     EXPECT_FALSE(fs::exists(supportFolder()));
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportFolder, LosesAReadOnlyCapture) {
@@ -69,7 +69,7 @@ TEST_F(SupportFolder, LosesOnlyWhatIsInFrontOfASubfolderWithContent) {
     EXPECT_FALSE(has("a.png"));
     EXPECT_TRUE(has("m/inner.png"));
     EXPECT_TRUE(has("z.png"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportFolder, NotRememberedLeavesTheWorkingDirectoryToBeCleared) {
@@ -86,7 +86,7 @@ TEST_F(SupportFolder, NotRememberedLeavesTheWorkingDirectoryToBeCleared) {
 
     EXPECT_TRUE(fs::is_empty(work));
     EXPECT_EQ(treeOf(session->folder(), session->folder() / "work"), before);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportFolder, NotRememberedTouchesNothingThatLinksLeadTo) {
@@ -127,7 +127,7 @@ protected:
             host::environment::setVariable(variable, below.native());
         }
         host::SessionOptions with = addinOptions();
-        with.personsTemporaryFolder = true;
+        with.useUserTempDir = true;
         restart(with);
         ASSERT_TRUE(run());
     }
@@ -153,15 +153,15 @@ TEST_F(SupportFolderBelow, ANameBeyondAsciiIsTheFolderThatItsLowBytesSpell) {
     EXPECT_TRUE(fs::is_empty(below));
     press("clearFolder");
     EXPECT_TRUE(fs::is_empty(root.path() / "1" / "2" / "AB"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(SupportFolderBelow, ANameThatIsNoUtf8AnyMoreRaisesWhenItIsCleared) {
+TEST_F(SupportFolderBelow, ANameThatIsNoUtf8AnyMoreThrowsWhenItIsCleared) {
     restartBelow(u8"\u00E9");
     press("openFolder");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     press("clearFolder");
-    EXPECT_EQ(raised(), "std::range_error: bad conversion in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::range_error: bad conversion in OnExecute");
 }
 
 TEST_F(SupportFolderBelow, AFolderThatIsMissingIsNotMadeWithIt) {
@@ -173,7 +173,7 @@ TEST_F(SupportFolderBelow, AFolderThatIsMissingIsNotMadeWithIt) {
     EXPECT_FALSE(fs::exists(below));
     EXPECT_EQ(session->openedByShell().size(), 1U);
     EXPECT_EQ(shownMessages(), "Information (2): Target directory does not exist.\n");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ TEST_F(SupportProvider, IsTheDefaultOneAtFirst) {
     press("openHelpdesk");
     EXPECT_EQ(opened(), std::vector<std::string>{"http://helpdesk.tarnix.example/"});
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportProvider, IsTheOneOfTheSettings) {
@@ -58,7 +58,7 @@ TEST_F(SupportProvider, ThatCannotBeOpenedIsTold) {
     restartWithShell(host::shell_requests::Policy::RecordFail);
     press("openHelpdesk");
     EXPECT_EQ(shownMessages(), kRefused);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportProvider, WithAnEmptyAddressIsAskedForAsItIs) {
@@ -74,7 +74,7 @@ TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndTold) {
     choose("");
     press("openHelpdesk");
     EXPECT_EQ(shownMessages(), kRefused);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsTold) {
@@ -83,7 +83,7 @@ TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsTold) {
     press("openHelpdesk");
     EXPECT_EQ(opened(), std::vector<std::string>{"unheard-of://a.example/"});
     EXPECT_EQ(shownMessages(), kRefused);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportProvider, IsAskedForWithTheAddressAsItStands) {
@@ -98,7 +98,7 @@ TEST_F(SupportProvider, IsNotOpenedInAWorkspaceWithoutTheConfigurationControl) {
     press("openHelpdesk");
     EXPECT_TRUE(opened().empty());
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SupportProvider, IsNotOpenedWithoutAWorkspace) {
@@ -107,7 +107,7 @@ TEST_F(SupportProvider, IsNotOpenedWithoutAWorkspace) {
     host::gate::refuse("UserInterface::activeWorkspace", 2);
     press("openHelpdesk");
     EXPECT_TRUE(opened().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 class UserGuide : public HelpdeskTest {
@@ -129,7 +129,7 @@ TEST_F(UserGuide, IsTheEnglishOneInEnglish) {
     press("openHelp");
     EXPECT_EQ(session->openedByShell(),
               std::vector<std::string>{besideModule("Tarnix_UsersGuide.pdf")});
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserGuide, IsTheCzechOneInCzech) {
@@ -156,22 +156,22 @@ TEST_F(UserGuide, ThatCannotBeOpenedIsNotTold) {
     ASSERT_TRUE(run());
     press("openHelp");
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(UserGuide, RaisesAPlainExceptionWithoutPreferences) {
+TEST_F(UserGuide, ThrowsAPlainExceptionWithoutPreferences) {
     host::gate::reset();
     host::gate::refuse("Application::preferences", 1);
     press("openHelp");
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_TRUE(session->openedByShell().empty());
 }
 
-TEST_F(UserGuide, RaisesAPlainExceptionWithoutGeneralPreferences) {
+TEST_F(UserGuide, ThrowsAPlainExceptionWithoutGeneralPreferences) {
     host::gate::reset();
     host::gate::refuse("Preferences::generalPreferences", 1);
     press("openHelp");
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_TRUE(session->openedByShell().empty());
 }
 
@@ -180,7 +180,7 @@ class UserGuideBelowAnotherEnding : public UserGuide {
 protected:
     [[nodiscard]] host::SessionOptions options() const override {
         host::SessionOptions below = addinOptions();
-        below.freshIn /= "old.dll.d";
+        below.scratchRoot /= "old.dll.d";
         return below;
     }
 };
@@ -193,7 +193,7 @@ TEST_F(UserGuideBelowAnotherEnding, HasTheSuffixInThePlaceOfTheFirstOne) {
     const std::string rest = module.substr(parent.size() + std::string("\\old.dll").size());
     EXPECT_EQ(session->openedByShell().front(), parent + "\\old_UsersGuide.pdf" + rest);
     EXPECT_TRUE(rest.ends_with("\\Tarnix.dll")) << rest;
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ TEST_F(SystemInformation, IsWrittenInSixLinesIntoAFolderThatIsMade) {
     EXPECT_TRUE(line(6).ends_with("MB"));
     EXPECT_EQ(line(7), "");
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(SystemInformation, IsReplacedByASecondRun) {
@@ -77,7 +77,7 @@ TEST_F(SystemInformation, IsReplacedByASecondRun) {
 TEST_F(SystemInformation, IsLeftOutQuietlyWhereTheFileCannotBeOpened) {
     fs::create_directories(supportFolder() / "SystemInfo.txt");
     press("systemInfo");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_EQ(shownMessages(), "");
 
     fs::remove(supportFolder() / "SystemInfo.txt");
@@ -125,7 +125,7 @@ TEST_F(SystemInformation, GoesWhereTheFolderWasWhenTheModuleWasLoaded) {
     // The folder of now is made, and the one that the file goes to is not there.
     EXPECT_TRUE(fs::is_empty(session->folder() / "other" / "Helpdesk"));
     EXPECT_FALSE(fs::exists(supportFolder()));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

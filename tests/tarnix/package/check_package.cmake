@@ -1,4 +1,4 @@
-# The package, as a designer gets it: installed, packed, unpacked in a folder with blanks and letters
+# The package, as a designer gets it: installed, packed, unpacked in a folder with spaces and letters
 # beyond ASCII, and loaded from there by the workbench.
 #
 #   cmake -DBUILD=<build folder> -DOUT=<scratch folder> -DNAME=<folder's name> -DWORKBENCH=<program>

@@ -13,7 +13,7 @@ namespace {
 
 /// What the process answers, and what it was asked last.
 struct Process {
-    StandInAnswer answer = StandInAnswer::NotMine;
+    StandInAnswer answer = StandInAnswer::NotHandled;
     StandInArea area = {};
     std::string asked;
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-StandInAnswer answer = StandInAnswer::NotMine;
+StandInAnswer answer = StandInAnswer::NotHandled;
 std::vector<std::string> asked;
 
 }  // namespace
@@ -24,7 +24,7 @@ namespace {
 class HostedShell : public Shell {
 protected:
     HostedShell() { asked.clear(); }
-    ~HostedShell() override { answer = StandInAnswer::NotMine; }
+    ~HostedShell() override { answer = StandInAnswer::NotHandled; }
 };
 
 TEST_F(HostedShell, ProcessIsAskedWithTheTextAsItStands) {
@@ -39,7 +39,7 @@ TEST_F(HostedShell, SystemIsNotAskedForWhatTheProcessHasDone) {
     answer = StandInAnswer::Failed;
     EXPECT_FALSE(openWithShell("http://failed.example/"));
     // The next is the first to reach the system.
-    answer = StandInAnswer::NotMine;
+    answer = StandInAnswer::NotHandled;
     EXPECT_TRUE(openWithShell("http://a.example/"));
     EXPECT_EQ(opened(), "http://a.example/\n");
 }

@@ -69,7 +69,7 @@ TEST_F(HostedWindows, EndWithWhatTheVisitorRaises) {
 }
 
 TEST_F(HostedWindows, AreThoseOfTheMachineWhereTheProcessDoesNotSay) {
-    answer = StandInAnswer::NotMine;
+    answer = StandInAnswer::NotHandled;
     visitTopWindows([](const TopWindow& window) {
         seen += window.title + "\n";
         return true;

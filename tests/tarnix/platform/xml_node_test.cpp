@@ -11,7 +11,7 @@ TEST_F(XmlHandle, RefersToNothingAtFirst) {
     EXPECT_FALSE(XmlDocument());
 }
 
-TEST_F(XmlHandle, OfNoNodeRaisesAtAnyUse) {
+TEST_F(XmlHandle, OfNoNodeThrowsAtAnyUse) {
     XmlNode nothing;
     EXPECT_EQ(comError([&] { return nothing.nodeName(); }), E_POINTER);
     EXPECT_EQ(comError([&] { return nothing.nodeValue(); }), E_POINTER);
@@ -25,7 +25,7 @@ TEST_F(XmlHandle, OfNoNodeRaisesAtAnyUse) {
     EXPECT_EQ(comError([&] { nothing.removeChild(makeRoot()); }), E_POINTER);
 }
 
-TEST_F(XmlHandle, OfNoListOrMapRaisesAtAnyUse) {
+TEST_F(XmlHandle, OfNoListOrMapThrowsAtAnyUse) {
     XmlAttributeMap map;
     EXPECT_EQ(comError([] { return XmlNodeList().length(); }), E_POINTER);
     EXPECT_EQ(comError([] { return XmlNodeList().item(0); }), E_POINTER);
@@ -34,7 +34,7 @@ TEST_F(XmlHandle, OfNoListOrMapRaisesAtAnyUse) {
     EXPECT_EQ(comError([&] { map.setNamedItem(makeRoot()); }), E_POINTER);
 }
 
-TEST_F(XmlHandle, OfNoDocumentRaisesAtAnyUse) {
+TEST_F(XmlHandle, OfNoDocumentThrowsAtAnyUse) {
     XmlDocument nothing;
     EXPECT_EQ(comError([&] { nothing.load(folder.windows("a.xml")); }), E_POINTER);
     EXPECT_EQ(comError([&] { nothing.save(folder.windows("a.xml")); }), E_POINTER);
@@ -44,7 +44,7 @@ TEST_F(XmlHandle, OfNoDocumentRaisesAtAnyUse) {
     EXPECT_EQ(comError([&] { return nothing.createProcessingInstruction("a", "b"); }), E_POINTER);
 }
 
-TEST_F(XmlHandle, OfNoNodeRaisesAsAnArgument) {
+TEST_F(XmlHandle, OfNoNodeThrowsAsAnArgument) {
     XmlNode root = makeRoot();
     EXPECT_EQ(comError([&] { root.appendChild(XmlNode()); }), E_POINTER);
     EXPECT_EQ(comError([&] { root.removeChild(XmlNode()); }), E_POINTER);

@@ -97,13 +97,13 @@ TEST_F(XmlSave, ReplacesTheOldFile) {
     EXPECT_EQ(rootOf(saved()), "<configuration>new</configuration>");
 }
 
-TEST_F(XmlSave, RaisesWhereTheFolderIsMissing) {
+TEST_F(XmlSave, ThrowsWhereTheFolderIsMissing) {
     makeRoot();
     EXPECT_LT(comError([&] { document.save(folder.windows("missing/saved.xml")); }), 0);
     EXPECT_EQ(folder.count(), 0);
 }
 
-TEST_F(XmlSave, RaisesWhereAFolderHasTheName) {
+TEST_F(XmlSave, ThrowsWhereAFolderHasTheName) {
     makeRoot();
     std::filesystem::create_directory(folder.path() / "saved.xml");
     EXPECT_LT(comError([&] { document.save(folder.windows("saved.xml")); }), 0);

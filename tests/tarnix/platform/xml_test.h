@@ -12,7 +12,7 @@
 
 namespace tarnix::platform {
 
-/// The result in the `_com_error` that an action raises; 0 if it raises none.
+/// The result in the `_com_error` that an action throws; 0 if it throws none.
 template <class Action>
 HRESULT comError(Action action) {
     try {

@@ -61,7 +61,7 @@ TEST_F(FullPath, IsEmptyForADesignThatWasNeverSaved) {
     open("Bolt");
     openAndPick("Bolt:1");
     EXPECT_EQ(box(kFullPath), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, TellsLabelProjectFoldersAndFileInHtml) {
@@ -106,7 +106,7 @@ TEST_F(FullPath, OfAReferencedOccurrenceIsTheReferencedDocument) {
                               R"(<b><span style="color: blue"> // </span></b>Big)"
                               R"(<b><span style="color: blue"> // </span></b>Engine)");
     EXPECT_EQ(host::gate::count("DataFile::id"), 0U);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, OfAReferenceThatTheHostDoesNotKnowYetIsFoundByAWalk) {
@@ -143,7 +143,7 @@ TEST_F(FullPath, OfAReferenceWithoutAFileIsEmpty) {
     openStored("Alfa/Gearbox");
     openAndPick("Motor:1");
     EXPECT_EQ(box(kFullPath), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_TRUE(session->messages().empty());
 }
 
@@ -151,7 +151,7 @@ TEST_F(FullPath, OfAReferenceIsEmptyWhereTheUserHasNoData) {
     open("Motor  document=Engine");
     openAndPick("Motor:1");
     EXPECT_EQ(box(kFullPath), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, OfAReferenceIsEmptyWhereItsComponentTellsNoDesign) {
@@ -162,7 +162,7 @@ TEST_F(FullPath, OfAReferenceIsEmptyWhereItsComponentTellsNoDesign) {
     host::gate::refuse("Component::parentDesign", 1);
     session->pick("Motor:1");
     EXPECT_EQ(box(kFullPath), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, OfAReferenceIsEmptyWhereItsDesignTellsNoDocument) {
@@ -173,7 +173,7 @@ TEST_F(FullPath, OfAReferenceIsEmptyWhereItsDesignTellsNoDocument) {
     host::gate::refuse("Product::parentDocument", 1);
     session->pick("Motor:1");
     EXPECT_EQ(box(kFullPath), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, WithoutASelectionIsThisDocument) {
@@ -211,13 +211,13 @@ TEST_F(FullPath, InTheDocumentationWorkspaceIsAlwaysTheActiveDocument) {
     EXPECT_EQ(value(kPartName), "Motor");
 }
 
-TEST_F(FullPath, RaisesWhenTheProjectBehindTheFileIsMissing) {
+TEST_F(FullPath, ThrowsWhenTheProjectBehindTheFileIsMissing) {
     store("Alfa/Gearbox", "Bolt");
     openStored("Alfa/Gearbox");
     openProperties();
     host::gate::refuse("DataFile::parentProject", 1);
     session->pick("Bolt:1");
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_selectComponent");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of QEMA_selectComponent");
 }
 
 TEST_F(FullPath, IsEmptyWhenTheActiveDocumentIsMissing) {
@@ -227,27 +227,27 @@ TEST_F(FullPath, IsEmptyWhenTheActiveDocumentIsMissing) {
     host::gate::refuse("Application::activeDocument", 1);
     session->pick("Bolt:1");
     EXPECT_EQ(box(kFullPath), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, IsEmptyWhereTheHostDoesNotTellWhatIsSelected) {
     pickMotorWithout("UserInterface::activeSelections");
     EXPECT_EQ(box(kFullPath), "");
     EXPECT_EQ(value(kPartName), "Motor");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, IsEmptyWhereTheHostDoesNotGiveWhatIsSelected) {
     pickMotorWithout("Selections::item");
     EXPECT_EQ(box(kFullPath), "");
     EXPECT_EQ(value(kPartName), "Motor");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, OfASelectionWithoutAnEntityIsThisDocument) {
     pickMotorWithout("Selection::entity");
     EXPECT_EQ(shown(), "ThisDoc: Alfa // Gearbox");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FullPath, OfAFileWithoutAFolderIsASeparator) {

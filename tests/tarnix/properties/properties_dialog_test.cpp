@@ -47,7 +47,7 @@ TEST_F(PropertiesDialog, HasTwoTabsAndASize) {
         tab QEMA_tab_iProperties "Custom properties"
         tab QEMA_tab_Settings "Settings")"));
     EXPECT_EQ(host::dialogSize(), (host::ui::DialogSize{300, 600}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_TRUE(session->messages().empty());
     EXPECT_TRUE(host::misuses().empty());
 }
@@ -135,7 +135,7 @@ TEST_F(PropertiesDialog, WithAnEmptyListIsCompleteWithoutCustomPropertiesAndRows
     EXPECT_EQ(rows(), "|");
     EXPECT_EQ(session->table(kTable)->maximumVisibleRows(), 20);
     EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, TheIdOfARowIsACharacterShorterThanTheKey) {
@@ -160,7 +160,7 @@ TEST_F(PropertiesDialog, AnEntryWithoutSemicolonIsIdAndName) {
     EXPECT_EQ(inputsOf("QEMA_customProperties"), R"(text  "" "")");
     EXPECT_EQ(rows(), "||");
     EXPECT_EQ(rowId(0), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, PicksOccurrencesAndTheRootComponentAlone) {
@@ -215,56 +215,56 @@ TEST_F(PropertiesDialog, TellsOfTheSecondSelectionFilterToo) {
 
 TEST_F(PropertiesDialog, StopsWithoutItsFirstTab) {
     EXPECT_EQ(withoutCall("CommandInputs::addTabCommandInput", 1), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_TRUE(session->messages().empty());
 }
 
 TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsFirstTab) {
     EXPECT_EQ(withoutCall("TabCommandInput::children", 1), "QEMA_tab_iProperties");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutItsFirstGroup) {
     EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 1),
               "QEMA_tab_iProperties QEMA_selectComponent");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsFirstGroup) {
     EXPECT_EQ(withoutCall("GroupCommandInput::children", 1),
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutItsButtons) {
     EXPECT_EQ(withoutCall("CommandInputs::addButtonRowCommandInput", 1),
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutTheListOfItsButtons) {
     EXPECT_EQ(withoutCall("ButtonRowCommandInput::listItems", 1),
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutItsSecondGroup) {
     EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 2),
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
               "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(PropertiesDialog, RaisesWithoutTheChildrenOfItsSecondGroupWhereTheListHasEntries) {
+TEST_F(PropertiesDialog, ThrowsWithoutTheChildrenOfItsSecondGroupWhereTheListHasEntries) {
     offer({"QEMA_Colour;Colour"});
     openWithout("GroupCommandInput::children", 2);
-    EXPECT_EQ(raised(), "std::exception:  in OnCommandCreated");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnCommandCreated");
 }
 
 TEST_F(PropertiesDialog, NeedsNoChildrenOfItsSecondGroupForAnEmptyList) {
     openWithout("GroupCommandInput::children", 2);
     EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsSecondTab) {
@@ -272,7 +272,7 @@ TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsSecondTab) {
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
               "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc "
               "QEMA_customProperties QEMA_tab_Settings");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesDialog, StopsWithoutItsSecondTab) {
@@ -280,7 +280,7 @@ TEST_F(PropertiesDialog, StopsWithoutItsSecondTab) {
               "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
               "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc "
               "QEMA_customProperties");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ TEST_F(PropertiesOk, WritesEveryInputInTheOrderOfTheDialog) {
         Reference=0
         QEMA_Colour=red
         QEMA_Size=)"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOk, WithAllButtonsOffWritesZeroToAllFive) {
@@ -95,49 +95,49 @@ TEST_F(PropertiesOk, WithoutASelectionLeavesTheDesignUntouched) {
     session->type(kPartNumber, "lost");
     forceOk();
     EXPECT_EQ(wholeDesign(), before);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOk, StopsSilentlyWithoutTheInputs) {
     okWithout("Command::commandInputs", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelectionInput) {
     okWithout("CommandInputs::itemById", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelection) {
     okWithout("SelectionCommandInput::selection", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOk, StopsSilentlyWithoutTheComponentOfAnOccurrence) {
     okWithout("Occurrence::component", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOk, StopsSilentlyWithoutTheEntity) {
     okWithout("Selection::entity", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(PropertiesOk, RaisesWithoutTheGroupOfTheProperties) {
+TEST_F(PropertiesOk, ThrowsWithoutTheGroupOfTheProperties) {
     okWithout("CommandInputs::itemById", 2);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
 }
 
-TEST_F(PropertiesOk, RaisesWithoutTheListOfTheButtons) {
+TEST_F(PropertiesOk, ThrowsWithoutTheListOfTheButtons) {
     okWithout("ButtonRowCommandInput::listItems", 1);
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
 }
 
 TEST_F(PropertiesOk, WritesInputsThatAreDisabledToo) {

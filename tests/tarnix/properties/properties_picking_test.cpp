@@ -27,7 +27,7 @@ TEST_F(PickedComponent, FillsAllInputs) {
     openAndPick("Bolt:1");
     EXPECT_EQ(values(), "Buy | B-1 | Bolt | long one | red | ");
     EXPECT_EQ(session->input(kSelection)->tooltip(), "Bolt");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, CanBeTheRootComponent) {
@@ -86,7 +86,7 @@ TEST_F(PickedComponent, WhenItIsClearedEmptiesTextsAndDisablesTheGroups) {
     EXPECT_EQ(values(), "Buy |  |  |  | ");
     EXPECT_EQ(enabled(), "------");
     EXPECT_TRUE(session->input(kSave)->isEnabled());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, AfterAClearedOneEnablesTheGroupsAgain) {
@@ -108,7 +108,7 @@ TEST_F(PickedComponent, WhenItIsClearedWithoutADesignChangesNothing) {
     session->pick("Bolt:1");
     EXPECT_EQ(value(kDescription), "mine");
     EXPECT_EQ(enabled(), "++++++");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, WhenItIsClearedWithoutARootComponentChangesNothing) {
@@ -120,7 +120,7 @@ TEST_F(PickedComponent, WhenItIsClearedWithoutARootComponentChangesNothing) {
     EXPECT_EQ(host::gate::refusedCall(), "Design::rootComponent");
     EXPECT_EQ(value(kDescription), "long");
     EXPECT_EQ(enabled(), "++++++");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, IsNotLookedForWhereTheInputIsNoSelection) {
@@ -134,7 +134,7 @@ TEST_F(PickedComponent, IsNotLookedForWhereTheInputIsNoSelection) {
     session->click(kSelection);
     EXPECT_EQ(box->text(), "old");
     EXPECT_EQ(values(), " | Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, InManufacturingFillsNothingButEnables) {
@@ -147,7 +147,7 @@ TEST_F(PickedComponent, InManufacturingFillsNothingButEnables) {
     EXPECT_EQ(values(), " |  |  |  | ");
     EXPECT_EQ(enabled(), "++++++");
     EXPECT_EQ(session->input(kSelection)->tooltip(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, InManufacturingStillShowsItsFullPath) {
@@ -175,7 +175,7 @@ TEST_F(PickedComponent, ThatIsNoneEnablesTheGroupsAndFillsNothing) {
     EXPECT_EQ(values(), " |  |  |  | ");
     EXPECT_EQ(enabled(), "++++++");
     EXPECT_EQ(session->input(kSelection)->tooltip(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, StaysAsItIsWhileItIsEdited) {
@@ -187,7 +187,7 @@ TEST_F(PickedComponent, StaysAsItIsWhileItIsEdited) {
     session->choose(kStructure, "Produce");
     EXPECT_EQ(values(), "Produce | B-2 | Bolt |  | \xC5\xBElut\xC3\xA1/!");
     EXPECT_EQ(stored(session->design(), "Bolt"), "B-1 | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PickedComponent, HasNothingToDoWithAChangeOfTheTab) {
@@ -196,13 +196,13 @@ TEST_F(PickedComponent, HasNothingToDoWithAChangeOfTheTab) {
     session->activateTab(kSettingsTab);
     session->activateTab(kPropertiesTab);
     EXPECT_EQ(values(), " | Bolt | Bolt | ");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(PickedComponent, AnInputInNoOtherRaisesWhenItChanges) {
+TEST_F(PickedComponent, AnInputInNoOtherThrowsWhenItChanges) {
     openProperties();
     host::reportChange(session->input(kPropertiesTab));
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_tab_iProperties");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of QEMA_tab_iProperties");
     EXPECT_TRUE(session->dialogOpen());
 }
 

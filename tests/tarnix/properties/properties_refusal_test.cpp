@@ -1,5 +1,5 @@
 // Every host call of the dialog's flows, refused once each: the add-in neither crashes nor loses
-// memory, raises nothing but the plain exception of a null handle, and leaves its settings whole.
+// memory, throws nothing but the plain exception of a null handle, and leaves its settings whole.
 
 #include "tests/support/files.h"
 #include "tests/support/refusal.h"
@@ -40,9 +40,9 @@ std::string rootWith(const std::vector<std::string>& properties) {
 }
 
 void expectPlainExceptionsAlone(const Session& session) {
-    for (const host::Raised& raised : session.raised()) {
-        EXPECT_EQ(raised.type, "std::exception") << raised.text << " in " << raised.event;
-        EXPECT_EQ(raised.text, "");
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " in " << thrown.event;
+        EXPECT_EQ(thrown.text, "");
     }
 }
 
@@ -55,11 +55,11 @@ void checkFlow(Session& session, const std::string& /*call*/) {
     session.stop();
 }
 
-/// After a saved list: as it was where something was raised, else what the rows told. A table that
+/// After a saved list: as it was where something was thrown, else what the rows told. A table that
 /// could not be reached has none, a row that could not be read no name.
 void checkSaved(Session& session, const std::string& call) {
     const std::string root = rootOf(session);
-    if (!session.raised().empty()) {
+    if (!session.uncaughtExceptions().empty()) {
         EXPECT_EQ(root, rootWith(kOffered)) << call;
     } else {
         const std::vector<std::string> whole = {
@@ -96,13 +96,13 @@ void load(Session& session) {
 void openDialog(Session& session) {
     load(session);
     session.press("QEMA_EditPropertiesCmd");
-    ASSERT_TRUE(session.raised().empty());
+    ASSERT_TRUE(session.uncaughtExceptions().empty());
 }
 
 void openAndPick(Session& session) {
     openDialog(session);
     session.pick("Bolt:1");
-    ASSERT_TRUE(session.raised().empty());
+    ASSERT_TRUE(session.uncaughtExceptions().empty());
 }
 
 void showList(Session& session) {

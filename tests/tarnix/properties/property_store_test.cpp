@@ -44,8 +44,8 @@ template <class Action>
 bool raisesAPlainException(Action action) {
     try {
         action();
-    } catch (const std::exception& raised) {
-        return typeid(raised) == typeid(std::exception);
+    } catch (const std::exception& thrown) {
+        return typeid(thrown) == typeid(std::exception);
     }
     return false;
 }
@@ -166,17 +166,17 @@ TEST_F(PropertyStoreTest, AComponentWithoutAttributeCollectionTakesNothing) {
     EXPECT_EQ(read().size(), 3U);
 }
 
-TEST_F(PropertyStoreTest, ANullComponentRaisesAPlainException) {
+TEST_F(PropertyStoreTest, ANullComponentThrowsAPlainException) {
     EXPECT_TRUE(raisesAPlainException([] { readComponentProperties(nullptr); }));
     EXPECT_TRUE(raisesAPlainException([] { writeComponentProperties({}); }));
 }
 
-TEST(FindProperty, YieldsTheFirstEntryOfTheKey) {
+TEST(FindProperty, ReturnsTheFirstEntryOfTheKey) {
     const ComponentProperties properties{{{"Colour", "red"}, {"Colour", "blue"}}, nullptr};
     EXPECT_EQ(findProperty(properties, "Colour"), "red");
 }
 
-TEST(FindProperty, YieldsTheEmptyTextForAnUnknownKey) {
+TEST(FindProperty, ReturnsTheEmptyTextForAnUnknownKey) {
     EXPECT_EQ(findProperty({{{"Colour", "red"}}, nullptr}, "colour"), "");
 }
 

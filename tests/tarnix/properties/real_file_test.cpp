@@ -118,7 +118,7 @@ TEST_F(PropertiesOfASample, EditedInTheDialogAreSeenByTheBom) {
     showStructure();
 
     EXPECT_EQ(bomRow("X-1"), "X-1 | Buy | Edited | in the dialog | red");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOfASample, EditedInTheBomAreSeenByTheDialog) {
@@ -127,7 +127,7 @@ TEST_F(PropertiesOfASample, EditedInTheBomAreSeenByTheDialog) {
     openAndPick("Rail 600:1");
 
     EXPECT_EQ(values(), "Divided | Y-2 | Rail 600 | in the BOM | green");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOfARealFile, EditedInTheDialogAreSeenByTheBom) {
@@ -135,7 +135,7 @@ TEST_F(PropertiesOfARealFile, EditedInTheDialogAreSeenByTheBom) {
     showModel();
 
     EXPECT_EQ(bomRow("X-1"), "X-1 | Buy | Edited | in the dialog | red");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(PropertiesOfARealFile, EditedInTheBomAreSeenByTheDialog) {
@@ -144,7 +144,7 @@ TEST_F(PropertiesOfARealFile, EditedInTheBomAreSeenByTheDialog) {
     openAndPick("plate:1");
 
     EXPECT_EQ(values(), "Divided | Y-2 | plate | in the BOM | green");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace tarnix

@@ -42,7 +42,7 @@ TEST_F(UserProperties, MayHaveLettersDigitsBlankHyphenAndUnderscoreAlone) {
     offer({"QEMA_Colour;Colour"});
     showList();
     EXPECT_EQ(acceptedBytes(), " -0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, MayNotHavePointsSlashesOrAccents) {
@@ -100,7 +100,7 @@ TEST_F(UserProperties, AreAddedAsEmptyRowsWithIdsThatNeverRepeat) {
     showList();
     session->click(kAddRow);
     EXPECT_EQ(rowId(0), "QEMA_UserProperty_15097");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, AreAddedBehindTheOthers) {
@@ -130,7 +130,7 @@ TEST_F(UserProperties, StayWhereTheHostGivesNoTable) {
     session->click(kDeleteRow);
     EXPECT_EQ(rows(), "|Colour|");
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, AreNotCheckedWithoutTheBoxForTheMessage) {
@@ -139,7 +139,7 @@ TEST_F(UserProperties, AreNotCheckedWithoutTheBoxForTheMessage) {
     host::gate::refuse("CommandInputs::itemById", 1);
     EXPECT_TRUE(accepts("a.b"));
     EXPECT_EQ(host::gate::refusedCall(), "CommandInputs::itemById");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, AreNotCheckedInACellThatIsNoLineOfText) {
@@ -149,7 +149,7 @@ TEST_F(UserProperties, AreNotCheckedInACellThatIsNoLineOfText) {
     session->click("odd");
     EXPECT_EQ(box(kMessage), kNotice);
     EXPECT_TRUE(isEnabled(kSave));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, AreAddedInOneCellThatSpansNoOther) {
@@ -178,7 +178,7 @@ TEST_F(UserProperties, AreSavedAsKeyAndNameInTheOrderOfTheRows) {
               "<item_iProperty id=\"QEMA_Farbe\"><displayName>Farbe</displayName></item_iProperty>"
               "<item_iProperty id=\"QEMA_Surface finish\"><displayName>Surface finish"
               "</displayName></item_iProperty>");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, AreSavedIntoTheDefaultSettings) {
@@ -237,7 +237,7 @@ TEST_F(UserProperties, AreNotSavedWhereTheSettingsHaveNoCategoryForThem) {
     session->click(kSave);
     EXPECT_EQ(savedList(), "none");
     EXPECT_NE(settings().find("<item_bomItems id=\"QEMA_Mass\">"), std::string::npos);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(UserProperties, LeaveTheOtherCategoriesAsTheyAre) {
@@ -255,7 +255,8 @@ TEST_F(UserProperties, RaiseForACellThatIsNoLineOfText) {
     const Ptr<TableCommandInput> table = session->table(kTable);
     table->addCommandInput(table->commandInputs()->addBoolValueInput("odd", "Odd", true), 1, 0);
     session->click(kSave);
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnSaveUserIProperty");
+    EXPECT_EQ(uncaughtExceptions(),
+              "std::exception:  in OnInputChanged of QEMA_btnSaveUserIProperty");
     EXPECT_EQ(settings(), before);
 }
 
@@ -265,7 +266,7 @@ TEST_F(UserProperties, AreNotReadWhereTheSettingsHaveNoCategoryForThem) {
     const Ptr<TableCommandInput> table = session->table(kTable);
     table->addCommandInput(table->commandInputs()->addBoolValueInput("odd", "Odd", true), 0, 0);
     session->click(kSave);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_EQ(savedList(), "none");
 }
 
@@ -273,8 +274,8 @@ TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsAreNoXml) {
     showList();
     test_support::writeFile(settingsFile(), "<configuration");
     session->click(kSave);
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_NE(session->uncaughtExceptions()[0].type.find("_com_error"), std::string::npos);
     EXPECT_EQ(settings(), "<configuration");
     EXPECT_TRUE(session->dialogOpen());
 }
@@ -288,8 +289,8 @@ TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsCannotBeWritten) {
         const test_support::UnwritableFile unwritable(settingsFile());
         session->click(kSave);
     }
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_NE(session->uncaughtExceptions()[0].type.find("_com_error"), std::string::npos);
     EXPECT_EQ(settings(), before);
     EXPECT_TRUE(session->dialogOpen());
     session->click(kSave);

@@ -83,7 +83,7 @@ TEST_F(ColumnRefusal, WhileTheColumnsAreSaved) {
         session.choose("iProperty_1", "Mass");
         session.paste("nameCol6", "Weight");
         session.choose("iProperty_4", "Size");
-        session.clearRaised();
+        session.clearUncaughtExceptions();
     };
 
     const std::uint64_t calls = sweep(

@@ -3,7 +3,7 @@
 #include "tests/support/files.h"
 #include "tests/support/refusal.h"
 #include "tests/support/settings.h"
-#include "tests/tarnix/refusal/known_raised.h"
+#include "tests/tarnix/refusal/known_exceptions.h"
 
 #include "host/session/table_view.h"
 
@@ -55,7 +55,7 @@ void DialogRefusal::show(Session& session, const char* outline, const Texts& col
     ASSERT_TRUE(session.run());
     session.press("QM_TX_BOM");
     session.activateTab(tab);
-    ASSERT_TRUE(session.raised().empty());
+    ASSERT_TRUE(session.uncaughtExceptions().empty());
 }
 
 std::uint64_t DialogRefusal::sweep(const char* tableId, const Steps& prepare, const Steps& flow,
@@ -69,7 +69,7 @@ std::uint64_t DialogRefusal::sweep(const char* tableId, const Steps& prepare, co
         written_->addTable(session.table(tableId));
     };
     const auto checkAll = [&](Session& session, const std::string& /*call*/) {
-        expectOnlyKnownRaised(session);
+        expectOnlyKnownThrown(session);
         check(session);
     };
     return refuseEachCall({prepareAndNote, flow, checkAll});

@@ -17,8 +17,8 @@ namespace test_support {
 
 using Texts = std::vector<std::string>;
 
-/// Every host call of what the open BOM dialog does, refused once each: the add-in raises nothing
-/// but what it is known to raise, what was written stays written, and neither the design nor the
+/// Every host call of what the open BOM dialog does, refused once each: the add-in throws nothing
+/// but what it is known to throw, what was written stays written, and neither the design nor the
 /// settings get a text that stood in no cell, or half of one.
 class DialogRefusal : public testing::Test {
 protected:

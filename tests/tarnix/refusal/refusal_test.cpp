@@ -1,12 +1,12 @@
 // Every host call of the add-in's main flows, refused once each: whatever the host fails to do at a
-// single place, the add-in neither crashes nor loses memory, raises nothing but what it is known to
-// raise, leaves its settings whole, and goes out of the host when it is stopped.
+// single place, the add-in neither crashes nor loses memory, throws nothing but what it is known to
+// throw, leaves its settings whole, and goes out of the host when it is stopped.
 
 #include "tests/support/refusal.h"
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
 #include "tests/support/settings.h"
-#include "tests/tarnix/refusal/known_raised.h"
+#include "tests/tarnix/refusal/known_exceptions.h"
 #include "tests/tarnix/refusal/traces.h"
 
 #include <gtest/gtest.h>
@@ -52,7 +52,7 @@ Texts traces() {
 
 /// Settings that nobody made yet are the default ones, or still none.
 void checkFirstUse(Session& session, const std::string& call) {
-    expectOnlyKnownRaised(session);
+    expectOnlyKnownThrown(session);
     const auto file = session.addin().folder / "Tarnix_configuration.xml";
     const std::string settings = test_support::readFile(file);
     EXPECT_TRUE(settings.empty() ||
@@ -61,7 +61,7 @@ void checkFirstUse(Session& session, const std::string& call) {
 }
 
 void checkFlow(Session& session, const std::string& /*call*/) {
-    expectOnlyKnownRaised(session);
+    expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
     if (session.dialogOpen()) {
         session.cancel();
@@ -71,7 +71,7 @@ void checkFlow(Session& session, const std::string& /*call*/) {
 }
 
 void checkRun(Session& session, const std::string& call) {
-    expectOnlyKnownRaised(session);
+    expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
     session.stop();
     // A panel is called after its workspace. One that was made while the workspace told no id is
@@ -85,7 +85,7 @@ void checkRun(Session& session, const std::string& call) {
 constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + 2;
 
 /// The most that `stop` leaves in the host when one of its calls is refused: what that call itself
-/// would have removed, or led to. Without the host's list of palettes it yields false and has done
+/// would have removed, or led to. Without the host's list of palettes it returns false and has done
 /// nothing.
 std::size_t keptBy(const std::string& call) {
     static const std::map<std::string, std::size_t> kKept = {
@@ -105,7 +105,7 @@ std::size_t keptBy(const std::string& call) {
 }
 
 void checkStop(Session& session, const std::string& call) {
-    expectOnlyKnownRaised(session);
+    expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
     EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
     // Whatever kept the first one from its work: the next one does it. A command's own definition
@@ -118,7 +118,7 @@ void checkStop(Session& session, const std::string& call) {
 
 /// With the control that it looks for at its end, one `stop` is all: the next has lost the host.
 void checkOnlyStop(Session& session, const std::string& call) {
-    expectOnlyKnownRaised(session);
+    expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
     EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
 }
@@ -142,7 +142,7 @@ void openBom(Session& session) {
 void showStructure(Session& session) {
     openBom(session);
     session.activateTab(test_support::kStructureTab);
-    ASSERT_TRUE(session.raised().empty());
+    ASSERT_TRUE(session.uncaughtExceptions().empty());
 }
 
 }  // namespace
@@ -162,13 +162,13 @@ TEST(RefusedHostCalls, WhileTheBomOpens) {
 }
 
 TEST(RefusedHostCalls, WhileTheBomMakesTheSettings) {
-    const auto startAnew = [](Session& session) {
+    const auto startAgain = [](Session& session) {
         session.openOutline(kDesign);
         ASSERT_TRUE(session.run());
     };
 
     const std::uint64_t calls = refuseEachCall(
-        {startAnew, [](Session& session) { session.press("QM_TX_BOM"); }, checkFirstUse});
+        {startAgain, [](Session& session) { session.press("QM_TX_BOM"); }, checkFirstUse});
 
     EXPECT_GT(calls, 200U);
 }

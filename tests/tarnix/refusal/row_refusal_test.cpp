@@ -41,7 +41,7 @@ protected:
 
     static void chooseOrder(Session& session) {
         session.choose("QEMA_droDown_AscDesc", "Descending");
-        session.clearRaised();
+        session.clearUncaughtExceptions();
     }
 
     /// All is as before but for these cells of a table.

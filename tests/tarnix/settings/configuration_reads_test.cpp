@@ -19,7 +19,7 @@ TEST_F(ConfigurationReads, AreOneForTheAddressAndOneForEachQuestionAboutIt) {
     open(buildConfigurationDialog);
 
     EXPECT_EQ(test::modulePathQuestions() - before, 3);
-    EXPECT_TRUE(host::raised().empty());
+    EXPECT_TRUE(host::uncaughtExceptions().empty());
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Every host call of the dialog's flows, refused once each: the add-in neither crashes nor loses
-// memory, raises nothing but the plain exception of a null handle, and leaves its settings whole.
+// memory, throws nothing but the plain exception of a null handle, and leaves its settings whole.
 
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
@@ -40,9 +40,9 @@ std::string stored(const Session& session) {
 }
 
 void expectPlainExceptionsAlone(const Session& session) {
-    for (const host::Raised& raised : session.raised()) {
-        EXPECT_EQ(raised.type, "std::exception") << raised.text << " in " << raised.event;
-        EXPECT_EQ(raised.text, "");
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " in " << thrown.event;
+        EXPECT_EQ(thrown.text, "");
     }
 }
 
@@ -55,11 +55,11 @@ void checkFlow(Session& session, const std::string& /*call*/) {
     session.stop();
 }
 
-/// The address as it was where something was raised, else the new one, or what a box that tells
+/// The address as it was where something was thrown, else the new one, or what a box that tells
 /// nothing stands for: its text is empty, or it is not visible.
 void checkAccepted(Session& session, const std::string& call) {
     const std::string now = stored(session);
-    if (!session.raised().empty()) {
+    if (!session.uncaughtExceptions().empty()) {
         EXPECT_EQ(now, kStored) << call;
     } else if (call == "TextBoxCommandInput::text") {
         EXPECT_EQ(now, "<www/>");
@@ -88,7 +88,7 @@ void load(Session& session) {
 void openDialog(Session& session) {
     load(session);
     session.press("QM_TX_configuration");
-    ASSERT_TRUE(session.raised().empty());
+    ASSERT_TRUE(session.uncaughtExceptions().empty());
 }
 
 TEST(RefusedHostCalls, WhileTheConfigurationOpens) {

@@ -63,7 +63,7 @@ TEST_F(Configuration, HasTheChoiceTheDescriptionAndTheAddress) {
     EXPECT_EQ(choice->listItems()->item(1)->name(), kOtherCaption);
     EXPECT_EQ(choice->listItems()->item(0)->icon(), "");
     EXPECT_EQ(choice->listItems()->item(1)->icon(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(Configuration, DescribesTheAddressInABoxThatIsAlwaysVisible) {
@@ -108,7 +108,7 @@ TEST_F(Configuration, SwitchedFromTheDefaultProviderShowsTheBeginningOfAnAddress
     openConfiguration();
     session->choose(kChoice, kOtherCaption);
     EXPECT_EQ(shown(), "1 http://");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(Configuration, AcceptedAtOnceAfterTheSwitchStoresThatBeginning) {
@@ -205,7 +205,7 @@ TEST_F(Configuration, CancelledWritesNothing) {
 }
 
 TEST_F(Configuration, WithoutACategoryForTheProviderSavesTheSettingsAsTheyAre) {
-    // The quotes tell whether they were written anew.
+    // The quotes tell whether they were written again.
     test_support::writeFile(settingsFile(),
                             "<configuration><category name='mine'><a/></category>"
                             "</configuration>");
@@ -216,23 +216,23 @@ TEST_F(Configuration, WithoutACategoryForTheProviderSavesTheSettingsAsTheyAre) {
     const std::string bytes = test_support::readFile(settingsFile());
     EXPECT_NE(bytes.find("<configuration><category name=\"mine\"><a/></category></configuration>"),
               std::string::npos);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(Configuration, WithoutAnElementForTheAddressRaisesWhileItOpens) {
+TEST_F(Configuration, WithoutAnElementForTheAddressThrowsWhileItOpens) {
     test_support::writeFile(settingsFile(), document(""));
     openConfiguration();
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
-    EXPECT_EQ(session->raised()[0].event, "OnCommandCreated");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_NE(session->uncaughtExceptions()[0].type.find("_com_error"), std::string::npos);
+    EXPECT_EQ(session->uncaughtExceptions()[0].event, "OnCommandCreated");
 }
 
 TEST_F(Configuration, LeavesAFileThatIsNoXmlAsItWas) {
     openConfiguration();
     test_support::writeFile(settingsFile(), "<configuration");
     session->ok();
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_NE(session->uncaughtExceptions()[0].type.find("_com_error"), std::string::npos);
     EXPECT_EQ(test_support::readFile(settingsFile()), "<configuration");
     EXPECT_FALSE(session->dialogOpen());
 }
@@ -246,9 +246,9 @@ TEST_F(Configuration, LeavesAFileThatCannotBeWrittenAsItWas) {
         const test_support::UnwritableFile unwritable(settingsFile());
         session->ok();
     }
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_NE(session->raised()[0].type.find("_com_error"), std::string::npos);
-    EXPECT_EQ(session->raised()[0].event, "OnExecute");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_NE(session->uncaughtExceptions()[0].type.find("_com_error"), std::string::npos);
+    EXPECT_EQ(session->uncaughtExceptions()[0].event, "OnExecute");
     EXPECT_EQ(test_support::readFile(settingsFile()), before);
 }
 

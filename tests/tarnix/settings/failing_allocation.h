@@ -2,7 +2,7 @@
 
 namespace tarnix::test {
 
-/// While it lives, the `nth` allocation from its beginning (1 is the next) raises `std::bad_alloc`.
+/// While it lives, the `nth` allocation from its beginning (1 is the next) throws `std::bad_alloc`.
 class FailingAllocation {
 public:
     explicit FailingAllocation(long nth);

@@ -18,7 +18,7 @@ protected:
 
     /// Writes again and again, each time from the same settings, with the first, the second, ...
     /// allocation failing until none is left to fail. What stood in the file after a write that
-    /// raised, each content once.
+    /// thrown, each content once.
     std::set<std::string> leftByFailures(const std::function<void()>& write) {
         std::set<std::string> contents;
         for (long nth = 1; nth < 100000; ++nth) {
@@ -76,7 +76,7 @@ TEST_F(FailingWrite, OfTheColumnsLeavesTheFileAsItWas) {
     EXPECT_GT(failures, 10);
 }
 
-TEST_F(FailingWrite, OfTheHelpdeskUrlRaisesBehindACategoryWithoutAnElement) {
+TEST_F(FailingWrite, OfTheHelpdeskUrlThrowsBehindACategoryWithoutAnElement) {
     writeSettings(
         "<category name=\"httpHelpdesk\"><www>http://old.example/</www></category>"
         "<category name=\"httpHelpdesk\"/>");
@@ -85,7 +85,7 @@ TEST_F(FailingWrite, OfTheHelpdeskUrlRaisesBehindACategoryWithoutAnElement) {
     EXPECT_EQ(folder.read(kFile), before);
 }
 
-TEST_F(FailingWrite, OfTheHelpdeskUrlRaisesForACategoryWithoutAnAttribute) {
+TEST_F(FailingWrite, OfTheHelpdeskUrlThrowsForACategoryWithoutAnAttribute) {
     writeSettings(
         "<category name=\"httpHelpdesk\"><www>http://old.example/</www></category><category/>");
     const std::string before = folder.read(kFile);

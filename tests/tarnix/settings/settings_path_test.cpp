@@ -15,11 +15,11 @@ TEST(SettingsFilePath, EarlierDllInThePathIsTheOneThatIsChanged) {
     EXPECT_EQ(settingsFilePath(), "C:\\my_configuration.xmls\\Tarnix.dll");
 }
 
-TEST(SettingsFilePath, RaisesForAPathThatWasCutOffBeforeItsEnd) {
+TEST(SettingsFilePath, ThrowsForAPathThatWasCutOffBeforeItsEnd) {
     test::modulePath() = "C:\\AddIns\\Tarnix\\Tarn";
     try {
         static_cast<void>(settingsFilePath());
-        FAIL() << "nothing raised";
+        FAIL() << "nothing thrown";
     } catch (const std::out_of_range& error) {
         EXPECT_STREQ(error.what(), "invalid string position");
     }

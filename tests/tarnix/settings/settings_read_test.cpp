@@ -41,7 +41,7 @@ TEST_F(SettingsItems, EmptyIdNeedsNoDisplayName) {
     EXPECT_EQ(bomItems(), Items{""});
 }
 
-TEST_F(SettingsItems, CategoriesOfOneNameYieldTheItemsOfBothInOrder) {
+TEST_F(SettingsItems, CategoriesOfOneNameReturnTheItemsOfBothInOrder) {
     writeSettings(
         "<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category>"
         "<category name=\"iProperty\"><i id=\"b\"><d>2</d></i></category>"
@@ -49,7 +49,7 @@ TEST_F(SettingsItems, CategoriesOfOneNameYieldTheItemsOfBothInOrder) {
     EXPECT_EQ(bomItems(), (Items{"a;1", "c;3"}));
 }
 
-TEST_F(SettingsItems, OtherElementsOfTheRootArePassedOver) {
+TEST_F(SettingsItems, OtherElementsOfTheRootAreSkipped) {
     writeSettings(
         "<!-- mine --><other name=\"bomItems\"><i id=\"a\"><d>1</d></i></other><note/>"
         "<category name=\"bomItems\"><i id=\"b\"><d>2</d></i></category>");
@@ -170,7 +170,7 @@ TEST_F(HelpdeskUrl, MayBeEmpty) {
     EXPECT_EQ(readHelpdeskUrl(), "");
 }
 
-TEST_F(HelpdeskUrl, RaisesWithoutItsElement) {
+TEST_F(HelpdeskUrl, ThrowsWithoutItsElement) {
     writeSettings("<category name=\"httpHelpdesk\"/>");
     EXPECT_EQ(comError([] { readHelpdeskUrl(); }), E_POINTER);
 }

@@ -156,7 +156,7 @@ protected:
     }
 
     /// Lets the first, the second, ... allocation of an `appendCategory` fail until none is left to
-    /// fail; what it yielded and left in the document each time, "-" for nothing.
+    /// fail; what it returned and left in the document each time, "-" for nothing.
     static std::string appendWithFailures(const platform::XmlDocument& document) {
         const platform::XmlNodeList children = document.documentElement().childNodes();
         const std::string element = "category";
@@ -196,7 +196,7 @@ TEST_F(AppendedElements, CategoryNeedsARoot) {
     EXPECT_EQ(comError([&] { appendCategory(empty, "category", "name", "x"); }), E_POINTER);
 }
 
-TEST_F(AppendedElements, CategoryIsDroppedWhenAnExceptionIsRaisedOnTheWay) {
+TEST_F(AppendedElements, CategoryIsDroppedWhenAnExceptionIsThrownOnTheWay) {
     const platform::XmlDocument document = open();
     const std::string outcomes = appendWithFailures(document);
     EXPECT_TRUE(outcomes.starts_with("- - - ")) << outcomes;

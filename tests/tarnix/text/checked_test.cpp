@@ -16,7 +16,7 @@ std::string outOfRange(Action action) {
     } catch (const std::out_of_range& error) {
         return error.what();
     }
-    return "nothing raised";
+    return "nothing thrown";
 }
 
 TEST(At, GivesTheElement) {
@@ -25,7 +25,7 @@ TEST(At, GivesTheElement) {
     EXPECT_EQ(numbers, (std::vector<int>{1, 5}));
 }
 
-TEST(At, RaisesBeyondTheEnd) {
+TEST(At, ThrowsBeyondTheEnd) {
     std::vector<int> numbers = {1, 2};
     const std::vector<int> none;
     EXPECT_EQ(outOfRange([&] { at(numbers, 2); }), "invalid vector subscript");
@@ -39,7 +39,7 @@ TEST(SubstringFrom, GivesTheRest) {
     EXPECT_EQ(substringFrom("QEMA_", 5), "");
 }
 
-TEST(SubstringFrom, RaisesForATextThatIsTooShort) {
+TEST(SubstringFrom, ThrowsForATextThatIsTooShort) {
     EXPECT_EQ(outOfRange([] { substringFrom("QEMA", 5); }), "invalid string position");
 }
 

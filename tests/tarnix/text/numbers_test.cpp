@@ -12,9 +12,9 @@
 namespace tarnix {
 namespace {
 
-/// The text of what is raised, with its kind in front.
+/// The text of what is thrown, with its kind in front.
 template <class Action>
-std::string raised(Action action) {
+std::string uncaughtExceptions(Action action) {
     try {
         action();
     } catch (const std::invalid_argument& error) {
@@ -26,11 +26,11 @@ std::string raised(Action action) {
 }
 
 std::string raisedByInt(const std::string& text) {
-    return raised([&text] { parseInt(text); });
+    return uncaughtExceptions([&text] { parseInt(text); });
 }
 
 std::string raisedByDouble(const std::string& text) {
-    return raised([&text] { parseDouble(text); });
+    return uncaughtExceptions([&text] { parseDouble(text); });
 }
 
 const char* const kInvalidInt = "invalid_argument: invalid stoi argument";
@@ -56,7 +56,7 @@ TEST(ParseInt, LeavesAloneWhatFollowsTheDigits) {
     EXPECT_EQ(parseInt("3.9"), 3);
 }
 
-TEST(ParseInt, RaisesWhereNoDigitIsFound) {
+TEST(ParseInt, ThrowsWhereNoDigitIsFound) {
     EXPECT_EQ(raisedByInt(""), kInvalidInt);
     EXPECT_EQ(raisedByInt("  "), kInvalidInt);
     EXPECT_EQ(raisedByInt("btnExportXls"), kInvalidInt);
@@ -65,7 +65,7 @@ TEST(ParseInt, RaisesWhereNoDigitIsFound) {
     EXPECT_EQ(raisedByInt("- 5"), kInvalidInt);
 }
 
-TEST(ParseInt, RaisesBeyondTheRange) {
+TEST(ParseInt, ThrowsBeyondTheRange) {
     EXPECT_EQ(raisedByInt("2147483648"), kIntOutOfRange);
     EXPECT_EQ(raisedByInt("-2147483649"), kIntOutOfRange);
     EXPECT_EQ(raisedByInt("99999999999999999999"), kIntOutOfRange);
@@ -114,7 +114,7 @@ TEST(ParseDouble, ReadsInfinityAndNotANumber) {
     EXPECT_TRUE(std::isnan(parseDouble("nan(1")));
 }
 
-TEST(ParseDouble, RaisesWhereNoNumberIsFound) {
+TEST(ParseDouble, ThrowsWhereNoNumberIsFound) {
     EXPECT_EQ(raisedByDouble(""), kInvalidDouble);
     EXPECT_EQ(raisedByDouble("M8"), kInvalidDouble);
     EXPECT_EQ(raisedByDouble("."), kInvalidDouble);
@@ -124,7 +124,7 @@ TEST(ParseDouble, RaisesWhereNoNumberIsFound) {
     EXPECT_EQ(raisedByDouble("in"), kInvalidDouble);
 }
 
-TEST(ParseDouble, RaisesBeyondTheRange) {
+TEST(ParseDouble, ThrowsBeyondTheRange) {
     EXPECT_EQ(raisedByDouble("1e309"), kDoubleOutOfRange);
     EXPECT_EQ(raisedByDouble("-1e309"), kDoubleOutOfRange);
     EXPECT_EQ(raisedByDouble("0x1p1024"), kDoubleOutOfRange);

@@ -12,7 +12,7 @@ class FolderBeyondTheCodePage : public AddinUiTest {
 protected:
     [[nodiscard]] host::SessionOptions options() const override {
         host::SessionOptions abroad = addinOptions();
-        abroad.freshIn /= L"\u6F22";
+        abroad.scratchRoot /= L"\u6F22";
         return abroad;
     }
 };
@@ -29,7 +29,7 @@ protected:
 
     [[nodiscard]] host::SessionOptions options() const override {
         host::SessionOptions there = addinOptions();
-        there.freshIn /= L"J\u00F6rgs Ablage";
+        there.scratchRoot /= L"J\u00F6rgs Ablage";
         return there;
     }
 };
@@ -46,12 +46,12 @@ TEST_F(FolderOfTheCodePage, KeepsSettingsAndExportBesideTheModule) {
               "1;P-1;Produce;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;\r\n");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FolderBeyondTheCodePage, StillLetsTheAddinRun) {
     EXPECT_TRUE(definition("QM_TX_BOM"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(FolderBeyondTheCodePage, FailsTheSettingsAndMakesNone) {
@@ -59,8 +59,8 @@ TEST_F(FolderBeyondTheCodePage, FailsTheSettingsAndMakesNone) {
 
     openBom();
 
-    ASSERT_EQ(session->raised().size(), 1U) << raised();
-    EXPECT_EQ(session->raised().front().type, "_com_error");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U) << uncaughtExceptions();
+    EXPECT_EQ(session->uncaughtExceptions().front().type, "_com_error");
     EXPECT_FALSE(std::filesystem::exists(settingsFile()));
 }
 

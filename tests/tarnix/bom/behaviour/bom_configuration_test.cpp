@@ -17,13 +17,13 @@ protected:
     }
 
     void save() {
-        // A caption's id has no number, so typing one has raised as well.
-        session->clearRaised();
+        // A caption's id has no number, so typing one has thrown as well.
+        session->clearUncaughtExceptions();
         session->click("QEMA_btnSaveConfigBom");
-        EXPECT_EQ(raised(),
+        EXPECT_EQ(uncaughtExceptions(),
                   "std::invalid_argument: invalid stoi argument in OnInputChanged of "
                   "QEMA_btnSaveConfigBom");
-        session->clearRaised();
+        session->clearUncaughtExceptions();
     }
 
     /// What the settings document holds of the columns.
@@ -165,7 +165,7 @@ TEST_F(BomConfiguration, WithoutACaptionFieldLeavesTheFileAlone) {
 
     session->click("QEMA_btnSaveConfigBom");
 
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnSaveConfigBom");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of QEMA_btnSaveConfigBom");
     EXPECT_EQ(readFile(settingsFile()), before);
 }
 
@@ -177,7 +177,7 @@ TEST_F(BomConfiguration, MakesAMissingFileBeforeItReadsTheTable) {
 
     session->click("QEMA_btnSaveConfigBom");
 
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnSaveConfigBom");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of QEMA_btnSaveConfigBom");
     EXPECT_EQ(stored(), "<category name=\"bomItems\"/>");
 }
 

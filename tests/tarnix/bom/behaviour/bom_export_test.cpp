@@ -36,7 +36,7 @@ TEST_F(BomExport, WritesTheStructureTableByteForByte) {
               "2;P-1;Produce;1;1.570;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;3.140\r\n");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomExport, IsWholeWhereTheShellOpensNothing) {
@@ -57,7 +57,7 @@ TEST_F(BomExport, IsWholeWhereTheShellOpensNothing) {
               ";Total mass of structure BOM [kg]: ;1.570\r\n");
     EXPECT_TRUE(session->dialogOpen());
     EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomExport, WritesTheModelTableWithItsPositions) {
@@ -264,7 +264,7 @@ TEST_F(BomExport, WritesNumbersWithThePointUnderACommaLocale) {
               "1;B-1;Produce;3140.000;2500.0;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;3140.000\r\n");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomExport, OpensTheWorkbookBesideTheModule) {
@@ -284,7 +284,7 @@ TEST_F(BomExport, EndsWithTheExceptionThatTheButtonsIdRaises) {
 
     session->click(kExportButton);
 
-    EXPECT_EQ(raised(),
+    EXPECT_EQ(uncaughtExceptions(),
               "std::invalid_argument: invalid stoi argument in OnInputChanged of "
               "QEMA_btnExportXls");
     EXPECT_TRUE(session->dialogOpen());
@@ -298,7 +298,7 @@ TEST_F(BomExport, WithoutTheMassFieldKeepsTheLinesAndOpensNothing) {
 
     exportBom();
 
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of QEMA_btnExportXls");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of QEMA_btnExportXls");
     EXPECT_EQ(csv(),
               "Pos.;Part Number;BOM Structure;\r\n"
               "1;P-1;Produce;\r\n"

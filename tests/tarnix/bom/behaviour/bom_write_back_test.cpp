@@ -13,7 +13,7 @@ constexpr const char* kGroup = "QEMA_PropertiesAttributesGroup";
 
 class BomWriteBack : public BehaviourTest {
 protected:
-    /// The attributes of the component at a place at the top, as name=value with blanks between.
+    /// The attributes of the component at a place at the top, as name=value with spaces between.
     [[nodiscard]] std::string attributes(std::size_t index) const {
         std::string texts;
         for (const Ptr<Attribute>& each : component(index)->attributes()->itemsByGroup(kGroup)) {
@@ -42,7 +42,7 @@ TEST_F(BomWriteBack, WritesEditedPartNumbersOfTheStructureTable) {
 
     EXPECT_EQ(component(0)->partNumber(), "B-1");
     EXPECT_EQ(component(1)->partNumber(), "P-2");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomWriteBack, WritesEditedPartNumbersOfTheModelTable) {
@@ -112,7 +112,7 @@ TEST_F(BomWriteBack, WritesAReferenceThatTheModelTableDidNotHide) {
     save();
 
     EXPECT_EQ(attributes(0), "Produce= Buy= AsPart= Divided= Reference=1");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomWriteBack, KeepsThePartNumberWhenTheNameChanges) {
@@ -203,7 +203,7 @@ TEST_F(BomWriteBack, WritesFoldedRowsToo) {
     save();
 
     EXPECT_EQ(component(0)->occurrences()->item(0)->component()->partNumber(), "L-2");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomWriteBack, LetsTheLastRowOfAComponentWin) {
@@ -257,7 +257,7 @@ TEST_F(BomWriteBack, OfACombinedRowWithAShortDescriptionRaises) {
 
     session->ok();
 
-    EXPECT_EQ(raised(), "std::out_of_range: invalid string position in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::out_of_range: invalid string position in OnExecute");
     // The write ended there.
     EXPECT_EQ(component(2)->partNumber(), "P-1");
 }
@@ -272,10 +272,10 @@ TEST_F(BomWriteBack, OfACombinedRowWithoutADescriptionWritesNothing) {
 
     EXPECT_EQ(component(0)->description(), "");
     EXPECT_EQ(attributes(0), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(BomWriteBack, OfTheStructureTableRaisesWhereAPlaceAtTheTopIsEmpty) {
+TEST_F(BomWriteBack, OfTheStructureTableThrowsWhereAPlaceAtTheTopIsEmpty) {
     open(R"(
         Bolt  number=B-1
         (absent))");
@@ -284,7 +284,7 @@ TEST_F(BomWriteBack, OfTheStructureTableRaisesWhereAPlaceAtTheTopIsEmpty) {
 
     session->ok();
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(component(0)->partNumber(), "B-1");
     EXPECT_EQ(attributes(0), "");
 }
@@ -297,7 +297,7 @@ TEST_F(BomWriteBack, OfTheStructureTableLooksBehindTheFirstMatchToo) {
 
     session->ok();
 
-    EXPECT_EQ(raised(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(attributes(0), "");
 }
 
@@ -312,7 +312,7 @@ TEST_F(BomWriteBack, OfTheModelTableSkipsAPlaceAtTheTopThatIsEmpty) {
     save();
 
     EXPECT_EQ(component(2)->partNumber(), "P-2");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomWriteBack, LeavesAlonePlacementsAndOtherGroups) {

@@ -46,7 +46,7 @@ TEST_F(ColumnChoice, OfAPropertyMarksItsColumnAsUsed) {
 
     EXPECT_EQ(value("colUsrHeader_5"), "used");
     EXPECT_EQ(value("nameCol9"), "Mass");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ColumnChoice, OfAHeadingFreesItsColumn) {
@@ -59,7 +59,7 @@ TEST_F(ColumnChoice, OfAHeadingFreesItsColumn) {
     EXPECT_EQ(value("nameCol9"), "");
     const Ptr<DropDownCommandInput> dropDown = session->input("iProperty_4");
     EXPECT_EQ(dropDown->selectedItem()->name(), "---Select One---");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ColumnChoice, OfAPropertyIsSeenOnce) {
@@ -79,7 +79,7 @@ TEST_F(ColumnChoice, OfAHeadingIsSeenOnceMoreForTheFirstEntry) {
 
     EXPECT_EQ(changed.ids(), "iProperty_4 iProperty_4");
     EXPECT_EQ(value("colUsrHeader_5"), "not use");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ColumnChoice, OfTheFirstEntryIsSeenOnce) {
@@ -126,7 +126,7 @@ TEST_F(ColumnChoice, OfReferenceHidesTheRowOfTheStructureTable) {
         3 | Part | Rod
         4 | Part | Nut
         5 | Part | Cap)"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ColumnChoice, OfReferenceInTheModelTableHidesNothing) {
@@ -135,7 +135,7 @@ TEST_F(ColumnChoice, OfReferenceInTheModelTableHidesNothing) {
     session->choose("modelBomStructure_2", "Reference");
 
     EXPECT_TRUE(session->input("modelPartNumberOcc_2")->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ColumnChoice, OfAnotherStructureShowsNothingAgain) {
@@ -151,7 +151,7 @@ TEST_F(ColumnChoice, OfAnotherStructureShowsNothingAgain) {
         5 | Part | Cap)"));
 }
 
-TEST_F(ColumnChoice, OfReferenceHidesUntilTheDialogOpensAnew) {
+TEST_F(ColumnChoice, OfReferenceHidesUntilTheDialogOpensAgain) {
     showStructure();
     session->choose("bomStructure_2", "Reference");
     session->choose("bomStructure_1", "Buy");
@@ -166,7 +166,7 @@ TEST_F(ColumnChoice, OfReferenceHidesUntilTheDialogOpensAnew) {
         3 | Part | Rod
         4 | Part | Nut
         5 | Part | Cap)"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ColumnChoice, OfReferenceStaysOutOfSightBehindAChangeOfTab) {
@@ -228,7 +228,7 @@ TEST_F(ColumnChoice, OfReferenceTakesTheIdsNumberForATableRow) {
         4 | Part | Nut)"));
 }
 
-TEST_F(ColumnChoice, OfReferenceBehindTheTablesEndRaisesAndHidesNothing) {
+TEST_F(ColumnChoice, OfReferenceBehindTheTablesEndThrowsAndHidesNothing) {
     open(R"(
         Bolt
         Bolt
@@ -237,7 +237,7 @@ TEST_F(ColumnChoice, OfReferenceBehindTheTablesEndRaisesAndHidesNothing) {
 
     session->choose("bomStructure_3", "Reference");
 
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of bomStructure_3");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of bomStructure_3");
     EXPECT_EQ(table(), text(R"(
         1 | Part | Bolt
         2 | Part | Plate)"));

@@ -25,7 +25,7 @@ TEST_F(InputRouting, ARowOfTheModelTabSelectsItsOccurrence) {
     session->paste("modelPartNumberOcc_3", "B-1");
 
     EXPECT_EQ(selected(), "Bolt:2");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(InputRouting, ARowOfTheStructureTabSelectsThePartsOfItsParent) {
@@ -86,7 +86,7 @@ TEST_F(InputRouting, AChangeOfTabSelectsNothing) {
     showStructure();
 
     EXPECT_EQ(selected(), "Plate:1");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(InputRouting, ACellOfTheConfigurationTabSelectsNothing) {
@@ -99,7 +99,7 @@ TEST_F(InputRouting, ACellOfTheConfigurationTabSelectsNothing) {
     session->choose("iProperty_1", "Mass");
 
     EXPECT_EQ(selected(), "Plate:1");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(InputRouting, AHeaderCellSelectsNothing) {
@@ -112,16 +112,16 @@ TEST_F(InputRouting, AHeaderCellSelectsNothing) {
     session->click("partNumberOcc_0");
 
     EXPECT_EQ(selected(), "Plate:1");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(InputRouting, AnIdWithoutANumberRaisesAndTheDialogStaysOpen) {
+TEST_F(InputRouting, AnIdWithoutANumberThrowsAndTheDialogStaysOpen) {
     open("Bolt");
     showStructure();
 
     session->choose("QEMA_droDown_AscDesc", "Descending");
 
-    EXPECT_EQ(raised(),
+    EXPECT_EQ(uncaughtExceptions(),
               "std::invalid_argument: invalid stoi argument in OnInputChanged of "
               "QEMA_droDown_AscDesc");
     EXPECT_TRUE(session->dialogOpen());
@@ -135,7 +135,7 @@ TEST_F(InputRouting, WithoutAnActiveProductNothingHappens) {
     session->paste("modelPartNumberOcc_1", "P-2");
 
     EXPECT_EQ(selected(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(InputRouting, WithoutADesignNothingHappens) {
@@ -147,10 +147,10 @@ TEST_F(InputRouting, WithoutADesignNothingHappens) {
     });
     dialog.open();
 
-    // The follow-ups would raise: the id has no number.
+    // The follow-ups would throw: the id has no number.
     session->paste("cell", "text");
 
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ protected:
         rows->addCommandInput(cell, row, column);
     }
 
-    /// The ids of a column's cells from the first row to the last, with blanks between.
+    /// The ids of a column's cells from the first row to the last, with spaces between.
     [[nodiscard]] std::string ids(int column) const {
         std::string all;
         for (int row = 0; row < rows->rowCount(); ++row) {

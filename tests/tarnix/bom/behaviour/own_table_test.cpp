@@ -72,7 +72,7 @@ protected:
             3);
     }
 
-    /// The positions of the rows whose first cell shows, with blanks between.
+    /// The positions of the rows whose first cell shows, with spaces between.
     [[nodiscard]] std::string shownPositions() const {
         std::string positions;
         for (int row = 0; row < rows->rowCount(); ++row) {

@@ -48,12 +48,12 @@ std::string describe(const Ptr<TableCommandInput>& table) {
     return text;
 }
 
-/// What `act` raises, empty for nothing.
+/// What `act` throws, empty for nothing.
 std::string raisedBy(const std::function<void()>& act) {
     try {
         act();
     } catch (const std::exception& error) {
-        return std::string("raised: ") + error.what();
+        return std::string("thrown: ") + error.what();
     }
     return "";
 }

@@ -45,7 +45,7 @@ protected:
         rows_->addCommandInput(inputs->addTextBoxCommandInput("", "", position, 1, true), row, 1);
     }
 
-    /// What the renumbering raises; empty if nothing.
+    /// What the renumbering throws; empty if nothing.
     [[nodiscard]] std::string raisedByRenumbering() const {
         try {
             tarnix::renumberVisibleRows(rows_);
@@ -236,7 +236,7 @@ TEST_F(Renumbering, LooksAtAHiddenRowBehind) {
         2)"));
 }
 
-TEST_F(Renumbering, RaisesWhereThePlaceOfTheDotIsBehindTheLastNumber) {
+TEST_F(Renumbering, ThrowsWhereThePlaceOfTheDotIsBehindTheLastNumber) {
     show({"1", "1.1", "9.9.9", "15.4", "15.4.1"});
     hide(3);
 
@@ -292,7 +292,7 @@ TEST_F(Renumbering, TakesOneOffBehindADeeperRowWhereTheNextOneIsHigher) {
         2.1)"));
 }
 
-TEST_F(Renumbering, RaisesWhereTheNumberToTakeOneOffIsNone) {
+TEST_F(Renumbering, ThrowsWhereTheNumberToTakeOneOffIsNone) {
     show({"1", "1.1", "1.1.1", "1.x", "2"});
 
     EXPECT_EQ(raisedByRenumbering(), "invalid stoi argument");

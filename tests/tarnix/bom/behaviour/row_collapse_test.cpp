@@ -89,7 +89,7 @@ TEST_F(RowCollapse, ExpandingShowsTheDirectChildrenOnly) {
     EXPECT_FALSE(shows(kLeg));
     EXPECT_TRUE(shows(kFoot));
     EXPECT_FALSE(shows(kLid));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RowCollapse, ExpandingGivesTheOtherIconAndAFoldedChildKeepsItsOwn) {
@@ -172,14 +172,14 @@ TEST_F(RowCollapse, OfAPartDoesNothing) {
 
     EXPECT_EQ(icon(1), "Part");
     EXPECT_EQ(graph(1), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RowCollapse, OfTheLastRowDoesNothing) {
     click(kLast);
 
     EXPECT_EQ(icon(kLast), "Part");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RowCollapse, LeavesThePositionColumnAlone) {
@@ -213,7 +213,7 @@ TEST_F(RowCollapse, OfTheStructureTablesHeaderDoesNothing) {
     session->click("colapseRow_0");
 
     EXPECT_EQ(shownTable(), before);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RowCollapse, OfARowOfTheStructureTableRaises) {
@@ -223,7 +223,7 @@ TEST_F(RowCollapse, OfARowOfTheStructureTableRaises) {
     // Nobody can click there: the cell is an image.
     host::reportChange(session->input("colapseRow_1"));
 
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of colapseRow_1");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of colapseRow_1");
     EXPECT_EQ(shownTable(), before);
 }
 
@@ -234,7 +234,7 @@ TEST_F(RowCollapse, OfARowBehindTheTablesEndRaises) {
 
     click(kLast);
 
-    EXPECT_EQ(raised(), "std::exception:  in OnInputChanged of modelColapseRow_25");
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of modelColapseRow_25");
     EXPECT_EQ(shownTable(), before);
 }
 

@@ -98,7 +98,7 @@ TEST(RowNumbers, TakesOneOffTheRowsOwnNumberBehindADeeperRowWhereTheNextOneIsHig
     EXPECT_EQ(behindNested(3).nextNested({"5.4", 2, 0}), "5.3");
 }
 
-TEST(RowNumbers, RaisesWhereThePositionHoldsNoNumber) {
+TEST(RowNumbers, ThrowsWhereThePositionHoldsNoNumber) {
     EXPECT_THROW(behindNested(3).nextNested({"5.x", 2, 0}), std::invalid_argument);
 }
 

@@ -25,7 +25,7 @@ TEST_F(StructureRefresh, FillsTheTableAndSumsTheMassWhenTheTabIsFirstShown) {
         3 | Part | R-1)"));
     EXPECT_EQ(value("idAllMass"), "5.495");
     EXPECT_TRUE(session->input("idAllMass")->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StructureRefresh, LeavesTheTableEmptyUntilItsTabIsShown) {
@@ -51,7 +51,7 @@ TEST_F(StructureRefresh, AddsNoRowsWhenTheTabIsShownAgain) {
         3 | Part | R-1)"));
 }
 
-TEST_F(StructureRefresh, WorksTheMassOutAnewEachTime) {
+TEST_F(StructureRefresh, WorksTheMassOutAgainEachTime) {
     open(R"(
         Bolt  number=B-1 measures=10:100
         Plate  number=P-1 measures=10:200)");
@@ -154,7 +154,7 @@ TEST_F(StructureRefresh, LeavesEverythingAloneOnTheConfigurationTab) {
 
     EXPECT_EQ(structure->columnRatio(), "1:1");
     EXPECT_FALSE(session->dialog()->commandInputs()->itemById("partNumberOcc_1")->isVisible());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StructureRefresh, WithoutTheMassFieldStillSetsTheWidths) {
@@ -165,7 +165,7 @@ TEST_F(StructureRefresh, WithoutTheMassFieldStillSetsTheWidths) {
     showStructure();
 
     EXPECT_EQ(session->table(kStructureTable)->columnRatio(), "2:3:0:12:8:0:0:0:0:0:0");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -44,13 +44,13 @@ void describeComponent(std::ostream& out, const host::ComponentData& component) 
     for (const host::OccurrenceData& child : component.children) describeUse(out, child);
 }
 
-/// What `act` raises as the host tells it: a null handle's exception has no text.
+/// What `act` throws as the host tells it: a null handle's exception has no text.
 std::string raisedBy(const std::function<void()>& act) {
     try {
         act();
     } catch (const std::exception& error) {
-        return typeid(error) == typeid(std::exception) ? "raised: "
-                                                       : std::string("raised: ") + error.what();
+        return typeid(error) == typeid(std::exception) ? "thrown: "
+                                                       : std::string("thrown: ") + error.what();
     }
     return "";
 }
@@ -91,11 +91,11 @@ void WrittenDesign::unfold(int atMost) {
 }
 
 std::string WrittenDesign::accept() {
-    session->clearRaised();
+    session->clearUncaughtExceptions();
     session->ok();
-    const std::vector<host::Raised> raised = session->raised();
-    session->clearRaised();
-    return raised.empty() ? "" : "raised: " + raised.front().text;
+    const std::vector<host::UncaughtException> thrown = session->uncaughtExceptions();
+    session->clearUncaughtExceptions();
+    return thrown.empty() ? "" : "thrown: " + thrown.front().text;
 }
 
 void WrittenDesign::expectWrittenLikeThePlain(plain::Tab tab, int configuredColumns) {

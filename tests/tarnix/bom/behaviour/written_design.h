@@ -22,7 +22,7 @@ protected:
     void unfold(int atMost);
 
     /// Accepts the dialog with `tab` shown, has the plain write-back do its work on an equal
-    /// design, and expects the two to be equal, what they raised included. The dialog is closed
+    /// design, and expects the two to be equal, what they threw included. The dialog is closed
     /// then, and the plainly written design is open.
     void expectWrittenLikeThePlain(plain::Tab tab, int configuredColumns);
 
@@ -30,7 +30,7 @@ protected:
     void expectKeptInItsFile();
 
 private:
-    /// Accepts the dialog and yields what that raised, empty for nothing.
+    /// Accepts the dialog and returns what that threw, empty for nothing.
     std::string accept();
 };
 

@@ -66,16 +66,16 @@ TEST_F(CellTextTest, TellsColumnsByWhatFollowsFiveCharacters) {
     EXPECT_EQ(cell("Produce"), "");
 }
 
-TEST_F(CellTextTest, RaisesForAKeyThatIsShorterThanThePrefix) {
+TEST_F(CellTextTest, ThrowsForAKeyThatIsShorterThanThePrefix) {
     try {
         cell("Mass");
-        FAIL() << "nothing was raised";
-    } catch (const std::out_of_range& raised) {
-        EXPECT_STREQ(raised.what(), "invalid string position");
+        FAIL() << "nothing was thrown";
+    } catch (const std::out_of_range& thrown) {
+        EXPECT_STREQ(thrown.what(), "invalid string position");
     }
 }
 
-TEST_F(CellTextTest, ReadsTheDescriptionAnew) {
+TEST_F(CellTextTest, ReadsTheDescriptionAgain) {
     row_.component->description("***different***big");
     EXPECT_EQ(cell("QEMA_Description"), "***different***big");
 }

@@ -206,7 +206,7 @@ TEST(Merging, LeavesTheAttributesOfTheDesignAlone) {
               "red");
 }
 
-TEST(FindBomRow, YieldsTheFirstRowOfTheItemOrNone) {
+TEST(FindBomRow, ReturnsTheFirstRowOfTheItemOrNone) {
     const OpenDesign design(R"(
         Nut
         Bolt

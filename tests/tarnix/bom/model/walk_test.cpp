@@ -68,7 +68,7 @@ TEST(Walk, MarksTheAssemblyItselfWhereNoneOfItsChildrenIsThere) {
     EXPECT_EQ(lines(walk(design)), "1 | Gearbox:1 |  | 1 | -1");
 }
 
-TEST(Walk, YieldsNoRowsForADesignWithoutOccurrences) {
+TEST(Walk, ReturnsNoRowsForADesignWithoutOccurrences) {
     const OpenDesign design("");
     EXPECT_TRUE(walk(design).empty());
 }
@@ -108,13 +108,13 @@ TEST(Walk, OfANullListAddsNothing) {
     EXPECT_EQ(walkOccurrences(model, nullptr, 1).size(), 1U);
 }
 
-TEST(MergingWalk, OfANullListRaisesAPlainException) {
+TEST(MergingWalk, OfANullListThrowsAPlainException) {
     BomModel model;
     try {
         walkOccurrencesMerged(model, nullptr, 1);
-        FAIL() << "nothing was raised";
-    } catch (const std::exception& raised) {
-        EXPECT_EQ(typeid(raised), typeid(std::exception));
+        FAIL() << "nothing was thrown";
+    } catch (const std::exception& thrown) {
+        EXPECT_EQ(typeid(thrown), typeid(std::exception));
     }
 }
 
@@ -155,9 +155,9 @@ TEST(UserPropertyNames, RaiseForAKeyThatIsShorterThanThePrefix) {
     BomModel model;
     try {
         collectUserPropertyNames(model, {{"Size", "M8"}});
-        FAIL() << "nothing was raised";
-    } catch (const std::out_of_range& raised) {
-        EXPECT_STREQ(raised.what(), "invalid string position");
+        FAIL() << "nothing was thrown";
+    } catch (const std::out_of_range& thrown) {
+        EXPECT_STREQ(thrown.what(), "invalid string position");
     }
 }
 

@@ -13,7 +13,7 @@ const char* const kFixedEntries =
 
 class BomConfigurationTab : public BomTabsTest {
 protected:
-    /// The chosen entry of each of the six drop-downs, "-" for none, with blanks between.
+    /// The chosen entry of each of the six drop-downs, "-" for none, with spaces between.
     [[nodiscard]] std::string chosenEntries() const {
         std::string all;
         for (int k = 0; k < 6; ++k) {
@@ -142,13 +142,13 @@ TEST_F(BomConfigurationTab, SelectsTheLastEntryOfAUserPropertyNamedLikeAFixedOne
     EXPECT_EQ(freeColumn(0), "used | Weight | Mass");
 }
 
-TEST_F(BomConfigurationTab, WithMoreThanSixItemsRaisesBehindTheSixth) {
+TEST_F(BomConfigurationTab, WithMoreThanSixItemsThrowsBehindTheSixth) {
     configure({"QEMA_Mass;1", "QEMA_Area;2", "QEMA_Volume;3", "QEMA_Length;4", "QEMA_Width;5",
                "QEMA_Height;6", "QEMA_Density;7"});
     open("Bolt");
     openBom();
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).text, "invalid vector subscript");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid vector subscript");
     EXPECT_EQ(freeColumn(5), "used | 6 | Height");
 }
 

@@ -21,7 +21,7 @@ TEST_F(BomDialog, HasThreeTabsASizeAndNamedButtons) {
     EXPECT_EQ(session->dialog()->okButtonText(), "Save Changes and Close");
     EXPECT_EQ(session->dialog()->cancelButtonText(), "Close");
     EXPECT_EQ(host::dialogSize(), (host::ui::DialogSize{800, 600}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomDialog, OfAProductThatIsNoDesignHasNoTabsAndSaysNothing) {
@@ -32,7 +32,7 @@ TEST_F(BomDialog, OfAProductThatIsNoDesignHasNoTabsAndSaysNothing) {
     EXPECT_EQ(session->dialog()->okButtonText(), "Save Changes and Close");
     EXPECT_EQ(session->dialog()->cancelButtonText(), "Close");
     EXPECT_EQ(host::dialogSize(), (host::ui::DialogSize{800, 600}));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_TRUE(session->messages().empty());
 }
 
@@ -67,7 +67,7 @@ TEST_F(BomDialog, OfADesignWithoutOccurrencesShowsHeadersAndOffersNoUserProperti
     EXPECT_EQ(rowCount(kModelTable), 1);
     showStructure();
     EXPECT_EQ(rowCount(kStructureTable), 1);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomDialog, LeavesTheDesignAsItIs) {
@@ -85,9 +85,9 @@ TEST_F(BomDialog, ThatCouldNotBeBuiltHasNeitherSizeNorTextsNorHandlers) {
     ASSERT_TRUE(session->dialogOpen());
     EXPECT_EQ(session->dialog()->okButtonText(), "OK");
     EXPECT_EQ(host::dialogSize(), host::ui::DialogSize{});
-    session->clearRaised();
+    session->clearUncaughtExceptions();
     session->click("QEMA_btnExportXls");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_EQ(csv(), "");
 }
 

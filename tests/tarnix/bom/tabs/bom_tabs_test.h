@@ -19,7 +19,7 @@ using test_support::text;
 class BomTabsTest : public test_support::AddinTest {
 protected:
     /// The inputs of a table's row, a line each: column, kind, id, caption in quotes, and what it
-    /// shows. Two blanks and "hidden" follow where it is not visible.
+    /// shows. Two spaces and "hidden" follow where it is not visible.
     [[nodiscard]] std::string row(const char* table, int index) const;
 
     /// The ids of a table's row, with a blank in front of each.

@@ -19,7 +19,7 @@ TEST_F(DataOfModelTab, OfADesignWithoutOccurrencesHasItsHeaderRowOnly) {
         3 button  "Part Number" off
         4 button  "BOM Structure" off)"));
     EXPECT_EQ(rowCount(kModelTable), 1);
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_TRUE(session->messages().empty());
 }
 
@@ -104,7 +104,7 @@ TEST_F(DataOfModelTab, GoesOnWithItsNumbersWhenTheDialogOpensAgain) {
     EXPECT_EQ(column(kModelTable, 1), "3\n3.1\n4");
 }
 
-TEST_F(DataOfModelTab, StartsItsNumbersAnewWhenTheAddinWasReloaded) {
+TEST_F(DataOfModelTab, StartsItsNumbersAgainWhenTheAddinWasReloaded) {
     open("Bolt");
     openBom();
     restart(options());
@@ -132,7 +132,7 @@ TEST_F(DataOfModelTab, WithSixItemsUsesElevenColumns) {
     EXPECT_EQ(ids(kModelTable, 0),
               "      QEMA_Mass_0 QEMA_Area_0 QEMA_Volume_0 QEMA_Length_0 QEMA_Width_0"
               " QEMA_Height_0");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 class SevenItems : public BomTabsTest {
@@ -155,8 +155,8 @@ TEST_F(SevenItems, OfAFlatDesignHaveSevenHeadersAndSixCells) {
               " modelBomStructure_1 QEMA_Mass_1 QEMA_Area_1 QEMA_Volume_1 QEMA_Length_1"
               " QEMA_Width_1 QEMA_Height_1");
     EXPECT_EQ(ratio(kModelTable), "2:0:8:12:8:8:8:8:8:8:8:8");
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).text, "invalid vector subscript");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid vector subscript");
 }
 
 TEST_F(SevenItems, OfANestedDesignEndTheDialogInAPlainException) {
@@ -164,8 +164,8 @@ TEST_F(SevenItems, OfANestedDesignEndTheDialogInAPlainException) {
         Asm
           Bolt)");
     openBom();
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).type, "std::exception");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).type, "std::exception");
     EXPECT_EQ(tabs(), "QEMA_tab_models_BOM \"Data of Model\"");
 }
 
@@ -203,12 +203,12 @@ TEST_F(DataOfModelTab, FindsThePartNumberOfAConfiguredColumnInTheProperties) {
     EXPECT_EQ(column(kModelTable, 5), "B-1");
 }
 
-TEST_F(DataOfModelTab, RaisesForAColumnWhoseKeyIsShorterThanThePrefix) {
+TEST_F(DataOfModelTab, ThrowsForAColumnWhoseKeyIsShorterThanThePrefix) {
     configure({"Mass;Mass"});
     open("Bolt");
     openBom();
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).text, "invalid string position");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid string position");
 }
 
 TEST_F(DataOfModelTab, SelectsNothingWhereACustomPropertyHoldsOne) {

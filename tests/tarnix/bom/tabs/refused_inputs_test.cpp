@@ -33,7 +33,7 @@ TEST_F(RefusedInput, OfATabLeavesItOutQuietly) {
     EXPECT_EQ(tabs(), text(R"(
         QEMA_tab_structure_BOM "Structure"
         QEMA_tab_config_BOM "BOM Configuration")"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RefusedInput, OfTheChildrenOfATabLeavesItEmptyQuietly) {
@@ -41,7 +41,7 @@ TEST_F(RefusedInput, OfTheChildrenOfATabLeavesItEmptyQuietly) {
     openBomRefusing("TabCommandInput::children", 3);
     EXPECT_EQ(tabs(), kAllTabs);
     EXPECT_FALSE(session->dialog()->commandInputs()->itemById("QEMA_btnSaveConfigBom"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RefusedInput, OfTheModelsTableLeavesTheTabWithItsButton) {
@@ -49,14 +49,14 @@ TEST_F(RefusedInput, OfTheModelsTableLeavesTheTabWithItsButton) {
     openBomRefusing("CommandInputs::addTableCommandInput", 1);
     EXPECT_EQ(tabs(), kAllTabs);
     EXPECT_FALSE(session->dialog()->commandInputs()->itemById("QEMA_bom_models"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(RefusedInput, OfTheModelsExportButtonRaisesAPlainException) {
+TEST_F(RefusedInput, OfTheModelsExportButtonThrowsAPlainException) {
     open("Bolt");
     openBomRefusing("CommandInputs::addBoolValueInput", 1);
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).type, "std::exception");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).type, "std::exception");
 }
 
 TEST_F(RefusedInput, OfTheSortOrderEndsTheStructureTabWithWhatStands) {
@@ -65,7 +65,7 @@ TEST_F(RefusedInput, OfTheSortOrderEndsTheStructureTabWithWhatStands) {
     EXPECT_EQ(tabs(), kAllTabs);
     EXPECT_FALSE(session->dialog()->commandInputs()->itemById("QEMA_bom_structure"));
     EXPECT_FALSE(session->dialog()->commandInputs()->itemById("idAllMass"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RefusedInput, OfTheStructureTableLeavesTheMassOut) {
@@ -73,7 +73,7 @@ TEST_F(RefusedInput, OfTheStructureTableLeavesTheMassOut) {
     openBomRefusing("CommandInputs::addTableCommandInput", 2);
     EXPECT_TRUE(session->dialog()->commandInputs()->itemById("QEMA_droDown_AscDesc"));
     EXPECT_FALSE(session->dialog()->commandInputs()->itemById("idAllMass"));
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(RefusedInput, OfAPropertyListLeavesTheDropDownsInFrontOfIt) {
@@ -82,23 +82,23 @@ TEST_F(RefusedInput, OfAPropertyListLeavesTheDropDownsInFrontOfIt) {
     openBomRefusing("DropDownCommandInput::listItems", 4);
     EXPECT_EQ(ids(kConfigurationTable, 2),
               " colapseRow positionOcc partNumberOcc bomStructure iProperty_0 iProperty_1");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(RefusedInput, OfAPropertyListRaisesWhereAColumnIsSavedForIt) {
+TEST_F(RefusedInput, OfAPropertyListThrowsWhereAColumnIsSavedForIt) {
     configure({"QEMA_Mass;Mass"});
     open("");
     openBomRefusing("DropDownCommandInput::listItems", 2);
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).text, "invalid vector subscript");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid vector subscript");
 }
 
-TEST_F(RefusedInput, OfThePhysicalPropertiesRaisesAPlainException) {
+TEST_F(RefusedInput, OfThePhysicalPropertiesThrowsAPlainException) {
     configure({"QEMA_Mass;Mass"});
     open("Bolt");
     openBomRefusing("Component::getPhysicalProperties", 1);
-    ASSERT_EQ(session->raised().size(), 1U);
-    EXPECT_EQ(session->raised().at(0).type, "std::exception");
+    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
+    EXPECT_EQ(session->uncaughtExceptions().at(0).type, "std::exception");
 }
 
 TEST_F(RefusedInput, OfAnOccurrenceSkipsItQuietly) {
@@ -107,7 +107,7 @@ TEST_F(RefusedInput, OfAnOccurrenceSkipsItQuietly) {
         Nut)");
     openBomRefusing("OccurrenceList::item", 1);
     EXPECT_EQ(column(kModelTable, 3), "Nut");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

@@ -151,7 +151,7 @@ TEST(StructureFilter, CountsARowAboveTheDividedOneAsFarBelowIt) {
               "^ A:1+B:1+Plate:1");
 }
 
-TEST(StructureFilter, RaisesForARowWithoutOccurrence) {
+TEST(StructureFilter, ThrowsForARowWithoutOccurrence) {
     StructureFilter filter;
     EXPECT_THROW(filter.accept(BomRow()), std::exception);
 }

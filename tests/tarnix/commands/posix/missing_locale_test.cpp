@@ -11,7 +11,7 @@ namespace {
 using OpenLocalFileWithoutLocale = OpenLocalFileTest;
 
 // In a process of its own: what the C library takes for the search, it does not give back.
-TEST_F(OpenLocalFileWithoutLocale, RaisesForTheFirstFile) {
+TEST_F(OpenLocalFileWithoutLocale, ThrowsForTheFirstFile) {
     const std::string file = design("part.f3d");
 
     EXPECT_EXIT(
@@ -19,7 +19,9 @@ TEST_F(OpenLocalFileWithoutLocale, RaisesForTheFirstFile) {
             // Where the C library looks for locales, and finds none.
             ::setenv("LOCPATH", "/nowhere", /*overwrite=*/1);
             pick({file});
-            std::fputs((raised() + "; opened " + std::to_string(opened().size())).c_str(), stderr);
+            std::fputs(
+                (uncaughtExceptions() + "; opened " + std::to_string(opened().size())).c_str(),
+                stderr);
             ::_exit(0);
         },
         testing::ExitedWithCode(0), "^std::runtime_error: bad locale name in OnExecute; opened 0$");

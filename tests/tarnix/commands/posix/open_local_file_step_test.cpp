@@ -26,7 +26,7 @@ TEST_F(OpenLocalFileOfAnotherSystem, OpensAStepFileOfUpperCaseInAFolderOfUpperCa
 
     EXPECT_EQ(session->design().name, "SLIDER");
     EXPECT_EQ(uploaded(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileOfAnotherSystem, OpensAnIgesFileOfUpperCase) {
@@ -37,7 +37,7 @@ TEST_F(OpenLocalFileOfAnotherSystem, OpensAnIgesFileOfUpperCase) {
     // 10 x 20 mm in cm2.
     EXPECT_NEAR(session->design().components.front().geometry->area(), 2, 1e-9);
     EXPECT_EQ(uploaded(), Texts());
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(OpenLocalFileOfAnotherSystem, MeasuresItWithThePointInTheLocaleOfTheCommand) {

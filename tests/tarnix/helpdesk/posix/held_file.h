@@ -23,7 +23,7 @@ public:
     HeldFile(const HeldFile&) = delete;
     HeldFile& operator=(const HeldFile&) = delete;
     ~HeldFile() {
-        letGo();
+        detach();
         ::close(descriptor_);
     }
 
@@ -38,7 +38,7 @@ public:
         return ::fcntl(descriptor_, F_GETLEASE) != F_WRLCK;
     }
 
-    void letGo() const { ::fcntl(descriptor_, F_SETLEASE, F_UNLCK); }
+    void detach() const { ::fcntl(descriptor_, F_SETLEASE, F_UNLCK); }
 
 private:
     int descriptor_;

@@ -11,14 +11,14 @@ TEST_F(CaptureWithoutADisplay, OfTheScreenEndsWithoutAWord) {
     press("captureScreen");
     EXPECT_FALSE(std::filesystem::exists(supportFolder()));
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(CaptureWithoutADisplay, OfTheHostsWindowEndsWithoutAWord) {
     press("captureFusion");
     EXPECT_FALSE(std::filesystem::exists(supportFolder()));
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 }  // namespace

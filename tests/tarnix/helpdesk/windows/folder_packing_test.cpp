@@ -39,7 +39,7 @@ TEST_F(ZipOfTheShell, LeavesAnArchiveAtLeast) {
     EXPECT_GE(archive.size(), 22U);
     EXPECT_EQ(archive.substr(0, 2), "PK");
     EXPECT_EQ(shownMessages(), "");
-    EXPECT_EQ(raised(), "");
+    EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(ZipOfTheShell, LeavesTheEmptyRecordWhereThereAreNoCompressedFolders) {

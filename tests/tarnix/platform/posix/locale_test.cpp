@@ -32,7 +32,7 @@ TEST(CzechLocaleOnLinux, LeavesTheBytesOfOtherLettersAlone) {
               "elezo");
 }
 
-/// What is raised for want of the locale, and the locale that there is then.
+/// What is thrown for want of the locale, and the locale that there is then.
 std::string complaint() {
     try {
         useCzechLocale();

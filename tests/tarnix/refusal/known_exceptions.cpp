@@ -1,4 +1,4 @@
-#include "tests/tarnix/refusal/known_raised.h"
+#include "tests/tarnix/refusal/known_exceptions.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-bool isKnown(const host::Raised& raised) {
+bool isKnown(const host::UncaughtException& thrown) {
     static const std::array<std::string, 7> kTexts = {"",
                                                       "invalid stoi argument",
                                                       "stoi argument out of range",
@@ -16,15 +16,15 @@ bool isKnown(const host::Raised& raised) {
                                                       "stod argument out of range",
                                                       "invalid vector subscript",
                                                       "invalid string position"};
-    const bool known = std::find(kTexts.begin(), kTexts.end(), raised.text) != kTexts.end();
-    return known && raised.type.rfind("std::", 0) == 0;
+    const bool known = std::find(kTexts.begin(), kTexts.end(), thrown.text) != kTexts.end();
+    return known && thrown.type.rfind("std::", 0) == 0;
 }
 
 }  // namespace
 
-void expectOnlyKnownRaised(const host::Session& session) {
-    for (const host::Raised& raised : session.raised()) {
-        EXPECT_TRUE(isKnown(raised))
-            << raised.type << " (" << raised.text << ") in " << raised.event;
+void expectOnlyKnownThrown(const host::Session& session) {
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        EXPECT_TRUE(isKnown(thrown))
+            << thrown.type << " (" << thrown.text << ") in " << thrown.event;
     }
 }
