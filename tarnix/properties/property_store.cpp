@@ -17,15 +17,6 @@ bool isModelKey(const std::string& key) {
     return key == kPartNumberKey || key == kPartNameKey || key == kDescriptionKey;
 }
 
-void writeAttribute(const Ptr<Attributes>& attributes, const PropertyEntry& entry) {
-    const Ptr<Attribute> attribute = attributes->itemByName(kPropertiesAttributesGroup, entry.name);
-    if (attribute) {
-        attribute->value(entry.value);
-    } else {
-        attributes->add(kPropertiesAttributesGroup, entry.name, entry.value);
-    }
-}
-
 }  // namespace
 
 ComponentProperties readComponentProperties(Ptr<Component> component) {
@@ -68,8 +59,18 @@ void writeComponentProperties(ComponentProperties properties) {
         } else if (entry.name == kDescriptionKey) {
             component->description(entry.value);
         } else {
-            writeAttribute(attributes, entry);
+            writeAttribute(attributes, entry.name, entry.value);
         }
+    }
+}
+
+void writeAttribute(const Ptr<Attributes>& attributes, const std::string& name,
+                    const std::string& value) {
+    const Ptr<Attribute> attribute = attributes->itemByName(kPropertiesAttributesGroup, name);
+    if (attribute) {
+        attribute->value(value);
+    } else {
+        attributes->add(kPropertiesAttributesGroup, name, value);
     }
 }
 

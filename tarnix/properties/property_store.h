@@ -50,6 +50,12 @@ ComponentProperties readComponentProperties(adsk::core::Ptr<adsk::fusion::Compon
 /// collection takes nothing. Throws a plain `std::exception` for a null component.
 void writeComponentProperties(ComponentProperties properties);
 
+/// Sets the attribute `name` of the properties' group to `value`, and adds it where it is missing.
+///
+/// Throws a plain `std::exception` for a null collection.
+void writeAttribute(const adsk::core::Ptr<adsk::core::Attributes>& attributes,
+                    const std::string& name, const std::string& value);
+
 /// The value of the first entry under `key`; an empty string where there is none.
 std::string findProperty(ComponentProperties properties, std::string key);
 

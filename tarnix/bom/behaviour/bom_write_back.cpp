@@ -19,7 +19,6 @@
 namespace tarnix {
 
 using adsk::core::Application;
-using adsk::core::Attribute;
 using adsk::core::Attributes;
 using adsk::core::Command;
 using adsk::core::CommandEventArgs;
@@ -58,16 +57,6 @@ void cutDescription(const Ptr<Component>& component) {
     }
 }
 
-void setAttribute(const Ptr<Attributes>& attributes, const std::string& name,
-                  const std::string& value) {
-    const Ptr<Attribute> attribute = attributes->itemByName(kPropertiesAttributesGroup, name);
-    if (attribute) {
-        attribute->value(value);
-    } else {
-        attributes->add(kPropertiesAttributesGroup, name, value);
-    }
-}
-
 /// Writes an attribute for each item of the list, so that one held by an earlier choice goes.
 void writeStructure(const Ptr<Component>& component, const Ptr<DropDownCommandInput>& dropDown) {
     const Ptr<ListItems> items = dropDown->listItems();
@@ -75,7 +64,7 @@ void writeStructure(const Ptr<Component>& component, const Ptr<DropDownCommandIn
     const std::size_t count = items->count();
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<ListItem> item = items->item(i);
-        setAttribute(attributes, item->name(), item->isSelected() ? "1" : "");
+        writeAttribute(attributes, item->name(), item->isSelected() ? "1" : "");
     }
 }
 
@@ -156,7 +145,7 @@ private:
         }
         const auto hasKey = [&](const PropertyEntry& entry) { return entry.name == key; };
         if (id == key + "_" + number && std::ranges::any_of(row.properties, hasKey)) {
-            setAttribute(row.component->attributes(), key, textOf(cell));
+            writeAttribute(row.component->attributes(), key, textOf(cell));
         }
     }
 
