@@ -53,7 +53,7 @@ std::string readAll(const fs::path& path, std::size_t megabytes) {
     }
     if (fs::file_size(path, error) > megabytes * kMegabyte / kBytesPerByte) {
         refuse(path, "may take more than " + std::to_string(megabytes) +
-                         " megabytes of memory; open a smaller design, or raise the limit");
+                         " megabytes of memory; open a smaller design, or increase the limit");
     }
     std::ifstream stream(path, std::ios::binary);
     std::ostringstream content;
@@ -101,7 +101,7 @@ ReadDesign parse(const std::string& text, std::size_t occurrences) {
     checkDesign(design.data);
     if (countOccurrences(design.data) > occurrences) {
         throw DesignError("would become more than " + std::to_string(occurrences) +
-                          " occurrences; open a part of the assembly, or raise the limit");
+                          " occurrences; open a part of the assembly, or increase the limit");
     }
     return design;
 }

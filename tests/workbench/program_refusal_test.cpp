@@ -80,7 +80,7 @@ TEST_F(BadInput, AssembliesThatContainEachOther) {
 TEST_F(BadInput, ATreeBeyondTheLimit) {
     EXPECT_EQ(
         reason(file(nine()), {"--max-occurrences", "8"}),
-        "would become more than 8 occurrences; open a part of the assembly, or raise the limit\n");
+        "would become more than 8 occurrences; open a part of the assembly, or increase the limit\n");
     EXPECT_EQ(run({"info", file(nine()), "--max-occurrences", "9"}).status, 0);
 }
 
@@ -92,7 +92,7 @@ TEST_F(BadInput, ADesignFileBeyondTheLimit) {
 
     EXPECT_EQ(
         reason(large, {"--max-occurrences", "2"}),
-        "would become more than 2 occurrences; open a part of the assembly, or raise the limit\n");
+        "would become more than 2 occurrences; open a part of the assembly, or increase the limit\n");
     EXPECT_EQ(run({"info", large, "--max-occurrences", "3"}).status, 0);
 }
 
@@ -147,7 +147,7 @@ TEST_F(BadInput, ADesignFileThatMayTakeTooMuchMemory) {
     writeFile(path, "{" + std::string(kOfSixteenMegabytes, ' '));
 
     EXPECT_EQ(reason(host::toUtf8(path), {"--max-memory", "16"}),
-              "may take more than 16 megabytes of memory; open a smaller design, or throw the "
+              "may take more than 16 megabytes of memory; open a smaller design, or increase the "
               "limit\n");
 }
 

@@ -24,7 +24,7 @@ public:
         }
         if (assembly_.roots.empty() || total > limits_.occurrences) {
             throw ReadError("would become more than " + std::to_string(limits_.occurrences) +
-                            " occurrences; open a part of the assembly, or raise the limit");
+                            " occurrences; open a part of the assembly, or increase the limit");
         }
     }
 

@@ -292,7 +292,7 @@ TEST_F(DesignFile, MoreOccurrencesThanAskedForAreRefused) {
     EXPECT_EQ(complaint({}, {kUsualMegabytes, 8}), "none");
     EXPECT_EQ(
         complaint({}, {kUsualMegabytes, 7}),
-        "would become more than 7 occurrences; open a part of the assembly, or raise the limit");
+        "would become more than 7 occurrences; open a part of the assembly, or increase the limit");
 }
 
 TEST_F(DesignFile, TextThatMayTakeMoreMemoryThanAskedForIsRefused) {
@@ -305,7 +305,7 @@ TEST_F(DesignFile, TextThatMayTakeMoreMemoryThanAskedForIsRefused) {
 
     EXPECT_EQ(
         complaint({}, {1, 10}),
-        "may take more than 1 megabytes of memory; open a smaller design, or raise the limit");
+        "may take more than 1 megabytes of memory; open a smaller design, or increase the limit");
 }
 
 /// A body that only the source knows.

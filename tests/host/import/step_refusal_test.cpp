@@ -128,7 +128,7 @@ TEST_F(StepRefusal, ATreeWithMoreOccurrencesThanAllowed) {
     const std::string text = chain(4, 2);
 
     EXPECT_EQ(reason(text, {300, 3072, 13}),
-              "would become more than 13 occurrences; open a part of the assembly, or throw the "
+              "would become more than 13 occurrences; open a part of the assembly, or increase the "
               "limit");
     EXPECT_EQ(refusal(folder.write("a.step", text), {300, 3072, 14}), "");
 }
@@ -136,7 +136,7 @@ TEST_F(StepRefusal, ATreeWithMoreOccurrencesThanAllowed) {
 TEST_F(StepRefusal, ATreeThatDoublesAtEveryLevelIsCountedWithoutOpeningIt) {
     EXPECT_EQ(
         reason(chain(120, 2)),
-        "would become more than 200000 occurrences; open a part of the assembly, or throw the "
+        "would become more than 200000 occurrences; open a part of the assembly, or increase the "
         "limit");
 }
 
