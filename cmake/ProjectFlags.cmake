@@ -18,6 +18,12 @@ if(WIN32 AND NOT MSVC)
     target_link_options(project_flags INTERFACE -shared-libgcc)
 endif()
 
+# Some hundred programs are linked: a fast linker where there is one. It knows no Windows programs.
+find_program(TARNIX_FAST_LINKER mold)
+if(TARNIX_FAST_LINKER AND NOT WIN32)
+    target_link_options(project_flags INTERFACE -fuse-ld=mold)
+endif()
+
 if(TARNIX_SANITIZE)
     target_compile_options(project_flags INTERFACE -fsanitize=address,undefined
                                                    -fno-sanitize-recover=all
