@@ -8,8 +8,7 @@ install(FILES ${PROJECT_BINARY_DIR}/Tarnix/Tarnix.manifest
               ${addin_source}/package/THIRD-PARTY-NOTICES.txt
               ${PROJECT_SOURCE_DIR}/LICENSE
         DESTINATION Tarnix COMPONENT addin)
-install(DIRECTORY ${addin_source}/Resources ${addin_source}/resources
-        DESTINATION Tarnix COMPONENT addin)
+install(DIRECTORY ${addin_source}/Resources DESTINATION Tarnix COMPONENT addin)
 # The guides that "Open Help" opens, in the host's two languages.
 install(FILES ${addin_source}/package/guides/Tarnix_UsersGuide.pdf
               ${addin_source}/package/guides/Tarnix_UzivatelskaPrirucka.pdf

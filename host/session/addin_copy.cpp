@@ -1,6 +1,7 @@
 #include "host/session/addin_copy.h"
 
 #include "host/base/utf8_path.h"
+#include "host/import/found_file.h"
 #include "host/session/session_error.h"
 
 #include <algorithm>
@@ -55,6 +56,10 @@ void copyFile(const fs::path& from, const fs::path& to) {
 fs::path AddinFiles::module() const { return folder / fromUtf8(name + ".dll"); }
 
 fs::path AddinFiles::manifest() const { return folder / fromUtf8(name + ".manifest"); }
+
+fs::path AddinFiles::resource(const std::string& resourceName) const {
+    return foundFile(toUtf8((folder / fromUtf8(resourceName)).lexically_normal()));
+}
 
 AddinFiles findAddin(const fs::path& folder) {
     fs::path full = fs::absolute(folder).lexically_normal();

@@ -12,6 +12,11 @@ struct AddinFiles {
 
     [[nodiscard]] std::filesystem::path module() const;
     [[nodiscard]] std::filesystem::path manifest() const;
+
+    /// The icon folder or image that a module names, such as "./Resources/Copy", from the add-in's
+    /// folder on. It is found as Windows finds it, whatever the case of its letters; an
+    /// `ImportError` where there is none.
+    [[nodiscard]] std::filesystem::path resource(const std::string& resourceName) const;
 };
 
 /// The add-in of a folder; throws a `SessionError` that names what is missing.

@@ -3,6 +3,7 @@
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 
+#include "host/import/step_import.h"
 #include "host/session/session_error.h"
 
 #include <gtest/gtest.h>
@@ -68,6 +69,23 @@ TEST_F(AddinCopy, AMissingModuleIsNamed) {
     fs::remove(installed() / "Sample.dll");
 
     EXPECT_NE(complaint().find("Sample.dll is missing"), std::string::npos) << complaint();
+}
+
+TEST_F(AddinCopy, AnIconIsFoundWhateverTheCaseInWhichTheModuleSpellsIt) {
+    const host::AddinFiles addin = copy();
+    const fs::path icon = home() / "Sample" / "Resources" / "16x16.png";
+
+    EXPECT_TRUE(fs::equivalent(addin.resource("././Resources/16x16.png"), icon));
+    EXPECT_TRUE(fs::equivalent(addin.resource("resources/16X16.PNG"), icon));
+}
+
+TEST_F(AddinCopy, AMissingIconIsNamed) {
+    try {
+        static_cast<void>(copy().resource("Resources/Spare.png"));
+        FAIL() << "found an icon that is missing";
+    } catch (const host::ImportError& error) {
+        EXPECT_NE(std::string(error.what()).find("Spare.png"), std::string::npos) << error.what();
+    }
 }
 
 TEST_F(AddinCopy, HoldsEverythingOfTheFolder) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <string>
+
 namespace test_support {
 namespace {
 
@@ -83,6 +86,14 @@ TEST_F(Definitions, OfTheLastHelpdeskCommandsHaveTheirTexts) {
         Open Help
         Open User Guide
         Resources/OpenHelp)"));
+}
+
+TEST_F(Definitions, NameIconFoldersThatTheAddinBrings) {
+    for (const std::string& id : {"QM_TX_BOM", "QM_TX_projectedEntitiesAsConstruction",
+                                  "QM_TX_configuration", "QM_HD_openHelp"}) {
+        const auto folder = session->addin().resource(definition(id)->resourceFolder());
+        EXPECT_TRUE(std::filesystem::is_regular_file(folder / "32x32@2x.png")) << id;
+    }
 }
 
 TEST_F(Definitions, OfHelpdeskCommandsRunWithoutADialog) {

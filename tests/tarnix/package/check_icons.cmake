@@ -19,9 +19,8 @@ endif()
 
 file(REMOVE_RECURSE ${OUT})
 execute_process(COMMAND ${ROOT}/scripts/render-icons ${OUT} COMMAND_ERROR_IS_FATAL ANY)
-file(GLOB_RECURSE committed RELATIVE ${ROOT}/tarnix ${ROOT}/tarnix/Resources/*
-     ${ROOT}/tarnix/resources/*)
-file(GLOB_RECURSE rendered RELATIVE ${OUT} ${OUT}/Resources/* ${OUT}/resources/*)
+file(GLOB_RECURSE committed RELATIVE ${ROOT}/tarnix ${ROOT}/tarnix/Resources/*)
+file(GLOB_RECURSE rendered RELATIVE ${OUT} ${OUT}/Resources/*)
 if(NOT committed STREQUAL rendered)
     message(FATAL_ERROR "other files:\n  committed ${committed}\n  rendered ${rendered}")
 endif()

@@ -5,9 +5,10 @@
 # TEXTS lists every resource text that the add-in hands to the host, as it is spelled. A fault is one
 # line; any makes the check fail:
 #   - a text in the sources that is not listed, or a listed one that no source names;
-#   - a file that a text needs and that is not there under exactly that name, or has another size;
+#   - a file that a text needs and that is missing, or has another size: letters are compared as the
+#     host does on Windows, where "resources" and "Resources" are one folder;
 #   - a file that no text needs;
-#   - two files whose names differ in case alone: Resources and resources are one folder on Windows.
+#   - two files whose names differ in case alone: only one of them would survive a checkout on Windows.
 cmake_minimum_required(VERSION 3.25)
 
 set(faults 0)
@@ -46,6 +47,7 @@ foreach(text IN LISTS named)
 endforeach()
 
 file(GLOB_RECURSE files RELATIVE ${ROOT}/tarnix ${ROOT}/tarnix/Resources/* ${ROOT}/tarnix/resources/*)
+string(TOLOWER "${files}" lower_files)
 set(used "")
 foreach(text IN LISTS listed)
     if(NOT text IN_LIST named)
@@ -62,11 +64,14 @@ foreach(text IN LISTS listed)
         string(REGEX MATCH "^(.*)=(.*)$" _ ${pair})
         set(file ${CMAKE_MATCH_1})
         set(expected ${CMAKE_MATCH_2})
-        list(APPEND used ${file})
-        if(NOT file IN_LIST files)
+        string(TOLOWER ${file} lower)
+        list(APPEND used ${lower})
+        list(FIND lower_files ${lower} place)
+        if(place EQUAL -1)
             fault("${file}: missing")
             continue()
         endif()
+        list(GET files ${place} file)
         png_size(${ROOT}/tarnix/${file} size)
         if(NOT size STREQUAL expected)
             fault("${file}: ${size}, should be ${expected}")
@@ -76,10 +81,10 @@ endforeach()
 
 set(merged "")
 foreach(file IN LISTS files)
-    if(NOT file IN_LIST used)
+    string(TOLOWER ${file} lower)
+    if(NOT lower IN_LIST used)
         fault("${file}: no text needs it")
     endif()
-    string(TOLOWER ${file} lower)
     if(lower IN_LIST merged)
         fault("${file}: another file has this name on Windows")
     endif()

@@ -2,6 +2,9 @@
 
 #include "host/session/user_actions.h"
 
+#include <filesystem>
+#include <string>
+
 namespace tarnix {
 namespace {
 
@@ -30,6 +33,18 @@ protected:
         openAndPick("Bolt:1");
     }
 };
+
+TEST_F(StructureButtons, HaveTheIconsOfTheAddin) {
+    openProperties();
+    const adsk::core::Ptr<adsk::core::ButtonRowCommandInput> row = session->input(kStructure);
+    ASSERT_EQ(row->listItems()->count(), 5U);
+
+    for (std::size_t i = 0; i < 5; ++i) {
+        const std::string icon = row->listItems()->item(i)->icon();
+        EXPECT_EQ(icon, "resources/_" + row->listItems()->item(i)->name());
+        EXPECT_TRUE(std::filesystem::is_directory(session->addin().resource(icon))) << icon;
+    }
+}
 
 TEST_F(StructureButtons, PressingTheOneThatIsOnLeavesNoneOn) {
     open("Bolt  structure=Buy");
