@@ -8,21 +8,22 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 namespace adsk::core {
 
-/// The handlers of one event. Event and handlers know each other through it, so that either may go
-/// first.
+/// The handlers of one event. Event and handlers know each other through it, so that either may be
+/// destroyed first.
 struct EventLink : std::enable_shared_from_this<EventLink> {
     std::vector<EventHandler*> handlers;
 
-    /// Adds a handler behind the others; one that is there already stays where it is. False for
+    /// Adds a handler after the others; one that is there already stays where it is. False for
     /// null.
     bool add(EventHandler* handler);
 
-    /// Takes a handler out; false when it was not there.
+    /// Removes a handler; false when it was not there.
     bool remove(EventHandler* handler);
 
     [[nodiscard]] bool holds(const EventHandler* handler) const;
@@ -47,12 +48,22 @@ private:
     adsk::core::Ptr<adsk::core::Event> event_;
 };
 
+/// The class that `EventOf` or `EventHandlerOf` was instantiated with, as a pointer to it.
+template <class Handler>
+Handler* handlerOf(const adsk::core::EventOf<Handler>* event);
+template <class ArgumentsInterface>
+ArgumentsInterface* argumentsOf(const adsk::core::EventHandlerOf<ArgumentsInterface>* handler);
+
 /// An event of the public API.
 ///
-/// `Sender` is not owned: an event never outlives the notifications of what fires it.
-template <class Interface, class Handler, class ArgumentsInterface>
+/// The sender is not owned: an event never outlives the notifications of what fires it.
+template <class Interface>
 class TypedEvent final : public Object<Interface> {
 public:
+    using Handler = std::remove_pointer_t<decltype(handlerOf(static_cast<Interface*>(nullptr)))>;
+    using ArgumentsInterface =
+        std::remove_pointer_t<decltype(argumentsOf(static_cast<Handler*>(nullptr)))>;
+
     TypedEvent(std::string name, adsk::core::Base* sender)
         : name_(std::move(name)), sender_(sender) {}
 

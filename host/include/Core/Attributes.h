@@ -1,8 +1,7 @@
 #pragma once
 
-#include <Core/Base.h>
+#include <Core/Collection.h>
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -32,14 +31,9 @@ public:
 ///
 /// Group and name together tell one from another, and upper and lower case differ. The order is the
 /// order in which they were made.
-class Attributes : public Base {
+class Attributes : public CollectionOf<Attribute> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The attribute at a place, null outside the list.
-    [[nodiscard]] virtual Ptr<Attribute> item(std::size_t index) const = 0;
 
     /// The attribute of that group and name, null where there is none.
     [[nodiscard]] virtual Ptr<Attribute> itemByName(const std::string& groupName,

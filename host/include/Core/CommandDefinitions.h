@@ -1,8 +1,8 @@
 #pragma once
 
+#include <Core/Collection.h>
 #include <Core/Commands.h>
 
-#include <cstddef>
 #include <string>
 
 namespace adsk::core {
@@ -39,17 +39,9 @@ public:
 };
 
 /// All definitions of the host.
-class CommandDefinitions : public Base {
+class CommandDefinitions : public CollectionById<CommandDefinition> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<CommandDefinition> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<CommandDefinition> itemById(const std::string& id) const = 0;
 
     /// Makes a definition. Null where the id is in use, empty, or has other characters than
     /// `A-Z a-z 0-9 _`.

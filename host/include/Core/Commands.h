@@ -23,18 +23,11 @@ public:
     [[nodiscard]] virtual Ptr<Command> command() const = 0;
 };
 
-class CommandCreatedEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<CommandCreatedEventArgs>& eventArgs) = 0;
-};
+class CommandCreatedEventHandler : public EventHandlerOf<CommandCreatedEventArgs> {};
 
-class CommandCreatedEvent : public Event {
+class CommandCreatedEvent : public EventOf<CommandCreatedEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(CommandCreatedEventHandler* handler) = 0;
-    virtual bool remove(CommandCreatedEventHandler* handler) = 0;
 };
 
 class CommandEventArgs : public EventArgs {
@@ -58,18 +51,11 @@ public:
     [[nodiscard]] virtual CommandTerminationReason terminationReason() const = 0;
 };
 
-class CommandEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<CommandEventArgs>& eventArgs) = 0;
-};
+class CommandEventHandler : public EventHandlerOf<CommandEventArgs> {};
 
-class CommandEvent : public Event {
+class CommandEvent : public EventOf<CommandEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(CommandEventHandler* handler) = 0;
-    virtual bool remove(CommandEventHandler* handler) = 0;
 };
 
 class InputChangedEventArgs : public EventArgs {
@@ -84,18 +70,11 @@ public:
     [[nodiscard]] virtual Ptr<CommandInputs> inputs() const = 0;
 };
 
-class InputChangedEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<InputChangedEventArgs>& eventArgs) = 0;
-};
+class InputChangedEventHandler : public EventHandlerOf<InputChangedEventArgs> {};
 
-class InputChangedEvent : public Event {
+class InputChangedEvent : public EventOf<InputChangedEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(InputChangedEventHandler* handler) = 0;
-    virtual bool remove(InputChangedEventHandler* handler) = 0;
 };
 
 class ValidateInputsEventArgs : public EventArgs {
@@ -109,18 +88,11 @@ public:
     [[nodiscard]] virtual Ptr<CommandInputs> inputs() const = 0;
 };
 
-class ValidateInputsEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<ValidateInputsEventArgs>& eventArgs) = 0;
-};
+class ValidateInputsEventHandler : public EventHandlerOf<ValidateInputsEventArgs> {};
 
-class ValidateInputsEvent : public Event {
+class ValidateInputsEvent : public EventOf<ValidateInputsEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(ValidateInputsEventHandler* handler) = 0;
-    virtual bool remove(ValidateInputsEventHandler* handler) = 0;
 };
 
 class ApplicationCommandEventArgs : public EventArgs {
@@ -138,18 +110,11 @@ public:
     virtual bool isCanceled(bool value) = 0;
 };
 
-class ApplicationCommandEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<ApplicationCommandEventArgs>& eventArgs) = 0;
-};
+class ApplicationCommandEventHandler : public EventHandlerOf<ApplicationCommandEventArgs> {};
 
-class ApplicationCommandEvent : public Event {
+class ApplicationCommandEvent : public EventOf<ApplicationCommandEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(ApplicationCommandEventHandler* handler) = 0;
-    virtual bool remove(ApplicationCommandEventHandler* handler) = 0;
 };
 
 /// One run of a command definition.

@@ -4,6 +4,7 @@
 #include <Core/Application.h>
 #include <Core/Attributes.h>
 #include <Core/Base.h>
+#include <Core/Collection.h>
 #include <Core/CommandDefinitions.h>
 #include <Core/CommandInput.h>
 #include <Core/CommandInputs.h>

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <Core/Base.h>
+#include <Core/Collection.h>
 #include <Core/Enums.h>
 
-#include <cstddef>
 #include <string>
 
 /// What the user keeps in the host's storage: projects, with folders and files in them.
@@ -65,14 +64,9 @@ public:
 };
 
 /// Some folders.
-class DataFolders : public Base {
+class DataFolders : public CollectionOf<DataFolder> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The folder at a place, null outside the list.
-    [[nodiscard]] virtual Ptr<DataFolder> item(std::size_t index) const = 0;
 };
 
 /// A file of a project.
@@ -91,14 +85,9 @@ public:
 };
 
 /// Some files.
-class DataFiles : public Base {
+class DataFiles : public CollectionOf<DataFile> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The file at a place, null outside the list.
-    [[nodiscard]] virtual Ptr<DataFile> item(std::size_t index) const = 0;
 };
 
 /// An upload on its way.

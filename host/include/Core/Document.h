@@ -1,8 +1,7 @@
 #pragma once
 
-#include <Core/Base.h>
+#include <Core/Collection.h>
 
-#include <cstddef>
 #include <string>
 
 namespace adsk::core {
@@ -31,14 +30,9 @@ public:
 };
 
 /// The open documents.
-class Documents : public Base {
+class Documents : public CollectionOf<Document> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The document at a place, null outside the list.
-    [[nodiscard]] virtual Ptr<Document> item(std::size_t index) const = 0;
 
     /// Opens a file of the user's data and makes it the active document; null where that fails, for
     /// instance while the file is still being converted.

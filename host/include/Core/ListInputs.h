@@ -1,9 +1,9 @@
 #pragma once
 
+#include <Core/Collection.h>
 #include <Core/CommandInput.h>
 #include <Core/Enums.h>
 
-#include <cstddef>
 #include <string>
 
 /// Inputs that offer a list of items to choose from.
@@ -36,14 +36,9 @@ public:
 };
 
 /// The entries of a list, in the order in which they are shown.
-class ListItems : public Base {
+class ListItems : public CollectionOf<ListItem> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<ListItem> item(std::size_t index) const = 0;
 
     /// Adds an item before the one at `beforeIndex`; at the end for -1.
     virtual Ptr<ListItem> add(const std::string& name, bool isSelected,

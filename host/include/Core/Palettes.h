@@ -1,9 +1,8 @@
 #pragma once
 
-#include <Core/Base.h>
+#include <Core/Collection.h>
 #include <Core/Enums.h>
 
-#include <cstddef>
 #include <string>
 
 namespace adsk::core {
@@ -56,17 +55,9 @@ public:
 };
 
 /// All palettes of the host.
-class Palettes : public Base {
+class Palettes : public CollectionById<Palette> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<Palette> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<Palette> itemById(const std::string& id) const = 0;
 
     /// Makes a floating palette; null where the id is empty or in use.
     virtual Ptr<Palette> add(const std::string& id, const std::string& name,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Core/Collection.h>
 #include <Core/CommandInput.h>
 
 #include <cstddef>
@@ -21,14 +22,9 @@ public:
 };
 
 /// What is selected, in the order of selection.
-class Selections : public Base {
+class Selections : public CollectionOf<Selection> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<Selection> item(std::size_t index) const = 0;
 
     /// Selects an entity too; nothing happens for one that is selected. False for null.
     virtual bool add(const Ptr<Base>& entity) = 0;

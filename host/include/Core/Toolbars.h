@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Core/Collection.h>
 #include <Core/Event.h>
 
 #include <cstddef>
@@ -49,17 +50,9 @@ public:
 };
 
 /// The controls of a panel or a menu, in the order in which they are shown.
-class ToolbarControls : public Base {
+class ToolbarControls : public CollectionById<ToolbarControl> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<ToolbarControl> item(std::size_t index) const = 0;
-
-    /// The first control of this id, null where there is none.
-    [[nodiscard]] virtual Ptr<ToolbarControl> itemById(const std::string& id) const = 0;
 
     /// Adds a button for a command before or behind the control `positionID`; at the end where that
     /// is empty or unknown. Null without a definition. A definition may have several controls.
@@ -82,17 +75,9 @@ public:
 };
 
 /// The panels of a workspace or of a tab.
-class ToolbarPanels : public Base {
+class ToolbarPanels : public CollectionById<ToolbarPanel> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<ToolbarPanel> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<ToolbarPanel> itemById(const std::string& id) const = 0;
 
     /// Adds a panel before or behind the panel `positionID`; at the end where that is empty. A
     /// panel added to a workspace stands in its tools tab. Null where any panel of the host has
@@ -102,17 +87,9 @@ public:
 };
 
 /// Panels of several workspaces or tabs; nothing can be added to it.
-class ToolbarPanelList : public Base {
+class ToolbarPanelList : public CollectionById<ToolbarPanel> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<ToolbarPanel> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<ToolbarPanel> itemById(const std::string& id) const = 0;
 };
 
 /// One tab of a workspace's toolbar.
@@ -126,31 +103,15 @@ public:
 };
 
 /// The tabs of one workspace.
-class ToolbarTabs : public Base {
+class ToolbarTabs : public CollectionById<ToolbarTab> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<ToolbarTab> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<ToolbarTab> itemById(const std::string& id) const = 0;
 };
 
 /// Tabs of several workspaces; nothing can be added to it.
-class ToolbarTabList : public Base {
+class ToolbarTabList : public CollectionById<ToolbarTab> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<ToolbarTab> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<ToolbarTab> itemById(const std::string& id) const = 0;
 };
 
 /// The list part of the context menu.
@@ -179,18 +140,11 @@ public:
     [[nodiscard]] virtual std::vector<Ptr<Base>> selectedEntities() const = 0;
 };
 
-class MarkingMenuEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<MarkingMenuEventArgs>& eventArgs) = 0;
-};
+class MarkingMenuEventHandler : public EventHandlerOf<MarkingMenuEventArgs> {};
 
-class MarkingMenuEvent : public Event {
+class MarkingMenuEvent : public EventOf<MarkingMenuEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(MarkingMenuEventHandler* handler) = 0;
-    virtual bool remove(MarkingMenuEventHandler* handler) = 0;
 };
 
 }  // namespace adsk::core

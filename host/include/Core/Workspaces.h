@@ -1,8 +1,8 @@
 #pragma once
 
+#include <Core/Collection.h>
 #include <Core/Event.h>
 
-#include <cstddef>
 #include <string>
 
 namespace adsk::core {
@@ -32,17 +32,9 @@ public:
 };
 
 /// The workspaces of the host, in the host's order.
-class Workspaces : public Base {
+class Workspaces : public CollectionById<Workspace> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// Null for an index that does not exist.
-    [[nodiscard]] virtual Ptr<Workspace> item(std::size_t index) const = 0;
-
-    /// Null where none has this id.
-    [[nodiscard]] virtual Ptr<Workspace> itemById(const std::string& id) const = 0;
 };
 
 /// What is told about a change of workspace.
@@ -53,18 +45,11 @@ public:
     [[nodiscard]] virtual Ptr<Workspace> workspace() const = 0;
 };
 
-class WorkspaceEventHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<WorkspaceEventArgs>& eventArgs) = 0;
-};
+class WorkspaceEventHandler : public EventHandlerOf<WorkspaceEventArgs> {};
 
-class WorkspaceEvent : public Event {
+class WorkspaceEvent : public EventOf<WorkspaceEventHandler> {
 public:
     static const char* classType();
-
-    /// False for null; one that is there already stays where it is.
-    virtual bool add(WorkspaceEventHandler* handler) = 0;
-    virtual bool remove(WorkspaceEventHandler* handler) = 0;
 };
 
 }  // namespace adsk::core

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <Core/Base.h>
+#include <Core/Collection.h>
 
-#include <cstddef>
 #include <string>
 
 namespace adsk::fusion {
@@ -42,28 +41,18 @@ public:
 };
 
 /// Occurrences to read.
-class OccurrenceList : public core::Base {
+class OccurrenceList : public core::CollectionOf<Occurrence> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The occurrence at a place, null outside the list.
-    [[nodiscard]] virtual core::Ptr<Occurrence> item(std::size_t index) const = 0;
 
     /// The occurrence of that name, null where there is none.
     [[nodiscard]] virtual core::Ptr<Occurrence> itemByName(const std::string& name) const = 0;
 };
 
 /// What stands directly in a component.
-class Occurrences : public core::Base {
+class Occurrences : public core::CollectionOf<Occurrence> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The occurrence at a place, null outside the list.
-    [[nodiscard]] virtual core::Ptr<Occurrence> item(std::size_t index) const = 0;
 
     /// The same occurrences as a plain list.
     [[nodiscard]] virtual core::Ptr<OccurrenceList> asList() const = 0;

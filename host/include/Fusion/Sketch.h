@@ -1,8 +1,6 @@
 #pragma once
 
-#include <Core/Base.h>
-
-#include <cstddef>
+#include <Core/Collection.h>
 
 namespace adsk::fusion {
 
@@ -39,14 +37,9 @@ public:
 };
 
 /// All curves of a sketch.
-class SketchCurves : public core::Base {
+class SketchCurves : public core::CollectionOf<SketchCurve> {
 public:
     static const char* classType();
-
-    [[nodiscard]] virtual std::size_t count() const = 0;
-
-    /// The curve at a place, null outside the list.
-    [[nodiscard]] virtual core::Ptr<SketchCurve> item(std::size_t index) const = 0;
 };
 
 }  // namespace adsk::fusion

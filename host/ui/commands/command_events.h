@@ -110,16 +110,10 @@ private:
     bool cancelled_ = false;
 };
 
-using CreatedEvent = TypedEvent<core::CommandCreatedEvent, core::CommandCreatedEventHandler,
-                                core::CommandCreatedEventArgs>;
-using CommandEvent =
-    TypedEvent<core::CommandEvent, core::CommandEventHandler, core::CommandEventArgs>;
-using ChangedEvent = TypedEvent<core::InputChangedEvent, core::InputChangedEventHandler,
-                                core::InputChangedEventArgs>;
-using ValidateEvent = TypedEvent<core::ValidateInputsEvent, core::ValidateInputsEventHandler,
-                                 core::ValidateInputsEventArgs>;
-using ApplicationEvent =
-    TypedEvent<core::ApplicationCommandEvent, core::ApplicationCommandEventHandler,
-               core::ApplicationCommandEventArgs>;
+using CreatedEvent = TypedEvent<core::CommandCreatedEvent>;
+using CommandEvent = TypedEvent<core::CommandEvent>;
+using ChangedEvent = TypedEvent<core::InputChangedEvent>;
+using ValidateEvent = TypedEvent<core::ValidateInputsEvent>;
+using ApplicationEvent = TypedEvent<core::ApplicationCommandEvent>;
 
 }  // namespace host::ui

@@ -49,7 +49,6 @@ private:
     std::vector<core::Ptr<core::Base>> selected_;
 };
 
-using MarkingMenuEvent =
-    TypedEvent<core::MarkingMenuEvent, core::MarkingMenuEventHandler, core::MarkingMenuEventArgs>;
+using MarkingMenuEvent = TypedEvent<core::MarkingMenuEvent>;
 
 }  // namespace host::ui

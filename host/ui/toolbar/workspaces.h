@@ -89,7 +89,6 @@ private:
     core::Ptr<core::Workspace> workspace_;
 };
 
-using WorkspaceEvent =
-    TypedEvent<core::WorkspaceEvent, core::WorkspaceEventHandler, core::WorkspaceEventArgs>;
+using WorkspaceEvent = TypedEvent<core::WorkspaceEvent>;
 
 }  // namespace host::ui

@@ -9,24 +9,15 @@
 namespace host {
 namespace {
 
-using adsk::core::EventHandler;
 using adsk::core::Ptr;
 
 /// An event of the tests' own, as the public API would declare it.
 class PingArgs : public adsk::core::EventArgs {};
 
-class PingHandler : public EventHandler {
-public:
-    virtual void notify(const Ptr<PingArgs>& eventArgs) = 0;
-};
+class PingHandler : public adsk::core::EventHandlerOf<PingArgs> {};
+class Ping : public adsk::core::EventOf<PingHandler> {};
 
-class Ping : public adsk::core::Event {
-public:
-    virtual bool add(PingHandler* handler) = 0;
-    virtual bool remove(PingHandler* handler) = 0;
-};
-
-using PingEvent = TypedEvent<Ping, PingHandler, PingArgs>;
+using PingEvent = TypedEvent<Ping>;
 
 class Counting final : public PingHandler {
 public:
