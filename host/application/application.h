@@ -2,7 +2,7 @@
 
 #include "host/application/documents.h"
 #include "host/application/import_manager.h"
-#include "host/base/misuse.h"
+#include "host/base/object.h"
 #include "host/design/design_data.h"
 #include "host/ui/dialogs/messages.h"
 #include "host/ui/host_setup.h"

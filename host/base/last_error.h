@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Core/Enums.h>
+
 #include <string>
 
 namespace host {

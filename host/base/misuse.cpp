@@ -26,7 +26,7 @@ bool misuse(const std::string& operation, const std::string& text) {
 bool misuseOfDeleted(const char* operation, const char* type) {
     misuse(operation, std::string("called on a deleted ") + type);
     fail(adsk::core::UnderlyingObjectDeletedError,
-         std::string(operation) + ": the " + type + " was deleted");
+         std::string(operation) + ": the " + type + " was deleted or closed");
     return true;
 }
 

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "host/base/object.h"
-
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-/// What a module, or whoever plays the person, does wrong.
+/// What a module, or the caller who plays the user, does wrong.
 ///
 /// A module's misuse is what the host would punish or leave undefined: a call on a deleted object,
 /// an id used twice for a tab, a call at a wrong time. The call fails as it would in the host, and
-/// is listed here. A person's is an action that the screen does not offer; it throws.
+/// is listed here. A user's is an action that the screen does not offer; it throws.
 namespace host {
 
 /// A call that a module should not have made.
@@ -28,21 +26,14 @@ void clearMisuses();
 /// Lists a misuse and makes it the last error; always false, for `return misuse(...)`.
 bool misuse(const std::string& operation, const std::string& text);
 
-/// Lists a call on a deleted object; always true.
+/// Lists a call on a deleted object, with `UnderlyingObjectDeletedError` as the last error; always
+/// true.
 bool misuseOfDeleted(const char* operation, const char* type);
 
-/// An action that a person cannot do as the screen stands. The text names what is in the way.
+/// An action that the user cannot do with what is on the screen. The text names what prevents it.
 class MisuseError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
-
-/// Passes the gate and looks whether the object still stands. True when the operation has to return
-/// nothing: the call is refused, or the object was deleted.
-template <CallName Name, class Interface>
-bool closed(const Object<Interface>& object) {
-    if (refused<Name>()) return true;
-    return !object.Object<Interface>::isValid() && misuseOfDeleted(Name.text, object.objectType());
-}
 
 }  // namespace host

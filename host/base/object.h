@@ -1,16 +1,54 @@
 #pragma once
 
+#include "host/base/api_names.h"
 #include "host/base/gate.h"
+#include "host/base/misuse.h"
 
 #include <Core/Base.h>
 
+#include <type_traits>
+#include <utility>
+
+/// The dialect in which the host implements the public API.
+///
+/// `XObject` implements the interface `X`: it derives from `Object<X>`, is made with `make`, and is
+/// held through `core::Ptr`. `core` and `fusion` are the API's namespaces.
+///
+/// Every operation first passes the gate under the name of the interface that declares it. Where it
+/// only reads or sets a value, that is one line of the header:
+///
+///     [[nodiscard]] std::string name() const override { return get<"Sketch::name">(name_); }
+///     bool name(const std::string& value) override { return set<"Sketch::name">(name_, value); }
+///
+/// Where it does more, it begins with
+///
+///     if (closed<"Sketch::deleteMe">(*this)) return {};
+///
+/// and returns nothing when the call is refused, or when the object was deleted, which is listed as
+/// a misuse. Objects of a closed document count as deleted. `refused` is for functions that are
+/// called on no object, such as `Point3D::create`.
+///
+/// The host itself passes no gate: it reads an object's own data through `state()` or through plain
+/// accessors of the implementation, and deletes an object with `dispose()`. That cuts the object
+/// off from everything it refers to, disposes of what it owns, and ends with `invalidate()`. A
+/// module may keep its handle for ever; it finds an object that is not valid.
 namespace host {
+
+template <class Interface>
+class Object;
+
+/// Passes the gate and looks whether the object is valid. True when the operation has to return
+/// nothing: the call is refused, or the object was deleted.
+template <CallName Name, class Interface>
+bool closed(const Object<Interface>& object) {
+    if (refused<Name>()) return true;
+    return !object.Object<Interface>::isValid() && misuseOfDeleted(Name.text, object.objectType());
+}
 
 /// What every class of the stand-in derives from: an interface of the public API with its counted
 /// references and its validity.
 ///
-/// Objects are made with `make` and held through `adsk::core::Ptr`. The host is single-threaded,
-/// and so is the count.
+/// The host is single-threaded, and so is the count.
 template <class Interface>
 class Object : public Interface {
 public:
@@ -31,6 +69,23 @@ protected:
     Object() = default;
     ~Object() override = default;
 
+    /// Reads a value as the operation `Name`: an empty one when the call is refused or the object
+    /// was deleted. A class template has to write `this->template get<...>(...)`.
+    template <CallName Name, class T>
+    [[nodiscard]] T get(const T& value) const {
+        if (closed<Name>(*this)) return {};
+        return value;
+    }
+
+    /// Sets a value as the operation `Name`; false, with nothing changed, when the call is refused
+    /// or the object was deleted.
+    template <CallName Name, class T>
+    bool set(T& member, const std::type_identity_t<T>& value) {
+        if (closed<Name>(*this)) return false;
+        member = value;
+        return true;
+    }
+
 private:
     mutable unsigned references_ = 0;
     bool valid_ = true;
@@ -38,8 +93,8 @@ private:
 
 /// Makes an object of the stand-in; the handle is its first reference.
 template <class T, class... Arguments>
-adsk::core::Ptr<T> make(Arguments&&... arguments) {
-    return adsk::core::Ptr<T>(new T(std::forward<Arguments>(arguments)...));
+core::Ptr<T> make(Arguments&&... arguments) {
+    return core::Ptr<T>(new T(std::forward<Arguments>(arguments)...));
 }
 
 }  // namespace host

@@ -1,9 +1,9 @@
 #include "host/cloud/data_file.h"
 
+#include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/cloud/data_folder.h"
 #include "host/cloud/data_project.h"
-#include "host/design/denied.h"
 #include "host/design/document.h"
 
 #include <utility>
@@ -31,27 +31,27 @@ DataFileObject::DataFileObject(DataFolderObject& folder, const std::filesystem::
     : folder_(&folder), path_(path), name_(titleOf(path)), id_(std::move(id)) {}
 
 std::string DataFileObject::id() const {
-    if (denied<"DataFile::id">(*this)) return {};
+    if (closed<"DataFile::id">(*this)) return {};
     return id_;
 }
 
 std::string DataFileObject::name() const {
-    if (denied<"DataFile::name">(*this)) return {};
+    if (closed<"DataFile::name">(*this)) return {};
     return name_;
 }
 
 bool DataFileObject::name(const std::string& /*value*/) {
-    if (denied<"DataFile::name">(*this)) return {};
+    if (closed<"DataFile::name">(*this)) return {};
     return notImplemented("DataFile::name: to rename a file");
 }
 
 Ptr<DataFolder> DataFileObject::parentFolder() const {
-    if (denied<"DataFile::parentFolder">(*this)) return {};
+    if (closed<"DataFile::parentFolder">(*this)) return {};
     return Ptr<DataFolder>(folder_);
 }
 
 Ptr<DataProject> DataFileObject::parentProject() const {
-    if (denied<"DataFile::parentProject">(*this)) return {};
+    if (closed<"DataFile::parentProject">(*this)) return {};
     return Ptr<DataProject>(&folder_->project());
 }
 

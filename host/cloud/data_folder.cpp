@@ -1,10 +1,10 @@
 #include "host/cloud/data_folder.h"
 
+#include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/cloud/data_lists.h"
 #include "host/cloud/data_project.h"
 #include "host/cloud/upload.h"
-#include "host/design/denied.h"
 
 #include <set>
 #include <system_error>
@@ -76,34 +76,34 @@ DataFolderObject::DataFolderObject(DataProjectObject& project, DataFolderObject*
     : project_(&project), parent_(parent), path_(std::move(path)) {}
 
 std::string DataFolderObject::name() const {
-    if (denied<"DataFolder::name">(*this)) return {};
+    if (closed<"DataFolder::name">(*this)) return {};
     return toUtf8(path_.filename());
 }
 
 bool DataFolderObject::name(const std::string& /*value*/) {
-    if (denied<"DataFolder::name">(*this)) return {};
+    if (closed<"DataFolder::name">(*this)) return {};
     return notImplemented("DataFolder::name: to rename a folder");
 }
 
 bool DataFolderObject::isRoot() const {
-    if (denied<"DataFolder::isRoot">(*this)) return {};
+    if (closed<"DataFolder::isRoot">(*this)) return {};
     return parent_ == nullptr;
 }
 
 Ptr<DataFolder> DataFolderObject::parentFolder() const {
-    if (denied<"DataFolder::parentFolder">(*this)) return {};
+    if (closed<"DataFolder::parentFolder">(*this)) return {};
     return Ptr<DataFolder>(parent_);
 }
 
 // The API's getters are const, and the disk is looked at all the same.
 Ptr<DataFolders> DataFolderObject::dataFolders() const {
-    if (denied<"DataFolder::dataFolders">(*this)) return {};
+    if (closed<"DataFolder::dataFolders">(*this)) return {};
     const_cast<DataFolderObject*>(this)->refresh();
     return make<DataFoldersObject>(valuesOf<DataFolder>(folders_));
 }
 
 Ptr<DataFiles> DataFolderObject::dataFiles() const {
-    if (denied<"DataFolder::dataFiles">(*this)) return {};
+    if (closed<"DataFolder::dataFiles">(*this)) return {};
     const_cast<DataFolderObject*>(this)->refresh();
     isListed_ = true;
     for (const auto& [name, each] : files_) {
@@ -113,7 +113,7 @@ Ptr<DataFiles> DataFolderObject::dataFiles() const {
 }
 
 Ptr<DataFileFuture> DataFolderObject::uploadFile(const std::string& filename) {
-    if (denied<"DataFolder::uploadFile">(*this)) return {};
+    if (closed<"DataFolder::uploadFile">(*this)) return {};
     return beginUpload(Ptr<DataFolderObject>(this), filename);
 }
 

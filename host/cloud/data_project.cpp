@@ -1,7 +1,7 @@
 #include "host/cloud/data_project.h"
 
+#include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
-#include "host/design/denied.h"
 
 #include <algorithm>
 
@@ -15,22 +15,22 @@ DataProjectObject::DataProjectObject(const std::filesystem::path& folder)
     : name_(toUtf8(folder.filename())), root_(make<DataFolderObject>(*this, nullptr, folder)) {}
 
 std::string DataProjectObject::id() const {
-    if (denied<"DataProject::id">(*this)) return {};
+    if (closed<"DataProject::id">(*this)) return {};
     return "urn:standin:project:" + name_;
 }
 
 std::string DataProjectObject::name() const {
-    if (denied<"DataProject::name">(*this)) return {};
+    if (closed<"DataProject::name">(*this)) return {};
     return name_;
 }
 
 bool DataProjectObject::name(const std::string& /*value*/) {
-    if (denied<"DataProject::name">(*this)) return {};
+    if (closed<"DataProject::name">(*this)) return {};
     return notImplemented("DataProject::name: to rename a project");
 }
 
 Ptr<DataFolder> DataProjectObject::rootFolder() const {
-    if (denied<"DataProject::rootFolder">(*this)) return {};
+    if (closed<"DataProject::rootFolder">(*this)) return {};
     return root_;
 }
 
@@ -46,12 +46,12 @@ void DataProjectObject::close() {
 }
 
 Ptr<DataProject> DataObject::activeProject() const {
-    if (denied<"Data::activeProject">(*this)) return {};
+    if (closed<"Data::activeProject">(*this)) return {};
     return active_;
 }
 
 bool DataObject::activeProject(const Ptr<DataProject>& value) {
-    if (denied<"Data::activeProject">(*this)) return {};
+    if (closed<"Data::activeProject">(*this)) return {};
     const auto found =
         std::find_if(projects_.begin(), projects_.end(),
                      [&value](const Ptr<DataProjectObject>& each) { return each == value; });

@@ -4,7 +4,6 @@
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/cloud/storage_pace.h"
-#include "host/design/denied.h"
 #include "host/import/found_file.h"
 
 #include <exception>
@@ -58,12 +57,12 @@ std::function<void()> endOf(const Ptr<UploadObject>& upload, const std::string& 
 }  // namespace
 
 UploadStates UploadObject::uploadState() const {
-    if (denied<"DataFileFuture::uploadState">(*this)) return {};
+    if (closed<"DataFileFuture::uploadState">(*this)) return {};
     return state_;
 }
 
 Ptr<DataFile> UploadObject::dataFile() const {
-    if (denied<"DataFileFuture::dataFile">(*this)) return {};
+    if (closed<"DataFileFuture::dataFile">(*this)) return {};
     return file_;
 }
 

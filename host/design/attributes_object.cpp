@@ -1,6 +1,6 @@
 #include "host/design/attributes_object.h"
 
-#include "host/design/denied.h"
+#include "host/base/last_error.h"
 
 #include <string_view>
 #include <unordered_set>
@@ -31,22 +31,22 @@ AttributeObject::AttributeObject(AttributesObject& owner, AttributeData data)
     : owner_(&owner), data_(std::move(data)) {}
 
 std::string AttributeObject::groupName() const {
-    if (denied<"Attribute::groupName">(*this)) return {};
+    if (closed<"Attribute::groupName">(*this)) return {};
     return data_.group;
 }
 
 std::string AttributeObject::name() const {
-    if (denied<"Attribute::name">(*this)) return {};
+    if (closed<"Attribute::name">(*this)) return {};
     return data_.name;
 }
 
 std::string AttributeObject::value() const {
-    if (denied<"Attribute::value">(*this)) return {};
+    if (closed<"Attribute::value">(*this)) return {};
     return data_.value;
 }
 
 bool AttributeObject::value(const std::string& value) {
-    if (denied<"Attribute::value">(*this)) return {};
+    if (closed<"Attribute::value">(*this)) return {};
     return setValue(value);
 }
 
@@ -60,12 +60,12 @@ bool AttributeObject::setValue(const std::string& value) {
 }
 
 Ptr<Base> AttributeObject::parent() const {
-    if (denied<"Attribute::parent">(*this)) return {};
+    if (closed<"Attribute::parent">(*this)) return {};
     return owner_->parentObject();
 }
 
 bool AttributeObject::deleteMe() {
-    if (denied<"Attribute::deleteMe">(*this)) return {};
+    if (closed<"Attribute::deleteMe">(*this)) return {};
     owner_->take(*this);
     return true;
 }
@@ -85,23 +85,23 @@ AttributesObject::AttributesObject(Base& parent, Edits& edits, std::vector<Attri
 }
 
 std::size_t AttributesObject::count() const {
-    if (denied<"Attributes::count">(*this)) return {};
+    if (closed<"Attributes::count">(*this)) return {};
     return items_.size();
 }
 
 Ptr<Attribute> AttributesObject::item(std::size_t index) const {
-    if (denied<"Attributes::item">(*this) || index >= items_.size()) return {};
+    if (closed<"Attributes::item">(*this) || index >= items_.size()) return {};
     return items_[index];
 }
 
 Ptr<Attribute> AttributesObject::itemByName(const std::string& groupName,
                                             const std::string& name) const {
-    if (denied<"Attributes::itemByName">(*this)) return {};
+    if (closed<"Attributes::itemByName">(*this)) return {};
     return find(groupName, name);
 }
 
 std::vector<Ptr<Attribute>> AttributesObject::itemsByGroup(const std::string& groupName) const {
-    if (denied<"Attributes::itemsByGroup">(*this)) return {};
+    if (closed<"Attributes::itemsByGroup">(*this)) return {};
     std::vector<Ptr<Attribute>> found;
     found.reserve(items_.size());
     for (const Ptr<AttributeObject>& each : items_) {
@@ -113,7 +113,7 @@ std::vector<Ptr<Attribute>> AttributesObject::itemsByGroup(const std::string& gr
 }
 
 std::vector<std::string> AttributesObject::groupNames() const {
-    if (denied<"Attributes::groupNames">(*this)) return {};
+    if (closed<"Attributes::groupNames">(*this)) return {};
     std::vector<std::string> names;
     std::unordered_set<std::string_view> seen;
     for (const Ptr<AttributeObject>& each : items_) {
@@ -126,7 +126,7 @@ std::vector<std::string> AttributesObject::groupNames() const {
 
 Ptr<Attribute> AttributesObject::add(const std::string& groupName, const std::string& name,
                                      const std::string& value) {
-    if (denied<"Attributes::add">(*this)) return {};
+    if (closed<"Attributes::add">(*this)) return {};
     if (groupName.empty() || name.empty()) {
         fail(adsk::core::BadApiCallError, "an attribute needs a group and a name");
         return {};

@@ -1,6 +1,6 @@
 #include "host/design/component_object.h"
 
-#include "host/design/denied.h"
+#include "host/base/last_error.h"
 #include "host/design/design_object.h"
 #include "host/design/geometry_objects.h"
 #include "host/design/model.h"
@@ -32,12 +32,12 @@ ComponentObject::ComponentObject(Model& model, std::size_t index, ComponentData 
 }
 
 std::string ComponentObject::name() const {
-    if (denied<"Component::name">(*this)) return {};
+    if (closed<"Component::name">(*this)) return {};
     return data_.name;
 }
 
 bool ComponentObject::name(const std::string& value) {
-    if (denied<"Component::name">(*this)) return {};
+    if (closed<"Component::name">(*this)) return {};
     if (isRoot()) {
         return fail(adsk::core::OperationFailed,
                     "the root component is called like its document and cannot be named");
@@ -59,12 +59,12 @@ void ComponentObject::rename(const std::string& name) {
 }
 
 std::string ComponentObject::partNumber() const {
-    if (denied<"Component::partNumber">(*this)) return {};
+    if (closed<"Component::partNumber">(*this)) return {};
     return data_.partNumber;
 }
 
 bool ComponentObject::partNumber(const std::string& value) {
-    if (denied<"Component::partNumber">(*this)) return {};
+    if (closed<"Component::partNumber">(*this)) return {};
     data_.partNumber = value;
     data_.hasExplicitPartNumber = true;
     ++model_->edits.all;
@@ -72,19 +72,19 @@ bool ComponentObject::partNumber(const std::string& value) {
 }
 
 std::string ComponentObject::description() const {
-    if (denied<"Component::description">(*this)) return {};
+    if (closed<"Component::description">(*this)) return {};
     return data_.description;
 }
 
 bool ComponentObject::description(const std::string& value) {
-    if (denied<"Component::description">(*this)) return {};
+    if (closed<"Component::description">(*this)) return {};
     data_.description = value;
     ++model_->edits.all;
     return true;
 }
 
 Ptr<Attributes> ComponentObject::attributes() const {
-    if (denied<"Component::attributes">(*this)) return {};
+    if (closed<"Component::attributes">(*this)) return {};
     if (!attributes_) {
         attributes_ = make<AttributesObject>(self(), model_->edits,
                                              std::exchange(self().data_.attributes, {}));
@@ -93,7 +93,7 @@ Ptr<Attributes> ComponentObject::attributes() const {
 }
 
 Ptr<Occurrences> ComponentObject::occurrences() const {
-    if (denied<"Component::occurrences">(*this)) return {};
+    if (closed<"Component::occurrences">(*this)) return {};
     if (!occurrences_) {
         occurrences_ = make<OccurrencesObject>(self());
     }
@@ -101,33 +101,33 @@ Ptr<Occurrences> ComponentObject::occurrences() const {
 }
 
 Ptr<Design> ComponentObject::parentDesign() const {
-    if (denied<"Component::parentDesign">(*this)) return {};
+    if (closed<"Component::parentDesign">(*this)) return {};
     return design_;
 }
 
 Ptr<PhysicalProperties> ComponentObject::getPhysicalProperties(
     CalculationAccuracy /*accuracy*/) const {
-    if (denied<"Component::getPhysicalProperties">(*this)) return {};
+    if (closed<"Component::getPhysicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(self()));
 }
 
 Ptr<PhysicalProperties> ComponentObject::physicalProperties() const {
-    if (denied<"Component::physicalProperties">(*this)) return {};
+    if (closed<"Component::physicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(self()));
 }
 
 Ptr<BoundingBox3D> ComponentObject::boundingBox() const {
-    if (denied<"Component::boundingBox">(*this)) return {};
+    if (closed<"Component::boundingBox">(*this)) return {};
     return makeBoundingBox(boxOf(self()).value_or(Box()));
 }
 
 Ptr<Material> ComponentObject::material() const {
-    if (denied<"Component::material">(*this)) return {};
+    if (closed<"Component::material">(*this)) return {};
     return material_;
 }
 
 bool ComponentObject::material(const Ptr<Material>& value) {
-    if (denied<"Component::material">(*this)) return {};
+    if (closed<"Component::material">(*this)) return {};
     auto* material = dynamic_cast<MaterialObject*>(value.get());
     if (material == nullptr) {
         return fail(adsk::core::BadApiCallError, "a material is needed");
@@ -143,7 +143,7 @@ bool ComponentObject::material(const Ptr<Material>& value) {
 bool ComponentObject::transformOccurrences(const std::vector<Ptr<Occurrence>>& occurrences,
                                            const std::vector<Ptr<Matrix3D>>& transforms,
                                            bool /*ignoreJoints*/) {
-    if (denied<"Component::transformOccurrences">(*this)) return {};
+    if (closed<"Component::transformOccurrences">(*this)) return {};
     if (!isRoot()) {
         return fail(adsk::core::BadApiCallError, "only the root component places occurrences");
     }

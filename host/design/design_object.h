@@ -3,7 +3,6 @@
 #include "host/base/object.h"
 #include "host/design/attributes_object.h"
 #include "host/design/component_object.h"
-#include "host/design/denied.h"
 #include "host/design/edits.h"
 
 #include <Core/Product.h>
@@ -25,17 +24,17 @@ public:
           attributes_(make<AttributesObject>(*this, edits, std::move(attributes))) {}
 
     [[nodiscard]] adsk::core::Ptr<adsk::core::Document> parentDocument() const override {
-        if (denied<"Product::parentDocument">(*this)) return {};
+        if (closed<"Product::parentDocument">(*this)) return {};
         return document_;
     }
 
     [[nodiscard]] std::string productType() const override {
-        if (denied<"Product::productType">(*this)) return {};
+        if (closed<"Product::productType">(*this)) return {};
         return type_;
     }
 
     [[nodiscard]] adsk::core::Ptr<adsk::core::Attributes> attributes() const override {
-        if (denied<"Product::attributes">(*this)) return {};
+        if (closed<"Product::attributes">(*this)) return {};
         return attributes_;
     }
 
@@ -62,7 +61,7 @@ public:
           root_(&root) {}
 
     [[nodiscard]] adsk::core::Ptr<adsk::fusion::Component> rootComponent() const override {
-        if (denied<"Design::rootComponent">(*this)) return {};
+        if (closed<"Design::rootComponent">(*this)) return {};
         return root_;
     }
 

@@ -1,6 +1,6 @@
 #include "host/design/document_object.h"
 
-#include "host/design/denied.h"
+#include "host/base/last_error.h"
 
 #include <unordered_map>
 #include <utility>
@@ -47,22 +47,22 @@ void DocumentObject::openReferences() {
 }
 
 Ptr<DataFile> DocumentObject::dataFile() const {
-    if (denied<"Document::dataFile">(*this)) return {};
+    if (closed<"Document::dataFile">(*this)) return {};
     return dataFile_;
 }
 
 Ptr<Application> DocumentObject::parent() const {
-    if (denied<"Document::parent">(*this)) return {};
+    if (closed<"Document::parent">(*this)) return {};
     return parent_;
 }
 
 std::string DocumentObject::name() const {
-    if (denied<"Document::name">(*this)) return {};
+    if (closed<"Document::name">(*this)) return {};
     return name_;
 }
 
 bool DocumentObject::name(const std::string& value) {
-    if (denied<"Document::name">(*this)) return {};
+    if (closed<"Document::name">(*this)) return {};
     if (value.empty() || model_ == nullptr) {
         return fail(adsk::core::BadApiCallError,
                     "a document needs a name, and one that is only referred to keeps its own");
@@ -73,7 +73,7 @@ bool DocumentObject::name(const std::string& value) {
 }
 
 bool DocumentObject::isSaved() const {
-    if (denied<"Document::isSaved">(*this)) return {};
+    if (closed<"Document::isSaved">(*this)) return {};
     return dataFile_ != nullptr;
 }
 

@@ -1,7 +1,5 @@
 #include "host/design/material_object.h"
 
-#include "host/design/denied.h"
-
 #include <algorithm>
 
 using adsk::core::Ptr;
@@ -9,12 +7,12 @@ using adsk::core::Ptr;
 namespace host {
 
 std::string MaterialObject::name() const {
-    if (denied<"Material::name">(*this)) return {};
+    if (closed<"Material::name">(*this)) return {};
     return data_.name;
 }
 
 bool MaterialObject::name(const std::string& value) {
-    if (denied<"Material::name">(*this)) return {};
+    if (closed<"Material::name">(*this)) return {};
     data_.name = value;
     ++edits_->all;
     return true;

@@ -1,7 +1,6 @@
 #include "host/design/occurrence_object.h"
 
 #include "host/design/component_object.h"
-#include "host/design/denied.h"
 #include "host/design/model.h"
 #include "host/design/physical_properties_object.h"
 #include "host/design/transform.h"
@@ -28,12 +27,12 @@ OccurrenceObject::OccurrenceObject(OccurrenceListObject& list, OccurrenceData& p
     : component_(&list.owner()->childComponent(place)), place_(&place), list_(&list) {}
 
 Ptr<Component> OccurrenceObject::component() const {
-    if (denied<"Occurrence::component">(*this)) return {};
+    if (closed<"Occurrence::component">(*this)) return {};
     return component_;
 }
 
 Ptr<OccurrenceList> OccurrenceObject::childOccurrences() const {
-    if (denied<"Occurrence::childOccurrences">(*this)) return {};
+    if (closed<"Occurrence::childOccurrences">(*this)) return {};
     if (!children_) {
         children_ =
             component_->data().children.empty()
@@ -44,7 +43,7 @@ Ptr<OccurrenceList> OccurrenceObject::childOccurrences() const {
 }
 
 std::string OccurrenceObject::name() const {
-    if (denied<"Occurrence::name">(*this)) return {};
+    if (closed<"Occurrence::name">(*this)) return {};
     return currentName();
 }
 
@@ -55,7 +54,7 @@ std::string OccurrenceObject::currentName() const {
 }
 
 std::string OccurrenceObject::fullPathName() const {
-    if (denied<"Occurrence::fullPathName">(*this)) return {};
+    if (closed<"Occurrence::fullPathName">(*this)) return {};
     std::size_t length = 0;
     std::size_t levels = 0;
     for (const OccurrenceObject* each = this; each != nullptr; each = each->parent()) {
@@ -93,24 +92,24 @@ void OccurrenceObject::appendName(std::string& text) const {
 }
 
 bool OccurrenceObject::isGrounded() const {
-    if (denied<"Occurrence::isGrounded">(*this)) return {};
+    if (closed<"Occurrence::isGrounded">(*this)) return {};
     return place_->grounded;
 }
 
 bool OccurrenceObject::isGrounded(bool value) {
-    if (denied<"Occurrence::isGrounded">(*this)) return {};
+    if (closed<"Occurrence::isGrounded">(*this)) return {};
     place_->grounded = value;
     ++component_->model().edits.all;
     return true;
 }
 
 bool OccurrenceObject::isReferencedComponent() const {
-    if (denied<"Occurrence::isReferencedComponent">(*this)) return {};
+    if (closed<"Occurrence::isReferencedComponent">(*this)) return {};
     return component_->data().document != list_->owner()->data().document;
 }
 
 Ptr<PhysicalProperties> OccurrenceObject::physicalProperties() const {
-    if (denied<"Occurrence::physicalProperties">(*this)) return {};
+    if (closed<"Occurrence::physicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(*component_));
 }
 
@@ -160,12 +159,12 @@ OccurrenceListObject::OccurrenceListObject(ComponentObject* owner, OccurrenceObj
       items_(owner == nullptr ? 0 : owner->data().children.size()) {}
 
 std::size_t OccurrenceListObject::count() const {
-    if (denied<"OccurrenceList::count">(*this)) return {};
+    if (closed<"OccurrenceList::count">(*this)) return {};
     return items_.size();
 }
 
 Ptr<Occurrence> OccurrenceListObject::item(std::size_t index) const {
-    if (denied<"OccurrenceList::item">(*this)) return {};
+    if (closed<"OccurrenceList::item">(*this)) return {};
     return at(index);
 }
 
@@ -182,7 +181,7 @@ Ptr<Occurrence> OccurrenceListObject::at(std::size_t index) const {
 }
 
 Ptr<Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
-    if (denied<"OccurrenceList::itemByName">(*this)) return {};
+    if (closed<"OccurrenceList::itemByName">(*this)) return {};
     for (std::size_t index = 0; index < items_.size(); ++index) {
         Ptr<OccurrenceObject> each = at(index);
         if (each && each->currentName() == name) {
@@ -208,17 +207,17 @@ OccurrencesObject::OccurrencesObject(ComponentObject& owner)
     : list_(make<OccurrenceListObject>(&owner, nullptr)) {}
 
 std::size_t OccurrencesObject::count() const {
-    if (denied<"Occurrences::count">(*this)) return {};
+    if (closed<"Occurrences::count">(*this)) return {};
     return list_->size();
 }
 
 Ptr<Occurrence> OccurrencesObject::item(std::size_t index) const {
-    if (denied<"Occurrences::item">(*this)) return {};
+    if (closed<"Occurrences::item">(*this)) return {};
     return list_->at(index);
 }
 
 Ptr<OccurrenceList> OccurrencesObject::asList() const {
-    if (denied<"Occurrences::asList">(*this)) return {};
+    if (closed<"Occurrences::asList">(*this)) return {};
     return list_;
 }
 

@@ -1,6 +1,6 @@
 #include "host/design/sketch_object.h"
 
-#include "host/design/denied.h"
+#include "host/base/last_error.h"
 
 using adsk::core::Ptr;
 using adsk::fusion::SketchCurve;
@@ -9,12 +9,12 @@ using adsk::fusion::SketchCurves;
 namespace host {
 
 bool SketchCurveObject::isReference() const {
-    if (denied<"SketchEntity::isReference">(*this)) return {};
+    if (closed<"SketchEntity::isReference">(*this)) return {};
     return data_.reference;
 }
 
 bool SketchCurveObject::isReference(bool value) {
-    if (denied<"SketchEntity::isReference">(*this)) return {};
+    if (closed<"SketchEntity::isReference">(*this)) return {};
     if (value && !data_.reference) {
         return fail(adsk::core::BadApiCallError, "a drawn curve cannot be made a projected one");
     }
@@ -24,12 +24,12 @@ bool SketchCurveObject::isReference(bool value) {
 }
 
 bool SketchCurveObject::isConstruction() const {
-    if (denied<"SketchCurve::isConstruction">(*this)) return {};
+    if (closed<"SketchCurve::isConstruction">(*this)) return {};
     return data_.construction;
 }
 
 bool SketchCurveObject::isConstruction(bool value) {
-    if (denied<"SketchCurve::isConstruction">(*this)) return {};
+    if (closed<"SketchCurve::isConstruction">(*this)) return {};
     data_.construction = value;
     ++edits_->all;
     return true;
@@ -43,12 +43,12 @@ SketchCurvesObject::SketchCurvesObject(Edits& edits, const std::vector<SketchCur
 }
 
 std::size_t SketchCurvesObject::count() const {
-    if (denied<"SketchCurves::count">(*this)) return {};
+    if (closed<"SketchCurves::count">(*this)) return {};
     return items_.size();
 }
 
 Ptr<SketchCurve> SketchCurvesObject::item(std::size_t index) const {
-    if (denied<"SketchCurves::item">(*this) || index >= items_.size()) return {};
+    if (closed<"SketchCurves::item">(*this) || index >= items_.size()) return {};
     return items_[index];
 }
 
@@ -73,7 +73,7 @@ SketchObject::SketchObject(Edits& edits, const SketchData& data)
     : name_(data.name), curves_(make<SketchCurvesObject>(edits, data.curves)) {}
 
 Ptr<SketchCurves> SketchObject::sketchCurves() const {
-    if (denied<"Sketch::sketchCurves">(*this)) return {};
+    if (closed<"Sketch::sketchCurves">(*this)) return {};
     return curves_;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/base/misuse.h"
+#include "host/base/object.h"
 
 #include <Core/Preferences.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/base/clock.h"
-#include "host/base/misuse.h"
+#include "host/base/object.h"
 
 #include <Core/Dialogs.h>
 

@@ -1,4 +1,5 @@
 #include "host/base/last_error.h"
+#include "host/base/misuse.h"
 #include "host/base/object.h"
 #include "host/design/design_check.h"
 #include "tests/host/design/design_fixture.h"
@@ -195,7 +196,34 @@ TEST_F(DocumentTest, HandlesOutliveTheDocumentAndReturnNothing) {
     EXPECT_EQ(sketch->sketchCurves(), nullptr);
     EXPECT_EQ(lastError().code, adsk::core::UnderlyingObjectDeletedError);
     EXPECT_EQ(lastError().description,
-              "Sketch::sketchCurves: what it is asked of has been deleted or closed");
+              "Sketch::sketchCurves: the adsk::fusion::Sketch was deleted or closed");
+}
+
+TEST_F(DocumentTest, CallOnAnObjectOfAClosedDocumentIsListedAsMisuse) {
+    open("Bolt");
+    const Ptr<Component> component = designOf(document)->rootComponent();
+    endDocument(document);
+    clearMisuses();
+
+    component->name();
+
+    EXPECT_EQ(misuses(),
+              (std::vector<Misuse>{{.operation = "Component::name",
+                                    .text = "called on a deleted adsk::fusion::Component"}}));
+}
+
+TEST_F(DocumentTest, CallOnADeletedAttributeIsListedAsMisuse) {
+    open("Bolt");
+    const Ptr<Attribute> attribute =
+        designOf(document)->rootComponent()->attributes()->add("G", "a", "1");
+    attribute->deleteMe();
+    clearMisuses();
+
+    EXPECT_EQ(attribute->value(), "");
+
+    EXPECT_EQ(misuses(),
+              (std::vector<Misuse>{{.operation = "Attribute::value",
+                                    .text = "called on a deleted adsk::core::Attribute"}}));
 }
 
 TEST_F(DocumentTest, HostFindsNothingOfAnEndedDocument) {

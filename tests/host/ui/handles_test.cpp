@@ -86,7 +86,7 @@ TEST_F(Handles, OfEventsEndWithWhatFiresThem) {
 
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
     EXPECT_EQ(lastError().description,
-              "Event::add: the adsk::core::ApplicationCommandEvent was deleted");
+              "Event::add: the adsk::core::ApplicationCommandEvent was deleted or closed");
 }
 
 TEST_F(Handles, AHandlerThatGoesIsCalledNoMore) {
