@@ -32,7 +32,7 @@ constexpr const char* kDesignType = "DesignProductType";
 }  // namespace
 
 Application::Application(const HostSetup& setup)
-    : ui_(make<ui::UserInterface>(setup)),
+    : ui_(make<ui::UserInterface>(setup, *this)),
       preferences_(make<ui::Preferences>()),
       documents_(make<DocumentsObject>()),
       importManager_(make<ImportManagerObject>()) {}

@@ -4,6 +4,7 @@
 #include "host/application/import_manager.h"
 #include "host/base/object.h"
 #include "host/design/design_data.h"
+#include "host/ui/active_model.h"
 #include "host/ui/dialogs/messages.h"
 #include "host/ui/host_setup.h"
 #include "host/ui/preferences.h"
@@ -23,7 +24,7 @@ namespace host {
 /// The host itself. One runs at a time, from `startHost` to `endHost`.
 ///
 /// Whoever starts it gives it its document and drives it through `hands.h`.
-class Application final : public Object<adsk::core::Application> {
+class Application final : public Object<adsk::core::Application>, public ui::ActiveModel {
 public:
     explicit Application(const HostSetup& setup);
 
@@ -71,11 +72,9 @@ public:
         return document_;
     }
 
-    /// Whether this is the root component of the active document's design.
-    [[nodiscard]] bool isRootComponent(const adsk::core::Ptr<adsk::core::Base>& entity) const;
-
-    /// How often the active document's model was changed.
-    [[nodiscard]] std::uint64_t editsOfModel() const;
+    [[nodiscard]] bool isRootComponent(
+        const adsk::core::Ptr<adsk::core::Base>& entity) const override;
+    [[nodiscard]] std::uint64_t editsOfModel() const override;
 
     [[nodiscard]] ui::UserInterface& ui() const { return *ui_; }
     /// @}

@@ -1,6 +1,5 @@
 #include "host/ui/user_interface.h"
 
-#include "host/application/application.h"
 #include "host/ui/dialogs/file_dialog.h"
 #include "host/ui/dialogs/messages.h"
 #include "host/ui/dialogs/progress_dialog.h"
@@ -11,7 +10,7 @@
 namespace host::ui {
 
 // The names that records show for what a handler threw.
-UserInterface::UserInterface(const HostSetup& setup)
+UserInterface::UserInterface(const HostSetup& setup, const ActiveModel& model)
     : startingEvent(make<ApplicationEvent>("OnCommandStarting", this)),
       createdEvent(make<ApplicationEvent>("OnApplicationCommandCreated", this)),
       terminatedEvent(make<ApplicationEvent>("OnCommandTerminated", this)),
@@ -20,6 +19,7 @@ UserInterface::UserInterface(const HostSetup& setup)
       preDeactivateEvent(make<WorkspaceEvent>("OnWorkspacePreDeactivate", this)),
       deactivatedEvent(make<WorkspaceEvent>("OnWorkspaceDeactivated", this)),
       menuEvent(make<MarkingMenuEvent>("OnMarkingMenuDisplaying", this)),
+      model_(&model),
       runner_(this, setup.codeChanges),
       definitions_(make<CommandDefinitions>(&runner_)),
       workspaces_(make<Workspaces>(this, setup.workspaces)),
@@ -147,9 +147,12 @@ std::string UserInterface::activeCommand() const {
     return runner_.active() ? runner_.active()->definition()->identifier() : "";
 }
 
+bool UserInterface::isRootComponent(const core::Ptr<core::Base>& entity) const {
+    return model_ != nullptr && model_->isRootComponent(entity);
+}
+
 std::uint64_t UserInterface::editsOfModel() const {
-    const core::Ptr<Application> application = Application::current();
-    return application ? application->editsOfModel() : 0;
+    return model_ != nullptr ? model_->editsOfModel() : 0;
 }
 
 void UserInterface::leaveWorkspace() {
@@ -177,6 +180,7 @@ void UserInterface::dispose() {
     palettes_->dispose();
     selections_->list.clear();
     selections_->invalidate();
+    model_ = nullptr;
     invalidate();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/ui/active_model.h"
 #include "host/ui/commands/command_runner.h"
 #include "host/ui/commands/selections.h"
 #include "host/ui/dialogs/palettes.h"
@@ -26,7 +27,8 @@ struct ModelHistory {
 
 class UserInterface final : public Object<core::UserInterface> {
 public:
-    explicit UserInterface(const HostSetup& setup);
+    /// The model has to live until `dispose`.
+    UserInterface(const HostSetup& setup, const ActiveModel& model);
 
     [[nodiscard]] core::Ptr<core::Workspaces> workspaces() const override;
     [[nodiscard]] core::Ptr<core::Workspace> activeWorkspace() const override;
@@ -60,7 +62,10 @@ public:
     [[nodiscard]] Palettes& allPalettes() const { return *palettes_; }
     [[nodiscard]] Selections& selections() const { return *selections_; }
 
-    /// How often the active document's model was changed.
+    /// Whether this is the root component of the active document's design.
+    [[nodiscard]] bool isRootComponent(const core::Ptr<core::Base>& entity) const;
+
+    /// How often the active document's model was changed; 0 once the host has ended.
     [[nodiscard]] std::uint64_t editsOfModel() const;
 
     /// The workspace is about to change: the running command is cancelled.
@@ -86,6 +91,7 @@ public:
 private:
     void createDefaultLayout(const HostSetup& setup);
 
+    const ActiveModel* model_;  ///< null once the host has ended
     CommandRunner runner_;
     core::Ptr<CommandDefinitions> definitions_;
     core::Ptr<Workspaces> workspaces_;

@@ -154,6 +154,12 @@ bool Command::doExecute(bool terminate) {
     return runner_->executeByCode(terminate);
 }
 
+UserInterface& Command::ui() const { return runner_->ui(); }
+
+bool Command::isOpen() const {
+    return shown_ && runner_ != nullptr && runner_->active().get() == this;
+}
+
 InputState* Command::activeTab() const {
     if (activeTab_ != nullptr) return activeTab_;
     const std::vector<InputState*> tabs = inputs_->ofKind(InputKind::Tab);

@@ -13,6 +13,7 @@ namespace host::ui {
 class CommandRunner;
 class SelectionInput;
 class TabInput;
+class UserInterface;
 
 /// A size in pixels; nothing where it is 0 by 0.
 struct DialogSize {
@@ -63,6 +64,9 @@ public:
     /// @name For the host itself
     /// @{
 
+    /// The user interface in which it runs; only until `dispose`.
+    [[nodiscard]] UserInterface& ui() const;
+
     [[nodiscard]] TextPool& texts() { return texts_; }
     [[nodiscard]] std::uint32_t nextSerial() { return ++newestSerial_; }
     [[nodiscard]] std::uint32_t newestSerial() const { return newestSerial_; }
@@ -86,6 +90,9 @@ public:
     /// Whether its dialog stands on the screen.
     [[nodiscard]] bool isShown() const { return shown_; }
     void show() { shown_ = true; }
+
+    /// Whether it is the command that runs and its dialog is on the screen.
+    [[nodiscard]] bool isOpen() const;
 
     /// Whether handlers gave the dialog a size or a text, which an empty dialog shows too.
     [[nodiscard]] bool isDressed() const { return dressed_; }

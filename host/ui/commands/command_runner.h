@@ -31,6 +31,8 @@ public:
     /// The command that runs, null for none.
     [[nodiscard]] const core::Ptr<Command>& active() const { return active_; }
 
+    [[nodiscard]] UserInterface& ui() const { return *ui_; }
+
     /// True inside any event of a command.
     [[nodiscard]] bool inCommandEvent() const { return notifying_ > 0; }
 

@@ -1,6 +1,6 @@
 #include "host/ui/inputs/reachability.h"
 
-#include "host/application/application.h"
+#include "host/ui/commands/command.h"
 #include "host/ui/inputs/container_inputs.h"
 #include "host/ui/inputs/table_input.h"
 
@@ -38,8 +38,7 @@ std::string describe(const InputState& input) {
 }
 
 std::string whyUnreachable(const InputState& input) {
-    const core::Ptr<Command>& active = Application::current()->ui().runner().active();
-    if (input.command() == nullptr || input.command() != active.get() || !active->isShown()) {
+    if (input.command() == nullptr || !input.command()->isOpen()) {
         return "it is not part of the open dialog";
     }
     for (const InputState* each = &input; each != nullptr; each = each->parent()) {

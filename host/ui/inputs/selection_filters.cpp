@@ -1,6 +1,6 @@
 #include "host/ui/inputs/selection_filters.h"
 
-#include "host/application/application.h"
+#include "host/ui/user_interface.h"
 
 #include <algorithm>
 #include <array>
@@ -65,10 +65,11 @@ const Filter* find(const std::string& name) {
 
 bool isSelectionFilter(const std::string& name) { return find(name) != nullptr; }
 
-bool passesFilter(const core::Ptr<core::Base>& entity, const std::string& filter) {
+bool passesFilter(const core::Ptr<core::Base>& entity, const std::string& filter,
+                  const UserInterface& ui) {
     const Filter* known = find(filter);
     if (known == nullptr || known->type != entity->objectType()) return false;
-    return known->name != "RootComponents" || Application::current()->isRootComponent(entity);
+    return known->name != "RootComponents" || ui.isRootComponent(entity);
 }
 
 }  // namespace host::ui

@@ -1,19 +1,14 @@
 #include "host/ui/inputs/selection_input.h"
 
-#include "host/application/application.h"
 #include "host/base/last_error.h"
 #include "host/ui/commands/command.h"
 #include "host/ui/inputs/selection_filters.h"
+#include "host/ui/user_interface.h"
 
 #include <algorithm>
 #include <limits>
 
 namespace host::ui {
-namespace {
-
-SelectionList& activeSelections() { return Application::current()->ui().selections().list; }
-
-}  // namespace
 
 std::size_t SelectionInput::selectionCount() const {
     if (closed<"SelectionCommandInput::selectionCount">(*this)) return {};
@@ -148,12 +143,17 @@ void SelectionInput::visibilityChanged() {
 
 bool SelectionInput::accepts(const core::Ptr<core::Base>& entity) const {
     return filters_.empty() ||
-           std::any_of(filters_.begin(), filters_.end(),
-                       [&](const std::string& each) { return passesFilter(entity, each); });
+           std::any_of(filters_.begin(), filters_.end(), [&](const std::string& each) {
+               return passesFilter(entity, each, command()->ui());
+           });
 }
 
 std::size_t SelectionInput::maximum() const {
     return maximum_ == 0 ? std::numeric_limits<std::size_t>::max() : maximum_;
+}
+
+SelectionList& SelectionInput::activeSelections() const {
+    return command()->ui().selections().list;
 }
 
 void SelectionInput::take(const core::Ptr<core::Base>& entity) {

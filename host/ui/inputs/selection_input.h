@@ -55,6 +55,7 @@ public:
 private:
     [[nodiscard]] bool focused() const;
     void focus(bool value);
+    [[nodiscard]] SelectionList& activeSelections() const;
 
     std::string prompt_;
     std::vector<std::string> filters_;

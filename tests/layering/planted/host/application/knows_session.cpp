@@ -1,0 +1,2 @@
+// Planted: the application knows who uses it.
+#include "host/session/session.h"

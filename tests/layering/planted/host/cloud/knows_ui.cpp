@@ -1,0 +1,2 @@
+// Planted: the storage knows the screen.
+#include "host/ui/user_interface.h"

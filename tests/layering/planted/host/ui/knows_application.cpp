@@ -1,0 +1,2 @@
+// Planted: the user interface knows the application.
+#include "host/application/application.h"
