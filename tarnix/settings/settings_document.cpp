@@ -3,9 +3,9 @@
 #include "tarnix/platform/com.h"
 #include "tarnix/platform/files.h"
 #include "tarnix/platform/module_path.h"
+#include "tarnix/text/checked.h"
 
 #include <exception>
-#include <stdexcept>
 
 namespace tarnix {
 namespace {
@@ -92,14 +92,8 @@ void replaceItems(const XmlDocument& document, const std::string& categoryName,
 }  // namespace
 
 std::string settingsFilePath() {
-    const std::string extension = ".dll";
-    std::string path = platform::modulePath();
-    const std::size_t position = path.find(extension);
-    if (position == std::string::npos) {
-        throw std::out_of_range("invalid string position");
-    }
     // The first one, be it in the name of a folder.
-    return path.replace(position, extension.size(), "_configuration.xml");
+    return replaceFirst(platform::modulePath(), ".dll", "_configuration.xml");
 }
 
 XmlDocument openSettingsDocument(const std::string& path) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarnix {
@@ -34,6 +35,16 @@ inline std::string substringFrom(const std::string& text, std::size_t position) 
         throw std::out_of_range("invalid string position");
     }
     return text.substr(position);
+}
+
+/// `text` with the first `part` of it replaced by `with`; throws `std::out_of_range` ("invalid
+/// string position") where it has none.
+inline std::string replaceFirst(std::string text, std::string_view part, std::string_view with) {
+    const std::size_t position = text.find(part);
+    if (position == std::string::npos) {
+        throw std::out_of_range("invalid string position");
+    }
+    return text.replace(position, part.size(), with);
 }
 
 }  // namespace tarnix

@@ -43,5 +43,14 @@ TEST(SubstringFrom, ThrowsForATextThatIsTooShort) {
     EXPECT_EQ(outOfRange([] { substringFrom("QEMA", 5); }), "invalid string position");
 }
 
+TEST(ReplaceFirst, LeavesTheOthers) {
+    EXPECT_EQ(replaceFirst("A.dll\\B.dll", ".dll", ".xml"), "A.xml\\B.dll");
+}
+
+TEST(ReplaceFirst, ThrowsWithNothingToReplace) {
+    EXPECT_EQ(outOfRange([] { replaceFirst("Tarnix.so", ".dll", ".xml"); }),
+              "invalid string position");
+}
+
 }  // namespace
 }  // namespace tarnix
