@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
 #include <memory>
@@ -7,14 +9,6 @@
 #include <vector>
 
 namespace tarnix {
-
-/// How a command shows in the host's user interface.
-struct CommandTexts {
-    const char* id;
-    const char* name;  ///< the caption of its button
-    const char* tooltip;
-    const char* resourceFolder;  ///< its icons, resolved by the host against the module's folder
-};
 
 /// One main command's registration in the host: its definition, the handler that answers it, and
 /// the controls that were placed for it.

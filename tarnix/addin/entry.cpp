@@ -9,6 +9,9 @@
 #include "tarnix/addin/main_commands.h"
 #include "tarnix/addin/panels.h"
 #include "tarnix/addin/state.h"
+#include "tarnix/commands/online_models.h"
+#include "tarnix/commands/units_conversion.h"
+#include "tarnix/helpdesk/one_click_commands.h"
 
 #include <Core/CoreAll.h>
 
@@ -125,8 +128,8 @@ extern "C" XI_EXPORT bool stop(const char* /*context*/) {
     if (!palettes) {
         return false;
     }
-    deletePalette(palettes, "unitsConversion");
-    deletePalette(palettes, "onLineModels");
+    deletePalette(palettes, kUnitsConversionPaletteId);
+    deletePalette(palettes, kOnlineModelsPaletteId);
     deletePanels(helpdeskPanelId);
     for (const Ptr<CommandDefinition>& definition : helpdeskCommandDefinitions) {
         definition->deleteMe();

@@ -1,8 +1,12 @@
 #include "tarnix/addin/helpdesk_commands.h"
 
-#include "tarnix/addin/addin_command.h"
-#include "tarnix/addin/hooks.h"
 #include "tarnix/addin/state.h"
+#include "tarnix/helpdesk/folder_packing.h"
+#include "tarnix/helpdesk/one_click_commands.h"
+#include "tarnix/helpdesk/screen_capture.h"
+#include "tarnix/helpdesk/support_folder.h"
+#include "tarnix/helpdesk/support_provider.h"
+#include "tarnix/helpdesk/system_information.h"
 
 #include <cstddef>
 #include <span>
@@ -21,25 +25,10 @@ std::vector<Ptr<CommandDefinition>> helpdeskCommandDefinitions;
 
 namespace {
 
+/// In the order of their buttons.
 constexpr CommandTexts kHelpdeskCommands[] = {
-    {"QM_HD_openHelpdesk", "Go to Helpdesk", "Open your Helpdesk web site",
-     "Resources/OpenHelpdesk"},
-    {"QM_HD_captureScreen", "Capture screen",
-     "Capture all what is visible on screen and save it on disk to the Helpdesk folder",
-     "Resources/CaptureScreen"},
-    {"QM_HD_captureFusion", "Capture Fusion",
-     "Capture window of the Fusion application and save it on disk to the Helpdesk folder",
-     "Resources/CaptureInventor"},
-    {"QM_HD_systemInfo", "System info", "Save information about your system in a text file",
-     "Resources/SaveSystemInfo"},
-    {"QM_HD_compressFolder", "Zip", "Compress all context in the Helpdesk folder",
-     "Resources/ZipFolder"},
-    {"QM_HD_openFolder", "Open Helpdesk Folder", "Open the Helpdesk folder in Explorer",
-     "Resources/OpenFolder"},
-    {"QM_HD_clearFolder", "Delete Helpdesk Folder", "Delete all context in the Helpdesk folder",
-     "Resources/DeleteFolder"},
-    {"QM_HD_openHelp", "Open Help", "Open User Guide", "Resources/OpenHelp"},
-};
+    kOpenHelpdeskCommand,   kCaptureScreenCommand, kCaptureFusionCommand, kSystemInfoCommand,
+    kCompressFolderCommand, kOpenFolderCommand,    kClearFolderCommand,   kOpenHelpCommand};
 
 /// Where the definitions of this run begin; in front of it stand the deleted ones of earlier runs.
 std::size_t firstOfThisRun = 0;

@@ -2,6 +2,9 @@
 
 #include "tarnix/addin/panels.h"
 #include "tarnix/addin/state.h"
+#include "tarnix/bom/behaviour/bom_created_handler.h"
+#include "tarnix/commands/projected_entities.h"
+#include "tarnix/properties/edit_properties_command.h"
 
 #include <Fusion/FusionAll.h>
 
@@ -10,9 +13,7 @@ namespace tarnix {
 using adsk::core::ApplicationCommandEvent;
 using adsk::core::ApplicationCommandEventArgs;
 using adsk::core::Base;
-using adsk::core::Command;
 using adsk::core::CommandControl;
-using adsk::core::CommandCreatedEventArgs;
 using adsk::core::CommandDefinition;
 using adsk::core::LinearMarkingMenu;
 using adsk::core::MarkingMenuEvent;
@@ -26,8 +27,6 @@ using adsk::core::WorkspaceEvent;
 using adsk::core::WorkspaceEventArgs;
 using adsk::fusion::Sketch;
 
-OnExecuteEventHandler onExecuteEventHandler;
-CommandCreatedEventHandler commandCreatedEventHandler;
 MyWorkspaceActivatedEventHandler workspaceActivatedEventHandler;
 MyCommandStartingEventHandler commandStartingEventHandler;
 MyCommandEndingEventHandler commandEndingEventHandler;
@@ -43,7 +42,7 @@ Ptr<CommandControl> projectedEntitiesControl() {
     const Ptr<ToolbarPanel> panel =
         panels ? panels->itemById(toolsPanelId(workspace->id())) : nullptr;
     const Ptr<ToolbarControls> controls = panel ? panel->controls() : nullptr;
-    return controls ? controls->itemById("QM_TX_projectedEntitiesAsConstruction") : nullptr;
+    return controls ? controls->itemById(kProjectedEntitiesCommand.id) : nullptr;
 }
 
 }  // namespace
@@ -61,7 +60,7 @@ void MyCommandStartingEventHandler::notify(const Ptr<ApplicationCommandEventArgs
 }
 
 void MyCommandEndingEventHandler::notify(const Ptr<ApplicationCommandEventArgs>& eventArgs) {
-    if (eventArgs->commandId() == "QM_TX_BOM" &&
+    if (eventArgs->commandId() == kBomCommand.id &&
         eventArgs->terminationReason() == adsk::core::CompletedTerminationReason) {
         eventArgs->commandDefinition()->execute();
     }
@@ -69,20 +68,13 @@ void MyCommandEndingEventHandler::notify(const Ptr<ApplicationCommandEventArgs>&
 
 void MyMarkingMenuHandler::notify(const Ptr<MarkingMenuEventArgs>& eventArgs) {
     const Ptr<CommandDefinition> definition =
-        ui->commandDefinitions()->itemById("QEMA_EditPropertiesCmd");
+        ui->commandDefinitions()->itemById(kEditPropertiesCommand.id);
     if (!definition) {
         return;
     }
     const Ptr<LinearMarkingMenu> menu = eventArgs->linearMarkingMenu();
     if (menu) {
         menu->controls()->addCommand(definition, "", /*isBefore=*/true);
-    }
-}
-
-void CommandCreatedEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
-    const Ptr<Command> command = eventArgs->command();
-    if (command) {
-        command->execute()->add(&onExecuteEventHandler);
     }
 }
 

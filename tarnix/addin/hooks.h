@@ -1,7 +1,5 @@
 #pragma once
 
-#include "tarnix/helpdesk/execute_handler.h"
-
 #include <Core/CoreAll.h>
 
 /// What hooks the add-in into events of the host rather than into one of its commands.
@@ -34,14 +32,6 @@ public:
     void notify(const adsk::core::Ptr<adsk::core::MarkingMenuEventArgs>& eventArgs) override;
 };
 
-/// Connects each helpdesk command to the one handler that executes them all.
-class CommandCreatedEventHandler final : public adsk::core::CommandCreatedEventHandler {
-public:
-    void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
-};
-
-extern OnExecuteEventHandler onExecuteEventHandler;
-extern CommandCreatedEventHandler commandCreatedEventHandler;
 extern MyWorkspaceActivatedEventHandler workspaceActivatedEventHandler;
 extern MyCommandStartingEventHandler commandStartingEventHandler;
 extern MyCommandEndingEventHandler commandEndingEventHandler;

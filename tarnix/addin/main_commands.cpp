@@ -8,8 +8,8 @@
 #include "tarnix/commands/open_local_file.h"
 #include "tarnix/commands/projected_entities.h"
 #include "tarnix/commands/units_conversion.h"
-#include "tarnix/properties/edit_properties_created_handler.h"
-#include "tarnix/settings/configuration_created_handler.h"
+#include "tarnix/properties/edit_properties_command.h"
+#include "tarnix/settings/configuration_command.h"
 
 #include <array>
 #include <cstddef>
@@ -23,31 +23,6 @@ using adsk::core::ToolbarControls;
 using adsk::core::Workspace;
 
 namespace {
-
-constexpr CommandTexts kEditProperties = {"QEMA_EditPropertiesCmd", "Edit custom properties",
-                                          "Dialog for editing custom properties",
-                                          "././Resources/Properties"};
-constexpr CommandTexts kBom = {"QM_TX_BOM", "BOM", "Bill of materials", "././Resources/BOM"};
-constexpr CommandTexts kMoveCompToOrigin = {"QM_TX_moveComponentToOrigin", "Move To Origin",
-                                            "Move selected component to the origin",
-                                            "././Resources/MoveComponentToOrigin"};
-constexpr CommandTexts kProjEntitAsConstr = {
-    "QM_TX_projectedEntitiesAsConstruction", "Projected Entities As Construction",
-    "Set projected entities as construction geometry", "./Resources/ProjEntAsConstruction"};
-constexpr CommandTexts kUnitsConversion = {
-    "QM_TX_unitsConversion", "Units Conversion",
-    "A Unit converter for more than 750 types of international and historical physical measurement "
-    "units: length, area, volume, time, mass, density, pressure, moment, power, flux, number "
-    "systems, etc. ",
-    "././Resources/UnitsConversion"};
-constexpr CommandTexts kConfigTarnix = {"QM_TX_configuration", "Tarnix Configuration",
-                                        "Tarnix Configuration", "././Resources/Configuration"};
-constexpr CommandTexts kOnLineLibrary = {"QM_TX_onLineLibrary", "Models->F",
-                                         "One step for insert on-Line models to the Fusion 360",
-                                         "././Resources/OnLineLibrary"};
-constexpr CommandTexts kOpenLocalFile = {"QEMA_OpenLocalCmd_QAT", "Open local file",
-                                         "Open / Import file from local storage",
-                                         "././Resources/OpenLocalFile"};
 
 template <class CreatedHandler>
 std::unique_ptr<AddinCommand> makeCommand(const CommandTexts& texts) {
@@ -80,7 +55,7 @@ void addToolsControl(AddinCommand& command, const std::string& workspaceId,
 /// host runs, also after `stop`. The function has a name of its own, so that a leak report shows
 /// it.
 void createOpenLocalFileForever() {
-    static_cast<void>(makeCommand<OpenLocalFileCmdCreateHandler>(kOpenLocalFile).release());
+    static_cast<void>(makeCommand<OpenLocalFileCmdCreateHandler>(kOpenLocalFileCommand).release());
 }
 
 }  // namespace
@@ -95,15 +70,18 @@ MainCommands& mainCommands() {
 
 bool createCommands() {
     MainCommands& commands = mainCommands();
-    commands.editPropertiesCmd = makeCommand<EditPropertiesCmdCreateHandler>(kEditProperties);
-    commands.bomCmd = makeCommand<BomCmdCreateEventHandler>(kBom);
-    commands.moveCompToOriginCmd = makeCommand<MoveCompToOriginCmdCreateHandler>(kMoveCompToOrigin);
+    commands.editPropertiesCmd =
+        makeCommand<EditPropertiesCmdCreateHandler>(kEditPropertiesCommand);
+    commands.bomCmd = makeCommand<BomCmdCreateEventHandler>(kBomCommand);
+    commands.moveCompToOriginCmd =
+        makeCommand<MoveCompToOriginCmdCreateHandler>(kMoveToOriginCommand);
     commands.projEntitAsConstrCmd =
-        makeCommand<ProjEntitAsConstrCmdCreateHandler>(kProjEntitAsConstr);
+        makeCommand<ProjEntitAsConstrCmdCreateHandler>(kProjectedEntitiesCommand);
     commands.unitsConversionCmd =
-        makeCommand<UnitsConversionCmdCreateEventHandler>(kUnitsConversion);
-    commands.configTarnixCmd = makeCommand<ConfigTarnixCmdCreateEventHandler>(kConfigTarnix);
-    commands.onLineLibraryCmd = makeCommand<OnLineLibraryCreateEventHandler>(kOnLineLibrary);
+        makeCommand<UnitsConversionCmdCreateEventHandler>(kUnitsConversionCommand);
+    commands.configTarnixCmd =
+        makeCommand<ConfigTarnixCmdCreateEventHandler>(kConfigurationCommand);
+    commands.onLineLibraryCmd = makeCommand<OnLineLibraryCreateEventHandler>(kOnlineModelsCommand);
     createOpenLocalFileForever();
     return true;
 }

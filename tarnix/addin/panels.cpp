@@ -3,6 +3,7 @@
 #include "tarnix/addin/helpdesk_commands.h"
 #include "tarnix/addin/main_commands.h"
 #include "tarnix/addin/state.h"
+#include "tarnix/helpdesk/one_click_commands.h"
 
 namespace tarnix {
 
@@ -28,8 +29,6 @@ Ptr<ToolbarPanel> findOrAddPanel(const Ptr<ToolbarPanels>& panels, const std::st
 }  // namespace
 
 std::string toolsPanelId(const std::string& workspaceId) { return "QM_Tarnix_Alfa" + workspaceId; }
-
-std::string helpdeskPanelId(const std::string& workspaceId) { return "QM_HD_panel" + workspaceId; }
 
 Ptr<ToolbarPanel> toolsPanel(const Ptr<ToolbarPanels>& panels, const std::string& workspaceId) {
     return findOrAddPanel(panels, toolsPanelId(workspaceId), "QM Tarnix");

@@ -15,9 +15,9 @@ namespace tarnix {
 /// The workspaces that get the add-in's panels at start.
 extern const std::vector<std::string> workspaceIds;
 
-/// A panel's id is unique over all workspaces, so it carries the workspace's id behind a prefix.
+/// The id of a workspace's tools panel. A panel's id is unique over all workspaces, so it carries
+/// the workspace's id after a prefix.
 std::string toolsPanelId(const std::string& workspaceId);
-std::string helpdeskPanelId(const std::string& workspaceId);
 
 /// The tools panel in a workspace's collection, made if it is not there; null when refused.
 adsk::core::Ptr<adsk::core::ToolbarPanel> toolsPanel(

@@ -1,8 +1,16 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kMoveToOriginCommand = {
+    .id = "QM_TX_moveComponentToOrigin",
+    .name = "Move To Origin",
+    .tooltip = "Move selected component to the origin",
+    .resourceFolder = "././Resources/MoveComponentToOrigin"};
 
 /// Carries out "Move To Origin" when its dialog is accepted: the selected occurrences get the
 /// identity as their placement, all in one step, and are grounded there if the user wants that.

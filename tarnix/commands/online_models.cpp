@@ -5,7 +5,6 @@ namespace {
 
 using namespace adsk::core;
 
-constexpr const char* kPaletteId = "onLineModels";
 constexpr const char* kPage = "http://www.tarnix.example/download/CAM/f360/fusion_pruvodce.htm";
 
 /// The host's palettes, null where it has none to give.
@@ -18,7 +17,7 @@ Ptr<Palettes> hostPalettes() {
 
 void addPalette(const Ptr<Palettes>& palettes) {
     const Ptr<Palette> palette =
-        palettes->add(kPaletteId, "On-Line models", kPage, /*isVisible=*/true,
+        palettes->add(kOnlineModelsPaletteId, "On-Line models", kPage, /*isVisible=*/true,
                       /*showCloseButton=*/true, /*isResizable=*/true, /*width=*/350, /*height=*/300,
                       /*useNewWebBrowser=*/false);
     palette->dockingState(PaletteDockStateLeft);
@@ -31,7 +30,7 @@ void OnLineLibraryExecuteHandler::notify(const Ptr<CommandEventArgs>& /*eventArg
     if (!palettes) {
         return;
     }
-    if (const Ptr<Palette> palette = palettes->itemById(kPaletteId)) {
+    if (const Ptr<Palette> palette = palettes->itemById(kOnlineModelsPaletteId)) {
         palette->isVisible(true);
     } else {
         addPalette(palettes);

@@ -1,8 +1,19 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kOnlineModelsCommand = {
+    .id = "QM_TX_onLineLibrary",
+    .name = "Models->F",
+    .tooltip = "One step for insert on-Line models to the Fusion 360",
+    .resourceFolder = "././Resources/OnLineLibrary"};
+
+/// The id of its palette, which outlives the command.
+inline constexpr const char* kOnlineModelsPaletteId = "onLineModels";
 
 /// Carries out the command for models from the web: shows its palette, and makes it first where
 /// there is none. A palette that is there keeps the place and size that the user gave it.

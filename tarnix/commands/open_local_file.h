@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
 #include <cstdint>
@@ -7,6 +9,12 @@
 #include <vector>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kOpenLocalFileCommand = {
+    .id = "QEMA_OpenLocalCmd_QAT",
+    .name = "Open local file",
+    .tooltip = "Open / Import file from local storage",
+    .resourceFolder = "././Resources/OpenLocalFile"};
 
 /// Carries out "Open local file": asks the user for files and brings them into the host, one after
 /// the other.

@@ -1,8 +1,16 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kProjectedEntitiesCommand = {
+    .id = "QM_TX_projectedEntitiesAsConstruction",
+    .name = "Projected Entities As Construction",
+    .tooltip = "Set projected entities as construction geometry",
+    .resourceFolder = "./Resources/ProjEntAsConstruction"};
 
 /// Carries out "Projected Entities As Construction": all projected curves of the sketch under edit
 /// become construction geometry, drawn ones stay as they are.

@@ -11,7 +11,6 @@ using namespace adsk::core;
 using platform::TopWindow;
 
 constexpr const char* kHostTitle = "Autodesk Fusion 360";
-constexpr const char* kPaletteId = "unitsConversion";
 constexpr const char* kPage = "http://www.tarnix.example/units/units-cmd.asp?app=Inventor";
 constexpr int kWidth = 260;
 constexpr int kHeight = 400;
@@ -23,14 +22,15 @@ constexpr int kFromBottom = 455;
 /// The palette of this command: the one that is there, shown again, else a new one. Null where the
 /// host makes none.
 Ptr<Palette> shownPalette(const Ptr<Palettes>& palettes) {
-    Ptr<Palette> palette = palettes->itemById(kPaletteId);
+    Ptr<Palette> palette = palettes->itemById(kUnitsConversionPaletteId);
     if (palette) {
         palette->isVisible(true);
         return palette;
     }
-    palette = palettes->add(kPaletteId, "Units Conversion", kPage, /*isVisible=*/true,
-                            /*showCloseButton=*/true, /*isResizable=*/true, kWidth, kHeight,
-                            /*useNewWebBrowser=*/false);
+    palette =
+        palettes->add(kUnitsConversionPaletteId, "Units Conversion", kPage, /*isVisible=*/true,
+                      /*showCloseButton=*/true, /*isResizable=*/true, kWidth, kHeight,
+                      /*useNewWebBrowser=*/false);
     if (palette) {
         palette->dockingState(PaletteDockStateFloating);
     }

@@ -1,8 +1,23 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kUnitsConversionCommand = {
+    .id = "QM_TX_unitsConversion",
+    .name = "Units Conversion",
+    .tooltip =
+        "A Unit converter for more than 750 types of international and historical physical "
+        "measurement "
+        "units: length, area, volume, time, mass, density, pressure, moment, power, flux, number "
+        "systems, etc. ",
+    .resourceFolder = "././Resources/UnitsConversion"};
+
+/// The id of its palette, which outlives the command.
+inline constexpr const char* kUnitsConversionPaletteId = "unitsConversion";
 
 /// Carries out "Units Conversion": shows the palette with the converter in the lower right corner
 /// of the host's main window, wherever the user had moved it.

@@ -1,10 +1,18 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kCompressFolderCommand = {
+    .id = "QM_HD_compressFolder",
+    .name = "Zip",
+    .tooltip = "Compress all context in the Helpdesk folder",
+    .resourceFolder = "Resources/ZipFolder"};
 
 /// Writes an archive without entries, in the place of an earlier file.
 void createEmptyZip(std::string archivePath);

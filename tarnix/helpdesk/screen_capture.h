@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarnix/platform/screen.h"
+#include "tarnix/text/command_texts.h"
 
 #include <string>
 
@@ -8,6 +9,19 @@
 ///
 /// Nothing is asked, and nothing is shown but that there are too many pictures already.
 namespace tarnix {
+
+inline constexpr CommandTexts kCaptureScreenCommand = {
+    .id = "QM_HD_captureScreen",
+    .name = "Capture screen",
+    .tooltip = "Capture all what is visible on screen and save it on disk to the Helpdesk folder",
+    .resourceFolder = "Resources/CaptureScreen"};
+
+inline constexpr CommandTexts kCaptureFusionCommand = {
+    .id = "QM_HD_captureFusion",
+    .name = "Capture Fusion",
+    .tooltip =
+        "Capture window of the Fusion application and save it on disk to the Helpdesk folder",
+    .resourceFolder = "Resources/CaptureInventor"};
 
 /// Saves a picture of all monitors. A console window of the process is hidden for it, and not shown
 /// again.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <string>
 
 /// The support folder: where the helpdesk commands collect captures and system information, to be
@@ -8,6 +10,18 @@
 /// It is one level deep, lies in the user's folder for temporary files, and is made by whichever
 /// command needs it first. The helpdesk commands never make folders in it.
 namespace tarnix {
+
+inline constexpr CommandTexts kOpenFolderCommand = {
+    .id = "QM_HD_openFolder",
+    .name = "Open Helpdesk Folder",
+    .tooltip = "Open the Helpdesk folder in Explorer",
+    .resourceFolder = "Resources/OpenFolder"};
+
+inline constexpr CommandTexts kClearFolderCommand = {
+    .id = "QM_HD_clearFolder",
+    .name = "Delete Helpdesk Folder",
+    .tooltip = "Delete all context in the Helpdesk folder",
+    .resourceFolder = "Resources/DeleteFolder"};
 
 /// The support folder with a backslash at its end; empty if the system names no folder for
 /// temporary files.

@@ -1,13 +1,14 @@
 #include "tarnix/helpdesk/support_provider.h"
 
+#include "tarnix/helpdesk/one_click_commands.h"
 #include "tarnix/platform/module_path.h"
 #include "tarnix/platform/shell.h"
+#include "tarnix/settings/configuration_command.h"
 #include "tarnix/settings/settings_document.h"
+#include "tarnix/text/checked.h"
 
 #include <Core/CoreAll.h>
 
-#include <cstddef>
-#include <stdexcept>
 #include <string>
 
 namespace tarnix {
@@ -26,14 +27,14 @@ using adsk::core::Workspace;
 Ptr<ToolbarPanel> helpdeskPanel(const Ptr<UserInterface>& userInterface) {
     const Ptr<Workspace> workspace = userInterface ? userInterface->activeWorkspace() : nullptr;
     const Ptr<ToolbarPanels> panels = workspace ? workspace->toolbarPanels() : nullptr;
-    return panels ? panels->itemById("QM_HD_panel" + workspace->id()) : nullptr;
+    return panels ? panels->itemById(helpdeskPanelId(workspace->id())) : nullptr;
 }
 
 /// The control of the Configuration command in that panel; null if it is not there.
 Ptr<CommandControl> configurationControl(const Ptr<UserInterface>& userInterface) {
     const Ptr<ToolbarPanel> panel = helpdeskPanel(userInterface);
     const Ptr<ToolbarControls> controls = panel ? panel->controls() : nullptr;
-    return controls ? controls->itemById("QM_TX_configuration") : nullptr;
+    return controls ? controls->itemById(kConfigurationCommand.id) : nullptr;
 }
 
 /// What the guide's path has in the place of the module's ".dll".
@@ -57,18 +58,10 @@ void openSupportProvider() {
 }
 
 void openUserGuide() {
-    const std::string extension = ".dll";
-    std::string path = platform::modulePath();
-    const std::string suffix = guideSuffix();
-    const std::size_t position = path.find(extension);
-    if (position == std::string::npos) {
-        throw std::out_of_range("invalid string position");
-    }
-    path.replace(position, extension.size(), suffix);
-    if (!path.empty()) {
-        // A missing guide is not told.
-        static_cast<void>(platform::openWithShell(path));
-    }
+    const std::string modulePath = platform::modulePath();
+    const std::string path = replaceFirst(modulePath, ".dll", guideSuffix());
+    // A missing guide is not reported.
+    static_cast<void>(platform::openWithShell(path));
 }
 
 }  // namespace tarnix

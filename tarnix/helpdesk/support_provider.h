@@ -1,6 +1,18 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 namespace tarnix {
+
+inline constexpr CommandTexts kOpenHelpdeskCommand = {.id = "QM_HD_openHelpdesk",
+                                                      .name = "Go to Helpdesk",
+                                                      .tooltip = "Open your Helpdesk web site",
+                                                      .resourceFolder = "Resources/OpenHelpdesk"};
+
+inline constexpr CommandTexts kOpenHelpCommand = {.id = "QM_HD_openHelp",
+                                                  .name = "Open Help",
+                                                  .tooltip = "Open User Guide",
+                                                  .resourceFolder = "Resources/OpenHelp"};
 
 /// Opens the web address of the support provider that the settings name, and tells the user where
 /// that cannot be done. Nothing happens in a workspace whose helpdesk panel lacks the control of

@@ -6,9 +6,13 @@
 
 namespace tarnix {
 
+using adsk::core::BoolValueCommandInput;
+using adsk::core::ButtonRowCommandInput;
 using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::GroupCommandInput;
+using adsk::core::ListItem;
+using adsk::core::ListItems;
 using adsk::core::Ptr;
 using adsk::core::StringValueCommandInput;
 
@@ -32,6 +36,32 @@ void forEachInGroups(const Ptr<CommandInputs>& inputs, const Action& action) {
     });
 }
 
+using Entries = std::vector<PropertyEntry>;
+
+const char* flag(bool value) { return value ? "1" : "0"; }
+
+void collectButtons(Entries& entries, const Ptr<ButtonRowCommandInput>& row) {
+    const Ptr<ListItems> buttons = row->listItems();
+    const std::size_t count = buttons->count();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ptr<ListItem> button = buttons->item(i);
+        entries.push_back({.name = button->name(), .value = flag(button->isSelected())});
+    }
+}
+
+void collectInput(Entries& entries, const Ptr<CommandInput>& input) {
+    if (const Ptr<StringValueCommandInput> line = input) {
+        entries.push_back({.name = line->id(), .value = line->value()});
+    } else if (const Ptr<BoolValueCommandInput> box = input) {
+        const std::string id = box->id();
+        if (id.starts_with("QEMA")) {
+            entries.push_back({.name = id, .value = flag(box->value())});
+        }
+    } else if (const Ptr<ButtonRowCommandInput> row = input) {
+        collectButtons(entries, row);
+    }
+}
+
 }  // namespace
 
 void clearValues(const Ptr<CommandInputs>& inputs) {
@@ -45,6 +75,13 @@ void clearValues(const Ptr<CommandInputs>& inputs) {
 void enableInputs(const Ptr<CommandInputs>& inputs, bool enabled) {
     forEachInGroups(inputs,
                     [enabled](const Ptr<CommandInput>& input) { input->isEnabled(enabled); });
+}
+
+std::vector<PropertyEntry> collectValues(const Ptr<CommandInputs>& inputs) {
+    Entries entries;
+    forEachInGroups(inputs,
+                    [&entries](const Ptr<CommandInput>& input) { collectInput(entries, input); });
+    return entries;
 }
 
 }  // namespace tarnix

@@ -3,10 +3,16 @@
 #include "tarnix/bom/behaviour/bom_execute_handler.h"
 #include "tarnix/bom/behaviour/bom_input_changed_handler.h"
 #include "tarnix/bom/model/bom_row.h"
+#include "tarnix/text/command_texts.h"
 
 #include <Core/CoreAll.h>
 
 namespace tarnix {
+
+inline constexpr CommandTexts kBomCommand = {.id = "QM_TX_BOM",
+                                             .name = "BOM",
+                                             .tooltip = "Bill of materials",
+                                             .resourceFolder = "././Resources/BOM"};
 
 /// Answers the start of the command "BOM": makes its dialog and attaches the handlers that serve
 /// it.

@@ -1,4 +1,4 @@
-#include "tarnix/settings/configuration_dialog.h"
+#include "tarnix/settings/configuration_command.h"
 #include "tests/host/ui/host_test.h"
 #include "tests/tarnix/platform/scratch_folder.h"
 #include "tests/tarnix/settings/fake_module_path.h"

@@ -1,4 +1,4 @@
-#include "tarnix/helpdesk/execute_handler.h"
+#include "tarnix/helpdesk/one_click_commands.h"
 
 #include "tests/tarnix/helpdesk/helpdesk_test.h"
 

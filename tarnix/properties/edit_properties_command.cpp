@@ -1,9 +1,10 @@
-#include "tarnix/properties/edit_properties_input_changed_handler.h"
+#include "tarnix/properties/edit_properties_command.h"
 
 #include "tarnix/properties/bom_structure_buttons.h"
 #include "tarnix/properties/full_path.h"
 #include "tarnix/properties/group_inputs.h"
 #include "tarnix/properties/picked_component.h"
+#include "tarnix/properties/properties_dialog.h"
 #include "tarnix/properties/property_inputs.h"
 #include "tarnix/properties/user_properties.h"
 
@@ -14,6 +15,9 @@
 namespace tarnix {
 
 using adsk::core::Application;
+using adsk::core::Command;
+using adsk::core::CommandCreatedEventArgs;
+using adsk::core::CommandEventArgs;
 using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::GroupCommandInput;
@@ -60,12 +64,32 @@ bool isManufacturing() {
     return Application::get()->userInterface()->activeWorkspace()->id() == "CAMEnvironment";
 }
 
+Ptr<Component> pickedComponent(const Ptr<CommandInputs>& inputs) {
+    const Ptr<SelectionCommandInput> input = inputs->itemById(kSelection);
+    const Ptr<Selection> selection = input ? lastSelection(input) : nullptr;
+    return selection ? componentOf(selection->entity()) : nullptr;
+}
+
 Ptr<CommandInputs> childrenOf(const Ptr<CommandInputs>& inputs, const char* groupId) {
     const Ptr<GroupCommandInput> group = inputs->itemById(groupId);
     return group->children();
 }
 
 }  // namespace
+
+void EditPropertiesCmdExecuteHandler::notify(const Ptr<CommandEventArgs>& eventArgs) {
+    const Ptr<CommandInputs> inputs = eventArgs->command()->commandInputs();
+    if (!inputs) {
+        return;
+    }
+    const Ptr<Component> component = pickedComponent(inputs);
+    if (!component) {
+        return;
+    }
+    const Ptr<CommandInput> properties = inputs->itemById(kProperties);
+    writeComponentProperties(
+        {.entries = collectValues(properties->commandInputs()), .component = component});
+}
 
 void EditPropertiesCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventArgs) {
     const Ptr<CommandInput> input = eventArgs->input();
@@ -127,6 +151,15 @@ void EditPropertiesCmdInputChangedHandler::fillInputs(const Ptr<CommandInputs>& 
             line->value(findProperty(properties, line->id()));
         }
     }
+}
+
+void EditPropertiesCmdCreateHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
+    const Ptr<Command> command = eventArgs->command();
+    buildPropertiesDialog(command->commandInputs());
+    command->setDialogInitialSize(300, 600);
+    command->inputChanged()->add(&inputChangedHandler_);
+    command->execute()->add(&executeHandler_);
+    command->validateInputs()->add(&validateHandler_);
 }
 
 }  // namespace tarnix
