@@ -42,7 +42,7 @@ public:
     std::string resourceFolder;
     std::unique_ptr<adsk::core::CommandCreatedEventHandler> createdHandler;
 
-    /// The controls that stand in panels for this command and go with it.
+    /// The controls that were placed in panels for this command and go with it.
     std::vector<adsk::core::Ptr<adsk::core::CommandControl>> controls;
 
 private:

@@ -1,8 +1,8 @@
 // The two ways into the add-in, as the module exports them.
 //
-// The host calls `run` once it has loaded the module and `stop` before it lets it go. In between
-// the add-in runs inside the host's notifications alone. Neither looks at its argument nor tells
-// the user anything, and what a null handle throws leaves them.
+// The host calls `run` once it has loaded the module and `stop` before it unloads it. In between
+// the add-in runs inside the host's notifications alone. Neither looks at its argument nor
+// shows the user anything, and what a null handle throws leaves them.
 
 #include "tarnix/addin/helpdesk_commands.h"
 #include "tarnix/addin/hooks.h"
@@ -83,7 +83,7 @@ void touchRepeatCommand() {
 }  // namespace
 
 /// Takes `app` and `ui`, registers all commands, places their buttons, attaches the hooks, and
-/// keeps the module loaded. False at the first step that fails; what stands by then stays, and
+/// keeps the module loaded. False at the first step that fails; what was done by then stays, and
 /// `stop` copes with it.
 extern "C" XI_EXPORT bool run(const char* /*context*/) {
     app = Application::get();

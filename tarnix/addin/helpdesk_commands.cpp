@@ -30,7 +30,7 @@ constexpr CommandTexts kHelpdeskCommands[] = {
     kOpenHelpdeskCommand,   kCaptureScreenCommand, kCaptureFusionCommand, kSystemInfoCommand,
     kCompressFolderCommand, kOpenFolderCommand,    kClearFolderCommand,   kOpenHelpCommand};
 
-/// Where the definitions of this run begin; in front of it stand the deleted ones of earlier runs.
+/// Where the definitions of this run begin; before it are the deleted ones of earlier runs.
 std::size_t firstOfThisRun = 0;
 
 std::span<const Ptr<CommandDefinition>> definitionsOfThisRun() {
@@ -74,7 +74,7 @@ void addHelpdeskControls(const Ptr<ToolbarControls>& controls) {
     const std::span<const Ptr<CommandDefinition>> definitions = definitionsOfThisRun();
     for (std::size_t i = 0; i < definitions.size(); ++i) {
         // The position is the command's own id. No control of the panel has it yet, so each goes
-        // behind the others.
+        // after the others.
         const Ptr<CommandControl> control =
             controls->addCommand(definitions[i], kHelpdeskCommands[i].id, /*isBefore=*/true);
         if (i == 0 || i + 1 == definitions.size()) {

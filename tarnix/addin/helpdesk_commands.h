@@ -9,13 +9,13 @@
 namespace tarnix {
 
 /// The definitions in the order of their buttons. `stop` deletes them in the host and keeps the
-/// entries, so those of an earlier run stand in front of those of this one.
+/// entries, so those of an earlier run come before those of this one.
 extern std::vector<adsk::core::Ptr<adsk::core::CommandDefinition>> helpdeskCommandDefinitions;
 
 /// Makes the eight definitions, or finds them, and subscribes the shared created handler to each.
 ///
-/// False when a definition cannot be made, which the user is told, or a subscription fails; what
-/// stands so far stays.
+/// False when a definition cannot be made, which the user is shown, or a subscription fails; what
+/// was made so far stays.
 bool createHelpdeskCommands();
 
 /// Adds a control for each definition of this run, the first and the last one promoted.

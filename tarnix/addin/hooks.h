@@ -2,7 +2,7 @@
 
 #include <Core/CoreAll.h>
 
-/// What hooks the add-in into events of the host rather than into one of its commands.
+/// The handlers of events of the whole host, rather than of one of the add-in's commands.
 ///
 /// One object of each class serves all subscriptions, for the life of the process. `run` attaches
 /// them and nothing detaches them; they keep nothing between two notifications.

@@ -51,9 +51,8 @@ void addToolsControl(AddinCommand& command, const std::string& workspaceId,
     }
 }
 
-/// The object of Open local file belongs to nobody: its command stays registered for as long as the
-/// host runs, also after `stop`. The function has a name of its own, so that a leak report shows
-/// it.
+/// The object of Open local file has no owner: its command stays registered for as long as the host
+/// runs, also after `stop`. The function has a name of its own, so that a leak report shows it.
 void createOpenLocalFileForever() {
     static_cast<void>(makeCommand<OpenLocalFileCmdCreateHandler>(kOpenLocalFileCommand).release());
 }
@@ -62,7 +61,7 @@ void createOpenLocalFileForever() {
 
 MainCommands& mainCommands() {
     // Never destroyed: when the process ends, the host may be gone before this module's statics. In
-    // static storage, so that nothing stays behind where the module is taken out before.
+    // static storage, so that nothing is left where the module is unloaded before.
     alignas(MainCommands) static std::array<std::byte, sizeof(MainCommands)> storage;
     static auto& commands = *new (storage.data()) MainCommands;
     return commands;

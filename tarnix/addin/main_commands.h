@@ -36,7 +36,7 @@ bool addCommandControls(const std::string& workspaceId);
 
 // Each places the control of its command in a panel of a workspace, which is made if it is missing.
 // A workspace that the host does not know is skipped. All but the last look for a control that
-// stands there already; the last adds one each time, and that one goes with its panel.
+// is there already; the last adds one each time, and that one goes with its panel.
 void addEditPropertiesControl(const std::string& workspaceId, const std::string& positionId);
 void addBomControl(const std::string& workspaceId, const std::string& positionId);
 void addMoveCompToOriginControl(const std::string& workspaceId, const std::string& positionId);

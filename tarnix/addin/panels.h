@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-/// The two panels that the add-in puts into workspaces, and what stands in them.
+/// The two panels that the add-in adds to workspaces, and what they hold.
 ///
-/// The tools panel holds the modelling commands and stands in the workspaces of `workspaceIds`. The
+/// The tools panel holds the modelling commands and is in each workspace of `workspaceIds`. The
 /// helpdesk panel holds the Configuration control and the eight helpdesk controls, and comes to
 /// each workspace when it is first activated; outside `workspaceIds` it stays empty.
 namespace tarnix {

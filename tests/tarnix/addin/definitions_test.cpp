@@ -116,7 +116,7 @@ TEST_F(RefusedDefinition, OfAMainCommandGoesUnreported) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(RefusedDefinition, OfAHelpdeskCommandIsTakenAsItStands) {
+TEST_F(RefusedDefinition, OfAHelpdeskCommandIsTakenAsItIs) {
     ASSERT_TRUE(ui()->commandDefinitions()->addButtonDefinition("QM_HD_openHelp", "Mine", ""));
 
     EXPECT_TRUE(run());

@@ -32,7 +32,7 @@ TEST_F(WorkspaceHook, AddsNothingWhenAWorkspaceIsShownAgain) {
     EXPECT_EQ(panel("QM_HD_panelCAMEnvironment")->controls()->count(), 9U);
 }
 
-TEST_F(WorkspaceHook, GivesAnEmptyPanelToAWorkspaceOfTheHostsOwn) {
+TEST_F(WorkspaceHook, AddsAnEmptyPanelToAWorkspaceOfTheHost) {
     session->activateWorkspace(kRender);
 
     EXPECT_EQ(controls("QM_HD_panelFusionRenderEnvironment"), "");
@@ -105,7 +105,7 @@ TEST_F(StartingHook, ShowsTheButtonWhileASketchIsEdited) {
     EXPECT_TRUE(button(kSolid)->isVisible());
 }
 
-TEST_F(StartingHook, HidesTheButtonBehindTheSketch) {
+TEST_F(StartingHook, HidesTheButtonAfterTheSketch) {
     openSketch();
     editSketch();
     startAnyCommand();

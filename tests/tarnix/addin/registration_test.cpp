@@ -55,7 +55,7 @@ protected:
     int created = 0;
 };
 
-TEST_F(Registration, OfACommandStandsAsLongAsItsObject) {
+TEST_F(Registration, OfACommandLastsAsLongAsItsObject) {
     auto command = makeCommand();
     EXPECT_EQ(texts("OwnCommand"), text(R"(
         Own
@@ -154,7 +154,7 @@ TEST_F(Registration, OfAHelpdeskPanelNeedsAWorkspace) {
     EXPECT_FALSE(tarnix::addHelpdeskPanel(nullptr));
 }
 
-TEST_F(Registration, TellsTheUserWhyTheHostRefusedAHelpdeskCommand) {
+TEST_F(Registration, ShowsTheUserWhyTheHostRefusedAHelpdeskCommand) {
     ui()->commandDefinitions()->addButtonDefinition("QM_HD_captureScreen", "Another's", "");
     const host::gate::Module asModule;
     // It does not find the other one, and may not add its own.

@@ -131,7 +131,7 @@ protected:
     }
 };
 
-TEST_F(RunWithoutManufacture, FailsBehindThePanelOfTheFirstWorkspace) {
+TEST_F(RunWithoutManufacture, FailsAfterThePanelOfTheFirstWorkspace) {
     EXPECT_FALSE(run());
 
     EXPECT_NE(controls("QM_Tarnix_AlfaFusionSolidEnvironment"), "no panel");
@@ -152,7 +152,7 @@ TEST_F(RunWithoutManufacture, AttachesNoHook) {
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "UserInterface::commandTerminated"), 0);
 }
 
-TEST_F(RunWithoutManufacture, LeavesToStopWhatStands) {
+TEST_F(RunWithoutManufacture, LeavesToStopWhatIsThere) {
     EXPECT_FALSE(run());
 
     stop();

@@ -21,7 +21,7 @@ TEST_F(Stop, ThrowsAtItsEndWhereTheHostHasNoRepeatControl) {
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 }
 
-TEST_F(Stop, DeletesThePalettesThatStand) {
+TEST_F(Stop, DeletesThePalettesThatAreThere) {
     const adsk::core::Ptr<adsk::core::Palettes> palettes = ui()->palettes();
     ASSERT_TRUE(palettes->add("unitsConversion", "Units", "", true, true, true));
     ASSERT_TRUE(palettes->add("onLineModels", "Models", "", true, true, true));
@@ -95,7 +95,7 @@ TEST_F(StopWithRepeatControl, LetsRunSucceedAgain) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(StopWithRepeatControl, LetsRunPlaceTheEightOfItsOwn) {
+TEST_F(StopWithRepeatControl, LetsRunPlaceItsEight) {
     const std::string stood = controls("QM_HD_panelFusionSolidEnvironment");
     ASSERT_TRUE(stop());
 

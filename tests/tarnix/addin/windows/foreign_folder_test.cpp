@@ -54,7 +54,7 @@ TEST_F(FolderBeyondTheCodePage, StillLetsTheAddinRun) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(FolderBeyondTheCodePage, FailsTheSettingsAndMakesNone) {
+TEST_F(FolderBeyondTheCodePage, FailsTheSettingsAndCreatesNone) {
     open("Plate  number=P-1");
 
     openBom();
