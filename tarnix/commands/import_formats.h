@@ -14,7 +14,7 @@ extern const char* const supportedFilesFilter;
 using ImportOptionsFactory = adsk::core::Ptr<adsk::core::ImportOptions> (*)(
     const adsk::core::Ptr<adsk::core::ImportManager>& manager, const std::string& fileName);
 
-/// The factory for an extension, which is compared as it stands; null for a format that the host
+/// The factory for an extension, which is compared byte for byte; null for a format that the host
 /// does not import.
 ImportOptionsFactory importOptionsFactory(const std::string& extension);
 

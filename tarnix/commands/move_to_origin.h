@@ -21,7 +21,7 @@ class MoveCompToOriginCmdExecuteHendler final : public adsk::core::CommandEventH
 public:
     void notify(const adsk::core::Ptr<adsk::core::CommandEventArgs>& eventArgs) override;
 
-    /// @name The inputs of the open dialog, given by whoever makes it
+    /// @name The inputs of the open dialog, set when it is made
     /// @{
     adsk::core::Ptr<adsk::core::SelectionCommandInput> selectionInput;
     adsk::core::Ptr<adsk::core::BoolValueCommandInput> groundInput;

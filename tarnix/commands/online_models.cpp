@@ -7,7 +7,7 @@ using namespace adsk::core;
 
 constexpr const char* kPage = "http://www.tarnix.example/download/CAM/f360/fusion_pruvodce.htm";
 
-/// The host's palettes, null where it has none to give.
+/// The host's palettes, null where anything on the way is missing.
 Ptr<Palettes> hostPalettes() {
     const Ptr<Application> application = Application::get();
     const Ptr<UserInterface> userInterface =

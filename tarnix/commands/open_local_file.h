@@ -37,8 +37,8 @@ private:
     /// Uploads a file and opens it when it is converted. Without an active project it throws.
     void uploadAndOpenFile(const std::string& fileName);
 
-    /// Waits for the end of an upload; true when the file has arrived. The user is told of a
-    /// failure and of what becomes of an upload that is no longer waited for.
+    /// Waits for the end of an upload; true when the file has arrived. The user is shown a
+    /// failure, and what becomes of an upload that is no longer waited for.
     bool awaitUpload(const adsk::core::Ptr<adsk::core::DataFileFuture>& upload,
                      const adsk::core::Ptr<adsk::core::ProgressDialog>& progress);
 

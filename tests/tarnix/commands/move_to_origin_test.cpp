@@ -172,7 +172,7 @@ TEST_F(MoveToOrigin, WithNoDesignAsTheActiveProductNothingIsMovedAndNoMessageIsS
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(MoveToOrigin, SecondOpeningHasInputsOfItsOwn) {
+TEST_F(MoveToOrigin, SecondOpeningHasNewInputs) {
     select({0});
     session->click("ground");
     session->ok();
@@ -191,7 +191,7 @@ TEST_F(MoveToOrigin, ThrowsWithoutTheSelectionInput) {
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnCommandCreated");
 }
 
-TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoSelection) {
+TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoSelection) {
     select({0, 1});
     host::gate::refuse("SelectionCommandInput::selection", 2);
 
@@ -201,7 +201,7 @@ TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoSelection) {
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
-TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoOccurrence) {
+TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoOccurrence) {
     select({0, 1});
     host::gate::refuse("Selection::entity", 2);
 
@@ -211,7 +211,7 @@ TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoOccurrence) {
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
-TEST_F(MoveToOrigin, ThrowsWhereTheHostGivesNoOccurrenceToGround) {
+TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoOccurrenceToGround) {
     select({0});
     session->click("ground");
     host::gate::refuse("Selection::entity", 1);

@@ -33,7 +33,7 @@ TEST_F(OpenLocalFileLocale, StaysInForceAfterTheCommand) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(OpenLocalFileLocale, IsNotMadeForNoFile) {
+TEST_F(OpenLocalFileLocale, IsNotSetWithoutAFile) {
     pickNothing();
 
     EXPECT_EQ(decimalPoint(), ".");

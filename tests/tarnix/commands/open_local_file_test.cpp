@@ -163,7 +163,7 @@ TEST_F(OpenLocalFile, FileWithoutAnExtensionInADottedFolderIsUploaded) {
     EXPECT_EQ(uploaded(), Texts{"model"});
 }
 
-TEST_F(OpenLocalFile, EmptyNameIsToldToBeWrong) {
+TEST_F(OpenLocalFile, EmptyNameIsReported) {
     pick({""});
 
     EXPECT_EQ(messages(), Texts{"Something is wrong with the file"});
@@ -202,7 +202,7 @@ TEST_F(OpenLocalFile, ThrowsWhereTheHostMakesNoProgressDialog) {
     EXPECT_EQ(opened(), Texts());
 }
 
-TEST_F(OpenLocalFile, ThrowsWhereTheHostGivesNothingToWaitFor) {
+TEST_F(OpenLocalFile, ThrowsWhereTheHostReturnsNothingToWaitFor) {
     host::gate::refuse("DataFolder::uploadFile", 1);
 
     pick({design("model.ipt"), design("part.f3d")});

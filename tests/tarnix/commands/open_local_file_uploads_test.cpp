@@ -103,7 +103,7 @@ TEST_F(OpenLocalFileUploads, DialogIsHiddenAtTheEnd) {
     EXPECT_EQ(host::progressDialog(), std::nullopt);
 }
 
-TEST_F(OpenLocalFileUploads, FailedUploadIsTold) {
+TEST_F(OpenLocalFileUploads, FailedUploadIsReported) {
     storage().uploadSeconds = 2;
     storage().uploadFails = true;
 
@@ -212,7 +212,7 @@ TEST_F(OpenLocalFileUploads, FailureOfOneFileDoesNotKeepTheNextOneBack) {
     EXPECT_EQ(opened(), Texts{"part"});
 }
 
-TEST_F(OpenLocalFileUploads, SecondPressDuringAWaitLeavesTheFirstToItsOwnList) {
+TEST_F(OpenLocalFileUploads, SecondPressDuringAWaitLeavesTheFirstToItsList) {
     storage().uploadSeconds = 6;
     const std::string other = design("other.f3d");
     host::clock::schedule(3, [&] { pick({other}); });

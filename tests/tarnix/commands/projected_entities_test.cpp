@@ -85,7 +85,7 @@ TEST_F(ProjectedEntities, CurveThatIsConstructionAlreadyIsSetAgain) {
     EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kDrawn}));
 }
 
-TEST_F(ProjectedEntities, ThrowsWhereTheHostGivesNoCurves) {
+TEST_F(ProjectedEntities, ThrowsWhereTheHostReturnsNoCurves) {
     openSketch({kProjected});
     edit();
     host::gate::refuse("Sketch::sketchCurves", 1);
@@ -96,7 +96,7 @@ TEST_F(ProjectedEntities, ThrowsWhereTheHostGivesNoCurves) {
     EXPECT_EQ(curves(), Curves{kProjected});
 }
 
-TEST_F(ProjectedEntities, ThrowsAtACurveThatTheHostDoesNotGive) {
+TEST_F(ProjectedEntities, ThrowsAtACurveThatTheHostDoesNotReturn) {
     openSketch({kProjected, kProjected, kProjected});
     edit();
     host::gate::refuse("SketchCurves::item", 2);

@@ -49,7 +49,7 @@ TEST_F(UnitsConversion, PaletteCanBeClosedAndResizedAndUsesTheOldBrowser) {
     EXPECT_FALSE(state.newWebBrowser);
 }
 
-TEST_F(UnitsConversion, ToldToFloatOnceWhenItIsMade) {
+TEST_F(UnitsConversion, SetToFloatOnceWhenItIsMade) {
     host::gate::reset();
 
     session->press(kCommand);

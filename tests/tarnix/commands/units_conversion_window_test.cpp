@@ -60,7 +60,7 @@ TEST_F(UnitsConversionAtAWindow, MovesThePaletteAlongAndRestoresItsSize) {
     EXPECT_EQ(place(), (Numbers{175, 45, 260, 400}));
 }
 
-TEST_F(UnitsConversionAtAWindow, TakesAnotherWindowThatIsInFrontForTheHosts) {
+TEST_F(UnitsConversionAtAWindow, TakesAForemostWindowOfTheSameTitleForTheHosts) {
     const FramedWindow window("Autodesk Fusion 360", 100, 50, 600, 500);
     const FramedWindow unrelated("Mail", 10, 40, 300, 300);
     const FramedWindow inFront("How to use Autodesk Fusion 360", 20, 60, 300, 400);
