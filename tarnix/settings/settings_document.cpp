@@ -15,7 +15,7 @@ using platform::XmlNode;
 using platform::XmlNodeList;
 using platform::XmlNodeType;
 
-/// Gives an element one more attribute.
+/// Adds an attribute to an element.
 void addAttribute(const XmlDocument& document, const XmlNode& element, const std::string& name,
                   const std::string& value) {
     XmlNode attribute = document.createNode(XmlNodeType::Attribute, name);
@@ -41,7 +41,7 @@ bool isCategory(const XmlNode& node, const std::string& elementName,
     return node.nodeName() == elementName && firstAttributeValue(node) == categoryName;
 }
 
-/// The elements of the root that stand for a category.
+/// The elements of the root that are a category of this name.
 std::vector<XmlNode> categoriesOf(const XmlDocument& document, const std::string& elementName,
                                   const std::string& categoryName) {
     std::vector<XmlNode> categories;
@@ -62,7 +62,7 @@ void removeChildren(XmlNode parent) {
     }
 }
 
-/// Adds an item to a category. Its text is cut at the first ";", and without one is all key.
+/// Adds an item to a category. The string is split at its first ";", and without one is all key.
 void addItem(const XmlDocument& document, const XmlNode& category, const std::string& elementName,
              const std::string& item) {
     const std::size_t semicolon = item.find(';');
@@ -158,7 +158,7 @@ std::string readHelpdeskUrl() {
 void writeHelpdeskUrl(const std::string& url) {
     const std::string path = settingsFilePath();
     {
-        // Let go before COM is: its library may be unloaded with the last user.
+        // Released before COM is: its library may be unloaded with the last use.
         const XmlDocument document = openSettingsDocument(path);
         for (const XmlNode& category : categoriesOf(document, "category", "httpHelpdesk")) {
             category.firstChild().setText(url);
@@ -189,7 +189,7 @@ void replaceCategoryItems(const std::string& categoryName,
                           MissingCategory missing) {
     const std::string path = settingsFilePath();
     {
-        // Let go before COM is: its library may be unloaded with the last user.
+        // Released before COM is: its library may be unloaded with the last use.
         const XmlDocument document = openSettingsDocument(path);
         replaceItems(document, categoryName, readItems, missing);
         document.save(path);

@@ -14,7 +14,7 @@
 /// that a change is seen by the next read, and is made with its default content when it is missing.
 ///
 /// A failing call on the document throws `_com_error`, which no function here catches. A file that
-/// is no XML is not repaired: what needs its root throws `E_POINTER`.
+/// is not XML is not repaired: what needs its root throws `E_POINTER`.
 namespace tarnix {
 
 /// The web address of the default support provider's helpdesk.
@@ -34,12 +34,12 @@ platform::XmlDocument openSettingsDocument(const std::string& path);
 void createDefaultSettings(const std::string& path);
 
 /// The items of a category, in document order; of all categories of that name where there are
-/// several. An item is one text: its key, ";" and its value.
+/// several. An item is one string: its key, ";" and its value.
 std::vector<std::string> readCategoryItems(const std::string& elementName,
                                            const std::string& categoryName);
 
-/// The text of one item. An empty value reads "missing"; an item with an empty key is an empty
-/// text.
+/// An item as one string. An empty value reads "missing"; an item with an empty key is an empty
+/// string.
 std::string itemToString(const platform::XmlNode& itemElement);
 
 /// The web address of the support provider; empty when the document has no category for it.
@@ -64,7 +64,8 @@ platform::XmlNode appendItem(const platform::XmlDocument& document, platform::Xm
 enum class MissingCategory { Create, LeaveOut };
 
 /// Replaces the items of a category in the stored document: opens it, removes what the category
-/// holds, adds an element "item_" + `categoryName` for each text of `readItems`, split at its first
+/// holds, adds an element "item_" + `categoryName` for each string of `readItems`, split at its
+/// first
 /// ";" into key and value, and saves. Categories of the same name all get the items. `readItems` is
 /// asked when a category has been emptied, and not where there is none. When anything throws, the
 /// file stays as it was; one that was missing has been made by then.

@@ -166,7 +166,7 @@ TEST_F(Configuration, TakesAnythingForAnAddress) {
     EXPECT_EQ(stored(), "ask \xC5\xBDofie");
 }
 
-TEST_F(Configuration, GivesAnAddressWithAnAmpersandBackUnchanged) {
+TEST_F(Configuration, KeepsAnAddressWithAnAmpersandUnchanged) {
     const std::string url = "http://help.example/?a=1&b=2&lang=cs";
     openConfiguration();
     session->choose(kChoice, kOtherCaption);
@@ -179,7 +179,7 @@ TEST_F(Configuration, GivesAnAddressWithAnAmpersandBackUnchanged) {
     EXPECT_EQ(stored(), "http://help.example/?a=1&amp;b=2&amp;lang=cs");
 }
 
-TEST_F(Configuration, GivesAnAddressThatHoldsAnEntityBackUnchanged) {
+TEST_F(Configuration, KeepsAnAddressThatHoldsAnEntityUnchanged) {
     store("http://h/?a=1&amp;amp;b=2&amp;lt;");
     openConfiguration();
     EXPECT_EQ(shown(), "1 http://h/?a=1&amp;b=2&lt;");
@@ -187,7 +187,7 @@ TEST_F(Configuration, GivesAnAddressThatHoldsAnEntityBackUnchanged) {
     EXPECT_EQ(stored(), "http://h/?a=1&amp;amp;b=2&amp;lt;");
 }
 
-TEST_F(Configuration, GivesAnAddressThatHoldsATagBackUnchanged) {
+TEST_F(Configuration, KeepsAnAddressThatHoldsATagUnchanged) {
     store("http://h/&lt;b&gt;bold&lt;/b&gt;");
     openConfiguration();
     EXPECT_EQ(shown(), "1 http://h/<b>bold</b>");
@@ -227,7 +227,7 @@ TEST_F(Configuration, WithoutAnElementForTheAddressThrowsWhileItOpens) {
     EXPECT_EQ(session->uncaughtExceptions()[0].event, "OnCommandCreated");
 }
 
-TEST_F(Configuration, LeavesAFileThatIsNoXmlAsItWas) {
+TEST_F(Configuration, LeavesAFileThatIsNotXmlAsItWas) {
     openConfiguration();
     test_support::writeFile(settingsFile(), "<configuration");
     session->ok();

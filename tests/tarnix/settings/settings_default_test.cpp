@@ -33,13 +33,13 @@ TEST_F(DefaultSettings, FileThatIsThereIsLeftAlone) {
     EXPECT_EQ(folder.read(kFile), before);
 }
 
-TEST_F(DefaultSettings, FileThatIsNoXmlIsNotRepaired) {
+TEST_F(DefaultSettings, FileThatIsNotXmlIsNotRepaired) {
     folder.write(kFile, "no xml");
     EXPECT_FALSE(openSettingsDocument(settingsFilePath()).documentElement());
     EXPECT_EQ(folder.read(kFile), "no xml");
 }
 
-TEST_F(DefaultSettings, FolderThatCannotBeWrittenRaises) {
+TEST_F(DefaultSettings, FolderThatCannotBeWrittenThrows) {
     test::modulePath() = folder.windows("missing/Tarnix.dll");
     EXPECT_LT(comError([] { readCategoryItems("category", "bomItems"); }), 0);
     EXPECT_LT(comError([] { readHelpdeskUrl(); }), 0);
@@ -47,7 +47,7 @@ TEST_F(DefaultSettings, FolderThatCannotBeWrittenRaises) {
     EXPECT_EQ(folder.count(), 0);
 }
 
-TEST_F(DefaultSettings, PathMayHoldBlanksAndSpecialCharacters) {
+TEST_F(DefaultSettings, PathMayHoldSpacesAndSpecialCharacters) {
     const std::string name = "a b & (c) +d %e";
     test::modulePath() = folder.windows(name + ".dll");
     EXPECT_EQ(readHelpdeskUrl(), defaultHelpdeskUrl);

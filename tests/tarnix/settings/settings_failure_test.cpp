@@ -76,7 +76,7 @@ TEST_F(FailingWrite, OfTheColumnsLeavesTheFileAsItWas) {
     EXPECT_GT(failures, 10);
 }
 
-TEST_F(FailingWrite, OfTheHelpdeskUrlThrowsBehindACategoryWithoutAnElement) {
+TEST_F(FailingWrite, OfTheHelpdeskUrlThrowsAfterACategoryWithoutAnElement) {
     writeSettings(
         "<category name=\"httpHelpdesk\"><www>http://old.example/</www></category>"
         "<category name=\"httpHelpdesk\"/>");

@@ -100,27 +100,27 @@ TEST_F(SettingsItems, SpecialCharactersReadAsThemselves) {
     EXPECT_EQ(bomItems(), Items{"QEMA_A&B\";<\xC4\x8D> a;b"});
 }
 
-TEST_F(SettingsItems, ItemWithoutAFirstChildRaises) {
+TEST_F(SettingsItems, ItemWithoutAFirstChildThrows) {
     writeSettings("<category name=\"bomItems\"><i id=\"a\"/></category>");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
 }
 
-TEST_F(SettingsItems, ItemWithoutAnAttributeRaises) {
+TEST_F(SettingsItems, ItemWithoutAnAttributeThrows) {
     writeSettings("<category name=\"bomItems\"><i><d>1</d></i></category>");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
 }
 
-TEST_F(SettingsItems, CommentAmongTheItemsRaises) {
+TEST_F(SettingsItems, CommentAmongTheItemsThrows) {
     writeSettings("<category name=\"bomItems\"><!-- note --></category>");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
 }
 
-TEST_F(SettingsItems, CategoryWithoutAnAttributeRaises) {
+TEST_F(SettingsItems, CategoryWithoutAnAttributeThrows) {
     writeSettings("<category/><category name=\"bomItems\"/>");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
 }
 
-TEST_F(SettingsItems, FileThatIsNoXmlRaises) {
+TEST_F(SettingsItems, FileThatIsNotXmlThrows) {
     folder.write(kFile, "no xml");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
     EXPECT_EQ(comError([] { readHelpdeskUrl(); }), E_POINTER);
@@ -128,7 +128,7 @@ TEST_F(SettingsItems, FileThatIsNoXmlRaises) {
     EXPECT_EQ(folder.read(kFile), "no xml");
 }
 
-TEST_F(SettingsItems, EmptyFileRaises) {
+TEST_F(SettingsItems, EmptyFileThrows) {
     folder.write(kFile, "");
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
 }

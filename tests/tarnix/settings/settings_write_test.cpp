@@ -51,7 +51,7 @@ TEST_F(ReplacedItems, MayBeNone) {
               "</configuration>");
 }
 
-TEST_F(ReplacedItems, MissingCategoryIsAddedBehindTheOthers) {
+TEST_F(ReplacedItems, MissingCategoryIsAddedAfterTheOthers) {
     writeSettings("<other/>");
     replaceItems("bomItems", {"a;1"});
     EXPECT_EQ(stored(),
@@ -98,14 +98,14 @@ TEST_F(ReplacedItems, ControlCharactersDoNotSpoilTheFile) {
     EXPECT_EQ(bomItems(), Items{"QEMA_a;b"});
 }
 
-TEST_F(ReplacedItems, WrittenTwiceGiveTheSameFile) {
+TEST_F(ReplacedItems, WrittenTwiceLeaveTheSameFile) {
     replaceItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;"});
     const std::string once = folder.read(kFile);
     replaceItems("bomItems", {"QEMA_Mass;Weight", "QEMA_Area;"});
     EXPECT_EQ(folder.read(kFile), once);
 }
 
-TEST_F(ReplacedItems, WhatWasWrittenByHandElsewhereStays) {
+TEST_F(ReplacedItems, ManualEditsElsewhereStay) {
     folder.write(kFile,
                  "<!-- mine -->\n<configuration b=\"1\" a=\"2\">\n  <!-- note -->\n"
                  "  <extra><x y=\"z\"/></extra>\n  <category name=\"bomItems\"/>\n"
@@ -118,14 +118,14 @@ TEST_F(ReplacedItems, WhatWasWrittenByHandElsewhereStays) {
               "</item_bomItems></category></configuration>");
 }
 
-TEST_F(ReplacedItems, FileKeepsItsContentWhenACategoryRaises) {
+TEST_F(ReplacedItems, FileKeepsItsContentWhenACategoryThrows) {
     writeSettings("<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category><category/>");
     const std::string before = folder.read(kFile);
     EXPECT_EQ(comError([] { replaceItems("bomItems", {"b;2"}); }), E_POINTER);
     EXPECT_EQ(folder.read(kFile), before);
 }
 
-TEST_F(ReplacedItems, AreAskedForBehindTheOpeningOfTheDocument) {
+TEST_F(ReplacedItems, AreAskedForAfterTheOpeningOfTheDocument) {
     const auto readItems = []() -> Items { throw std::runtime_error("no items"); };
     EXPECT_THROW(replaceCategoryItems("bomItems", readItems), std::runtime_error);
     EXPECT_EQ(stored(),
@@ -141,7 +141,7 @@ TEST_F(ReplacedItems, AreNotAskedForOfACategoryThatIsLeftOut) {
     EXPECT_NO_THROW(replaceCategoryItems("bomItems", readItems, MissingCategory::LeaveOut));
 }
 
-TEST_F(ReplacedItems, StayAsTheyAreWhenAskingForOthersRaises) {
+TEST_F(ReplacedItems, StayAsTheyAreWhenAskingForOthersThrows) {
     writeSettings("<category name=\"bomItems\"><i id=\"a\"><d>1</d></i></category>");
     const auto readItems = []() -> Items { throw std::runtime_error("no items"); };
     EXPECT_THROW(replaceCategoryItems("bomItems", readItems), std::runtime_error);
@@ -180,7 +180,7 @@ protected:
     }
 };
 
-TEST_F(AppendedElements, CategoryStandsUnderTheRoot) {
+TEST_F(AppendedElements, CategoryIsUnderTheRoot) {
     const platform::XmlDocument document = open();
     const platform::XmlNode category = appendCategory(document, "category", "name", "bomItems");
     const platform::XmlNode stored = document.documentElement().firstChild();
@@ -196,7 +196,7 @@ TEST_F(AppendedElements, CategoryNeedsARoot) {
     EXPECT_EQ(comError([&] { appendCategory(empty, "category", "name", "x"); }), E_POINTER);
 }
 
-TEST_F(AppendedElements, CategoryIsDroppedWhenAnExceptionIsThrownOnTheWay) {
+TEST_F(AppendedElements, CategoryIsDroppedWhenAnExceptionIsThrown) {
     const platform::XmlDocument document = open();
     const std::string outcomes = appendWithFailures(document);
     EXPECT_TRUE(outcomes.starts_with("- - - ")) << outcomes;
@@ -204,7 +204,7 @@ TEST_F(AppendedElements, CategoryIsDroppedWhenAnExceptionIsThrownOnTheWay) {
     EXPECT_EQ(document.documentElement().childNodes().length(), 1);
 }
 
-TEST_F(AppendedElements, ItemStandsUnderItsParent) {
+TEST_F(AppendedElements, ItemIsUnderItsParent) {
     const platform::XmlDocument document = open();
     const platform::XmlNode category = appendCategory(document, "category", "name", "bomItems");
     appendItem(document, category, "item_bomItems", "id", "QEMA_Mass");
@@ -219,7 +219,7 @@ TEST_F(AppendedElements, ItemNeedsAParent) {
     EXPECT_EQ(comError([&] { appendItem(document, {}, "item_bomItems", "id", "a"); }), E_POINTER);
 }
 
-TEST_F(AppendedElements, ItemIsReadAsOneText) {
+TEST_F(AppendedElements, ItemIsReadAsOneString) {
     const platform::XmlDocument document = open();
     platform::XmlNode item =
         appendItem(document, document.documentElement(), "item_bomItems", "id", "QEMA_Mass");
