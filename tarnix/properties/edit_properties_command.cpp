@@ -123,8 +123,8 @@ void EditPropertiesCmdInputChangedHandler::onSelectionChanged(
     }
     enableInputs(eventArgs->inputs(), true);
     const Ptr<Component> component = componentOf(selection->entity());
-    // Where parts are machined the inputs stay as they are, and OK writes what stands in them: for
-    // a component picked right after opening, empty texts and no structure.
+    // Where parts are machined the inputs stay as they are, and OK writes what they hold: for a
+    // component picked right after opening, empty strings and no structure.
     if (!component || isManufacturing()) {
         return;
     }

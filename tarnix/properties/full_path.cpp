@@ -106,7 +106,7 @@ Found fileOfActive(const Ptr<Application>& application) {
 }
 
 /// The file of what is selected where that is one entity and it is picked for the dialog, else that
-/// of the active document. None where the host does not tell what is selected.
+/// of the active document. No file where the host does not report what is selected.
 Found fileOfSelected(const Ptr<Application>& application, const Ptr<Selections>& selections,
                      const Ptr<SelectionCommandInput>& input) {
     if (!selections) {
@@ -142,8 +142,8 @@ Found findFile(const Ptr<CommandInputs>& inputs) {
     return fileOfSelected(application, userInterface->activeSelections(), input);
 }
 
-/// The folders of a file from the outermost to the innermost, each behind a separator. The root
-/// folder of the project is not told.
+/// The folders of a file from the outermost to the innermost, each after a separator. The root
+/// folder of the project is left out.
 std::string folderPath(const Ptr<DataFile>& file) {
     Ptr<DataFolder> folder = file->parentFolder();
     if (!folder) {

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// What is done to the inputs in the groups of a collection; inputs beside the groups, and the
+/// Operations on the inputs in the groups of a collection; inputs beside the groups, and the
 /// selection of the component, are skipped.
 namespace tarnix {
 
@@ -18,7 +18,7 @@ void enableInputs(const adsk::core::Ptr<adsk::core::CommandInputs>& inputs, bool
 
 /// The properties that the inputs hold, in the order of the dialog: lines of text and check boxes
 /// by their ids, the buttons of a row by their captions. What is on is "1", what is off "0". Boxes
-/// whose id is no property's key and texts for reading alone hold none.
+/// whose id is not a property's key and read-only texts hold none.
 std::vector<PropertyEntry> collectValues(const adsk::core::Ptr<adsk::core::CommandInputs>& inputs);
 
 }  // namespace tarnix

@@ -10,7 +10,7 @@ using adsk::fusion::Component;
 using adsk::fusion::Occurrence;
 
 Ptr<Selection> lastSelection(const Ptr<SelectionCommandInput>& input) {
-    // With nothing picked the index is no valid one, for which the host has no selection.
+    // With nothing picked the index is not valid, and the host has no selection for it.
     return input->selection(input->selectionCount() - 1);
 }
 

@@ -9,7 +9,7 @@ namespace tarnix {
 adsk::core::Ptr<adsk::core::Selection> lastSelection(
     const adsk::core::Ptr<adsk::core::SelectionCommandInput>& input);
 
-/// The component that a picked entity stands for: itself, or the component of an occurrence. Null
+/// The component that a picked entity means: itself, or the component of an occurrence. Null
 /// for an entity of another kind.
 adsk::core::Ptr<adsk::fusion::Component> componentOf(
     const adsk::core::Ptr<adsk::core::Base>& entity);

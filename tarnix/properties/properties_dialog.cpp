@@ -46,7 +46,7 @@ constexpr const char* kTableDescription =
 
 std::string keyOf(const std::string& entry) { return entry.substr(0, entry.find(';')); }
 
-/// What stands behind the first ";", the whole entry where there is none.
+/// What follows the first ";", the whole entry where there is none.
 std::string displayNameOf(const std::string& entry) { return entry.substr(entry.find(';') + 1); }
 
 /// The id of an entry's row. It lacks the key's last character: the key itself is the id of the
@@ -68,7 +68,7 @@ void addSelection(const Ptr<CommandInputs>& inputs) {
     selection->setSelectionLimits(1, 1);
 }
 
-/// A new group, null where the host gives none.
+/// A new group, null where the host makes none.
 Ptr<GroupCommandInput> addGroup(const Ptr<CommandInputs>& inputs, const char* id,
                                 const char* name) {
     Ptr<GroupCommandInput> group = inputs->addGroupCommandInput(id, name);
@@ -93,8 +93,8 @@ bool addStructureButtons(const Ptr<CommandInputs>& inputs) {
     return true;
 }
 
-/// The properties that every component has. False where the host gives no group, nothing to fill it
-/// by, or no buttons.
+/// The properties that every component has. False where the host makes no group, no inputs in it or
+/// no buttons.
 ///
 /// The part number comes before the part name, since they are written in the order of the dialog.
 bool addProperties(const Ptr<CommandInputs>& inputs, const Ptr<CommandInputs>& tab) {
@@ -111,7 +111,7 @@ bool addProperties(const Ptr<CommandInputs>& inputs, const Ptr<CommandInputs>& t
     return true;
 }
 
-/// A line for each entry of the settings. False where the host gives no group; one that cannot be
+/// A line for each entry of the settings. False where the host makes no group; one that cannot be
 /// filled throws as soon as there is an entry.
 bool addCustomProperties(const Ptr<CommandInputs>& tab, const Entries& entries) {
     const Ptr<GroupCommandInput> group = addGroup(tab, kCustomProperties, "Custom Properties");
@@ -143,7 +143,7 @@ void addPropertyList(const Ptr<CommandInputs>& tab, const Entries& entries) {
     fillUserPropertyTable(table, entries);
 }
 
-void tellUser(const char* text) { Application::get()->userInterface()->messageBox(text, ""); }
+void showMessage(const char* text) { Application::get()->userInterface()->messageBox(text, ""); }
 
 }  // namespace
 
@@ -171,10 +171,10 @@ void buildPropertiesDialog(Ptr<CommandInputs> inputs) {
 
 void setSelectionFilters(Ptr<SelectionCommandInput> selectionInput) {
     if (!selectionInput->addSelectionFilter(selection_filter::kOccurrences)) {
-        tellUser("occurrence failed");
+        showMessage("occurrence failed");
     }
     if (!selectionInput->addSelectionFilter(selection_filter::kRootComponents)) {
-        tellUser("root failed");
+        showMessage("root failed");
     }
 }
 

@@ -11,7 +11,7 @@ namespace tarnix {
 /// Where a component's properties live in the design.
 ///
 /// The part number, the name and the description are the model's own; everything else is an
-/// attribute of one group on the component, a text under a text. All occurrences of a component
+/// attribute of one group on the component, a value under a name. All occurrences of a component
 /// share one set. Nothing is cached: each read asks the model again.
 
 /// The group of a component's attributes that holds its properties.

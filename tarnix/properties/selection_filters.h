@@ -1,7 +1,7 @@
 #pragma once
 
 /// The host's selection filters by name, in the order of its documentation: what a selection input
-/// can be told to accept.
+/// can be made to accept.
 namespace tarnix::selection_filter {
 
 inline constexpr const char* kBodies = "Bodies";

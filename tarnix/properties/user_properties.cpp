@@ -20,7 +20,7 @@ namespace {
 
 using namespace property_inputs;
 
-// Stands exactly so, with its stray markup and its order of letters.
+// Fixed as it is, with its stray markup and its order of letters.
 constexpr const char* kIncorrectCharacter =
     R"(<div style="background-color:#fefa50" align="center"><b>Incorrect char !</b><br>)"
     R"(Valid chars are only 0,1,2,3,4,5,6,7,8,9,SPACE,_,-</br><br>)"

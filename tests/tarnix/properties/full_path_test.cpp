@@ -64,7 +64,7 @@ TEST_F(FullPath, IsEmptyForADesignThatWasNeverSaved) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(FullPath, TellsLabelProjectFoldersAndFileInHtml) {
+TEST_F(FullPath, ShowsLabelProjectFoldersAndFileInHtml) {
     store("Alfa/Designs/Motors/Gearbox", "Bolt");
     openStored("Alfa/Designs/Motors/Gearbox");
     openProperties();
@@ -154,7 +154,7 @@ TEST_F(FullPath, OfAReferenceIsEmptyWhereTheUserHasNoData) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(FullPath, OfAReferenceIsEmptyWhereItsComponentTellsNoDesign) {
+TEST_F(FullPath, OfAReferenceIsEmptyWhereItsComponentHasNoDesign) {
     store("Alfa/Engine", "Piston");
     store("Alfa/Gearbox", "Motor  document=Engine");
     openStored("Alfa/Gearbox");
@@ -165,7 +165,7 @@ TEST_F(FullPath, OfAReferenceIsEmptyWhereItsComponentTellsNoDesign) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(FullPath, OfAReferenceIsEmptyWhereItsDesignTellsNoDocument) {
+TEST_F(FullPath, OfAReferenceIsEmptyWhereItsDesignHasNoDocument) {
     store("Alfa/Engine", "Piston");
     store("Alfa/Gearbox", "Motor  document=Engine");
     openStored("Alfa/Gearbox");
@@ -211,7 +211,7 @@ TEST_F(FullPath, InTheDocumentationWorkspaceIsAlwaysTheActiveDocument) {
     EXPECT_EQ(value(kPartName), "Motor");
 }
 
-TEST_F(FullPath, ThrowsWhenTheProjectBehindTheFileIsMissing) {
+TEST_F(FullPath, ThrowsWhenTheProjectOfTheFileIsMissing) {
     store("Alfa/Gearbox", "Bolt");
     openStored("Alfa/Gearbox");
     openProperties();
@@ -230,14 +230,14 @@ TEST_F(FullPath, IsEmptyWhenTheActiveDocumentIsMissing) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(FullPath, IsEmptyWhereTheHostDoesNotTellWhatIsSelected) {
+TEST_F(FullPath, IsEmptyWhereTheHostHasNoSelections) {
     pickMotorWithout("UserInterface::activeSelections");
     EXPECT_EQ(box(kFullPath), "");
     EXPECT_EQ(value(kPartName), "Motor");
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(FullPath, IsEmptyWhereTheHostDoesNotGiveWhatIsSelected) {
+TEST_F(FullPath, IsEmptyWhereTheHostDoesNotReturnWhatIsSelected) {
     pickMotorWithout("Selections::item");
     EXPECT_EQ(box(kFullPath), "");
     EXPECT_EQ(value(kPartName), "Motor");

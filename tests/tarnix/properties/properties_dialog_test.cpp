@@ -196,7 +196,7 @@ TEST_F(PropertiesDialog, HoldsOnePickAtMost) {
     EXPECT_EQ(value(kPartName), "Nut");
 }
 
-TEST_F(PropertiesDialog, TellsOfASelectionFilterThatTheHostRefuses) {
+TEST_F(PropertiesDialog, ReportsASelectionFilterThatTheHostRefuses) {
     host::gate::refuse("SelectionCommandInput::addSelectionFilter", 1);
     openProperties();
     ASSERT_EQ(session->messages().size(), 1U);
@@ -205,7 +205,7 @@ TEST_F(PropertiesDialog, TellsOfASelectionFilterThatTheHostRefuses) {
     EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
 }
 
-TEST_F(PropertiesDialog, TellsOfTheSecondSelectionFilterToo) {
+TEST_F(PropertiesDialog, ReportsTheSecondSelectionFilterToo) {
     host::gate::refuse("SelectionCommandInput::addSelectionFilter", 2);
     openProperties();
     ASSERT_EQ(session->messages().size(), 1U);

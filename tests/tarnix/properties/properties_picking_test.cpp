@@ -36,7 +36,7 @@ TEST_F(PickedComponent, CanBeTheRootComponent) {
     EXPECT_EQ(values(), " | Design | Design | ");
 }
 
-TEST_F(PickedComponent, CanStandDeepInTheDesign) {
+TEST_F(PickedComponent, CanBeDeepInTheDesign) {
     open(R"(
         Gearbox
           Shaft
@@ -123,7 +123,7 @@ TEST_F(PickedComponent, WhenItIsClearedWithoutARootComponentChangesNothing) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(PickedComponent, IsNotLookedForWhereTheInputIsNoSelection) {
+TEST_F(PickedComponent, IsNotLookedForWhereTheInputIsNotASelection) {
     open("Bolt");
     openAndPick("Bolt:1");
     const adsk::core::Ptr<adsk::core::TextBoxCommandInput> box = session->input(kFullPath);

@@ -103,14 +103,14 @@ TEST_F(PropertyStoreTest, WritingGoesToTheModelAndToTheAttributes) {
     EXPECT_EQ(read(), entries);
 }
 
-TEST_F(PropertyStoreTest, WritingANameWithoutANumberInFrontLeavesTheNumberEmpty) {
+TEST_F(PropertyStoreTest, WritingANameWithoutANumberBeforeLeavesTheNumberEmpty) {
     open("Bolt  number=B-1");
     write({{"QEMA_Part Name", "Screw"}});
     EXPECT_EQ(component->name(), "Screw");
     EXPECT_EQ(component->partNumber(), "");
 }
 
-TEST_F(PropertyStoreTest, WritingANameSetsTheNumberInFrontOfItAgain) {
+TEST_F(PropertyStoreTest, WritingANameSetsTheNumberBeforeItAgain) {
     open("Bolt");
     write({{"QEMA_Part Number", "B-1"}, {"QEMA_Part Name", "Screw"}, {"QEMA_Part Number", "B-2"}});
     EXPECT_EQ(component->partNumber(), "B-2");
@@ -133,7 +133,7 @@ TEST_F(PropertyStoreTest, WritingLeavesWhatHasNoEntry) {
                                {"QEMA_Colour", "red"}}));
 }
 
-TEST_F(PropertyStoreTest, WritingGoesOnBehindARefusedSetter) {
+TEST_F(PropertyStoreTest, WritingGoesOnAfterARefusedSetter) {
     open("Bolt  number=B-1");
     host::gate::reset();
     host::gate::refuse("Component::description", 1);
@@ -176,7 +176,7 @@ TEST(FindProperty, ReturnsTheFirstEntryOfTheKey) {
     EXPECT_EQ(findProperty(properties, "Colour"), "red");
 }
 
-TEST(FindProperty, ReturnsTheEmptyTextForAnUnknownKey) {
+TEST(FindProperty, ReturnsAnEmptyStringForAnUnknownKey) {
     EXPECT_EQ(findProperty({{{"Colour", "red"}}, nullptr}, "colour"), "");
 }
 

@@ -38,7 +38,7 @@ protected:
     [[nodiscard]] std::string settings() const { return test_support::readFile(settingsFile()); }
 };
 
-TEST_F(UserProperties, MayHaveLettersDigitsBlankHyphenAndUnderscoreAlone) {
+TEST_F(UserProperties, MayHaveLettersDigitsSpaceHyphenAndUnderscoreAlone) {
     offer({"QEMA_Colour;Colour"});
     showList();
     EXPECT_EQ(acceptedBytes(), " -0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz");
@@ -103,7 +103,7 @@ TEST_F(UserProperties, AreAddedAsEmptyRowsWithIdsThatNeverRepeat) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(UserProperties, AreAddedBehindTheOthers) {
+TEST_F(UserProperties, AreAddedAfterTheOthers) {
     offer({"QEMA_Colour;Colour"});
     showList();
     session->click(kAddRow);
@@ -121,7 +121,7 @@ TEST_F(UserProperties, AreNotDeletedWithoutASelectedRow) {
     EXPECT_EQ(rows(), "|Colour|");
 }
 
-TEST_F(UserProperties, StayWhereTheHostGivesNoTable) {
+TEST_F(UserProperties, StayWhereTheHostReturnsNoTable) {
     offer({"QEMA_Colour;Colour"});
     showList();
     host::gate::refuse("CommandInputs::itemById", 1);
@@ -142,7 +142,7 @@ TEST_F(UserProperties, AreNotCheckedWithoutTheBoxForTheMessage) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(UserProperties, AreNotCheckedInACellThatIsNoLineOfText) {
+TEST_F(UserProperties, AreNotCheckedInACellThatIsNotALineOfText) {
     showList();
     const Ptr<TableCommandInput> table = session->table(kTable);
     table->addCommandInput(table->commandInputs()->addBoolValueInput("odd", "Odd", true), 0, 0);
@@ -248,7 +248,7 @@ TEST_F(UserProperties, LeaveTheOtherCategoriesAsTheyAre) {
     EXPECT_NE(settings().find(others), std::string::npos);
 }
 
-TEST_F(UserProperties, RaiseForACellThatIsNoLineOfText) {
+TEST_F(UserProperties, ThrowForACellThatIsNotALineOfText) {
     offer({"QEMA_Colour;Colour"});
     showList();
     const std::string before = settings();
@@ -270,7 +270,7 @@ TEST_F(UserProperties, AreNotReadWhereTheSettingsHaveNoCategoryForThem) {
     EXPECT_EQ(savedList(), "none");
 }
 
-TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsAreNoXml) {
+TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsAreNotXml) {
     showList();
     test_support::writeFile(settingsFile(), "<configuration");
     session->click(kSave);

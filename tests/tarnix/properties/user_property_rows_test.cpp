@@ -46,7 +46,7 @@ TEST_F(UserPropertyRows, AreCountedOverAllTables) {
     EXPECT_EQ(addedRowCounter, 15095);
 }
 
-TEST_F(UserPropertyRows, StandBehindThoseThatTheTableHas) {
+TEST_F(UserPropertyRows, ComeAfterThoseThatTheTableHas) {
     fillUserPropertyTable(table, {"QEMA_Colour;Colour"});
     fillUserPropertyTable(table, {"QEMA_Size;Size; large"});
 
