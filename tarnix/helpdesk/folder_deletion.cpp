@@ -12,7 +12,7 @@ namespace {
 using platform::FolderSearch;
 using platform::FoundFile;
 
-/// Two texts in one, with nothing put in between; nothing if it does not fit into 260 units, the
+/// Two strings in one, with nothing put in between; nothing if it does not fit into 260 units, the
 /// terminating zero included.
 std::optional<std::u16string> joined(const std::u16string& path, const std::u16string& name) {
     constexpr std::size_t kLongest = 259;
@@ -53,7 +53,7 @@ bool deleteContent(const std::u16string& folder) {
     if (!pattern) {
         return false;
     }
-    // The first entry is not looked at: it stands for ".".
+    // The first entry is taken for "." and not looked at.
     FolderSearch search(*pattern);
     if (!search) {
         return false;

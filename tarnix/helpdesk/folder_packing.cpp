@@ -24,7 +24,7 @@ void fill(const std::string& archivePath, const std::string& folder) {
 }  // namespace
 
 std::array<std::uint8_t, 22> emptyZipRecord() {
-    // The signature 0x06054B50; the numbers behind it are all zero.
+    // The signature 0x06054B50; the numbers after it are all zero.
     return {'P', 'K', 5, 6};
 }
 

@@ -17,13 +17,15 @@ inline constexpr CommandTexts kCompressFolderCommand = {
 /// Writes an archive without entries, in the place of an earlier file.
 void createEmptyZip(std::string archivePath);
 
-/// Packs what a folder holds into an archive, which may lie in that folder. Both are 8-bit texts.
+/// Packs what a folder holds into an archive, which may lie in that folder. Both are 8-bit strings.
 ///
-/// The archive is made again and empty; the system's compressed folders fill it, without a dialog.
-/// That goes on beside the host's thread: this waits a second, and nobody asks whether it is done.
+/// The archive is made again, empty, and filled by the system's compressed folders without a
+/// dialog. They copy on another thread: this waits a second, and does not check whether they are
+/// done.
 void zipHelpdeskFolder(std::string folder, std::string archivePath);
 
-/// Packs the support folder into "helpdesk.zip" in it; tells the user where there is none.
+/// Packs the support folder into "helpdesk.zip" in it; shows the user a message where there is
+/// none.
 void compressHelpdeskFolder();
 
 /// The end record of an archive with no entries, which is all that such an archive consists of.

@@ -7,7 +7,7 @@
 
 /// Pictures of the screen, saved as numbered PNG files in the support folder.
 ///
-/// Nothing is asked, and nothing is shown but that there are too many pictures already.
+/// No questions, and no message but that there are too many pictures already.
 namespace tarnix {
 
 inline constexpr CommandTexts kCaptureScreenCommand = {
@@ -31,10 +31,11 @@ void captureWholeScreen();
 void captureFusionWindow();
 
 /// Full path of the first picture from "screen_001.png" to "screen_998.png" that is not there: one
-/// that can be opened for reading is. When all are there the user is told, and the text is empty.
+/// that can be opened for reading is. When all are there the user is shown a message, and the
+/// string is empty.
 std::string nextScreenFileName();
 
-/// Writes a picture as PNG; what fails is not told.
+/// Writes a picture as PNG; failures are not reported.
 void saveBitmapAsPng(const platform::ScreenPicture& image, const std::string& path);
 
 }  // namespace tarnix

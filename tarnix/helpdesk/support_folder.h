@@ -7,8 +7,8 @@
 /// The support folder: where the helpdesk commands collect captures and system information, to be
 /// packed, looked at and cleared.
 ///
-/// It is one level deep, lies in the user's folder for temporary files, and is made by whichever
-/// command needs it first. The helpdesk commands never make folders in it.
+/// It is one level deep, lies in the user's folder for temporary files, and is made by the command
+/// that needs it first. The helpdesk commands never make folders in it.
 namespace tarnix {
 
 inline constexpr CommandTexts kOpenFolderCommand = {
@@ -40,7 +40,7 @@ extern std::string rememberedHelpdeskFolder;
 /// Makes the support folder where it is missing; that it cannot be made shows in what follows.
 void ensureHelpdeskFolder();
 
-/// A 16-bit text with each unit cut down to its low byte.
+/// A 16-bit string with each unit cut down to its low byte.
 std::string lowBytes(const std::u16string& text);
 
 /// Opens the support folder, which is made if it is missing, with what the user has for folders.
@@ -49,7 +49,7 @@ void openHelpdeskFolder();
 /// Deletes the remembered support folder and what it holds, without asking.
 ///
 /// As long as none is remembered the path is empty, and what goes is the content of the process's
-/// current directory. Throws `std::range_error` for a remembered folder that is no UTF-8.
+/// current directory. Throws `std::range_error` for a remembered folder that is not UTF-8.
 void clearHelpdeskFolder();
 
 }  // namespace tarnix

@@ -14,13 +14,13 @@ inline constexpr CommandTexts kOpenHelpCommand = {.id = "QM_HD_openHelp",
                                                   .tooltip = "Open User Guide",
                                                   .resourceFolder = "Resources/OpenHelp"};
 
-/// Opens the web address of the support provider that the settings name, and tells the user where
-/// that cannot be done. Nothing happens in a workspace whose helpdesk panel lacks the control of
-/// the Configuration command.
+/// Opens the web address of the support provider that the settings name, and shows the user a
+/// message when that fails. Nothing happens in a workspace whose helpdesk panel lacks the control
+/// of the Configuration command.
 void openSupportProvider();
 
 /// Opens the user guide beside the module, the Czech one where the host speaks Czech. A missing
-/// guide, or a missing program for it, is not told.
+/// guide, or a missing program for it, is not reported.
 void openUserGuide();
 
 }  // namespace tarnix

@@ -13,8 +13,8 @@ namespace {
 
 platform::TextFile file;
 
-/// Puts the sixteen bytes of a leaf behind each other, the lowest byte of each register first.
-void keep(const platform::ProcessorRegisters& registers, char* place) {
+/// Writes the sixteen bytes of a leaf to `place`, the lowest byte of each register first.
+void appendRegisters(const platform::ProcessorRegisters& registers, char* place) {
     for (const std::uint32_t value : registers) {
         for (int shift = 0; shift < 32; shift += 8) {
             *place++ = static_cast<char>((value >> shift) & 0xFF);
@@ -31,11 +31,11 @@ std::string processorBrand() {
     constexpr std::size_t kLeafBytes = 16;
     std::array<char, 64> name = {};
     const std::uint32_t highest = platform::processorInformation(kFirstExtended)[0];
-    // What the leaves behind the name say has no use.
+    // The leaves after the name are not needed.
     for (std::uint32_t leaf = kFirstExtended; leaf <= highest && leaf <= kLastOfName; ++leaf) {
         const platform::ProcessorRegisters registers = platform::processorInformation(leaf);
         if (leaf >= kFirstOfName) {
-            keep(registers, name.data() + (leaf - kFirstOfName) * kLeafBytes);
+            appendRegisters(registers, name.data() + (leaf - kFirstOfName) * kLeafBytes);
         }
     }
     return name.data();

@@ -26,7 +26,7 @@ const std::string kEmptyArchive = std::string("PK\5\6", 4) + std::string(18, '\0
 
 const std::string kNoFolder = "Information (2): Target directory does not exist.\n";
 
-TEST_F(Zip, WithoutASupportFolderTellsSo) {
+TEST_F(Zip, WithoutASupportFolderShowsAMessage) {
     press("compressFolder");
     EXPECT_EQ(shownMessages(), kNoFolder);
     EXPECT_FALSE(fs::exists(supportFolder()));
@@ -34,7 +34,7 @@ TEST_F(Zip, WithoutASupportFolderTellsSo) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(Zip, RightAfterDeleteHelpdeskFolderTellsThatThereIsNone) {
+TEST_F(Zip, RightAfterDeleteHelpdeskFolderFindsNone) {
     press("openFolder");
     press("clearFolder");
     press("compressFolder");

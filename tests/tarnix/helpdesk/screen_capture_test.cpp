@@ -136,7 +136,7 @@ TEST_F(ScreenCapture, IsLargerThanTheDesktopWithAMonitorAbove) {
     EXPECT_EQ(picture().height, 900 + 300);
 }
 
-TEST_F(ScreenCapture, IsSmallerWhereTheScreenBeginsBehindTheOrigin) {
+TEST_F(ScreenCapture, IsSmallerWhereTheScreenBeginsAfterTheOrigin) {
     startWithScreen({100, 50, 800, 600});
     const PatternWindow window("any", 300, 200, 100, 60);
     press("captureScreen");

@@ -59,7 +59,7 @@ TEST_F(SupportFolder, LosesAnEmptySubfolder) {
     EXPECT_FALSE(fs::exists(supportFolder()));
 }
 
-TEST_F(SupportFolder, LosesOnlyWhatIsInFrontOfASubfolderWithContent) {
+TEST_F(SupportFolder, LosesOnlyWhatComesBeforeASubfolderWithContent) {
     press("openFolder");
     put("a.png");
     fs::create_directory(supportFolder() / "m");
@@ -156,7 +156,7 @@ TEST_F(SupportFolderBelow, ANameBeyondAsciiIsTheFolderThatItsLowBytesSpell) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(SupportFolderBelow, ANameThatIsNoUtf8AnyMoreThrowsWhenItIsCleared) {
+TEST_F(SupportFolderBelow, ANameThatIsNotUtf8AnyMoreThrowsWhenItIsCleared) {
     restartBelow(u8"\u00E9");
     press("openFolder");
     EXPECT_EQ(uncaughtExceptions(), "");

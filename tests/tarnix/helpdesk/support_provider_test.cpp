@@ -54,7 +54,7 @@ TEST_F(SupportProvider, IsTheOneOfTheSettings) {
     EXPECT_EQ(opened(), std::vector<std::string>{"http://other.example/a?b=c"});
 }
 
-TEST_F(SupportProvider, ThatCannotBeOpenedIsTold) {
+TEST_F(SupportProvider, ThatCannotBeOpenedIsReported) {
     restartWithShell(host::shell_requests::Policy::RecordFail);
     press("openHelpdesk");
     EXPECT_EQ(shownMessages(), kRefused);
@@ -69,7 +69,7 @@ TEST_F(SupportProvider, WithAnEmptyAddressIsAskedForAsItIs) {
     EXPECT_EQ(shownMessages(), kRefused);
 }
 
-TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndTold) {
+TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndReported) {
     restartWithShell(host::shell_requests::Policy::RecordOpen);
     choose("");
     press("openHelpdesk");
@@ -77,7 +77,7 @@ TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndTold) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsTold) {
+TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsReported) {
     restartWithShell(host::shell_requests::Policy::RecordOpen);
     choose("unheard-of://a.example/");
     press("openHelpdesk");
@@ -86,7 +86,7 @@ TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsTold) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(SupportProvider, IsAskedForWithTheAddressAsItStands) {
+TEST_F(SupportProvider, IsAskedForWithTheAddressUnchanged) {
     choose("http://other.example/$(touch x)`touch y`;\"z\" %20'|&gt;");
     press("openHelpdesk");
     EXPECT_EQ(opened(),
@@ -149,7 +149,7 @@ TEST_F(UserGuide, IsTheEnglishOneInTheLanguagesBesideCzech) {
                                         besideModule("Tarnix_UsersGuide.pdf")}));
 }
 
-TEST_F(UserGuide, ThatCannotBeOpenedIsNotTold) {
+TEST_F(UserGuide, ThatCannotBeOpenedIsNotReported) {
     host::SessionOptions with = addinOptions();
     with.shell = host::shell_requests::Policy::RecordFail;
     restart(with);

@@ -103,13 +103,13 @@ TEST_F(SystemInformation, HasAShortenedNameWhereTheProcessorHasFewerLeaves) {
     EXPECT_EQ(line(3), "      Processor 0123");
 }
 
-TEST_F(SystemInformation, HasFourBlanksWhereTheProcessorHasNoName) {
+TEST_F(SystemInformation, HasFourSpacesWhereTheProcessorHasNoName) {
     restartWithLeavesUpTo(0x80000001U);
     press("systemInfo");
     EXPECT_EQ(line(3), "    ");
 }
 
-TEST_F(SystemInformation, HasFourBlanksWhereTheProcessorHasNoExtendedLeaves) {
+TEST_F(SystemInformation, HasFourSpacesWhereTheProcessorHasNoExtendedLeaves) {
     restartWithLeavesUpTo(5);
     press("systemInfo");
     EXPECT_EQ(line(3), "    ");

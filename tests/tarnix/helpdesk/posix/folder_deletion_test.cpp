@@ -47,7 +47,7 @@ protected:
     ScratchFolder folder;
 };
 
-TEST_F(FolderDeletionOfPosix, KeepsALockedFileAndWhatStandsBehindIt) {
+TEST_F(FolderDeletionOfPosix, KeepsALockedFileAndWhatComesAfterIt) {
     writeNobodys("screen_001.png");
     folder.write("screen_002.png", "x");
     writeNobodys("screen_003.png");

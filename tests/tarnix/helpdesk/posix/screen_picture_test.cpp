@@ -45,7 +45,7 @@ protected:
     std::optional<host::environment::Text> before;
 };
 
-TEST_F(ScreenPictureOfX11, HasBlackInFrontOfTheScreenAndBehindIt) {
+TEST_F(ScreenPictureOfX11, HasBlackBeforeTheScreenAndAfterIt) {
     const PatternWindow window("any", 300, 200, 100, 60);
     Picture expected = blackPicture(2080, 1200);
     PatternWindow::draw(expected, 640 + 300, 300 + 200, 100, 60);

@@ -32,7 +32,7 @@ long memoryKibibytes() {
 
 using SystemInformationOfLinux = HelpdeskTest;
 
-TEST_F(SystemInformationOfLinux, IsWhatTheSystemsOwnToolsTell) {
+TEST_F(SystemInformationOfLinux, IsWhatTheSystemsToolsReport) {
     const std::string name = lineOf("LC_ALL=C lscpu | sed -n 's/^Model name: *//p'");
     const std::string processors = lineOf("LC_ALL=C lscpu | sed -n 's/^CPU(s): *//p'");
     if (name.empty()) {

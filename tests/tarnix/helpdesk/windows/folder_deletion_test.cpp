@@ -10,7 +10,7 @@
 namespace tarnix {
 namespace {
 
-TEST(FolderDeletionOfWindows, KeepsALockedFileAndWhatStandsBehindIt) {
+TEST(FolderDeletionOfWindows, KeepsALockedFileAndWhatComesAfterIt) {
     const ScratchFolder folder;
     folder.write("screen_001.png", "x");
     folder.write("screen_002.png", "x");

@@ -24,7 +24,7 @@ std::string valueIn(const std::string& list, const std::string& caption) {
 
 using SystemInformationOfWindows = HelpdeskTest;
 
-TEST_F(SystemInformationOfWindows, IsWhatTheSystemBelowWineTells) {
+TEST_F(SystemInformationOfWindows, IsWhatTheSystemBelowWineReports) {
     const std::string processor = valueIn("cpuinfo", "model name");
     const std::string memory = valueIn("meminfo", "MemTotal");
     if (processor.empty() || memory.empty()) {
