@@ -9,7 +9,7 @@
 namespace tarnix {
 
 /// The element at `index`; throws `std::out_of_range` ("invalid vector subscript") where there is
-/// none. The text is the same from every compiler, other than that of `std::vector::at`.
+/// none. The message is the same from every compiler, unlike that of `std::vector::at`.
 template <class T>
 const T& at(const std::vector<T>& elements, std::size_t index) {
     if (index >= elements.size()) {
@@ -28,8 +28,7 @@ T& at(std::vector<T>& elements, std::size_t index) {
 }
 
 /// What `text` holds from `position` on; throws `std::out_of_range` ("invalid string position")
-/// where `text` is shorter than that. The end of the text is a position still, and gives the empty
-/// text.
+/// where `text` is shorter than that. Its end is a valid position, and returns an empty string.
 inline std::string substringFrom(const std::string& text, std::size_t position) {
     if (position > text.size()) {
         throw std::out_of_range("invalid string position");

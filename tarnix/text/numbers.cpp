@@ -10,7 +10,7 @@
 namespace tarnix {
 namespace {
 
-std::string_view withoutLeadingBlanks(std::string_view text) {
+std::string_view withoutLeadingSpaces(std::string_view text) {
     const auto first = text.find_first_not_of(" \t\n\v\f\r");
     return first == std::string_view::npos ? std::string_view() : text.substr(first);
 }
@@ -37,7 +37,7 @@ bool startsWithHexadecimal(std::string_view text) {
 [[noreturn]] void throwOutOfRange() { throw std::out_of_range("stod argument out of range"); }
 
 /// Compilers differ in what they report for results that leave the range, so the value decides.
-/// `mantissa` is what stands in front of the exponent.
+/// `mantissa` is what precedes the exponent.
 double inRange(double value, std::string_view mantissa) {
     const bool isZero = mantissa.find_first_not_of("0.") == std::string_view::npos;
     const bool tooSmall = std::abs(value) < std::numeric_limits<double>::min() && !isZero;
@@ -47,7 +47,7 @@ double inRange(double value, std::string_view mantissa) {
     return value;
 }
 
-/// Reads the number that `text` begins with; `exponent` names the letters in front of an exponent.
+/// Reads the number that `text` begins with; `exponent` names the letters that begin an exponent.
 double parseNumber(std::string_view text, std::chars_format format, const char* exponent) {
     double value = 0;
     const auto result = read(text, value, format);
@@ -70,7 +70,7 @@ double parseMagnitude(std::string_view text) {
         throw std::invalid_argument("invalid stod argument");
     }
     const bool prefixed = text.substr(0, 2) == "0x" || text.substr(0, 2) == "0X";
-    // Where no digit follows, "0x" is a zero in front of an "x".
+    // Where no digit follows, "0x" is a zero before an "x".
     if (prefixed && startsWithHexadecimal(text.substr(2))) {
         return parseNumber(text.substr(2), std::chars_format::hex, "pP");
     }
@@ -80,7 +80,7 @@ double parseMagnitude(std::string_view text) {
 }  // namespace
 
 int parseInt(const std::string& text) {
-    auto digits = withoutLeadingBlanks(text);
+    auto digits = withoutLeadingSpaces(text);
     if (!digits.empty() && digits.front() == '+') {
         digits.remove_prefix(1);
         if (startsWithSign(digits)) {
@@ -99,7 +99,7 @@ int parseInt(const std::string& text) {
 }
 
 double parseDouble(const std::string& text) {
-    auto number = withoutLeadingBlanks(text);
+    auto number = withoutLeadingSpaces(text);
     if (!startsWithSign(number)) {
         return parseMagnitude(number);
     }

@@ -12,7 +12,7 @@ constexpr char32_t kReplacement = 0xFFFD;
 bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
-/// The character at `index`, which moves behind it.
+/// The character at `index`, which moves past it.
 char32_t takeCharacter(std::wstring_view text, std::size_t& index) {
     const auto unit = static_cast<char32_t>(text[index++]);
     if (isHighSurrogate(unit) && index < text.size()) {
@@ -56,7 +56,7 @@ int tailBytesOf(unsigned char lead) {
     throw std::range_error("bad conversion");
 }
 
-/// The next six bits of a character, whose byte `index` moves behind.
+/// The next six bits of a character, whose byte `index` moves past.
 char32_t takeTail(std::string_view text, std::size_t& index) {
     if (index >= text.size() || (static_cast<unsigned char>(text[index]) & 0xC0) != 0x80) {
         throw std::range_error("bad conversion");
@@ -64,7 +64,7 @@ char32_t takeTail(std::string_view text, std::size_t& index) {
     return static_cast<unsigned char>(text[index++]) & 0x3F;
 }
 
-/// The character whose UTF-8 begins at `index`, which moves behind it.
+/// The character whose UTF-8 begins at `index`, which moves past it.
 char32_t takeUtf8(std::string_view text, std::size_t& index) {
     constexpr char32_t kSmallest[] = {0, 0x80, 0x800, 0x10000};
     const auto lead = static_cast<unsigned char>(text[index++]);

@@ -11,7 +11,7 @@ namespace tarnix {
 /// replacement character U+FFFD.
 std::string toUtf8(std::wstring_view text);
 
-/// A UTF-8 text in UTF-16; throws `std::range_error` ("bad conversion") for bytes that are none.
+/// A UTF-8 string in UTF-16; throws `std::range_error` ("bad conversion") for bytes that are none.
 std::u16string utf16FromUtf8(std::string_view text);
 
 }  // namespace tarnix

@@ -19,7 +19,7 @@ std::string outOfRange(Action action) {
     return "nothing thrown";
 }
 
-TEST(At, GivesTheElement) {
+TEST(At, ReturnsTheElement) {
     std::vector<int> numbers = {1, 2};
     at(numbers, 1) = 5;
     EXPECT_EQ(numbers, (std::vector<int>{1, 5}));
@@ -34,12 +34,12 @@ TEST(At, ThrowsBeyondTheEnd) {
               "invalid vector subscript");
 }
 
-TEST(SubstringFrom, GivesTheRest) {
+TEST(SubstringFrom, ReturnsTheRest) {
     EXPECT_EQ(substringFrom("QEMA_Mass", 5), "Mass");
     EXPECT_EQ(substringFrom("QEMA_", 5), "");
 }
 
-TEST(SubstringFrom, ThrowsForATextThatIsTooShort) {
+TEST(SubstringFrom, ThrowsForAStringThatIsTooShort) {
     EXPECT_EQ(outOfRange([] { substringFrom("QEMA", 5); }), "invalid string position");
 }
 

@@ -44,7 +44,7 @@ TEST(ParseInt, ReadsTheWholeRange) {
     EXPECT_EQ(parseInt("-2147483648"), std::numeric_limits<int>::min());
 }
 
-TEST(ParseInt, SkipsLeadingBlanksAndTakesASign) {
+TEST(ParseInt, SkipsLeadingSpacesAndTakesASign) {
     EXPECT_EQ(parseInt(" \t\n\v\f\r7"), 7);
     EXPECT_EQ(parseInt("+5"), 5);
     EXPECT_EQ(parseInt(" -5"), -5);
@@ -80,7 +80,7 @@ TEST(ParseDouble, ReadsDecimalNumbers) {
     EXPECT_EQ(parseDouble("0e9999"), 0);
 }
 
-TEST(ParseDouble, SkipsLeadingBlanksAndTakesASign) {
+TEST(ParseDouble, SkipsLeadingSpacesAndTakesASign) {
     EXPECT_EQ(parseDouble(" \t\n\v\f\r7"), 7);
     EXPECT_EQ(parseDouble("+5"), 5);
     EXPECT_TRUE(std::signbit(parseDouble("-0")));
@@ -157,7 +157,7 @@ TEST(FormatFixed, WritesTheLargestNumberInFull) {
     EXPECT_EQ(text.substr(309), ".00");
 }
 
-TEST(FormatFixed, NamesWhatIsNoNumber) {
+TEST(FormatFixed, NamesWhatIsNotANumber) {
     EXPECT_EQ(formatFixed(std::numeric_limits<double>::quiet_NaN(), 2), "nan");
     EXPECT_EQ(formatFixed(std::numeric_limits<double>::infinity(), 2), "inf");
     EXPECT_EQ(formatFixed(-std::numeric_limits<double>::infinity(), 2), "-inf");

@@ -9,7 +9,7 @@
 namespace tarnix {
 namespace {
 
-TEST(Id, EndsInTheNumberBehindTheLastUnderscore) {
+TEST(Id, EndsInTheNumberAfterTheLastUnderscore) {
     EXPECT_EQ(idNumber("modelPartNumberOcc_12"), 12);
     EXPECT_EQ(idNumber("QEMA_Part_Name_3"), 3);
     EXPECT_EQ(idTail("QEMA_Part_Name_3"), "3");
@@ -22,7 +22,7 @@ TEST(Id, WithoutUnderscoreIsItsOwnTailAndBase) {
     EXPECT_EQ(idNumber("7"), 7);
 }
 
-TEST(Id, ThrowsWhereNoNumberStandsBehindTheLastUnderscore) {
+TEST(Id, ThrowsWhereNoNumberFollowsTheLastUnderscore) {
     EXPECT_THROW(idNumber("QEMA_btnExportXls"), std::invalid_argument);
     EXPECT_THROW(idNumber("positionOcc_"), std::invalid_argument);
 }
@@ -60,7 +60,7 @@ TEST(Utf8, BecomesUtf16) {
               u"a\u00E9\u20AC\U0001F529\\");
 }
 
-TEST(Utf8, ThrowsForBytesThatAreNone) {
+TEST(Utf8, ThrowsForOtherBytes) {
     EXPECT_THROW(utf16FromUtf8("a\xE9"), std::range_error);
     EXPECT_THROW(utf16FromUtf8("\x80"), std::range_error);
     EXPECT_THROW(utf16FromUtf8("\xE2\x82"), std::range_error);
