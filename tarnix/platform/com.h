@@ -2,7 +2,7 @@
 
 namespace tarnix::platform {
 
-/// Makes COM ready on the calling thread, or counts one more user of it where it is ready already.
+/// Makes COM ready on the calling thread, or counts one more use of it where it is ready already.
 /// Where the system has no COM, nothing happens.
 void initializeCom();
 

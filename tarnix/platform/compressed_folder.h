@@ -7,7 +7,7 @@
 
 namespace tarnix::platform {
 
-/// Writes a file of these bytes, in the place of one that is there. False if it failed.
+/// Writes a file of these bytes, replacing one that is there. False if it failed.
 bool writeBytes(const std::string& path, std::span<const std::uint8_t> bytes);
 
 /// An archive, opened by the system as a folder that files can be copied into.
@@ -24,9 +24,9 @@ public:
     /// False where the system has no such folders, or the file is not one.
     explicit operator bool() const { return state_ != nullptr; }
 
-    /// Has the system copy what a folder holds into the archive, with nothing shown and nothing
-    /// asked. The work goes on beside the caller and outlives this object, and a process that ends
-    /// waits for it. What fails is not told.
+    /// Has the system copy what a folder holds into the archive, without a dialog.
+    /// The work goes on in another thread and outlives this object; a process that ends waits for
+    /// it. Failures are not reported.
     void copyHere(const std::string& folder) const;
 
 private:

@@ -15,19 +15,19 @@ bool canRead(const std::string& path);
 /// the way need not look.
 bool deleteFile(const std::string& path);
 
-/// A text file that is written behind what it holds already.
+/// A text file that is appended to.
 ///
 /// Line ends come out as CR LF on every system, those inside a written text too. A file that could
-/// not be opened swallows what is written. Closed with the object.
+/// not be opened discards what is written. Closed with the object.
 class AppendingTextFile {
 public:
     /// Opens the file, or makes it.
     explicit AppendingTextFile(const std::string& path);
 
-    /// Writes a text as it stands, but for its line ends.
+    /// Writes a string unchanged, but for its line ends.
     void write(std::string_view text);
 
-    /// Ends the line, and hands what was written to the system.
+    /// Ends the line, and passes what was written to the system.
     void endLine();
 
 private:

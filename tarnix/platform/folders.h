@@ -5,17 +5,17 @@
 #include <string>
 
 /// Folders, as the support folder needs them: finding the place, making it, going through it and
-/// taking it away.
+/// removing it.
 ///
-/// Names are in Windows terms on every system: backslashes, 8-bit texts in the system's code page
-/// and 16-bit texts as UTF-16. What a 16-bit name cannot say about this system's names (bytes that
-/// are no text, a backslash that is part of a name) comes out as a unit of its own and is
+/// Names are in Windows terms on every system: backslashes, 8-bit strings in the system's code page
+/// and 16-bit strings as UTF-16. What a 16-bit name cannot say about this system's names (bytes
+/// that are not text, a backslash that is part of a name) comes out as a unit of its own and is
 /// understood on the way back.
 namespace tarnix::platform {
 
-/// The user's folder for temporary files with a backslash at its end; nothing if the system does
-/// not tell. The system is asked for 260 units, the terminating zero included: a longer name does
-/// not fit and gives an empty text.
+/// The user's folder for temporary files with a backslash at its end; nothing if the system
+/// names none. The system is asked for 260 units, the terminating zero included: a longer name does
+/// not fit and returns an empty string.
 std::optional<std::u16string> temporaryFolder();
 
 /// True if there is a folder of this name.
@@ -24,14 +24,14 @@ bool directoryExists(const std::string& path);
 /// Makes one folder, whose parent has to be there. False if it could not be made.
 bool makeDirectory(const std::string& path);
 
-/// Takes away an empty folder. False if it is not empty, not there, or will not go.
+/// Removes an empty folder. False if it is not empty, not there, or will not go.
 bool removeDirectory(const std::u16string& path);
 
 /// Deletes a file, or a link and not what it refers to. False if it is not there, is read-only, or
 /// will not go.
 bool deleteFile(const std::u16string& path);
 
-/// Gives back the right to write to a file that is read-only. Links are left alone.
+/// Makes a read-only file writable. Links are left alone.
 void makeWritable(const std::string& path);
 
 /// Something in a folder.
@@ -48,7 +48,7 @@ struct FoundFile {
 /// through a link is not gone through.
 class FolderSearch {
 public:
-    /// Finds the first entry, which is not handed out.
+    /// Finds the first entry, which is not returned.
     explicit FolderSearch(const std::u16string& pattern);
     FolderSearch(const FolderSearch&) = delete;
     FolderSearch& operator=(const FolderSearch&) = delete;
@@ -57,7 +57,7 @@ public:
     /// True if there was a first entry.
     explicit operator bool() const { return state_ != nullptr; }
 
-    /// The next entry behind the first one; nothing at the end, or if the search failed. Only while
+    /// The next entry after the first one; nothing at the end, or if the search failed. Only while
     /// there was a first entry.
     std::optional<FoundFile> next();
 

@@ -9,7 +9,8 @@ namespace tarnix::platform {
 /// locale is then as it was.
 void useCzechLocale();
 
-/// A text in the lower case of the process's locale: each byte by itself, as `char` is classified.
+/// A string in the lower case of the process's locale: each byte by itself, as `char` is
+/// classified.
 std::string lowerCase(std::string text);
 
 }  // namespace tarnix::platform

@@ -10,7 +10,7 @@ enum class MessageStyle : unsigned {
     Information = 64,  ///< with the information icon
 };
 
-/// Shows a message in a window of its own, owned by none, and waits until it is closed. Texts are
+/// Shows a message in a window without an owner, and waits until it is closed. Strings are
 /// UTF-8.
 void showMessageBox(const std::string& text, const std::string& title, MessageStyle style);
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-/// What the machine says of itself.
+/// The machine: its processor and memory.
 namespace tarnix::platform {
 
 /// EAX, EBX, ECX and EDX after CPUID.

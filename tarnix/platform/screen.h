@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-/// The screen: where things stand on it, and pictures of it.
+/// The screen: where things are on it, and pictures of it.
 ///
 /// Positions are pixels from the primary monitor's upper left corner.
 namespace tarnix::platform {
@@ -28,7 +28,7 @@ WindowHandle hideConsole();
 /// The area of all monitors together.
 ScreenArea virtualScreen();
 
-/// A window, and where its inside stands.
+/// A window, and where its inside is.
 struct WindowOnScreen {
     WindowHandle handle = 0;
     ScreenArea inside;
@@ -41,18 +41,18 @@ WindowOnScreen findWindow(const std::string& title);
 /// black.
 class ScreenPicture {
 public:
-    /// Takes the picture. The system's handle of the screen is given back in the name of `window`.
+    /// Takes the picture. The system's handle of the screen is released in the name of `window`.
     ScreenPicture(int left, int top, int width, int height, WindowHandle window);
     ScreenPicture(const ScreenPicture&) = delete;
     ScreenPicture& operator=(const ScreenPicture&) = delete;
     ~ScreenPicture();
 
-    /// False where there was no picture to be had: without a screen, or of an area without a width
+    /// False where no picture could be taken: without a screen, or of an area without a width
     /// or height.
     explicit operator bool() const { return state_ != nullptr; }
 
-    /// Writes the picture into a PNG file, in the place of one that is there. The path is in the
-    /// 8-bit code page of the thread's language. What fails is not told.
+    /// Writes the picture into a PNG file, replacing one that is there. The path is in the
+    /// 8-bit code page of the thread's language. Failures are not reported.
     void saveAsPng(const std::string& path) const;
 
 private:

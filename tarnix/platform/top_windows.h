@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-/// The windows that stand on the screen.
+/// The windows on the screen.
 namespace tarnix::platform {
 
 /// A window that lies in no other.

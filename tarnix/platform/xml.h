@@ -11,8 +11,8 @@
 /// with the result of that call (`com_error.h`). Names, values and texts are UTF-8. Characters that
 /// no XML document can hold are left out of a value or a text that is set.
 ///
-/// Documents are read without their white space: a text of spaces, tabs and line ends alone is no
-/// node, and `text` does not begin or end with any. A document type declaration is refused, and
+/// Documents are read without their white space: a text of spaces, tabs and line ends alone is not
+/// a node, and `text` does not begin or end with any. A document type declaration is refused, and
 /// nothing but the file itself is ever read.
 namespace tarnix::platform {
 
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] std::string nodeValue() const;
     void setNodeValue(const std::string& value);
 
-    /// The texts of a node and of all below it, one behind the other.
+    /// The texts of a node and of all below it, one after the other.
     [[nodiscard]] std::string text() const;
 
     /// Puts one text in the place of all children; an empty text leaves none.
@@ -56,7 +56,7 @@ public:
     /// The attributes of an element in document order; nothing for a text or a comment.
     [[nodiscard]] XmlAttributeMap attributes() const;
 
-    /// Adds a node behind all children and returns it.
+    /// Adds a node after all children and returns it.
     XmlNode appendChild(const XmlNode& child);
 
     /// Takes a child out and returns it.
@@ -101,7 +101,7 @@ public:
     /// The attribute at an index from 0, in document order; nothing beyond the last.
     [[nodiscard]] XmlNode item(long index) const;
 
-    /// Puts an attribute node in, in the place of one of the same name or behind all others, and
+    /// Puts an attribute node in, in the place of one of the same name or after all others, and
     /// returns it.
     XmlNode setNamedItem(const XmlNode& attribute);
 
@@ -120,9 +120,9 @@ public:
     /// Makes an empty document.
     static XmlDocument create();
 
-    /// Reads a file, whose path is in Windows terms. False when it is missing or is no well-formed
-    /// XML, which leaves the document empty. The DOM of Windows takes "#" and escapes such as "%20"
-    /// in a path for parts of an address, and does not find such a file.
+    /// Reads a file, whose path is in Windows terms. False when it is missing or is not
+    /// well-formed XML, which leaves the document empty. The DOM of Windows takes "#" and escapes
+    /// such as "%20" in a path for parts of an address, and does not find such a file.
     bool load(const std::string& path);
 
     /// Writes a file with nothing between the elements. Windows keeps the encoding that the

@@ -7,7 +7,7 @@
 namespace tarnix::platform {
 namespace {
 
-/// A character and the bytes it takes; one byte and no character where they are no UTF-8.
+/// A character and the bytes it takes; one byte and no character where they are not UTF-8.
 struct Decoded {
     std::size_t size = 1;
     bool valid = false;

@@ -5,9 +5,9 @@
 
 namespace tarnix::platform {
 
-/// A text as an XML document can hold it: without the control characters that XML forbids, which no
-/// escaping could bring in and which would make the file unreadable, and with U+FFFD for bytes that
-/// are no UTF-8.
+/// A string as an XML document can hold it: without the control characters that XML forbids, which
+/// no escaping could bring in and which would make the file unreadable, and with U+FFFD for bytes
+/// that are not UTF-8.
 std::string xmlText(std::string_view utf8);
 
 }  // namespace tarnix::platform

@@ -40,7 +40,7 @@ std::vector<fs::path> filesBelow(const fs::path& folder) {
     return files;
 }
 
-/// Notes that a file is to become an entry; it is read when the archive is closed.
+/// Registers a file as an entry; it is read when the archive is closed.
 void addFile(zip_t* archive, const fs::path& file, const fs::path& folder) {
     zip_source_t* const source = ::zip_source_file(archive, file.c_str(), 0, 0);
     const std::string name = file.lexically_relative(folder).string();
@@ -59,7 +59,7 @@ void addFiles(zip_t* archive, const fs::path& path, const fs::path& folder) {
     }
 }
 
-/// One work. Another for the same archive makes it outdated, which it may be told from any thread.
+/// One work. Another for the same archive makes it outdated, which any thread may report to it.
 struct Work {
     fs::path archive;
     fs::path folder;

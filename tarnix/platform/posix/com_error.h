@@ -12,7 +12,7 @@ inline constexpr HRESULT E_ACCESSDENIED = static_cast<HRESULT>(0x80070005);
 inline constexpr HRESULT DISP_E_TYPEMISMATCH = static_cast<HRESULT>(0x80020005);
 
 /// A failed call, by its result.
-class _com_error {  // NOLINT(bugprone-reserved-identifier): the name that Windows gives it
+class _com_error {  // NOLINT(bugprone-reserved-identifier): its name on Windows
 public:
     explicit _com_error(HRESULT result) noexcept : result_(result) {}
     _com_error(const _com_error&) noexcept = default;

@@ -31,8 +31,8 @@ bool fits(const std::u16string& name, const std::u16string& pattern) {
                                    : name == pattern;
 }
 
-/// The folder that a pattern is about, "." for none, without what parts it from the last part: a
-/// link would be followed where that stands behind it.
+/// The folder that a pattern is about, "." for none, without the separator before the last part: a
+/// link would be followed with a slash after it.
 std::string folderOf(const std::u16string& pattern) {
     const std::size_t end = pattern.rfind(u'\\');
     if (end == std::u16string::npos) {

@@ -28,8 +28,8 @@ std::size_t wideCharacters(unsigned char byte) {
     return byte >= 0xF0 ? 2 : 1;
 }
 
-/// The beginning of a text that takes `limit` wide characters in Windows. Half a character at the
-/// end is one that no code page has, which is a blank.
+/// The beginning of a string that takes `limit` wide characters in Windows. Half a character at the
+/// end is one that no code page has, which becomes a space.
 std::string cutToWideCharacters(const std::string& text, std::size_t limit) {
     std::size_t length = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {

@@ -13,7 +13,7 @@ struct RgbPicture {
     std::vector<std::uint8_t> bytes;
 };
 
-/// Writes a picture into a PNG file, in the place of one that is there. False if it failed.
+/// Writes a picture into a PNG file, replacing one that is there. False if it failed.
 bool writePng(const RgbPicture& picture, const std::string& nativePath);
 
 }  // namespace tarnix::platform

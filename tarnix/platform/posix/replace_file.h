@@ -5,8 +5,8 @@
 
 namespace tarnix::platform {
 
-/// Writes a file in such a way that whoever opens it, and whatever happens on the way, finds the
-/// old content or the new one and never half. The path is in this system's terms. A file that may
+/// Writes a file atomically: whatever happens meanwhile, opening it finds the old content or the
+/// new one and never half. The path is in this system's terms. A file that may
 /// not be written keeps its content. Throws `_com_error` when it cannot be done.
 void replaceFile(const std::string& path, std::string_view content);
 

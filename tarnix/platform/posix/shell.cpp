@@ -18,7 +18,7 @@
 namespace tarnix::platform::native {
 namespace {
 
-/// How long the opener has to say that it could not do it.
+/// How long the opener has to report a failure.
 constexpr std::chrono::seconds kAnswerTime(2);
 
 /// What one process writes into one end and another reads from the other.
@@ -80,7 +80,7 @@ public:
     posix_spawnattr_t attributes = {};
 };
 
-/// The argument for `xdg-open`: a path in this system's terms, an address as it stands.
+/// The argument for `xdg-open`: a path in this system's terms, an address unchanged.
 std::string argumentFor(const std::string& target) {
     return target.starts_with('\\') ? nativePath(target) : target;
 }
@@ -117,7 +117,7 @@ bool waitForAnswer(const Pipe& answer) {
     return ready > 0;
 }
 
-/// Whether the opener has done it: one that goes on running has, and is not waited for.
+/// Whether the opener has succeeded: one that goes on running has, and is not waited for.
 bool isOpened(const Pipe& answer) {
     char first = '\0';
     return !waitForAnswer(answer) ||

@@ -17,13 +17,13 @@ void sleep(int milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
-// There is no such window that every system has: what nobody takes for this one goes where programs
-// leave their messages.
+// There is no message box that every system has: what no session takes over goes to the standard
+// error output.
 void showMessageBox(const std::string& text, const std::string& title, MessageStyle /*style*/) {
     std::cerr << title << ": " << text << "\n";
 }
 
-// The window that a program writes into is another program's here.
+// A console window belongs to another program here.
 WindowHandle hideConsole() { return 0; }
 
 ProcessorRegisters processorInformation([[maybe_unused]] std::uint32_t leaf) {

@@ -18,7 +18,7 @@ std::size_t sequenceLength(unsigned char lead) {
 
 bool isTail(unsigned char byte) { return (byte & 0xC0) == 0x80; }
 
-/// The character at `index` and its length; length 0 for a byte that is no text.
+/// The character at `index` and its length; length 0 for a byte that is not text.
 char32_t characterAt(const std::string& text, std::size_t index, std::size_t& length) {
     constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
     const auto lead = static_cast<unsigned char>(text[index]);

@@ -10,7 +10,7 @@ namespace {
 using x11::Display;
 using x11::Owned;
 
-/// Number of a name that clients and server share; 0 if nobody has used it yet.
+/// Number of a name that clients and server share; 0 if it was never used.
 xcb_atom_t atom(const Display& display, std::string_view name) {
     const auto cookie = ::xcb_intern_atom(display.connection(), /*only_if_exists=*/1,
                                           static_cast<std::uint16_t>(name.size()), name.data());
@@ -19,7 +19,7 @@ xcb_atom_t atom(const Display& display, std::string_view name) {
     return reply != nullptr ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
-/// A text that a window carries; nothing is as good as empty.
+/// A string property of a window; an empty string where it has none.
 std::string textOf(const Display& display, xcb_window_t window, xcb_atom_t property) {
     constexpr std::uint32_t kLongest = 1024;  // in units of four bytes
     const auto cookie = ::xcb_get_property(display.connection(), /*_delete=*/0, window, property,
@@ -33,7 +33,7 @@ std::string textOf(const Display& display, xcb_window_t window, xcb_atom_t prope
             static_cast<std::size_t>(::xcb_get_property_value_length(reply.get()))};
 }
 
-/// The title in UTF-8, which newer programs give, else the old one.
+/// The title in UTF-8, which newer programs set, else the old one.
 std::string titleOf(const Display& display, xcb_window_t window, xcb_atom_t utf8Title) {
     const std::string title =
         utf8Title != XCB_ATOM_NONE ? textOf(display, window, utf8Title) : std::string();
@@ -79,7 +79,7 @@ ScreenArea insideOf(const Display& display, xcb_window_t window) {
     return {place->dst_x, place->dst_y, place->dst_x + size->width, place->dst_y + size->height};
 }
 
-/// The windows directly on the screen, the hindmost first: what a window manager calls its clients,
+/// The windows directly on the screen, the lowest first: what a window manager calls its clients,
 /// without one the children of the root.
 std::vector<xcb_window_t> topWindows(const Display& display) {
     constexpr std::uint32_t kMost = 1U << 16U;

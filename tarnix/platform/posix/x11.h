@@ -7,7 +7,7 @@
 
 namespace tarnix::platform::x11 {
 
-/// What the server's library hands out belongs to the caller.
+/// What the server's library returns belongs to the caller.
 template <class Reply>
 struct Free {
     void operator()(Reply* reply) const { std::free(reply); }

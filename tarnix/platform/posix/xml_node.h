@@ -40,7 +40,7 @@ struct XmlNode::Body {
     Body* parent = nullptr;
 };
 
-/// Adds a node that has no parent behind all children.
+/// Adds a node that has no parent after all children.
 inline void adopt(XmlNode::Body& parent, std::shared_ptr<XmlNode::Body> child) {
     parent.children.push_back(std::move(child));
     parent.children.back()->parent = &parent;

@@ -22,7 +22,7 @@ std::string asText(const xmlChar* text, int length) {
     return {reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)};
 }
 
-/// Builds the nodes from what the parser reports. The parser is told to report names and attributes
+/// Builds the nodes from what the parser reports. The parser is set to report names and attributes
 /// as they are written, so that declarations of namespaces keep their place among the attributes.
 class Builder {
 public:

@@ -7,8 +7,8 @@ namespace {
 
 using Body = XmlNode::Body;
 
-/// A text with its special characters escaped. What a reader would take for another line end, or in
-/// an attribute for a blank, is escaped too.
+/// A string with its special characters escaped. What a reader would take for another line end, or
+/// in an attribute for a space, is escaped too.
 std::string escaped(std::string_view text, bool isAttribute) {
     std::string result;
     for (const char c : text) {

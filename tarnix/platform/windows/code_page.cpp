@@ -9,18 +9,18 @@ std::wstring widen(const std::string& text, UINT codePage) {
     const int size = static_cast<int>(text.size());
     const int length = ::MultiByteToWideChar(codePage, 0, text.data(), size, nullptr, 0);
     std::wstring wide(static_cast<std::size_t>(length), L'\0');
-    // Returns the length again, or 0 for an empty text.
+    // Returns the length again, or 0 for an empty string.
     ::MultiByteToWideChar(codePage, 0, text.data(), size, wide.data(), length);
     return wide;
 }
 
-std::string narrow(const std::wstring& text, UINT codePage, DWORD flags, const char* blank) {
+std::string narrow(const std::wstring& text, UINT codePage, DWORD flags, const char* replacement) {
     const int size = static_cast<int>(text.size());
     const int length =
-        ::WideCharToMultiByte(codePage, flags, text.data(), size, nullptr, 0, blank, nullptr);
+        ::WideCharToMultiByte(codePage, flags, text.data(), size, nullptr, 0, replacement, nullptr);
     std::string narrowed(static_cast<std::size_t>(length), '\0');
-    // Returns the length again, or 0 for an empty text.
-    ::WideCharToMultiByte(codePage, flags, text.data(), size, narrowed.data(), length, blank,
+    // Returns the length again, or 0 for an empty string.
+    ::WideCharToMultiByte(codePage, flags, text.data(), size, narrowed.data(), length, replacement,
                           nullptr);
     return narrowed;
 }
@@ -36,7 +36,7 @@ std::string toCodePage(const std::wstring& text) {
     if (::GetACP() == CP_UTF8) {
         return toUtf8(text);
     }
-    // Without the flag a similar letter would stand in for some of the characters that lack.
+    // Without the flag a similar letter would replace some of the missing characters.
     return narrow(text, CP_ACP, WC_NO_BEST_FIT_CHARS, " ");
 }
 

@@ -64,7 +64,7 @@ bool writeBytes(const std::string& path, std::span<const std::uint8_t> bytes) {
     return std::fclose(file) == 0 && isWritten;
 }
 
-/// Let go in the reverse order of its members: the folder before the Shell's object.
+/// Released in the reverse order of its members: the folder before the Shell's object.
 struct CompressedFolder::State {
     Object<IShellDispatch> shell;
     Object<Folder> folder;
@@ -77,7 +77,7 @@ CompressedFolder::CompressedFolder(const std::string& archivePath) {
     }
     const PathVariant path(archivePath);
     Folder* folder = nullptr;
-    // The Shell also tells of success where it knows no folder of that name.
+    // The Shell also reports success where it knows no folder of that name.
     if (SUCCEEDED(shell->NameSpace(path.get(), &folder)) && folder != nullptr) {
         state_ = std::make_unique<State>(State{std::move(shell), Object<Folder>(folder)});
     }
@@ -94,7 +94,7 @@ void CompressedFolder::copyHere(const std::string& folder) const {
     ::VariantInit(&options);
     options.vt = VT_I4;
     options.lVal = kQuietly;
-    // Nobody is told how it went.
+    // The outcome is not reported.
     static_cast<void>(state_->folder->CopyHere(source.get(), options));
 }
 

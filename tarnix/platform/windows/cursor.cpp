@@ -8,7 +8,7 @@ WaitCursor::WaitCursor() {
     // The cursor belongs to the system and is not released.
     const HCURSOR waiting = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));  // IDC_WAIT
     previous_ = ::SetCursor(waiting);
-    // The result is the count of those who want it shown, which nobody needs.
+    // The result is a count of the requests to show it, which is not needed.
     static_cast<void>(::ShowCursor(TRUE));
 }
 

@@ -13,7 +13,7 @@
 namespace tarnix::platform {
 
 std::optional<std::u16string> temporaryFolder() {
-    // A name that does not fit leaves an empty text in the buffer, and a result that is not 0.
+    // A name that does not fit leaves an empty string in the buffer, and a result that is not 0.
     static std::array<wchar_t, MAX_PATH> buffer = {};
     buffer.fill(L'\0');
     if (::GetTempPathW(static_cast<DWORD>(buffer.size()), buffer.data()) == 0) {

@@ -48,7 +48,7 @@ std::optional<CLSID> pngEncoder() {
     if (flat::GdipGetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0) {
         return std::nullopt;
     }
-    // The list is followed by the texts that it points to.
+    // The list is followed by the strings that it points to.
     std::vector<Gdiplus::ImageCodecInfo> codecs(bytes / sizeof(Gdiplus::ImageCodecInfo) + 1);
     if (flat::GdipGetImageEncoders(count, bytes, codecs.data()) != Gdiplus::Ok) {
         return std::nullopt;
@@ -80,7 +80,7 @@ void PngImage::save(const std::wstring& path) {
     const std::optional<CLSID> encoder = pngEncoder();
     Gdiplus::GpBitmap* picture = nullptr;
     if (encoder && flat::GdipCreateBitmapFromHBITMAP(bitmap_, nullptr, &picture) == Gdiplus::Ok) {
-        // Nobody is told whether the file could be written.
+        // Whether the file could be written is not reported.
         static_cast<void>(flat::GdipSaveImageToFile(picture, path.c_str(), &*encoder, nullptr));
         flat::GdipDisposeImage(picture);
     }

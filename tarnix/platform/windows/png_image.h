@@ -20,7 +20,7 @@ public:
     /// Makes this the image's bitmap, which still belongs to the caller.
     void attach(HBITMAP bitmap) { bitmap_ = bitmap; }
 
-    /// Writes the bitmap into a file; what fails is not told.
+    /// Writes the bitmap into a file; failures are not reported.
     void save(const std::wstring& path);
 
 private:

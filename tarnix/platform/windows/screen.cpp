@@ -41,7 +41,7 @@ struct ScreenPicture::State {
 namespace {
 
 /// For an area without a width or height the system has a bitmap of its own, of one pixel, which is
-/// no picture.
+/// not a picture.
 HBITMAP newBitmap(HDC screen, int width, int height) {
     return width != 0 && height != 0 ? ::CreateCompatibleBitmap(screen, width, height) : nullptr;
 }

@@ -15,7 +15,7 @@ bool openWithShell(const std::string& target, ShellTarget kind) {
     const wchar_t* const verb = kind == ShellTarget::Folder ? nullptr : L"open";
     const HINSTANCE result = ::ShellExecuteW(nullptr, verb, text.c_str(), /*lpParameters=*/nullptr,
                                              /*lpDirectory=*/nullptr, SW_SHOWNORMAL);
-    // No handle, in spite of its type: values up to 32 are errors.
+    // Not a handle, in spite of its type: values up to 32 are errors.
     return reinterpret_cast<std::intptr_t>(result) > 32;
 }
 

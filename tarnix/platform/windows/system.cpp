@@ -22,7 +22,7 @@ void showMessageBox(const std::string& text, const std::string& title, MessageSt
 
 WindowHandle hideConsole() {
     const HWND console = ::GetConsoleWindow();
-    // Says whether the window showed before; without one nothing happens.
+    // Returns whether the window showed before; without one nothing happens.
     static_cast<void>(::ShowWindow(console, SW_HIDE));
     return reinterpret_cast<WindowHandle>(console);
 }

@@ -23,7 +23,7 @@ std::string titleOf(HWND window) {
 
 ScreenArea clientAreaOf(HWND window) {
     RECT area = {};
-    // Zeros stay where the window is gone; the shift of an empty area tells nothing either.
+    // Zeros stay where the window is gone; the shift of an empty area means nothing either.
     if (::GetClientRect(window, &area) == FALSE) {
         return {};
     }

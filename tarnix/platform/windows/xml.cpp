@@ -47,10 +47,10 @@ void check(HRESULT result) {
     }
 }
 
-/// A text for a call.
+/// A string as a call takes it.
 _bstr_t wide(const std::string& text) { return {fromUtf8(xmlText(text)).c_str()}; }
 
-/// A text that a call has handed over.
+/// A string that a call has returned.
 std::string taken(BSTR text) {
     const _bstr_t owner(text, /*fCopy=*/false);
     return text != nullptr ? toUtf8({text, ::SysStringLen(text)}) : std::string();

@@ -56,7 +56,7 @@ TEST_F(AppendingText, LinesEndInCarriageReturnAndLineFeed) {
     EXPECT_EQ(folder.read("list.csv"), "Part;Count;\r\n\r\nend");
 }
 
-TEST_F(AppendingText, LineEndsInsideATextGetACarriageReturnToo) {
+TEST_F(AppendingText, LineEndsInsideAStringGetACarriageReturnToo) {
     {
         AppendingTextFile file(folder.windows("list.csv"));
         file.write("a\nb\r\nc\n\n");
@@ -73,7 +73,7 @@ TEST_F(AppendingText, OtherBytesGoOutAsTheyAre) {
     EXPECT_EQ(folder.read("list.csv"), bytes);
 }
 
-TEST_F(AppendingText, NewTextStandsBehindTheOld) {
+TEST_F(AppendingText, NewTextFollowsTheOld) {
     folder.write("list.csv", "old\r\n");
     {
         AppendingTextFile file(folder.windows("list.csv"));
@@ -83,7 +83,7 @@ TEST_F(AppendingText, NewTextStandsBehindTheOld) {
     EXPECT_EQ(folder.read("list.csv"), "old\r\nnew\r\n");
 }
 
-TEST_F(AppendingText, FileThatCouldNotBeDeletedGetsTheNewTextBehindTheOld) {
+TEST_F(AppendingText, FileThatCouldNotBeDeletedGetsTheNewTextAfterTheOld) {
     folder.write("list.csv", "old\r\n");
     {
         const test::Undeletable kept(folder.path() / "list.csv");
@@ -105,7 +105,7 @@ TEST_F(AppendingText, EndedLineIsInTheFileWhileItIsOpen) {
     EXPECT_EQ(folder.read("list.csv"), "line\r\n");
 }
 
-TEST_F(AppendingText, FileThatDoesNotOpenSwallowsWhatIsWritten) {
+TEST_F(AppendingText, FileThatDoesNotOpenDiscardsWhatIsWritten) {
     {
         AppendingTextFile file(folder.windows("missing/list.csv"));
         EXPECT_NO_THROW(file.write("line"));

@@ -106,7 +106,7 @@ TEST_F(Folders, AreSearchedInTheOrderOfNamesWithSmallLettersAsLargeOnes) {
     makeWritable(folder.windows("c"));
 }
 
-TEST_F(Folders, AreSearchedForTheBeginningOfANameTheFirstNotBeingTold) {
+TEST_F(Folders, AreSearchedForTheBeginningOfANameWithoutTheFirst) {
     fs::create_directory(folder.path() / "sub");
     folder.write("Sub2", "");
     folder.write("other", "");

@@ -83,7 +83,7 @@ TEST_F(HostedSystem, WaitsItselfWhereTheProcessDoesNot) {
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(80));
 }
 
-TEST_F(HostedSystem, HandsAMessageToTheProcess) {
+TEST_F(HostedSystem, PassesAMessageToTheProcess) {
     process.answer = StandInAnswer::Done;
     showMessageBox("Target directory does not exist.", "Information", MessageStyle::Information);
     EXPECT_EQ(process.asked, "Information (64): Target directory does not exist.");

@@ -27,7 +27,7 @@ protected:
     ~HostedShell() override { answer = StandInAnswer::NotHandled; }
 };
 
-TEST_F(HostedShell, ProcessIsAskedWithTheTextAsItStands) {
+TEST_F(HostedShell, ProcessIsAskedWithTheStringUnchanged) {
     answer = StandInAnswer::Done;
     EXPECT_TRUE(openWithShell("C:\\a b\\caf\xE9.xlsm"));
     EXPECT_EQ(asked, std::vector<std::string>{"C:\\a b\\caf\xE9.xlsm"});

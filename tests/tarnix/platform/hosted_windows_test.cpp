@@ -59,7 +59,7 @@ TEST_F(HostedWindows, AreSeenNoLongerThanTheVisitorWants) {
     EXPECT_EQ(seen, "front 10 20 40 60\n");
 }
 
-TEST_F(HostedWindows, EndWithWhatTheVisitorRaises) {
+TEST_F(HostedWindows, EndWithWhatTheVisitorThrows) {
     EXPECT_THROW(visitTopWindows([](const TopWindow& window) -> bool {
                      note(window);
                      throw std::out_of_range("window");

@@ -36,7 +36,7 @@ TEST_F(CzechLocale, LowersTheCaseOfLetters) {
     EXPECT_EQ(lowerCase("C:\\Users\\Jan\\PART-12_B.STEP"), "c:\\users\\jan\\part-12_b.step");
 }
 
-TEST_F(CzechLocale, LeavesAnEmptyTextEmpty) {
+TEST_F(CzechLocale, LeavesAnEmptyStringEmpty) {
     useCzechLocale();
 
     EXPECT_EQ(lowerCase(""), "");

@@ -29,7 +29,7 @@ TEST_F(NewText, TakesThePlaceOfTheOld) {
     EXPECT_EQ(folder.read("info.txt"), "new\r\n");
 }
 
-TEST_F(NewText, IsSwallowedByAFileThatDoesNotOpen) {
+TEST_F(NewText, IsDiscardedByAFileThatDoesNotOpen) {
     file.open(folder.windows("missing/info.txt"));
     EXPECT_NO_THROW(file.write("line\n"));
     EXPECT_NO_THROW(file.close());

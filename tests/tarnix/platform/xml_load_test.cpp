@@ -20,7 +20,7 @@ protected:
     }
 };
 
-TEST_F(XmlLoad, TellsThatTheFileWasRead) {
+TEST_F(XmlLoad, ReportsThatTheFileWasRead) {
     EXPECT_EQ(read("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<r/>\r\n").nodeName(), "r");
     EXPECT_TRUE(loaded);
 }
@@ -32,7 +32,7 @@ TEST_F(XmlLoad, MissingFileLeavesAnEmptyDocument) {
     EXPECT_EQ(document.childNodes().length(), 0);
 }
 
-TEST_F(XmlLoad, FileThatIsNoXmlLeavesAnEmptyDocument) {
+TEST_F(XmlLoad, FileThatIsNotXmlLeavesAnEmptyDocument) {
     EXPECT_FALSE(read("no xml at all"));
     EXPECT_FALSE(loaded);
     EXPECT_FALSE(read(""));

@@ -51,7 +51,7 @@ TEST_F(XmlHandle, OfNoNodeThrowsAsAnArgument) {
     EXPECT_EQ(comError([&] { root.attributes().setNamedItem(XmlNode()); }), E_POINTER);
 }
 
-TEST_F(XmlHandle, KeepsItsNodeWhenTheDocumentIsLetGo) {
+TEST_F(XmlHandle, KeepsItsNodeWhenTheDocumentIsReleased) {
     const XmlNode child = read("<r><a>text</a></r>").firstChild();
     document = {};
     EXPECT_EQ(child.nodeName() + "=" + child.text(), "a=text");
@@ -87,7 +87,7 @@ TEST_F(XmlNodes, ElementsAndDocumentsHaveNoValue) {
     EXPECT_NE(comError([&] { root.setNodeValue("v"); }), 0);
 }
 
-TEST_F(XmlNodes, AttributesStandInDocumentOrder) {
+TEST_F(XmlNodes, AttributesAreInDocumentOrder) {
     const XmlAttributeMap attributes = read("<r z='1' a='2' m='3'/>").attributes();
     ASSERT_EQ(attributes.length(), 3);
     EXPECT_EQ(attributes.item(0).nodeName(), "z");
@@ -140,7 +140,7 @@ TEST_F(XmlNodes, EmptyTextLeavesNoChild) {
     EXPECT_NE(saved().find("<r/>"), std::string::npos);
 }
 
-TEST_F(XmlNodes, AppendedChildStandsBehindTheOthers) {
+TEST_F(XmlNodes, AppendedChildComesAfterTheOthers) {
     XmlNode root = read("<r><a/></r>");
     const XmlNode added = root.appendChild(document.createElement("b"));
     EXPECT_EQ(added.nodeName(), "b");
@@ -163,14 +163,14 @@ TEST_F(XmlNodes, RemovedChildIsGone) {
     EXPECT_EQ(root.firstChild().nodeName(), "b");
 }
 
-TEST_F(XmlNodes, RemovingWhatIsNoChildFails) {
+TEST_F(XmlNodes, RemovingWhatIsNotAChildFails) {
     XmlNode root = read("<r><a><b/></a></r>");
     const XmlNode grandchild = root.firstChild().firstChild();
     EXPECT_EQ(comError([&] { root.removeChild(grandchild); }), E_INVALIDARG);
     EXPECT_EQ(root.firstChild().childNodes().length(), 1);
 }
 
-TEST_F(XmlNodes, NewAttributeStandsBehindTheOthers) {
+TEST_F(XmlNodes, NewAttributeComesAfterTheOthers) {
     const XmlNode root = read("<r z='1'/>");
     XmlNode attribute = document.createNode(XmlNodeType::Attribute, "a");
     attribute.setNodeValue("2");
@@ -188,7 +188,7 @@ TEST_F(XmlNodes, AttributeTakesThePlaceOfOneOfItsName) {
     EXPECT_NE(saved().find("a=\"2\""), std::string::npos);
 }
 
-TEST_F(XmlNodes, NoElementServesAsAnAttribute) {
+TEST_F(XmlNodes, AnElementIsRefusedAsAnAttribute) {
     const XmlNode root = makeRoot();
     EXPECT_NE(comError([&] { root.attributes().setNamedItem(document.createElement("a")); }), 0);
     EXPECT_EQ(root.attributes().length(), 0);

@@ -34,7 +34,7 @@ TEST_F(XmlSave, WritesNothingBetweenElements) {
               "</configuration>");
 }
 
-TEST_F(XmlSave, DeclarationStandsInFront) {
+TEST_F(XmlSave, DeclarationComesFirst) {
     document = XmlDocument::create();
     document.appendChild(
         document.createProcessingInstruction("xml", "version=\"1.0\" encoding=\"UTF-8\""));
@@ -82,7 +82,7 @@ TEST_F(XmlSave, ForbiddenCharactersAreLeftOut) {
     EXPECT_EQ(readText, "abc\xEF\xBF\xBD");
 }
 
-TEST_F(XmlSave, WhatWasWrittenByHandStays) {
+TEST_F(XmlSave, ManualEditsStay) {
     read(
         "<configuration b='1' a='2'>\n  <!-- mine --><?mine too?>\n  <x><![CDATA[<&]]></x>\n"
         "</configuration>");

@@ -26,7 +26,7 @@ TEST(XmlText, LeavesOutTheTwoLastCharactersOfTheFirstPlane) {
               "abc\xEF\xBF\xBD");
 }
 
-TEST(XmlText, BytesThatAreNoUtf8BecomeReplacementCharacters) {
+TEST(XmlText, BytesThatAreNotUtf8BecomeReplacementCharacters) {
     const std::string replacement = "\xEF\xBF\xBD";
     EXPECT_EQ(xmlText("a\xFF"
                       "b"),
@@ -38,7 +38,7 @@ TEST(XmlText, BytesThatAreNoUtf8BecomeReplacementCharacters) {
     EXPECT_EQ(xmlText("\x80"), replacement);
 }
 
-TEST(XmlText, OverlongFormsAndSurrogatesAreNoUtf8) {
+TEST(XmlText, OverlongFormsAndSurrogatesAreNotUtf8) {
     const std::string replacement = "\xEF\xBF\xBD";
     EXPECT_EQ(xmlText("\xC0\x80"), replacement + replacement);
     EXPECT_EQ(xmlText("\xE0\x80\x80"), replacement + replacement + replacement);

@@ -40,7 +40,7 @@ protected:
     ScratchFolder folder;
 };
 
-TEST_F(PosixFolders, ANameWithABackslashIsNoPathToAnotherFolder) {
+TEST_F(PosixFolders, ANameWithABackslashIsNotAPathToAnotherFolder) {
     fs::create_directory(folder.path() / "sub");
     folder.write("outside", "");
     folder.write("sub/..\\outside", "");
@@ -54,7 +54,7 @@ TEST_F(PosixFolders, ANameWithABackslashIsNoPathToAnotherFolder) {
     EXPECT_TRUE(fs::is_empty(folder.path() / "sub"));
 }
 
-TEST_F(PosixFolders, ANameOfBytesThatAreNoTextIsUnderstoodOnTheWayBack) {
+TEST_F(PosixFolders, ANameOfBytesThatAreNotTextIsUnderstoodOnTheWayBack) {
     folder.write("caf\xE9", "");
     const auto found = onlyEntry();
     ASSERT_TRUE(found);
@@ -84,7 +84,7 @@ TEST_F(PosixFolders, ALinkIsAFileAndItsTargetStays) {
     EXPECT_EQ(other.read("kept"), "x");
 }
 
-TEST_F(PosixFolders, AFolderBehindALinkIsNotSearched) {
+TEST_F(PosixFolders, AFolderReachedThroughALinkIsNotSearched) {
     const ScratchFolder other;
     other.write("kept", "x");
     fs::create_directory_symlink(other.path(), folder.path() / "link");

@@ -28,7 +28,7 @@ TEST_F(ModulePath, CountsWideCharactersAndNotBytesAgainstTheLimit) {
     EXPECT_EQ(path, before + std::string(room, 'c'));
 }
 
-TEST_F(ModulePath, HalfACharacterAtTheLimitIsABlank) {
+TEST_F(ModulePath, HalfACharacterAtTheLimitIsASpace) {
     // Each of these takes two wide characters of Windows, so the last would begin at the 259th.
     const std::size_t used = folder.path().string().size() + 1;
     const std::string filling(258 - used - 1, 'a');

@@ -75,7 +75,7 @@ TEST_F(PosixShell, FailsForWhatTheOpenerDoesNotOpenAfterAWhile) {
     EXPECT_FALSE(openWithShell("http://a.example/"));
 }
 
-TEST_F(PosixShell, OpenerThatFailsIsLeftToNobody) {
+TEST_F(PosixShell, OpenerThatFailsLeavesNoChildToCollect) {
     replaceOpener("exit 4");
     EXPECT_FALSE(openWithShell("http://a.example/"));
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);

@@ -97,7 +97,7 @@ TEST_F(PosixXmlSave, FileThatCannotBeReplacedKeepsItsContent) {
     EXPECT_EQ(folder.count(), 1);
 }
 
-TEST_F(PosixXmlSave, LeftoverOfACrashIsNoHindrance) {
+TEST_F(PosixXmlSave, LeftoverOfACrashDoesNotMatter) {
     makeRoot();
     folder.write("saved.xml.new-" + std::to_string(test::processNumber()), "half");
     EXPECT_EQ(saved(), "<configuration/>\r\n");

@@ -5,7 +5,7 @@
 namespace tarnix::platform {
 namespace {
 
-TEST_F(ModulePath, CharactersThatTheCodePageLacksBecomeBlanks) {
+TEST_F(ModulePath, CharactersThatTheCodePageLacksBecomeSpaces) {
     if (::GetACP() != 1252) {
         GTEST_SKIP() << "written for the code page 1252";
     }

@@ -14,7 +14,7 @@ TEST_F(WindowsShell, FailsForAFileThatIsNotThere) {
     EXPECT_FALSE(openWithShell(folder.windows("missing.xlsm")));
 }
 
-TEST_F(WindowsShell, FailsForATextThatIsNoAddress) {
+TEST_F(WindowsShell, FailsForAStringThatIsNotAnAddress) {
     EXPECT_FALSE(openWithShell("no address at all", ShellTarget::Address));
 }
 
