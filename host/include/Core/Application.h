@@ -14,37 +14,43 @@ class Preferences;
 class Product;
 class UserInterface;
 
-/// The host itself; everything else is reached from here.
+/// The host itself; everything else is accessed from here.
 class Application : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Application"
 
-    /// The one application of the process, null where none runs.
+    /// The one application of the process; null while no host runs.
     static Ptr<Application> get();
 
+    /// Toolbars, commands and dialogs; never null.
     [[nodiscard]] virtual Ptr<UserInterface> userInterface() const = 0;
 
-    /// The document that the user works in.
+    /// The document that the user works in; null before the first one is opened.
     [[nodiscard]] virtual Ptr<Document> activeDocument() const = 0;
 
-    /// What the active workspace shows of the active document: its design, or another product. Null
-    /// without one.
+    /// What the active workspace shows of the active document: its design, or another product,
+    /// which does not convert to a design. Null without a document.
     [[nodiscard]] virtual Ptr<Product> activeProduct() const = 0;
 
-    /// What the user edits: a component, or a sketch while one is open.
+    /// What the user edits: a sketch while one is open, otherwise the root component of the active
+    /// document. Null without a document.
     [[nodiscard]] virtual Ptr<Base> activeEditObject() const = 0;
 
-    /// The user's projects, folders and files.
+    /// The user's projects, folders and files; null when the host has no storage for them.
     [[nodiscard]] virtual Ptr<Data> data() const = 0;
 
-    /// The open documents.
+    /// The open documents; never null.
     [[nodiscard]] virtual Ptr<Documents> documents() const = 0;
 
+    /// Imports files of other formats; never null.
     [[nodiscard]] virtual Ptr<ImportManager> importManager() const = 0;
+
+    /// The user's settings of the host; never null.
     [[nodiscard]] virtual Ptr<Preferences> preferences() const = 0;
 
-    /// The code of the last failure, a value of `GenericErrors`; `Ok` where nothing failed. Its
-    /// text goes to `description` where one is given.
+    /// The code of the last failure, a value of `GenericErrors`, or `Ok` when nothing has failed
+    /// yet. A call that succeeds does not reset it. `description` may be null; otherwise it
+    /// receives the message.
     virtual int getLastError(std::string* description = nullptr) const = 0;
 };
 

@@ -7,48 +7,50 @@
 
 namespace adsk::core {
 
-/// A text that a module has put on a thing of the design under a group and a name.
+/// A string that a module has attached to an entity of the design, under a group and a name.
 class Attribute : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Attribute"
 
+    /// The group that it was added under; never empty, and fixed.
     [[nodiscard]] virtual std::string groupName() const = 0;
+
+    /// Its name within the group; never empty, and fixed.
     [[nodiscard]] virtual std::string name() const = 0;
 
+    /// The string as it was set; it may be empty.
     [[nodiscard]] virtual std::string value() const = 0;
-
-    /// Sets the text; false, with the old text kept, for one of more than 2 MB.
+    /// False, with the old value kept, for more than 2 MB.
     virtual bool value(const std::string& value) = 0;
 
-    /// What the attribute stands on.
+    /// The entity that it belongs to: a component, or a product.
     [[nodiscard]] virtual Ptr<Base> parent() const = 0;
 
-    /// Takes the attribute off; this object is not valid afterwards.
+    /// Removes the attribute from its entity; this object is not valid afterwards.
     virtual bool deleteMe() = 0;
 };
 
-/// The attributes of one thing of the design, saved with it.
+/// The attributes of one entity of the design, saved with it.
 ///
-/// Group and name together tell one from another, and upper and lower case differ. The order is the
-/// order in which they were made.
+/// Group and name together identify an attribute; upper and lower case differ. They are kept in the
+/// order of creation.
 class Attributes : public CollectionOf<Attribute> {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Attributes"
 
-    /// The attribute of that group and name, null where there is none.
+    /// The attribute of this group and name, null when there is none.
     [[nodiscard]] virtual Ptr<Attribute> itemByName(const std::string& groupName,
                                                     const std::string& name) const = 0;
 
-    /// All attributes of a group; none for a group that is not there.
+    /// All attributes of a group, in order of creation; empty for an unknown group.
     [[nodiscard]] virtual std::vector<Ptr<Attribute>> itemsByGroup(
         const std::string& groupName) const = 0;
 
-    /// The groups, each once.
+    /// The names of the groups, each once, in the order of their first attributes.
     [[nodiscard]] virtual std::vector<std::string> groupNames() const = 0;
 
-    /// Makes an attribute, or sets the value of the one that has this group and name already.
-    ///
-    /// Null, with nothing changed, for an empty group or name and for a value of more than 2 MB.
+    /// Adds an attribute at the end, or sets the value of the one that already has this group and
+    /// name. Null for an empty group or name and for a value of more than 2 MB.
     virtual Ptr<Attribute> add(const std::string& groupName, const std::string& name,
                                const std::string& value) = 0;
 };

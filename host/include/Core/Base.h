@@ -6,35 +6,38 @@ namespace adsk::core {
 
 /// What every object of the host is.
 ///
-/// Objects belong to the host; a module holds counted references on them through `Ptr`. The same
-/// thing of the host is always the same object, so handles can be compared. No member of any class
-/// throws: a failing call returns null, false or an empty value, and `Application::getLastError`
-/// tells why.
+/// Objects belong to the host; a module holds counted references to them through `Ptr`. The same
+/// thing of the host is always the same object, so handles can be compared.
+///
+/// No member of any class throws. A call that fails returns null, false, zero or an empty value and
+/// changes nothing, and `Application::getLastError` says why; so does every call on a deleted
+/// object. A setter returns true unless its comment names a case. Calls are made on the main thread
+/// alone. Strings are UTF-8, and may be empty unless a comment says otherwise.
 class Base {
 public:
     Base(const Base&) = delete;
     Base& operator=(const Base&) = delete;
 
-    /// False once the host has deleted what this object stands for.
+    /// False once the host has deleted the entity that this object represents.
     [[nodiscard]] virtual bool isValid() const = 0;
 
-    /// The full name of the class, such as "adsk::core::Application".
+    /// The full name of the class, such as "adsk::core::Application"; never null.
     static const char* classType();
 
-    /// The full name of the class that this object is of: the same pointer as that class's
-    /// `classType`.
+    /// The full name of the most derived class of this object: the same pointer as that class's
+    /// `classType`, also for a deleted object.
     [[nodiscard]] virtual const char* objectType() const = 0;
 
-    /// This object as a `T`, or null where it is none.
+    /// This object as a `T`, or null when it is not one.
     template <class T>
     Ptr<T> cast() {
         return Ptr<T>(dynamic_cast<T*>(this));
     }
 
-    /// Counts one reference more; `Ptr` does this.
+    /// Adds a reference; `Ptr` does this.
     virtual void addRef() const = 0;
 
-    /// Counts one reference less; the last one destroys the object.
+    /// Drops a reference; the last one destroys the object. `Ptr` does this.
     virtual void release() const = 0;
 
 protected:

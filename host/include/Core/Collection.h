@@ -22,7 +22,7 @@ public:
 template <class Item>
 class CollectionById : public CollectionOf<Item> {
 public:
-    /// The first item of this id, null where there is none. Upper and lower case differ.
+    /// The first item of this id, null when there is none. Upper and lower case differ.
     [[nodiscard]] virtual Ptr<Item> itemById(const std::string& id) const = 0;
 };
 

@@ -12,65 +12,80 @@ namespace adsk::core {
 
 /// The inputs of a command, a tab or a group.
 ///
-/// Every input belongs to one collection, also while it stands in a table. Only the ids of tabs
-/// have to differ: an id in use returns null for a tab, and a further input for everything else.
+/// Every input belongs to exactly one collection, even while it is a cell of a table. Only the ids
+/// of tabs have to be unique: an id that is in use returns null for a tab, and a further input for
+/// everything else. Inputs can be added while the dialog is open.
 class CommandInputs : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::CommandInputs"
 
-    /// The number of its own members, those of tabs and groups inside it not counted.
+    /// The number of its own members: cells of tables included, the inputs inside its tabs and
+    /// groups not.
     [[nodiscard]] virtual std::size_t count() const = 0;
 
-    /// Own members in the order in which they were made; null for an index that does not exist.
+    /// Its own members in order of creation; null for an index outside the collection.
     [[nodiscard]] virtual Ptr<CommandInput> item(std::size_t index) const = 0;
 
-    /// The first input of this id: among the own members, then inside the tabs and groups of this
-    /// collection. Null where there is none; a tab does not find what another one holds.
+    /// The first input of this id in order of creation: among its own members, then inside its tabs
+    /// and groups. Null when there is none; a tab does not find what another tab contains.
     [[nodiscard]] virtual Ptr<CommandInput> itemById(const std::string& id) const = 0;
 
+    /// The command of the dialog, at any depth; never null.
     [[nodiscard]] virtual Ptr<Command> command() const = 0;
 
-    /// A check box, or a button.
+    /// Adds a check box, or a button with the icons of `resourceFolder`.
     virtual Ptr<BoolValueCommandInput> addBoolValueInput(const std::string& id,
                                                          const std::string& name, bool isCheckBox,
                                                          const std::string& resourceFolder = "",
                                                          bool initialValue = false) = 0;
 
+    /// Adds an editable line of text.
     virtual Ptr<StringValueCommandInput> addStringValueInput(
         const std::string& id, const std::string& name, const std::string& initialValue = "") = 0;
 
+    /// Adds a drop-down list without items; nothing is selected until an item is.
     virtual Ptr<DropDownCommandInput> addDropDownCommandInput(const std::string& id,
                                                               const std::string& name,
                                                               DropDownStyles dropDownStyle) = 0;
 
+    /// Adds a table without rows. For `columnRatio` see `TableCommandInput::columnRatio`.
     virtual Ptr<TableCommandInput> addTableCommandInput(const std::string& id,
                                                         const std::string& name,
                                                         int numberOfColumns,
                                                         const std::string& columnRatio) = 0;
 
-    /// Null where an input of the command has this id already.
+    /// Adds a tab. Null when an input of the command has this id, and in the collection of a tab or
+    /// group.
     virtual Ptr<TabCommandInput> addTabCommandInput(const std::string& id, const std::string& name,
                                                     const std::string& resourceFolder = "") = 0;
 
+    /// Adds a group, expanded and without inputs.
     virtual Ptr<GroupCommandInput> addGroupCommandInput(const std::string& id,
                                                         const std::string& name) = 0;
 
+    /// Adds a row of buttons without items. With `isMultiSelectEnabled` they are selected
+    /// independently of each other.
     virtual Ptr<ButtonRowCommandInput> addButtonRowCommandInput(const std::string& id,
                                                                 const std::string& name,
                                                                 bool isMultiSelectEnabled) = 0;
 
+    /// Adds a group of radio buttons without items; nothing is selected until an item is.
     virtual Ptr<RadioButtonGroupCommandInput> addRadioButtonGroupCommandInput(
         const std::string& id, const std::string& name = "") = 0;
 
+    /// Adds a text box. `formattedText` is interpreted as by `TextBoxCommandInput::formattedText`,
+    /// and `numRows` is its height in lines.
     virtual Ptr<TextBoxCommandInput> addTextBoxCommandInput(const std::string& id,
                                                             const std::string& name,
                                                             const std::string& formattedText,
                                                             int numRows, bool isReadOnly) = 0;
 
+    /// Adds a picture from a file, not from a folder of icons.
     virtual Ptr<ImageCommandInput> addImageCommandInput(const std::string& id,
                                                         const std::string& name,
                                                         const std::string& imageFile) = 0;
 
+    /// Adds an input for picking entities; it accepts exactly one of any kind at first.
     virtual Ptr<SelectionCommandInput> addSelectionInput(const std::string& id,
                                                          const std::string& name,
                                                          const std::string& commandPrompt) = 0;

@@ -8,63 +8,82 @@
 
 namespace adsk::core {
 
-/// The host's dialog for choosing files.
+/// The host's dialog for choosing files. It can be shown any number of times.
 class FileDialog : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::FileDialog"
 
+    /// Whether the user may choose several files, false at first.
     [[nodiscard]] virtual bool isMultiSelectEnabled() const = 0;
+    /// Takes effect when the dialog is shown next.
     virtual bool isMultiSelectEnabled(bool value) = 0;
 
+    /// The title of the dialog; the host's own while it is empty.
     [[nodiscard]] virtual std::string title() const = 0;
+    /// Takes effect when the dialog is shown next.
     virtual bool title(const std::string& value) = 0;
 
-    /// The kinds of files offered, such as "Drawings (*.dxf;*.dwg);;All files (*.*)".
+    /// The file types offered, such as "Drawings (*.dxf;*.dwg);;All files (*.*)".
     [[nodiscard]] virtual std::string filter() const = 0;
+    /// Not checked; an empty filter offers all files.
     virtual bool filter(const std::string& value) = 0;
 
-    /// The kind that is offered first; 0 is the first one of `filter`.
+    /// The file type that is offered first; 0 is the first one of `filter`.
     [[nodiscard]] virtual int filterIndex() const = 0;
+    /// Not checked against the filter.
     virtual bool filterIndex(int value) = 0;
 
-    /// Shows the dialog and waits for the user.
+    /// Shows the dialog and waits for the user: `DialogOK` when files were chosen, `DialogCancel`
+    /// otherwise.
     virtual DialogResults showOpen() = 0;
 
-    /// The chosen files, full paths.
+    /// The full paths of the files chosen last; empty after a cancelled dialog.
     [[nodiscard]] virtual std::vector<std::string> filenames() const = 0;
 
-    /// The chosen file; the first of several.
+    /// The full path of the file chosen last, the first of several; empty after a cancelled dialog.
     [[nodiscard]] virtual std::string filename() const = 0;
 };
 
-/// A bar that shows how far a long operation has come.
+/// A bar that shows the progress of a long operation. It shows from its creation until it is hidden
+/// or the last handle to it is gone; the module has to call `adsk::doEvents` for it to respond.
 class ProgressDialog : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::ProgressDialog"
 
-    /// "Cancel" at first.
+    /// The caption of the cancel button, "Cancel" at first.
     [[nodiscard]] virtual std::string cancelButtonText() const = 0;
+    /// Shown at once if the button is.
     virtual bool cancelButtonText(const std::string& value) = 0;
 
-    /// False at first.
+    /// Whether the window shows through, false at first.
     [[nodiscard]] virtual bool isBackgroundTranslucent() const = 0;
+    /// Shown at once.
     virtual bool isBackgroundTranslucent(bool value) = 0;
 
-    /// False at first.
+    /// Whether the user can cancel the operation, false at first.
     [[nodiscard]] virtual bool isCancelButtonShown() const = 0;
+    /// Shown at once.
     virtual bool isCancelButtonShown(bool value) = 0;
 
-    /// "%v", "%m" and "%p" in it stand for the value, the maximum and the percentage.
+    /// The message as it was set, with its placeholders; empty at first.
     [[nodiscard]] virtual std::string message() const = 0;
+    /// "%v", "%m" and "%p" are shown as the value, the maximum and the percentage.
     virtual bool message(const std::string& value) = 0;
 
+    /// The current value, 0 at first.
     [[nodiscard]] virtual int progressValue() const = 0;
+    /// Not limited to the range of `show`.
     virtual bool progressValue(int value) = 0;
 
+    /// Whether the user has cancelled the operation, or the host has after waiting too long. The
+    /// module has to poll it and stop; it stays true.
     [[nodiscard]] virtual bool wasCancelled() const = 0;
+
+    /// Hides the dialog; `show` shows it again.
     virtual bool hide() = 0;
 
-    /// Shows the bar after `delay` seconds.
+    /// Shows the dialog after `delay` seconds with a message and a range; the value becomes the
+    /// minimum. This host ignores `title` and `delay`.
     virtual bool show(const std::string& title, const std::string& message, int minimumValue,
                       int maximumValue, int delay = 0) = 0;
 };

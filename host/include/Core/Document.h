@@ -12,30 +12,34 @@ class DataFile;
 /// An open document.
 class Document : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Document"
 
-    /// The file in the user's data that it was opened from or saved to. Null for a document that
-    /// was never saved, and for a referenced one until the host has looked its file up.
+    /// The file of the user's data that it was opened from or saved to. Null for a document that
+    /// was never saved, and for a referenced one until the host has found its file.
     [[nodiscard]] virtual Ptr<DataFile> dataFile() const = 0;
 
-    /// The application.
+    /// The application; never null.
     [[nodiscard]] virtual Ptr<Application> parent() const = 0;
 
-    /// The document's name; the root component of its design is called the same.
+    /// The document's name, which is also that of the root component of its design.
     [[nodiscard]] virtual std::string name() const = 0;
+    /// Renames the root component too. False for an empty name, and for a document that is open
+    /// only because another one refers to it.
     virtual bool name(const std::string& value) = 0;
 
-    /// Whether it has ever been saved into the user's data.
+    /// Whether it has a file in the user's data.
     [[nodiscard]] virtual bool isSaved() const = 0;
 };
 
-/// The open documents.
+/// The open documents, in the order in which they were opened. Those that are open only because
+/// another one refers to them are not among them.
 class Documents : public CollectionOf<Document> {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Documents"
 
-    /// Opens a file of the user's data and makes it the active document; null where that fails, for
-    /// instance while the file is still being converted.
+    /// Opens a file of the user's data and makes it the active document, which closes an
+    /// open dialog. Null for no file, for one that cannot be read, and while it is still being
+    /// converted after its upload. Takes as long as reading the file; `visible` is ignored.
     virtual Ptr<Document> open(const Ptr<DataFile>& dataFile, bool visible = true) = 0;
 };
 

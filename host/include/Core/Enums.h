@@ -1,13 +1,13 @@
 #pragma once
 
-/// The enumerations of the user interface. They are unscoped: their names stand in `adsk::core`
-/// itself, and they convert to int.
+/// The enumerations of the user interface. They are unscoped: their enumerators are names of
+/// `adsk::core` itself, and they convert to int.
 namespace adsk::core {
 
-/// How a dialog was left.
+/// How a dialog was closed.
 enum DialogResults {
-    DialogError = -1,
-    DialogOK = 0,
+    DialogError = -1,  ///< it could not be shown
+    DialogOK = 0,      ///< also "Retry"
     DialogCancel = 1,
     DialogYes = 2,
     DialogNo = 3,
@@ -15,22 +15,22 @@ enum DialogResults {
 
 /// How a command came to its end.
 enum CommandTerminationReason {
-    UnknownTerminationReason = 0,
+    UnknownTerminationReason = 0,  ///< the command has not ended
     CompletedTerminationReason = 1,
-    CancelledTerminationReason = 2,
-    AbortedTerminationReason = 3,  ///< accepted by the user, but its execution failed
-    PreEmptedTerminationReason = 4,
-    SessionEndingTerminationReason = 5,
+    CancelledTerminationReason = 2,      ///< by the user, or by a change of workspace
+    AbortedTerminationReason = 3,        ///< accepted by the user, but its execution failed
+    PreEmptedTerminationReason = 4,      ///< another command started
+    SessionEndingTerminationReason = 5,  ///< its document was left, or the host ends
 };
 
 /// How far an upload has come.
 enum UploadStates {
     UploadProcessing = 0,
-    UploadFinished = 1,
+    UploadFinished = 1,  ///< the file is there; it may still be being converted
     UploadFailed = 2,
 };
 
-/// Where a palette stands.
+/// Where a palette is docked.
 enum PaletteDockingStates {
     PaletteDockStateFloating = 0,
     PaletteDockStateTop = 1,
@@ -39,7 +39,7 @@ enum PaletteDockingStates {
     PaletteDockStateRight = 4,
 };
 
-/// Where a user may put a palette.
+/// Where the user may dock a palette.
 enum PaletteDockingOptions {
     PaletteDockOptionsNone = 0,
     PaletteDockOptionsToVerticalOnly = 1,
@@ -68,12 +68,12 @@ enum UserLanguages {
 
 /// What a drop-down shows for each of its items.
 enum DropDownStyles {
-    LabeledIconDropDownStyle = 0,
-    TextListDropDownStyle = 1,
-    CheckBoxDropDownStyle = 2,  ///< items are selected independently of each other
+    LabeledIconDropDownStyle = 0,  ///< icon and name
+    TextListDropDownStyle = 1,     ///< the name alone
+    CheckBoxDropDownStyle = 2,     ///< items are selected independently of each other
 };
 
-/// The buttons of a message box.
+/// The buttons of a message box, the default one first.
 enum MessageBoxButtonTypes {
     OKButtonType = 0,
     OKCancelButtonType = 1,
@@ -91,14 +91,14 @@ enum MessageBoxIconTypes {
     CriticalIconType = 4,
 };
 
-/// The codes of `Application::getLastError`.
+/// The error codes of `Application::getLastError`.
 enum GenericErrors {
     Ok = 0,
     UnexpectedError = 1,
     InternalValidationError = 2,
-    BadApiCallError = 3,
-    UnderlyingObjectDeletedError = 4,
-    OperationFailed = 5,
+    BadApiCallError = 3,               ///< an argument that cannot be right
+    UnderlyingObjectDeletedError = 4,  ///< a call on a deleted object
+    OperationFailed = 5,               ///< not possible now, or not implemented
     ExpressionError = 6,
     InvalidGeometryError = 7,
     ClassSpecificError = 100,

@@ -17,9 +17,11 @@ struct EventLink;
 /// When it is destroyed it leaves every event that it was added to.
 class EventHandler {
 public:
+    /// A handler that no event knows yet.
     EventHandler() = default;
     EventHandler(const EventHandler&) = delete;
     EventHandler& operator=(const EventHandler&) = delete;
+    /// Leaves every event. Safe while a notification runs and after the host has ended.
     virtual ~EventHandler();
 
 private:
@@ -31,7 +33,7 @@ private:
 /// which handlers of that kind are added.
 class Event : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Event"
 
     /// The name of the event, such as "OnInputChanged".
     [[nodiscard]] virtual std::string name() const = 0;
@@ -41,10 +43,10 @@ public:
     [[nodiscard]] virtual Ptr<Base> sender() const = 0;
 };
 
-/// What one notification is about; valid while it runs.
+/// What one notification is about.
 class EventArgs : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::EventArgs"
 
     /// The event that this notification comes from.
     [[nodiscard]] virtual Ptr<Event> firingEvent() const = 0;
@@ -54,8 +56,8 @@ public:
 template <class Arguments>
 class EventHandlerOf : public EventHandler {
 public:
-    /// Called each time the event fires. An exception that leaves it ends this handler alone: the
-    /// host records it and notifies the next one.
+    /// Called each time the event fires. An exception that leaves it ends this call alone: the host
+    /// records it and notifies the next handler.
     virtual void notify(const Ptr<Arguments>& eventArgs) = 0;
 };
 

@@ -7,59 +7,68 @@
 
 namespace adsk::core {
 
-/// A counted reference on an object of the host.
+/// A counted reference to an object of the host.
 ///
-/// Any handle converts to any other: the result is null where the object is not of the asked class,
-/// so a conversion is also the test for a class. A handle outlives what it refers to: a deleted
-/// object stays reachable, and its `isValid` is false.
+/// Any handle converts to any other: the result is null when the object is not of the requested
+/// class, so a conversion is also the test for a class. A handle outlives the entity it refers to:
+/// a deleted object stays reachable, and its `isValid` is false.
 template <class T>
 class Ptr {
 public:
-    using element_type = T;
+    using element_type = T;  ///< the class that the handle refers to
 
+    /// Refers to nothing.
     Ptr() noexcept = default;
+    /// Refers to nothing.
     Ptr(std::nullptr_t) noexcept {}  // NOLINT(google-explicit-constructor): null is a handle
 
-    /// Refers to `object`; with `addRef` false it takes over a reference that is counted already.
+    /// Refers to `object`, or to nothing for null. With `addRef` false it takes over a reference
+    /// that is already counted.
     Ptr(T* object, bool addRef = true) : object_(object) {  // NOLINT(google-explicit-constructor)
         if (object_ != nullptr && addRef) {
             object_->addRef();
         }
     }
 
+    /// A further reference to the same object.
     Ptr(const Ptr& other) : Ptr(other.object_) {}
+
+    /// Takes the reference over; `other` then refers to nothing.
     Ptr(Ptr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
 
-    /// Refers to the same object as a `T`, or to nothing where it is none.
+    /// Refers to the same object as a `T`, or to nothing when it is not one.
     template <class U, class = std::enable_if_t<!std::is_same_v<T, U>>>
     Ptr(const Ptr<U>& other)  // NOLINT(google-explicit-constructor): a cast is a plain assignment
         : Ptr(castTo(other.get())) {}
 
+    /// Drops the reference.
     ~Ptr() {
         if (object_ != nullptr) {
             object_->release();
         }
     }
 
+    /// Refers to the same object as `other`.
     // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the copy is made before the swap
     Ptr& operator=(const Ptr& other) {
         Ptr(other).swap(*this);
         return *this;
     }
 
+    /// Takes the reference over; `other` then refers to nothing.
     Ptr& operator=(Ptr&& other) noexcept {
         Ptr(std::move(other)).swap(*this);
         return *this;
     }
 
+    /// Drops the reference and refers to nothing.
     Ptr& operator=(std::nullptr_t) {
         Ptr().swap(*this);
         return *this;
     }
 
-    /// The object's members.
-    ///
-    /// Throws a plain `std::exception`, without a text, where there is no object.
+    /// Access to the object's members. Throws a plain `std::exception`, without a message, when the
+    /// handle refers to nothing.
     T* operator->() const { return &**this; }
 
     /// The object; throws as `operator->` does.
@@ -70,12 +79,17 @@ public:
         return *object_;
     }
 
+    /// False when it refers to nothing. A deleted object still counts as something.
     explicit operator bool() const noexcept { return object_ != nullptr; }
+
+    /// The object, or null; the handle keeps its reference.
     [[nodiscard]] T* get() const noexcept { return object_; }
 
-    /// Gives the reference away; whoever takes it has to release it.
+    /// The object, or null; the handle then refers to nothing, and the caller has to release the
+    /// reference.
     [[nodiscard]] T* detach() noexcept { return std::exchange(object_, nullptr); }
 
+    /// Exchanges what the two handles refer to.
     void swap(Ptr& other) noexcept { std::swap(object_, other.object_); }
 
 private:
@@ -91,12 +105,13 @@ private:
     T* object_ = nullptr;
 };
 
-/// Two handles are equal exactly when they refer to the same object of the host, or both to none.
+/// True when both refer to the same object of the host, or both to nothing.
 template <class T, class U>
 bool operator==(const Ptr<T>& left, const Ptr<U>& right) noexcept {
     return static_cast<const void*>(left.get()) == static_cast<const void*>(right.get());
 }
 
+/// True when the handle refers to nothing.
 template <class T>
 bool operator==(const Ptr<T>& left, std::nullptr_t) noexcept {
     return left.get() == nullptr;

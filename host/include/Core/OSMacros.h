@@ -1,7 +1,7 @@
 #pragma once
 
-/// What differs between the systems a module is built for: `XI_WIN` says that this is Windows, and
-/// `XI_EXPORT` marks the two functions that a module shows to the host.
+/// What differs between the systems that a module is built for: `XI_WIN` is defined on Windows, and
+/// `XI_EXPORT` marks the two functions that a module exports, `run` and `stop`.
 #ifdef _WIN32
 #ifndef XI_WIN
 #define XI_WIN

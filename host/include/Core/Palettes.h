@@ -7,59 +7,78 @@
 
 namespace adsk::core {
 
-/// A window of the host that shows a page and stands beside the commands. Lengths are in pixels of
-/// the screen.
+/// A window of the host that shows a web page and stays open while commands run. Positions and
+/// sizes are in screen pixels. Setting them has no effect on what docking determines.
 class Palette : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Palette"
 
+    /// Unique among all palettes; never empty.
     [[nodiscard]] virtual std::string id() const = 0;
 
+    /// The title of the window.
     [[nodiscard]] virtual std::string name() const = 0;
+    /// Shown at once.
     virtual bool name(const std::string& value) = 0;
 
-    /// The address of the page that it shows.
+    /// The address of the page that it shows, or the path of a local file.
     [[nodiscard]] virtual std::string htmlFileURL() const = 0;
+    /// True also for an address that cannot be reached.
     virtual bool htmlFileURL(const std::string& value) = 0;
 
-    /// The user's close button sets it to false, and does not delete the palette.
+    /// Whether the window shows. The user's close button sets it to false and does not delete the
+    /// palette.
     [[nodiscard]] virtual bool isVisible() const = 0;
+    /// Shows or hides the window; the page stays loaded.
     virtual bool isVisible(bool value) = 0;
 
+    /// Where it is docked; floating at first.
     [[nodiscard]] virtual PaletteDockingStates dockingState() const = 0;
+    /// Not limited by `dockingOption`.
     virtual bool dockingState(PaletteDockingStates value) = 0;
 
+    /// Where the user may dock it.
     [[nodiscard]] virtual PaletteDockingOptions dockingOption() const = 0;
+    /// Does not move a palette that is docked already.
     virtual bool dockingOption(PaletteDockingOptions value) = 0;
 
+    /// The left edge on the screen.
     [[nodiscard]] virtual int left() const = 0;
+    /// Undocks the palette.
     virtual bool left(int value) = 0;
 
+    /// The upper edge on the screen.
     [[nodiscard]] virtual int top() const = 0;
+    /// Undocks the palette.
     virtual bool top(int value) = 0;
 
+    /// The width, 200 unless it was created with another.
     [[nodiscard]] virtual int width() const = 0;
+    /// No effect while it is docked at the top or the bottom.
     virtual bool width(int value) = 0;
 
+    /// The height, 200 unless it was created with another.
     [[nodiscard]] virtual int height() const = 0;
+    /// No effect while it is docked at the left or the right.
     virtual bool height(int value) = 0;
 
-    /// Moves it on the screen; a docked one floats from then on.
+    /// Moves it on the screen; a docked palette floats from then on.
     virtual bool setPosition(int left, int top) = 0;
 
-    /// True even where docking keeps the size as it is.
+    /// Resizes it as far as docking allows; true in any case.
     virtual bool setSize(int width, int height) = 0;
 
-    /// False for a palette of the host's own.
+    /// Removes it; this object is not valid afterwards. False for a palette of the host's own.
     virtual bool deleteMe() = 0;
 };
 
-/// All palettes of the host.
+/// All palettes of the host, in order of creation.
 class Palettes : public CollectionById<Palette> {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Palettes"
 
-    /// Makes a floating palette; null where the id is empty or in use.
+    /// Adds a floating palette. Null when the id is empty or in use. `useNewWebBrowser` selects the
+    /// browser that shows the page.
     virtual Ptr<Palette> add(const std::string& id, const std::string& name,
                              const std::string& htmlFileURL, bool isVisible, bool showCloseButton,
                              bool isResizable, int width = 200, int height = 200,

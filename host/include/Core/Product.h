@@ -9,18 +9,18 @@ namespace adsk::core {
 class Attributes;
 class Document;
 
-/// What a workspace works on inside a document, such as its design.
+/// What a workspace works on within a document, such as its design.
 class Product : public Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::core::Product"
 
-    /// The document that this product is part of.
+    /// The document that this product is part of; never null.
     [[nodiscard]] virtual Ptr<Document> parentDocument() const = 0;
 
-    /// Tells the kinds of products apart: "DesignProductType" for a design.
+    /// The kind of product, "DesignProductType" for a design.
     [[nodiscard]] virtual std::string productType() const = 0;
 
-    /// The attributes of the product as a whole; components have their own.
+    /// The attributes of the product as a whole; never null. Components have their own.
     [[nodiscard]] virtual Ptr<Attributes> attributes() const = 0;
 };
 

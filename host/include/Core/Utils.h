@@ -1,19 +1,20 @@
 #pragma once
 
-/// What a module asks of the host as a whole.
+/// Functions of the host as a whole.
 namespace adsk {
 
-/// Lets the host work off what waits in its queue while the caller goes on waiting. Events may be
-/// delivered in the middle of it.
+/// Lets the host process its queue while the caller waits; to be called in every loop that waits.
+/// Handlers, also the caller's own, may be notified before it returns, and documents may be opened
+/// or closed.
 void doEvents();
 
-/// True while the host would unload the module as soon as its `run` has returned.
+/// Whether the host unloads the module as soon as its `run` has returned, true at first.
 bool autoTerminate();
 
-/// With false the module stays loaded after its `run` has returned.
+/// With false, set during `run`, the module stays loaded and its handlers stay in effect.
 void autoTerminate(bool value);
 
-/// Asks the host to stop the calling module.
+/// Asks the host to stop the calling module. Not implemented here: it only sets the last error.
 void terminate();
 
 }  // namespace adsk

@@ -10,51 +10,58 @@ class Component;
 class OccurrenceList;
 class PhysicalProperties;
 
-/// A use of a component, as seen from the top of an assembly.
+/// A use of a component, as seen from a top component, normally the root.
 ///
-/// When an assembly is used twice, what is in it is seen twice: the occurrences differ and share
+/// When an assembly is used twice, its contents are seen twice: the occurrences differ and share
 /// their components.
 class Occurrence : public core::Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::fusion::Occurrence"
 
+    /// The component that is used; never null.
     [[nodiscard]] virtual core::Ptr<Component> component() const = 0;
 
-    /// What stands directly in this occurrence, seen from the same top.
+    /// The occurrences directly in this one, seen from the same top component; never null, empty
+    /// for a part.
     [[nodiscard]] virtual core::Ptr<OccurrenceList> childOccurrences() const = 0;
 
-    /// The component's name, ":", and the number of this use of it, such as "Bolt:2".
+    /// The component's name, ":", and the number of this use, such as "Bolt:2". It follows the name
+    /// of the component; the numbers may have gaps.
     [[nodiscard]] virtual std::string name() const = 0;
 
-    /// The names from the top down to this one, joined by "+".
+    /// The names from the top component, itself left out, down to this one, joined by "+".
     [[nodiscard]] virtual std::string fullPathName() const = 0;
 
-    /// Whether it is held in its place.
+    /// Whether it is fixed in its place.
     [[nodiscard]] virtual bool isGrounded() const = 0;
+    /// Changes all occurrences of this use, in every use of its assembly.
     virtual bool isGrounded(bool value) = 0;
 
-    /// Whether its component comes from another document than the assembly it stands in.
+    /// Whether its component belongs to another document than the assembly that directly contains
+    /// it.
     [[nodiscard]] virtual bool isReferencedComponent() const = 0;
 
-    /// What its component measures, with low accuracy.
+    /// The same as `Component::physicalProperties` of its component; never null.
     [[nodiscard]] virtual core::Ptr<PhysicalProperties> physicalProperties() const = 0;
 };
 
-/// Occurrences to read.
+/// A list of occurrences that nothing can be added to. An item is null also where the host has no
+/// occurrence to return, so a walk has to check each.
 class OccurrenceList : public core::CollectionOf<Occurrence> {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::fusion::OccurrenceList"
 
-    /// The occurrence of that name, null where there is none.
+    /// The first occurrence of this name, null when there is none.
     [[nodiscard]] virtual core::Ptr<Occurrence> itemByName(const std::string& name) const = 0;
 };
 
-/// What stands directly in a component.
+/// The occurrences directly in a component. An item is null also where the host has no occurrence
+/// to return.
 class Occurrences : public core::CollectionOf<Occurrence> {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::fusion::Occurrences"
 
-    /// The same occurrences as a plain list.
+    /// The same occurrences as a list, as `Occurrence::childOccurrences` returns it; never null.
     [[nodiscard]] virtual core::Ptr<OccurrenceList> asList() const = 0;
 };
 

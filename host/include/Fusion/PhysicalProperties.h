@@ -4,7 +4,7 @@
 
 namespace adsk::fusion {
 
-/// How exactly the host is to measure.
+/// How exactly the host is to measure. This host measures exactly in any case.
 enum CalculationAccuracy {
     LowCalculationAccuracy = 0,
     MediumCalculationAccuracy = 1,
@@ -12,21 +12,22 @@ enum CalculationAccuracy {
     VeryHighCalculationAccuracy = 3,
 };
 
-/// What a component measures with all that is in it, at the moment of asking.
+/// The measures of a component with everything in it, at the time of the call. They do not follow
+/// later changes. All are 0 for a component without bodies.
 class PhysicalProperties : public core::Base {
 public:
-    static const char* classType();
+    static const char* classType();  ///< "adsk::fusion::PhysicalProperties"
 
-    /// Surface, in cm2.
+    /// The area of the surface, in cm2.
     [[nodiscard]] virtual double area() const = 0;
 
-    /// Mass by volume, in kg/cm3; 0 where there is no volume.
+    /// The mass divided by the volume, in kg/cm3; 0 without a volume.
     [[nodiscard]] virtual double density() const = 0;
 
-    /// Mass, in kg.
+    /// The mass, in kg; 0 without a material.
     [[nodiscard]] virtual double mass() const = 0;
 
-    /// Volume, in cm3.
+    /// The volume, in cm3.
     [[nodiscard]] virtual double volume() const = 0;
 };
 

@@ -1,62 +1,60 @@
 #pragma once
 
-/// What a process that loads a module may answer in the place of the system.
+/// What a process that loads a module may answer in place of the system.
 ///
-/// A module that was built for a stand-in process looks these functions up by name, in the program
-/// first and in the host's library (`standinhost.dll`, or any library that the program is linked
-/// with) second. A process that has none, or whose function answers `NotHandled`, leaves the matter
-/// to the system. No module links them.
+/// A module built for a stand-in process looks these functions up by name, first in the program and
+/// then in the host's library (`standinhost.dll`, or any library that the program is linked with).
+/// Where there is none, and where a function returns `NotHandled`, the module asks the system. No
+/// module links them. Strings end with a zero and, like the areas, are valid during the call only.
 extern "C" {
 
-/// What became of a question.
+/// The outcome of a request.
 enum class StandInAnswer : int {
     NotHandled = 0,  ///< the module asks the system itself
-    Done = 1,        ///< dealt with
-    Failed = 2,  ///< dealt with: the module is to see the failure that the system could have had
+    Done = 1,        ///< handled
+    Failed = 2,      ///< handled: the module sees the failure that the system would report
 };
 
-/// The module wants a file or a web address opened by the shell. `target` is the text that the
-/// system's shell would get, in the system's 8-bit code page and ended by a zero; paths have
-/// backslashes on every system. It is valid during the call only.
+/// The module opens a file or a web address with the shell. `target` is the string that the
+/// system's shell would receive, in the system's 8-bit code page; paths have backslashes on every
+/// system.
 StandInAnswer standin_openWithShell(const char* target);
 
-/// The module wants its thread to wait. `Done`: waited as long as the process wants it to.
+/// The module sleeps. `Done`: it has waited for as long as the process chooses.
 StandInAnswer standin_sleep(int milliseconds);
 
-/// The module shows a box with one button, OK, and waits for it. `text` and `title` are UTF-8 and
-/// ended by a zero; `style` is the system's number: 64 with the icon of information, 16 with that
-/// of an error.
+/// The module shows a message box with the one button OK and waits for it. `text` and `title` are
+/// UTF-8; `style` is the system's number: 64 with the information icon, 16 with the error icon.
 StandInAnswer standin_messageBox(const char* text, const char* title, unsigned style);
 
-/// The module wants the console window of the process hidden. `Done`: the process has no window
-/// that the module could hide.
+/// The module hides the console window of the process. `Done`: the process has no window that the
+/// module could hide.
 StandInAnswer standin_hideConsole();
 
-/// A part of the screen, in pixels from the primary monitor's upper left corner. Right and bottom
-/// are the first column and row that no longer belong to it.
+/// A part of the screen, in pixels from the primary monitor's upper left corner; left of and above
+/// that corner they are negative.
 struct StandInArea {
-    int left;
-    int top;
-    int right;
-    int bottom;
+    int left;    ///< the first column of it
+    int top;     ///< the first row of it
+    int right;   ///< the first column after it
+    int bottom;  ///< the first row after it
 };
 
 /// The module asks for the area of all monitors together. `Done`: `area` is set.
 StandInAnswer standin_virtualScreen(StandInArea* area);
 
-/// The module asks where the inside of the window with this title (UTF-8, ended by a zero) stands.
-/// `Done`: `area` is set; `Failed`: there is no such window.
+/// The module asks for the client area of the window with this title, in UTF-8. `Done`: `area` is
+/// set; `Failed`: there is no such window.
 StandInAnswer standin_windowArea(const char* title, StandInArea* area);
 
-/// Looks at one window: its title in UTF-8, ended by a zero, and where its inside stands, both
-/// valid during the call only; 0 to see no more.
+/// Called for one window with its title, in UTF-8, and its client area; returns 0 to see no more.
 using StandInWindowVisitor = int (*)(void* context, const char* title, const StandInArea* inside);
 
-/// The module asks for the windows of the screen, the foremost first. `Done`: `visit` has seen
-/// them.
+/// The module asks for the windows of the screen, the foremost first. `Done`: `visit` was called
+/// for each.
 StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context);
 
-/// The module asks the processor about itself: what the instruction CPUID leaves in EAX, EBX, ECX
-/// and EDX for `leaf`. `Done`: the four `registers` are set.
+/// The module asks for what the instruction CPUID returns for `leaf` in EAX, EBX, ECX and EDX.
+/// `Done`: the four `registers` are set.
 StandInAnswer standin_cpuid(unsigned leaf, unsigned* registers);
 }
