@@ -1,4 +1,4 @@
-#include "tests/workbench/program_helpdesk_test.h"
+#include "tests/workbench/helpdesk_fixture.h"
 
 namespace fs = std::filesystem;
 namespace environment = host::environment;

@@ -1,0 +1,351 @@
+#include "tests/support/text.h"
+#include "tests/workbench/workbench_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+using test_support::isOneLine;
+using test_support::ProgramResult;
+using test_support::readFile;
+using test_support::text;
+using test_support::Workbench;
+
+namespace {
+
+class Properties : public Workbench {
+protected:
+    static constexpr const char* kAssembly = R"(
+        Gearbox
+          Bolt  number=B-1 description=long structure=Buy property=Colour/red
+        Nut)";
+
+    void addProperty(const std::string& name) {
+        const ProgramResult result = run({"user-properties", "add", name});
+        ASSERT_EQ(result.status, 0) << result.errors;
+    }
+};
+
+}  // namespace
+
+TEST_F(Properties, AreThoseOfTheRootComponent) {
+    const ProgramResult result = run({"properties", design(kAssembly)});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, text(R"(
+        Component      sample
+        BOM Structure
+        Part Number    sample
+        Part Name      sample
+        Description
+        Full Path
+        )") + "\n");
+}
+
+TEST_F(Properties, AreThoseOfAComponentByItsPath) {
+    addProperty("Colour");
+
+    const ProgramResult result =
+        run({"properties", design(kAssembly), "--component", "Gearbox:1+Bolt:1"});
+
+    EXPECT_EQ(result.output, text(R"(
+        Component      Gearbox:1+Bolt:1
+        BOM Structure  Buy
+        Part Number    B-1
+        Part Name      Bolt
+        Description    long
+        Full Path
+        Colour         red
+        )") + "\n");
+}
+
+TEST_F(Properties, TellWhereAFileOfTheUsersDataLies) {
+    const std::string file = design(kAssembly);
+    const std::filesystem::path project = folder.path() / "projects" / "Alfa" / "Designs";
+    std::filesystem::create_directories(project);
+    std::filesystem::copy(host::fromUtf8(file), project / "Gearbox.design.json");
+
+    const ProgramResult result = run({"properties", host::toUtf8(project / "Gearbox.design.json"),
+                                      "--data", host::toUtf8(folder.path() / "projects")});
+
+    EXPECT_NE(result.output.find("Full Path      ThisDoc: Alfa // Designs // Gearbox\n"),
+              std::string::npos)
+        << result.output << result.errors;
+}
+
+TEST_F(Properties, AreEditedAndSavedThroughTheDialog) {
+    addProperty("Colour");
+    const std::string file = design(kAssembly);
+
+    const ProgramResult result = run(
+        {"properties", file, "--component", "Gearbox:1+Bolt:1", "--set", "Part Name=Screw", "--set",
+         "Part Number=S=1", "--set", "Colour=", "--set", "BOM Structure=Produce", "--save"});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, text(R"(
+        Component      Gearbox:1+Screw:1
+        BOM Structure  Produce
+        Part Number    S=1
+        Part Name      Screw
+        Description    long
+        Full Path
+        Colour
+
+        Saved: )") + file + "\n");
+    const ProgramResult again = run({"properties", file, "--component", "Gearbox:1+Screw:1"});
+    EXPECT_EQ(again.output, result.output.substr(0, result.output.find("\nSaved")));
+}
+
+TEST_F(Properties, AreSavedInAFileThatIsNamedByItsNameAlone) {
+    design(kAssembly);
+    const std::filesystem::path startedIn = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+
+    const ProgramResult result =
+        run({"properties", "sample.design.json", "--set", "Description=new", "--save", "b.json"});
+
+    std::filesystem::current_path(startedIn);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("Saved: b.json\n"), std::string::npos) << result.output;
+    EXPECT_NE(readFile(folder.path() / "b.json").find("\"new\""), std::string::npos);
+}
+
+TEST_F(Properties, ThatCannotBeSavedLeaveNothing) {
+    const ProgramResult result = run({"properties", design(kAssembly), "--set", "Description=new",
+                                      "--save", out() + "/missing/b.json"});
+
+    EXPECT_EQ(result.status, 5);
+    EXPECT_EQ(result.output, "");
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+}
+
+TEST_F(Properties, AreSeenByThePartsList) {
+    addProperty("Colour");
+    const std::string file = design("Bolt");
+    run({"properties", file, "--component", "Bolt:1", "--set", "Colour=blue", "--set",
+         "Part Number=B-7", "--save"});
+
+    const ProgramResult result = run({"bom", file, "--column", "Colour"});
+
+    EXPECT_NE(result.output.find("B-7"), std::string::npos) << result.output << result.errors;
+    EXPECT_NE(result.output.find("blue"), std::string::npos);
+}
+
+TEST_F(Properties, AreNotChangedWithoutSave) {
+    const std::string file = design(kAssembly);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult result = run({"properties", file, "--set", "Description=new"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: --set needs --save: without it nothing would be kept\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+TEST_F(Properties, WithAnUnknownNameAreRefusedWithThoseThereAre) {
+    const std::string file = design(kAssembly);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult result = run({"properties", file, "--set", "Colour=red", "--save"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: --set \"Colour\": there is no such property, only \"BOM "
+              "Structure\", \"Part Number\", \"Part Name\", \"Description\", \"Full Path\"\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+TEST_F(Properties, WithAnUnknownStructureAreRefused) {
+    const ProgramResult result =
+        run({"properties", design(kAssembly), "--set", "BOM Structure=Sell", "--save"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: --set \"BOM Structure=Sell\": there is only \"Produce\", "
+              "\"Buy\", \"AsPart\", \"Divided\", \"Reference\"\n");
+}
+
+TEST_F(Properties, ThatTheDesignDoesNotTakeAreToldAndNothingIsSaved) {
+    const std::string file = design(kAssembly);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult result =
+        run({"properties", file, "--set", "Description=new", "--set", "Part Name=X", "--save"});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(
+        result.errors,
+        "tarnix-workbench: --set \"Part Name=X\": the design would hold \"sample\" instead\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+TEST_F(Properties, ThatAreSetTwiceHaveTheLastValue) {
+    const ProgramResult result = run({"properties", design(kAssembly), "--set", "Description=a",
+                                      "--set", "QEMA_Description=b", "--save"});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("Description    b\n"), std::string::npos) << result.output;
+}
+
+TEST_F(Properties, OfAComponentThatIsNotThereAreRefused) {
+    const ProgramResult result =
+        run({"properties", design(kAssembly), "--component", "Gearbox:1+Rivet:1"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: there is no occurrence \"Gearbox:1+Rivet:1\": there is "
+              "\"Gearbox:1+Bolt:1\"\n");
+}
+
+TEST_F(Properties, CannotBeSetWhereTheDialogOnlyShows) {
+    const ProgramResult result =
+        run({"properties", design(kAssembly), "--set", "Full Path=x", "--save"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+    EXPECT_NE(result.errors.find("read-only"), std::string::npos) << result.errors;
+}
+
+TEST_F(Workbench, UserPropertiesAreAddedListedAndRemoved) {
+    EXPECT_EQ(run({"user-properties", "list"}).output, "");
+    EXPECT_EQ(run({"user-properties", "add", "Colour"}).output, "Colour\n");
+    EXPECT_EQ(run({"user-properties", "add", "Surface finish"}).output, "Colour\nSurface finish\n");
+    EXPECT_EQ(run({"user-properties", "remove", "Colour"}).output, "Surface finish\n");
+    EXPECT_EQ(run({"user-properties", "list"}).output, "Surface finish\n");
+}
+
+TEST_F(Workbench, AUserPropertyThatTheDialogRefusesIsRefusedInItsWords) {
+    run({"user-properties", "add", "Colour"});
+    const std::string old = readFile(settingsFile());
+
+    const ProgramResult result = run({"user-properties", "add", "a.b"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+    EXPECT_EQ(result.errors.rfind("tarnix-workbench: Incorrect char ! Valid chars are only "
+                                  "0,1,2,3,4,5,6,7,8,9,SPACE,_,-",
+                                  0),
+              0U)
+        << result.errors;
+    EXPECT_EQ(readFile(settingsFile()), old);
+}
+
+TEST_F(Workbench, AUserPropertyThatTheDialogHasAlreadyIsRefused) {
+    run({"user-properties", "add", "Colour"});
+    const std::string old = readFile(settingsFile());
+
+    EXPECT_EQ(run({"user-properties", "add", "Colour"}).errors,
+              "tarnix-workbench: there is a property \"Colour\" already\n");
+    const ProgramResult result = run({"user-properties", "add", "Part Number"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tarnix-workbench: there is a property \"Part Number\" already\n");
+    EXPECT_EQ(readFile(settingsFile()), old);
+}
+
+TEST_F(Workbench, AUserPropertyWithABlankAtAnEndIsRefused) {
+    const ProgramResult result = run({"user-properties", "add", "Colour "});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: \"Colour \": the settings keep no blank at the ends of a name\n");
+    EXPECT_EQ(run({"user-properties", "list"}).output, "");
+}
+
+TEST_F(Workbench, AUserPropertyThatTheSettingsHaveNoPlaceForIsTold) {
+    storeSettings(R"(<category name="bomItems"/>)");
+    const std::string old = settingsRoot();
+
+    const ProgramResult result = run({"user-properties", "add", "Colour"});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: \"Colour\": the add-in's settings did not take the list\n");
+    EXPECT_EQ(settingsRoot(), old);
+}
+
+TEST_F(Workbench, AUserPropertyIsAddedBesideOneThatHasNoName) {
+    storeSettings(
+        R"(<category name="iProperty"><item_iProperty id=""><displayName/></item_iProperty>)"
+        R"(</category>)");
+
+    const ProgramResult result = run({"user-properties", "add", "Colour"});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, "Colour\n");
+}
+
+TEST_F(Workbench, AUserPropertyMayBeginWithAHyphen) {
+    EXPECT_EQ(run({"user-properties", "add", "--", "-x"}).output, "-x\n");
+    EXPECT_EQ(run({"user-properties", "remove", "--", "-x"}).output, "");
+}
+
+TEST_F(Workbench, AUserPropertyThatIsNotThereCannotBeRemoved) {
+    const ProgramResult result = run({"user-properties", "remove", "Colour"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tarnix-workbench: there is no custom property \"Colour\"\n");
+}
+
+TEST_F(Workbench, AUserPropertyNeedsAName) {
+    const ProgramResult result = run({"user-properties", "add", ""});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+}
+
+TEST_F(Workbench, TheSupportProviderIsChosenAndShown) {
+    EXPECT_EQ(run({"configure"}).output,
+              "Support provider: http://helpdesk.tarnix.example/ (default)\n");
+    EXPECT_EQ(run({"configure", "--support-url", "http://help.example/?a=1&b=2"}).output,
+              "Support provider: http://help.example/?a=1&b=2\n");
+    EXPECT_EQ(run({"configure"}).output, "Support provider: http://help.example/?a=1&b=2\n");
+    EXPECT_EQ(run({"configure", "--support-url", ""}).output, "Support provider: none\n");
+    EXPECT_EQ(run({"configure", "--support-url", "default"}).output,
+              "Support provider: http://helpdesk.tarnix.example/ (default)\n");
+}
+
+TEST_F(Workbench, ASupportProviderThatTheSettingsHaveNoPlaceForIsTold) {
+    storeSettings(R"(<category name="bomItems"/>)");
+    const std::string old = settingsRoot();
+
+    const ProgramResult other = run({"configure", "--support-url", "http://help.example/"});
+    const ProgramResult standard = run({"configure", "--support-url", "default"});
+
+    EXPECT_EQ(other.status, 4);
+    EXPECT_EQ(other.output, "");
+    EXPECT_EQ(
+        other.errors,
+        "tarnix-workbench: --support-url \"http://help.example/\": the add-in's settings hold "
+        "\"\" instead\n");
+    EXPECT_EQ(standard.status, 4);
+    EXPECT_EQ(standard.errors,
+              "tarnix-workbench: --support-url \"default\": the add-in's settings hold \"\" "
+              "instead\n");
+    EXPECT_EQ(settingsRoot(), old);
+}
+
+TEST_F(Workbench, ASupportProvidersAddressWithABlankAtAnEndIsRefused) {
+    const ProgramResult result = run({"configure", "--support-url", "http://help.example/ "});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: --support-url \"http://help.example/ \": the settings keep no "
+              "blank at the ends of an address\n");
+    EXPECT_EQ(run({"configure"}).output,
+              "Support provider: http://helpdesk.tarnix.example/ (default)\n");
+}
+
+TEST_F(Workbench, ASupportProvidersAddressMayLookLikeMarkup) {
+    const std::string url = "http://help.example/?a=1&amp;b=<b>2</b>";
+
+    EXPECT_EQ(run({"configure", "--support-url", url}).output, "Support provider: " + url + "\n");
+    EXPECT_EQ(run({"configure"}).output, "Support provider: " + url + "\n");
+}

@@ -1,0 +1,135 @@
+#include "tests/host/import/drafts.h"
+#include "tests/support/real_files.h"
+#include "tests/support/text.h"
+#include "tests/workbench/workbench_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+
+/// The main job, whole: a STEP assembly in, its parts list out.
+namespace {
+
+using test_support::firstLines;
+using test_support::ProgramResult;
+using test_support::readFile;
+using test_support::realFiles;
+using test_support::Workbench;
+using test_support::writeFile;
+
+/// The lines of README.md that stand indented behind the first `line`, without their indent.
+std::string shownInReadme(const std::string& line) {
+    const std::string readme = readFile(std::filesystem::path(PROJECT_FOLDER) / "README.md");
+    std::string shown;
+    for (std::size_t at = readme.find("\n    " + line); at != std::string::npos;) {
+        const std::size_t end = readme.find('\n', at + 1);
+        if (readme.compare(at + 1, 4, "    ") != 0 && end != at + 1) {
+            break;
+        }
+        shown += end == at + 1 ? "\n" : readme.substr(at + 5, end - at - 4);
+        at = end;
+    }
+    return shown;
+}
+
+class StepFile : public Workbench {};
+
+TEST_F(StepFile, OfTheSamplesGivesTheListThatTheReadmeShows) {
+    const std::string sample = std::string(PROJECT_FOLDER) + "/samples/camera-slider.step";
+
+    const ProgramResult result =
+        run({"bom", sample, "--column", "Quantity", "--column", "Part Name", "--column", "Mass",
+             "--column", "Physical Material", "--tab", "structure", "--out", out()});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    const std::string shown = shownInReadme("      Pos.  Part Number");
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), '\n'), 13) << shown;
+    EXPECT_EQ(firstLines(result.output, 13), shown);
+}
+
+TEST_F(StepFile, ThatTheAddinOpensIsWarnedOfToo) {
+    const std::filesystem::path file = folder.path() / "cart.step";
+    writeFile(file, drafts::step(drafts::product(10, "A", "Cart") +
+                                 drafts::product(20, "W", "Wheel") + drafts::usage(30, 10, 20)));
+    std::filesystem::create_directories(out());
+
+    const ProgramResult result = run({"open-local", file.string(), "--out", out()});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(test_support::isOneLine(result.errors)) << result.errors;
+    EXPECT_EQ(result.errors.rfind("warning: ", 0), 0U) << result.errors;
+    EXPECT_NE(result.errors.find("tells no placement for 1 usage"), std::string::npos)
+        << result.errors;
+}
+
+/// A real file and the occurrences in it, as counted in its text.
+struct Counted {
+    const char* file;
+    std::ptrdiff_t occurrences;
+};
+
+void PrintTo(const Counted& counted, std::ostream* stream) { *stream << counted.file; }
+
+class RealStepFile : public Workbench, public testing::WithParamInterface<Counted> {
+protected:
+    void SetUp() override {
+        test_support::needRealFiles();
+        Workbench::SetUp();
+    }
+
+    static std::string path(const char* name) { return (realFiles() / name).string(); }
+};
+
+TEST_P(RealStepFile, GivesALineForEachOccurrence) {
+    const ProgramResult result =
+        run({"bom", path(GetParam().file), "--tab", "model", "--expand", "all", "--format", "csv"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    // The captions, a blank line and the mass.
+    EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'),
+              GetParam().occurrences + 3);
+}
+
+TEST_P(RealStepFile, TellsWhatIsInIt) {
+    const ProgramResult result = run({"info", path(GetParam().file)});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_NE(result.output.find("Occurrences  " + std::to_string(GetParam().occurrences) + "\n"),
+              std::string::npos)
+        << result.output;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, RealStepFile,
+    testing::Values(Counted{"as1-oc-214.stp", 27}, Counted{"as1_pe_203.stp", 27},
+                    Counted{"as1-oc-214-mat.stp", 27}, Counted{"s1-c5-214/s1-c5-214.stp", 16},
+                    Counted{"MadMax_Core_MGN12H_DB_AH_v11.step", 87}, Counted{"ProMicro.step", 28},
+                    Counted{"PCB_v3.5.step", 1413}, Counted{"G2A EBB36 v2.step", 642},
+                    Counted{"PushDevice-Assembly.step", 67}, Counted{"bug31670_russian.stp", 17}));
+
+class MalformedStepFile : public Workbench, public testing::WithParamInterface<const char*> {
+protected:
+    void SetUp() override {
+        test_support::needRealFiles();
+        Workbench::SetUp();
+    }
+};
+
+TEST_P(MalformedStepFile, GetsOneLineAndNoList) {
+    const std::string file = (realFiles() / "malformed" / GetParam()).string();
+
+    const ProgramResult result = run({"bom", file, "--out", out()});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_TRUE(test_support::isOneLine(result.errors)) << result.errors;
+    EXPECT_FALSE(std::filesystem::exists(out()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, MalformedStepFile,
+                         testing::Values("bug32314_corrupted.stp", "Ad054.stp", "M018.stp",
+                                         "U008.stp"));
+
+}  // namespace

@@ -1,0 +1,67 @@
+#include "workbench/output/display_text.h"
+
+#include <gtest/gtest.h>
+
+using workbench::displayWidth;
+using workbench::looksLikeNumber;
+using workbench::printable;
+
+TEST(Printable, LeavesUtf8AsItIs) {
+    EXPECT_EQ(printable("Schraube \xC3\x9C \xE9\x8B\xBC \xF0\x9F\x94\xA9"),
+              "Schraube \xC3\x9C \xE9\x8B\xBC \xF0\x9F\x94\xA9");
+}
+
+TEST(Printable, NoEscapeSequenceComesThrough) {
+    EXPECT_EQ(printable("a\x1B[2Jb"), "a\xEF\xBF\xBD[2Jb");
+}
+
+TEST(Printable, ControlCharactersOfTheSecondSetAreReplaced) {
+    EXPECT_EQ(printable("a\xC2\x9B"
+                        "2Jb"),
+              "a\xEF\xBF\xBD"
+              "2Jb");
+}
+
+TEST(Printable, LineEndsAndTabsBecomeBlanks) { EXPECT_EQ(printable("a\r\nb\tc"), "a  b c"); }
+
+TEST(Printable, EachByteThatIsNoUtf8IsReplaced) {
+    EXPECT_EQ(printable("\xC4\xD0"), "\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(Printable, ACharacterCutShortIsReplaced) {
+    EXPECT_EQ(printable("a\xE9\x8B"), "a\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(Printable, OverlongFormsAndSurrogatesAreReplaced) {
+    EXPECT_EQ(printable("\xE0\x80\xAF"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(printable("\xED\xA0\x80"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(DisplayWidth, EastAsianCharactersTakeTwoColumns) {
+    EXPECT_EQ(displayWidth("\xE9\x8B\xBC"), 2U);
+    EXPECT_EQ(displayWidth("\xEF\xBC\xA1"), 2U);
+    EXPECT_EQ(displayWidth("\xED\x95\x9C"), 2U);
+}
+
+TEST(DisplayWidth, TreeDrawingTakesOneColumnACharacter) {
+    EXPECT_EQ(displayWidth("\xE2\x96\x91    \xE2\x94\x9C\xE2\x94\x80\xE2\x94\x80"), 8U);
+}
+
+TEST(DisplayWidth, CombiningMarksTakeNone) { EXPECT_EQ(displayWidth("e\xCC\x81"), 1U); }
+
+TEST(DisplayWidth, LatinAndCyrillicTakeOne) {
+    EXPECT_EQ(displayWidth("\xC3\xA9"), 1U);
+    EXPECT_EQ(displayWidth("\xD0\xA1\xD0\xB1"), 2U);
+}
+
+TEST(LooksLikeNumber, TakesDigitsWithOnePoint) {
+    EXPECT_TRUE(looksLikeNumber("12"));
+    EXPECT_TRUE(looksLikeNumber("-0.785"));
+}
+
+TEST(LooksLikeNumber, RefusesPositionsAndTexts) {
+    EXPECT_FALSE(looksLikeNumber("1.2.3"));
+    EXPECT_FALSE(looksLikeNumber("M8"));
+    EXPECT_FALSE(looksLikeNumber("."));
+    EXPECT_FALSE(looksLikeNumber(""));
+}

@@ -1,0 +1,86 @@
+#include "workbench/output/parts_list.h"
+
+#include "tests/support/text.h"
+
+#include <gtest/gtest.h>
+
+using host::TableCell;
+using host::TableView;
+using test_support::text;
+using workbench::PartsList;
+
+namespace {
+
+TableCell cell(TableCell::Kind kind, const std::string& shown, const std::string& picture = "") {
+    return {kind, 0, "", shown, picture, false};
+}
+
+TableCell caption(const std::string& shown) { return cell(TableCell::Kind::Button, shown); }
+
+TableCell textCell(const std::string& shown) { return cell(TableCell::Kind::Text, shown); }
+
+/// A table with a picture, a number, a tree drawing and a name in each row.
+TableView smallTable() {
+    return {"Structure",
+            {0, 1, 2, 3},
+            {{0, {caption(""), caption("Pos."), caption(""), caption("Part Number")}},
+             {1,
+              {cell(TableCell::Kind::Picture, "", "Asm"), textCell("1"), textCell(""),
+               textCell("Frame")}},
+             {3,
+              {cell(TableCell::Kind::Picture, "", "Part"), textCell("2"), textCell("├──"),
+               textCell("Bolt \"M8\"")}}}};
+}
+
+}  // namespace
+
+TEST(PartsList, TheFirstRowOfTheTableHoldsTheCaptions) {
+    const PartsList list = workbench::readPartsList(smallTable());
+
+    EXPECT_EQ(list.captions, (std::vector<std::string>{"", "Pos.", "", "Part Number"}));
+    EXPECT_EQ(list.keys, (std::vector<std::string>{"Image", "Pos.", "Tree", "Part Number"}));
+    ASSERT_EQ(list.rows.size(), 2U);
+    EXPECT_EQ(list.rows[0], (std::vector<std::string>{"Asm", "1", "", "Frame"}));
+}
+
+TEST(PartsList, PicturesAndTreeStandInTheTable) {
+    EXPECT_EQ(workbench::asTable(workbench::readPartsList(smallTable())), text(R"(
+              Pos.       Part Number
+        ────  ────  ───  ───────────
+        Asm      1       Frame
+        Part     2  ├──  Bolt "M8"
+        )") + "\n");
+}
+
+TEST(PartsList, TheTotalStandsBelowTheTable) {
+    PartsList list{{"Part"}, {"Part"}, {{"Bolt"}}, "Total mass [kg] : ", "1.500"};
+
+    EXPECT_EQ(workbench::asTable(list), "Part\n────\nBolt\n\nTotal mass [kg] : 1.500\n");
+}
+
+TEST(PartsList, JsonHasAnObjectForEachRow) {
+    EXPECT_EQ(workbench::asJson(workbench::readPartsList(smallTable())), text(R"(
+        [
+          {
+            "Image": "Asm",
+            "Pos.": "1",
+            "Tree": "",
+            "Part Number": "Frame"
+          },
+          {
+            "Image": "Part",
+            "Pos.": "2",
+            "Tree": "├──",
+            "Part Number": "Bolt \"M8\""
+          }
+        ]
+        )") + "\n");
+}
+
+TEST(PartsList, EqualCaptionsGetKeysOfTheirOwn) {
+    TableView table{"t", {0, 1}, {{0, {caption("Mass"), caption("Mass")}}}};
+
+    EXPECT_EQ(workbench::readPartsList(table).keys, (std::vector<std::string>{"Mass", "Mass 2"}));
+}
+
+TEST(PartsList, ATableWithoutRowsIsAnEmptyJsonArray) { EXPECT_EQ(workbench::asJson({}), "[]\n"); }

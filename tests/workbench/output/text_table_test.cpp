@@ -1,0 +1,61 @@
+#include "workbench/output/text_table.h"
+
+#include "tests/support/text.h"
+
+#include <gtest/gtest.h>
+
+using test_support::text;
+using workbench::TextTable;
+
+TEST(TextTable, NumbersStandRightAlignedUnderTheirCaption) {
+    TextTable table({"Pos.", "Part", "Mass [kg]"});
+    table.add({"9", "Bolt", "0.5"});
+    table.add({"10", "Frame", "12.25"});
+
+    EXPECT_EQ(table.text(), text(R"(
+        Pos.  Part   Mass [kg]
+        ────  ─────  ─────────
+           9  Bolt         0.5
+          10  Frame      12.25
+        )") + "\n");
+}
+
+TEST(TextTable, WideCharactersKeepTheColumnsInLine) {
+    TextTable table({"Name", "Material"});
+    table.add({"鋼板", "鋼"});
+    table.add({"Plate", "Steel"});
+
+    EXPECT_EQ(table.text(), text(R"(
+        Name   Material
+        ─────  ────────
+        鋼板   鋼
+        Plate  Steel
+        )") + "\n");
+}
+
+TEST(TextTable, AnEmptyCellDoesNotMakeNumbersText) {
+    TextTable table({"Mass"});
+    table.add({""});
+    table.add({"1.5"});
+
+    EXPECT_EQ(table.text(), "Mass\n────\n\n 1.5\n");
+}
+
+TEST(TextTable, CaptionsAloneHaveTheirRule) {
+    EXPECT_EQ(TextTable({"Pos.", "Part"}).text(), "Pos.  Part\n────  ────\n");
+}
+
+TEST(TextTable, MissingCellsAreEmptyAndSurplusOnesDropped) {
+    TextTable table({"A", "B"});
+    table.add({"x"});
+    table.add({"x", "y", "z"});
+
+    EXPECT_EQ(table.text(), "A  B\n─  ─\nx\nx  y\n");
+}
+
+TEST(TextTable, LineBreaksInATextDoNotBreakTheTable) {
+    TextTable table({"A", "B"});
+    table.add({"x\ny", "z"});
+
+    EXPECT_EQ(table.text(), "A    B\n───  ─\nx y  z\n");
+}

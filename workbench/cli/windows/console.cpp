@@ -1,0 +1,45 @@
+#include "workbench/cli/console.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace workbench::console {
+namespace {
+
+std::string toUtf8(const wchar_t* text) {
+    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    std::string result(static_cast<std::size_t>(size), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text, -1, result.data(), size, nullptr, nullptr);
+    result.pop_back();  // the zero at the end
+    return result;
+}
+
+}  // namespace
+
+void prepare() {
+    ::SetConsoleOutputCP(CP_UTF8);
+    ::_setmode(::_fileno(stdout), _O_BINARY);
+    ::_setmode(::_fileno(stderr), _O_BINARY);
+}
+
+std::vector<std::string> arguments(int /*count*/, char** /*values*/) {
+    // What the runtime passes to `main` has gone through the system's code page.
+    int count = 0;
+    const std::unique_ptr<wchar_t*, decltype(&::LocalFree)> values(
+        ::CommandLineToArgvW(::GetCommandLineW(), &count), &::LocalFree);
+    std::vector<std::string> result;
+    for (int i = 0; i < count; ++i) {
+        result.push_back(toUtf8(values.get()[i]));
+    }
+    return result;
+}
+
+bool errorIsTerminal() { return ::_isatty(::_fileno(stderr)) != 0; }
+
+}  // namespace workbench::console
