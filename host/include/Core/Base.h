@@ -9,10 +9,10 @@ namespace adsk::core {
 /// Objects belong to the host; a module holds counted references to them through `Ptr`. The same
 /// thing of the host is always the same object, so handles can be compared.
 ///
-/// No member of any class throws. A call that fails returns null, false, zero or an empty value and
-/// changes nothing, and `Application::getLastError` says why; so does every call on a deleted
-/// object. A setter returns true unless its comment names a case. Calls are made on the main thread
-/// alone. Strings are UTF-8, and may be empty unless a comment says otherwise.
+/// No member throws. A call that fails changes nothing and returns null (even if its comment says
+/// "never null"), false, zero or an empty value, and `Application::getLastError` says why; so do all
+/// calls on a deleted object. A setter returns true unless its comment names a case. Calls are made
+/// on the main thread alone. Strings are UTF-8, and may be empty unless a comment says otherwise.
 class Base {
 public:
     Base(const Base&) = delete;

@@ -14,7 +14,7 @@ namespace adsk::core {
 ///
 /// Every input belongs to exactly one collection, even while it is a cell of a table. Only the ids
 /// of tabs have to be unique: an id that is in use returns null for a tab, and a further input for
-/// everything else. Inputs can be added while the dialog is open.
+/// everything else. Inputs can be added while the dialog is open; a failure returns null.
 class CommandInputs : public Base {
 public:
     static const char* classType();  ///< "adsk::core::CommandInputs"
