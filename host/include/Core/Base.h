@@ -10,9 +10,9 @@ namespace adsk::core {
 /// thing of the host is always the same object, so handles can be compared.
 ///
 /// No member throws. A call that fails changes nothing and returns null (even if its comment says
-/// "never null"), false, zero or an empty value, and `Application::getLastError` says why; so do all
-/// calls on a deleted object. A setter returns true unless its comment names a case. Calls are made
-/// on the main thread alone. Strings are UTF-8, and may be empty unless a comment says otherwise.
+/// "never null"), false, zero or an empty value, and `Application::getLastError` says why; so do
+/// all calls on a deleted object. A setter returns true unless its comment names a case. Calls are
+/// made on the main thread alone. Strings are UTF-8, and may be empty unless otherwise stated.
 class Base {
 public:
     Base(const Base&) = delete;

@@ -37,9 +37,9 @@ class Documents : public CollectionOf<Document> {
 public:
     static const char* classType();  ///< "adsk::core::Documents"
 
-    /// Opens a file of the user's data as the active document, which closes an open dialog. Null for
-    /// null, for a file that cannot be read, and while it is being converted after its upload. Takes
-    /// as long as reading the file; the stand-in ignores `visible`, and throws if `StoragePace` asks.
+    /// Opens a file of the user's data as the active document, which closes an open dialog. Null
+    /// for null, for a file that cannot be read, and while it is being converted after its upload.
+    /// Takes as long as reading the file; `visible` is ignored. The stand-in throws if set to.
     virtual Ptr<Document> open(const Ptr<DataFile>& dataFile, bool visible = true) = 0;
 };
 
