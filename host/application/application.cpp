@@ -18,12 +18,9 @@
 namespace host {
 namespace {
 
-namespace core = adsk::core;
-using core::Ptr;
-
 // Never destroyed by itself: modules and the host end in either order.
-Ptr<Application>& running() {
-    static auto* instance = new Ptr<Application>;
+core::Ptr<Application>& running() {
+    static auto* instance = new core::Ptr<Application>;
     return *instance;
 }
 
@@ -37,50 +34,25 @@ Application::Application(const HostSetup& setup)
       documents_(make<DocumentsObject>()),
       importManager_(make<ImportManagerObject>()) {}
 
-Ptr<Application> Application::current() { return running(); }
+core::Ptr<Application> Application::current() { return running(); }
 
-Ptr<core::UserInterface> Application::userInterface() const {
-    if (closed<"Application::userInterface">(*this)) return {};
-    return ui_;
-}
-
-Ptr<core::Document> Application::activeDocument() const {
-    if (closed<"Application::activeDocument">(*this)) return {};
-    return document_;
-}
-
-Ptr<core::Product> Application::activeProduct() const {
+core::Ptr<core::Product> Application::activeProduct() const {
     if (closed<"Application::activeProduct">(*this)) return {};
-    const Ptr<ui::Workspace>& workspace = ui_->spaces().active();
+    const core::Ptr<ui::Workspace>& workspace = ui_->spaces().active();
     return workspace && workspace->product() != kDesignType ? otherProduct_ : product_;
 }
 
-Ptr<core::Base> Application::activeEditObject() const {
+core::Ptr<core::Base> Application::activeEditObject() const {
     if (closed<"Application::activeEditObject">(*this)) return {};
     return editObject_ ? editObject_ : root_;
 }
 
-Ptr<core::Data> Application::data() const {
+core::Ptr<core::Data> Application::data() const {
     if (closed<"Application::data">(*this)) return {};
     if (!data_) {
         fail(core::OperationFailed, "Application::data: no folder stands in for the user's data");
     }
     return data_;
-}
-
-Ptr<core::Documents> Application::documents() const {
-    if (closed<"Application::documents">(*this)) return {};
-    return documents_;
-}
-
-Ptr<core::ImportManager> Application::importManager() const {
-    if (closed<"Application::importManager">(*this)) return {};
-    return importManager_;
-}
-
-Ptr<core::Preferences> Application::preferences() const {
-    if (closed<"Application::preferences">(*this)) return {};
-    return preferences_;
 }
 
 int Application::getLastError(std::string* description) const {
@@ -91,34 +63,35 @@ int Application::getLastError(std::string* description) const {
     return lastError().code;
 }
 
-void Application::setActiveDocument(const Ptr<core::Document>& document,
-                                    const Ptr<core::Product>& product) {
+void Application::setActiveDocument(const core::Ptr<core::Document>& document,
+                                    const core::Ptr<core::Product>& product) {
     if (ui_->runner().active() && !ui_->runner().isExecuting()) {
         ui_->runner().end(core::SessionEndingTerminationReason);
     }
     documents_->add(document);
     ui_->selections().list.clear();
     const gate::Outside outside;
-    const Ptr<adsk::fusion::Design> design = designOf(document);
+    const core::Ptr<fusion::Design> design = designOf(document);
     document_ = document;
-    product_ = product ? product : Ptr<core::Product>(design);
+    product_ = product ? product : core::Ptr<core::Product>(design);
     otherProduct_ = otherProductOf(document);
     root_ = design ? design->rootComponent() : nullptr;
     editObject_ = nullptr;
 }
 
-Ptr<core::Document> Application::openInHost(DesignData data) {
-    Ptr<core::Document> document = makeDocument(std::move(data), Ptr<Application>(this));
+core::Ptr<core::Document> Application::openInHost(DesignData data) {
+    core::Ptr<core::Document> document =
+        makeDocument(std::move(data), core::Ptr<Application>(this));
     documents_->own(document);
     setActiveDocument(document);
     return document;
 }
 
-void Application::setData(const Ptr<core::Data>& data) { data_ = data; }
+void Application::setData(const core::Ptr<core::Data>& data) { data_ = data; }
 
-void Application::setActiveEditObject(const Ptr<core::Base>& object) { editObject_ = object; }
+void Application::setActiveEditObject(const core::Ptr<core::Base>& object) { editObject_ = object; }
 
-bool Application::isRootComponent(const Ptr<core::Base>& entity) const {
+bool Application::isRootComponent(const core::Ptr<core::Base>& entity) const {
     return entity && entity == root_;
 }
 
@@ -138,7 +111,7 @@ void Application::dispose() {
     invalidate();
 }
 
-Ptr<Application> startHost(const HostSetup& setup) {
+core::Ptr<Application> startHost(const HostSetup& setup) {
     endHost();
     lastError() = {};
     clearMisuses();

@@ -24,21 +24,31 @@ namespace host {
 /// The host itself. One runs at a time, from `startHost` to `endHost`.
 ///
 /// Whoever starts it gives it its document and drives it through `hands.h`.
-class Application final : public Object<adsk::core::Application>, public ui::ActiveModel {
+class Application final : public Object<core::Application>, public ui::ActiveModel {
 public:
     explicit Application(const HostSetup& setup);
 
     /// The one that runs, null for none.
-    static adsk::core::Ptr<Application> current();
+    static core::Ptr<Application> current();
 
-    [[nodiscard]] adsk::core::Ptr<adsk::core::UserInterface> userInterface() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Document> activeDocument() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Product> activeProduct() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Base> activeEditObject() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Data> data() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Documents> documents() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::ImportManager> importManager() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Preferences> preferences() const override;
+    [[nodiscard]] core::Ptr<core::UserInterface> userInterface() const override {
+        return get<"Application::userInterface">(ui_);
+    }
+    [[nodiscard]] core::Ptr<core::Document> activeDocument() const override {
+        return get<"Application::activeDocument">(document_);
+    }
+    [[nodiscard]] core::Ptr<core::Product> activeProduct() const override;
+    [[nodiscard]] core::Ptr<core::Base> activeEditObject() const override;
+    [[nodiscard]] core::Ptr<core::Data> data() const override;
+    [[nodiscard]] core::Ptr<core::Documents> documents() const override {
+        return get<"Application::documents">(documents_);
+    }
+    [[nodiscard]] core::Ptr<core::ImportManager> importManager() const override {
+        return get<"Application::importManager">(importManager_);
+    }
+    [[nodiscard]] core::Ptr<core::Preferences> preferences() const override {
+        return get<"Application::preferences">(preferences_);
+    }
     int getLastError(std::string* description) const override;
 
     /// @name For whoever started it
@@ -47,15 +57,15 @@ public:
     /// Makes a document the active one. A running command ends, since its document goes, unless it
     /// is inside its execution; what was selected is no longer. In workspaces for designs `product`
     /// is what is shown of it: its design where that is null.
-    void setActiveDocument(const adsk::core::Ptr<adsk::core::Document>& document,
-                           const adsk::core::Ptr<adsk::core::Product>& product = nullptr);
+    void setActiveDocument(const core::Ptr<core::Document>& document,
+                           const core::Ptr<core::Product>& product = nullptr);
 
     /// Opens a design as a document of the host's own, which it ends itself, and makes it the
     /// active one. A command that is inside its execution goes on.
-    adsk::core::Ptr<adsk::core::Document> openInHost(DesignData data);
+    core::Ptr<core::Document> openInHost(DesignData data);
 
     /// The documents that were opened so and are still open, oldest first.
-    [[nodiscard]] const std::vector<adsk::core::Ptr<adsk::core::Document>>& openedInHost() const {
+    [[nodiscard]] const std::vector<core::Ptr<core::Document>>& openedInHost() const {
         return documents_->owned();
     }
 
@@ -63,17 +73,14 @@ public:
     std::vector<std::string> importWarnings;
 
     /// Gives the host the user's projects; null takes them away.
-    void setData(const adsk::core::Ptr<adsk::core::Data>& data);
+    void setData(const core::Ptr<core::Data>& data);
 
     /// What a person edits, such as an open sketch; the root component where it is null.
-    void setActiveEditObject(const adsk::core::Ptr<adsk::core::Base>& object);
+    void setActiveEditObject(const core::Ptr<core::Base>& object);
 
-    [[nodiscard]] const adsk::core::Ptr<adsk::core::Document>& document() const {
-        return document_;
-    }
+    [[nodiscard]] const core::Ptr<core::Document>& document() const { return document_; }
 
-    [[nodiscard]] bool isRootComponent(
-        const adsk::core::Ptr<adsk::core::Base>& entity) const override;
+    [[nodiscard]] bool isRootComponent(const core::Ptr<core::Base>& entity) const override;
     [[nodiscard]] std::uint64_t editsOfModel() const override;
 
     [[nodiscard]] ui::UserInterface& ui() const { return *ui_; }
@@ -82,20 +89,20 @@ public:
     void dispose();
 
 private:
-    adsk::core::Ptr<ui::UserInterface> ui_;
-    adsk::core::Ptr<ui::Preferences> preferences_;
-    adsk::core::Ptr<DocumentsObject> documents_;
-    adsk::core::Ptr<ImportManagerObject> importManager_;
-    adsk::core::Ptr<adsk::core::Data> data_;
-    adsk::core::Ptr<adsk::core::Document> document_;
-    adsk::core::Ptr<adsk::core::Product> product_;
-    adsk::core::Ptr<adsk::core::Product> otherProduct_;
-    adsk::core::Ptr<adsk::core::Base> root_;
-    adsk::core::Ptr<adsk::core::Base> editObject_;
+    core::Ptr<ui::UserInterface> ui_;
+    core::Ptr<ui::Preferences> preferences_;
+    core::Ptr<DocumentsObject> documents_;
+    core::Ptr<ImportManagerObject> importManager_;
+    core::Ptr<core::Data> data_;
+    core::Ptr<core::Document> document_;
+    core::Ptr<core::Product> product_;
+    core::Ptr<core::Product> otherProduct_;
+    core::Ptr<core::Base> root_;
+    core::Ptr<core::Base> editObject_;
 };
 
 /// Starts a host; one that runs is ended first. Messages and misuses begin again.
-adsk::core::Ptr<Application> startHost(const HostSetup& setup = {});
+core::Ptr<Application> startHost(const HostSetup& setup = {});
 
 /// Ends the host that runs: a running command ends with it, and whatever a module still holds is no
 /// longer valid. Its document is left to whoever made it. Nothing happens when none runs.

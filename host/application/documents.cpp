@@ -17,11 +17,6 @@
 
 namespace host {
 
-using adsk::core::DataFile;
-using adsk::core::Document;
-using adsk::core::OperationFailed;
-using adsk::core::Ptr;
-
 namespace {
 
 /// Counts one try down; false when there is none.
@@ -32,14 +27,15 @@ bool takeOne(int& tries) {
 }
 
 DesignData readConverted(const DataFileObject& file) {
-    return readDesign(file.path(), ImportLimits(), ImportProgress(),
+    return readDesign(file.state().path, ImportLimits(), ImportProgress(),
                       Application::current()->importWarnings);
 }
 
 /// The design of a file, or a thrown exception that tells why it cannot be opened yet, or ever.
 DesignData convertedDesign(const DataFileObject& file) {
-    if (takeOne(storagePace().conversionsReturningNothing) || clock::now() < file.convertedAt()) {
-        throw std::runtime_error(file.title() + ": is still being converted");
+    if (takeOne(storagePace().conversionsReturningNothing) ||
+        clock::now() < file.state().convertedAt) {
+        throw std::runtime_error(file.state().name + ": is still being converted");
     }
     return readConverted(file);
 }
@@ -51,46 +47,48 @@ std::size_t DocumentsObject::count() const {
     return open().size();
 }
 
-Ptr<Document> DocumentsObject::item(std::size_t index) const {
+core::Ptr<core::Document> DocumentsObject::item(std::size_t index) const {
     if (closed<"Documents::item">(*this)) return {};
-    const std::vector<Ptr<Document>> all = open();
+    const std::vector<core::Ptr<core::Document>> all = open();
     return index < all.size() ? all[index] : nullptr;
 }
 
-Ptr<Document> DocumentsObject::open(const Ptr<DataFile>& dataFile, bool /*visible*/) {
+core::Ptr<core::Document> DocumentsObject::open(const core::Ptr<core::DataFile>& dataFile,
+                                                bool /*visible*/) {
     if (closed<"Documents::open">(*this)) return {};
     if (takeOne(storagePace().conversionsThrowing)) {
         throw std::runtime_error("the conversion failed");
     }
-    const Ptr<DataFileObject> file = dataFile;
+    const core::Ptr<DataFileObject> file = dataFile;
     if (!file || !file->isValid()) {
-        fail(adsk::core::BadApiCallError, "Documents::open: there is no such file");
+        fail(core::BadApiCallError, "Documents::open: there is no such file");
         return {};
     }
     try {
-        Ptr<Document> document = Application::current()->openInHost(convertedDesign(*file));
+        core::Ptr<core::Document> document =
+            Application::current()->openInHost(convertedDesign(*file));
         setDataFile(document, dataFile);
         return document;
     } catch (const std::exception& error) {
-        fail(OperationFailed, std::string("Documents::open: ") + error.what());
+        fail(core::OperationFailed, std::string("Documents::open: ") + error.what());
         return {};
     }
 }
 
-void DocumentsObject::add(const Ptr<Document>& document) {
+void DocumentsObject::add(const core::Ptr<core::Document>& document) {
     if (document && std::find(all_.begin(), all_.end(), document) == all_.end()) {
         all_ = open();
         all_.push_back(document);
     }
 }
 
-void DocumentsObject::own(const Ptr<Document>& document) {
+void DocumentsObject::own(const core::Ptr<core::Document>& document) {
     owned_.push_back(document);
     add(document);
 }
 
 void DocumentsObject::dispose() {
-    for (const Ptr<Document>& each : owned_) {
+    for (const core::Ptr<core::Document>& each : owned_) {
         endDocument(each);
     }
     owned_.clear();
@@ -98,10 +96,10 @@ void DocumentsObject::dispose() {
     invalidate();
 }
 
-std::vector<Ptr<Document>> DocumentsObject::open() const {
-    std::vector<Ptr<Document>> result;
+std::vector<core::Ptr<core::Document>> DocumentsObject::open() const {
+    std::vector<core::Ptr<core::Document>> result;
     std::copy_if(all_.begin(), all_.end(), std::back_inserter(result),
-                 [](const Ptr<Document>& each) { return each->isValid(); });
+                 [](const core::Ptr<core::Document>& each) { return each->isValid(); });
     return result;
 }
 

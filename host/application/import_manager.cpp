@@ -13,8 +13,6 @@
 namespace host {
 namespace {
 
-using namespace adsk::core;
-
 /// A STEP or IGES file.
 DesignData readShapes(const std::string& path) {
     // The API has no place for warnings; whoever drives the host may ask for them.
@@ -29,19 +27,19 @@ DesignData readArchive(const std::string& path) {
 
 /// The path that the options name where they are of this format, else null.
 template <class Interface>
-const std::string* fileOf(const Ptr<ImportOptions>& options) {
+const std::string* fileOf(const core::Ptr<core::ImportOptions>& options) {
     const auto* own = dynamic_cast<const ImportOptionsObject<Interface>*>(options.get());
-    return own == nullptr ? nullptr : &own->file();
+    return own == nullptr ? nullptr : &own->state().filename;
 }
 
-DesignData readAs(const Ptr<ImportOptions>& options) {
-    if (const std::string* file = fileOf<STEPImportOptions>(options)) {
+DesignData readAs(const core::Ptr<core::ImportOptions>& options) {
+    if (const std::string* file = fileOf<core::STEPImportOptions>(options)) {
         return readShapes(toUtf8(foundFile(*file)));
     }
-    if (const std::string* file = fileOf<FusionArchiveImportOptions>(options)) {
+    if (const std::string* file = fileOf<core::FusionArchiveImportOptions>(options)) {
         return readArchive(toUtf8(foundFile(*file)));
     }
-    if (const std::string* file = fileOf<IGESImportOptions>(options)) {
+    if (const std::string* file = fileOf<core::IGESImportOptions>(options)) {
         return readShapes(toUtf8(foundFile(*file)));
     }
     throw ImportError("this host has no translator for the format of " +
@@ -50,35 +48,40 @@ DesignData readAs(const Ptr<ImportOptions>& options) {
 
 }  // namespace
 
-Ptr<IGESImportOptions> ImportManagerObject::createIGESImportOptions(const std::string& filename) {
+core::Ptr<core::IGESImportOptions> ImportManagerObject::createIGESImportOptions(
+    const std::string& filename) {
     if (closed<"ImportManager::createIGESImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<IGESImportOptions>>(filename);
+    return make<ImportOptionsObject<core::IGESImportOptions>>(filename);
 }
 
-Ptr<FusionArchiveImportOptions> ImportManagerObject::createFusionArchiveImportOptions(
+core::Ptr<core::FusionArchiveImportOptions> ImportManagerObject::createFusionArchiveImportOptions(
     const std::string& filename) {
     if (closed<"ImportManager::createFusionArchiveImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<FusionArchiveImportOptions>>(filename);
+    return make<ImportOptionsObject<core::FusionArchiveImportOptions>>(filename);
 }
 
-Ptr<SATImportOptions> ImportManagerObject::createSATImportOptions(const std::string& filename) {
+core::Ptr<core::SATImportOptions> ImportManagerObject::createSATImportOptions(
+    const std::string& filename) {
     if (closed<"ImportManager::createSATImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<SATImportOptions>>(filename);
+    return make<ImportOptionsObject<core::SATImportOptions>>(filename);
 }
 
-Ptr<SMTImportOptions> ImportManagerObject::createSMTImportOptions(const std::string& filename) {
+core::Ptr<core::SMTImportOptions> ImportManagerObject::createSMTImportOptions(
+    const std::string& filename) {
     if (closed<"ImportManager::createSMTImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<SMTImportOptions>>(filename);
+    return make<ImportOptionsObject<core::SMTImportOptions>>(filename);
 }
 
-Ptr<STEPImportOptions> ImportManagerObject::createSTEPImportOptions(const std::string& filename) {
+core::Ptr<core::STEPImportOptions> ImportManagerObject::createSTEPImportOptions(
+    const std::string& filename) {
     if (closed<"ImportManager::createSTEPImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<STEPImportOptions>>(filename);
+    return make<ImportOptionsObject<core::STEPImportOptions>>(filename);
 }
 
-Ptr<Document> ImportManagerObject::importToNewDocument(const Ptr<ImportOptions>& importOptions) {
+core::Ptr<core::Document> ImportManagerObject::importToNewDocument(
+    const core::Ptr<core::ImportOptions>& importOptions) {
     if (closed<"ImportManager::importToNewDocument">(*this)) return {};
-    const Ptr<Application> application = Application::current();
+    const core::Ptr<Application> application = Application::current();
     if (!importOptions || !application) {
         misuse("ImportManager::importToNewDocument", "needs options that tell what to import");
         return {};
@@ -86,7 +89,7 @@ Ptr<Document> ImportManagerObject::importToNewDocument(const Ptr<ImportOptions>&
     try {
         return application->openInHost(readAs(importOptions));
     } catch (const std::exception& error) {
-        fail(OperationFailed, error.what());
+        fail(core::OperationFailed, error.what());
         return {};
     }
 }

@@ -14,43 +14,41 @@ namespace host {
 template <class Interface>
 class ImportOptionsObject final : public Object<Interface> {
 public:
-    explicit ImportOptionsObject(std::string filename) : filename_(std::move(filename)) {}
+    explicit ImportOptionsObject(std::string filename) : state_{.filename = std::move(filename)} {}
 
     [[nodiscard]] std::string filename() const override {
-        if (refused<"ImportOptions::filename">()) return {};
-        return filename_;
+        return this->template get<"ImportOptions::filename">(state_.filename);
+    }
+    bool filename(const std::string& value) override {
+        return this->template set<"ImportOptions::filename">(state_.filename, value);
     }
 
-    bool filename(const std::string& value) override {
-        if (refused<"ImportOptions::filename">()) return {};
-        filename_ = value;
-        return true;
-    }
+    struct State {
+        std::string filename;
+    };
 
     /// For the host itself.
-    [[nodiscard]] const std::string& file() const { return filename_; }
+    [[nodiscard]] const State& state() const { return state_; }
 
 private:
-    std::string filename_;
+    State state_;
 };
 
 /// Opens files of other formats as new documents: STEP, IGES, and design files in the place of the
 /// vendor's archives. The formats that this host has no translator for fail by name, as one without
 /// those translators does. Files are found as `foundFile` finds them.
-class ImportManagerObject final : public Object<adsk::core::ImportManager> {
+class ImportManagerObject final : public Object<core::ImportManager> {
 public:
-    adsk::core::Ptr<adsk::core::IGESImportOptions> createIGESImportOptions(
+    core::Ptr<core::IGESImportOptions> createIGESImportOptions(
         const std::string& filename) override;
-    adsk::core::Ptr<adsk::core::FusionArchiveImportOptions> createFusionArchiveImportOptions(
+    core::Ptr<core::FusionArchiveImportOptions> createFusionArchiveImportOptions(
         const std::string& filename) override;
-    adsk::core::Ptr<adsk::core::SATImportOptions> createSATImportOptions(
+    core::Ptr<core::SATImportOptions> createSATImportOptions(const std::string& filename) override;
+    core::Ptr<core::SMTImportOptions> createSMTImportOptions(const std::string& filename) override;
+    core::Ptr<core::STEPImportOptions> createSTEPImportOptions(
         const std::string& filename) override;
-    adsk::core::Ptr<adsk::core::SMTImportOptions> createSMTImportOptions(
-        const std::string& filename) override;
-    adsk::core::Ptr<adsk::core::STEPImportOptions> createSTEPImportOptions(
-        const std::string& filename) override;
-    adsk::core::Ptr<adsk::core::Document> importToNewDocument(
-        const adsk::core::Ptr<adsk::core::ImportOptions>& importOptions) override;
+    core::Ptr<core::Document> importToNewDocument(
+        const core::Ptr<core::ImportOptions>& importOptions) override;
 };
 
 }  // namespace host

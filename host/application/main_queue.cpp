@@ -48,7 +48,7 @@ void runPosted() {
         clock::runDue();
         ui::endLongWaits();
     };
-    const adsk::core::Ptr<Application> application = Application::current();
+    const core::Ptr<Application> application = Application::current();
     if (!application) {
         work();
         return;

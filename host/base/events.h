@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/base/dispatcher.h"
-#include "host/base/misuse.h"
 #include "host/base/object.h"
 
 #include <Core/Event.h>
@@ -37,22 +36,21 @@ namespace host {
 template <class Interface>
 class Arguments : public Object<Interface> {
 public:
-    explicit Arguments(adsk::core::Ptr<adsk::core::Event> event) : event_(std::move(event)) {}
+    explicit Arguments(core::Ptr<core::Event> event) : event_(std::move(event)) {}
 
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Event> firingEvent() const override {
-        if (refused<"EventArgs::firingEvent">()) return {};
-        return event_;
+    [[nodiscard]] core::Ptr<core::Event> firingEvent() const override {
+        return this->template get<"EventArgs::firingEvent">(event_);
     }
 
 private:
-    adsk::core::Ptr<adsk::core::Event> event_;
+    core::Ptr<core::Event> event_;
 };
 
 /// The class that `EventOf` or `EventHandlerOf` was instantiated with, as a pointer to it.
 template <class Handler>
-Handler* handlerOf(const adsk::core::EventOf<Handler>* event);
+Handler* handlerOf(const core::EventOf<Handler>* event);
 template <class ArgumentsInterface>
-ArgumentsInterface* argumentsOf(const adsk::core::EventHandlerOf<ArgumentsInterface>* handler);
+ArgumentsInterface* argumentsOf(const core::EventHandlerOf<ArgumentsInterface>* handler);
 
 /// An event of the public API.
 ///
@@ -64,17 +62,15 @@ public:
     using ArgumentsInterface =
         std::remove_pointer_t<decltype(argumentsOf(static_cast<Handler*>(nullptr)))>;
 
-    TypedEvent(std::string name, adsk::core::Base* sender)
-        : name_(std::move(name)), sender_(sender) {}
+    TypedEvent(std::string name, core::Base* sender) : name_(std::move(name)), sender_(sender) {}
 
     [[nodiscard]] std::string name() const override {
-        if (closed<"Event::name">(*this)) return {};
-        return name_;
+        return this->template get<"Event::name">(name_);
     }
 
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Base> sender() const override {
+    [[nodiscard]] core::Ptr<core::Base> sender() const override {
         if (closed<"Event::sender">(*this)) return {};
-        return adsk::core::Ptr<adsk::core::Base>(sender_);
+        return core::Ptr<core::Base>(sender_);
     }
 
     bool add(Handler* handler) override {
@@ -98,12 +94,11 @@ public:
     /// Notifies all handlers in the order they were added. One that throws is recorded and does not
     /// keep the others from being notified; one that goes while another runs is skipped. Returns
     /// false when any threw.
-    bool fire(const adsk::core::Ptr<ArgumentsInterface>& arguments,
-              const std::string& inputId = "") {
-        const std::shared_ptr<adsk::core::EventLink> link = link_;
-        const std::vector<adsk::core::EventHandler*> handlers = link->handlers;
+    bool fire(const core::Ptr<ArgumentsInterface>& arguments, const std::string& inputId = "") {
+        const std::shared_ptr<core::EventLink> link = link_;
+        const std::vector<core::EventHandler*> handlers = link->handlers;
         bool quiet = true;
-        for (adsk::core::EventHandler* handler : handlers) {
+        for (core::EventHandler* handler : handlers) {
             if (link->holds(handler)) {
                 // Only `add` fills the list, so each entry is of this event's handler class.
                 auto* typed = static_cast<Handler*>(handler);
@@ -115,8 +110,8 @@ public:
 
 private:
     std::string name_;
-    adsk::core::Base* sender_;
-    std::shared_ptr<adsk::core::EventLink> link_ = std::make_shared<adsk::core::EventLink>();
+    core::Base* sender_;
+    std::shared_ptr<core::EventLink> link_ = std::make_shared<core::EventLink>();
 };
 
 }  // namespace host

@@ -10,11 +10,6 @@
 
 namespace host {
 
-using adsk::core::DataFolder;
-using adsk::core::DataProject;
-using adsk::core::Document;
-using adsk::core::Ptr;
-
 namespace {
 
 /// The name of a file without its ending, of which a design file has two.
@@ -28,45 +23,37 @@ std::string titleOf(std::filesystem::path path) {
 
 DataFileObject::DataFileObject(DataFolderObject& folder, const std::filesystem::path& path,
                                std::string id)
-    : folder_(&folder), path_(path), name_(titleOf(path)), id_(std::move(id)) {}
-
-std::string DataFileObject::id() const {
-    if (closed<"DataFile::id">(*this)) return {};
-    return id_;
-}
-
-std::string DataFileObject::name() const {
-    if (closed<"DataFile::name">(*this)) return {};
-    return name_;
-}
+    : state_{.folder = &folder, .path = path, .name = titleOf(path), .id = std::move(id)} {}
 
 bool DataFileObject::name(const std::string& /*value*/) {
     if (closed<"DataFile::name">(*this)) return {};
     return notImplemented("DataFile::name: to rename a file");
 }
 
-Ptr<DataFolder> DataFileObject::parentFolder() const {
+core::Ptr<core::DataFolder> DataFileObject::parentFolder() const {
     if (closed<"DataFile::parentFolder">(*this)) return {};
-    return Ptr<DataFolder>(folder_);
+    return core::Ptr<core::DataFolder>(state_.folder);
 }
 
-Ptr<DataProject> DataFileObject::parentProject() const {
+core::Ptr<core::DataProject> DataFileObject::parentProject() const {
     if (closed<"DataFile::parentProject">(*this)) return {};
-    return Ptr<DataProject>(&folder_->project());
+    return core::Ptr<core::DataProject>(&state_.folder->project());
 }
 
-void DataFileObject::await(const Ptr<Document>& document) { waiting_.push_back(document); }
+void DataFileObject::await(const core::Ptr<core::Document>& document) {
+    waiting_.push_back(document);
+}
 
 void DataFileObject::becomeKnown() {
-    for (const Ptr<Document>& each : std::exchange(waiting_, {})) {
+    for (const core::Ptr<core::Document>& each : std::exchange(waiting_, {})) {
         if (each->isValid()) {
-            setDataFile(each, Ptr<adsk::core::DataFile>(this));
+            setDataFile(each, core::Ptr<core::DataFile>(this));
         }
     }
 }
 
-void DataFileObject::close() {
-    folder_ = nullptr;
+void DataFileObject::dispose() {
+    state_.folder = nullptr;
     waiting_.clear();
     invalidate();
 }

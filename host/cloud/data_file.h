@@ -14,44 +14,44 @@ namespace host {
 class DataFolderObject;
 
 /// A file of a project.
-class DataFileObject final : public Object<adsk::core::DataFile> {
+class DataFileObject final : public Object<core::DataFile> {
 public:
     DataFileObject(DataFolderObject& folder, const std::filesystem::path& path, std::string id);
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] std::string id() const override { return get<"DataFile::id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"DataFile::name">(state_.name); }
     bool name(const std::string& value) override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFolder> parentFolder() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataProject> parentProject() const override;
+    [[nodiscard]] core::Ptr<core::DataFolder> parentFolder() const override;
+    [[nodiscard]] core::Ptr<core::DataProject> parentProject() const override;
 
     /// @name For the host itself
     /// @{
-    [[nodiscard]] const std::string& title() const { return name_; }
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    struct State {
+        DataFolderObject* folder = nullptr;
+        std::filesystem::path path;
+        std::string name;
+        std::string id;
 
-    /// When it can be opened, by the clock of the host: at once unless it was just uploaded.
-    [[nodiscard]] double convertedAt() const { return convertedAt_; }
-    void convertedAt(double seconds) { convertedAt_ = seconds; }
+        /// When it can be opened, by the clock of the host: at once unless it was just uploaded.
+        double convertedAt = 0;
+    };
+    [[nodiscard]] const State& state() const { return state_; }
 
-    [[nodiscard]] const DataFolderObject* folder() const { return folder_; }
+    void setConvertedAt(double seconds) { state_.convertedAt = seconds; }
 
-    /// Has a document learn of this file when the file's folder is listed.
-    void await(const adsk::core::Ptr<adsk::core::Document>& document);
+    /// Makes this the data file of a document as soon as the file's folder is listed.
+    void await(const core::Ptr<core::Document>& document);
 
-    /// Tells the documents that wait for it.
+    /// Becomes the data file of the documents that wait for it.
     void becomeKnown();
 
-    /// Its folder is gone, or it is itself.
-    void close();
+    /// The file or its folder no longer exists.
+    void dispose();
     /// @}
 
 private:
-    DataFolderObject* folder_;
-    std::filesystem::path path_;
-    double convertedAt_ = 0;
-    std::string name_;
-    std::string id_;
-    std::vector<adsk::core::Ptr<adsk::core::Document>> waiting_;
+    State state_;
+    std::vector<core::Ptr<core::Document>> waiting_;
 };
 
 }  // namespace host

@@ -13,12 +13,6 @@
 namespace host {
 
 namespace fs = std::filesystem;
-using adsk::core::DataFile;
-using adsk::core::DataFileFuture;
-using adsk::core::DataFiles;
-using adsk::core::DataFolder;
-using adsk::core::DataFolders;
-using adsk::core::Ptr;
 
 namespace {
 
@@ -49,20 +43,20 @@ Names namesIn(const fs::path& folder) {
 }
 
 template <class T>
-void dropMissing(std::map<fs::path, Ptr<T>>& known, const std::set<fs::path>& names) {
+void dropMissing(std::map<fs::path, core::Ptr<T>>& known, const std::set<fs::path>& names) {
     for (auto each = known.begin(); each != known.end();) {
         if (names.contains(each->first)) {
             ++each;
         } else {
-            each->second->close();
+            each->second->dispose();
             each = known.erase(each);
         }
     }
 }
 
 template <class Item, class T>
-std::vector<Ptr<Item>> valuesOf(const std::map<fs::path, Ptr<T>>& known) {
-    std::vector<Ptr<Item>> values;
+std::vector<core::Ptr<Item>> valuesOf(const std::map<fs::path, core::Ptr<T>>& known) {
+    std::vector<core::Ptr<Item>> values;
     for (const auto& [name, each] : known) {
         values.push_back(each);
     }
@@ -90,31 +84,31 @@ bool DataFolderObject::isRoot() const {
     return parent_ == nullptr;
 }
 
-Ptr<DataFolder> DataFolderObject::parentFolder() const {
+core::Ptr<core::DataFolder> DataFolderObject::parentFolder() const {
     if (closed<"DataFolder::parentFolder">(*this)) return {};
-    return Ptr<DataFolder>(parent_);
+    return core::Ptr<core::DataFolder>(parent_);
 }
 
 // The API's getters are const, and the disk is looked at all the same.
-Ptr<DataFolders> DataFolderObject::dataFolders() const {
+core::Ptr<core::DataFolders> DataFolderObject::dataFolders() const {
     if (closed<"DataFolder::dataFolders">(*this)) return {};
     const_cast<DataFolderObject*>(this)->refresh();
-    return make<DataFoldersObject>(valuesOf<DataFolder>(folders_));
+    return make<DataFoldersObject>(valuesOf<core::DataFolder>(folders_));
 }
 
-Ptr<DataFiles> DataFolderObject::dataFiles() const {
+core::Ptr<core::DataFiles> DataFolderObject::dataFiles() const {
     if (closed<"DataFolder::dataFiles">(*this)) return {};
     const_cast<DataFolderObject*>(this)->refresh();
     isListed_ = true;
     for (const auto& [name, each] : files_) {
         each->becomeKnown();
     }
-    return make<DataFilesObject>(valuesOf<DataFile>(files_));
+    return make<DataFilesObject>(valuesOf<core::DataFile>(files_));
 }
 
-Ptr<DataFileFuture> DataFolderObject::uploadFile(const std::string& filename) {
+core::Ptr<core::DataFileFuture> DataFolderObject::uploadFile(const std::string& filename) {
     if (closed<"DataFolder::uploadFile">(*this)) return {};
-    return beginUpload(Ptr<DataFolderObject>(this), filename);
+    return beginUpload(core::Ptr<DataFolderObject>(this), filename);
 }
 
 void DataFolderObject::refresh() {
@@ -134,32 +128,32 @@ void DataFolderObject::refresh() {
     }
 }
 
-Ptr<DataFolderObject> DataFolderObject::folder(const fs::path& name) const {
+core::Ptr<DataFolderObject> DataFolderObject::folder(const fs::path& name) const {
     const auto found = folders_.find(name);
     return found == folders_.end() ? nullptr : found->second;
 }
 
-Ptr<DataFileObject> DataFolderObject::file(const fs::path& name) const {
+core::Ptr<DataFileObject> DataFolderObject::file(const fs::path& name) const {
     const auto found = files_.find(name);
     return found == files_.end() ? nullptr : found->second;
 }
 
-Ptr<DataFileObject> DataFolderObject::findByName(const std::string& name) {
+core::Ptr<DataFileObject> DataFolderObject::findByName(const std::string& name) {
     refresh();
     for (const auto& [path, each] : folders_) {
-        if (Ptr<DataFileObject> found = each->findByName(name)) {
+        if (core::Ptr<DataFileObject> found = each->findByName(name)) {
             return found;
         }
     }
     for (const auto& [path, each] : files_) {
-        if (each->title() == name) {
+        if (each->state().name == name) {
             return each;
         }
     }
     return nullptr;
 }
 
-void DataFolderObject::close() {
+void DataFolderObject::dispose() {
     dropMissing(folders_, {});
     dropMissing(files_, {});
     parent_ = nullptr;

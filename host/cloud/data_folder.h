@@ -17,7 +17,7 @@ class DataProjectObject;
 /// A folder of a project, and what was found in it so far.
 ///
 /// It holds what lies in it; that points back to it, until it is closed.
-class DataFolderObject final : public Object<adsk::core::DataFolder> {
+class DataFolderObject final : public Object<core::DataFolder> {
 public:
     /// `parent` is null for the root folder of a project.
     DataFolderObject(DataProjectObject& project, DataFolderObject* parent,
@@ -26,10 +26,10 @@ public:
     [[nodiscard]] std::string name() const override;
     bool name(const std::string& value) override;
     [[nodiscard]] bool isRoot() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFolder> parentFolder() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFolders> dataFolders() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFiles> dataFiles() const override;
-    adsk::core::Ptr<adsk::core::DataFileFuture> uploadFile(const std::string& filename) override;
+    [[nodiscard]] core::Ptr<core::DataFolder> parentFolder() const override;
+    [[nodiscard]] core::Ptr<core::DataFolders> dataFolders() const override;
+    [[nodiscard]] core::Ptr<core::DataFiles> dataFiles() const override;
+    core::Ptr<core::DataFileFuture> uploadFile(const std::string& filename) override;
 
     /// @name For the host itself
     /// @{
@@ -42,22 +42,22 @@ public:
     /// Looks at the disk; what is gone from it is not valid any more.
     void refresh();
 
-    [[nodiscard]] adsk::core::Ptr<DataFolderObject> folder(const std::filesystem::path& name) const;
-    [[nodiscard]] adsk::core::Ptr<DataFileObject> file(const std::filesystem::path& name) const;
+    [[nodiscard]] core::Ptr<DataFolderObject> folder(const std::filesystem::path& name) const;
+    [[nodiscard]] core::Ptr<DataFileObject> file(const std::filesystem::path& name) const;
 
     /// The first file of a name here or below, folders in front of files; null for none.
-    [[nodiscard]] adsk::core::Ptr<DataFileObject> findByName(const std::string& name);
+    [[nodiscard]] core::Ptr<DataFileObject> findByName(const std::string& name);
 
     /// Lets go of all that lies in it; it is not valid any more.
-    void close();
+    void dispose();
     /// @}
 
 private:
     DataProjectObject* project_;
     DataFolderObject* parent_;
     std::filesystem::path path_;
-    std::map<std::filesystem::path, adsk::core::Ptr<DataFolderObject>> folders_;
-    std::map<std::filesystem::path, adsk::core::Ptr<DataFileObject>> files_;
+    std::map<std::filesystem::path, core::Ptr<DataFolderObject>> folders_;
+    std::map<std::filesystem::path, core::Ptr<DataFileObject>> files_;
     mutable bool isListed_ = false;
 };
 

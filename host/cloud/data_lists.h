@@ -10,44 +10,28 @@
 
 namespace host {
 
-/// Folders as they were when the list was asked for.
-class DataFoldersObject final : public Object<adsk::core::DataFolders> {
+/// What a folder held when the list was asked for. `Count` and `At` name its operations.
+template <class Interface, class Item, CallName Count, CallName At>
+class DataListObject final : public Object<Interface> {
 public:
-    explicit DataFoldersObject(std::vector<adsk::core::Ptr<adsk::core::DataFolder>> items)
-        : items_(std::move(items)) {}
+    explicit DataListObject(std::vector<core::Ptr<Item>> items) : items_(std::move(items)) {}
 
     [[nodiscard]] std::size_t count() const override {
-        if (refused<"DataFolders::count">()) return {};
-        return items_.size();
+        return this->template get<Count>(items_.size());
     }
 
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFolder> item(std::size_t index) const override {
-        if (refused<"DataFolders::item">()) return {};
+    [[nodiscard]] core::Ptr<Item> item(std::size_t index) const override {
+        if (closed<At>(*this)) return {};
         return index < items_.size() ? items_[index] : nullptr;
     }
 
 private:
-    std::vector<adsk::core::Ptr<adsk::core::DataFolder>> items_;
+    std::vector<core::Ptr<Item>> items_;
 };
 
-/// Files as they were when the list was asked for.
-class DataFilesObject final : public Object<adsk::core::DataFiles> {
-public:
-    explicit DataFilesObject(std::vector<adsk::core::Ptr<adsk::core::DataFile>> items)
-        : items_(std::move(items)) {}
-
-    [[nodiscard]] std::size_t count() const override {
-        if (refused<"DataFiles::count">()) return {};
-        return items_.size();
-    }
-
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFile> item(std::size_t index) const override {
-        if (refused<"DataFiles::item">()) return {};
-        return index < items_.size() ? items_[index] : nullptr;
-    }
-
-private:
-    std::vector<adsk::core::Ptr<adsk::core::DataFile>> items_;
-};
+using DataFoldersObject =
+    DataListObject<core::DataFolders, core::DataFolder, "DataFolders::count", "DataFolders::item">;
+using DataFilesObject =
+    DataListObject<core::DataFiles, core::DataFile, "DataFiles::count", "DataFiles::item">;
 
 }  // namespace host

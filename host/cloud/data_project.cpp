@@ -7,21 +7,13 @@
 
 namespace host {
 
-using adsk::core::DataFolder;
-using adsk::core::DataProject;
-using adsk::core::Ptr;
-
 DataProjectObject::DataProjectObject(const std::filesystem::path& folder)
-    : name_(toUtf8(folder.filename())), root_(make<DataFolderObject>(*this, nullptr, folder)) {}
+    : state_{.name = toUtf8(folder.filename()),
+             .root = make<DataFolderObject>(*this, nullptr, folder)} {}
 
 std::string DataProjectObject::id() const {
     if (closed<"DataProject::id">(*this)) return {};
-    return "urn:standin:project:" + name_;
-}
-
-std::string DataProjectObject::name() const {
-    if (closed<"DataProject::name">(*this)) return {};
-    return name_;
+    return "urn:standin:project:" + state_.name;
 }
 
 bool DataProjectObject::name(const std::string& /*value*/) {
@@ -29,52 +21,42 @@ bool DataProjectObject::name(const std::string& /*value*/) {
     return notImplemented("DataProject::name: to rename a project");
 }
 
-Ptr<DataFolder> DataProjectObject::rootFolder() const {
-    if (closed<"DataProject::rootFolder">(*this)) return {};
-    return root_;
-}
-
 std::string DataProjectObject::idOfFile(const std::filesystem::path& path) const {
-    const std::filesystem::path inside = path.lexically_relative(root_->path());
+    const std::filesystem::path inside = path.lexically_relative(state_.root->path());
     const std::u8string text = inside.generic_u8string();
-    return "urn:standin:file:" + name_ + "/" + std::string(text.begin(), text.end());
+    return "urn:standin:file:" + state_.name + "/" + std::string(text.begin(), text.end());
 }
 
-void DataProjectObject::close() {
-    root_->close();
+void DataProjectObject::dispose() {
+    state_.root->dispose();
     invalidate();
 }
 
-Ptr<DataProject> DataObject::activeProject() const {
-    if (closed<"Data::activeProject">(*this)) return {};
-    return active_;
-}
-
-bool DataObject::activeProject(const Ptr<DataProject>& value) {
+bool DataObject::activeProject(const core::Ptr<core::DataProject>& value) {
     if (closed<"Data::activeProject">(*this)) return {};
     const auto found =
-        std::find_if(projects_.begin(), projects_.end(),
-                     [&value](const Ptr<DataProjectObject>& each) { return each == value; });
-    if (found == projects_.end()) {
-        return fail(adsk::core::BadApiCallError, "Data::activeProject: no such project");
+        std::find_if(state_.projects.begin(), state_.projects.end(),
+                     [&value](const core::Ptr<DataProjectObject>& each) { return each == value; });
+    if (found == state_.projects.end()) {
+        return fail(core::BadApiCallError, "Data::activeProject: no such project");
     }
-    active_ = *found;
+    state_.active = *found;
     return true;
 }
 
-Ptr<DataProjectObject> DataObject::project(const std::string& name) const {
-    const auto found =
-        std::find_if(projects_.begin(), projects_.end(),
-                     [&name](const Ptr<DataProjectObject>& each) { return each->title() == name; });
-    return found == projects_.end() ? nullptr : *found;
+core::Ptr<DataProjectObject> DataObject::project(const std::string& name) const {
+    const auto found = std::find_if(
+        state_.projects.begin(), state_.projects.end(),
+        [&name](const core::Ptr<DataProjectObject>& each) { return each->state().name == name; });
+    return found == state_.projects.end() ? nullptr : *found;
 }
 
-void DataObject::close() {
-    for (const Ptr<DataProjectObject>& each : projects_) {
-        each->close();
+void DataObject::dispose() {
+    for (const core::Ptr<DataProjectObject>& each : state_.projects) {
+        each->dispose();
     }
-    projects_.clear();
-    active_ = nullptr;
+    state_.projects.clear();
+    state_.active = nullptr;
     invalidate();
 }
 

@@ -13,10 +13,6 @@
 namespace host {
 
 namespace fs = std::filesystem;
-using adsk::core::DataFile;
-using adsk::core::DataFileFuture;
-using adsk::core::Ptr;
-using adsk::core::UploadStates;
 
 namespace {
 
@@ -41,7 +37,8 @@ void copyWhole(const fs::path& source, const fs::path& target) {
 }
 
 /// What happens to an upload when its time has come.
-std::function<void()> endOf(const Ptr<UploadObject>& upload, const std::string& filename) {
+std::function<void()> endOf(const core::Ptr<DataFileFutureObject>& upload,
+                            const std::string& filename) {
     if (storagePace().uploadFails) {
         return [upload] { upload->fail("the storage does not take the file"); };
     }
@@ -56,17 +53,7 @@ std::function<void()> endOf(const Ptr<UploadObject>& upload, const std::string& 
 
 }  // namespace
 
-UploadStates UploadObject::uploadState() const {
-    if (closed<"DataFileFuture::uploadState">(*this)) return {};
-    return state_;
-}
-
-Ptr<DataFile> UploadObject::dataFile() const {
-    if (closed<"DataFileFuture::dataFile">(*this)) return {};
-    return file_;
-}
-
-void UploadObject::arrive(const fs::path& source, const fs::path& name) {
+void DataFileFutureObject::arrive(const fs::path& source, const fs::path& name) {
     try {
         if (!folder_->isValid()) {
             fail("its folder is gone");
@@ -80,20 +67,21 @@ void UploadObject::arrive(const fs::path& source, const fs::path& name) {
         return;
     }
     if (file_) {
-        file_->convertedAt(clock::now() + storagePace().conversionSeconds);
-        state_ = adsk::core::UploadFinished;
+        file_->setConvertedAt(clock::now() + storagePace().conversionSeconds);
+        state_ = core::UploadFinished;
     } else {
         fail("a name that begins with a dot is skipped");
     }
 }
 
-void UploadObject::fail(const std::string& why) {
-    host::fail(adsk::core::OperationFailed, "DataFolder::uploadFile: " + why);
-    state_ = adsk::core::UploadFailed;
+void DataFileFutureObject::fail(const std::string& why) {
+    host::fail(core::OperationFailed, "DataFolder::uploadFile: " + why);
+    state_ = core::UploadFailed;
 }
 
-Ptr<DataFileFuture> beginUpload(const Ptr<DataFolderObject>& folder, const std::string& filename) {
-    Ptr<UploadObject> upload = make<UploadObject>(folder);
+core::Ptr<core::DataFileFuture> beginUpload(const core::Ptr<DataFolderObject>& folder,
+                                            const std::string& filename) {
+    core::Ptr<DataFileFutureObject> upload = make<DataFileFutureObject>(folder);
     clock::schedule(clock::now() + storagePace().uploadSeconds, endOf(upload, filename));
     return upload;
 }

@@ -14,12 +14,16 @@ namespace host {
 /// A file on its way into a folder of the user's data.
 ///
 /// It arrives when its time has come, whether or not a module still holds it.
-class UploadObject final : public Object<adsk::core::DataFileFuture> {
+class DataFileFutureObject final : public Object<core::DataFileFuture> {
 public:
-    explicit UploadObject(const adsk::core::Ptr<DataFolderObject>& folder) : folder_(folder) {}
+    explicit DataFileFutureObject(const core::Ptr<DataFolderObject>& folder) : folder_(folder) {}
 
-    [[nodiscard]] adsk::core::UploadStates uploadState() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFile> dataFile() const override;
+    [[nodiscard]] core::UploadStates uploadState() const override {
+        return get<"DataFileFuture::uploadState">(state_);
+    }
+    [[nodiscard]] core::Ptr<core::DataFile> dataFile() const override {
+        return get<"DataFileFuture::dataFile">(file_);
+    }
 
     /// @name For the host itself
     /// @{
@@ -30,13 +34,13 @@ public:
     /// @}
 
 private:
-    adsk::core::Ptr<DataFolderObject> folder_;
-    adsk::core::Ptr<DataFileObject> file_;
-    adsk::core::UploadStates state_ = adsk::core::UploadProcessing;
+    core::Ptr<DataFolderObject> folder_;
+    core::Ptr<DataFileObject> file_;
+    core::UploadStates state_ = core::UploadProcessing;
 };
 
 /// Begins to upload a file of the local disk, which is found as `foundFile` finds it.
-adsk::core::Ptr<adsk::core::DataFileFuture> beginUpload(
-    const adsk::core::Ptr<DataFolderObject>& folder, const std::string& filename);
+core::Ptr<core::DataFileFuture> beginUpload(const core::Ptr<DataFolderObject>& folder,
+                                            const std::string& filename);
 
 }  // namespace host

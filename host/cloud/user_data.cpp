@@ -13,14 +13,10 @@
 namespace host {
 
 namespace fs = std::filesystem;
-using adsk::core::Data;
-using adsk::core::DataFile;
-using adsk::core::Document;
-using adsk::core::Ptr;
 
 namespace {
 
-std::vector<Ptr<DataProjectObject>> projectsIn(const fs::path& folder) {
+std::vector<core::Ptr<DataProjectObject>> projectsIn(const fs::path& folder) {
     std::vector<fs::path> paths;
     for (const fs::directory_entry& each : fs::directory_iterator(folder)) {
         const bool isHidden = toUtf8(each.path().filename()).starts_with(".");
@@ -29,7 +25,7 @@ std::vector<Ptr<DataProjectObject>> projectsIn(const fs::path& folder) {
         }
     }
     std::sort(paths.begin(), paths.end());
-    std::vector<Ptr<DataProjectObject>> projects;
+    std::vector<core::Ptr<DataProjectObject>> projects;
     for (const fs::path& each : paths) {
         projects.push_back(make<DataProjectObject>(each));
     }
@@ -45,9 +41,9 @@ std::vector<fs::path> partsBelow(const fs::path& folder, const fs::path& path) {
 }
 
 /// A document that the host cannot place before the folder was listed waits for that.
-void tieReference(const Ptr<Document>& document, const Ptr<DataFileObject>& file,
+void tieReference(const core::Ptr<core::Document>& document, const core::Ptr<DataFileObject>& file,
                   ReferencedFiles references) {
-    if (references == ReferencedFiles::KnownAtOnce || file->folder()->isListed()) {
+    if (references == ReferencedFiles::KnownAtOnce || file->state().folder->isListed()) {
         setDataFile(document, file);
     } else {
         file->await(document);
@@ -65,7 +61,7 @@ UserData::UserData(UserDataSetup setup) : setup_(std::move(setup)) {
     setup_.folder = folder;
     data_ = make<DataObject>(projectsIn(setup_.folder));
     if (!setup_.activeProject.empty()) {
-        const Ptr<DataProjectObject> project = data_->project(setup_.activeProject);
+        const core::Ptr<DataProjectObject> project = data_->project(setup_.activeProject);
         if (!project) {
             throw std::invalid_argument("no project is called " + setup_.activeProject);
         }
@@ -75,13 +71,13 @@ UserData::UserData(UserDataSetup setup) : setup_(std::move(setup)) {
 
 UserData::~UserData() {
     if (data_) {
-        data_->close();
+        data_->dispose();
     }
 }
 
-Ptr<Data> UserData::api() const { return data_; }
+core::Ptr<core::Data> UserData::api() const { return data_; }
 
-Ptr<DataFile> UserData::fileAt(const fs::path& path) const {
+core::Ptr<core::DataFile> UserData::fileAt(const fs::path& path) const {
     std::error_code error;
     const std::vector<fs::path> parts =
         partsBelow(setup_.folder, fs::weakly_canonical(path, error));
@@ -89,8 +85,8 @@ Ptr<DataFile> UserData::fileAt(const fs::path& path) const {
     if (error || parts.size() < kProjectAndFile) {
         return nullptr;
     }
-    const Ptr<DataProjectObject> project = data_->project(toUtf8(parts.front()));
-    Ptr<DataFolderObject> folder(project ? &project->root() : nullptr);
+    const core::Ptr<DataProjectObject> project = data_->project(toUtf8(parts.front()));
+    core::Ptr<DataFolderObject> folder = project ? project->state().root : nullptr;
     for (std::size_t i = 1; folder && i + 1 < parts.size(); ++i) {
         folder->refresh();
         folder = folder->folder(parts[i]);
@@ -102,16 +98,16 @@ Ptr<DataFile> UserData::fileAt(const fs::path& path) const {
     return folder->file(parts.back());
 }
 
-void UserData::tie(const Ptr<Document>& document, const fs::path& path) const {
-    const Ptr<DataFile> own = fileAt(path);
+void UserData::tie(const core::Ptr<core::Document>& document, const fs::path& path) const {
+    const core::Ptr<core::DataFile> own = fileAt(path);
     if (!own) {
         return;
     }
     setDataFile(document, own);
-    for (const Ptr<Document>& each : referencesOf(document)) {
-        const Ptr<DataProjectObject>& project = data_->active();
-        const Ptr<DataFileObject> file =
-            project ? project->root().findByName(each->name()) : nullptr;
+    for (const core::Ptr<core::Document>& each : referencesOf(document)) {
+        const core::Ptr<DataProjectObject>& project = data_->state().active;
+        const core::Ptr<DataFileObject> file =
+            project ? project->state().root->findByName(each->name()) : nullptr;
         if (file) {
             tieReference(each, file, setup_.references);
         }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/api_names.h"
+
 #include <Core/Data.h>
 #include <Core/Document.h>
 
@@ -39,21 +41,19 @@ public:
     ~UserData();
 
     /// What the public API shows of it.
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Data> api() const;
+    [[nodiscard]] core::Ptr<core::Data> api() const;
 
     /// The data file of a file on the disk, null for one that lies in no project.
-    [[nodiscard]] adsk::core::Ptr<adsk::core::DataFile> fileAt(
-        const std::filesystem::path& path) const;
+    [[nodiscard]] core::Ptr<core::DataFile> fileAt(const std::filesystem::path& path) const;
 
     /// Ties a document that was opened from or saved to a file on the disk to its data file, and
     /// the documents that it refers to to the files of their names: the first in the active
     /// project, folders in front of files, else none. Nothing happens for a file in no project.
-    void tie(const adsk::core::Ptr<adsk::core::Document>& document,
-             const std::filesystem::path& path) const;
+    void tie(const core::Ptr<core::Document>& document, const std::filesystem::path& path) const;
 
 private:
     UserDataSetup setup_;
-    adsk::core::Ptr<DataObject> data_;
+    core::Ptr<DataObject> data_;
 };
 
 }  // namespace host

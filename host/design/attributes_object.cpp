@@ -6,10 +6,6 @@
 #include <unordered_set>
 #include <utility>
 
-using adsk::core::Attribute;
-using adsk::core::Base;
-using adsk::core::Ptr;
-
 namespace host {
 namespace {
 
@@ -22,28 +18,13 @@ std::string keyOf(const std::string& group, const std::string& name) {
 
 bool fits(const std::string& value) {
     return value.size() <= kLongestValue ||
-           fail(adsk::core::BadApiCallError, "the value of an attribute has at most 2 MB");
+           fail(core::BadApiCallError, "the value of an attribute has at most 2 MB");
 }
 
 }  // namespace
 
 AttributeObject::AttributeObject(AttributesObject& owner, AttributeData data)
     : owner_(&owner), data_(std::move(data)) {}
-
-std::string AttributeObject::groupName() const {
-    if (closed<"Attribute::groupName">(*this)) return {};
-    return data_.group;
-}
-
-std::string AttributeObject::name() const {
-    if (closed<"Attribute::name">(*this)) return {};
-    return data_.name;
-}
-
-std::string AttributeObject::value() const {
-    if (closed<"Attribute::value">(*this)) return {};
-    return data_.value;
-}
 
 bool AttributeObject::value(const std::string& value) {
     if (closed<"Attribute::value">(*this)) return {};
@@ -59,7 +40,7 @@ bool AttributeObject::setValue(const std::string& value) {
     return true;
 }
 
-Ptr<Base> AttributeObject::parent() const {
+core::Ptr<core::Base> AttributeObject::parent() const {
     if (closed<"Attribute::parent">(*this)) return {};
     return owner_->parentObject();
 }
@@ -70,12 +51,13 @@ bool AttributeObject::deleteMe() {
     return true;
 }
 
-void AttributeObject::end() {
+void AttributeObject::dispose() {
     owner_ = nullptr;
     invalidate();
 }
 
-AttributesObject::AttributesObject(Base& parent, Edits& edits, std::vector<AttributeData> data)
+AttributesObject::AttributesObject(core::Base& parent, Edits& edits,
+                                   std::vector<AttributeData> data)
     : parent_(&parent), edits_(&edits) {
     items_.reserve(data.size());
     for (AttributeData& each : data) {
@@ -89,23 +71,24 @@ std::size_t AttributesObject::count() const {
     return items_.size();
 }
 
-Ptr<Attribute> AttributesObject::item(std::size_t index) const {
+core::Ptr<core::Attribute> AttributesObject::item(std::size_t index) const {
     if (closed<"Attributes::item">(*this) || index >= items_.size()) return {};
     return items_[index];
 }
 
-Ptr<Attribute> AttributesObject::itemByName(const std::string& groupName,
-                                            const std::string& name) const {
+core::Ptr<core::Attribute> AttributesObject::itemByName(const std::string& groupName,
+                                                        const std::string& name) const {
     if (closed<"Attributes::itemByName">(*this)) return {};
     return find(groupName, name);
 }
 
-std::vector<Ptr<Attribute>> AttributesObject::itemsByGroup(const std::string& groupName) const {
+std::vector<core::Ptr<core::Attribute>> AttributesObject::itemsByGroup(
+    const std::string& groupName) const {
     if (closed<"Attributes::itemsByGroup">(*this)) return {};
-    std::vector<Ptr<Attribute>> found;
+    std::vector<core::Ptr<core::Attribute>> found;
     found.reserve(items_.size());
-    for (const Ptr<AttributeObject>& each : items_) {
-        if (each->data().group == groupName) {
+    for (const core::Ptr<AttributeObject>& each : items_) {
+        if (each->state().group == groupName) {
             found.emplace_back(each);
         }
     }
@@ -116,19 +99,20 @@ std::vector<std::string> AttributesObject::groupNames() const {
     if (closed<"Attributes::groupNames">(*this)) return {};
     std::vector<std::string> names;
     std::unordered_set<std::string_view> seen;
-    for (const Ptr<AttributeObject>& each : items_) {
-        if (seen.insert(each->data().group).second) {
-            names.push_back(each->data().group);
+    for (const core::Ptr<AttributeObject>& each : items_) {
+        if (seen.insert(each->state().group).second) {
+            names.push_back(each->state().group);
         }
     }
     return names;
 }
 
-Ptr<Attribute> AttributesObject::add(const std::string& groupName, const std::string& name,
-                                     const std::string& value) {
+core::Ptr<core::Attribute> AttributesObject::add(const std::string& groupName,
+                                                 const std::string& name,
+                                                 const std::string& value) {
     if (closed<"Attributes::add">(*this)) return {};
     if (groupName.empty() || name.empty()) {
-        fail(adsk::core::BadApiCallError, "an attribute needs a group and a name");
+        fail(core::BadApiCallError, "an attribute needs a group and a name");
         return {};
     }
     if (AttributeObject* present = find(groupName, name)) {
@@ -143,26 +127,26 @@ Ptr<Attribute> AttributesObject::add(const std::string& groupName, const std::st
     return items_.back();
 }
 
-std::vector<AttributeData> AttributesObject::data() const {
+std::vector<AttributeData> AttributesObject::snapshot() const {
     std::vector<AttributeData> all;
     all.reserve(items_.size());
-    for (const Ptr<AttributeObject>& each : items_) {
-        all.push_back(each->data());
+    for (const core::Ptr<AttributeObject>& each : items_) {
+        all.push_back(each->state());
     }
     return all;
 }
 
 void AttributesObject::take(AttributeObject& attribute) {
-    const Ptr<AttributeObject> kept(&attribute);
-    byName_.erase(keyOf(attribute.data().group, attribute.data().name));
+    const core::Ptr<AttributeObject> kept(&attribute);
+    byName_.erase(keyOf(attribute.state().group, attribute.state().name));
     std::erase(items_, kept);
-    attribute.end();
+    attribute.dispose();
     countEdit();
 }
 
-void AttributesObject::end() {
-    for (const Ptr<AttributeObject>& each : items_) {
-        each->end();
+void AttributesObject::dispose() {
+    for (const core::Ptr<AttributeObject>& each : items_) {
+        each->dispose();
     }
     items_.clear();
     byName_.clear();
@@ -174,8 +158,8 @@ AttributeObject* AttributesObject::find(const std::string& group, const std::str
         const auto found = byName_.find(keyOf(group, name));
         return found == byName_.end() ? nullptr : found->second;
     }
-    for (const Ptr<AttributeObject>& each : items_) {
-        if (each->data().group == group && each->data().name == name) {
+    for (const core::Ptr<AttributeObject>& each : items_) {
+        if (each->state().group == group && each->state().name == name) {
             return each.get();
         }
     }
@@ -187,11 +171,11 @@ void AttributesObject::index(AttributeObject& attribute) {
         return;
     }
     if (byName_.empty()) {
-        for (const Ptr<AttributeObject>& each : items_) {
-            byName_[keyOf(each->data().group, each->data().name)] = each.get();
+        for (const core::Ptr<AttributeObject>& each : items_) {
+            byName_[keyOf(each->state().group, each->state().name)] = each.get();
         }
     }
-    byName_[keyOf(attribute.data().group, attribute.data().name)] = &attribute;
+    byName_[keyOf(attribute.state().group, attribute.state().name)] = &attribute;
 }
 
 }  // namespace host

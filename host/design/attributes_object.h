@@ -16,24 +16,28 @@ namespace host {
 class AttributesObject;
 
 /// One attribute; it belongs to its collection, and outlives it as an object that is not valid.
-class AttributeObject final : public Object<adsk::core::Attribute> {
+class AttributeObject final : public Object<core::Attribute> {
 public:
     AttributeObject(AttributesObject& owner, AttributeData data);
 
-    [[nodiscard]] std::string groupName() const override;
-    [[nodiscard]] std::string name() const override;
-    [[nodiscard]] std::string value() const override;
+    [[nodiscard]] std::string groupName() const override {
+        return get<"Attribute::groupName">(data_.group);
+    }
+    [[nodiscard]] std::string name() const override { return get<"Attribute::name">(data_.name); }
+    [[nodiscard]] std::string value() const override {
+        return get<"Attribute::value">(data_.value);
+    }
     bool value(const std::string& value) override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Base> parent() const override;
+    [[nodiscard]] core::Ptr<core::Base> parent() const override;
     bool deleteMe() override;
 
-    [[nodiscard]] const AttributeData& data() const { return data_; }
+    [[nodiscard]] const AttributeData& state() const { return data_; }
 
     /// Sets the value as the API does; false for one that is too long.
     bool setValue(const std::string& value);
 
     /// Cuts it off from its collection.
-    void end();
+    void dispose();
 
 private:
     AttributesObject* owner_;
@@ -41,37 +45,36 @@ private:
 };
 
 /// The attributes of a component or of a design.
-class AttributesObject final : public Object<adsk::core::Attributes> {
+class AttributesObject final : public Object<core::Attributes> {
 public:
     /// `parent` is what they stand on, and `edits` counts the changes; both outlive it or end it.
-    AttributesObject(adsk::core::Base& parent, Edits& edits, std::vector<AttributeData> data);
+    AttributesObject(core::Base& parent, Edits& edits, std::vector<AttributeData> data);
 
     [[nodiscard]] std::size_t count() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Attribute> item(std::size_t index) const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Attribute> itemByName(
-        const std::string& groupName, const std::string& name) const override;
-    [[nodiscard]] std::vector<adsk::core::Ptr<adsk::core::Attribute>> itemsByGroup(
+    [[nodiscard]] core::Ptr<core::Attribute> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::Attribute> itemByName(const std::string& groupName,
+                                                        const std::string& name) const override;
+    [[nodiscard]] std::vector<core::Ptr<core::Attribute>> itemsByGroup(
         const std::string& groupName) const override;
     [[nodiscard]] std::vector<std::string> groupNames() const override;
-    adsk::core::Ptr<adsk::core::Attribute> add(const std::string& groupName,
-                                               const std::string& name,
-                                               const std::string& value) override;
+    core::Ptr<core::Attribute> add(const std::string& groupName, const std::string& name,
+                                   const std::string& value) override;
 
-    [[nodiscard]] std::vector<AttributeData> data() const;
-    [[nodiscard]] adsk::core::Base* parentObject() const { return parent_; }
+    [[nodiscard]] std::vector<AttributeData> snapshot() const;
+    [[nodiscard]] core::Base* parentObject() const { return parent_; }
     void countEdit() { ++edits_->all; }
     void take(AttributeObject& attribute);
 
     /// Ends the collection and all attributes: what is still held of them is not valid any more.
-    void end();
+    void dispose();
 
 private:
     [[nodiscard]] AttributeObject* find(const std::string& group, const std::string& name) const;
     void index(AttributeObject& attribute);
 
-    adsk::core::Base* parent_;
+    core::Base* parent_;
     Edits* edits_;
-    std::vector<adsk::core::Ptr<AttributeObject>> items_;
+    std::vector<core::Ptr<AttributeObject>> items_;
     /// Found by group and name; filled once there are too many to be looked through.
     std::unordered_map<std::string, AttributeObject*> byName_;
 };

@@ -10,18 +10,6 @@
 
 #include <utility>
 
-using adsk::core::Attributes;
-using adsk::core::BoundingBox3D;
-using adsk::core::Material;
-using adsk::core::Matrix3D;
-using adsk::core::Ptr;
-using adsk::fusion::CalculationAccuracy;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
-using adsk::fusion::Occurrences;
-using adsk::fusion::PhysicalProperties;
-using adsk::fusion::Sketch;
-
 namespace host {
 
 ComponentObject::ComponentObject(Model& model, std::size_t index, ComponentData data)
@@ -31,19 +19,14 @@ ComponentObject::ComponentObject(Model& model, std::size_t index, ComponentData 
     }
 }
 
-std::string ComponentObject::name() const {
-    if (closed<"Component::name">(*this)) return {};
-    return data_.name;
-}
-
 bool ComponentObject::name(const std::string& value) {
     if (closed<"Component::name">(*this)) return {};
     if (isRoot()) {
-        return fail(adsk::core::OperationFailed,
+        return fail(core::OperationFailed,
                     "the root component is called like its document and cannot be named");
     }
     if (value.empty()) {
-        return fail(adsk::core::BadApiCallError, "a component needs a name");
+        return fail(core::BadApiCallError, "a component needs a name");
     }
     if (value != data_.name) {
         // The name it gives up is free for itself: asked for "Bolt", a "Bolt (1)" may stay.
@@ -58,22 +41,12 @@ void ComponentObject::rename(const std::string& name) {
     ++model_->edits.all;
 }
 
-std::string ComponentObject::partNumber() const {
-    if (closed<"Component::partNumber">(*this)) return {};
-    return data_.partNumber;
-}
-
 bool ComponentObject::partNumber(const std::string& value) {
     if (closed<"Component::partNumber">(*this)) return {};
     data_.partNumber = value;
     data_.hasExplicitPartNumber = true;
     ++model_->edits.all;
     return true;
-}
-
-std::string ComponentObject::description() const {
-    if (closed<"Component::description">(*this)) return {};
-    return data_.description;
 }
 
 bool ComponentObject::description(const std::string& value) {
@@ -83,7 +56,7 @@ bool ComponentObject::description(const std::string& value) {
     return true;
 }
 
-Ptr<Attributes> ComponentObject::attributes() const {
+core::Ptr<core::Attributes> ComponentObject::attributes() const {
     if (closed<"Component::attributes">(*this)) return {};
     if (!attributes_) {
         attributes_ = make<AttributesObject>(self(), model_->edits,
@@ -92,7 +65,7 @@ Ptr<Attributes> ComponentObject::attributes() const {
     return attributes_;
 }
 
-Ptr<Occurrences> ComponentObject::occurrences() const {
+core::Ptr<fusion::Occurrences> ComponentObject::occurrences() const {
     if (closed<"Component::occurrences">(*this)) return {};
     if (!occurrences_) {
         occurrences_ = make<OccurrencesObject>(self());
@@ -100,52 +73,47 @@ Ptr<Occurrences> ComponentObject::occurrences() const {
     return occurrences_;
 }
 
-Ptr<Design> ComponentObject::parentDesign() const {
-    if (closed<"Component::parentDesign">(*this)) return {};
-    return design_;
+core::Ptr<fusion::Design> ComponentObject::parentDesign() const {
+    return get<"Component::parentDesign">(design_);
 }
 
-Ptr<PhysicalProperties> ComponentObject::getPhysicalProperties(
-    CalculationAccuracy /*accuracy*/) const {
+core::Ptr<fusion::PhysicalProperties> ComponentObject::getPhysicalProperties(
+    fusion::CalculationAccuracy /*accuracy*/) const {
     if (closed<"Component::getPhysicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(self()));
 }
 
-Ptr<PhysicalProperties> ComponentObject::physicalProperties() const {
+core::Ptr<fusion::PhysicalProperties> ComponentObject::physicalProperties() const {
     if (closed<"Component::physicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(self()));
 }
 
-Ptr<BoundingBox3D> ComponentObject::boundingBox() const {
+core::Ptr<core::BoundingBox3D> ComponentObject::boundingBox() const {
     if (closed<"Component::boundingBox">(*this)) return {};
     return makeBoundingBox(boxOf(self()).value_or(Box()));
 }
 
-Ptr<Material> ComponentObject::material() const {
-    if (closed<"Component::material">(*this)) return {};
-    return material_;
-}
-
-bool ComponentObject::material(const Ptr<Material>& value) {
+bool ComponentObject::material(const core::Ptr<core::Material>& value) {
     if (closed<"Component::material">(*this)) return {};
     auto* material = dynamic_cast<MaterialObject*>(value.get());
     if (material == nullptr) {
-        return fail(adsk::core::BadApiCallError, "a material is needed");
+        return fail(core::BadApiCallError, "a material is needed");
     }
     // A material of another document comes along as one of this document's own.
     const bool ours = model_->materials.holds(*material);
-    material_ = ours ? Ptr<MaterialObject>(material) : model_->materials.like(material->data());
+    material_ =
+        ours ? core::Ptr<MaterialObject>(material) : model_->materials.like(material->state());
     ++model_->edits.all;
     ++model_->edits.materials;
     return true;
 }
 
-bool ComponentObject::transformOccurrences(const std::vector<Ptr<Occurrence>>& occurrences,
-                                           const std::vector<Ptr<Matrix3D>>& transforms,
-                                           bool /*ignoreJoints*/) {
+bool ComponentObject::transformOccurrences(
+    const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,
+    const std::vector<core::Ptr<core::Matrix3D>>& transforms, bool /*ignoreJoints*/) {
     if (closed<"Component::transformOccurrences">(*this)) return {};
     if (!isRoot()) {
-        return fail(adsk::core::BadApiCallError, "only the root component places occurrences");
+        return fail(core::BadApiCallError, "only the root component places occurrences");
     }
     if (!placeOccurrences(*this, occurrences, transforms)) {
         return false;
@@ -157,13 +125,13 @@ bool ComponentObject::transformOccurrences(const std::vector<Ptr<Occurrence>>& o
 
 ComponentData ComponentObject::snapshot() const {
     ComponentData data = data_;
-    data.material = material_ ? std::optional(material_->data()) : std::nullopt;
+    data.material = material_ ? std::optional(material_->state()) : std::nullopt;
     if (attributes_) {
-        data.attributes = attributes_->data();
+        data.attributes = attributes_->snapshot();
     }
     for (std::size_t index = 0; index < sketches_.size(); ++index) {
         if (sketches_[index]) {
-            data.sketches[index] = sketches_[index]->data();
+            data.sketches[index] = sketches_[index]->snapshot();
         }
     }
     return data;
@@ -180,7 +148,7 @@ MeasureCache& ComponentObject::measureCache() {
     return *measureCache_;
 }
 
-Ptr<Sketch> ComponentObject::sketch(std::size_t index) {
+core::Ptr<fusion::Sketch> ComponentObject::sketch(std::size_t index) {
     if (index >= data_.sketches.size()) {
         return {};
     }
@@ -191,16 +159,16 @@ Ptr<Sketch> ComponentObject::sketch(std::size_t index) {
     return sketches_[index];
 }
 
-void ComponentObject::end() {
+void ComponentObject::dispose() {
     if (attributes_) {
-        attributes_->end();
+        attributes_->dispose();
     }
     if (occurrences_) {
-        occurrences_->end();
+        occurrences_->dispose();
     }
-    for (const Ptr<SketchObject>& each : sketches_) {
+    for (const core::Ptr<SketchObject>& each : sketches_) {
         if (each) {
-            each->end();
+            each->dispose();
         }
     }
     data_ = {};

@@ -22,33 +22,37 @@ class DesignObject;
 class Model;
 
 /// A component of a document.
-class ComponentObject final : public Object<adsk::fusion::Component> {
+class ComponentObject final : public Object<fusion::Component> {
 public:
     ComponentObject(Model& model, std::size_t index, ComponentData data);
 
-    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] std::string name() const override { return get<"Component::name">(data_.name); }
     bool name(const std::string& value) override;
-    [[nodiscard]] std::string partNumber() const override;
+    [[nodiscard]] std::string partNumber() const override {
+        return get<"Component::partNumber">(data_.partNumber);
+    }
     bool partNumber(const std::string& value) override;
-    [[nodiscard]] std::string description() const override;
+    [[nodiscard]] std::string description() const override {
+        return get<"Component::description">(data_.description);
+    }
     bool description(const std::string& value) override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Attributes> attributes() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrences> occurrences() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Design> parentDesign() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::PhysicalProperties> getPhysicalProperties(
-        adsk::fusion::CalculationAccuracy accuracy) const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::PhysicalProperties> physicalProperties()
-        const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::BoundingBox3D> boundingBox() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::core::Material> material() const override;
-    bool material(const adsk::core::Ptr<adsk::core::Material>& value) override;
-    bool transformOccurrences(
-        const std::vector<adsk::core::Ptr<adsk::fusion::Occurrence>>& occurrences,
-        const std::vector<adsk::core::Ptr<adsk::core::Matrix3D>>& transforms,
-        bool ignoreJoints) override;
+    [[nodiscard]] core::Ptr<core::Attributes> attributes() const override;
+    [[nodiscard]] core::Ptr<fusion::Occurrences> occurrences() const override;
+    [[nodiscard]] core::Ptr<fusion::Design> parentDesign() const override;
+    [[nodiscard]] core::Ptr<fusion::PhysicalProperties> getPhysicalProperties(
+        fusion::CalculationAccuracy accuracy) const override;
+    [[nodiscard]] core::Ptr<fusion::PhysicalProperties> physicalProperties() const override;
+    [[nodiscard]] core::Ptr<core::BoundingBox3D> boundingBox() const override;
+    [[nodiscard]] core::Ptr<core::Material> material() const override {
+        return get<"Component::material">(material_);
+    }
+    bool material(const core::Ptr<core::Material>& value) override;
+    bool transformOccurrences(const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,
+                              const std::vector<core::Ptr<core::Matrix3D>>& transforms,
+                              bool ignoreJoints) override;
 
     /// Its data; attributes, material and sketches are current in `snapshot` only.
-    [[nodiscard]] const ComponentData& data() const { return data_; }
+    [[nodiscard]] const ComponentData& state() const { return data_; }
     [[nodiscard]] ComponentData snapshot() const;
 
     [[nodiscard]] Model& model() const { return *model_; }
@@ -56,18 +60,18 @@ public:
     OccurrenceData& place(std::size_t index) { return data_.children[index]; }
 
     /// The density of what it is made of, in kg/cm3; 0 where nothing is told.
-    [[nodiscard]] double density() const { return material_ ? material_->data().density : 0; }
+    [[nodiscard]] double density() const { return material_ ? material_->state().density : 0; }
 
     MeasureCache& measureCache();
 
     /// One of its sketches, null outside their list.
-    adsk::core::Ptr<adsk::fusion::Sketch> sketch(std::size_t index);
+    core::Ptr<fusion::Sketch> sketch(std::size_t index);
 
     /// Takes a name that is free; what follows it goes along.
     void rename(const std::string& name);
 
     void setDesign(DesignObject& design) { design_ = &design; }
-    void end();
+    void dispose();
 
 private:
     [[nodiscard]] bool isRoot() const { return index_ == 0; }
@@ -79,11 +83,11 @@ private:
     DesignObject* design_ = nullptr;
     std::size_t index_;
     ComponentData data_;
-    adsk::core::Ptr<MaterialObject> material_;
+    core::Ptr<MaterialObject> material_;
     std::unique_ptr<MeasureCache> measureCache_;
-    mutable adsk::core::Ptr<AttributesObject> attributes_;
-    mutable adsk::core::Ptr<OccurrencesObject> occurrences_;
-    std::vector<adsk::core::Ptr<SketchObject>> sketches_;
+    mutable core::Ptr<AttributesObject> attributes_;
+    mutable core::Ptr<OccurrencesObject> occurrences_;
+    std::vector<core::Ptr<SketchObject>> sketches_;
 };
 
 }  // namespace host

@@ -1,30 +1,22 @@
 #include "host/design/document.h"
 
 #include "host/design/design_check.h"
-#include "host/design/document_object.h"
+#include "host/design/fusion_document_object.h"
 #include "host/design/naming.h"
 
 #include <utility>
-
-using adsk::core::Application;
-using adsk::core::DataFile;
-using adsk::core::Document;
-using adsk::core::Product;
-using adsk::core::Ptr;
-using adsk::fusion::Design;
-using adsk::fusion::Sketch;
 
 namespace host {
 namespace {
 
 /// The object behind a document, null for null and after its end.
-DocumentObject* objectOf(const Ptr<Document>& document) {
-    auto* object = dynamic_cast<DocumentObject*>(document.get());
+FusionDocumentObject* objectOf(const core::Ptr<core::Document>& document) {
+    auto* object = dynamic_cast<FusionDocumentObject*>(document.get());
     return object != nullptr && object->isValid() ? object : nullptr;
 }
 
-Model* modelOf(const Ptr<Document>& document) {
-    const DocumentObject* object = objectOf(document);
+Model* modelOf(const core::Ptr<core::Document>& document) {
+    const FusionDocumentObject* object = objectOf(document);
     return object != nullptr ? object->model() : nullptr;
 }
 
@@ -39,32 +31,34 @@ void nameRoot(DesignData& data) {
 
 }  // namespace
 
-Ptr<Document> makeDocument(DesignData data, const Ptr<Application>& parent) {
+core::Ptr<core::Document> makeDocument(DesignData data,
+                                       const core::Ptr<core::Application>& parent) {
     checkDesign(data);
     nameRoot(data);
     makeNamesUnique(data);
-    return make<DocumentObject>(std::move(data), parent);
+    return make<FusionDocumentObject>(std::move(data), parent);
 }
 
-Ptr<Design> designOf(const Ptr<Document>& document) {
-    const DocumentObject* object = objectOf(document);
-    return object != nullptr ? Ptr<Design>(object->design()) : nullptr;
+core::Ptr<fusion::Design> designOf(const core::Ptr<core::Document>& document) {
+    const FusionDocumentObject* object = objectOf(document);
+    return object != nullptr ? core::Ptr<fusion::Design>(object->design()) : nullptr;
 }
 
-Ptr<Product> otherProductOf(const Ptr<Document>& document) {
-    const DocumentObject* object = objectOf(document);
-    return object != nullptr ? Ptr<Product>(object->other()) : nullptr;
+core::Ptr<core::Product> otherProductOf(const core::Ptr<core::Document>& document) {
+    const FusionDocumentObject* object = objectOf(document);
+    return object != nullptr ? core::Ptr<core::Product>(object->other()) : nullptr;
 }
 
-std::vector<Ptr<Document>> referencesOf(const Ptr<Document>& document) {
-    std::vector<Ptr<Document>> found;
-    if (const DocumentObject* object = objectOf(document)) {
+std::vector<core::Ptr<core::Document>> referencesOf(const core::Ptr<core::Document>& document) {
+    std::vector<core::Ptr<core::Document>> found;
+    if (const FusionDocumentObject* object = objectOf(document)) {
         found.assign(object->references().begin(), object->references().end());
     }
     return found;
 }
 
-Ptr<Sketch> sketchOf(const Ptr<Document>& document, std::size_t component, std::size_t sketch) {
+core::Ptr<fusion::Sketch> sketchOf(const core::Ptr<core::Document>& document, std::size_t component,
+                                   std::size_t sketch) {
     const Model* model = modelOf(document);
     if (model == nullptr || component >= model->componentCount()) {
         return {};
@@ -72,31 +66,32 @@ Ptr<Sketch> sketchOf(const Ptr<Document>& document, std::size_t component, std::
     return model->component(component).sketch(sketch);
 }
 
-void setDataFile(const Ptr<Document>& document, const Ptr<DataFile>& dataFile) {
-    if (DocumentObject* object = objectOf(document)) {
+void setDataFile(const core::Ptr<core::Document>& document,
+                 const core::Ptr<core::DataFile>& dataFile) {
+    if (FusionDocumentObject* object = objectOf(document)) {
         object->setDataFile(dataFile);
     }
 }
 
-DesignData snapshot(const Ptr<Document>& document) {
-    const DocumentObject* object = objectOf(document);
+DesignData snapshot(const core::Ptr<core::Document>& document) {
+    const FusionDocumentObject* object = objectOf(document);
     return object != nullptr && object->model() != nullptr ? object->snapshot() : DesignData();
 }
 
-std::vector<Unmeasured> unmeasuredIn(const Ptr<Document>& document) {
+std::vector<Unmeasured> unmeasuredIn(const core::Ptr<core::Document>& document) {
     const Model* model = modelOf(document);
     return model != nullptr ? model->unmeasured : std::vector<Unmeasured>();
 }
 
-std::uint64_t editCount(const Ptr<Document>& document) {
+std::uint64_t editCount(const core::Ptr<core::Document>& document) {
     const Model* model = modelOf(document);
     return model != nullptr ? model->edits.all : 0;
 }
 
-void endDocument(const Ptr<Document>& document) {
+void endDocument(const core::Ptr<core::Document>& document) {
     // One that is only referred to ends with the document that refers to it.
     if (modelOf(document) != nullptr) {
-        objectOf(document)->end();
+        objectOf(document)->dispose();
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/base/api_names.h"
 #include "host/design/design_data.h"
 #include "host/design/unmeasured.h"
 
@@ -23,43 +24,39 @@ namespace host {
 ///
 /// The root component is called like the document, and components that share a name are told apart,
 /// as in `makeNamesUnique`. Throws `DesignError` where `checkDesign` does. Nothing is measured.
-adsk::core::Ptr<adsk::core::Document> makeDocument(
-    DesignData data, const adsk::core::Ptr<adsk::core::Application>& parent = nullptr);
+core::Ptr<core::Document> makeDocument(DesignData data,
+                                       const core::Ptr<core::Application>& parent = nullptr);
 
 /// The design of a document, null for null and after the end.
-adsk::core::Ptr<adsk::fusion::Design> designOf(
-    const adsk::core::Ptr<adsk::core::Document>& document);
+core::Ptr<fusion::Design> designOf(const core::Ptr<core::Document>& document);
 
 /// What a workspace that is not for modelling shows of it: a product that is no design. Null for
 /// null and after the end.
-adsk::core::Ptr<adsk::core::Product> otherProductOf(
-    const adsk::core::Ptr<adsk::core::Document>& document);
+core::Ptr<core::Product> otherProductOf(const core::Ptr<core::Document>& document);
 
 /// The documents that its referenced components come from, in the order in which they first stand
 /// among the components.
-std::vector<adsk::core::Ptr<adsk::core::Document>> referencesOf(
-    const adsk::core::Ptr<adsk::core::Document>& document);
+std::vector<core::Ptr<core::Document>> referencesOf(const core::Ptr<core::Document>& document);
 
 /// One sketch of a component, for a session that edits it; null where there is none. Components are
 /// counted as in `DesignData::components`.
-adsk::core::Ptr<adsk::fusion::Sketch> sketchOf(
-    const adsk::core::Ptr<adsk::core::Document>& document, std::size_t component,
-    std::size_t sketch);
+core::Ptr<fusion::Sketch> sketchOf(const core::Ptr<core::Document>& document, std::size_t component,
+                                   std::size_t sketch);
 
 /// Ties a document to its file in the user's data; from then on it counts as saved.
-void setDataFile(const adsk::core::Ptr<adsk::core::Document>& document,
-                 const adsk::core::Ptr<adsk::core::DataFile>& dataFile);
+void setDataFile(const core::Ptr<core::Document>& document,
+                 const core::Ptr<core::DataFile>& dataFile);
 
 /// The design with all that was done to it; empty for null and after the end.
-DesignData snapshot(const adsk::core::Ptr<adsk::core::Document>& document);
+DesignData snapshot(const core::Ptr<core::Document>& document);
 
 /// The components that could not be measured so far, since they were asked for.
-std::vector<Unmeasured> unmeasuredIn(const adsk::core::Ptr<adsk::core::Document>& document);
+std::vector<Unmeasured> unmeasuredIn(const core::Ptr<core::Document>& document);
 
 /// How often the design was changed since it was opened.
-std::uint64_t editCount(const adsk::core::Ptr<adsk::core::Document>& document);
+std::uint64_t editCount(const core::Ptr<core::Document>& document);
 
 /// Closes a document and those it refers to. Everything handed out of it becomes invalid.
-void endDocument(const adsk::core::Ptr<adsk::core::Document>& document);
+void endDocument(const core::Ptr<core::Document>& document);
 
 }  // namespace host

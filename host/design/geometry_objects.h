@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/base/api_names.h"
 #include "host/design/design_data.h"
 
 #include <Core/Geometry.h>
@@ -9,11 +10,11 @@
 /// The plain values of geometry, as the host hands them out.
 namespace host {
 
-adsk::core::Ptr<adsk::core::BoundingBox3D> makeBoundingBox(const Box& box);
+core::Ptr<core::BoundingBox3D> makeBoundingBox(const Box& box);
 
-adsk::core::Ptr<adsk::core::Matrix3D> makeMatrix(const Transform& transform);
+core::Ptr<core::Matrix3D> makeMatrix(const Transform& transform);
 
 /// What a matrix holds; none for null.
-std::optional<Transform> transformOf(const adsk::core::Ptr<adsk::core::Matrix3D>& matrix);
+std::optional<Transform> transformOf(const core::Ptr<core::Matrix3D>& matrix);
 
 }  // namespace host

@@ -2,14 +2,7 @@
 
 #include <algorithm>
 
-using adsk::core::Ptr;
-
 namespace host {
-
-std::string MaterialObject::name() const {
-    if (closed<"Material::name">(*this)) return {};
-    return data_.name;
-}
 
 bool MaterialObject::name(const std::string& value) {
     if (closed<"Material::name">(*this)) return {};
@@ -18,10 +11,10 @@ bool MaterialObject::name(const std::string& value) {
     return true;
 }
 
-Ptr<MaterialObject> Materials::like(const MaterialData& data) {
+core::Ptr<MaterialObject> Materials::like(const MaterialData& data) {
     const auto [begin, end] = made_.equal_range(Key(data.name, data.density));
     const auto found =
-        std::find_if(begin, end, [&](const auto& each) { return each.second->data() == data; });
+        std::find_if(begin, end, [&](const auto& each) { return each.second->state() == data; });
     if (found != end) {
         return found->second;
     }
@@ -35,9 +28,9 @@ bool Materials::holds(const MaterialObject& material) const {
                        [&](const auto& each) { return each.get() == &material; });
 }
 
-void Materials::end() {
-    for (const Ptr<MaterialObject>& each : all_) {
-        each->end();
+void Materials::dispose() {
+    for (const core::Ptr<MaterialObject>& each : all_) {
+        each->dispose();
     }
     all_.clear();
     made_.clear();

@@ -14,15 +14,15 @@
 namespace host {
 
 /// A material of a document.
-class MaterialObject final : public Object<adsk::core::Material> {
+class MaterialObject final : public Object<core::Material> {
 public:
     MaterialObject(Edits& edits, MaterialData data) : edits_(&edits), data_(std::move(data)) {}
 
-    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] std::string name() const override { return get<"Material::name">(data_.name); }
     bool name(const std::string& value) override;
 
-    [[nodiscard]] const MaterialData& data() const { return data_; }
-    void end() { invalidate(); }
+    [[nodiscard]] const MaterialData& state() const { return data_; }
+    void dispose() { invalidate(); }
 
 private:
     Edits* edits_;
@@ -35,18 +35,18 @@ public:
     explicit Materials(Edits& edits) : edits_(edits) {}
 
     /// The material that is like `data`, made if there is none.
-    adsk::core::Ptr<MaterialObject> like(const MaterialData& data);
+    core::Ptr<MaterialObject> like(const MaterialData& data);
 
     /// Whether it is one of these.
     [[nodiscard]] bool holds(const MaterialObject& material) const;
 
-    void end();
+    void dispose();
 
 private:
     using Key = std::pair<std::string, double>;
 
     Edits& edits_;
-    std::vector<adsk::core::Ptr<MaterialObject>> all_;
+    std::vector<core::Ptr<MaterialObject>> all_;
     /// By name and density as they were made; a material may have been renamed since.
     std::multimap<Key, MaterialObject*> made_;
 };

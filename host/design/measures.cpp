@@ -15,9 +15,9 @@ namespace host {
 namespace {
 
 void noteFailure(ComponentObject& component, const std::string& reason) {
-    fail(adsk::core::InvalidGeometryError, reason);
+    fail(core::InvalidGeometryError, reason);
     if (!std::exchange(component.measureCache().failed, true)) {
-        component.model().unmeasured.push_back({component.data().name, reason});
+        component.model().unmeasured.push_back({component.state().name, reason});
     }
 }
 
@@ -26,7 +26,7 @@ void noteFailure(ComponentObject& component, const std::string& reason) {
 template <class Result, class Ask>
 Result asked(ComponentObject& component, Ask ask) {
     try {
-        return ask(*component.data().geometry);
+        return ask(*component.state().geometry);
     } catch (const std::exception& error) {
         noteFailure(component, error.what());
         return {};
@@ -37,7 +37,7 @@ Measures ownMeasures(ComponentObject& component) {
     MeasureCache& cache = component.measureCache();
     if (!cache.own) {
         cache.own = Measures();
-        if (component.data().geometry) {
+        if (component.state().geometry) {
             cache.own = asked<Measures>(component, [](Geometry& geometry) {
                 return Measures{geometry.area(), geometry.volume(), 0};
             });
@@ -49,7 +49,7 @@ Measures ownMeasures(ComponentObject& component) {
 }
 
 std::optional<Box> measuredBox(ComponentObject& component, const Transform& placement) {
-    if (!component.data().geometry) {
+    if (!component.state().geometry) {
         return std::nullopt;
     }
     return asked<std::optional<Box>>(component,
@@ -72,7 +72,7 @@ std::optional<Box> placedBox(ComponentObject& component, const Transform& placem
         return box ? std::optional(placed(*box, placement)) : std::nullopt;
     }
     std::optional<Box> sum = measuredBox(component, placement);
-    for (const OccurrenceData& child : component.data().children) {
+    for (const OccurrenceData& child : component.state().children) {
         if (!child.absent) {
             include(sum, placedBox(component.childComponent(child), placement * child.transform));
         }
@@ -89,7 +89,7 @@ Measures measure(ComponentObject& component) {
         return *cache.total;
     }
     Measures total = ownMeasures(component);
-    for (const OccurrenceData& child : component.data().children) {
+    for (const OccurrenceData& child : component.state().children) {
         if (child.absent) {
             continue;
         }
@@ -108,7 +108,7 @@ std::optional<Box> boxOf(ComponentObject& component) {
     const std::uint64_t edits = component.model().edits.placements;
     if (!cache.boxKnown || cache.boxEdits != edits) {
         std::optional<Box> sum = ownBox(component);
-        for (const OccurrenceData& child : component.data().children) {
+        for (const OccurrenceData& child : component.state().children) {
             if (!child.absent) {
                 include(sum, placedBox(component.childComponent(child), child.transform));
             }

@@ -22,10 +22,10 @@ Model::Model(DesignData data) : emptyList_(make<OccurrenceListObject>(nullptr, n
 
 Model::~Model() {
     for (const auto& each : components_) {
-        each->end();
+        each->dispose();
     }
-    emptyList_->end();
-    materials.end();
+    emptyList_->dispose();
+    materials.dispose();
 }
 
 DesignData Model::snapshot() const {

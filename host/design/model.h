@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/base/api_names.h"
 #include "host/design/design_data.h"
 #include "host/design/edits.h"
 #include "host/design/material_object.h"
@@ -34,9 +35,7 @@ public:
     [[nodiscard]] std::size_t componentCount() const { return components_.size(); }
 
     /// What stands in a component without children; one list serves them all.
-    [[nodiscard]] const adsk::core::Ptr<OccurrenceListObject>& emptyList() const {
-        return emptyList_;
-    }
+    [[nodiscard]] const core::Ptr<OccurrenceListObject>& emptyList() const { return emptyList_; }
 
     /// The components and what is told of the design as a whole, as they stand now. The name and
     /// the attributes of the document are not the model's.
@@ -49,8 +48,8 @@ public:
 
 private:
     DesignData rest_;  ///< without components
-    std::vector<adsk::core::Ptr<ComponentObject>> components_;
-    adsk::core::Ptr<OccurrenceListObject> emptyList_;
+    std::vector<core::Ptr<ComponentObject>> components_;
+    core::Ptr<OccurrenceListObject> emptyList_;
 };
 
 }  // namespace host

@@ -10,12 +10,6 @@
 #include <string_view>
 #include <utility>
 
-using adsk::core::Ptr;
-using adsk::fusion::Component;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
-using adsk::fusion::PhysicalProperties;
-
 namespace host {
 namespace {
 
@@ -26,16 +20,15 @@ constexpr std::size_t kLongestNumber = 12;
 OccurrenceObject::OccurrenceObject(OccurrenceListObject& list, OccurrenceData& place)
     : component_(&list.owner()->childComponent(place)), place_(&place), list_(&list) {}
 
-Ptr<Component> OccurrenceObject::component() const {
-    if (closed<"Occurrence::component">(*this)) return {};
-    return component_;
+core::Ptr<fusion::Component> OccurrenceObject::component() const {
+    return get<"Occurrence::component">(component_);
 }
 
-Ptr<OccurrenceList> OccurrenceObject::childOccurrences() const {
+core::Ptr<fusion::OccurrenceList> OccurrenceObject::childOccurrences() const {
     if (closed<"Occurrence::childOccurrences">(*this)) return {};
     if (!children_) {
         children_ =
-            component_->data().children.empty()
+            component_->state().children.empty()
                 ? component_->model().emptyList()
                 : make<OccurrenceListObject>(component_, const_cast<OccurrenceObject*>(this));
     }
@@ -80,13 +73,13 @@ std::string OccurrenceObject::fullPathName() const {
 }
 
 std::size_t OccurrenceObject::nameLength() const {
-    return component_->data().name.size() + kLongestNumber;
+    return component_->state().name.size() + kLongestNumber;
 }
 
 void OccurrenceObject::appendName(std::string& text) const {
     std::array<char, kLongestNumber> digits = {};
     const auto end = std::to_chars(digits.begin(), digits.end(), place_->instance).ptr;
-    text += component_->data().name;
+    text += component_->state().name;
     text += ':';
     text.append(digits.data(), end);
 }
@@ -105,10 +98,10 @@ bool OccurrenceObject::isGrounded(bool value) {
 
 bool OccurrenceObject::isReferencedComponent() const {
     if (closed<"Occurrence::isReferencedComponent">(*this)) return {};
-    return component_->data().document != list_->owner()->data().document;
+    return component_->state().document != list_->owner()->state().document;
 }
 
-Ptr<PhysicalProperties> OccurrenceObject::physicalProperties() const {
+core::Ptr<fusion::PhysicalProperties> OccurrenceObject::physicalProperties() const {
     if (closed<"Occurrence::physicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(*component_));
 }
@@ -142,9 +135,9 @@ Transform OccurrenceObject::placement() const {
     return result;
 }
 
-void OccurrenceObject::end() {
+void OccurrenceObject::dispose() {
     if (children_) {
-        children_->end();
+        children_->dispose();
         children_ = nullptr;
     }
     component_ = nullptr;
@@ -156,23 +149,23 @@ void OccurrenceObject::end() {
 OccurrenceListObject::OccurrenceListObject(ComponentObject* owner, OccurrenceObject* parent)
     : owner_(owner),
       parent_(parent),
-      items_(owner == nullptr ? 0 : owner->data().children.size()) {}
+      items_(owner == nullptr ? 0 : owner->state().children.size()) {}
 
 std::size_t OccurrenceListObject::count() const {
     if (closed<"OccurrenceList::count">(*this)) return {};
     return items_.size();
 }
 
-Ptr<Occurrence> OccurrenceListObject::item(std::size_t index) const {
+core::Ptr<fusion::Occurrence> OccurrenceListObject::item(std::size_t index) const {
     if (closed<"OccurrenceList::item">(*this)) return {};
     return at(index);
 }
 
-Ptr<Occurrence> OccurrenceListObject::at(std::size_t index) const {
+core::Ptr<fusion::Occurrence> OccurrenceListObject::at(std::size_t index) const {
     if (index >= items_.size()) {
         return {};
     }
-    Ptr<OccurrenceObject>& item = items_[index];
+    core::Ptr<OccurrenceObject>& item = items_[index];
     OccurrenceData& place = owner_->place(index);
     if (!item && !place.absent) {
         item = make<OccurrenceObject>(const_cast<OccurrenceListObject&>(*this), place);
@@ -180,10 +173,10 @@ Ptr<Occurrence> OccurrenceListObject::at(std::size_t index) const {
     return item;
 }
 
-Ptr<Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
+core::Ptr<fusion::Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
     if (closed<"OccurrenceList::itemByName">(*this)) return {};
     for (std::size_t index = 0; index < items_.size(); ++index) {
-        Ptr<OccurrenceObject> each = at(index);
+        core::Ptr<OccurrenceObject> each = at(index);
         if (each && each->currentName() == name) {
             return each;
         }
@@ -191,10 +184,10 @@ Ptr<Occurrence> OccurrenceListObject::itemByName(const std::string& name) const 
     return {};
 }
 
-void OccurrenceListObject::end() {
-    for (const Ptr<OccurrenceObject>& each : items_) {
+void OccurrenceListObject::dispose() {
+    for (const core::Ptr<OccurrenceObject>& each : items_) {
         if (each) {
-            each->end();
+            each->dispose();
         }
     }
     items_.clear();
@@ -211,18 +204,13 @@ std::size_t OccurrencesObject::count() const {
     return list_->size();
 }
 
-Ptr<Occurrence> OccurrencesObject::item(std::size_t index) const {
+core::Ptr<fusion::Occurrence> OccurrencesObject::item(std::size_t index) const {
     if (closed<"Occurrences::item">(*this)) return {};
     return list_->at(index);
 }
 
-Ptr<OccurrenceList> OccurrencesObject::asList() const {
-    if (closed<"Occurrences::asList">(*this)) return {};
-    return list_;
-}
-
-void OccurrencesObject::end() {
-    list_->end();
+void OccurrencesObject::dispose() {
+    list_->dispose();
     invalidate();
 }
 

@@ -18,20 +18,19 @@ namespace host {
 class ComponentObject;
 class OccurrenceListObject;
 
-class OccurrenceObject final : public Object<adsk::fusion::Occurrence> {
+class OccurrenceObject final : public Object<fusion::Occurrence> {
 public:
     /// The occurrence that `list` has at `place`, a child of the list's owner.
     OccurrenceObject(OccurrenceListObject& list, OccurrenceData& place);
 
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Component> component() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::OccurrenceList> childOccurrences() const override;
+    [[nodiscard]] core::Ptr<fusion::Component> component() const override;
+    [[nodiscard]] core::Ptr<fusion::OccurrenceList> childOccurrences() const override;
     [[nodiscard]] std::string name() const override;
     [[nodiscard]] std::string fullPathName() const override;
     [[nodiscard]] bool isGrounded() const override;
     bool isGrounded(bool value) override;
     [[nodiscard]] bool isReferencedComponent() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::PhysicalProperties> physicalProperties()
-        const override;
+    [[nodiscard]] core::Ptr<fusion::PhysicalProperties> physicalProperties() const override;
 
     /// The assembly that this one stands in, null directly under the top.
     [[nodiscard]] OccurrenceObject* parent() const;
@@ -49,7 +48,7 @@ public:
     Transform& localPlacement() { return place_->transform; }
 
     [[nodiscard]] std::string currentName() const;
-    void end();
+    void dispose();
 
 private:
     [[nodiscard]] std::size_t nameLength() const;
@@ -58,46 +57,47 @@ private:
     ComponentObject* component_;
     OccurrenceData* place_;
     OccurrenceListObject* list_;
-    mutable adsk::core::Ptr<OccurrenceListObject> children_;
+    mutable core::Ptr<OccurrenceListObject> children_;
 };
 
 /// What stands in a component, seen from one top.
-class OccurrenceListObject final : public Object<adsk::fusion::OccurrenceList> {
+class OccurrenceListObject final : public Object<fusion::OccurrenceList> {
 public:
     /// The children of `owner`, inside `parent`; no parent: seen from the owner itself. Without an
     /// owner the list is empty.
     OccurrenceListObject(ComponentObject* owner, OccurrenceObject* parent);
 
     [[nodiscard]] std::size_t count() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> item(std::size_t index) const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> itemByName(
-        const std::string& name) const override;
+    [[nodiscard]] core::Ptr<fusion::Occurrence> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<fusion::Occurrence> itemByName(const std::string& name) const override;
 
     [[nodiscard]] std::size_t size() const { return items_.size(); }
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> at(std::size_t index) const;
+    [[nodiscard]] core::Ptr<fusion::Occurrence> at(std::size_t index) const;
     [[nodiscard]] ComponentObject* owner() const { return owner_; }
     [[nodiscard]] OccurrenceObject* parent() const { return parent_; }
-    void end();
+    void dispose();
 
 private:
     ComponentObject* owner_;
     OccurrenceObject* parent_;
-    mutable std::vector<adsk::core::Ptr<OccurrenceObject>> items_;
+    mutable std::vector<core::Ptr<OccurrenceObject>> items_;
 };
 
 /// The collection that a component has of what stands directly in it.
-class OccurrencesObject final : public Object<adsk::fusion::Occurrences> {
+class OccurrencesObject final : public Object<fusion::Occurrences> {
 public:
     explicit OccurrencesObject(ComponentObject& owner);
 
     [[nodiscard]] std::size_t count() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::Occurrence> item(std::size_t index) const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::OccurrenceList> asList() const override;
+    [[nodiscard]] core::Ptr<fusion::Occurrence> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<fusion::OccurrenceList> asList() const override {
+        return get<"Occurrences::asList">(list_);
+    }
 
-    void end();
+    void dispose();
 
 private:
-    adsk::core::Ptr<OccurrenceListObject> list_;
+    core::Ptr<OccurrenceListObject> list_;
 };
 
 }  // namespace host

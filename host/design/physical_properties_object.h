@@ -8,24 +8,21 @@
 namespace host {
 
 /// What was measured when it was asked for.
-class PhysicalPropertiesObject final : public Object<adsk::fusion::PhysicalProperties> {
+class PhysicalPropertiesObject final : public Object<fusion::PhysicalProperties> {
 public:
     explicit PhysicalPropertiesObject(const Measures& measures) : measures_(measures) {}
 
     [[nodiscard]] double area() const override {
-        return refused<"PhysicalProperties::area">() ? 0 : measures_.area;
+        return get<"PhysicalProperties::area">(measures_.area);
     }
-
     [[nodiscard]] double density() const override {
-        return refused<"PhysicalProperties::density">() ? 0 : measures_.density();
+        return get<"PhysicalProperties::density">(measures_.density());
     }
-
     [[nodiscard]] double mass() const override {
-        return refused<"PhysicalProperties::mass">() ? 0 : measures_.mass;
+        return get<"PhysicalProperties::mass">(measures_.mass);
     }
-
     [[nodiscard]] double volume() const override {
-        return refused<"PhysicalProperties::volume">() ? 0 : measures_.volume;
+        return get<"PhysicalProperties::volume">(measures_.volume);
     }
 
 private:

@@ -11,10 +11,6 @@
 #include <cstddef>
 #include <optional>
 
-using adsk::core::Matrix3D;
-using adsk::core::Ptr;
-using adsk::fusion::Occurrence;
-
 namespace host {
 namespace {
 
@@ -25,8 +21,9 @@ struct Move {
     Transform before;
 };
 
-std::optional<Move> readMove(const ComponentObject& top, const Ptr<Occurrence>& occurrence,
-                             const Ptr<Matrix3D>& matrix) {
+std::optional<Move> readMove(const ComponentObject& top,
+                             const core::Ptr<fusion::Occurrence>& occurrence,
+                             const core::Ptr<core::Matrix3D>& matrix) {
     auto* object = dynamic_cast<OccurrenceObject*>(occurrence.get());
     const std::optional<Transform> target = transformOf(matrix);
     if (object == nullptr || object->top() != &top || !target) {
@@ -46,16 +43,17 @@ bool apply(const Move& move) {
 
 }  // namespace
 
-bool placeOccurrences(const ComponentObject& top, const std::vector<Ptr<Occurrence>>& occurrences,
-                      const std::vector<Ptr<Matrix3D>>& transforms) {
+bool placeOccurrences(const ComponentObject& top,
+                      const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,
+                      const std::vector<core::Ptr<core::Matrix3D>>& transforms) {
     if (occurrences.size() != transforms.size()) {
-        return fail(adsk::core::BadApiCallError, "each occurrence needs one transform");
+        return fail(core::BadApiCallError, "each occurrence needs one transform");
     }
     std::vector<Move> moves;
     for (std::size_t index = 0; index < occurrences.size(); ++index) {
         const std::optional<Move> move = readMove(top, occurrences[index], transforms[index]);
         if (!move) {
-            return fail(adsk::core::BadApiCallError,
+            return fail(core::BadApiCallError,
                         "only occurrences as the root component shows them can be placed");
         }
         moves.push_back(*move);
@@ -66,7 +64,7 @@ bool placeOccurrences(const ComponentObject& top, const std::vector<Ptr<Occurren
         for (const Move& move : moves) {
             move.occurrence->localPlacement() = move.before;
         }
-        return fail(adsk::core::InvalidGeometryError, "an assembly above it is flattened");
+        return fail(core::InvalidGeometryError, "an assembly above it is flattened");
     }
     return true;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/api_names.h"
+
 #include <Core/Geometry.h>
 #include <Fusion/Occurrence.h>
 
@@ -16,7 +18,7 @@ class ComponentObject;
 /// uses. False, with nothing moved and the reason noted, for lists of different length, missing
 /// entries, occurrences not seen from `top`, and an assembly whose placement has no way back.
 bool placeOccurrences(const ComponentObject& top,
-                      const std::vector<adsk::core::Ptr<adsk::fusion::Occurrence>>& occurrences,
-                      const std::vector<adsk::core::Ptr<adsk::core::Matrix3D>>& transforms);
+                      const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,
+                      const std::vector<core::Ptr<core::Matrix3D>>& transforms);
 
 }  // namespace host

@@ -2,30 +2,16 @@
 
 #include "host/base/last_error.h"
 
-using adsk::core::Ptr;
-using adsk::fusion::SketchCurve;
-using adsk::fusion::SketchCurves;
-
 namespace host {
-
-bool SketchCurveObject::isReference() const {
-    if (closed<"SketchEntity::isReference">(*this)) return {};
-    return data_.reference;
-}
 
 bool SketchCurveObject::isReference(bool value) {
     if (closed<"SketchEntity::isReference">(*this)) return {};
     if (value && !data_.reference) {
-        return fail(adsk::core::BadApiCallError, "a drawn curve cannot be made a projected one");
+        return fail(core::BadApiCallError, "a drawn curve cannot be made a projected one");
     }
     data_.reference = value;
     ++edits_->all;
     return true;
-}
-
-bool SketchCurveObject::isConstruction() const {
-    if (closed<"SketchCurve::isConstruction">(*this)) return {};
-    return data_.construction;
 }
 
 bool SketchCurveObject::isConstruction(bool value) {
@@ -47,23 +33,23 @@ std::size_t SketchCurvesObject::count() const {
     return items_.size();
 }
 
-Ptr<SketchCurve> SketchCurvesObject::item(std::size_t index) const {
+core::Ptr<fusion::SketchCurve> SketchCurvesObject::item(std::size_t index) const {
     if (closed<"SketchCurves::item">(*this) || index >= items_.size()) return {};
     return items_[index];
 }
 
-std::vector<SketchCurveData> SketchCurvesObject::data() const {
+std::vector<SketchCurveData> SketchCurvesObject::snapshot() const {
     std::vector<SketchCurveData> all;
     all.reserve(items_.size());
-    for (const Ptr<SketchCurveObject>& each : items_) {
-        all.push_back(each->data());
+    for (const core::Ptr<SketchCurveObject>& each : items_) {
+        all.push_back(each->state());
     }
     return all;
 }
 
-void SketchCurvesObject::end() {
-    for (const Ptr<SketchCurveObject>& each : items_) {
-        each->end();
+void SketchCurvesObject::dispose() {
+    for (const core::Ptr<SketchCurveObject>& each : items_) {
+        each->dispose();
     }
     items_.clear();
     invalidate();
@@ -72,13 +58,8 @@ void SketchCurvesObject::end() {
 SketchObject::SketchObject(Edits& edits, const SketchData& data)
     : name_(data.name), curves_(make<SketchCurvesObject>(edits, data.curves)) {}
 
-Ptr<SketchCurves> SketchObject::sketchCurves() const {
-    if (closed<"Sketch::sketchCurves">(*this)) return {};
-    return curves_;
-}
-
-void SketchObject::end() {
-    curves_->end();
+void SketchObject::dispose() {
+    curves_->dispose();
     invalidate();
 }
 

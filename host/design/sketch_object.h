@@ -15,49 +15,55 @@ namespace host {
 class SketchObject;
 
 /// One curve of a sketch.
-class SketchCurveObject final : public Object<adsk::fusion::SketchCurve> {
+class SketchCurveObject final : public Object<fusion::SketchCurve> {
 public:
     SketchCurveObject(Edits& edits, SketchCurveData data) : edits_(&edits), data_(data) {}
 
-    [[nodiscard]] bool isReference() const override;
+    [[nodiscard]] bool isReference() const override {
+        return get<"SketchEntity::isReference">(data_.reference);
+    }
     bool isReference(bool value) override;
-    [[nodiscard]] bool isConstruction() const override;
+    [[nodiscard]] bool isConstruction() const override {
+        return get<"SketchCurve::isConstruction">(data_.construction);
+    }
     bool isConstruction(bool value) override;
 
-    [[nodiscard]] const SketchCurveData& data() const { return data_; }
-    void end() { invalidate(); }
+    [[nodiscard]] const SketchCurveData& state() const { return data_; }
+    void dispose() { invalidate(); }
 
 private:
     Edits* edits_;
     SketchCurveData data_;
 };
 
-class SketchCurvesObject final : public Object<adsk::fusion::SketchCurves> {
+class SketchCurvesObject final : public Object<fusion::SketchCurves> {
 public:
     SketchCurvesObject(Edits& edits, const std::vector<SketchCurveData>& curves);
 
     [[nodiscard]] std::size_t count() const override;
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::SketchCurve> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<fusion::SketchCurve> item(std::size_t index) const override;
 
-    [[nodiscard]] std::vector<SketchCurveData> data() const;
-    void end();
+    [[nodiscard]] std::vector<SketchCurveData> snapshot() const;
+    void dispose();
 
 private:
-    std::vector<adsk::core::Ptr<SketchCurveObject>> items_;
+    std::vector<core::Ptr<SketchCurveObject>> items_;
 };
 
-class SketchObject final : public Object<adsk::fusion::Sketch> {
+class SketchObject final : public Object<fusion::Sketch> {
 public:
     SketchObject(Edits& edits, const SketchData& data);
 
-    [[nodiscard]] adsk::core::Ptr<adsk::fusion::SketchCurves> sketchCurves() const override;
+    [[nodiscard]] core::Ptr<fusion::SketchCurves> sketchCurves() const override {
+        return get<"Sketch::sketchCurves">(curves_);
+    }
 
-    [[nodiscard]] SketchData data() const { return {name_, curves_->data()}; }
-    void end();
+    [[nodiscard]] SketchData snapshot() const { return {name_, curves_->snapshot()}; }
+    void dispose();
 
 private:
     std::string name_;
-    adsk::core::Ptr<SketchCurvesObject> curves_;
+    core::Ptr<SketchCurvesObject> curves_;
 };
 
 }  // namespace host

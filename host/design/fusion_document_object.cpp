@@ -1,43 +1,41 @@
-#include "host/design/document_object.h"
+#include "host/design/fusion_document_object.h"
 
 #include "host/base/last_error.h"
 
 #include <unordered_map>
 #include <utility>
 
-using adsk::core::Application;
-using adsk::core::DataFile;
-using adsk::core::Ptr;
-
 namespace host {
 
-DocumentObject::DocumentObject(DesignData data, const Ptr<Application>& parent)
+FusionDocumentObject::FusionDocumentObject(DesignData data,
+                                           const core::Ptr<core::Application>& parent)
     : name_(data.name), parent_(parent) {
     std::vector<AttributeData> attributes = std::move(data.attributes);
     data.attributes.clear();
     model_ = std::make_unique<Model>(std::move(data));
     design_ = make<DesignObject>(*this, model_->component(0), model_->edits, std::move(attributes));
-    other_ = make<OtherProductObject>(*this, model_->edits);
+    other_ = make<ProductObject>(*this, model_->edits);
     openReferences();
 }
 
-DocumentObject::DocumentObject(const DocumentObject& opened, ComponentObject& root)
-    : name_(root.data().document), parent_(opened.parent_) {
+FusionDocumentObject::FusionDocumentObject(const FusionDocumentObject& opened,
+                                           ComponentObject& root)
+    : name_(root.state().document), parent_(opened.parent_) {
     design_ = make<DesignObject>(*this, root, opened.model_->edits, std::vector<AttributeData>());
-    other_ = make<OtherProductObject>(*this, opened.model_->edits);
+    other_ = make<ProductObject>(*this, opened.model_->edits);
 }
 
-DocumentObject::~DocumentObject() { end(); }
+FusionDocumentObject::~FusionDocumentObject() { dispose(); }
 
-void DocumentObject::openReferences() {
+void FusionDocumentObject::openReferences() {
     std::unordered_map<std::string, DesignObject*> designs;
     for (std::size_t index = 0; index < model_->componentCount(); ++index) {
         ComponentObject& component = model_->component(index);
         DesignObject* design = design_.get();
-        if (!component.data().document.empty()) {
-            DesignObject*& found = designs[component.data().document];
+        if (!component.state().document.empty()) {
+            DesignObject*& found = designs[component.state().document];
             if (found == nullptr) {
-                references_.push_back(make<DocumentObject>(*this, component));
+                references_.push_back(make<FusionDocumentObject>(*this, component));
                 found = references_.back()->design_.get();
             }
             design = found;
@@ -46,25 +44,10 @@ void DocumentObject::openReferences() {
     }
 }
 
-Ptr<DataFile> DocumentObject::dataFile() const {
-    if (closed<"Document::dataFile">(*this)) return {};
-    return dataFile_;
-}
-
-Ptr<Application> DocumentObject::parent() const {
-    if (closed<"Document::parent">(*this)) return {};
-    return parent_;
-}
-
-std::string DocumentObject::name() const {
-    if (closed<"Document::name">(*this)) return {};
-    return name_;
-}
-
-bool DocumentObject::name(const std::string& value) {
+bool FusionDocumentObject::name(const std::string& value) {
     if (closed<"Document::name">(*this)) return {};
     if (value.empty() || model_ == nullptr) {
-        return fail(adsk::core::BadApiCallError,
+        return fail(core::BadApiCallError,
                     "a document needs a name, and one that is only referred to keeps its own");
     }
     name_ = value;
@@ -72,28 +55,28 @@ bool DocumentObject::name(const std::string& value) {
     return true;
 }
 
-bool DocumentObject::isSaved() const {
+bool FusionDocumentObject::isSaved() const {
     if (closed<"Document::isSaved">(*this)) return {};
     return dataFile_ != nullptr;
 }
 
-DesignData DocumentObject::snapshot() const {
+DesignData FusionDocumentObject::snapshot() const {
     DesignData data = model_->snapshot();
     data.name = name_;
     data.attributes = design_->attributeData();
     return data;
 }
 
-void DocumentObject::end() {
+void FusionDocumentObject::dispose() {
     if (!design_) {
         return;
     }
-    for (const Ptr<DocumentObject>& each : references_) {
-        each->end();
+    for (const core::Ptr<FusionDocumentObject>& each : references_) {
+        each->dispose();
     }
     references_.clear();
-    design_->end();
-    other_->end();
+    design_->dispose();
+    other_->dispose();
     design_ = nullptr;
     other_ = nullptr;
     model_.reset();
