@@ -19,8 +19,8 @@ namespace host {
 namespace {
 
 // Never destroyed by itself: modules and the host end in either order.
-core::Ptr<Application>& running() {
-    static auto* instance = new core::Ptr<Application>;
+core::Ptr<ApplicationObject>& running() {
+    static auto* instance = new core::Ptr<ApplicationObject>;
     return *instance;
 }
 
@@ -28,26 +28,26 @@ constexpr const char* kDesignType = "DesignProductType";
 
 }  // namespace
 
-Application::Application(const HostSetup& setup)
+ApplicationObject::ApplicationObject(const HostSetup& setup)
     : ui_(make<ui::UserInterface>(setup, *this)),
       preferences_(make<ui::Preferences>()),
       documents_(make<DocumentsObject>()),
       importManager_(make<ImportManagerObject>()) {}
 
-core::Ptr<Application> Application::current() { return running(); }
+core::Ptr<ApplicationObject> ApplicationObject::current() { return running(); }
 
-core::Ptr<core::Product> Application::activeProduct() const {
+core::Ptr<core::Product> ApplicationObject::activeProduct() const {
     if (closed<"Application::activeProduct">(*this)) return {};
     const core::Ptr<ui::Workspace>& workspace = ui_->spaces().active();
     return workspace && workspace->product() != kDesignType ? otherProduct_ : product_;
 }
 
-core::Ptr<core::Base> Application::activeEditObject() const {
+core::Ptr<core::Base> ApplicationObject::activeEditObject() const {
     if (closed<"Application::activeEditObject">(*this)) return {};
     return editObject_ ? editObject_ : root_;
 }
 
-core::Ptr<core::Data> Application::data() const {
+core::Ptr<core::Data> ApplicationObject::data() const {
     if (closed<"Application::data">(*this)) return {};
     if (!data_) {
         fail(core::OperationFailed, "Application::data: no folder stands in for the user's data");
@@ -55,7 +55,7 @@ core::Ptr<core::Data> Application::data() const {
     return data_;
 }
 
-int Application::getLastError(std::string* description) const {
+int ApplicationObject::getLastError(std::string* description) const {
     if (closed<"Application::getLastError">(*this)) return {};
     if (description != nullptr) {
         *description = lastError().description;
@@ -63,8 +63,8 @@ int Application::getLastError(std::string* description) const {
     return lastError().code;
 }
 
-void Application::setActiveDocument(const core::Ptr<core::Document>& document,
-                                    const core::Ptr<core::Product>& product) {
+void ApplicationObject::setActiveDocument(const core::Ptr<core::Document>& document,
+                                          const core::Ptr<core::Product>& product) {
     if (ui_->runner().active() && !ui_->runner().isExecuting()) {
         ui_->runner().end(core::SessionEndingTerminationReason);
     }
@@ -79,25 +79,29 @@ void Application::setActiveDocument(const core::Ptr<core::Document>& document,
     editObject_ = nullptr;
 }
 
-core::Ptr<core::Document> Application::openInHost(DesignData data) {
+core::Ptr<core::Document> ApplicationObject::openInHost(DesignData data) {
     core::Ptr<core::Document> document =
-        makeDocument(std::move(data), core::Ptr<Application>(this));
+        makeDocument(std::move(data), core::Ptr<ApplicationObject>(this));
     documents_->own(document);
     setActiveDocument(document);
     return document;
 }
 
-void Application::setData(const core::Ptr<core::Data>& data) { data_ = data; }
+void ApplicationObject::setData(const core::Ptr<core::Data>& data) { data_ = data; }
 
-void Application::setActiveEditObject(const core::Ptr<core::Base>& object) { editObject_ = object; }
+void ApplicationObject::setActiveEditObject(const core::Ptr<core::Base>& object) {
+    editObject_ = object;
+}
 
-bool Application::isRootComponent(const core::Ptr<core::Base>& entity) const {
+bool ApplicationObject::isRootComponent(const core::Ptr<core::Base>& entity) const {
     return entity && entity == root_;
 }
 
-std::uint64_t Application::editsOfModel() const { return document_ ? editCount(document_) : 0; }
+std::uint64_t ApplicationObject::editsOfModel() const {
+    return document_ ? editCount(document_) : 0;
+}
 
-void Application::dispose() {
+void ApplicationObject::dispose() {
     ui_->dispose();
     preferences_->dispose();
     documents_->dispose();
@@ -111,7 +115,7 @@ void Application::dispose() {
     invalidate();
 }
 
-core::Ptr<Application> startHost(const HostSetup& setup) {
+core::Ptr<ApplicationObject> startHost(const HostSetup& setup) {
     endHost();
     lastError() = {};
     clearMisuses();
@@ -120,7 +124,7 @@ core::Ptr<Application> startHost(const HostSetup& setup) {
     storagePace() = {};
     ui::startWaits(setup.longestWait);
     clock::start(setup.clock);
-    running() = make<Application>(setup);
+    running() = make<ApplicationObject>(setup);
     return running();
 }
 
@@ -138,7 +142,7 @@ namespace adsk::core {
 
 Ptr<Application> Application::get() {
     if (host::refused<"Application::get">()) return {};
-    return host::Application::current();
+    return host::ApplicationObject::current();
 }
 
 }  // namespace adsk::core

@@ -24,12 +24,12 @@ namespace host {
 /// The host itself. One runs at a time, from `startHost` to `endHost`.
 ///
 /// Whoever starts it gives it its document and drives it through `hands.h`.
-class Application final : public Object<core::Application>, public ui::ActiveModel {
+class ApplicationObject final : public Object<core::Application>, public ui::ActiveModel {
 public:
-    explicit Application(const HostSetup& setup);
+    explicit ApplicationObject(const HostSetup& setup);
 
     /// The one that runs, null for none.
-    static core::Ptr<Application> current();
+    static core::Ptr<ApplicationObject> current();
 
     [[nodiscard]] core::Ptr<core::UserInterface> userInterface() const override {
         return get<"Application::userInterface">(ui_);
@@ -102,7 +102,7 @@ private:
 };
 
 /// Starts a host; one that runs is ended first. Messages and misuses begin again.
-core::Ptr<Application> startHost(const HostSetup& setup = {});
+core::Ptr<ApplicationObject> startHost(const HostSetup& setup = {});
 
 /// Ends the host that runs: a running command ends with it, and whatever a module still holds is no
 /// longer valid. Its document is left to whoever made it. Nothing happens when none runs.

@@ -28,7 +28,7 @@ bool takeOne(int& tries) {
 
 DesignData readConverted(const DataFileObject& file) {
     return readDesign(file.state().path, ImportLimits(), ImportProgress(),
-                      Application::current()->importWarnings);
+                      ApplicationObject::current()->importWarnings);
 }
 
 /// The design of a file, or a thrown exception that tells why it cannot be opened yet, or ever.
@@ -66,7 +66,7 @@ core::Ptr<core::Document> DocumentsObject::open(const core::Ptr<core::DataFile>&
     }
     try {
         core::Ptr<core::Document> document =
-            Application::current()->openInHost(convertedDesign(*file));
+            ApplicationObject::current()->openInHost(convertedDesign(*file));
         setDataFile(document, dataFile);
         return document;
     } catch (const std::exception& error) {

@@ -17,7 +17,7 @@ namespace {
 DesignData readShapes(const std::string& path) {
     // The API has no place for warnings; whoever drives the host may ask for them.
     return importStep(path, ImportLimits(), ImportProgress(),
-                      Application::current()->importWarnings);
+                      ApplicationObject::current()->importWarnings);
 }
 
 DesignData readArchive(const std::string& path) {
@@ -81,7 +81,7 @@ core::Ptr<core::STEPImportOptions> ImportManagerObject::createSTEPImportOptions(
 core::Ptr<core::Document> ImportManagerObject::importToNewDocument(
     const core::Ptr<core::ImportOptions>& importOptions) {
     if (closed<"ImportManager::importToNewDocument">(*this)) return {};
-    const core::Ptr<Application> application = Application::current();
+    const core::Ptr<ApplicationObject> application = ApplicationObject::current();
     if (!importOptions || !application) {
         misuse("ImportManager::importToNewDocument", "needs options that tell what to import");
         return {};

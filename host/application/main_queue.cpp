@@ -48,7 +48,7 @@ void runPosted() {
         clock::runDue();
         ui::endLongWaits();
     };
-    const core::Ptr<Application> application = Application::current();
+    const core::Ptr<ApplicationObject> application = ApplicationObject::current();
     if (!application) {
         work();
         return;

@@ -126,7 +126,7 @@ std::filesystem::path Session::absolute(const std::filesystem::path& file) const
 
 void Session::show(const Ptr<Document>& document, const Ptr<Product>& product) {
     const Ptr<Document> before = std::exchange(document_, document);
-    Application::current()->setActiveDocument(document, product);
+    ApplicationObject::current()->setActiveDocument(document, product);
     endDocument(before);
 }
 
@@ -140,7 +140,7 @@ std::vector<std::string> Session::open(const std::filesystem::path& file,
 void Session::openOutline(const std::string& outline) { openDesign(parseOutline(outline)); }
 
 void Session::openDesign(DesignData design) {
-    show(makeDocument(std::move(design), Application::current()), nullptr);
+    show(makeDocument(std::move(design), ApplicationObject::current()), nullptr);
 }
 
 void Session::openDesign(DesignData design, const std::filesystem::path& file) {
@@ -153,14 +153,14 @@ void Session::openDesign(DesignData design, const std::filesystem::path& file) {
 void Session::newDesign() { openDesign(emptyDesign()); }
 
 void Session::openForeignDocument() {
-    const Ptr<Document> document = makeDocument(emptyDesign(), Application::current());
+    const Ptr<Document> document = makeDocument(emptyDesign(), ApplicationObject::current());
     show(document, otherProductOf(document));
 }
 
 void Session::save(const std::filesystem::path& file) {
     saveDesignFile(absolute(file), design());
     if (data_) {
-        data_->tie(Application::current()->document(), absolute(file));
+        data_->tie(ApplicationObject::current()->document(), absolute(file));
     }
 }
 
@@ -171,21 +171,21 @@ void Session::useData(UserDataSetup setup) {
     } catch (const std::invalid_argument& error) {
         throw SessionError(error.what());
     }
-    Application::current()->setData(data_->api());
+    ApplicationObject::current()->setData(data_->api());
 }
 
-DesignData Session::design() const { return snapshot(Application::current()->document()); }
+DesignData Session::design() const { return snapshot(ApplicationObject::current()->document()); }
 
 std::vector<DesignData> Session::designsOpenedByModule() const {
     std::vector<DesignData> designs;
-    for (const Ptr<Document>& each : Application::current()->openedInHost()) {
+    for (const Ptr<Document>& each : ApplicationObject::current()->openedInHost()) {
         designs.push_back(snapshot(each));
     }
     return designs;
 }
 
 void Session::editSketch(std::size_t component, std::size_t sketch) {
-    const Ptr<Application> application = Application::current();
+    const Ptr<ApplicationObject> application = ApplicationObject::current();
     const Ptr<adsk::fusion::Sketch> edited = sketchOf(application->document(), component, sketch);
     if (!edited) {
         throw SessionError("component " + std::to_string(component) + " has no sketch " +
@@ -194,7 +194,7 @@ void Session::editSketch(std::size_t component, std::size_t sketch) {
     application->setActiveEditObject(edited);
 }
 
-void Session::leaveSketch() { Application::current()->setActiveEditObject(nullptr); }
+void Session::leaveSketch() { ApplicationObject::current()->setActiveEditObject(nullptr); }
 
 void Session::press(const std::string& commandId) { pressCommand(commandId); }
 
@@ -239,7 +239,7 @@ void Session::activateTab(const std::string& id) {
 }
 
 void Session::pick(const std::string& path) {
-    host::pick(inBrowserTree(designOf(Application::current()->document()), path));
+    host::pick(inBrowserTree(designOf(ApplicationObject::current()->document()), path));
 }
 
 void Session::selectRow(const std::string& tableId, int row) {
@@ -259,11 +259,11 @@ const std::vector<UncaughtException>& Session::uncaughtExceptions() const {
 void Session::clearUncaughtExceptions() { host::clearUncaughtExceptions(); }
 
 const std::vector<std::string>& Session::importWarnings() const {
-    return Application::current()->importWarnings;
+    return ApplicationObject::current()->importWarnings;
 }
 
 std::vector<Unmeasured> Session::unmeasured() const {
-    return unmeasuredIn(Application::current()->document());
+    return unmeasuredIn(ApplicationObject::current()->document());
 }
 
 const std::vector<Message>& Session::messages() const { return host::messages(); }

@@ -6,8 +6,8 @@
 namespace host {
 namespace ui {
 
-Application& hostAtHand() {
-    const core::Ptr<Application> application = Application::current();
+ApplicationObject& hostAtHand() {
+    const core::Ptr<ApplicationObject> application = ApplicationObject::current();
     if (!application) {
         throw MisuseError("no host runs: start one first");
     }

@@ -8,7 +8,7 @@
 namespace host::ui {
 
 /// The host that a person acts at; throws a `MisuseError` where none runs.
-Application& hostAtHand();
+ApplicationObject& hostAtHand();
 
 /// The open dialog; throws a `MisuseError` where none is open.
 Command& shownDialog();
@@ -28,7 +28,7 @@ public:
     void finish() { runner().drainRequests(); }
 
 private:
-    adsk::core::Ptr<Application> application_;
+    adsk::core::Ptr<ApplicationObject> application_;
 };
 
 /// The state of an input that a person can use now; throws a `MisuseError` that begins with

@@ -50,7 +50,7 @@ TEST_F(ImportManagerTest, KeepsWhatTheReaderHadToSay) {
 
     manager()->importToNewDocument(manager()->createSTEPImportOptions(file));
 
-    EXPECT_EQ(host::Application::current()->importWarnings,
+    EXPECT_EQ(host::ApplicationObject::current()->importWarnings,
               (std::vector<std::string>{
                   file + ": tells no placement for 1 usage; it stands at the origin"}));
 }

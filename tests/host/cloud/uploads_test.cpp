@@ -32,7 +32,7 @@ protected:
         std::filesystem::create_directories(folder.path() / "disk");
         data = std::make_unique<UserData>(
             UserDataSetup{folder.path() / "data", "", ReferencedFiles::KnownAtOnce});
-        host::Application::current()->setData(data->api());
+        host::ApplicationObject::current()->setData(data->api());
     }
     ~Uploads() override { endHost(); }
 

@@ -147,7 +147,7 @@ TEST_F(SessionWithAddin, DesignsThatTheModuleOpensAreNotThoseOfThePerson) {
     host::DesignData design = host::parseOutline("Nut");
     design.name = "Opened";
 
-    host::Application::current()->openInHost(std::move(design));
+    host::ApplicationObject::current()->openInHost(std::move(design));
 
     ASSERT_EQ(session->designsOpenedByModule().size(), 1U);
     EXPECT_EQ(session->designsOpenedByModule().front().name, "Opened");

@@ -259,7 +259,7 @@ TEST_F(CommandLife, TheEndOfTheDocumentEndsItWithTheSession) {
     pressCommand("Dialog");
     noted();
 
-    Application::current()->setActiveDocument(nullptr);
+    ApplicationObject::current()->setActiveDocument(nullptr);
 
     EXPECT_EQ(noted(), "deactivate destroy=5 terminated:Dialog=5");
 }
@@ -361,7 +361,7 @@ TEST_F(CommandLife, APreviewWithoutAWayBackIsRefusedByName) {
 }
 
 TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {
-    ui::ModelHistory& history = host::Application::current()->ui().history;
+    ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
     history.mark = [this] { note("mark"); };
     history.takeBack = [this] { note("back"); };
     open([this](const Ptr<Command>& command) {
@@ -379,7 +379,7 @@ TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {
 }
 
 TEST_F(CommandLife, APreviewThatIsAValidResultStandsForTheExecution) {
-    ui::ModelHistory& history = host::Application::current()->ui().history;
+    ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
     history.mark = [this] { note("mark"); };
     history.takeBack = [this] { note("back"); };
     open([this](const Ptr<Command>& command) {
@@ -396,7 +396,7 @@ TEST_F(CommandLife, APreviewThatIsAValidResultStandsForTheExecution) {
 }
 
 TEST_F(CommandLife, AFailedExecutionIsTakenBack) {
-    ui::ModelHistory& history = host::Application::current()->ui().history;
+    ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
     history.mark = [this] { note("mark"); };
     history.takeBack = [this] { note("back"); };
     define("Button", [this](const Ptr<Command>& command) {

@@ -34,7 +34,7 @@ TEST_F(PaletteTest, KeepsItsBrowserAndHowItsWindowBehaves) {
     ui()->palettes()->add("new", "New", "http://page.example/", true, false, true, 1, 1, true);
 
     const auto state = [](const char* id) {
-        return host::Application::current()->ui().allPalettes().find(id)->state;
+        return host::ApplicationObject::current()->ui().allPalettes().find(id)->state;
     };
     EXPECT_FALSE(state("old").newWebBrowser);
     EXPECT_TRUE(state("old").closeButton);

@@ -26,7 +26,7 @@ protected:
             data.components[0].children.push_back(occurrence);
         }
         document = makeDocument(data, adsk::core::Application::get());
-        host::Application::current()->setActiveDocument(document);
+        host::ApplicationObject::current()->setActiveDocument(document);
         root = designOf(document)->rootComponent();
     }
     ~SelectionTest() override {

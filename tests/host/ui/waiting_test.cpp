@@ -124,7 +124,7 @@ TEST_F(Waiting, ADocumentThatOpensMeanwhileClosesAnOpenDialogAndNotTheCommandTha
     post([this] {
         pressCommand("Dialog");
         traceHost();
-        Application::current()->openInHost(parseOutline("Bolt"));
+        ApplicationObject::current()->openInHost(parseOutline("Bolt"));
     });
 
     pressCommand("Wait");

@@ -17,7 +17,7 @@ protected:
         data.components.resize(1);
         data.components.front().name = "Untitled";
         document = makeDocument(data, adsk::core::Application::get());
-        host::Application::current()->setActiveDocument(document);
+        host::ApplicationObject::current()->setActiveDocument(document);
     }
     ~WorkspaceTest() override {
         endHost();
@@ -97,15 +97,15 @@ TEST_F(WorkspaceTest, TheRootComponentIsEditedUntilSomethingElseIs) {
     const Ptr<adsk::fusion::Design> design = app()->activeProduct();
     EXPECT_EQ(app()->activeEditObject(), design->rootComponent());
 
-    host::Application::current()->setActiveEditObject(design);
+    host::ApplicationObject::current()->setActiveEditObject(design);
     EXPECT_EQ(app()->activeEditObject(), design);
 
-    host::Application::current()->setActiveEditObject(nullptr);
+    host::ApplicationObject::current()->setActiveEditObject(nullptr);
     EXPECT_EQ(app()->activeEditObject(), design->rootComponent());
 }
 
 TEST_F(WorkspaceTest, ADocumentCanBeShownWithAnotherProduct) {
-    host::Application::current()->setActiveDocument(document, otherProductOf(document));
+    host::ApplicationObject::current()->setActiveDocument(document, otherProductOf(document));
 
     EXPECT_FALSE(Ptr<adsk::fusion::Design>(app()->activeProduct()));
     EXPECT_TRUE(app()->activeProduct());

@@ -59,11 +59,11 @@ protected:
     }
 
     void editSketch() {
-        const auto application = host::Application::current();
+        const auto application = host::ApplicationObject::current();
         application->setActiveEditObject(host::sketchOf(application->document(), 0, 0));
     }
 
-    void finishSketch() { host::Application::current()->setActiveEditObject(nullptr); }
+    void finishSketch() { host::ApplicationObject::current()->setActiveEditObject(nullptr); }
 
     /// Starts a command of the host's own.
     void startAnyCommand() {

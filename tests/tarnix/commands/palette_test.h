@@ -31,7 +31,7 @@ protected:
 
     /// What the host has been told of a palette, with what its API does not tell again.
     static host::ui::PaletteState stateOf(const std::string& id) {
-        return host::Application::current()->ui().allPalettes().find(id)->state;
+        return host::ApplicationObject::current()->ui().allPalettes().find(id)->state;
     }
 
     /// Left, top, width and height.

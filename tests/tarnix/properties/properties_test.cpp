@@ -191,7 +191,8 @@ std::string PropertiesTest::placeOfCell(int row) const {
 }
 
 Ptr<Base> PropertiesTest::entity(const std::string& path) {
-    return host::inBrowserTree(host::designOf(host::Application::current()->document()), path);
+    return host::inBrowserTree(host::designOf(host::ApplicationObject::current()->document()),
+                               path);
 }
 
 std::string PropertiesTest::rowId(int row) const {
