@@ -29,8 +29,8 @@ constexpr const char* kDesignType = "DesignProductType";
 }  // namespace
 
 ApplicationObject::ApplicationObject(const HostSetup& setup)
-    : ui_(make<ui::UserInterface>(setup, *this)),
-      preferences_(make<ui::Preferences>()),
+    : ui_(make<ui::UserInterfaceObject>(setup, *this)),
+      preferences_(make<ui::PreferencesObject>()),
       documents_(make<DocumentsObject>()),
       importManager_(make<ImportManagerObject>()) {}
 
@@ -38,7 +38,7 @@ core::Ptr<ApplicationObject> ApplicationObject::current() { return running(); }
 
 core::Ptr<core::Product> ApplicationObject::activeProduct() const {
     if (closed<"Application::activeProduct">(*this)) return {};
-    const core::Ptr<ui::Workspace>& workspace = ui_->spaces().active();
+    const core::Ptr<ui::WorkspaceObject>& workspace = ui_->spaces().active();
     return workspace && workspace->product() != kDesignType ? otherProduct_ : product_;
 }
 

@@ -83,14 +83,14 @@ public:
     [[nodiscard]] bool isRootComponent(const core::Ptr<core::Base>& entity) const override;
     [[nodiscard]] std::uint64_t editsOfModel() const override;
 
-    [[nodiscard]] ui::UserInterface& ui() const { return *ui_; }
+    [[nodiscard]] ui::UserInterfaceObject& ui() const { return *ui_; }
     /// @}
 
     void dispose();
 
 private:
-    core::Ptr<ui::UserInterface> ui_;
-    core::Ptr<ui::Preferences> preferences_;
+    core::Ptr<ui::UserInterfaceObject> ui_;
+    core::Ptr<ui::PreferencesObject> preferences_;
     core::Ptr<DocumentsObject> documents_;
     core::Ptr<ImportManagerObject> importManager_;
     core::Ptr<core::Data> data_;

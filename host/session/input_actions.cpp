@@ -43,9 +43,9 @@ std::vector<std::string> prefixes(const std::string& text) {
 
 bool isReadOnly(const InputState& input) {
     if (input.kind == InputKind::String) {
-        return static_cast<const ui::StringInput&>(input).readOnly();
+        return static_cast<const ui::StringValueCommandInputObject&>(input).readOnly();
     }
-    return static_cast<const ui::TextBoxInput&>(input).readOnly();
+    return static_cast<const ui::TextBoxCommandInputObject&>(input).readOnly();
 }
 
 /// A text that a person can write into.
@@ -62,9 +62,9 @@ InputState& writable(const Ptr<core::CommandInput>& input) {
 
 void enter(InputState& input, const std::string& text) {
     if (input.kind == InputKind::String) {
-        static_cast<ui::StringInput&>(input).enter(text);
+        static_cast<ui::StringValueCommandInputObject&>(input).enter(text);
     } else {
-        static_cast<ui::TextBoxInput&>(input).enter(text);
+        static_cast<ui::TextBoxCommandInputObject&>(input).enter(text);
     }
 }
 
@@ -99,7 +99,7 @@ void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
 }
 
 void showTab(UserAction& acting, InputState& tab) {
-    ui::Command& dialog = ui::shownDialog();
+    ui::CommandObject& dialog = ui::shownDialog();
     if (dialog.activeTab() != &tab) {
         dialog.activeTab(&tab);
         acting.runner().tabChanged();
@@ -111,10 +111,10 @@ void showTab(UserAction& acting, InputState& tab) {
 bool clicked(InputState& input) {
     switch (input.kind) {
         case InputKind::Bool:
-            static_cast<ui::BoolInput&>(input).toggle();
+            static_cast<ui::BoolValueCommandInputObject&>(input).toggle();
             return true;
         case InputKind::Group:
-            static_cast<ui::GroupInput&>(input).toggle();
+            static_cast<ui::GroupCommandInputObject&>(input).toggle();
             return false;
         case InputKind::Selection:
             ui::shownDialog().focus(&input);
@@ -125,7 +125,7 @@ bool clicked(InputState& input) {
 }
 
 /// The selection that a pick goes to.
-ui::SelectionInput& pickTarget(const ui::Command& dialog) {
+ui::SelectionCommandInputObject& pickTarget(const ui::CommandObject& dialog) {
     InputState* focus = dialog.focus();
     if (focus == nullptr) {
         throw MisuseError("cannot pick: no selection of the dialog has the focus");
@@ -134,14 +134,14 @@ ui::SelectionInput& pickTarget(const ui::Command& dialog) {
     if (!why.empty()) {
         throw MisuseError("cannot pick for " + ui::describe(*focus) + ": " + why);
     }
-    return static_cast<ui::SelectionInput&>(*focus);
+    return static_cast<ui::SelectionCommandInputObject&>(*focus);
 }
 
 /// The next selection that has room gets the focus once one is full.
-void passFocus(ui::Command& dialog, const ui::SelectionInput& full) {
+void passFocus(ui::CommandObject& dialog, const ui::SelectionCommandInputObject& full) {
     if (!full.isFull()) return;
     for (InputState* each : dialog.inputs().ofKind(InputKind::Selection)) {
-        if (!static_cast<ui::SelectionInput*>(each)->isFull() &&
+        if (!static_cast<ui::SelectionCommandInputObject*>(each)->isFull() &&
             ui::whyUnreachable(*each).empty()) {
             dialog.focus(each);
             return;
@@ -150,8 +150,8 @@ void passFocus(ui::Command& dialog, const ui::SelectionInput& full) {
 }
 
 void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity) {
-    ui::Command& dialog = ui::shownDialog();
-    ui::SelectionInput& target = pickTarget(dialog);
+    ui::CommandObject& dialog = ui::shownDialog();
+    ui::SelectionCommandInputObject& target = pickTarget(dialog);
     if (target.picks().holds(entity)) {
         target.drop(entity);
     } else {
@@ -247,7 +247,7 @@ void activateTab(const Ptr<core::TabCommandInput>& tab) {
 
 void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
     const UserAction acting;
-    auto& state = static_cast<ui::TableInput&>(ui::usable(table, "select a row of"));
+    auto& state = static_cast<ui::TableCommandInputObject&>(ui::usable(table, "select a row of"));
     const std::vector<int> shown = shownRows(table);
     if (std::find(shown.begin(), shown.end(), row) == shown.end()) {
         throw MisuseError("cannot select row " + std::to_string(row) + " of " +
@@ -294,7 +294,7 @@ void reportChange(const Ptr<core::CommandInput>& input) {
 }
 
 std::vector<int> shownRows(const Ptr<core::TableCommandInput>& table) {
-    const auto* state = static_cast<const ui::TableInput*>(InputState::of(table));
+    const auto* state = static_cast<const ui::TableCommandInputObject*>(InputState::of(table));
     if (state == nullptr) return {};
     const std::vector<int> columns = state->shownColumns();
     std::vector<int> shown;
@@ -307,12 +307,12 @@ std::vector<int> shownRows(const Ptr<core::TableCommandInput>& table) {
 }
 
 std::vector<int> shownColumns(const Ptr<core::TableCommandInput>& table) {
-    const auto* state = static_cast<const ui::TableInput*>(InputState::of(table));
+    const auto* state = static_cast<const ui::TableCommandInputObject*>(InputState::of(table));
     return state == nullptr ? std::vector<int>() : state->shownColumns();
 }
 
 std::vector<Ptr<core::CommandInput>> toolbarOf(const Ptr<core::TableCommandInput>& table) {
-    const auto* state = static_cast<const ui::TableInput*>(InputState::of(table));
+    const auto* state = static_cast<const ui::TableCommandInputObject*>(InputState::of(table));
     std::vector<Ptr<core::CommandInput>> inputs;
     if (state == nullptr) return inputs;
     for (InputState* each : state->toolbar()) {

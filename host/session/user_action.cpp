@@ -21,8 +21,8 @@ UserAction::UserAction() : application_(&hostAtHand()) {
     runner().beginUserAction();
 }
 
-Command& shownDialog() {
-    const core::Ptr<Command>& active = hostAtHand().ui().runner().active();
+CommandObject& shownDialog() {
+    const core::Ptr<CommandObject>& active = hostAtHand().ui().runner().active();
     if (!active || !active->isShown()) {
         throw MisuseError("no dialog is open: press the button of a command first");
     }

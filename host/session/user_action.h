@@ -11,7 +11,7 @@ namespace host::ui {
 ApplicationObject& hostAtHand();
 
 /// The open dialog; throws a `MisuseError` where none is open.
-Command& shownDialog();
+CommandObject& shownDialog();
 
 /// One action of a person: commands can start again from here on, and those that were asked for
 /// during the action start at its end. Throws a `MisuseError` while a command is at work.
@@ -21,7 +21,7 @@ public:
     UserAction(const UserAction&) = delete;
     UserAction& operator=(const UserAction&) = delete;
 
-    [[nodiscard]] UserInterface& ui() const { return application_->ui(); }
+    [[nodiscard]] UserInterfaceObject& ui() const { return application_->ui(); }
     [[nodiscard]] CommandRunner& runner() const { return ui().runner(); }
 
     /// Starts what was asked for: the last thing of each action.

@@ -12,11 +12,11 @@ namespace core = adsk::core;
 using core::Ptr;
 using ui::UserAction;
 
-std::vector<Ptr<ui::CommandControl>> controlsOf(const ui::CommandDefinition& definition,
-                                                const ui::Workspace& workspace) {
-    std::vector<Ptr<ui::CommandControl>> found;
-    for (const Ptr<ui::ToolbarPanel>& panel : workspace.panels()) {
-        for (const Ptr<ui::CommandControl>& each : panel->buttons().all()) {
+std::vector<Ptr<ui::CommandControlObject>> controlsOf(const ui::CommandDefinitionObject& definition,
+                                                      const ui::WorkspaceObject& workspace) {
+    std::vector<Ptr<ui::CommandControlObject>> found;
+    for (const Ptr<ui::ToolbarPanelObject>& panel : workspace.panels()) {
+        for (const Ptr<ui::CommandControlObject>& each : panel->buttons().all()) {
             if (each->definition().get() == &definition) {
                 found.push_back(each);
             }
@@ -25,8 +25,8 @@ std::vector<Ptr<ui::CommandControl>> controlsOf(const ui::CommandDefinition& def
     return found;
 }
 
-void press(UserAction& acting, const Ptr<ui::CommandDefinition>& definition) {
-    const Ptr<ui::Workspace>& workspace = acting.ui().spaces().active();
+void press(UserAction& acting, const Ptr<ui::CommandDefinitionObject>& definition) {
+    const Ptr<ui::WorkspaceObject>& workspace = acting.ui().spaces().active();
     if (workspace) {
         const auto controls = controlsOf(*definition, *workspace);
         const bool hidden = std::none_of(controls.begin(), controls.end(),
@@ -40,9 +40,9 @@ void press(UserAction& acting, const Ptr<ui::CommandDefinition>& definition) {
     acting.finish();
 }
 
-std::string knownIds(const ui::CommandDefinitions& definitions) {
+std::string knownIds(const ui::CommandDefinitionsObject& definitions) {
     std::string ids;
-    for (const Ptr<ui::CommandDefinition>& each : definitions.all()) {
+    for (const Ptr<ui::CommandDefinitionObject>& each : definitions.all()) {
         ids += (ids.empty() ? "" : ", ") + each->identifier();
     }
     return ids.empty() ? "there are none" : ids;
@@ -52,7 +52,7 @@ std::string knownIds(const ui::CommandDefinitions& definitions) {
 
 void pressCommand(const Ptr<core::CommandDefinition>& definition) {
     UserAction acting;
-    const Ptr<ui::CommandDefinition> known = definition;
+    const Ptr<ui::CommandDefinitionObject> known = definition;
     if (!known || !known->isValid()) {
         throw MisuseError("cannot press a command that does not exist: the definitions are " +
                           knownIds(acting.ui().definitions()));
@@ -62,7 +62,7 @@ void pressCommand(const Ptr<core::CommandDefinition>& definition) {
 
 void pressCommand(const std::string& id) {
     UserAction acting;
-    const Ptr<ui::CommandDefinition> known = acting.ui().definitions().find(id);
+    const Ptr<ui::CommandDefinitionObject> known = acting.ui().definitions().find(id);
     if (!known) {
         throw MisuseError("cannot press " + id + ", which does not exist: the definitions are " +
                           knownIds(acting.ui().definitions()));
@@ -71,12 +71,12 @@ void pressCommand(const std::string& id) {
 }
 
 Ptr<core::Command> openDialog() {
-    const Ptr<ui::Command>& active = ui::hostAtHand().ui().runner().active();
+    const Ptr<ui::CommandObject>& active = ui::hostAtHand().ui().runner().active();
     return active && active->isShown() ? active : nullptr;
 }
 
 ui::DialogSize dialogSize() {
-    const ui::Command& dialog = ui::shownDialog();
+    const ui::CommandObject& dialog = ui::shownDialog();
     const auto& remembered = ui::hostAtHand().ui().rememberedSizes;
     const auto found = remembered.find(dialog.definition()->identifier());
     ui::DialogSize size = found == remembered.end() ? dialog.initialSize() : found->second;
@@ -120,7 +120,7 @@ void drainRequests() { ui::hostAtHand().ui().runner().drainRequests(); }
 
 void closePalette(const std::string& id) {
     const UserAction acting;
-    const Ptr<ui::Palette> palette = acting.ui().allPalettes().find(id);
+    const Ptr<ui::PaletteObject> palette = acting.ui().allPalettes().find(id);
     if (!palette || !palette->state.visible || !palette->state.closeButton) {
         throw MisuseError("cannot close the palette " + id + ": " +
                           (!palette                  ? "there is none of this id"
@@ -132,7 +132,7 @@ void closePalette(const std::string& id) {
 
 void activateWorkspace(const std::string& id) {
     UserAction acting;
-    const Ptr<ui::Workspace> workspace = acting.ui().spaces().find(id);
+    const Ptr<ui::WorkspaceObject> workspace = acting.ui().spaces().find(id);
     if (!workspace) {
         throw MisuseError("cannot show the workspace " + id + ": there is none of this id");
     }
@@ -142,13 +142,13 @@ void activateWorkspace(const std::string& id) {
 
 std::vector<std::string> showMarkingMenu() {
     UserAction acting;
-    const Ptr<ui::MarkingMenuEvent>& event = acting.ui().menuEvent;
-    const Ptr<ui::LinearMarkingMenu> linear = make<ui::LinearMarkingMenu>();
-    const Ptr<ui::RadialMarkingMenu> radial = make<ui::RadialMarkingMenu>();
-    event->fire(make<ui::MarkingMenuArguments>(event, linear, radial,
-                                               acting.ui().selections().list.entities()));
+    const Ptr<ui::MarkingMenuEventObject>& event = acting.ui().menuEvent;
+    const Ptr<ui::LinearMarkingMenuObject> linear = make<ui::LinearMarkingMenuObject>();
+    const Ptr<ui::RadialMarkingMenuObject> radial = make<ui::RadialMarkingMenuObject>();
+    event->fire(make<ui::MarkingMenuEventArgsObject>(event, linear, radial,
+                                                     acting.ui().selections().list.entities()));
     std::vector<std::string> shown;
-    for (const Ptr<ui::CommandControl>& each : linear->entries().all()) {
+    for (const Ptr<ui::CommandControlObject>& each : linear->entries().all()) {
         if (each->shown() && each->definition()->isValid()) {
             shown.push_back(each->identifier());
         }

@@ -2,23 +2,23 @@
 
 namespace host::ui {
 
-core::UserLanguages GeneralPreferences::userLanguage() const {
+core::UserLanguages GeneralPreferencesObject::userLanguage() const {
     if (closed<"GeneralPreferences::userLanguage">(*this)) return {};
     return language_;
 }
 
-bool GeneralPreferences::userLanguage(core::UserLanguages value) {
+bool GeneralPreferencesObject::userLanguage(core::UserLanguages value) {
     if (closed<"GeneralPreferences::userLanguage">(*this)) return {};
     language_ = value;
     return true;
 }
 
-core::Ptr<core::GeneralPreferences> Preferences::generalPreferences() const {
+core::Ptr<core::GeneralPreferences> PreferencesObject::generalPreferences() const {
     if (closed<"Preferences::generalPreferences">(*this)) return {};
     return general_;
 }
 
-void Preferences::dispose() {
+void PreferencesObject::dispose() {
     general_->invalidate();
     invalidate();
 }

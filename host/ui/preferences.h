@@ -8,9 +8,9 @@ namespace host::ui {
 
 namespace core = adsk::core;
 
-class GeneralPreferences final : public Object<core::GeneralPreferences> {
+class GeneralPreferencesObject final : public Object<core::GeneralPreferences> {
 public:
-    GeneralPreferences() = default;
+    GeneralPreferencesObject() = default;
 
     [[nodiscard]] core::UserLanguages userLanguage() const override;
     bool userLanguage(core::UserLanguages value) override;
@@ -19,15 +19,15 @@ private:
     core::UserLanguages language_ = core::EnglishLanguage;
 };
 
-class Preferences final : public Object<core::Preferences> {
+class PreferencesObject final : public Object<core::Preferences> {
 public:
-    Preferences() : general_(make<GeneralPreferences>()) {}
+    PreferencesObject() : general_(make<GeneralPreferencesObject>()) {}
 
     [[nodiscard]] core::Ptr<core::GeneralPreferences> generalPreferences() const override;
     void dispose();
 
 private:
-    core::Ptr<GeneralPreferences> general_;
+    core::Ptr<GeneralPreferencesObject> general_;
 };
 
 }  // namespace host::ui

@@ -10,170 +10,172 @@
 namespace host::ui {
 
 // The names that records show for what a handler threw.
-UserInterface::UserInterface(const HostSetup& setup, const ActiveModel& model)
-    : startingEvent(make<ApplicationEvent>("OnCommandStarting", this)),
-      createdEvent(make<ApplicationEvent>("OnApplicationCommandCreated", this)),
-      terminatedEvent(make<ApplicationEvent>("OnCommandTerminated", this)),
-      preActivateEvent(make<WorkspaceEvent>("OnWorkspacePreActivate", this)),
-      activatedEvent(make<WorkspaceEvent>("OnWorkspaceActivated", this)),
-      preDeactivateEvent(make<WorkspaceEvent>("OnWorkspacePreDeactivate", this)),
-      deactivatedEvent(make<WorkspaceEvent>("OnWorkspaceDeactivated", this)),
-      menuEvent(make<MarkingMenuEvent>("OnMarkingMenuDisplaying", this)),
+UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveModel& model)
+    : startingEvent(make<ApplicationCommandEventObject>("OnCommandStarting", this)),
+      createdEvent(make<ApplicationCommandEventObject>("OnApplicationCommandCreated", this)),
+      terminatedEvent(make<ApplicationCommandEventObject>("OnCommandTerminated", this)),
+      preActivateEvent(make<WorkspaceEventObject>("OnWorkspacePreActivate", this)),
+      activatedEvent(make<WorkspaceEventObject>("OnWorkspaceActivated", this)),
+      preDeactivateEvent(make<WorkspaceEventObject>("OnWorkspacePreDeactivate", this)),
+      deactivatedEvent(make<WorkspaceEventObject>("OnWorkspaceDeactivated", this)),
+      menuEvent(make<MarkingMenuEventObject>("OnMarkingMenuDisplaying", this)),
       model_(&model),
       runner_(this, setup.codeChanges),
-      definitions_(make<CommandDefinitions>(&runner_)),
-      workspaces_(make<Workspaces>(this, setup.workspaces)),
-      panels_(make<ToolbarPanelList>(workspaces_.get())),
-      palettes_(make<Palettes>()),
-      selections_(make<Selections>()) {
+      definitions_(make<CommandDefinitionsObject>(&runner_)),
+      workspaces_(make<WorkspacesObject>(this, setup.workspaces)),
+      panels_(make<ToolbarPanelListObject>(workspaces_.get())),
+      palettes_(make<PalettesObject>()),
+      selections_(make<SelectionsObject>()) {
     createDefaultLayout(setup);
 }
 
 // What stands in the toolbars before any module comes.
-void UserInterface::createDefaultLayout(const HostSetup& setup) {
+void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
     if (setup.selectCommand) {
         runner_.setIdleCommand(definitions_->addNative("SelectCommand", "Select"));
     }
     if (!workspaces_->active()) return;
-    const core::Ptr<ToolbarPanel> panel = workspaces_->active()->toolsTab().add(
+    const core::Ptr<ToolbarPanelObject> panel = workspaces_->active()->toolsTab().add(
         "SolidScriptsAddinsPanel", "Add-Ins", /*native=*/true, /*place=*/0);
     if (setup.repeatControl) {
         panel->buttons().append(definitions_->addNative("RepeatCommand", "Repeat"));
     }
 }
 
-core::Ptr<core::Workspaces> UserInterface::workspaces() const {
+core::Ptr<core::Workspaces> UserInterfaceObject::workspaces() const {
     if (closed<"UserInterface::workspaces">(*this)) return {};
     return workspaces_;
 }
 
-core::Ptr<core::Workspace> UserInterface::activeWorkspace() const {
+core::Ptr<core::Workspace> UserInterfaceObject::activeWorkspace() const {
     if (closed<"UserInterface::activeWorkspace">(*this)) return {};
     return workspaces_->active();
 }
 
-core::Ptr<core::ToolbarPanelList> UserInterface::allToolbarPanels() const {
+core::Ptr<core::ToolbarPanelList> UserInterfaceObject::allToolbarPanels() const {
     if (closed<"UserInterface::allToolbarPanels">(*this)) return {};
     return panels_;
 }
 
-core::Ptr<core::ToolbarTabList> UserInterface::toolbarTabsByProductType(
+core::Ptr<core::ToolbarTabList> UserInterfaceObject::toolbarTabsByProductType(
     const std::string& productType) const {
     if (closed<"UserInterface::toolbarTabsByProductType">(*this)) return {};
-    if (const core::Ptr<ToolbarTabList> found = entryOf(tabLists_, productType)) return found;
-    tabLists_.push_back(make<ToolbarTabList>(workspaces_.get(), productType));
+    if (const core::Ptr<ToolbarTabListObject> found = entryOf(tabLists_, productType)) return found;
+    tabLists_.push_back(make<ToolbarTabListObject>(workspaces_.get(), productType));
     return tabLists_.back();
 }
 
-core::Ptr<core::Palettes> UserInterface::palettes() const {
+core::Ptr<core::Palettes> UserInterfaceObject::palettes() const {
     if (closed<"UserInterface::palettes">(*this)) return {};
     return palettes_;
 }
 
-core::Ptr<core::CommandDefinitions> UserInterface::commandDefinitions() const {
+core::Ptr<core::CommandDefinitions> UserInterfaceObject::commandDefinitions() const {
     if (closed<"UserInterface::commandDefinitions">(*this)) return {};
     return definitions_;
 }
 
-core::Ptr<core::Selections> UserInterface::activeSelections() const {
+core::Ptr<core::Selections> UserInterfaceObject::activeSelections() const {
     if (closed<"UserInterface::activeSelections">(*this)) return {};
     return selections_;
 }
 
-core::Ptr<core::ApplicationCommandEvent> UserInterface::commandStarting() const {
+core::Ptr<core::ApplicationCommandEvent> UserInterfaceObject::commandStarting() const {
     if (closed<"UserInterface::commandStarting">(*this)) return {};
     return startingEvent;
 }
 
-core::Ptr<core::ApplicationCommandEvent> UserInterface::commandCreated() const {
+core::Ptr<core::ApplicationCommandEvent> UserInterfaceObject::commandCreated() const {
     if (closed<"UserInterface::commandCreated">(*this)) return {};
     return createdEvent;
 }
 
-core::Ptr<core::ApplicationCommandEvent> UserInterface::commandTerminated() const {
+core::Ptr<core::ApplicationCommandEvent> UserInterfaceObject::commandTerminated() const {
     if (closed<"UserInterface::commandTerminated">(*this)) return {};
     return terminatedEvent;
 }
 
-core::Ptr<core::WorkspaceEvent> UserInterface::workspacePreActivate() const {
+core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspacePreActivate() const {
     if (closed<"UserInterface::workspacePreActivate">(*this)) return {};
     return preActivateEvent;
 }
 
-core::Ptr<core::WorkspaceEvent> UserInterface::workspaceActivated() const {
+core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspaceActivated() const {
     if (closed<"UserInterface::workspaceActivated">(*this)) return {};
     return activatedEvent;
 }
 
-core::Ptr<core::WorkspaceEvent> UserInterface::workspacePreDeactivate() const {
+core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspacePreDeactivate() const {
     if (closed<"UserInterface::workspacePreDeactivate">(*this)) return {};
     return preDeactivateEvent;
 }
 
-core::Ptr<core::WorkspaceEvent> UserInterface::workspaceDeactivated() const {
+core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspaceDeactivated() const {
     if (closed<"UserInterface::workspaceDeactivated">(*this)) return {};
     return deactivatedEvent;
 }
 
-core::Ptr<core::MarkingMenuEvent> UserInterface::markingMenuDisplaying() const {
+core::Ptr<core::MarkingMenuEvent> UserInterfaceObject::markingMenuDisplaying() const {
     if (closed<"UserInterface::markingMenuDisplaying">(*this)) return {};
     return menuEvent;
 }
 
-core::DialogResults UserInterface::messageBox(const std::string& text, const std::string& title,
-                                              core::MessageBoxButtonTypes buttons,
-                                              core::MessageBoxIconTypes icon) {
+core::DialogResults UserInterfaceObject::messageBox(const std::string& text,
+                                                    const std::string& title,
+                                                    core::MessageBoxButtonTypes buttons,
+                                                    core::MessageBoxIconTypes icon) {
     if (closed<"UserInterface::messageBox">(*this)) return {};
     return showMessage({text, title, buttons, icon, core::DialogOK});
 }
 
-core::Ptr<core::FileDialog> UserInterface::createFileDialog() {
+core::Ptr<core::FileDialog> UserInterfaceObject::createFileDialog() {
     if (closed<"UserInterface::createFileDialog">(*this)) return {};
-    return make<FileDialog>();
+    return make<FileDialogObject>();
 }
 
-core::Ptr<core::ProgressDialog> UserInterface::createProgressDialog() {
+core::Ptr<core::ProgressDialog> UserInterfaceObject::createProgressDialog() {
     if (closed<"UserInterface::createProgressDialog">(*this)) return {};
-    return make<ProgressDialog>();
+    return make<ProgressDialogObject>();
 }
 
-bool UserInterface::terminateActiveCommand() {
+bool UserInterfaceObject::terminateActiveCommand() {
     if (closed<"UserInterface::terminateActiveCommand">(*this)) return {};
     return runner_.terminate();
 }
 
-std::string UserInterface::activeCommand() const {
+std::string UserInterfaceObject::activeCommand() const {
     if (closed<"UserInterface::activeCommand">(*this)) return {};
     return runner_.active() ? runner_.active()->definition()->identifier() : "";
 }
 
-bool UserInterface::isRootComponent(const core::Ptr<core::Base>& entity) const {
+bool UserInterfaceObject::isRootComponent(const core::Ptr<core::Base>& entity) const {
     return model_ != nullptr && model_->isRootComponent(entity);
 }
 
-std::uint64_t UserInterface::editsOfModel() const {
+std::uint64_t UserInterfaceObject::editsOfModel() const {
     return model_ != nullptr ? model_->editsOfModel() : 0;
 }
 
-void UserInterface::leaveWorkspace() {
+void UserInterfaceObject::leaveWorkspace() {
     if (runner_.active()) {
         runner_.end(core::CancelledTerminationReason);
     }
 }
 
-void UserInterface::dispose() {
+void UserInterfaceObject::dispose() {
     runner_.dispose();
-    for (const core::Ptr<ApplicationEvent>& each : {startingEvent, createdEvent, terminatedEvent}) {
+    for (const core::Ptr<ApplicationCommandEventObject>& each :
+         {startingEvent, createdEvent, terminatedEvent}) {
         each->dispose();
     }
-    for (const core::Ptr<WorkspaceEvent>& each :
+    for (const core::Ptr<WorkspaceEventObject>& each :
          {preActivateEvent, activatedEvent, preDeactivateEvent, deactivatedEvent}) {
         each->dispose();
     }
     menuEvent->dispose();
     definitions_->dispose();
     panels_->dispose();
-    for (const core::Ptr<ToolbarTabList>& each : tabLists_) {
+    for (const core::Ptr<ToolbarTabListObject>& each : tabLists_) {
         each->dispose();
     }
     workspaces_->dispose();

@@ -25,10 +25,10 @@ struct ModelHistory {
     std::function<void()> takeBack;  ///< returns to the state that was marked last
 };
 
-class UserInterface final : public Object<core::UserInterface> {
+class UserInterfaceObject final : public Object<core::UserInterface> {
 public:
     /// The model has to live until `dispose`.
-    UserInterface(const HostSetup& setup, const ActiveModel& model);
+    UserInterfaceObject(const HostSetup& setup, const ActiveModel& model);
 
     [[nodiscard]] core::Ptr<core::Workspaces> workspaces() const override;
     [[nodiscard]] core::Ptr<core::Workspace> activeWorkspace() const override;
@@ -57,10 +57,10 @@ public:
     /// @name For the host itself
     /// @{
     [[nodiscard]] CommandRunner& runner() { return runner_; }
-    [[nodiscard]] Workspaces& spaces() const { return *workspaces_; }
-    [[nodiscard]] CommandDefinitions& definitions() const { return *definitions_; }
-    [[nodiscard]] Palettes& allPalettes() const { return *palettes_; }
-    [[nodiscard]] Selections& selections() const { return *selections_; }
+    [[nodiscard]] WorkspacesObject& spaces() const { return *workspaces_; }
+    [[nodiscard]] CommandDefinitionsObject& definitions() const { return *definitions_; }
+    [[nodiscard]] PalettesObject& allPalettes() const { return *palettes_; }
+    [[nodiscard]] SelectionsObject& selections() const { return *selections_; }
 
     /// Whether this is the root component of the active document's design.
     [[nodiscard]] bool isRootComponent(const core::Ptr<core::Base>& entity) const;
@@ -78,14 +78,14 @@ public:
     /// The sizes that a person gave to dialogs, by the ids of their commands.
     std::map<std::string, DialogSize> rememberedSizes;
 
-    const core::Ptr<ApplicationEvent> startingEvent;
-    const core::Ptr<ApplicationEvent> createdEvent;
-    const core::Ptr<ApplicationEvent> terminatedEvent;
-    const core::Ptr<WorkspaceEvent> preActivateEvent;
-    const core::Ptr<WorkspaceEvent> activatedEvent;
-    const core::Ptr<WorkspaceEvent> preDeactivateEvent;
-    const core::Ptr<WorkspaceEvent> deactivatedEvent;
-    const core::Ptr<MarkingMenuEvent> menuEvent;
+    const core::Ptr<ApplicationCommandEventObject> startingEvent;
+    const core::Ptr<ApplicationCommandEventObject> createdEvent;
+    const core::Ptr<ApplicationCommandEventObject> terminatedEvent;
+    const core::Ptr<WorkspaceEventObject> preActivateEvent;
+    const core::Ptr<WorkspaceEventObject> activatedEvent;
+    const core::Ptr<WorkspaceEventObject> preDeactivateEvent;
+    const core::Ptr<WorkspaceEventObject> deactivatedEvent;
+    const core::Ptr<MarkingMenuEventObject> menuEvent;
     /// @}
 
 private:
@@ -93,12 +93,13 @@ private:
 
     const ActiveModel* model_;  ///< null once the host has ended
     CommandRunner runner_;
-    core::Ptr<CommandDefinitions> definitions_;
-    core::Ptr<Workspaces> workspaces_;
-    core::Ptr<ToolbarPanelList> panels_;
-    mutable std::vector<core::Ptr<ToolbarTabList>> tabLists_;  ///< one for each type asked for
-    core::Ptr<Palettes> palettes_;
-    core::Ptr<Selections> selections_;
+    core::Ptr<CommandDefinitionsObject> definitions_;
+    core::Ptr<WorkspacesObject> workspaces_;
+    core::Ptr<ToolbarPanelListObject> panels_;
+    mutable std::vector<core::Ptr<ToolbarTabListObject>>
+        tabLists_;  ///< one for each type asked for
+    core::Ptr<PalettesObject> palettes_;
+    core::Ptr<SelectionsObject> selections_;
 };
 
 }  // namespace host::ui

@@ -7,132 +7,132 @@
 namespace host::ui {
 
 // The names that records show for what a handler threw.
-Command::Command(core::Ptr<CommandDefinition> definition, CommandRunner* runner)
-    : executeEvent(make<CommandEvent>("OnExecute", this)),
-      previewEvent(make<CommandEvent>("OnExecutePreview", this)),
-      activateEvent(make<CommandEvent>("OnActivate", this)),
-      deactivateEvent(make<CommandEvent>("OnDeactivate", this)),
-      destroyEvent(make<CommandEvent>("OnDestroy", this)),
-      changedEvent(make<ChangedEvent>("OnInputChanged", this)),
-      validateEvent(make<ValidateEvent>("OnValidateInputs", this)),
+CommandObject::CommandObject(core::Ptr<CommandDefinitionObject> definition, CommandRunner* runner)
+    : executeEvent(make<CommandEventObject>("OnExecute", this)),
+      previewEvent(make<CommandEventObject>("OnExecutePreview", this)),
+      activateEvent(make<CommandEventObject>("OnActivate", this)),
+      deactivateEvent(make<CommandEventObject>("OnDeactivate", this)),
+      destroyEvent(make<CommandEventObject>("OnDestroy", this)),
+      changedEvent(make<InputChangedEventObject>("OnInputChanged", this)),
+      validateEvent(make<ValidateInputsEventObject>("OnValidateInputs", this)),
       definition_(std::move(definition)),
       runner_(runner),
-      inputs_(make<CommandInputs>(this, nullptr)) {}
+      inputs_(make<CommandInputsObject>(this, nullptr)) {}
 
-core::Ptr<core::CommandInputs> Command::commandInputs() const {
+core::Ptr<core::CommandInputs> CommandObject::commandInputs() const {
     if (closed<"Command::commandInputs">(*this)) return {};
     return inputs_;
 }
 
-core::Ptr<core::CommandDefinition> Command::parentCommandDefinition() const {
+core::Ptr<core::CommandDefinition> CommandObject::parentCommandDefinition() const {
     if (closed<"Command::parentCommandDefinition">(*this)) return {};
     return definition_;
 }
 
-core::Ptr<core::CommandEvent> Command::execute() const {
+core::Ptr<core::CommandEvent> CommandObject::execute() const {
     if (closed<"Command::execute">(*this)) return {};
     return executeEvent;
 }
 
-core::Ptr<core::CommandEvent> Command::executePreview() const {
+core::Ptr<core::CommandEvent> CommandObject::executePreview() const {
     if (closed<"Command::executePreview">(*this)) return {};
     return previewEvent;
 }
 
-core::Ptr<core::CommandEvent> Command::activate() const {
+core::Ptr<core::CommandEvent> CommandObject::activate() const {
     if (closed<"Command::activate">(*this)) return {};
     return activateEvent;
 }
 
-core::Ptr<core::CommandEvent> Command::deactivate() const {
+core::Ptr<core::CommandEvent> CommandObject::deactivate() const {
     if (closed<"Command::deactivate">(*this)) return {};
     return deactivateEvent;
 }
 
-core::Ptr<core::CommandEvent> Command::destroy() const {
+core::Ptr<core::CommandEvent> CommandObject::destroy() const {
     if (closed<"Command::destroy">(*this)) return {};
     return destroyEvent;
 }
 
-core::Ptr<core::InputChangedEvent> Command::inputChanged() const {
+core::Ptr<core::InputChangedEvent> CommandObject::inputChanged() const {
     if (closed<"Command::inputChanged">(*this)) return {};
     return changedEvent;
 }
 
-core::Ptr<core::ValidateInputsEvent> Command::validateInputs() const {
+core::Ptr<core::ValidateInputsEvent> CommandObject::validateInputs() const {
     if (closed<"Command::validateInputs">(*this)) return {};
     return validateEvent;
 }
 
-std::string Command::okButtonText() const {
+std::string CommandObject::okButtonText() const {
     if (closed<"Command::okButtonText">(*this)) return {};
     return okText_;
 }
 
-bool Command::okButtonText(const std::string& value) {
+bool CommandObject::okButtonText(const std::string& value) {
     if (closed<"Command::okButtonText">(*this)) return {};
     okText_ = value;
     dressed_ = true;
     return true;
 }
 
-std::string Command::cancelButtonText() const {
+std::string CommandObject::cancelButtonText() const {
     if (closed<"Command::cancelButtonText">(*this)) return {};
     return cancelText_;
 }
 
-bool Command::cancelButtonText(const std::string& value) {
+bool CommandObject::cancelButtonText(const std::string& value) {
     if (closed<"Command::cancelButtonText">(*this)) return {};
     cancelText_ = value;
     dressed_ = true;
     return true;
 }
 
-bool Command::isOKButtonVisible() const {
+bool CommandObject::isOKButtonVisible() const {
     if (closed<"Command::isOKButtonVisible">(*this)) return {};
     return okVisible_;
 }
 
-bool Command::isOKButtonVisible(bool value) {
+bool CommandObject::isOKButtonVisible(bool value) {
     if (closed<"Command::isOKButtonVisible">(*this)) return {};
     okVisible_ = value;
     return true;
 }
 
-bool Command::isAutoExecute() const {
+bool CommandObject::isAutoExecute() const {
     if (closed<"Command::isAutoExecute">(*this)) return {};
     return autoExecute_;
 }
 
-bool Command::isAutoExecute(bool value) {
+bool CommandObject::isAutoExecute(bool value) {
     if (closed<"Command::isAutoExecute">(*this)) return {};
     autoExecute_ = value;
     return true;
 }
 
-bool Command::isExecutedWhenPreEmpted() const {
+bool CommandObject::isExecutedWhenPreEmpted() const {
     if (closed<"Command::isExecutedWhenPreEmpted">(*this)) return {};
     return executedWhenPreEmpted_;
 }
 
-bool Command::isExecutedWhenPreEmpted(bool value) {
+bool CommandObject::isExecutedWhenPreEmpted(bool value) {
     if (closed<"Command::isExecutedWhenPreEmpted">(*this)) return {};
     executedWhenPreEmpted_ = value;
     return true;
 }
 
-bool Command::isRepeatable() const {
+bool CommandObject::isRepeatable() const {
     if (closed<"Command::isRepeatable">(*this)) return {};
     return repeatable_;
 }
 
-bool Command::isRepeatable(bool value) {
+bool CommandObject::isRepeatable(bool value) {
     if (closed<"Command::isRepeatable">(*this)) return {};
     repeatable_ = value;
     return true;
 }
 
-bool Command::setDialogInitialSize(int width, int height) {
+bool CommandObject::setDialogInitialSize(int width, int height) {
     if (closed<"Command::setDialogInitialSize">(*this)) return {};
     if (shown_) {
         return misuse("Command::setDialogInitialSize", "the dialog shows already");
@@ -142,31 +142,31 @@ bool Command::setDialogInitialSize(int width, int height) {
     return true;
 }
 
-bool Command::setDialogMinimumSize(int width, int height) {
+bool CommandObject::setDialogMinimumSize(int width, int height) {
     if (closed<"Command::setDialogMinimumSize">(*this)) return {};
     minimumSize_ = {width, height};
     dressed_ = true;
     return true;
 }
 
-bool Command::doExecute(bool terminate) {
+bool CommandObject::doExecute(bool terminate) {
     if (closed<"Command::doExecute">(*this)) return {};
     return runner_->executeByCode(terminate);
 }
 
-UserInterface& Command::ui() const { return runner_->ui(); }
+UserInterfaceObject& CommandObject::ui() const { return runner_->ui(); }
 
-bool Command::isOpen() const {
+bool CommandObject::isOpen() const {
     return shown_ && runner_ != nullptr && runner_->active().get() == this;
 }
 
-InputState* Command::activeTab() const {
+InputState* CommandObject::activeTab() const {
     if (activeTab_ != nullptr) return activeTab_;
     const std::vector<InputState*> tabs = inputs_->ofKind(InputKind::Tab);
     return tabs.empty() ? nullptr : tabs.front();
 }
 
-InputState& Command::tabBar() {
+InputState& CommandObject::tabBar() {
     if (!tabBar_) {
         const std::string id = "APITabBar";
         tabBar_ = make<TabBar>(InputOrigin{inputs_.get(), &id, texts_.share("")});
@@ -174,18 +174,18 @@ InputState& Command::tabBar() {
     return *tabBar_;
 }
 
-InputState* Command::focus() const {
+InputState* CommandObject::focus() const {
     if (focusGiven_) return focus_;
     const std::vector<InputState*> selections = inputs_->ofKind(InputKind::Selection);
     return selections.empty() ? nullptr : selections.front();
 }
 
-void Command::focus(InputState* selection) {
+void CommandObject::focus(InputState* selection) {
     focus_ = selection;
     focusGiven_ = true;
 }
 
-void Command::forget(const InputState& input) {
+void CommandObject::forget(const InputState& input) {
     if (activeTab_ == &input) {
         activeTab_ = nullptr;
     }
@@ -195,19 +195,19 @@ void Command::forget(const InputState& input) {
     }
 }
 
-void Command::changedByCode(InputState& input, CodeChange what) {
+void CommandObject::changedByCode(InputState& input, CodeChange what) {
     if (runner_ != nullptr) {
         runner_->changedByCode(input, what);
     }
 }
 
-void Command::dispose() {
+void CommandObject::dispose() {
     runner_ = nullptr;
     if (tabBar_) {
         tabBar_->retire();
     }
     inputs_->dispose();
-    for (const core::Ptr<CommandEvent>& each :
+    for (const core::Ptr<CommandEventObject>& each :
          {executeEvent, previewEvent, activateEvent, deactivateEvent, destroyEvent}) {
         each->dispose();
     }

@@ -11,9 +11,9 @@
 namespace host::ui {
 
 class CommandRunner;
-class SelectionInput;
-class TabInput;
-class UserInterface;
+class SelectionCommandInputObject;
+class TabCommandInputObject;
+class UserInterfaceObject;
 
 /// A size in pixels; nothing where it is 0 by 0.
 struct DialogSize {
@@ -24,17 +24,17 @@ struct DialogSize {
 };
 
 /// The row of tabs, which reports changes of tab.
-class TabBar final : public Input<core::CommandInput> {
+class TabBar final : public CommandInputObject<core::CommandInput> {
 public:
-    explicit TabBar(const InputOrigin& origin) : Input(origin, InputKind::TabBar) {}
+    explicit TabBar(const InputOrigin& origin) : CommandInputObject(origin, InputKind::TabBar) {}
 };
 
 /// One run of a command definition: what the module sees of it, and what its dialog shows.
 ///
 /// `CommandRunner` leads it through its life.
-class Command final : public Object<core::Command> {
+class CommandObject final : public Object<core::Command> {
 public:
-    Command(core::Ptr<CommandDefinition> definition, CommandRunner* runner);
+    CommandObject(core::Ptr<CommandDefinitionObject> definition, CommandRunner* runner);
 
     [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override;
     [[nodiscard]] core::Ptr<core::CommandDefinition> parentCommandDefinition() const override;
@@ -65,13 +65,15 @@ public:
     /// @{
 
     /// The user interface in which it runs; only until `dispose`.
-    [[nodiscard]] UserInterface& ui() const;
+    [[nodiscard]] UserInterfaceObject& ui() const;
 
-    [[nodiscard]] TextPool& texts() { return texts_; }
+    [[nodiscard]] StringPool& texts() { return texts_; }
     [[nodiscard]] std::uint32_t nextSerial() { return ++newestSerial_; }
     [[nodiscard]] std::uint32_t newestSerial() const { return newestSerial_; }
-    [[nodiscard]] CommandInputs& inputs() const { return *inputs_; }
-    [[nodiscard]] const core::Ptr<CommandDefinition>& definition() const { return definition_; }
+    [[nodiscard]] CommandInputsObject& inputs() const { return *inputs_; }
+    [[nodiscard]] const core::Ptr<CommandDefinitionObject>& definition() const {
+        return definition_;
+    }
 
     /// The tab that shows: the one that was activated, else the first; null without any.
     [[nodiscard]] InputState* activeTab() const;
@@ -109,21 +111,21 @@ public:
     /// Ends it: handles find an invalid command, and its inputs are gone.
     void dispose();
 
-    const core::Ptr<CommandEvent> executeEvent;
-    const core::Ptr<CommandEvent> previewEvent;
-    const core::Ptr<CommandEvent> activateEvent;
-    const core::Ptr<CommandEvent> deactivateEvent;
-    const core::Ptr<CommandEvent> destroyEvent;
-    const core::Ptr<ChangedEvent> changedEvent;
-    const core::Ptr<ValidateEvent> validateEvent;
+    const core::Ptr<CommandEventObject> executeEvent;
+    const core::Ptr<CommandEventObject> previewEvent;
+    const core::Ptr<CommandEventObject> activateEvent;
+    const core::Ptr<CommandEventObject> deactivateEvent;
+    const core::Ptr<CommandEventObject> destroyEvent;
+    const core::Ptr<InputChangedEventObject> changedEvent;
+    const core::Ptr<ValidateInputsEventObject> validateEvent;
     /// @}
 
 private:
-    core::Ptr<CommandDefinition> definition_;
+    core::Ptr<CommandDefinitionObject> definition_;
     CommandRunner* runner_;
-    TextPool texts_;
+    StringPool texts_;
     std::uint32_t newestSerial_ = 0;
-    core::Ptr<CommandInputs> inputs_;
+    core::Ptr<CommandInputsObject> inputs_;
     core::Ptr<TabBar> tabBar_;
     InputState* activeTab_ = nullptr;
     InputState* focus_ = nullptr;

@@ -19,9 +19,10 @@ bool isId(const std::string& text) {
 
 }  // namespace
 
-CommandDefinition::CommandDefinition(CommandDefinitions* owner, std::string id, std::string name,
-                                     std::string tooltip, std::string resourceFolder, bool native)
-    : createdEvent(make<CreatedEvent>("OnCommandCreated", this)),
+CommandDefinitionObject::CommandDefinitionObject(CommandDefinitionsObject* owner, std::string id,
+                                                 std::string name, std::string tooltip,
+                                                 std::string resourceFolder, bool native)
+    : createdEvent(make<CommandCreatedEventObject>("OnCommandCreated", this)),
       owner_(owner),
       id_(std::move(id)),
       name_(std::move(name)),
@@ -29,56 +30,56 @@ CommandDefinition::CommandDefinition(CommandDefinitions* owner, std::string id, 
       resourceFolder_(std::move(resourceFolder)),
       native_(native) {}
 
-std::string CommandDefinition::id() const {
+std::string CommandDefinitionObject::id() const {
     if (closed<"CommandDefinition::id">(*this)) return {};
     return id_;
 }
 
-std::string CommandDefinition::name() const {
+std::string CommandDefinitionObject::name() const {
     if (closed<"CommandDefinition::name">(*this)) return {};
     return name_;
 }
 
-bool CommandDefinition::name(const std::string& value) {
+bool CommandDefinitionObject::name(const std::string& value) {
     if (closed<"CommandDefinition::name">(*this)) return {};
     name_ = value;
     return true;
 }
 
-std::string CommandDefinition::tooltip() const {
+std::string CommandDefinitionObject::tooltip() const {
     if (closed<"CommandDefinition::tooltip">(*this)) return {};
     return tooltip_;
 }
 
-bool CommandDefinition::tooltip(const std::string& value) {
+bool CommandDefinitionObject::tooltip(const std::string& value) {
     if (closed<"CommandDefinition::tooltip">(*this)) return {};
     tooltip_ = value;
     return true;
 }
 
-std::string CommandDefinition::resourceFolder() const {
+std::string CommandDefinitionObject::resourceFolder() const {
     if (closed<"CommandDefinition::resourceFolder">(*this)) return {};
     return resourceFolder_;
 }
 
-bool CommandDefinition::resourceFolder(const std::string& value) {
+bool CommandDefinitionObject::resourceFolder(const std::string& value) {
     if (closed<"CommandDefinition::resourceFolder">(*this)) return {};
     resourceFolder_ = value;
     return true;
 }
 
-core::Ptr<core::CommandCreatedEvent> CommandDefinition::commandCreated() const {
+core::Ptr<core::CommandCreatedEvent> CommandDefinitionObject::commandCreated() const {
     if (closed<"CommandDefinition::commandCreated">(*this)) return {};
     return createdEvent;
 }
 
-bool CommandDefinition::execute(const core::Ptr<core::NamedValues>& /*input*/) {
+bool CommandDefinitionObject::execute(const core::Ptr<core::NamedValues>& /*input*/) {
     if (closed<"CommandDefinition::execute">(*this)) return {};
-    owner_->runner().request(core::Ptr<CommandDefinition>(this));
+    owner_->runner().request(core::Ptr<CommandDefinitionObject>(this));
     return true;
 }
 
-bool CommandDefinition::deleteMe() {
+bool CommandDefinitionObject::deleteMe() {
     if (closed<"CommandDefinition::deleteMe">(*this)) return {};
     if (native_) {
         return fail(core::OperationFailed,
@@ -88,28 +89,28 @@ bool CommandDefinition::deleteMe() {
     return true;
 }
 
-void CommandDefinition::dispose() {
+void CommandDefinitionObject::dispose() {
     createdEvent->dispose();
     owner_ = nullptr;
     invalidate();
 }
 
-std::size_t CommandDefinitions::count() const {
+std::size_t CommandDefinitionsObject::count() const {
     if (closed<"CommandDefinitions::count">(*this)) return {};
     return all_.size();
 }
 
-core::Ptr<core::CommandDefinition> CommandDefinitions::item(std::size_t index) const {
+core::Ptr<core::CommandDefinition> CommandDefinitionsObject::item(std::size_t index) const {
     if (closed<"CommandDefinitions::item">(*this)) return {};
     return index < all_.size() ? all_[index] : nullptr;
 }
 
-core::Ptr<core::CommandDefinition> CommandDefinitions::itemById(const std::string& id) const {
+core::Ptr<core::CommandDefinition> CommandDefinitionsObject::itemById(const std::string& id) const {
     if (closed<"CommandDefinitions::itemById">(*this)) return {};
     return find(id);
 }
 
-core::Ptr<core::CommandDefinition> CommandDefinitions::addButtonDefinition(
+core::Ptr<core::CommandDefinition> CommandDefinitionsObject::addButtonDefinition(
     const std::string& id, const std::string& name, const std::string& tooltip,
     const std::string& resourceFolder) {
     constexpr const char* kOperation = "CommandDefinitions::addButtonDefinition";
@@ -122,36 +123,36 @@ core::Ptr<core::CommandDefinition> CommandDefinitions::addButtonDefinition(
         misuse(kOperation, "the id \"" + id + "\" is in use");
         return {};
     }
-    core::Ptr<CommandDefinition> made =
-        make<CommandDefinition>(this, id, name, tooltip, resourceFolder, /*native=*/false);
+    core::Ptr<CommandDefinitionObject> made =
+        make<CommandDefinitionObject>(this, id, name, tooltip, resourceFolder, /*native=*/false);
     all_.push_back(made);
     byId_[id] = made;
     return made;
 }
 
-core::Ptr<CommandDefinition> CommandDefinitions::find(const std::string& id) const {
+core::Ptr<CommandDefinitionObject> CommandDefinitionsObject::find(const std::string& id) const {
     const auto found = byId_.find(id);
     return found == byId_.end() ? nullptr : found->second;
 }
 
-core::Ptr<CommandDefinition> CommandDefinitions::addNative(const std::string& id,
-                                                           const std::string& name) {
-    core::Ptr<CommandDefinition> made =
-        make<CommandDefinition>(this, id, name, "", "", /*native=*/true);
+core::Ptr<CommandDefinitionObject> CommandDefinitionsObject::addNative(const std::string& id,
+                                                                       const std::string& name) {
+    core::Ptr<CommandDefinitionObject> made =
+        make<CommandDefinitionObject>(this, id, name, "", "", /*native=*/true);
     all_.push_back(made);
     byId_[id] = made;
     return made;
 }
 
-void CommandDefinitions::remove(CommandDefinition& definition) {
-    const core::Ptr<CommandDefinition> kept(&definition);
+void CommandDefinitionsObject::remove(CommandDefinitionObject& definition) {
+    const core::Ptr<CommandDefinitionObject> kept(&definition);
     byId_.erase(definition.identifier());
     std::erase(all_, kept);
     definition.dispose();
 }
 
-void CommandDefinitions::dispose() {
-    for (const core::Ptr<CommandDefinition>& each : all_) {
+void CommandDefinitionsObject::dispose() {
+    for (const core::Ptr<CommandDefinitionObject>& each : all_) {
         each->dispose();
     }
     all_.clear();

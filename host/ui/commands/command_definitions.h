@@ -11,13 +11,13 @@
 
 namespace host::ui {
 
-class CommandDefinitions;
+class CommandDefinitionsObject;
 class CommandRunner;
 
-class CommandDefinition final : public Object<core::CommandDefinition> {
+class CommandDefinitionObject final : public Object<core::CommandDefinition> {
 public:
-    CommandDefinition(CommandDefinitions* owner, std::string id, std::string name,
-                      std::string tooltip, std::string resourceFolder, bool native);
+    CommandDefinitionObject(CommandDefinitionsObject* owner, std::string id, std::string name,
+                            std::string tooltip, std::string resourceFolder, bool native);
 
     [[nodiscard]] std::string id() const override;
     [[nodiscard]] std::string name() const override;
@@ -34,10 +34,10 @@ public:
     [[nodiscard]] const std::string& caption() const { return name_; }
     void dispose();
 
-    const core::Ptr<CreatedEvent> createdEvent;
+    const core::Ptr<CommandCreatedEventObject> createdEvent;
 
 private:
-    CommandDefinitions* owner_;
+    CommandDefinitionsObject* owner_;
     std::string id_;
     std::string name_;
     std::string tooltip_;
@@ -45,9 +45,9 @@ private:
     bool native_;
 };
 
-class CommandDefinitions final : public Object<core::CommandDefinitions> {
+class CommandDefinitionsObject final : public Object<core::CommandDefinitions> {
 public:
-    explicit CommandDefinitions(CommandRunner* runner) : runner_(runner) {}
+    explicit CommandDefinitionsObject(CommandRunner* runner) : runner_(runner) {}
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::CommandDefinition> item(std::size_t index) const override;
@@ -59,19 +59,21 @@ public:
     /// @name For the host itself
     /// @{
     [[nodiscard]] CommandRunner& runner() const { return *runner_; }
-    [[nodiscard]] core::Ptr<CommandDefinition> find(const std::string& id) const;
-    [[nodiscard]] const std::vector<core::Ptr<CommandDefinition>>& all() const { return all_; }
+    [[nodiscard]] core::Ptr<CommandDefinitionObject> find(const std::string& id) const;
+    [[nodiscard]] const std::vector<core::Ptr<CommandDefinitionObject>>& all() const {
+        return all_;
+    }
 
     /// Adds a definition of the host's own, which cannot be deleted.
-    core::Ptr<CommandDefinition> addNative(const std::string& id, const std::string& name);
-    void remove(CommandDefinition& definition);
+    core::Ptr<CommandDefinitionObject> addNative(const std::string& id, const std::string& name);
+    void remove(CommandDefinitionObject& definition);
     void dispose();
     /// @}
 
 private:
     CommandRunner* runner_;
-    std::vector<core::Ptr<CommandDefinition>> all_;
-    std::unordered_map<std::string, core::Ptr<CommandDefinition>> byId_;
+    std::vector<core::Ptr<CommandDefinitionObject>> all_;
+    std::unordered_map<std::string, core::Ptr<CommandDefinitionObject>> byId_;
 };
 
 }  // namespace host::ui

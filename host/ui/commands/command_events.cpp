@@ -2,101 +2,101 @@
 
 namespace host::ui {
 
-core::Ptr<core::Command> CreatedArguments::command() const {
+core::Ptr<core::Command> CommandCreatedEventArgsObject::command() const {
     if (refused<"CommandCreatedEventArgs::command">()) return {};
     return command_;
 }
 
-core::Ptr<core::Command> CommandArguments::command() const {
+core::Ptr<core::Command> CommandEventArgsObject::command() const {
     if (refused<"CommandEventArgs::command">()) return {};
     return command_;
 }
 
-bool CommandArguments::executeFailed() const {
+bool CommandEventArgsObject::executeFailed() const {
     if (refused<"CommandEventArgs::executeFailed">()) return {};
     return failed_;
 }
 
-bool CommandArguments::executeFailed(bool value) {
+bool CommandEventArgsObject::executeFailed(bool value) {
     if (refused<"CommandEventArgs::executeFailed">()) return {};
     failed_ = value;
     return true;
 }
 
-std::string CommandArguments::executeFailedMessage() const {
+std::string CommandEventArgsObject::executeFailedMessage() const {
     if (refused<"CommandEventArgs::executeFailedMessage">()) return {};
     return message_;
 }
 
-bool CommandArguments::executeFailedMessage(const std::string& value) {
+bool CommandEventArgsObject::executeFailedMessage(const std::string& value) {
     if (refused<"CommandEventArgs::executeFailedMessage">()) return {};
     message_ = value;
     return true;
 }
 
-bool CommandArguments::isValidResult() const {
+bool CommandEventArgsObject::isValidResult() const {
     if (refused<"CommandEventArgs::isValidResult">()) return {};
     return validResult_;
 }
 
-bool CommandArguments::isValidResult(bool value) {
+bool CommandEventArgsObject::isValidResult(bool value) {
     if (refused<"CommandEventArgs::isValidResult">()) return {};
     validResult_ = value;
     return true;
 }
 
-core::CommandTerminationReason CommandArguments::terminationReason() const {
+core::CommandTerminationReason CommandEventArgsObject::terminationReason() const {
     if (refused<"CommandEventArgs::terminationReason">()) return {};
     return reason_;
 }
 
-core::Ptr<core::CommandInput> ChangedArguments::input() const {
+core::Ptr<core::CommandInput> InputChangedEventArgsObject::input() const {
     if (refused<"InputChangedEventArgs::input">()) return {};
     return input_;
 }
 
-core::Ptr<core::CommandInputs> ChangedArguments::inputs() const {
+core::Ptr<core::CommandInputs> InputChangedEventArgsObject::inputs() const {
     if (refused<"InputChangedEventArgs::inputs">()) return {};
     return inputs_;
 }
 
-bool ValidateArguments::areInputsValid() const {
+bool ValidateInputsEventArgsObject::areInputsValid() const {
     if (refused<"ValidateInputsEventArgs::areInputsValid">()) return {};
     return valid_;
 }
 
-bool ValidateArguments::areInputsValid(bool value) {
+bool ValidateInputsEventArgsObject::areInputsValid(bool value) {
     if (refused<"ValidateInputsEventArgs::areInputsValid">()) return {};
     valid_ = value;
     return true;
 }
 
-core::Ptr<core::CommandInputs> ValidateArguments::inputs() const {
+core::Ptr<core::CommandInputs> ValidateInputsEventArgsObject::inputs() const {
     if (refused<"ValidateInputsEventArgs::inputs">()) return {};
     return inputs_;
 }
 
-std::string ApplicationArguments::commandId() const {
+std::string ApplicationCommandEventArgsObject::commandId() const {
     if (refused<"ApplicationCommandEventArgs::commandId">()) return {};
     return commandId_;
 }
 
-core::Ptr<core::CommandDefinition> ApplicationArguments::commandDefinition() const {
+core::Ptr<core::CommandDefinition> ApplicationCommandEventArgsObject::commandDefinition() const {
     if (refused<"ApplicationCommandEventArgs::commandDefinition">()) return {};
     return definition_;
 }
 
-core::CommandTerminationReason ApplicationArguments::terminationReason() const {
+core::CommandTerminationReason ApplicationCommandEventArgsObject::terminationReason() const {
     if (refused<"ApplicationCommandEventArgs::terminationReason">()) return {};
     return reason_;
 }
 
-bool ApplicationArguments::isCanceled() const {
+bool ApplicationCommandEventArgsObject::isCanceled() const {
     if (refused<"ApplicationCommandEventArgs::isCanceled">()) return {};
     return cancelled_;
 }
 
-bool ApplicationArguments::isCanceled(bool value) {
+bool ApplicationCommandEventArgsObject::isCanceled(bool value) {
     constexpr const char* kOperation = "ApplicationCommandEventArgs::isCanceled";
     if (refused<"ApplicationCommandEventArgs::isCanceled">()) return {};
     if (!cancellable_) {

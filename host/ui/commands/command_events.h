@@ -15,9 +15,9 @@ namespace host::ui {
 
 namespace core = adsk::core;
 
-class CreatedArguments final : public Arguments<core::CommandCreatedEventArgs> {
+class CommandCreatedEventArgsObject final : public Arguments<core::CommandCreatedEventArgs> {
 public:
-    CreatedArguments(core::Ptr<core::Event> event, core::Ptr<core::Command> command)
+    CommandCreatedEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::Command> command)
         : Arguments(std::move(event)), command_(std::move(command)) {}
 
     [[nodiscard]] core::Ptr<core::Command> command() const override;
@@ -26,10 +26,10 @@ private:
     core::Ptr<core::Command> command_;
 };
 
-class CommandArguments final : public Arguments<core::CommandEventArgs> {
+class CommandEventArgsObject final : public Arguments<core::CommandEventArgs> {
 public:
-    CommandArguments(core::Ptr<core::Event> event, core::Ptr<core::Command> command,
-                     core::CommandTerminationReason reason = core::UnknownTerminationReason)
+    CommandEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::Command> command,
+                           core::CommandTerminationReason reason = core::UnknownTerminationReason)
         : Arguments(std::move(event)), command_(std::move(command)), reason_(reason) {}
 
     [[nodiscard]] core::Ptr<core::Command> command() const override;
@@ -52,10 +52,10 @@ private:
     std::string message_;
 };
 
-class ChangedArguments final : public Arguments<core::InputChangedEventArgs> {
+class InputChangedEventArgsObject final : public Arguments<core::InputChangedEventArgs> {
 public:
-    ChangedArguments(core::Ptr<core::Event> event, core::Ptr<core::CommandInput> input,
-                     core::Ptr<core::CommandInputs> inputs)
+    InputChangedEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::CommandInput> input,
+                                core::Ptr<core::CommandInputs> inputs)
         : Arguments(std::move(event)), input_(std::move(input)), inputs_(std::move(inputs)) {}
 
     [[nodiscard]] core::Ptr<core::CommandInput> input() const override;
@@ -66,9 +66,10 @@ private:
     core::Ptr<core::CommandInputs> inputs_;
 };
 
-class ValidateArguments final : public Arguments<core::ValidateInputsEventArgs> {
+class ValidateInputsEventArgsObject final : public Arguments<core::ValidateInputsEventArgs> {
 public:
-    ValidateArguments(core::Ptr<core::Event> event, core::Ptr<core::CommandInputs> inputs)
+    ValidateInputsEventArgsObject(core::Ptr<core::Event> event,
+                                  core::Ptr<core::CommandInputs> inputs)
         : Arguments(std::move(event)), inputs_(std::move(inputs)) {}
 
     [[nodiscard]] bool areInputsValid() const override;
@@ -82,12 +83,14 @@ private:
     bool valid_ = true;
 };
 
-class ApplicationArguments final : public Arguments<core::ApplicationCommandEventArgs> {
+class ApplicationCommandEventArgsObject final
+    : public Arguments<core::ApplicationCommandEventArgs> {
 public:
     /// `cancellable` for the event before a command starts.
-    ApplicationArguments(core::Ptr<core::Event> event, std::string commandId,
-                         core::Ptr<core::CommandDefinition> definition, bool cancellable,
-                         core::CommandTerminationReason reason = core::UnknownTerminationReason)
+    ApplicationCommandEventArgsObject(
+        core::Ptr<core::Event> event, std::string commandId,
+        core::Ptr<core::CommandDefinition> definition, bool cancellable,
+        core::CommandTerminationReason reason = core::UnknownTerminationReason)
         : Arguments(std::move(event)),
           commandId_(std::move(commandId)),
           definition_(std::move(definition)),
@@ -110,10 +113,10 @@ private:
     bool cancelled_ = false;
 };
 
-using CreatedEvent = TypedEvent<core::CommandCreatedEvent>;
-using CommandEvent = TypedEvent<core::CommandEvent>;
-using ChangedEvent = TypedEvent<core::InputChangedEvent>;
-using ValidateEvent = TypedEvent<core::ValidateInputsEvent>;
-using ApplicationEvent = TypedEvent<core::ApplicationCommandEvent>;
+using CommandCreatedEventObject = TypedEvent<core::CommandCreatedEvent>;
+using CommandEventObject = TypedEvent<core::CommandEvent>;
+using InputChangedEventObject = TypedEvent<core::InputChangedEvent>;
+using ValidateInputsEventObject = TypedEvent<core::ValidateInputsEvent>;
+using ApplicationCommandEventObject = TypedEvent<core::ApplicationCommandEvent>;
 
 }  // namespace host::ui

@@ -19,7 +19,7 @@ constexpr int kMostStarts = 10;
 /// that runs, none runs.
 class SuspendedCommand {
 public:
-    SuspendedCommand(core::Ptr<Command>& active, bool standsBack, int& busy, int& notifying)
+    SuspendedCommand(core::Ptr<CommandObject>& active, bool standsBack, int& busy, int& notifying)
         : active_(active),
           waiting_(standsBack ? std::exchange(active, nullptr) : nullptr),
           busy_(busy),
@@ -35,8 +35,8 @@ public:
     }
 
 private:
-    core::Ptr<Command>& active_;
-    core::Ptr<Command> waiting_;
+    core::Ptr<CommandObject>& active_;
+    core::Ptr<CommandObject> waiting_;
     int& busy_;
     int& notifying_;
     std::pair<int, int> before_;
@@ -44,7 +44,7 @@ private:
 
 }  // namespace
 
-void CommandRunner::request(const core::Ptr<CommandDefinition>& definition) {
+void CommandRunner::request(const core::Ptr<CommandDefinitionObject>& definition) {
     requested_.push_back(definition);
     drainRequests();
 }
@@ -53,7 +53,7 @@ void CommandRunner::drainRequests() {
     if (busy_ > 0 || gate::state().modules > 0) return;
     do {
         while (!requested_.empty()) {
-            const core::Ptr<CommandDefinition> next = requested_.front();
+            const core::Ptr<CommandDefinitionObject> next = requested_.front();
             requested_.pop_front();
             start(next);
         }
@@ -75,7 +75,7 @@ void CommandRunner::countStart(const std::string& id) {
                       " times without an action of a person in between: it starts itself for ever");
 }
 
-void CommandRunner::start(const core::Ptr<CommandDefinition>& definition) {
+void CommandRunner::start(const core::Ptr<CommandDefinitionObject>& definition) {
     if (!definition->isValid()) return;
     countStart(definition->identifier());
     const ScopedIncrement busy(busy_);
@@ -88,17 +88,17 @@ void CommandRunner::start(const core::Ptr<CommandDefinition>& definition) {
     }
 }
 
-bool CommandRunner::announce(const core::Ptr<CommandDefinition>& definition) {
+bool CommandRunner::announce(const core::Ptr<CommandDefinitionObject>& definition) {
     const ScopedIncrement notifying(notifying_);
-    const auto arguments =
-        make<ApplicationArguments>(ui_->startingEvent, definition->identifier(), definition,
-                                   /*cancellable=*/true);
+    const auto arguments = make<ApplicationCommandEventArgsObject>(
+        ui_->startingEvent, definition->identifier(), definition,
+        /*cancellable=*/true);
     ui_->startingEvent->fire(arguments);
     return !arguments->cancelled();
 }
 
-void CommandRunner::create(const core::Ptr<CommandDefinition>& definition) {
-    const core::Ptr<Command> command = make<Command>(definition, this);
+void CommandRunner::create(const core::Ptr<CommandDefinitionObject>& definition) {
+    const core::Ptr<CommandObject> command = make<CommandObject>(definition, this);
     active_ = command;
     valid_ = true;
     previewStands_ = false;
@@ -106,8 +106,8 @@ void CommandRunner::create(const core::Ptr<CommandDefinition>& definition) {
     {
         const ScopedIncrement notifying(notifying_);
         quiet = definition->createdEvent->fire(
-            make<CreatedArguments>(definition->createdEvent, command));
-        ui_->createdEvent->fire(make<ApplicationArguments>(
+            make<CommandCreatedEventArgsObject>(definition->createdEvent, command));
+        ui_->createdEvent->fire(make<ApplicationCommandEventArgsObject>(
             ui_->createdEvent, definition->identifier(), definition, /*cancellable=*/false));
     }
     if (active_ != command) return;
@@ -122,7 +122,7 @@ void CommandRunner::create(const core::Ptr<CommandDefinition>& definition) {
 }
 
 void CommandRunner::show() {
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     command->show();
     fireCommand(command, command->activateEvent);
     takeCurrentSelections();
@@ -140,19 +140,19 @@ void CommandRunner::accept() {
         end(core::CompletedTerminationReason);
         return;
     }
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     const bool executed = execute();
     end(command, executed ? core::CompletedTerminationReason : core::AbortedTerminationReason);
 }
 
 bool CommandRunner::execute() {
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     takeBackPreview();
     const std::uint64_t edits = ui_->editsOfModel();
     if (ui_->history.mark) {
         ui_->history.mark();
     }
-    const auto arguments = make<CommandArguments>(command->executeEvent, command);
+    const auto arguments = make<CommandEventArgsObject>(command->executeEvent, command);
     {
         const ScopedIncrement notifying(notifying_);
         executing_.push_back(command);
@@ -211,17 +211,19 @@ bool CommandRunner::terminate() {
 }
 
 void CommandRunner::end(core::CommandTerminationReason reason) {
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     end(command, reason);
 }
 
-void CommandRunner::end(const core::Ptr<Command>& command, core::CommandTerminationReason reason) {
+void CommandRunner::end(const core::Ptr<CommandObject>& command,
+                        core::CommandTerminationReason reason) {
     const ScopedIncrement busy(busy_);
     takeBackPreview();
     fireCommand(command, command->deactivateEvent);
     {
         const ScopedIncrement notifying(notifying_);
-        command->destroyEvent->fire(make<CommandArguments>(command->destroyEvent, command, reason));
+        command->destroyEvent->fire(
+            make<CommandEventArgsObject>(command->destroyEvent, command, reason));
     }
     for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
         selectionOf(each).dropAll();
@@ -233,12 +235,12 @@ void CommandRunner::end(const core::Ptr<Command>& command, core::CommandTerminat
         asked_ = Asked::Nothing;
     }
     isIdle_ = false;
-    const core::Ptr<CommandDefinition> definition = command->definition();
+    const core::Ptr<CommandDefinitionObject> definition = command->definition();
     command->dispose();
     const ScopedIncrement notifying(notifying_);
-    ui_->terminatedEvent->fire(make<ApplicationArguments>(ui_->terminatedEvent,
-                                                          definition->identifier(), definition,
-                                                          /*cancellable=*/false, reason));
+    ui_->terminatedEvent->fire(make<ApplicationCommandEventArgsObject>(
+        ui_->terminatedEvent, definition->identifier(), definition,
+        /*cancellable=*/false, reason));
 }
 
 void CommandRunner::dispose() {
@@ -249,10 +251,10 @@ void CommandRunner::dispose() {
     requested_.clear();
 }
 
-bool CommandRunner::fireCommand(const core::Ptr<Command>& command,
-                                const core::Ptr<CommandEvent>& event) {
+bool CommandRunner::fireCommand(const core::Ptr<CommandObject>& command,
+                                const core::Ptr<CommandEventObject>& event) {
     const ScopedIncrement notifying(notifying_);
-    return event->fire(make<CommandArguments>(event, command));
+    return event->fire(make<CommandEventArgsObject>(event, command));
 }
 
 bool CommandRunner::isExecuting() const {

@@ -12,7 +12,7 @@
 
 namespace host::ui {
 
-class UserInterface;
+class UserInterfaceObject;
 
 /// Leads commands through their lives, one at a time.
 ///
@@ -22,16 +22,16 @@ class UserInterface;
 /// commandTerminated. Whatever is asked for during a notification happens after it.
 class CommandRunner {
 public:
-    CommandRunner(UserInterface* ui, CodeChanges codeChanges)
+    CommandRunner(UserInterfaceObject* ui, CodeChanges codeChanges)
         : ui_(ui), codeChanges_(codeChanges) {}
 
     /// Announces `idle` from now on whenever no other command runs.
-    void setIdleCommand(const core::Ptr<CommandDefinition>& idle) { idle_ = idle; }
+    void setIdleCommand(const core::Ptr<CommandDefinitionObject>& idle) { idle_ = idle; }
 
     /// The command that runs, null for none.
-    [[nodiscard]] const core::Ptr<Command>& active() const { return active_; }
+    [[nodiscard]] const core::Ptr<CommandObject>& active() const { return active_; }
 
-    [[nodiscard]] UserInterface& ui() const { return *ui_; }
+    [[nodiscard]] UserInterfaceObject& ui() const { return *ui_; }
 
     /// True inside any event of a command.
     [[nodiscard]] bool inCommandEvent() const { return notifying_ > 0; }
@@ -40,7 +40,7 @@ public:
     /// @{
 
     /// Starts a command as soon as nothing else goes on.
-    void request(const core::Ptr<CommandDefinition>& definition);
+    void request(const core::Ptr<CommandDefinitionObject>& definition);
 
     /// Executes the running command after the running notification; false where it cannot be.
     bool executeByCode(bool terminate);
@@ -89,11 +89,11 @@ public:
     void dispose();
 
 private:
-    void start(const core::Ptr<CommandDefinition>& definition);
+    void start(const core::Ptr<CommandDefinitionObject>& definition);
     void countStart(const std::string& id);
     void enterIdle();
-    bool announce(const core::Ptr<CommandDefinition>& definition);
-    void create(const core::Ptr<CommandDefinition>& definition);
+    bool announce(const core::Ptr<CommandDefinitionObject>& definition);
+    void create(const core::Ptr<CommandDefinitionObject>& definition);
     void show();
     void takeCurrentSelections();
     void notifyInputChanged(InputState& input);
@@ -101,23 +101,25 @@ private:
     void validate();
     void preview();
     void takeBackPreview();
-    void end(const core::Ptr<Command>& command, core::CommandTerminationReason reason);
+    void end(const core::Ptr<CommandObject>& command, core::CommandTerminationReason reason);
     [[nodiscard]] std::string refusalByInputs() const;
     bool execute();
     void runDeferredRequests();
     void preEmpt();
-    bool fireCommand(const core::Ptr<Command>& command, const core::Ptr<CommandEvent>& event);
+    bool fireCommand(const core::Ptr<CommandObject>& command,
+                     const core::Ptr<CommandEventObject>& event);
 
-    UserInterface* ui_;
+    UserInterfaceObject* ui_;
     CodeChanges codeChanges_;
-    core::Ptr<Command> active_;
-    core::Ptr<CommandDefinition> idle_;
+    core::Ptr<CommandObject> active_;
+    core::Ptr<CommandDefinitionObject> idle_;
     bool isIdle_ = false;  ///< `idle_` was announced since a command ended
-    std::deque<core::Ptr<CommandDefinition>> requested_;
+    std::deque<core::Ptr<CommandDefinitionObject>> requested_;
     std::map<std::string, int> starts_;  ///< since a person did something
     int notifying_ = 0;
     int busy_ = 0;
-    std::vector<core::Ptr<Command>> executing_;  ///< each was started while the one before waited
+    std::vector<core::Ptr<CommandObject>>
+        executing_;  ///< each was started while the one before waited
 
     std::uint32_t firstNewSerial_ =
         0;                       ///< inputs from this one on were made by the running handlers

@@ -18,17 +18,19 @@ constexpr int kMostCodeChanges = 100000;
 
 // What was selected before the command started goes into its selections, as if it were picked now.
 void CommandRunner::takeCurrentSelections() {
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     std::vector<core::Ptr<core::Base>> left = ui_->selections().list.entities();
-    std::vector<std::pair<core::Ptr<SelectionInput>, std::vector<core::Ptr<core::Base>>>> taken;
+    std::vector<
+        std::pair<core::Ptr<SelectionCommandInputObject>, std::vector<core::Ptr<core::Base>>>>
+        taken;
     for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
-        SelectionInput& input = selectionOf(each);
+        SelectionCommandInputObject& input = selectionOf(each);
         if (!input.usesCurrentSelections() || !input.visible) continue;
         const auto refused = std::stable_partition(
             left.begin(), left.end(), [&](const auto& entity) { return input.accepts(entity); });
         const auto count = static_cast<std::size_t>(refused - left.begin());
         if (count == 0 || count > input.maximum()) continue;
-        taken.emplace_back(core::Ptr<SelectionInput>(&input),
+        taken.emplace_back(core::Ptr<SelectionCommandInputObject>(&input),
                            std::vector<core::Ptr<core::Base>>(left.begin(), refused));
         left.erase(left.begin(), refused);
     }
@@ -49,7 +51,7 @@ void CommandRunner::takeCurrentSelections() {
 
 void CommandRunner::changed(InputState& input) {
     const ScopedIncrement busy(busy_);
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     notifyInputChanged(input);
     notifyCodeChanges();
     if (active_ == command) {
@@ -68,7 +70,7 @@ void CommandRunner::tabChanged() {
 }
 
 void CommandRunner::notifyInputChanged(InputState& input) {
-    const core::Ptr<Command> command = active_;
+    const core::Ptr<CommandObject> command = active_;
     const core::Ptr<core::CommandInputs> inputs(input.owner());
     const std::string id = input.id();
     firstNewSerial_ = command->newestSerial() + 1;
@@ -76,8 +78,8 @@ void CommandRunner::notifyInputChanged(InputState& input) {
     {
         const ScopedIncrement notifying(notifying_);
         command->changedEvent->fire(
-            make<ChangedArguments>(command->changedEvent,
-                                   core::Ptr<core::CommandInput>(input.api()), inputs),
+            make<InputChangedEventArgsObject>(command->changedEvent,
+                                              core::Ptr<core::CommandInput>(input.api()), inputs),
             id);
     }
     tellsChanges_ = before;
@@ -110,7 +112,7 @@ void CommandRunner::notifyCodeChanges() {
 
 void CommandRunner::validate() {
     const ScopedIncrement notifying(notifying_);
-    const auto arguments = make<ValidateArguments>(
+    const auto arguments = make<ValidateInputsEventArgsObject>(
         active_->validateEvent, core::Ptr<core::CommandInputs>(&active_->inputs()));
     active_->validateEvent->fire(arguments);
     valid_ = arguments->valid();
@@ -125,7 +127,7 @@ void CommandRunner::preview() {
     }
     ui_->history.mark();
     previewed_ = true;
-    const auto arguments = make<CommandArguments>(active_->previewEvent, active_);
+    const auto arguments = make<CommandEventArgsObject>(active_->previewEvent, active_);
     const ScopedIncrement notifying(notifying_);
     active_->previewEvent->fire(arguments);
     previewStands_ = arguments->standsForExecution();
@@ -141,7 +143,7 @@ void CommandRunner::takeBackPreview() {
 // A dialog is accepted when all its selections are made and no handler objects.
 std::string CommandRunner::refusalByInputs() const {
     for (InputState* each : active_->inputs().ofKind(InputKind::Selection)) {
-        const SelectionInput& input = selectionOf(each);
+        const SelectionCommandInputObject& input = selectionOf(each);
         if (input.picks().count() < input.minimum()) {
             return "the selection \"" + input.InputState::id() + "\" needs " +
                    std::to_string(input.minimum()) + ", and has " +

@@ -9,12 +9,12 @@
 
 namespace host::ui {
 
-core::Ptr<core::Base> Selection::entity() const {
+core::Ptr<core::Base> SelectionObject::entity() const {
     if (closed<"Selection::entity">(*this)) return {};
     return entity_;
 }
 
-core::Ptr<core::Point3D> Selection::point() const {
+core::Ptr<core::Point3D> SelectionObject::point() const {
     if (closed<"Selection::point">(*this)) return {};
     notImplemented("Selection::point");
     return {};
@@ -30,7 +30,7 @@ core::Ptr<core::Selection> SelectionList::at(std::size_t index) const {
 
 bool SelectionList::add(const core::Ptr<core::Base>& entity) {
     if (!held_.insert(entity.get()).second) return false;
-    selections_.push_back(make<Selection>(entity));
+    selections_.push_back(make<SelectionObject>(entity));
     return true;
 }
 
@@ -43,7 +43,7 @@ void SelectionList::remove(const core::Ptr<core::Base>& entity) {
 }
 
 void SelectionList::clear() {
-    for (const core::Ptr<Selection>& each : selections_) {
+    for (const core::Ptr<SelectionObject>& each : selections_) {
         each->invalidate();
     }
     selections_.clear();
@@ -53,21 +53,21 @@ void SelectionList::clear() {
 std::vector<core::Ptr<core::Base>> SelectionList::entities() const {
     std::vector<core::Ptr<core::Base>> entities;
     std::transform(selections_.begin(), selections_.end(), std::back_inserter(entities),
-                   [](const core::Ptr<Selection>& each) { return each->selected(); });
+                   [](const core::Ptr<SelectionObject>& each) { return each->selected(); });
     return entities;
 }
 
-std::size_t Selections::count() const {
+std::size_t SelectionsObject::count() const {
     if (closed<"Selections::count">(*this)) return {};
     return list.count();
 }
 
-core::Ptr<core::Selection> Selections::item(std::size_t index) const {
+core::Ptr<core::Selection> SelectionsObject::item(std::size_t index) const {
     if (closed<"Selections::item">(*this)) return {};
     return list.at(index);
 }
 
-bool Selections::add(const core::Ptr<core::Base>& entity) {
+bool SelectionsObject::add(const core::Ptr<core::Base>& entity) {
     if (closed<"Selections::add">(*this)) return {};
     if (!entity) {
         return fail(core::BadApiCallError, "Selections::add: there is no entity");
@@ -76,7 +76,7 @@ bool Selections::add(const core::Ptr<core::Base>& entity) {
     return true;
 }
 
-bool Selections::clear() {
+bool SelectionsObject::clear() {
     if (closed<"Selections::clear">(*this)) return {};
     list.clear();
     return true;

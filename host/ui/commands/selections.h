@@ -13,9 +13,9 @@ namespace host::ui {
 
 namespace core = adsk::core;
 
-class Selection final : public Object<core::Selection> {
+class SelectionObject final : public Object<core::Selection> {
 public:
-    explicit Selection(core::Ptr<core::Base> entity) : entity_(std::move(entity)) {}
+    explicit SelectionObject(core::Ptr<core::Base> entity) : entity_(std::move(entity)) {}
 
     [[nodiscard]] core::Ptr<core::Base> entity() const override;
     [[nodiscard]] core::Ptr<core::Point3D> point() const override;
@@ -45,12 +45,12 @@ public:
     [[nodiscard]] std::vector<core::Ptr<core::Base>> entities() const;
 
 private:
-    std::vector<core::Ptr<Selection>> selections_;
+    std::vector<core::Ptr<SelectionObject>> selections_;
     std::unordered_set<const core::Base*> held_;
 };
 
 /// What the user has selected.
-class Selections final : public Object<core::Selections> {
+class SelectionsObject final : public Object<core::Selections> {
 public:
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::Selection> item(std::size_t index) const override;

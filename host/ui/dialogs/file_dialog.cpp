@@ -43,51 +43,51 @@ void askForFiles(std::function<PickedFiles(const FileDialogShown&)> ask) {
 
 namespace ui {
 
-bool FileDialog::isMultiSelectEnabled() const {
+bool FileDialogObject::isMultiSelectEnabled() const {
     if (closed<"FileDialog::isMultiSelectEnabled">(*this)) return {};
     return state_.multiSelect;
 }
 
-bool FileDialog::isMultiSelectEnabled(bool value) {
+bool FileDialogObject::isMultiSelectEnabled(bool value) {
     if (closed<"FileDialog::isMultiSelectEnabled">(*this)) return {};
     state_.multiSelect = value;
     return true;
 }
 
-std::string FileDialog::title() const {
+std::string FileDialogObject::title() const {
     if (closed<"FileDialog::title">(*this)) return {};
     return state_.title;
 }
 
-bool FileDialog::title(const std::string& value) {
+bool FileDialogObject::title(const std::string& value) {
     if (closed<"FileDialog::title">(*this)) return {};
     state_.title = value;
     return true;
 }
 
-std::string FileDialog::filter() const {
+std::string FileDialogObject::filter() const {
     if (closed<"FileDialog::filter">(*this)) return {};
     return state_.filter;
 }
 
-bool FileDialog::filter(const std::string& value) {
+bool FileDialogObject::filter(const std::string& value) {
     if (closed<"FileDialog::filter">(*this)) return {};
     state_.filter = value;
     return true;
 }
 
-int FileDialog::filterIndex() const {
+int FileDialogObject::filterIndex() const {
     if (closed<"FileDialog::filterIndex">(*this)) return {};
     return state_.filterIndex;
 }
 
-bool FileDialog::filterIndex(int value) {
+bool FileDialogObject::filterIndex(int value) {
     if (closed<"FileDialog::filterIndex">(*this)) return {};
     state_.filterIndex = value;
     return true;
 }
 
-adsk::core::DialogResults FileDialog::showOpen() {
+adsk::core::DialogResults FileDialogObject::showOpen() {
     if (closed<"FileDialog::showOpen">(*this)) return {};
     answer(state_);
     if (state_.picked && state_.picked->size() > 1 && !state_.multiSelect) {
@@ -98,12 +98,12 @@ adsk::core::DialogResults FileDialog::showOpen() {
     return state_.picked ? adsk::core::DialogOK : adsk::core::DialogCancel;
 }
 
-std::vector<std::string> FileDialog::filenames() const {
+std::vector<std::string> FileDialogObject::filenames() const {
     if (closed<"FileDialog::filenames">(*this)) return {};
     return state_.picked.value_or(std::vector<std::string>());
 }
 
-std::string FileDialog::filename() const {
+std::string FileDialogObject::filename() const {
     if (closed<"FileDialog::filename">(*this)) return {};
     return state_.picked && !state_.picked->empty() ? state_.picked->front() : "";
 }

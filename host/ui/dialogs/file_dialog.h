@@ -39,7 +39,7 @@ void askForFiles(std::function<PickedFiles(const FileDialogShown&)> ask);
 
 namespace ui {
 
-class FileDialog final : public Object<adsk::core::FileDialog> {
+class FileDialogObject final : public Object<adsk::core::FileDialog> {
 public:
     [[nodiscard]] bool isMultiSelectEnabled() const override;
     bool isMultiSelectEnabled(bool value) override;

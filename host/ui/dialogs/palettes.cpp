@@ -5,113 +5,113 @@
 
 namespace host::ui {
 
-std::string Palette::id() const {
+std::string PaletteObject::id() const {
     if (closed<"Palette::id">(*this)) return {};
     return state.id;
 }
 
-std::string Palette::name() const {
+std::string PaletteObject::name() const {
     if (closed<"Palette::name">(*this)) return {};
     return state.name;
 }
 
-bool Palette::name(const std::string& value) {
+bool PaletteObject::name(const std::string& value) {
     if (closed<"Palette::name">(*this)) return {};
     state.name = value;
     return true;
 }
 
-std::string Palette::htmlFileURL() const {
+std::string PaletteObject::htmlFileURL() const {
     if (closed<"Palette::htmlFileURL">(*this)) return {};
     return state.htmlFileURL;
 }
 
-bool Palette::htmlFileURL(const std::string& value) {
+bool PaletteObject::htmlFileURL(const std::string& value) {
     if (closed<"Palette::htmlFileURL">(*this)) return {};
     state.htmlFileURL = value;
     return true;
 }
 
-bool Palette::isVisible() const {
+bool PaletteObject::isVisible() const {
     if (closed<"Palette::isVisible">(*this)) return {};
     return state.visible;
 }
 
-bool Palette::isVisible(bool value) {
+bool PaletteObject::isVisible(bool value) {
     if (closed<"Palette::isVisible">(*this)) return {};
     state.visible = value;
     return true;
 }
 
-core::PaletteDockingStates Palette::dockingState() const {
+core::PaletteDockingStates PaletteObject::dockingState() const {
     if (closed<"Palette::dockingState">(*this)) return {};
     return state.dockingState;
 }
 
-bool Palette::dockingState(core::PaletteDockingStates value) {
+bool PaletteObject::dockingState(core::PaletteDockingStates value) {
     if (closed<"Palette::dockingState">(*this)) return {};
     state.dockingState = value;
     return true;
 }
 
-core::PaletteDockingOptions Palette::dockingOption() const {
+core::PaletteDockingOptions PaletteObject::dockingOption() const {
     if (closed<"Palette::dockingOption">(*this)) return {};
     return state.dockingOption;
 }
 
-bool Palette::dockingOption(core::PaletteDockingOptions value) {
+bool PaletteObject::dockingOption(core::PaletteDockingOptions value) {
     if (closed<"Palette::dockingOption">(*this)) return {};
     state.dockingOption = value;
     return true;
 }
 
-int Palette::left() const {
+int PaletteObject::left() const {
     if (closed<"Palette::left">(*this)) return {};
     return state.left;
 }
 
-bool Palette::left(int value) {
+bool PaletteObject::left(int value) {
     if (closed<"Palette::left">(*this)) return {};
     state.left = value;
     state.dockingState = core::PaletteDockStateFloating;
     return true;
 }
 
-int Palette::top() const {
+int PaletteObject::top() const {
     if (closed<"Palette::top">(*this)) return {};
     return state.top;
 }
 
-bool Palette::top(int value) {
+bool PaletteObject::top(int value) {
     if (closed<"Palette::top">(*this)) return {};
     state.top = value;
     state.dockingState = core::PaletteDockStateFloating;
     return true;
 }
 
-int Palette::width() const {
+int PaletteObject::width() const {
     if (closed<"Palette::width">(*this)) return {};
     return state.width;
 }
 
-bool Palette::width(int value) {
+bool PaletteObject::width(int value) {
     if (closed<"Palette::width">(*this)) return {};
     resize(value, state.height);
     return true;
 }
 
-int Palette::height() const {
+int PaletteObject::height() const {
     if (closed<"Palette::height">(*this)) return {};
     return state.height;
 }
 
-bool Palette::height(int value) {
+bool PaletteObject::height(int value) {
     if (closed<"Palette::height">(*this)) return {};
     resize(state.width, value);
     return true;
 }
 
-bool Palette::setPosition(int left, int top) {
+bool PaletteObject::setPosition(int left, int top) {
     if (closed<"Palette::setPosition">(*this)) return {};
     state.left = left;
     state.top = top;
@@ -119,14 +119,14 @@ bool Palette::setPosition(int left, int top) {
     return true;
 }
 
-bool Palette::setSize(int width, int height) {
+bool PaletteObject::setSize(int width, int height) {
     if (closed<"Palette::setSize">(*this)) return {};
     resize(width, height);
     return true;
 }
 
 // Docked to a side it is as high as the window, docked to the top or bottom as wide.
-void Palette::resize(int width, int height) {
+void PaletteObject::resize(int width, int height) {
     const core::PaletteDockingStates docked = state.dockingState;
     if (docked != core::PaletteDockStateTop && docked != core::PaletteDockStateBottom) {
         state.width = width;
@@ -136,36 +136,36 @@ void Palette::resize(int width, int height) {
     }
 }
 
-bool Palette::deleteMe() {
+bool PaletteObject::deleteMe() {
     if (closed<"Palette::deleteMe">(*this)) return {};
     owner_->remove(*this);
     return true;
 }
 
-void Palette::dispose() {
+void PaletteObject::dispose() {
     owner_ = nullptr;
     invalidate();
 }
 
-std::size_t Palettes::count() const {
+std::size_t PalettesObject::count() const {
     if (closed<"Palettes::count">(*this)) return {};
     return all_.size();
 }
 
-core::Ptr<core::Palette> Palettes::item(std::size_t index) const {
+core::Ptr<core::Palette> PalettesObject::item(std::size_t index) const {
     if (closed<"Palettes::item">(*this)) return {};
     return entryAt(all_, index);
 }
 
-core::Ptr<core::Palette> Palettes::itemById(const std::string& id) const {
+core::Ptr<core::Palette> PalettesObject::itemById(const std::string& id) const {
     if (closed<"Palettes::itemById">(*this)) return {};
     return find(id);
 }
 
-core::Ptr<core::Palette> Palettes::add(const std::string& id, const std::string& name,
-                                       const std::string& htmlFileURL, bool isVisible,
-                                       bool showCloseButton, bool isResizable, int width,
-                                       int height, bool useNewWebBrowser) {
+core::Ptr<core::Palette> PalettesObject::add(const std::string& id, const std::string& name,
+                                             const std::string& htmlFileURL, bool isVisible,
+                                             bool showCloseButton, bool isResizable, int width,
+                                             int height, bool useNewWebBrowser) {
     constexpr const char* kOperation = "Palettes::add";
     if (closed<"Palettes::add">(*this)) return {};
     if (id.empty() || find(id)) {
@@ -183,20 +183,22 @@ core::Ptr<core::Palette> Palettes::add(const std::string& id, const std::string&
     state.newWebBrowser = useNewWebBrowser;
     state.width = width;
     state.height = height;
-    all_.push_back(make<Palette>(this, state));
+    all_.push_back(make<PaletteObject>(this, state));
     return all_.back();
 }
 
-core::Ptr<Palette> Palettes::find(const std::string& id) const { return entryOf(all_, id); }
+core::Ptr<PaletteObject> PalettesObject::find(const std::string& id) const {
+    return entryOf(all_, id);
+}
 
-void Palettes::remove(Palette& palette) {
-    const core::Ptr<Palette> kept(&palette);
+void PalettesObject::remove(PaletteObject& palette) {
+    const core::Ptr<PaletteObject> kept(&palette);
     std::erase(all_, kept);
     palette.dispose();
 }
 
-void Palettes::dispose() {
-    for (const core::Ptr<Palette>& each : all_) {
+void PalettesObject::dispose() {
+    for (const core::Ptr<PaletteObject>& each : all_) {
         each->dispose();
     }
     all_.clear();

@@ -13,7 +13,7 @@ namespace host::ui {
 
 namespace core = adsk::core;
 
-class Palettes;
+class PalettesObject;
 
 /// What a palette shows and where it stands, in pixels.
 struct PaletteState {
@@ -32,9 +32,10 @@ struct PaletteState {
     int height = 200;
 };
 
-class Palette final : public Object<core::Palette> {
+class PaletteObject final : public Object<core::Palette> {
 public:
-    Palette(Palettes* owner, PaletteState initial) : state(std::move(initial)), owner_(owner) {}
+    PaletteObject(PalettesObject* owner, PaletteState initial)
+        : state(std::move(initial)), owner_(owner) {}
 
     [[nodiscard]] std::string id() const override;
     [[nodiscard]] std::string name() const override;
@@ -67,12 +68,12 @@ public:
 private:
     void resize(int width, int height);
 
-    Palettes* owner_;
+    PalettesObject* owner_;
 };
 
-class Palettes final : public Object<core::Palettes> {
+class PalettesObject final : public Object<core::Palettes> {
 public:
-    Palettes() = default;
+    PalettesObject() = default;
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::Palette> item(std::size_t index) const override;
@@ -82,13 +83,13 @@ public:
                                  bool showCloseButton, bool isResizable, int width, int height,
                                  bool useNewWebBrowser) override;
 
-    [[nodiscard]] const std::vector<core::Ptr<Palette>>& all() const { return all_; }
-    [[nodiscard]] core::Ptr<Palette> find(const std::string& id) const;
-    void remove(Palette& palette);
+    [[nodiscard]] const std::vector<core::Ptr<PaletteObject>>& all() const { return all_; }
+    [[nodiscard]] core::Ptr<PaletteObject> find(const std::string& id) const;
+    void remove(PaletteObject& palette);
     void dispose();
 
 private:
-    std::vector<core::Ptr<Palette>> all_;
+    std::vector<core::Ptr<PaletteObject>> all_;
 };
 
 }  // namespace host::ui

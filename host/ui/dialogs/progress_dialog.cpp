@@ -9,7 +9,7 @@
 namespace host {
 namespace {
 
-using Dialogs = std::vector<ui::ProgressDialog*>;
+using Dialogs = std::vector<ui::ProgressDialogObject*>;
 
 /// Those that a module holds, the newest behind. Never destroyed: modules and the host end in
 /// either order.
@@ -20,7 +20,7 @@ Dialogs& living() {
 
 double longestWait = HostSetup().longestWait;
 
-ui::ProgressDialog* newest() {
+ui::ProgressDialogObject* newest() {
     const auto found = std::find_if(living().rbegin(), living().rend(),
                                     [](const auto* each) { return !each->isHidden(); });
     return found == living().rend() ? nullptr : *found;
@@ -46,12 +46,12 @@ int percent(int value, int minimum, int maximum) {
 }  // namespace
 
 std::optional<Progress> progressDialog() {
-    const ui::ProgressDialog* dialog = newest();
+    const ui::ProgressDialogObject* dialog = newest();
     return dialog == nullptr ? std::nullopt : std::optional(dialog->seen());
 }
 
 void cancelProgress() {
-    ui::ProgressDialog* dialog = newest();
+    ui::ProgressDialogObject* dialog = newest();
     if (dialog == nullptr) {
         throw MisuseError("nothing is in progress that could be cancelled");
     }
@@ -66,18 +66,18 @@ namespace ui {
 void startWaits(double seconds) { longestWait = seconds; }
 
 void endLongWaits() {
-    for (ProgressDialog* each : living()) {
+    for (ProgressDialogObject* each : living()) {
         if (clock::now() - each->madeAt() >= longestWait) {
             each->cancel();
         }
     }
 }
 
-ProgressDialog::ProgressDialog() { living().push_back(this); }
+ProgressDialogObject::ProgressDialogObject() { living().push_back(this); }
 
-ProgressDialog::~ProgressDialog() { std::erase(living(), this); }
+ProgressDialogObject::~ProgressDialogObject() { std::erase(living(), this); }
 
-Progress ProgressDialog::seen() const {
+Progress ProgressDialogObject::seen() const {
     Progress seen = {message_, value_, cancelButtonShown_ ? cancelButtonText_ : "", cancelled_,
                      translucent_};
     fillIn(seen.text, 'v', value_);
@@ -86,74 +86,74 @@ Progress ProgressDialog::seen() const {
     return seen;
 }
 
-std::string ProgressDialog::cancelButtonText() const {
+std::string ProgressDialogObject::cancelButtonText() const {
     if (closed<"ProgressDialog::cancelButtonText">(*this)) return {};
     return cancelButtonText_;
 }
 
-bool ProgressDialog::cancelButtonText(const std::string& value) {
+bool ProgressDialogObject::cancelButtonText(const std::string& value) {
     if (closed<"ProgressDialog::cancelButtonText">(*this)) return {};
     cancelButtonText_ = value;
     return true;
 }
 
-bool ProgressDialog::isBackgroundTranslucent() const {
+bool ProgressDialogObject::isBackgroundTranslucent() const {
     if (closed<"ProgressDialog::isBackgroundTranslucent">(*this)) return {};
     return translucent_;
 }
 
-bool ProgressDialog::isBackgroundTranslucent(bool value) {
+bool ProgressDialogObject::isBackgroundTranslucent(bool value) {
     if (closed<"ProgressDialog::isBackgroundTranslucent">(*this)) return {};
     translucent_ = value;
     return true;
 }
 
-bool ProgressDialog::isCancelButtonShown() const {
+bool ProgressDialogObject::isCancelButtonShown() const {
     if (closed<"ProgressDialog::isCancelButtonShown">(*this)) return {};
     return cancelButtonShown_;
 }
 
-bool ProgressDialog::isCancelButtonShown(bool value) {
+bool ProgressDialogObject::isCancelButtonShown(bool value) {
     if (closed<"ProgressDialog::isCancelButtonShown">(*this)) return {};
     cancelButtonShown_ = value;
     return true;
 }
 
-std::string ProgressDialog::message() const {
+std::string ProgressDialogObject::message() const {
     if (closed<"ProgressDialog::message">(*this)) return {};
     return message_;
 }
 
-bool ProgressDialog::message(const std::string& value) {
+bool ProgressDialogObject::message(const std::string& value) {
     if (closed<"ProgressDialog::message">(*this)) return {};
     message_ = value;
     return true;
 }
 
-int ProgressDialog::progressValue() const {
+int ProgressDialogObject::progressValue() const {
     if (closed<"ProgressDialog::progressValue">(*this)) return {};
     return value_;
 }
 
-bool ProgressDialog::progressValue(int value) {
+bool ProgressDialogObject::progressValue(int value) {
     if (closed<"ProgressDialog::progressValue">(*this)) return {};
     value_ = value;
     return true;
 }
 
-bool ProgressDialog::wasCancelled() const {
+bool ProgressDialogObject::wasCancelled() const {
     if (closed<"ProgressDialog::wasCancelled">(*this)) return {};
     return cancelled_;
 }
 
-bool ProgressDialog::hide() {
+bool ProgressDialogObject::hide() {
     if (closed<"ProgressDialog::hide">(*this)) return {};
     hidden_ = true;
     return true;
 }
 
-bool ProgressDialog::show(const std::string& /*title*/, const std::string& message,
-                          int minimumValue, int maximumValue, int /*delay*/) {
+bool ProgressDialogObject::show(const std::string& /*title*/, const std::string& message,
+                                int minimumValue, int maximumValue, int /*delay*/) {
     if (closed<"ProgressDialog::show">(*this)) return {};
     message_ = message;
     minimum_ = minimumValue;

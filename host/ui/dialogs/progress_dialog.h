@@ -37,12 +37,12 @@ void startWaits(double longestWait);
 /// Cancels the dialogs that have waited too long, whether or not they have a button for it.
 void endLongWaits();
 
-class ProgressDialog final : public Object<adsk::core::ProgressDialog> {
+class ProgressDialogObject final : public Object<adsk::core::ProgressDialog> {
 public:
-    ProgressDialog();
-    ProgressDialog(const ProgressDialog&) = delete;
-    ProgressDialog& operator=(const ProgressDialog&) = delete;
-    ~ProgressDialog() override;
+    ProgressDialogObject();
+    ProgressDialogObject(const ProgressDialogObject&) = delete;
+    ProgressDialogObject& operator=(const ProgressDialogObject&) = delete;
+    ~ProgressDialogObject() override;
 
     [[nodiscard]] std::string cancelButtonText() const override;
     bool cancelButtonText(const std::string& value) override;

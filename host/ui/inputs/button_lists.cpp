@@ -2,27 +2,27 @@
 
 namespace host::ui {
 
-core::Ptr<core::ListItems> ButtonRowInput::listItems() const {
+core::Ptr<core::ListItems> ButtonRowCommandInputObject::listItems() const {
     if (closed<"ButtonRowCommandInput::listItems">(*this)) return {};
     return itemsApi();
 }
 
-core::Ptr<core::ListItem> ButtonRowInput::selectedItem() const {
+core::Ptr<core::ListItem> ButtonRowCommandInputObject::selectedItem() const {
     if (closed<"ButtonRowCommandInput::selectedItem">(*this)) return {};
     return selectedItemApi();
 }
 
-bool ButtonRowInput::isMultiSelectEnabled() const {
+bool ButtonRowCommandInputObject::isMultiSelectEnabled() const {
     if (closed<"ButtonRowCommandInput::isMultiSelectEnabled">(*this)) return {};
     return several();
 }
 
-core::Ptr<core::ListItems> RadioGroupInput::listItems() const {
+core::Ptr<core::ListItems> RadioButtonGroupCommandInputObject::listItems() const {
     if (closed<"RadioButtonGroupCommandInput::listItems">(*this)) return {};
     return itemsApi();
 }
 
-core::Ptr<core::ListItem> RadioGroupInput::selectedItem() const {
+core::Ptr<core::ListItem> RadioButtonGroupCommandInputObject::selectedItem() const {
     if (closed<"RadioButtonGroupCommandInput::selectedItem">(*this)) return {};
     return selectedItemApi();
 }

@@ -5,20 +5,22 @@
 /// The lists whose items are all in view.
 namespace host::ui {
 
-class ButtonRowInput final : public Input<core::ButtonRowCommandInput, ListState> {
+class ButtonRowCommandInputObject final
+    : public CommandInputObject<core::ButtonRowCommandInput, ListState> {
 public:
-    ButtonRowInput(const InputOrigin& origin, bool multiSelect)
-        : Input(origin, InputKind::ButtonRow, multiSelect) {}
+    ButtonRowCommandInputObject(const InputOrigin& origin, bool multiSelect)
+        : CommandInputObject(origin, InputKind::ButtonRow, multiSelect) {}
 
     [[nodiscard]] core::Ptr<core::ListItems> listItems() const override;
     [[nodiscard]] core::Ptr<core::ListItem> selectedItem() const override;
     [[nodiscard]] bool isMultiSelectEnabled() const override;
 };
 
-class RadioGroupInput final : public Input<core::RadioButtonGroupCommandInput, ListState> {
+class RadioButtonGroupCommandInputObject final
+    : public CommandInputObject<core::RadioButtonGroupCommandInput, ListState> {
 public:
-    explicit RadioGroupInput(const InputOrigin& origin)
-        : Input(origin, InputKind::RadioGroup, /*severalSelected=*/false) {}
+    explicit RadioButtonGroupCommandInputObject(const InputOrigin& origin)
+        : CommandInputObject(origin, InputKind::RadioGroup, /*severalSelected=*/false) {}
 
     [[nodiscard]] core::Ptr<core::ListItems> listItems() const override;
     [[nodiscard]] core::Ptr<core::ListItem> selectedItem() const override;

@@ -21,8 +21,8 @@ bool isLandmark(InputKind kind) {
 }  // namespace
 
 template <class T, class... Arguments>
-core::Ptr<T> CommandInputs::append(const std::string& id, const std::string& name,
-                                   const Arguments&... arguments) {
+core::Ptr<T> CommandInputsObject::append(const std::string& id, const std::string& name,
+                                         const Arguments&... arguments) {
     const InputOrigin origin{this, &id, command_->texts().share(name)};
     core::Ptr<T> input = make<T>(origin, arguments...);
     input->slot = static_cast<std::uint32_t>(members_.append(input));
@@ -33,54 +33,54 @@ core::Ptr<T> CommandInputs::append(const std::string& id, const std::string& nam
     return input;
 }
 
-std::size_t CommandInputs::count() const {
+std::size_t CommandInputsObject::count() const {
     if (closed<"CommandInputs::count">(*this)) return {};
     return members_.count();
 }
 
-core::Ptr<core::CommandInput> CommandInputs::item(std::size_t index) const {
+core::Ptr<core::CommandInput> CommandInputsObject::item(std::size_t index) const {
     if (closed<"CommandInputs::item">(*this)) return {};
     return index < members_.count() ? members_.at(index) : nullptr;
 }
 
-core::Ptr<core::CommandInput> CommandInputs::itemById(const std::string& id) const {
+core::Ptr<core::CommandInput> CommandInputsObject::itemById(const std::string& id) const {
     if (closed<"CommandInputs::itemById">(*this)) return {};
     InputState* found = find(id);
     return found == nullptr ? nullptr : found->api();
 }
 
-core::Ptr<core::Command> CommandInputs::command() const {
+core::Ptr<core::Command> CommandInputsObject::command() const {
     if (closed<"CommandInputs::command">(*this)) return {};
     return core::Ptr<core::Command>(command_);
 }
 
-core::Ptr<core::BoolValueCommandInput> CommandInputs::addBoolValueInput(
+core::Ptr<core::BoolValueCommandInput> CommandInputsObject::addBoolValueInput(
     const std::string& id, const std::string& name, bool isCheckBox,
     const std::string& resourceFolder, bool initialValue) {
     if (closed<"CommandInputs::addBoolValueInput">(*this)) return {};
-    return append<BoolInput>(id, name, isCheckBox, resourceFolder, initialValue);
+    return append<BoolValueCommandInputObject>(id, name, isCheckBox, resourceFolder, initialValue);
 }
 
-core::Ptr<core::StringValueCommandInput> CommandInputs::addStringValueInput(
+core::Ptr<core::StringValueCommandInput> CommandInputsObject::addStringValueInput(
     const std::string& id, const std::string& name, const std::string& initialValue) {
     if (closed<"CommandInputs::addStringValueInput">(*this)) return {};
-    return append<StringInput>(id, name, initialValue);
+    return append<StringValueCommandInputObject>(id, name, initialValue);
 }
 
-core::Ptr<core::DropDownCommandInput> CommandInputs::addDropDownCommandInput(
+core::Ptr<core::DropDownCommandInput> CommandInputsObject::addDropDownCommandInput(
     const std::string& id, const std::string& name, core::DropDownStyles dropDownStyle) {
     if (closed<"CommandInputs::addDropDownCommandInput">(*this)) return {};
-    return append<DropDownInput>(id, name, dropDownStyle);
+    return append<DropDownCommandInputObject>(id, name, dropDownStyle);
 }
 
-core::Ptr<core::TableCommandInput> CommandInputs::addTableCommandInput(
+core::Ptr<core::TableCommandInput> CommandInputsObject::addTableCommandInput(
     const std::string& id, const std::string& name, int numberOfColumns,
     const std::string& columnRatio) {
     if (closed<"CommandInputs::addTableCommandInput">(*this)) return {};
-    return append<TableInput>(id, name, numberOfColumns, columnRatio);
+    return append<TableCommandInputObject>(id, name, numberOfColumns, columnRatio);
 }
 
-core::Ptr<core::TabCommandInput> CommandInputs::addTabCommandInput(
+core::Ptr<core::TabCommandInput> CommandInputsObject::addTabCommandInput(
     const std::string& id, const std::string& name, const std::string& resourceFolder) {
     constexpr const char* kOperation = "CommandInputs::addTabCommandInput";
     if (closed<"CommandInputs::addTabCommandInput">(*this)) return {};
@@ -92,57 +92,57 @@ core::Ptr<core::TabCommandInput> CommandInputs::addTabCommandInput(
         misuse(kOperation, "the id \"" + id + "\" is in use");
         return {};
     }
-    return append<TabInput>(id, name, resourceFolder);
+    return append<TabCommandInputObject>(id, name, resourceFolder);
 }
 
-core::Ptr<core::GroupCommandInput> CommandInputs::addGroupCommandInput(const std::string& id,
-                                                                       const std::string& name) {
+core::Ptr<core::GroupCommandInput> CommandInputsObject::addGroupCommandInput(
+    const std::string& id, const std::string& name) {
     if (closed<"CommandInputs::addGroupCommandInput">(*this)) return {};
-    return append<GroupInput>(id, name);
+    return append<GroupCommandInputObject>(id, name);
 }
 
-core::Ptr<core::ButtonRowCommandInput> CommandInputs::addButtonRowCommandInput(
+core::Ptr<core::ButtonRowCommandInput> CommandInputsObject::addButtonRowCommandInput(
     const std::string& id, const std::string& name, bool isMultiSelectEnabled) {
     if (closed<"CommandInputs::addButtonRowCommandInput">(*this)) return {};
-    return append<ButtonRowInput>(id, name, isMultiSelectEnabled);
+    return append<ButtonRowCommandInputObject>(id, name, isMultiSelectEnabled);
 }
 
-core::Ptr<core::RadioButtonGroupCommandInput> CommandInputs::addRadioButtonGroupCommandInput(
+core::Ptr<core::RadioButtonGroupCommandInput> CommandInputsObject::addRadioButtonGroupCommandInput(
     const std::string& id, const std::string& name) {
     if (closed<"CommandInputs::addRadioButtonGroupCommandInput">(*this)) return {};
-    return append<RadioGroupInput>(id, name);
+    return append<RadioButtonGroupCommandInputObject>(id, name);
 }
 
-core::Ptr<core::TextBoxCommandInput> CommandInputs::addTextBoxCommandInput(
+core::Ptr<core::TextBoxCommandInput> CommandInputsObject::addTextBoxCommandInput(
     const std::string& id, const std::string& name, const std::string& formattedText, int numRows,
     bool isReadOnly) {
     if (closed<"CommandInputs::addTextBoxCommandInput">(*this)) return {};
-    return append<TextBoxInput>(id, name, formattedText, numRows, isReadOnly);
+    return append<TextBoxCommandInputObject>(id, name, formattedText, numRows, isReadOnly);
 }
 
-core::Ptr<core::ImageCommandInput> CommandInputs::addImageCommandInput(
+core::Ptr<core::ImageCommandInput> CommandInputsObject::addImageCommandInput(
     const std::string& id, const std::string& name, const std::string& imageFile) {
     if (closed<"CommandInputs::addImageCommandInput">(*this)) return {};
-    return append<ImageInput>(id, name, imageFile);
+    return append<ImageCommandInputObject>(id, name, imageFile);
 }
 
-core::Ptr<core::SelectionCommandInput> CommandInputs::addSelectionInput(
+core::Ptr<core::SelectionCommandInput> CommandInputsObject::addSelectionInput(
     const std::string& id, const std::string& name, const std::string& commandPrompt) {
     if (closed<"CommandInputs::addSelectionInput">(*this)) return {};
-    return append<SelectionInput>(id, name, commandPrompt);
+    return append<SelectionCommandInputObject>(id, name, commandPrompt);
 }
 
-InputState* CommandInputs::find(const std::string& id) const {
+InputState* CommandInputsObject::find(const std::string& id) const {
     if (InputState* own = index_.find(id)) return own;
     for (const InputState* each : landmarks_) {
-        const CommandInputs* inside = each->inside();
+        const CommandInputsObject* inside = each->inside();
         InputState* found = inside == nullptr ? nullptr : inside->find(id);
         if (found != nullptr) return found;
     }
     return nullptr;
 }
 
-void CommandInputs::remove(InputState& input) {
+void CommandInputsObject::remove(InputState& input) {
     index_.remove(input);
     if (isLandmark(input.kind)) {
         std::erase(landmarks_, &input);
@@ -154,7 +154,7 @@ void CommandInputs::remove(InputState& input) {
     });
 }
 
-void CommandInputs::dispose() {
+void CommandInputsObject::dispose() {
     members_.each(
         [](const core::Ptr<core::CommandInput>& each) { InputState::of(each)->retire(); });
     members_.clear();
@@ -165,13 +165,13 @@ void CommandInputs::dispose() {
     invalidate();
 }
 
-std::vector<InputState*> CommandInputs::ofKind(InputKind kind) const {
+std::vector<InputState*> CommandInputsObject::ofKind(InputKind kind) const {
     std::vector<InputState*> found;
     for (InputState* each : landmarks_) {
         if (each->kind == kind) {
             found.push_back(each);
         }
-        if (const CommandInputs* inside = each->inside()) {
+        if (const CommandInputsObject* inside = each->inside()) {
             const std::vector<InputState*> deeper = inside->ofKind(kind);
             found.insert(found.end(), deeper.begin(), deeper.end());
         }

@@ -13,10 +13,11 @@
 namespace host::ui {
 
 /// The inputs of a command, a tab or a group; owns them.
-class CommandInputs final : public Object<core::CommandInputs> {
+class CommandInputsObject final : public Object<core::CommandInputs> {
 public:
     /// `parent` is the tab or group, null for the command's own collection.
-    CommandInputs(Command* command, InputState* parent) : command_(command), parent_(parent) {}
+    CommandInputsObject(CommandObject* command, InputState* parent)
+        : command_(command), parent_(parent) {}
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::CommandInput> item(std::size_t index) const override;
@@ -59,7 +60,7 @@ public:
     /// @name For the host itself
     /// @{
 
-    [[nodiscard]] ui::Command* owningCommand() const { return command_; }
+    [[nodiscard]] ui::CommandObject* owningCommand() const { return command_; }
     [[nodiscard]] InputState* parent() const { return parent_; }
     [[nodiscard]] std::size_t size() const { return members_.count(); }
 
@@ -82,7 +83,7 @@ private:
     core::Ptr<T> append(const std::string& id, const std::string& name,
                         const Arguments&... arguments);
 
-    ui::Command* command_;
+    ui::CommandObject* command_;
     InputState* parent_;
     Sequence<core::Ptr<core::CommandInput>> members_;
     IdIndex index_;

@@ -6,67 +6,67 @@ namespace host::ui {
 
 ContainerState::ContainerState(const InputOrigin& origin, InputKind inputKind)
     : InputState(origin, inputKind),
-      inside_(make<CommandInputs>(origin.owner->owningCommand(), this)) {}
+      inside_(make<CommandInputsObject>(origin.owner->owningCommand(), this)) {}
 
 void ContainerState::retire() {
     InputState::retire();
     inside_->dispose();
 }
 
-core::Ptr<core::CommandInputs> TabInput::children() const {
+core::Ptr<core::CommandInputs> TabCommandInputObject::children() const {
     if (closed<"TabCommandInput::children">(*this)) return {};
     return core::Ptr<core::CommandInputs>(inside());
 }
 
-bool TabInput::isActive() const {
+bool TabCommandInputObject::isActive() const {
     if (closed<"TabCommandInput::isActive">(*this)) return {};
     return command()->activeTab() == this;
 }
 
-bool TabInput::activate() {
+bool TabCommandInputObject::activate() {
     if (closed<"TabCommandInput::activate">(*this)) return {};
     command()->activeTab(this);
     return true;
 }
 
-std::string TabInput::resourceFolder() const {
+std::string TabCommandInputObject::resourceFolder() const {
     if (closed<"TabCommandInput::resourceFolder">(*this)) return {};
     return resourceFolder_;
 }
 
-core::Ptr<core::CommandInputs> GroupInput::children() const {
+core::Ptr<core::CommandInputs> GroupCommandInputObject::children() const {
     if (closed<"GroupCommandInput::children">(*this)) return {};
     return core::Ptr<core::CommandInputs>(inside());
 }
 
-bool GroupInput::isExpanded() const {
+bool GroupCommandInputObject::isExpanded() const {
     if (closed<"GroupCommandInput::isExpanded">(*this)) return {};
     return expanded_;
 }
 
-bool GroupInput::isExpanded(bool value) {
+bool GroupCommandInputObject::isExpanded(bool value) {
     if (closed<"GroupCommandInput::isExpanded">(*this)) return {};
     expanded_ = value;
     return true;
 }
 
-bool GroupInput::isEnabledCheckBoxDisplayed() const {
+bool GroupCommandInputObject::isEnabledCheckBoxDisplayed() const {
     if (closed<"GroupCommandInput::isEnabledCheckBoxDisplayed">(*this)) return {};
     return checkBox_;
 }
 
-bool GroupInput::isEnabledCheckBoxDisplayed(bool value) {
+bool GroupCommandInputObject::isEnabledCheckBoxDisplayed(bool value) {
     if (closed<"GroupCommandInput::isEnabledCheckBoxDisplayed">(*this)) return {};
     checkBox_ = value;
     return true;
 }
 
-bool GroupInput::isEnabledCheckBoxChecked() const {
+bool GroupCommandInputObject::isEnabledCheckBoxChecked() const {
     if (closed<"GroupCommandInput::isEnabledCheckBoxChecked">(*this)) return {};
     return checked_;
 }
 
-bool GroupInput::isEnabledCheckBoxChecked(bool value) {
+bool GroupCommandInputObject::isEnabledCheckBoxChecked(bool value) {
     if (closed<"GroupCommandInput::isEnabledCheckBoxChecked">(*this)) return {};
     checked_ = value;
     return true;

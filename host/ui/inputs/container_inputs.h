@@ -13,16 +13,17 @@ public:
     ContainerState(const InputOrigin& origin, InputKind inputKind);
 
     void retire() override;
-    [[nodiscard]] CommandInputs* inside() const override { return inside_.get(); }
+    [[nodiscard]] CommandInputsObject* inside() const override { return inside_.get(); }
 
 private:
-    core::Ptr<CommandInputs> inside_;
+    core::Ptr<CommandInputsObject> inside_;
 };
 
-class TabInput final : public Input<core::TabCommandInput, ContainerState> {
+class TabCommandInputObject final
+    : public CommandInputObject<core::TabCommandInput, ContainerState> {
 public:
-    TabInput(const InputOrigin& origin, const std::string& resourceFolder)
-        : Input(origin, InputKind::Tab), resourceFolder_(resourceFolder) {}
+    TabCommandInputObject(const InputOrigin& origin, const std::string& resourceFolder)
+        : CommandInputObject(origin, InputKind::Tab), resourceFolder_(resourceFolder) {}
 
     [[nodiscard]] core::Ptr<core::CommandInputs> children() const override;
     [[nodiscard]] bool isActive() const override;
@@ -33,9 +34,11 @@ private:
     std::string resourceFolder_;
 };
 
-class GroupInput final : public Input<core::GroupCommandInput, ContainerState> {
+class GroupCommandInputObject final
+    : public CommandInputObject<core::GroupCommandInput, ContainerState> {
 public:
-    explicit GroupInput(const InputOrigin& origin) : Input(origin, InputKind::Group) {}
+    explicit GroupCommandInputObject(const InputOrigin& origin)
+        : CommandInputObject(origin, InputKind::Group) {}
 
     [[nodiscard]] core::Ptr<core::CommandInputs> children() const override;
     [[nodiscard]] bool isExpanded() const override;

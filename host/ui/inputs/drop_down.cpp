@@ -2,28 +2,28 @@
 
 namespace host::ui {
 
-core::Ptr<core::ListItems> DropDownInput::listItems() const {
+core::Ptr<core::ListItems> DropDownCommandInputObject::listItems() const {
     if (closed<"DropDownCommandInput::listItems">(*this)) return {};
     return itemsApi();
 }
 
-core::Ptr<core::ListItem> DropDownInput::selectedItem() const {
+core::Ptr<core::ListItem> DropDownCommandInputObject::selectedItem() const {
     if (closed<"DropDownCommandInput::selectedItem">(*this)) return {};
     return selectedItemApi();
 }
 
-int DropDownInput::maxVisibleItems() const {
+int DropDownCommandInputObject::maxVisibleItems() const {
     if (closed<"DropDownCommandInput::maxVisibleItems">(*this)) return {};
     return maxVisibleItems_;
 }
 
-bool DropDownInput::maxVisibleItems(int value) {
+bool DropDownCommandInputObject::maxVisibleItems(int value) {
     if (closed<"DropDownCommandInput::maxVisibleItems">(*this)) return {};
     maxVisibleItems_ = value;
     return true;
 }
 
-core::DropDownStyles DropDownInput::dropDownStyle() const {
+core::DropDownStyles DropDownCommandInputObject::dropDownStyle() const {
     if (closed<"DropDownCommandInput::dropDownStyle">(*this)) return {};
     return style_;
 }

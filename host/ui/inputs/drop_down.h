@@ -4,10 +4,12 @@
 
 namespace host::ui {
 
-class DropDownInput final : public Input<core::DropDownCommandInput, ListState> {
+class DropDownCommandInputObject final
+    : public CommandInputObject<core::DropDownCommandInput, ListState> {
 public:
-    DropDownInput(const InputOrigin& origin, core::DropDownStyles style)
-        : Input(origin, InputKind::DropDown, style == core::CheckBoxDropDownStyle), style_(style) {}
+    DropDownCommandInputObject(const InputOrigin& origin, core::DropDownStyles style)
+        : CommandInputObject(origin, InputKind::DropDown, style == core::CheckBoxDropDownStyle),
+          style_(style) {}
 
     [[nodiscard]] core::Ptr<core::ListItems> listItems() const override;
     [[nodiscard]] core::Ptr<core::ListItem> selectedItem() const override;

@@ -4,12 +4,12 @@
 
 namespace host::ui {
 
-std::string StringInput::value() const {
+std::string StringValueCommandInputObject::value() const {
     if (closed<"StringValueCommandInput::value">(*this)) return {};
     return value_;
 }
 
-bool StringInput::value(const std::string& value) {
+bool StringValueCommandInputObject::value(const std::string& value) {
     if (closed<"StringValueCommandInput::value">(*this)) return {};
     if (value_ != value) {
         value_ = value;
@@ -18,23 +18,23 @@ bool StringInput::value(const std::string& value) {
     return true;
 }
 
-bool StringInput::isReadOnly() const {
+bool StringValueCommandInputObject::isReadOnly() const {
     if (closed<"StringValueCommandInput::isReadOnly">(*this)) return {};
     return readOnly_;
 }
 
-bool StringInput::isReadOnly(bool value) {
+bool StringValueCommandInputObject::isReadOnly(bool value) {
     if (closed<"StringValueCommandInput::isReadOnly">(*this)) return {};
     readOnly_ = value;
     return true;
 }
 
-bool BoolInput::value() const {
+bool BoolValueCommandInputObject::value() const {
     if (closed<"BoolValueCommandInput::value">(*this)) return {};
     return value_;
 }
 
-bool BoolInput::value(bool value) {
+bool BoolValueCommandInputObject::value(bool value) {
     if (closed<"BoolValueCommandInput::value">(*this)) return {};
     if (value_ != value) {
         value_ = value;
@@ -43,47 +43,48 @@ bool BoolInput::value(bool value) {
     return true;
 }
 
-std::string BoolInput::resourceFolder() const {
+std::string BoolValueCommandInputObject::resourceFolder() const {
     if (closed<"BoolValueCommandInput::resourceFolder">(*this)) return {};
     return *resourceFolder_;
 }
 
-bool BoolInput::resourceFolder(const std::string& value) {
+bool BoolValueCommandInputObject::resourceFolder(const std::string& value) {
     if (closed<"BoolValueCommandInput::resourceFolder">(*this)) return {};
     resourceFolder_ = shared(value);
     return true;
 }
 
-bool BoolInput::isCheckBox() const {
+bool BoolValueCommandInputObject::isCheckBox() const {
     if (closed<"BoolValueCommandInput::isCheckBox">(*this)) return {};
     return checkBox_;
 }
 
-std::string BoolInput::text() const {
+std::string BoolValueCommandInputObject::text() const {
     if (closed<"BoolValueCommandInput::text">(*this)) return {};
     return *text_;
 }
 
-bool BoolInput::text(const std::string& value) {
+bool BoolValueCommandInputObject::text(const std::string& value) {
     if (closed<"BoolValueCommandInput::text">(*this)) return {};
     text_ = shared(value);
     return true;
 }
 
-TextBoxInput::TextBoxInput(const InputOrigin& origin, const std::string& formattedText, int rows,
-                           bool readOnly)
-    : Input(origin, InputKind::TextBox),
+TextBoxCommandInputObject::TextBoxCommandInputObject(const InputOrigin& origin,
+                                                     const std::string& formattedText, int rows,
+                                                     bool readOnly)
+    : CommandInputObject(origin, InputKind::TextBox),
       text_(plainText(formattedText)),
       formatted_(formattedText),
       rows_(rows),
       readOnly_(readOnly) {}
 
-std::string TextBoxInput::text() const {
+std::string TextBoxCommandInputObject::text() const {
     if (closed<"TextBoxCommandInput::text">(*this)) return {};
     return text_;
 }
 
-bool TextBoxInput::text(const std::string& value) {
+bool TextBoxCommandInputObject::text(const std::string& value) {
     if (closed<"TextBoxCommandInput::text">(*this)) return {};
     const bool changed = text_ != value;
     enter(value);
@@ -93,12 +94,12 @@ bool TextBoxInput::text(const std::string& value) {
     return true;
 }
 
-std::string TextBoxInput::formattedText() const {
+std::string TextBoxCommandInputObject::formattedText() const {
     if (closed<"TextBoxCommandInput::formattedText">(*this)) return {};
     return formatted_;
 }
 
-bool TextBoxInput::formattedText(const std::string& value) {
+bool TextBoxCommandInputObject::formattedText(const std::string& value) {
     if (closed<"TextBoxCommandInput::formattedText">(*this)) return {};
     const bool changed = formatted_ != value;
     text_ = plainText(value);
@@ -109,39 +110,39 @@ bool TextBoxInput::formattedText(const std::string& value) {
     return true;
 }
 
-int TextBoxInput::numRows() const {
+int TextBoxCommandInputObject::numRows() const {
     if (closed<"TextBoxCommandInput::numRows">(*this)) return {};
     return rows_;
 }
 
-bool TextBoxInput::numRows(int value) {
+bool TextBoxCommandInputObject::numRows(int value) {
     if (closed<"TextBoxCommandInput::numRows">(*this)) return {};
     rows_ = value;
     return true;
 }
 
-bool TextBoxInput::isReadOnly() const {
+bool TextBoxCommandInputObject::isReadOnly() const {
     if (closed<"TextBoxCommandInput::isReadOnly">(*this)) return {};
     return readOnly_;
 }
 
-bool TextBoxInput::isReadOnly(bool value) {
+bool TextBoxCommandInputObject::isReadOnly(bool value) {
     if (closed<"TextBoxCommandInput::isReadOnly">(*this)) return {};
     readOnly_ = value;
     return true;
 }
 
-void TextBoxInput::enter(const std::string& value) {
+void TextBoxCommandInputObject::enter(const std::string& value) {
     text_ = value;
     formatted_ = literalMarkup(value);
 }
 
-std::string ImageInput::imageFile() const {
+std::string ImageCommandInputObject::imageFile() const {
     if (closed<"ImageCommandInput::imageFile">(*this)) return {};
     return *imageFile_;
 }
 
-bool ImageInput::imageFile(const std::string& value) {
+bool ImageCommandInputObject::imageFile(const std::string& value) {
     if (closed<"ImageCommandInput::imageFile">(*this)) return {};
     imageFile_ = shared(value);
     return true;

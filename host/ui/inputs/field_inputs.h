@@ -7,10 +7,11 @@
 /// The inputs that hold one value: a line of text, a button or check box, a text box, a picture.
 namespace host::ui {
 
-class StringInput final : public Input<core::StringValueCommandInput> {
+class StringValueCommandInputObject final
+    : public CommandInputObject<core::StringValueCommandInput> {
 public:
-    StringInput(const InputOrigin& origin, const std::string& value)
-        : Input(origin, InputKind::String), value_(value) {}
+    StringValueCommandInputObject(const InputOrigin& origin, const std::string& value)
+        : CommandInputObject(origin, InputKind::String), value_(value) {}
 
     [[nodiscard]] std::string value() const override;
     bool value(const std::string& value) override;
@@ -26,11 +27,11 @@ private:
     std::string value_;
 };
 
-class BoolInput final : public Input<core::BoolValueCommandInput> {
+class BoolValueCommandInputObject final : public CommandInputObject<core::BoolValueCommandInput> {
 public:
-    BoolInput(const InputOrigin& origin, bool checkBox, const std::string& resourceFolder,
-              bool value)
-        : Input(origin, InputKind::Bool),
+    BoolValueCommandInputObject(const InputOrigin& origin, bool checkBox,
+                                const std::string& resourceFolder, bool value)
+        : CommandInputObject(origin, InputKind::Bool),
           checkBox_(checkBox),
           value_(value),
           resourceFolder_(shared(resourceFolder)),
@@ -54,10 +55,10 @@ private:
     const std::string* text_;            ///< of the command's pool
 };
 
-class TextBoxInput final : public Input<core::TextBoxCommandInput> {
+class TextBoxCommandInputObject final : public CommandInputObject<core::TextBoxCommandInput> {
 public:
-    TextBoxInput(const InputOrigin& origin, const std::string& formattedText, int rows,
-                 bool readOnly);
+    TextBoxCommandInputObject(const InputOrigin& origin, const std::string& formattedText, int rows,
+                              bool readOnly);
 
     [[nodiscard]] std::string text() const override;
     bool text(const std::string& value) override;
@@ -79,10 +80,10 @@ private:
     bool readOnly_;
 };
 
-class ImageInput final : public Input<core::ImageCommandInput> {
+class ImageCommandInputObject final : public CommandInputObject<core::ImageCommandInput> {
 public:
-    ImageInput(const InputOrigin& origin, const std::string& imageFile)
-        : Input(origin, InputKind::Image), imageFile_(shared(imageFile)) {}
+    ImageCommandInputObject(const InputOrigin& origin, const std::string& imageFile)
+        : CommandInputObject(origin, InputKind::Image), imageFile_(shared(imageFile)) {}
 
     [[nodiscard]] std::string imageFile() const override;
     bool imageFile(const std::string& value) override;

@@ -22,7 +22,7 @@ InputState* InputState::of(const core::Ptr<core::CommandInput>& input) {
 }
 
 void InputState::retire() {
-    if (Command* owning = command()) {
+    if (CommandObject* owning = command()) {
         owning->forget(*this);
     }
     if (inLine != nullptr) {
@@ -31,7 +31,7 @@ void InputState::retire() {
     owner_ = nullptr;
 }
 
-Command* InputState::command() const {
+CommandObject* InputState::command() const {
     return owner_ == nullptr ? nullptr : owner_->owningCommand();
 }
 
@@ -41,7 +41,7 @@ InputState* InputState::parent() const {
 }
 
 void InputState::changedByCode(CodeChange what) {
-    if (Command* owning = command()) {
+    if (CommandObject* owning = command()) {
         owning->changedByCode(*this, what);
     }
 }
@@ -71,7 +71,7 @@ core::Ptr<core::Command> commandOf(const InputState& state) {
 }
 
 void removeFromOwner(InputState& state) {
-    if (CommandInputs* owner = state.owner()) {
+    if (CommandInputsObject* owner = state.owner()) {
         owner->remove(state);
     }
 }

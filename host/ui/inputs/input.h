@@ -19,8 +19,8 @@ namespace host::ui {
 
 namespace core = adsk::core;
 
-class Command;
-class CommandInputs;
+class CommandObject;
+class CommandInputsObject;
 struct TableLine;
 
 /// What an input is, for those who tell the kinds apart.
@@ -47,7 +47,7 @@ enum class CodeChange : std::uint8_t {
 
 /// Where a new input belongs and what it is called.
 struct InputOrigin {
-    CommandInputs* owner = nullptr;
+    CommandInputsObject* owner = nullptr;
     const std::string* id = nullptr;
     const std::string* name = nullptr;  ///< of the command's pool
 };
@@ -73,10 +73,10 @@ public:
     virtual void visibilityChanged() {}
 
     /// The collection inside a tab or a group, else null.
-    [[nodiscard]] virtual CommandInputs* inside() const { return nullptr; }
+    [[nodiscard]] virtual CommandInputsObject* inside() const { return nullptr; }
 
     /// The command it belongs to; null once the command is over.
-    [[nodiscard]] Command* command() const;
+    [[nodiscard]] CommandObject* command() const;
 
     /// The table it stands in, else its tab or group; null at top level.
     [[nodiscard]] InputState* parent() const;
@@ -86,7 +86,7 @@ public:
 
     [[nodiscard]] const std::string& id() const { return id_; }
     [[nodiscard]] const std::string& name() const { return *name_; }
-    [[nodiscard]] CommandInputs* owner() const { return owner_; }
+    [[nodiscard]] CommandInputsObject* owner() const { return owner_; }
 
     /// @name Where collections and tables keep it
     /// @{
@@ -121,7 +121,7 @@ protected:
 private:
     std::string id_;
     const std::string* name_;
-    CommandInputs* owner_;
+    CommandInputsObject* owner_;
     std::unique_ptr<Extras> extras_;
 };
 
@@ -134,7 +134,7 @@ void removeFromOwner(InputState& state);
 
 /// An input of the API over its state.
 template <class Interface, class State = InputState>
-class Input : public Object<Interface>, public State {
+class CommandInputObject : public Object<Interface>, public State {
 public:
     using State::State;
 

@@ -58,7 +58,7 @@ std::size_t ListState::add(const std::string& name, bool selected, const std::st
 }
 
 void ListState::remove(std::size_t index) {
-    if (ListItem* item = entries_[index].item) {
+    if (ListItemObject* item = entries_[index].item) {
         item->invalidate();
     }
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
@@ -99,14 +99,14 @@ void ListState::changeIcon(std::size_t index, const std::string& icon) {
 // The API's getters are const and hand out what can be changed: so does a list here.
 core::Ptr<core::ListItems> ListState::itemsApi() const {
     if (items_ != nullptr) return core::Ptr<core::ListItems>(items_);
-    core::Ptr<ListItems> made = make<ListItems>(const_cast<ListState*>(this));
+    core::Ptr<ListItemsObject> made = make<ListItemsObject>(const_cast<ListState*>(this));
     items_ = made.get();
     return made;
 }
 
 core::Ptr<core::ListItem> ListState::itemApi(std::size_t index) const {
-    if (ListItem* item = entries_[index].item) return core::Ptr<core::ListItem>(item);
-    core::Ptr<ListItem> made = make<ListItem>(const_cast<ListState*>(this), index);
+    if (ListItemObject* item = entries_[index].item) return core::Ptr<core::ListItem>(item);
+    core::Ptr<ListItemObject> made = make<ListItemObject>(const_cast<ListState*>(this), index);
     entries_[index].item = made.get();
     return made;
 }
@@ -116,53 +116,53 @@ core::Ptr<core::ListItem> ListState::selectedItemApi() const {
     return index < 0 ? nullptr : itemApi(static_cast<std::size_t>(index));
 }
 
-ListItems::~ListItems() { list_->items_ = nullptr; }
+ListItemsObject::~ListItemsObject() { list_->items_ = nullptr; }
 
-std::size_t ListItems::count() const {
+std::size_t ListItemsObject::count() const {
     if (closed<"ListItems::count">(*this)) return {};
     return list_->entries().size();
 }
 
-core::Ptr<core::ListItem> ListItems::item(std::size_t index) const {
+core::Ptr<core::ListItem> ListItemsObject::item(std::size_t index) const {
     if (closed<"ListItems::item">(*this)) return {};
     return index < list_->entries().size() ? list_->itemApi(index) : nullptr;
 }
 
-core::Ptr<core::ListItem> ListItems::add(const std::string& name, bool isSelected,
-                                         const std::string& icon, int beforeIndex) {
+core::Ptr<core::ListItem> ListItemsObject::add(const std::string& name, bool isSelected,
+                                               const std::string& icon, int beforeIndex) {
     if (closed<"ListItems::add">(*this)) return {};
     return list_->itemApi(list_->add(name, isSelected, icon, beforeIndex));
 }
 
-bool ListItems::clear() {
+bool ListItemsObject::clear() {
     if (closed<"ListItems::clear">(*this)) return {};
     list_->clear();
     return true;
 }
 
-ListItem::~ListItem() {
+ListItemObject::~ListItemObject() {
     if (isValid()) {
         list_->entries_[index_].item = nullptr;
     }
 }
 
-std::string ListItem::name() const {
+std::string ListItemObject::name() const {
     if (closed<"ListItem::name">(*this)) return {};
     return *entry().name;
 }
 
-bool ListItem::name(const std::string& value) {
+bool ListItemObject::name(const std::string& value) {
     if (closed<"ListItem::name">(*this)) return {};
     list_->rename(index_, value);
     return true;
 }
 
-bool ListItem::isSelected() const {
+bool ListItemObject::isSelected() const {
     if (closed<"ListItem::isSelected">(*this)) return {};
     return entry().selected;
 }
 
-bool ListItem::isSelected(bool value) {
+bool ListItemObject::isSelected(bool value) {
     if (closed<"ListItem::isSelected">(*this)) return {};
     if (list_->select(index_, value)) {
         list_->changedByCode(value ? CodeChange::Selected : CodeChange::Value);
@@ -170,28 +170,28 @@ bool ListItem::isSelected(bool value) {
     return true;
 }
 
-int ListItem::index() const {
+int ListItemObject::index() const {
     if (closed<"ListItem::index">(*this)) return {};
     return static_cast<int>(index_);
 }
 
-std::string ListItem::icon() const {
+std::string ListItemObject::icon() const {
     if (closed<"ListItem::icon">(*this)) return {};
     return *entry().icon;
 }
 
-bool ListItem::icon(const std::string& value) {
+bool ListItemObject::icon(const std::string& value) {
     if (closed<"ListItem::icon">(*this)) return {};
     list_->changeIcon(index_, value);
     return true;
 }
 
-bool ListItem::isSeparator() const {
+bool ListItemObject::isSeparator() const {
     if (closed<"ListItem::isSeparator">(*this)) return {};
     return false;
 }
 
-bool ListItem::deleteMe() {
+bool ListItemObject::deleteMe() {
     if (closed<"ListItem::deleteMe">(*this)) return {};
     if (list_->kind == InputKind::DropDown && entry().selected && !list_->several()) {
         return fail(core::OperationFailed,

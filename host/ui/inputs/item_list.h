@@ -14,8 +14,8 @@
 /// object of the API is made when somebody asks and kept for as long as somebody holds it.
 namespace host::ui {
 
-class ListItem;
-class ListItems;
+class ListItemObject;
+class ListItemsObject;
 
 /// An input that offers items.
 class ListState : public InputState {
@@ -27,9 +27,9 @@ public:
     void retire() override;
 
     struct Entry {
-        const std::string* name = nullptr;  ///< of the command's pool
-        const std::string* icon = nullptr;  ///< of the command's pool
-        mutable ListItem* item = nullptr;   ///< the object of the API while somebody holds it
+        const std::string* name = nullptr;       ///< of the command's pool
+        const std::string* icon = nullptr;       ///< of the command's pool
+        mutable ListItemObject* item = nullptr;  ///< the object of the API while somebody holds it
         bool selected = false;
     };
 
@@ -60,22 +60,22 @@ public:
     core::Ptr<core::ListItem> selectedItemApi() const;
 
 private:
-    friend class ListItem;
-    friend class ListItems;
+    friend class ListItemObject;
+    friend class ListItemsObject;
 
     void renumber(std::size_t from);
 
     std::vector<Entry> entries_;
-    mutable ListItems* items_ = nullptr;  ///< the object of the API while somebody holds it
-    int selected_ = -1;                   ///< where only one item can be selected: its place
+    mutable ListItemsObject* items_ = nullptr;  ///< the object of the API while somebody holds it
+    int selected_ = -1;                         ///< where only one item can be selected: its place
     bool several_;
 };
 
 /// The list of an input as the API sees it.
-class ListItems final : public Object<core::ListItems> {
+class ListItemsObject final : public Object<core::ListItems> {
 public:
-    explicit ListItems(ListState* list) : list_(list), input_(list->api()) {}
-    ~ListItems() override;
+    explicit ListItemsObject(ListState* list) : list_(list), input_(list->api()) {}
+    ~ListItemsObject() override;
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::ListItem> item(std::size_t index) const override;
@@ -89,11 +89,11 @@ private:
 };
 
 /// An item of a list as the API sees it.
-class ListItem final : public Object<core::ListItem> {
+class ListItemObject final : public Object<core::ListItem> {
 public:
-    ListItem(ListState* list, std::size_t index)
+    ListItemObject(ListState* list, std::size_t index)
         : list_(list), index_(index), input_(list->api()) {}
-    ~ListItem() override;
+    ~ListItemObject() override;
 
     [[nodiscard]] std::string name() const override;
     bool name(const std::string& value) override;

@@ -13,14 +13,15 @@ std::string refusalByHolder(const InputState& holder) {
     if (holder.kind == InputKind::Tab && holder.command()->activeTab() != &holder) {
         return "its tab " + describe(holder) + " does not show: activate it first";
     }
-    if (holder.kind == InputKind::Group && !static_cast<const GroupInput&>(holder).expanded()) {
+    if (holder.kind == InputKind::Group &&
+        !static_cast<const GroupCommandInputObject&>(holder).expanded()) {
         return "its group " + describe(holder) + " is folded: click it first";
     }
     return {};
 }
 
 std::string refusalByTable(const InputState& input) {
-    const TableInput& table = *input.inLine->table;
+    const TableCommandInputObject& table = *input.inLine->table;
     if (table.isToolbar(*input.inLine)) return {};
     const std::vector<int> shown = table.shownColumns();
     if (std::find(shown.begin(), shown.end(), input.inColumn) == shown.end()) {

@@ -66,7 +66,7 @@ const Filter* find(const std::string& name) {
 bool isSelectionFilter(const std::string& name) { return find(name) != nullptr; }
 
 bool passesFilter(const core::Ptr<core::Base>& entity, const std::string& filter,
-                  const UserInterface& ui) {
+                  const UserInterfaceObject& ui) {
     const Filter* known = find(filter);
     if (known == nullptr || known->type != entity->objectType()) return false;
     return known->name != "RootComponents" || ui.isRootComponent(entity);

@@ -7,13 +7,13 @@
 /// The kinds of entities that a selection input can be limited to.
 namespace host::ui {
 
-class UserInterface;
+class UserInterfaceObject;
 
 /// Whether the host knows a filter of this name.
 bool isSelectionFilter(const std::string& name);
 
 /// Whether an entity is of the kind that a filter names.
 bool passesFilter(const adsk::core::Ptr<adsk::core::Base>& entity, const std::string& filter,
-                  const UserInterface& ui);
+                  const UserInterfaceObject& ui);
 
 }  // namespace host::ui

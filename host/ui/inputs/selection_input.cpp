@@ -10,17 +10,17 @@
 
 namespace host::ui {
 
-std::size_t SelectionInput::selectionCount() const {
+std::size_t SelectionCommandInputObject::selectionCount() const {
     if (closed<"SelectionCommandInput::selectionCount">(*this)) return {};
     return picks_.count();
 }
 
-core::Ptr<core::Selection> SelectionInput::selection(std::size_t index) const {
+core::Ptr<core::Selection> SelectionCommandInputObject::selection(std::size_t index) const {
     if (closed<"SelectionCommandInput::selection">(*this)) return {};
     return picks_.at(index);
 }
 
-bool SelectionInput::addSelection(const core::Ptr<core::Base>& selection) {
+bool SelectionCommandInputObject::addSelection(const core::Ptr<core::Base>& selection) {
     constexpr const char* kOperation = "SelectionCommandInput::addSelection";
     if (closed<"SelectionCommandInput::addSelection">(*this)) return {};
     if (!command()->isShown()) {
@@ -39,7 +39,7 @@ bool SelectionInput::addSelection(const core::Ptr<core::Base>& selection) {
     return true;
 }
 
-bool SelectionInput::clearSelection() {
+bool SelectionCommandInputObject::clearSelection() {
     if (closed<"SelectionCommandInput::clearSelection">(*this)) return {};
     if (picks_.count() > 0) {
         dropAll();
@@ -48,7 +48,7 @@ bool SelectionInput::clearSelection() {
     return true;
 }
 
-bool SelectionInput::addSelectionFilter(const std::string& filter) {
+bool SelectionCommandInputObject::addSelectionFilter(const std::string& filter) {
     if (closed<"SelectionCommandInput::addSelectionFilter">(*this)) return {};
     if (!isSelectionFilter(filter)) {
         return misuse("SelectionCommandInput::addSelectionFilter",
@@ -58,13 +58,13 @@ bool SelectionInput::addSelectionFilter(const std::string& filter) {
     return true;
 }
 
-bool SelectionInput::clearSelectionFilter() {
+bool SelectionCommandInputObject::clearSelectionFilter() {
     if (closed<"SelectionCommandInput::clearSelectionFilter">(*this)) return {};
     filters_.clear();
     return true;
 }
 
-bool SelectionInput::setSelectionLimits(std::size_t minimum, std::size_t maximum) {
+bool SelectionCommandInputObject::setSelectionLimits(std::size_t minimum, std::size_t maximum) {
     if (closed<"SelectionCommandInput::setSelectionLimits">(*this)) return {};
     if (maximum != 0 && maximum < minimum) {
         return misuse("SelectionCommandInput::setSelectionLimits",
@@ -75,42 +75,42 @@ bool SelectionInput::setSelectionLimits(std::size_t minimum, std::size_t maximum
     return true;
 }
 
-std::string SelectionInput::commandPrompt() const {
+std::string SelectionCommandInputObject::commandPrompt() const {
     if (closed<"SelectionCommandInput::commandPrompt">(*this)) return {};
     return prompt_;
 }
 
-bool SelectionInput::commandPrompt(const std::string& value) {
+bool SelectionCommandInputObject::commandPrompt(const std::string& value) {
     if (closed<"SelectionCommandInput::commandPrompt">(*this)) return {};
     prompt_ = value;
     return true;
 }
 
-bool SelectionInput::hasFocus() const {
+bool SelectionCommandInputObject::hasFocus() const {
     if (closed<"SelectionCommandInput::hasFocus">(*this)) return {};
     return focused();
 }
 
-bool SelectionInput::hasFocus(bool value) {
+bool SelectionCommandInputObject::hasFocus(bool value) {
     if (closed<"SelectionCommandInput::hasFocus">(*this)) return {};
     focus(value);
     return true;
 }
 
-bool SelectionInput::isEnabled() const {
+bool SelectionCommandInputObject::isEnabled() const {
     if (closed<"CommandInput::isEnabled">(*this)) return {};
     return focused();
 }
 
-bool SelectionInput::isEnabled(bool value) {
+bool SelectionCommandInputObject::isEnabled(bool value) {
     if (closed<"CommandInput::isEnabled">(*this)) return {};
     focus(value);
     return true;
 }
 
-bool SelectionInput::focused() const { return command()->focus() == this; }
+bool SelectionCommandInputObject::focused() const { return command()->focus() == this; }
 
-void SelectionInput::focus(bool value) {
+void SelectionCommandInputObject::focus(bool value) {
     if (value) {
         command()->focus(this);
     } else if (focused()) {
@@ -118,55 +118,55 @@ void SelectionInput::focus(bool value) {
     }
 }
 
-bool SelectionInput::isUseCurrentSelections() const {
+bool SelectionCommandInputObject::isUseCurrentSelections() const {
     if (closed<"SelectionCommandInput::isUseCurrentSelections">(*this)) return {};
     return usesCurrent_;
 }
 
-bool SelectionInput::isUseCurrentSelections(bool value) {
+bool SelectionCommandInputObject::isUseCurrentSelections(bool value) {
     if (closed<"SelectionCommandInput::isUseCurrentSelections">(*this)) return {};
     usesCurrent_ = value;
     return true;
 }
 
-void SelectionInput::retire() {
+void SelectionCommandInputObject::retire() {
     picks_.clear();
-    Input::retire();
+    CommandInputObject::retire();
 }
 
 // An input that is not shown cannot keep what nobody could see selected.
-void SelectionInput::visibilityChanged() {
+void SelectionCommandInputObject::visibilityChanged() {
     if (!visible) {
         dropAll();
     }
 }
 
-bool SelectionInput::accepts(const core::Ptr<core::Base>& entity) const {
+bool SelectionCommandInputObject::accepts(const core::Ptr<core::Base>& entity) const {
     return filters_.empty() ||
            std::any_of(filters_.begin(), filters_.end(), [&](const std::string& each) {
                return passesFilter(entity, each, command()->ui());
            });
 }
 
-std::size_t SelectionInput::maximum() const {
+std::size_t SelectionCommandInputObject::maximum() const {
     return maximum_ == 0 ? std::numeric_limits<std::size_t>::max() : maximum_;
 }
 
-SelectionList& SelectionInput::activeSelections() const {
+SelectionList& SelectionCommandInputObject::activeSelections() const {
     return command()->ui().selections().list;
 }
 
-void SelectionInput::take(const core::Ptr<core::Base>& entity) {
+void SelectionCommandInputObject::take(const core::Ptr<core::Base>& entity) {
     picks_.add(entity);
     activeSelections().add(entity);
 }
 
-void SelectionInput::drop(const core::Ptr<core::Base>& entity) {
+void SelectionCommandInputObject::drop(const core::Ptr<core::Base>& entity) {
     picks_.remove(entity);
     activeSelections().remove(entity);
 }
 
-void SelectionInput::dropAll() {
+void SelectionCommandInputObject::dropAll() {
     for (const core::Ptr<core::Base>& each : picks_.entities()) {
         activeSelections().remove(each);
     }

@@ -9,10 +9,10 @@
 
 namespace host::ui {
 
-class SelectionInput final : public Input<core::SelectionCommandInput> {
+class SelectionCommandInputObject final : public CommandInputObject<core::SelectionCommandInput> {
 public:
-    SelectionInput(const InputOrigin& origin, const std::string& prompt)
-        : Input(origin, InputKind::Selection), prompt_(prompt) {}
+    SelectionCommandInputObject(const InputOrigin& origin, const std::string& prompt)
+        : CommandInputObject(origin, InputKind::Selection), prompt_(prompt) {}
 
     [[nodiscard]] std::size_t selectionCount() const override;
     [[nodiscard]] core::Ptr<core::Selection> selection(std::size_t index) const override;
@@ -66,8 +66,8 @@ private:
 };
 
 /// An input of the kind for selections as what it is.
-inline SelectionInput& selectionOf(InputState* input) {
-    return static_cast<SelectionInput&>(*input);
+inline SelectionCommandInputObject& selectionOf(InputState* input) {
+    return static_cast<SelectionCommandInputObject&>(*input);
 }
 
 }  // namespace host::ui

@@ -42,8 +42,9 @@ std::vector<double> widths(const std::string& ratio) {
 
 }  // namespace
 
-TableInput::TableInput(const InputOrigin& origin, int columns, const std::string& ratio)
-    : Input(origin, InputKind::Table),
+TableCommandInputObject::TableCommandInputObject(const InputOrigin& origin, int columns,
+                                                 const std::string& ratio)
+    : CommandInputObject(origin, InputKind::Table),
       columns_(columns),
       ratio_(ratio),
       lines_(this, std::max(columns, 0)) {
@@ -51,8 +52,8 @@ TableInput::TableInput(const InputOrigin& origin, int columns, const std::string
 }
 
 // Null, with the misuse listed, for an input that cannot stand in this table.
-InputState* TableInput::acceptable(const core::Ptr<core::CommandInput>& input,
-                                   const char* operation) const {
+InputState* TableCommandInputObject::acceptable(const core::Ptr<core::CommandInput>& input,
+                                                const char* operation) const {
     InputState* state = InputState::of(input);
     if (state == nullptr) {
         fail(core::BadApiCallError, std::string(operation) + ": there is no input");
@@ -69,8 +70,8 @@ InputState* TableInput::acceptable(const core::Ptr<core::CommandInput>& input,
     return state;
 }
 
-bool TableInput::addCommandInput(const core::Ptr<core::CommandInput>& input, int row, int column,
-                                 int rowSpan, int columnSpan) {
+bool TableCommandInputObject::addCommandInput(const core::Ptr<core::CommandInput>& input, int row,
+                                              int column, int rowSpan, int columnSpan) {
     constexpr const char* kOperation = "TableCommandInput::addCommandInput";
     if (closed<"TableCommandInput::addCommandInput">(*this)) return {};
     InputState* state = acceptable(input, kOperation);
@@ -101,7 +102,7 @@ bool TableInput::addCommandInput(const core::Ptr<core::CommandInput>& input, int
     return true;
 }
 
-bool TableInput::addToolbarCommandInput(const core::Ptr<core::CommandInput>& input) {
+bool TableCommandInputObject::addToolbarCommandInput(const core::Ptr<core::CommandInput>& input) {
     constexpr const char* kOperation = "TableCommandInput::addToolbarCommandInput";
     if (closed<"TableCommandInput::addToolbarCommandInput">(*this)) return {};
     InputState* state = acceptable(input, kOperation);
@@ -114,7 +115,8 @@ bool TableInput::addToolbarCommandInput(const core::Ptr<core::CommandInput>& inp
     return true;
 }
 
-core::Ptr<core::CommandInput> TableInput::getInputAtPosition(int row, int column) const {
+core::Ptr<core::CommandInput> TableCommandInputObject::getInputAtPosition(int row,
+                                                                          int column) const {
     if (closed<"TableCommandInput::getInputAtPosition">(*this)) return {};
     if (row < 0 || column < 0) return nullptr;
     InputState* found =
@@ -122,8 +124,8 @@ core::Ptr<core::CommandInput> TableInput::getInputAtPosition(int row, int column
     return found == nullptr ? nullptr : found->api();
 }
 
-bool TableInput::getPosition(const core::Ptr<core::CommandInput>& input, int& row, int& column,
-                             int& rowSpan, int& columnSpan) const {
+bool TableCommandInputObject::getPosition(const core::Ptr<core::CommandInput>& input, int& row,
+                                          int& column, int& rowSpan, int& columnSpan) const {
     if (closed<"TableCommandInput::getPosition">(*this)) return {};
     const InputState* state = InputState::of(input);
     if (state == nullptr || state->inLine == nullptr || state->inLine->table != this ||
@@ -138,7 +140,7 @@ bool TableInput::getPosition(const core::Ptr<core::CommandInput>& input, int& ro
     return true;
 }
 
-bool TableInput::removeInput(int row, int column) {
+bool TableCommandInputObject::removeInput(int row, int column) {
     if (closed<"TableCommandInput::removeInput">(*this)) return {};
     InputState* found = row < 0 || column < 0 ? nullptr
                                               : lines_.cell(static_cast<std::size_t>(row),
@@ -150,7 +152,7 @@ bool TableInput::removeInput(int row, int column) {
     return true;
 }
 
-void TableInput::detach(InputState& input) {
+void TableCommandInputObject::detach(InputState& input) {
     TableLine& line = *input.inLine;
     input.inLine = nullptr;
     if (&line == &toolbar_) {
@@ -160,7 +162,7 @@ void TableInput::detach(InputState& input) {
     }
 }
 
-bool TableInput::deleteRow(int row) {
+bool TableCommandInputObject::deleteRow(int row) {
     if (closed<"TableCommandInput::deleteRow">(*this)) return {};
     if (row < 0 || lines_.count() == 0) {
         return fail(core::OperationFailed,
@@ -171,7 +173,7 @@ bool TableInput::deleteRow(int row) {
     return true;
 }
 
-bool TableInput::clear() {
+bool TableCommandInputObject::clear() {
     if (closed<"TableCommandInput::clear">(*this)) return {};
     while (lines_.count() > 0) {
         eraseWithInputs(lines_.at(lines_.count() - 1));
@@ -179,7 +181,7 @@ bool TableInput::clear() {
     return true;
 }
 
-void TableInput::eraseWithInputs(TableLine& line) {
+void TableCommandInputObject::eraseWithInputs(TableLine& line) {
     const std::vector<InputState*> cells = line.cells;
     lines_.erase(line);
     for (InputState* each : cells) {
@@ -189,7 +191,7 @@ void TableInput::eraseWithInputs(TableLine& line) {
     }
 }
 
-void TableInput::retire() {
+void TableCommandInputObject::retire() {
     while (lines_.count() > 0) {
         lines_.erase(lines_.at(lines_.count() - 1));
     }
@@ -197,64 +199,64 @@ void TableInput::retire() {
         each->inLine = nullptr;
     }
     toolbar_.cells.clear();
-    Input::retire();
+    CommandInputObject::retire();
 }
 
-int TableInput::rowCount() const {
+int TableCommandInputObject::rowCount() const {
     if (closed<"TableCommandInput::rowCount">(*this)) return {};
     return static_cast<int>(lines_.rows());
 }
 
-int TableInput::numberOfColumns() const {
+int TableCommandInputObject::numberOfColumns() const {
     if (closed<"TableCommandInput::numberOfColumns">(*this)) return {};
     return columns_;
 }
 
-bool TableInput::numberOfColumns(int /*value*/) {
+bool TableCommandInputObject::numberOfColumns(int /*value*/) {
     if (closed<"TableCommandInput::numberOfColumns">(*this)) return {};
     return true;
 }
 
-std::string TableInput::columnRatio() const {
+std::string TableCommandInputObject::columnRatio() const {
     if (closed<"TableCommandInput::columnRatio">(*this)) return {};
     return ratio_;
 }
 
-bool TableInput::columnRatio(const std::string& value) {
+bool TableCommandInputObject::columnRatio(const std::string& value) {
     if (closed<"TableCommandInput::columnRatio">(*this)) return {};
     ratio_ = value;
     return true;
 }
 
-int TableInput::maximumVisibleRows() const {
+int TableCommandInputObject::maximumVisibleRows() const {
     if (closed<"TableCommandInput::maximumVisibleRows">(*this)) return {};
     return maximumVisibleRows_;
 }
 
-bool TableInput::maximumVisibleRows(int value) {
+bool TableCommandInputObject::maximumVisibleRows(int value) {
     if (closed<"TableCommandInput::maximumVisibleRows">(*this)) return {};
     maximumVisibleRows_ = value;
     return true;
 }
 
-int TableInput::minimumVisibleRows() const {
+int TableCommandInputObject::minimumVisibleRows() const {
     if (closed<"TableCommandInput::minimumVisibleRows">(*this)) return {};
     return minimumVisibleRows_;
 }
 
-bool TableInput::minimumVisibleRows(int value) {
+bool TableCommandInputObject::minimumVisibleRows(int value) {
     if (closed<"TableCommandInput::minimumVisibleRows">(*this)) return {};
     minimumVisibleRows_ = value;
     return true;
 }
 
-int TableInput::selectedRow() const {
+int TableCommandInputObject::selectedRow() const {
     if (closed<"TableCommandInput::selectedRow">(*this)) return -1;
     const TableLine* selected = lines_.selected();
     return selected == nullptr ? -1 : static_cast<int>(lines_.indexOf(*selected));
 }
 
-bool TableInput::selectedRow(int value) {
+bool TableCommandInputObject::selectedRow(int value) {
     if (closed<"TableCommandInput::selectedRow">(*this)) return {};
     if (value < -1 || value >= static_cast<int>(lines_.count())) {
         return fail(core::OperationFailed,
@@ -264,18 +266,18 @@ bool TableInput::selectedRow(int value) {
     return true;
 }
 
-core::TablePresentationStyles TableInput::tablePresentationStyle() const {
+core::TablePresentationStyles TableCommandInputObject::tablePresentationStyle() const {
     if (closed<"TableCommandInput::tablePresentationStyle">(*this)) return {};
     return style_;
 }
 
-bool TableInput::tablePresentationStyle(core::TablePresentationStyles value) {
+bool TableCommandInputObject::tablePresentationStyle(core::TablePresentationStyles value) {
     if (closed<"TableCommandInput::tablePresentationStyle">(*this)) return {};
     style_ = value;
     return true;
 }
 
-std::vector<int> TableInput::shownColumns() const {
+std::vector<int> TableCommandInputObject::shownColumns() const {
     const std::vector<double> given = widths(ratio_);
     std::vector<int> shown;
     for (int column = 0; column <= std::min(columns_, kMostColumns); ++column) {
@@ -287,7 +289,7 @@ std::vector<int> TableInput::shownColumns() const {
     return shown;
 }
 
-bool TableInput::isShown(const TableLine& line, const std::vector<int>& shown) const {
+bool TableCommandInputObject::isShown(const TableLine& line, const std::vector<int>& shown) const {
     return std::any_of(shown.begin(), shown.end(), [&line](int column) {
         const auto index = static_cast<std::size_t>(column);
         return index < line.cells.size() && line.cells[index] != nullptr &&

@@ -10,9 +10,9 @@
 
 namespace host::ui {
 
-class TableInput final : public Input<core::TableCommandInput> {
+class TableCommandInputObject final : public CommandInputObject<core::TableCommandInput> {
 public:
-    TableInput(const InputOrigin& origin, int columns, const std::string& ratio);
+    TableCommandInputObject(const InputOrigin& origin, int columns, const std::string& ratio);
 
     bool addCommandInput(const core::Ptr<core::CommandInput>& input, int row, int column,
                          int rowSpan, int columnSpan) override;

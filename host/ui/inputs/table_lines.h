@@ -10,11 +10,11 @@
 namespace host::ui {
 
 class InputState;
-class TableInput;
+class TableCommandInputObject;
 
 /// One row of a table, or its toolbar.
 struct TableLine {
-    TableInput* table = nullptr;
+    TableCommandInputObject* table = nullptr;
     std::size_t slot = 0;            ///< among the lines; unused for the toolbar
     int counted = 0;                 ///< cells in the table's own columns
     std::vector<InputState*> cells;  ///< by column, null where none is; of the toolbar: in order
@@ -28,7 +28,8 @@ struct TableLine {
 class TableLines {
 public:
     /// `lastColumn` is the last one of the table's own columns.
-    TableLines(TableInput* table, int lastColumn) : table_(table), lastColumn_(lastColumn) {}
+    TableLines(TableCommandInputObject* table, int lastColumn)
+        : table_(table), lastColumn_(lastColumn) {}
 
     /// The number of lines that count as rows.
     [[nodiscard]] std::size_t rows() const { return rows_; }
@@ -63,7 +64,7 @@ private:
     }
     void count(TableLine& line, int change);
 
-    TableInput* table_;
+    TableCommandInputObject* table_;
     int lastColumn_;
     std::size_t rows_ = 0;
     const TableLine* selected_ = nullptr;

@@ -6,7 +6,7 @@
 namespace host::ui {
 
 /// Texts that many inputs have in common, each kept once.
-class TextPool {
+class StringPool {
 public:
     /// The one copy of a text; it stays where it is as long as the pool lives.
     const std::string* share(const std::string& text) {

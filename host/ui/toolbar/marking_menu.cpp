@@ -2,27 +2,27 @@
 
 namespace host::ui {
 
-core::Ptr<core::ToolbarControls> LinearMarkingMenu::controls() const {
+core::Ptr<core::ToolbarControls> LinearMarkingMenuObject::controls() const {
     if (closed<"LinearMarkingMenu::controls">(*this)) return {};
     return controls_;
 }
 
-void LinearMarkingMenu::dispose() {
+void LinearMarkingMenuObject::dispose() {
     controls_->dispose();
     invalidate();
 }
 
-core::Ptr<core::LinearMarkingMenu> MarkingMenuArguments::linearMarkingMenu() const {
+core::Ptr<core::LinearMarkingMenu> MarkingMenuEventArgsObject::linearMarkingMenu() const {
     if (refused<"MarkingMenuEventArgs::linearMarkingMenu">()) return {};
     return linear_;
 }
 
-core::Ptr<core::RadialMarkingMenu> MarkingMenuArguments::radialMarkingMenu() const {
+core::Ptr<core::RadialMarkingMenu> MarkingMenuEventArgsObject::radialMarkingMenu() const {
     if (refused<"MarkingMenuEventArgs::radialMarkingMenu">()) return {};
     return radial_;
 }
 
-std::vector<core::Ptr<core::Base>> MarkingMenuArguments::selectedEntities() const {
+std::vector<core::Ptr<core::Base>> MarkingMenuEventArgsObject::selectedEntities() const {
     if (refused<"MarkingMenuEventArgs::selectedEntities">()) return {};
     return selected_;
 }

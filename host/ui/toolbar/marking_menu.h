@@ -11,29 +11,30 @@
 /// The context menu, made again for each showing.
 namespace host::ui {
 
-class LinearMarkingMenu final : public Object<core::LinearMarkingMenu> {
+class LinearMarkingMenuObject final : public Object<core::LinearMarkingMenu> {
 public:
-    LinearMarkingMenu() : controls_(make<ToolbarControls>(this, /*inPanel=*/false)) {}
+    LinearMarkingMenuObject() : controls_(make<ToolbarControlsObject>(this, /*inPanel=*/false)) {}
 
     [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override;
 
-    [[nodiscard]] const ToolbarControls& entries() const { return *controls_; }
+    [[nodiscard]] const ToolbarControlsObject& entries() const { return *controls_; }
     void dispose();
 
 private:
-    core::Ptr<ToolbarControls> controls_;
+    core::Ptr<ToolbarControlsObject> controls_;
 };
 
-class RadialMarkingMenu final : public Object<core::RadialMarkingMenu> {
+class RadialMarkingMenuObject final : public Object<core::RadialMarkingMenu> {
 public:
-    RadialMarkingMenu() = default;
+    RadialMarkingMenuObject() = default;
 };
 
-class MarkingMenuArguments final : public Arguments<core::MarkingMenuEventArgs> {
+class MarkingMenuEventArgsObject final : public Arguments<core::MarkingMenuEventArgs> {
 public:
-    MarkingMenuArguments(core::Ptr<core::Event> event, core::Ptr<LinearMarkingMenu> linear,
-                         core::Ptr<RadialMarkingMenu> radial,
-                         std::vector<core::Ptr<core::Base>> selected)
+    MarkingMenuEventArgsObject(core::Ptr<core::Event> event,
+                               core::Ptr<LinearMarkingMenuObject> linear,
+                               core::Ptr<RadialMarkingMenuObject> radial,
+                               std::vector<core::Ptr<core::Base>> selected)
         : Arguments(std::move(event)),
           linear_(std::move(linear)),
           radial_(std::move(radial)),
@@ -44,11 +45,11 @@ public:
     [[nodiscard]] std::vector<core::Ptr<core::Base>> selectedEntities() const override;
 
 private:
-    core::Ptr<LinearMarkingMenu> linear_;
-    core::Ptr<RadialMarkingMenu> radial_;
+    core::Ptr<LinearMarkingMenuObject> linear_;
+    core::Ptr<RadialMarkingMenuObject> radial_;
     std::vector<core::Ptr<core::Base>> selected_;
 };
 
-using MarkingMenuEvent = TypedEvent<core::MarkingMenuEvent>;
+using MarkingMenuEventObject = TypedEvent<core::MarkingMenuEvent>;
 
 }  // namespace host::ui

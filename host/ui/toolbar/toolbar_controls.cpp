@@ -6,28 +6,28 @@
 
 namespace host::ui {
 
-std::string CommandControl::id() const {
+std::string CommandControlObject::id() const {
     if (closed<"ToolbarControl::id">(*this)) return {};
     return id_;
 }
 
-bool CommandControl::isVisible() const {
+bool CommandControlObject::isVisible() const {
     if (closed<"ToolbarControl::isVisible">(*this)) return {};
     return visible_;
 }
 
-bool CommandControl::isVisible(bool value) {
+bool CommandControlObject::isVisible(bool value) {
     if (closed<"ToolbarControl::isVisible">(*this)) return {};
     visible_ = value;
     return true;
 }
 
-core::Ptr<core::Base> CommandControl::parent() const {
+core::Ptr<core::Base> CommandControlObject::parent() const {
     if (closed<"ToolbarControl::parent">(*this)) return {};
     return core::Ptr<core::Base>(owner_->parent());
 }
 
-std::size_t CommandControl::index() const {
+std::size_t CommandControlObject::index() const {
     if (closed<"ToolbarControl::index">(*this)) return {};
     const auto& all = owner_->all();
     const auto found = std::find_if(all.begin(), all.end(),
@@ -35,62 +35,62 @@ std::size_t CommandControl::index() const {
     return static_cast<std::size_t>(found - all.begin());
 }
 
-bool CommandControl::deleteMe() {
+bool CommandControlObject::deleteMe() {
     if (closed<"ToolbarControl::deleteMe">(*this)) return {};
     owner_->remove(*this);
     return true;
 }
 
-core::Ptr<core::CommandDefinition> CommandControl::commandDefinition() const {
+core::Ptr<core::CommandDefinition> CommandControlObject::commandDefinition() const {
     if (closed<"CommandControl::commandDefinition">(*this)) return {};
     if (!definition_->isValid()) return nullptr;
     return definition_;
 }
 
-bool CommandControl::isPromoted() const {
+bool CommandControlObject::isPromoted() const {
     if (closed<"CommandControl::isPromoted">(*this)) return {};
     return promoted_;
 }
 
-bool CommandControl::isPromoted(bool value) {
+bool CommandControlObject::isPromoted(bool value) {
     if (closed<"CommandControl::isPromoted">(*this)) return {};
     promoted_ = value && owner_->inPanel();
     return true;
 }
 
-void CommandControl::dispose() {
+void CommandControlObject::dispose() {
     owner_ = nullptr;
     invalidate();
 }
 
-std::size_t ToolbarControls::count() const {
+std::size_t ToolbarControlsObject::count() const {
     if (closed<"ToolbarControls::count">(*this)) return {};
     return all_.size();
 }
 
-core::Ptr<core::ToolbarControl> ToolbarControls::item(std::size_t index) const {
+core::Ptr<core::ToolbarControl> ToolbarControlsObject::item(std::size_t index) const {
     if (closed<"ToolbarControls::item">(*this)) return {};
     return index < all_.size() ? all_[index] : nullptr;
 }
 
-std::size_t ToolbarControls::placeOf(const std::string& id) const {
+std::size_t ToolbarControlsObject::placeOf(const std::string& id) const {
     const auto found = std::find_if(all_.begin(), all_.end(),
                                     [&](const auto& each) { return each->identifier() == id; });
     return static_cast<std::size_t>(found - all_.begin());
 }
 
-core::Ptr<core::ToolbarControl> ToolbarControls::itemById(const std::string& id) const {
+core::Ptr<core::ToolbarControl> ToolbarControlsObject::itemById(const std::string& id) const {
     if (closed<"ToolbarControls::itemById">(*this)) return {};
     const std::size_t place = placeOf(id);
     return place < all_.size() ? all_[place] : nullptr;
 }
 
-core::Ptr<core::CommandControl> ToolbarControls::addCommand(
+core::Ptr<core::CommandControl> ToolbarControlsObject::addCommand(
     const core::Ptr<core::CommandDefinition>& commandDefinition, const std::string& positionID,
     bool isBefore) {
     constexpr const char* kOperation = "ToolbarControls::addCommand";
     if (closed<"ToolbarControls::addCommand">(*this)) return {};
-    const core::Ptr<CommandDefinition> definition = commandDefinition;
+    const core::Ptr<CommandDefinitionObject> definition = commandDefinition;
     if (!definition) {
         fail(core::BadApiCallError, std::string(kOperation) + ": there is no definition");
         return {};
@@ -99,7 +99,7 @@ core::Ptr<core::CommandControl> ToolbarControls::addCommand(
         misuse(kOperation, "the definition " + definition->identifier() + " was deleted");
         return {};
     }
-    core::Ptr<CommandControl> made = make<CommandControl>(this, definition);
+    core::Ptr<CommandControlObject> made = make<CommandControlObject>(this, definition);
     std::size_t place = positionID.empty() ? all_.size() : placeOf(positionID);
     if (place < all_.size() && !isBefore) {
         ++place;
@@ -108,19 +108,20 @@ core::Ptr<core::CommandControl> ToolbarControls::addCommand(
     return made;
 }
 
-core::Ptr<CommandControl> ToolbarControls::append(const core::Ptr<CommandDefinition>& definition) {
-    all_.push_back(make<CommandControl>(this, definition));
+core::Ptr<CommandControlObject> ToolbarControlsObject::append(
+    const core::Ptr<CommandDefinitionObject>& definition) {
+    all_.push_back(make<CommandControlObject>(this, definition));
     return all_.back();
 }
 
-void ToolbarControls::remove(CommandControl& control) {
-    const core::Ptr<CommandControl> kept(&control);
+void ToolbarControlsObject::remove(CommandControlObject& control) {
+    const core::Ptr<CommandControlObject> kept(&control);
     std::erase(all_, kept);
     control.dispose();
 }
 
-void ToolbarControls::dispose() {
-    for (const core::Ptr<CommandControl>& each : all_) {
+void ToolbarControlsObject::dispose() {
+    for (const core::Ptr<CommandControlObject>& each : all_) {
         each->dispose();
     }
     all_.clear();

@@ -10,11 +10,12 @@
 
 namespace host::ui {
 
-class ToolbarControls;
+class ToolbarControlsObject;
 
-class CommandControl final : public Object<core::CommandControl> {
+class CommandControlObject final : public Object<core::CommandControl> {
 public:
-    CommandControl(ToolbarControls* owner, core::Ptr<CommandDefinition> definition)
+    CommandControlObject(ToolbarControlsObject* owner,
+                         core::Ptr<CommandDefinitionObject> definition)
         : owner_(owner), id_(definition->identifier()), definition_(std::move(definition)) {}
 
     [[nodiscard]] std::string id() const override;
@@ -30,22 +31,24 @@ public:
     [[nodiscard]] const std::string& identifier() const { return id_; }
     [[nodiscard]] bool shown() const { return visible_; }
     [[nodiscard]] bool promoted() const { return promoted_; }
-    [[nodiscard]] const core::Ptr<CommandDefinition>& definition() const { return definition_; }
+    [[nodiscard]] const core::Ptr<CommandDefinitionObject>& definition() const {
+        return definition_;
+    }
     void dispose();
 
 private:
-    ToolbarControls* owner_;
+    ToolbarControlsObject* owner_;
     std::string id_;
-    core::Ptr<CommandDefinition> definition_;
+    core::Ptr<CommandDefinitionObject> definition_;
     bool visible_ = true;
     bool promoted_ = false;
 };
 
 /// The controls of a panel or of a menu; owns them.
-class ToolbarControls final : public Object<core::ToolbarControls> {
+class ToolbarControlsObject final : public Object<core::ToolbarControls> {
 public:
     /// `parent` is the panel or menu; in a panel controls can be promoted.
-    ToolbarControls(core::Base* parent, bool inPanel) : parent_(parent), inPanel_(inPanel) {}
+    ToolbarControlsObject(core::Base* parent, bool inPanel) : parent_(parent), inPanel_(inPanel) {}
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::ToolbarControl> item(std::size_t index) const override;
@@ -54,11 +57,11 @@ public:
         const core::Ptr<core::CommandDefinition>& commandDefinition, const std::string& positionID,
         bool isBefore) override;
 
-    [[nodiscard]] const std::vector<core::Ptr<CommandControl>>& all() const { return all_; }
+    [[nodiscard]] const std::vector<core::Ptr<CommandControlObject>>& all() const { return all_; }
     [[nodiscard]] core::Base* parent() const { return parent_; }
     [[nodiscard]] bool inPanel() const { return inPanel_; }
-    core::Ptr<CommandControl> append(const core::Ptr<CommandDefinition>& definition);
-    void remove(CommandControl& control);
+    core::Ptr<CommandControlObject> append(const core::Ptr<CommandDefinitionObject>& definition);
+    void remove(CommandControlObject& control);
     void dispose();
 
 private:
@@ -66,7 +69,7 @@ private:
 
     core::Base* parent_;
     bool inPanel_;
-    std::vector<core::Ptr<CommandControl>> all_;
+    std::vector<core::Ptr<CommandControlObject>> all_;
 };
 
 }  // namespace host::ui

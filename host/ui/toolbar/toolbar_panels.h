@@ -11,13 +11,13 @@
 /// The tabs of the toolbar and the panels in them.
 namespace host::ui {
 
-class ToolbarTab;
-class Workspace;
-class Workspaces;
+class ToolbarTabObject;
+class WorkspaceObject;
+class WorkspacesObject;
 
-class ToolbarPanel final : public Object<core::ToolbarPanel> {
+class ToolbarPanelObject final : public Object<core::ToolbarPanel> {
 public:
-    ToolbarPanel(ToolbarTab* owner, std::string id, std::string name, bool native);
+    ToolbarPanelObject(ToolbarTabObject* owner, std::string id, std::string name, bool native);
 
     [[nodiscard]] std::string id() const override;
     [[nodiscard]] std::string name() const override;
@@ -26,24 +26,25 @@ public:
 
     [[nodiscard]] const std::string& identifier() const { return id_; }
     [[nodiscard]] const std::string& caption() const { return name_; }
-    [[nodiscard]] ToolbarControls& buttons() const { return *controls_; }
+    [[nodiscard]] ToolbarControlsObject& buttons() const { return *controls_; }
     void dispose();
 
 private:
-    ToolbarTab* owner_;
+    ToolbarTabObject* owner_;
     std::string id_;
     std::string name_;
     bool native_;
-    core::Ptr<ToolbarControls> controls_;
+    core::Ptr<ToolbarControlsObject> controls_;
 };
 
-using PanelList = std::vector<core::Ptr<ToolbarPanel>>;
+using PanelList = std::vector<core::Ptr<ToolbarPanelObject>>;
 
 /// The panels of a tab, or of a workspace over all of its tabs.
-class ToolbarPanels final : public Object<core::ToolbarPanels> {
+class ToolbarPanelsObject final : public Object<core::ToolbarPanels> {
 public:
     /// `tab` is null for the panels of the workspace.
-    ToolbarPanels(Workspace* workspace, ToolbarTab* tab) : workspace_(workspace), tab_(tab) {}
+    ToolbarPanelsObject(WorkspaceObject* workspace, ToolbarTabObject* tab)
+        : workspace_(workspace), tab_(tab) {}
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::ToolbarPanel> item(std::size_t index) const override;
@@ -55,14 +56,14 @@ public:
 private:
     [[nodiscard]] PanelList panels() const;
 
-    Workspace* workspace_;
-    ToolbarTab* tab_;
+    WorkspaceObject* workspace_;
+    ToolbarTabObject* tab_;
 };
 
 /// The panels of all workspaces.
-class ToolbarPanelList final : public Object<core::ToolbarPanelList> {
+class ToolbarPanelListObject final : public Object<core::ToolbarPanelList> {
 public:
-    explicit ToolbarPanelList(Workspaces* workspaces) : workspaces_(workspaces) {}
+    explicit ToolbarPanelListObject(WorkspacesObject* workspaces) : workspaces_(workspaces) {}
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::ToolbarPanel> item(std::size_t index) const override;
@@ -70,13 +71,13 @@ public:
     void dispose();
 
 private:
-    Workspaces* workspaces_;
+    WorkspacesObject* workspaces_;
 };
 
 /// One tab of a workspace's toolbar; owns its panels.
-class ToolbarTab final : public Object<core::ToolbarTab> {
+class ToolbarTabObject final : public Object<core::ToolbarTab> {
 public:
-    ToolbarTab(Workspace* workspace, std::string id, std::string name);
+    ToolbarTabObject(WorkspaceObject* workspace, std::string id, std::string name);
 
     [[nodiscard]] std::string id() const override;
     [[nodiscard]] std::string name() const override;
@@ -86,18 +87,18 @@ public:
     [[nodiscard]] const PanelList& panels() const { return panels_; }
 
     /// Adds a panel at a place, at the end for one that does not exist.
-    core::Ptr<ToolbarPanel> add(const std::string& id, const std::string& name, bool native,
-                                std::size_t place);
-    void remove(ToolbarPanel& panel);
+    core::Ptr<ToolbarPanelObject> add(const std::string& id, const std::string& name, bool native,
+                                      std::size_t place);
+    void remove(ToolbarPanelObject& panel);
     void dispose();
 
 private:
     std::string id_;
     std::string name_;
     PanelList panels_;
-    core::Ptr<ToolbarPanels> api_;
+    core::Ptr<ToolbarPanelsObject> api_;
 };
 
-using TabList = std::vector<core::Ptr<ToolbarTab>>;
+using TabList = std::vector<core::Ptr<ToolbarTabObject>>;
 
 }  // namespace host::ui

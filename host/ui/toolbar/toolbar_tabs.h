@@ -5,9 +5,9 @@
 namespace host::ui {
 
 /// The tabs of one workspace.
-class ToolbarTabs final : public Object<core::ToolbarTabs> {
+class ToolbarTabsObject final : public Object<core::ToolbarTabs> {
 public:
-    explicit ToolbarTabs(Workspace* workspace) : workspace_(workspace) {}
+    explicit ToolbarTabsObject(WorkspaceObject* workspace) : workspace_(workspace) {}
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::ToolbarTab> item(std::size_t index) const override;
@@ -15,13 +15,13 @@ public:
     void dispose();
 
 private:
-    Workspace* workspace_;
+    WorkspaceObject* workspace_;
 };
 
 /// The tabs of all workspaces of one type of product.
-class ToolbarTabList final : public Object<core::ToolbarTabList> {
+class ToolbarTabListObject final : public Object<core::ToolbarTabList> {
 public:
-    ToolbarTabList(Workspaces* workspaces, std::string productType)
+    ToolbarTabListObject(WorkspacesObject* workspaces, std::string productType)
         : workspaces_(workspaces), productType_(std::move(productType)) {}
 
     [[nodiscard]] std::size_t count() const override;
@@ -32,7 +32,7 @@ public:
     void dispose();
 
 private:
-    Workspaces* workspaces_;
+    WorkspacesObject* workspaces_;
     std::string productType_;
 };
 

@@ -12,70 +12,70 @@ constexpr const char* kToolsTab = "ToolsTab";
 
 }  // namespace
 
-Workspace::Workspace(Workspaces* owner, WorkspaceSetup setup)
+WorkspaceObject::WorkspaceObject(WorkspacesObject* owner, WorkspaceSetup setup)
     : owner_(owner),
       setup_(std::move(setup)),
-      panelsApi_(make<ToolbarPanels>(this, nullptr)),
-      tabsApi_(make<ToolbarTabs>(this)) {}
+      panelsApi_(make<ToolbarPanelsObject>(this, nullptr)),
+      tabsApi_(make<ToolbarTabsObject>(this)) {}
 
-std::string Workspace::id() const {
+std::string WorkspaceObject::id() const {
     if (closed<"Workspace::id">(*this)) return {};
     return setup_.id;
 }
 
-std::string Workspace::name() const {
+std::string WorkspaceObject::name() const {
     if (closed<"Workspace::name">(*this)) return {};
     return setup_.name;
 }
 
-std::string Workspace::productType() const {
+std::string WorkspaceObject::productType() const {
     if (closed<"Workspace::productType">(*this)) return {};
     return setup_.productType;
 }
 
-core::Ptr<core::ToolbarPanels> Workspace::toolbarPanels() const {
+core::Ptr<core::ToolbarPanels> WorkspaceObject::toolbarPanels() const {
     if (closed<"Workspace::toolbarPanels">(*this)) return {};
     return panelsApi_;
 }
 
-core::Ptr<core::ToolbarTabs> Workspace::toolbarTabs() const {
+core::Ptr<core::ToolbarTabs> WorkspaceObject::toolbarTabs() const {
     if (closed<"Workspace::toolbarTabs">(*this)) return {};
     return tabsApi_;
 }
 
-bool Workspace::isActive() const {
+bool WorkspaceObject::isActive() const {
     if (closed<"Workspace::isActive">(*this)) return {};
     return owner_->active().get() == this;
 }
 
-bool Workspace::activate() {
+bool WorkspaceObject::activate() {
     if (closed<"Workspace::activate">(*this)) return {};
     if (owner_->active().get() != this && owner_->inCommandEvent()) {
         return misuse("Workspace::activate", "called inside an event of a command");
     }
-    owner_->activate(core::Ptr<Workspace>(this));
+    owner_->activate(core::Ptr<WorkspaceObject>(this));
     return true;
 }
 
-PanelList Workspace::panels() const {
+PanelList WorkspaceObject::panels() const {
     PanelList all;
-    for (const core::Ptr<ToolbarTab>& each : tabs_) {
+    for (const core::Ptr<ToolbarTabObject>& each : tabs_) {
         all.insert(all.end(), each->panels().begin(), each->panels().end());
     }
     return all;
 }
 
-ToolbarTab& Workspace::toolsTab() {
-    core::Ptr<ToolbarTab> tab = entryOf(tabs_, kToolsTab);
+ToolbarTabObject& WorkspaceObject::toolsTab() {
+    core::Ptr<ToolbarTabObject> tab = entryOf(tabs_, kToolsTab);
     if (!tab) {
-        tab = make<ToolbarTab>(this, kToolsTab, "Tools");
+        tab = make<ToolbarTabObject>(this, kToolsTab, "Tools");
         tabs_.push_back(tab);
     }
     return *tab;
 }
 
-void Workspace::dispose() {
-    for (const core::Ptr<ToolbarTab>& each : tabs_) {
+void WorkspaceObject::dispose() {
+    for (const core::Ptr<ToolbarTabObject>& each : tabs_) {
         each->dispose();
     }
     tabs_.clear();
@@ -85,46 +85,50 @@ void Workspace::dispose() {
     invalidate();
 }
 
-Workspaces::Workspaces(UserInterface* ui, const std::vector<WorkspaceSetup>& setups) : ui_(ui) {
+WorkspacesObject::WorkspacesObject(UserInterfaceObject* ui,
+                                   const std::vector<WorkspaceSetup>& setups)
+    : ui_(ui) {
     for (const WorkspaceSetup& each : setups) {
-        all_.push_back(make<Workspace>(this, each));
+        all_.push_back(make<WorkspaceObject>(this, each));
     }
     active_ = all_.empty() ? nullptr : all_.front();
 }
 
-std::size_t Workspaces::count() const {
+std::size_t WorkspacesObject::count() const {
     if (closed<"Workspaces::count">(*this)) return {};
     return all_.size();
 }
 
-core::Ptr<core::Workspace> Workspaces::item(std::size_t index) const {
+core::Ptr<core::Workspace> WorkspacesObject::item(std::size_t index) const {
     if (closed<"Workspaces::item">(*this)) return {};
     return entryAt(all_, index);
 }
 
-core::Ptr<core::Workspace> Workspaces::itemById(const std::string& id) const {
+core::Ptr<core::Workspace> WorkspacesObject::itemById(const std::string& id) const {
     if (closed<"Workspaces::itemById">(*this)) return {};
     return find(id);
 }
 
-core::Ptr<Workspace> Workspaces::find(const std::string& id) const { return entryOf(all_, id); }
+core::Ptr<WorkspaceObject> WorkspacesObject::find(const std::string& id) const {
+    return entryOf(all_, id);
+}
 
-core::Ptr<ToolbarPanel> Workspaces::panel(const std::string& id) const {
+core::Ptr<ToolbarPanelObject> WorkspacesObject::panel(const std::string& id) const {
     return entryOf(panels(), id);
 }
 
-PanelList Workspaces::panels() const {
+PanelList WorkspacesObject::panels() const {
     PanelList panels;
-    for (const core::Ptr<Workspace>& each : all_) {
+    for (const core::Ptr<WorkspaceObject>& each : all_) {
         const PanelList own = each->panels();
         panels.insert(panels.end(), own.begin(), own.end());
     }
     return panels;
 }
 
-TabList Workspaces::tabs(const std::string& productType) const {
+TabList WorkspacesObject::tabs(const std::string& productType) const {
     TabList tabs;
-    for (const core::Ptr<Workspace>& each : all_) {
+    for (const core::Ptr<WorkspaceObject>& each : all_) {
         if (each->product() == productType) {
             tabs.insert(tabs.end(), each->tabs().begin(), each->tabs().end());
         }
@@ -132,16 +136,16 @@ TabList Workspaces::tabs(const std::string& productType) const {
     return tabs;
 }
 
-bool Workspaces::inCommandEvent() const { return ui_->runner().inCommandEvent(); }
+bool WorkspacesObject::inCommandEvent() const { return ui_->runner().inCommandEvent(); }
 
-void Workspaces::activate(const core::Ptr<Workspace>& workspace) {
+void WorkspacesObject::activate(const core::Ptr<WorkspaceObject>& workspace) {
     if (workspace == active_) return;
     ui_->leaveWorkspace();
-    const auto fire = [](const core::Ptr<WorkspaceEvent>& event,
-                         const core::Ptr<Workspace>& about) {
-        event->fire(make<WorkspaceArguments>(event, about));
+    const auto fire = [](const core::Ptr<WorkspaceEventObject>& event,
+                         const core::Ptr<WorkspaceObject>& about) {
+        event->fire(make<WorkspaceEventArgsObject>(event, about));
     };
-    const core::Ptr<Workspace> before = active_;
+    const core::Ptr<WorkspaceObject> before = active_;
     fire(ui_->preDeactivateEvent, before);
     fire(ui_->preActivateEvent, workspace);
     active_ = workspace;
@@ -149,8 +153,8 @@ void Workspaces::activate(const core::Ptr<Workspace>& workspace) {
     fire(ui_->activatedEvent, workspace);
 }
 
-void Workspaces::dispose() {
-    for (const core::Ptr<Workspace>& each : all_) {
+void WorkspacesObject::dispose() {
+    for (const core::Ptr<WorkspaceObject>& each : all_) {
         each->dispose();
     }
     all_.clear();
@@ -159,7 +163,7 @@ void Workspaces::dispose() {
     invalidate();
 }
 
-core::Ptr<core::Workspace> WorkspaceArguments::workspace() const {
+core::Ptr<core::Workspace> WorkspaceEventArgsObject::workspace() const {
     if (refused<"WorkspaceEventArgs::workspace">()) return {};
     return workspace_;
 }

@@ -12,13 +12,13 @@
 
 namespace host::ui {
 
-class UserInterface;
-class Workspaces;
+class UserInterfaceObject;
+class WorkspacesObject;
 
 /// A workspace with its toolbar.
-class Workspace final : public Object<core::Workspace> {
+class WorkspaceObject final : public Object<core::Workspace> {
 public:
-    Workspace(Workspaces* owner, WorkspaceSetup setup);
+    WorkspaceObject(WorkspacesObject* owner, WorkspaceSetup setup);
 
     [[nodiscard]] std::string id() const override;
     [[nodiscard]] std::string name() const override;
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] bool isActive() const override;
     bool activate() override;
 
-    [[nodiscard]] Workspaces& owner() const { return *owner_; }
+    [[nodiscard]] WorkspacesObject& owner() const { return *owner_; }
     [[nodiscard]] const std::string& identifier() const { return setup_.id; }
     [[nodiscard]] const std::string& caption() const { return setup_.name; }
     [[nodiscard]] const std::string& product() const { return setup_.productType; }
@@ -36,32 +36,32 @@ public:
     [[nodiscard]] PanelList panels() const;
 
     /// The tab that added panels go to; made when it is missing.
-    ToolbarTab& toolsTab();
+    ToolbarTabObject& toolsTab();
     void dispose();
 
 private:
-    Workspaces* owner_;
+    WorkspacesObject* owner_;
     WorkspaceSetup setup_;
     TabList tabs_;
-    core::Ptr<ToolbarPanels> panelsApi_;
-    core::Ptr<ToolbarTabs> tabsApi_;
+    core::Ptr<ToolbarPanelsObject> panelsApi_;
+    core::Ptr<ToolbarTabsObject> tabsApi_;
 };
 
 /// All workspaces; one of them is active.
-class Workspaces final : public Object<core::Workspaces> {
+class WorkspacesObject final : public Object<core::Workspaces> {
 public:
-    Workspaces(UserInterface* ui, const std::vector<WorkspaceSetup>& setups);
+    WorkspacesObject(UserInterfaceObject* ui, const std::vector<WorkspaceSetup>& setups);
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::Workspace> item(std::size_t index) const override;
     [[nodiscard]] core::Ptr<core::Workspace> itemById(const std::string& id) const override;
 
-    [[nodiscard]] core::Ptr<Workspace> find(const std::string& id) const;
-    [[nodiscard]] const std::vector<core::Ptr<Workspace>>& all() const { return all_; }
-    [[nodiscard]] const core::Ptr<Workspace>& active() const { return active_; }
+    [[nodiscard]] core::Ptr<WorkspaceObject> find(const std::string& id) const;
+    [[nodiscard]] const std::vector<core::Ptr<WorkspaceObject>>& all() const { return all_; }
+    [[nodiscard]] const core::Ptr<WorkspaceObject>& active() const { return active_; }
 
     /// The panel of this id in any workspace, null where there is none.
-    [[nodiscard]] core::Ptr<ToolbarPanel> panel(const std::string& id) const;
+    [[nodiscard]] core::Ptr<ToolbarPanelObject> panel(const std::string& id) const;
     [[nodiscard]] PanelList panels() const;
     [[nodiscard]] TabList tabs(const std::string& productType) const;
 
@@ -69,18 +69,18 @@ public:
     [[nodiscard]] bool inCommandEvent() const;
 
     /// Shows a workspace and fires the events of the change, unless it is shown already.
-    void activate(const core::Ptr<Workspace>& workspace);
+    void activate(const core::Ptr<WorkspaceObject>& workspace);
     void dispose();
 
 private:
-    UserInterface* ui_;
-    std::vector<core::Ptr<Workspace>> all_;
-    core::Ptr<Workspace> active_;
+    UserInterfaceObject* ui_;
+    std::vector<core::Ptr<WorkspaceObject>> all_;
+    core::Ptr<WorkspaceObject> active_;
 };
 
-class WorkspaceArguments final : public Arguments<core::WorkspaceEventArgs> {
+class WorkspaceEventArgsObject final : public Arguments<core::WorkspaceEventArgs> {
 public:
-    WorkspaceArguments(core::Ptr<core::Event> event, core::Ptr<core::Workspace> workspace)
+    WorkspaceEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::Workspace> workspace)
         : Arguments(std::move(event)), workspace_(std::move(workspace)) {}
 
     [[nodiscard]] core::Ptr<core::Workspace> workspace() const override;
@@ -89,6 +89,6 @@ private:
     core::Ptr<core::Workspace> workspace_;
 };
 
-using WorkspaceEvent = TypedEvent<core::WorkspaceEvent>;
+using WorkspaceEventObject = TypedEvent<core::WorkspaceEvent>;
 
 }  // namespace host::ui
