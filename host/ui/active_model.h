@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/api_names.h"
+
 #include <Core/Base.h>
 
 #include <cstdint>
@@ -12,8 +14,7 @@ namespace host::ui {
 class ActiveModel {
 public:
     /// Whether this is the root component of the active document's design.
-    [[nodiscard]] virtual bool isRootComponent(
-        const adsk::core::Ptr<adsk::core::Base>& entity) const = 0;
+    [[nodiscard]] virtual bool isRootComponent(const core::Ptr<core::Base>& entity) const = 0;
 
     /// How often the active document's model was changed.
     [[nodiscard]] virtual std::uint64_t editsOfModel() const = 0;

@@ -6,14 +6,16 @@
 
 namespace host::ui {
 
-namespace core = adsk::core;
-
 class GeneralPreferencesObject final : public Object<core::GeneralPreferences> {
 public:
     GeneralPreferencesObject() = default;
 
-    [[nodiscard]] core::UserLanguages userLanguage() const override;
-    bool userLanguage(core::UserLanguages value) override;
+    [[nodiscard]] core::UserLanguages userLanguage() const override {
+        return get<"GeneralPreferences::userLanguage">(language_);
+    }
+    bool userLanguage(core::UserLanguages value) override {
+        return set<"GeneralPreferences::userLanguage">(language_, value);
+    }
 
 private:
     core::UserLanguages language_ = core::EnglishLanguage;
@@ -23,7 +25,9 @@ class PreferencesObject final : public Object<core::Preferences> {
 public:
     PreferencesObject() : general_(make<GeneralPreferencesObject>()) {}
 
-    [[nodiscard]] core::Ptr<core::GeneralPreferences> generalPreferences() const override;
+    [[nodiscard]] core::Ptr<core::GeneralPreferences> generalPreferences() const override {
+        return get<"Preferences::generalPreferences">(general_);
+    }
     void dispose();
 
 private:

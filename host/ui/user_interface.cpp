@@ -42,19 +42,9 @@ void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
     }
 }
 
-core::Ptr<core::Workspaces> UserInterfaceObject::workspaces() const {
-    if (closed<"UserInterface::workspaces">(*this)) return {};
-    return workspaces_;
-}
-
 core::Ptr<core::Workspace> UserInterfaceObject::activeWorkspace() const {
     if (closed<"UserInterface::activeWorkspace">(*this)) return {};
     return workspaces_->active();
-}
-
-core::Ptr<core::ToolbarPanelList> UserInterfaceObject::allToolbarPanels() const {
-    if (closed<"UserInterface::allToolbarPanels">(*this)) return {};
-    return panels_;
 }
 
 core::Ptr<core::ToolbarTabList> UserInterfaceObject::toolbarTabsByProductType(
@@ -63,61 +53,6 @@ core::Ptr<core::ToolbarTabList> UserInterfaceObject::toolbarTabsByProductType(
     if (const core::Ptr<ToolbarTabListObject> found = entryOf(tabLists_, productType)) return found;
     tabLists_.push_back(make<ToolbarTabListObject>(workspaces_.get(), productType));
     return tabLists_.back();
-}
-
-core::Ptr<core::Palettes> UserInterfaceObject::palettes() const {
-    if (closed<"UserInterface::palettes">(*this)) return {};
-    return palettes_;
-}
-
-core::Ptr<core::CommandDefinitions> UserInterfaceObject::commandDefinitions() const {
-    if (closed<"UserInterface::commandDefinitions">(*this)) return {};
-    return definitions_;
-}
-
-core::Ptr<core::Selections> UserInterfaceObject::activeSelections() const {
-    if (closed<"UserInterface::activeSelections">(*this)) return {};
-    return selections_;
-}
-
-core::Ptr<core::ApplicationCommandEvent> UserInterfaceObject::commandStarting() const {
-    if (closed<"UserInterface::commandStarting">(*this)) return {};
-    return startingEvent;
-}
-
-core::Ptr<core::ApplicationCommandEvent> UserInterfaceObject::commandCreated() const {
-    if (closed<"UserInterface::commandCreated">(*this)) return {};
-    return createdEvent;
-}
-
-core::Ptr<core::ApplicationCommandEvent> UserInterfaceObject::commandTerminated() const {
-    if (closed<"UserInterface::commandTerminated">(*this)) return {};
-    return terminatedEvent;
-}
-
-core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspacePreActivate() const {
-    if (closed<"UserInterface::workspacePreActivate">(*this)) return {};
-    return preActivateEvent;
-}
-
-core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspaceActivated() const {
-    if (closed<"UserInterface::workspaceActivated">(*this)) return {};
-    return activatedEvent;
-}
-
-core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspacePreDeactivate() const {
-    if (closed<"UserInterface::workspacePreDeactivate">(*this)) return {};
-    return preDeactivateEvent;
-}
-
-core::Ptr<core::WorkspaceEvent> UserInterfaceObject::workspaceDeactivated() const {
-    if (closed<"UserInterface::workspaceDeactivated">(*this)) return {};
-    return deactivatedEvent;
-}
-
-core::Ptr<core::MarkingMenuEvent> UserInterfaceObject::markingMenuDisplaying() const {
-    if (closed<"UserInterface::markingMenuDisplaying">(*this)) return {};
-    return menuEvent;
 }
 
 core::DialogResults UserInterfaceObject::messageBox(const std::string& text,

@@ -30,22 +30,48 @@ public:
     /// The model has to live until `dispose`.
     UserInterfaceObject(const HostSetup& setup, const ActiveModel& model);
 
-    [[nodiscard]] core::Ptr<core::Workspaces> workspaces() const override;
+    [[nodiscard]] core::Ptr<core::Workspaces> workspaces() const override {
+        return get<"UserInterface::workspaces">(workspaces_);
+    }
     [[nodiscard]] core::Ptr<core::Workspace> activeWorkspace() const override;
-    [[nodiscard]] core::Ptr<core::ToolbarPanelList> allToolbarPanels() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarPanelList> allToolbarPanels() const override {
+        return get<"UserInterface::allToolbarPanels">(panels_);
+    }
     [[nodiscard]] core::Ptr<core::ToolbarTabList> toolbarTabsByProductType(
         const std::string& productType) const override;
-    [[nodiscard]] core::Ptr<core::Palettes> palettes() const override;
-    [[nodiscard]] core::Ptr<core::CommandDefinitions> commandDefinitions() const override;
-    [[nodiscard]] core::Ptr<core::Selections> activeSelections() const override;
-    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandStarting() const override;
-    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandCreated() const override;
-    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandTerminated() const override;
-    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreActivate() const override;
-    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceActivated() const override;
-    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreDeactivate() const override;
-    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceDeactivated() const override;
-    [[nodiscard]] core::Ptr<core::MarkingMenuEvent> markingMenuDisplaying() const override;
+    [[nodiscard]] core::Ptr<core::Palettes> palettes() const override {
+        return get<"UserInterface::palettes">(palettes_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandDefinitions> commandDefinitions() const override {
+        return get<"UserInterface::commandDefinitions">(definitions_);
+    }
+    [[nodiscard]] core::Ptr<core::Selections> activeSelections() const override {
+        return get<"UserInterface::activeSelections">(selections_);
+    }
+    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandStarting() const override {
+        return get<"UserInterface::commandStarting">(startingEvent);
+    }
+    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandCreated() const override {
+        return get<"UserInterface::commandCreated">(createdEvent);
+    }
+    [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandTerminated() const override {
+        return get<"UserInterface::commandTerminated">(terminatedEvent);
+    }
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreActivate() const override {
+        return get<"UserInterface::workspacePreActivate">(preActivateEvent);
+    }
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceActivated() const override {
+        return get<"UserInterface::workspaceActivated">(activatedEvent);
+    }
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreDeactivate() const override {
+        return get<"UserInterface::workspacePreDeactivate">(preDeactivateEvent);
+    }
+    [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceDeactivated() const override {
+        return get<"UserInterface::workspaceDeactivated">(deactivatedEvent);
+    }
+    [[nodiscard]] core::Ptr<core::MarkingMenuEvent> markingMenuDisplaying() const override {
+        return get<"UserInterface::markingMenuDisplaying">(menuEvent);
+    }
     core::DialogResults messageBox(const std::string& text, const std::string& title,
                                    core::MessageBoxButtonTypes buttons,
                                    core::MessageBoxIconTypes icon) override;

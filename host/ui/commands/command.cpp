@@ -19,56 +19,6 @@ CommandObject::CommandObject(core::Ptr<CommandDefinitionObject> definition, Comm
       runner_(runner),
       inputs_(make<CommandInputsObject>(this, nullptr)) {}
 
-core::Ptr<core::CommandInputs> CommandObject::commandInputs() const {
-    if (closed<"Command::commandInputs">(*this)) return {};
-    return inputs_;
-}
-
-core::Ptr<core::CommandDefinition> CommandObject::parentCommandDefinition() const {
-    if (closed<"Command::parentCommandDefinition">(*this)) return {};
-    return definition_;
-}
-
-core::Ptr<core::CommandEvent> CommandObject::execute() const {
-    if (closed<"Command::execute">(*this)) return {};
-    return executeEvent;
-}
-
-core::Ptr<core::CommandEvent> CommandObject::executePreview() const {
-    if (closed<"Command::executePreview">(*this)) return {};
-    return previewEvent;
-}
-
-core::Ptr<core::CommandEvent> CommandObject::activate() const {
-    if (closed<"Command::activate">(*this)) return {};
-    return activateEvent;
-}
-
-core::Ptr<core::CommandEvent> CommandObject::deactivate() const {
-    if (closed<"Command::deactivate">(*this)) return {};
-    return deactivateEvent;
-}
-
-core::Ptr<core::CommandEvent> CommandObject::destroy() const {
-    if (closed<"Command::destroy">(*this)) return {};
-    return destroyEvent;
-}
-
-core::Ptr<core::InputChangedEvent> CommandObject::inputChanged() const {
-    if (closed<"Command::inputChanged">(*this)) return {};
-    return changedEvent;
-}
-
-core::Ptr<core::ValidateInputsEvent> CommandObject::validateInputs() const {
-    if (closed<"Command::validateInputs">(*this)) return {};
-    return validateEvent;
-}
-
-std::string CommandObject::okButtonText() const {
-    if (closed<"Command::okButtonText">(*this)) return {};
-    return okText_;
-}
-
 bool CommandObject::okButtonText(const std::string& value) {
     if (closed<"Command::okButtonText">(*this)) return {};
     okText_ = value;
@@ -76,59 +26,10 @@ bool CommandObject::okButtonText(const std::string& value) {
     return true;
 }
 
-std::string CommandObject::cancelButtonText() const {
-    if (closed<"Command::cancelButtonText">(*this)) return {};
-    return cancelText_;
-}
-
 bool CommandObject::cancelButtonText(const std::string& value) {
     if (closed<"Command::cancelButtonText">(*this)) return {};
     cancelText_ = value;
     dressed_ = true;
-    return true;
-}
-
-bool CommandObject::isOKButtonVisible() const {
-    if (closed<"Command::isOKButtonVisible">(*this)) return {};
-    return okVisible_;
-}
-
-bool CommandObject::isOKButtonVisible(bool value) {
-    if (closed<"Command::isOKButtonVisible">(*this)) return {};
-    okVisible_ = value;
-    return true;
-}
-
-bool CommandObject::isAutoExecute() const {
-    if (closed<"Command::isAutoExecute">(*this)) return {};
-    return autoExecute_;
-}
-
-bool CommandObject::isAutoExecute(bool value) {
-    if (closed<"Command::isAutoExecute">(*this)) return {};
-    autoExecute_ = value;
-    return true;
-}
-
-bool CommandObject::isExecutedWhenPreEmpted() const {
-    if (closed<"Command::isExecutedWhenPreEmpted">(*this)) return {};
-    return executedWhenPreEmpted_;
-}
-
-bool CommandObject::isExecutedWhenPreEmpted(bool value) {
-    if (closed<"Command::isExecutedWhenPreEmpted">(*this)) return {};
-    executedWhenPreEmpted_ = value;
-    return true;
-}
-
-bool CommandObject::isRepeatable() const {
-    if (closed<"Command::isRepeatable">(*this)) return {};
-    return repeatable_;
-}
-
-bool CommandObject::isRepeatable(bool value) {
-    if (closed<"Command::isRepeatable">(*this)) return {};
-    repeatable_ = value;
     return true;
 }
 

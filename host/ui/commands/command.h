@@ -36,27 +36,65 @@ class CommandObject final : public Object<core::Command> {
 public:
     CommandObject(core::Ptr<CommandDefinitionObject> definition, CommandRunner* runner);
 
-    [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override;
-    [[nodiscard]] core::Ptr<core::CommandDefinition> parentCommandDefinition() const override;
-    [[nodiscard]] core::Ptr<core::CommandEvent> execute() const override;
-    [[nodiscard]] core::Ptr<core::CommandEvent> executePreview() const override;
-    [[nodiscard]] core::Ptr<core::CommandEvent> activate() const override;
-    [[nodiscard]] core::Ptr<core::CommandEvent> deactivate() const override;
-    [[nodiscard]] core::Ptr<core::CommandEvent> destroy() const override;
-    [[nodiscard]] core::Ptr<core::InputChangedEvent> inputChanged() const override;
-    [[nodiscard]] core::Ptr<core::ValidateInputsEvent> validateInputs() const override;
-    [[nodiscard]] std::string okButtonText() const override;
+    [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override {
+        return get<"Command::commandInputs">(inputs_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandDefinition> parentCommandDefinition() const override {
+        return get<"Command::parentCommandDefinition">(definition_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> execute() const override {
+        return get<"Command::execute">(executeEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> executePreview() const override {
+        return get<"Command::executePreview">(previewEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> activate() const override {
+        return get<"Command::activate">(activateEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> deactivate() const override {
+        return get<"Command::deactivate">(deactivateEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> destroy() const override {
+        return get<"Command::destroy">(destroyEvent);
+    }
+    [[nodiscard]] core::Ptr<core::InputChangedEvent> inputChanged() const override {
+        return get<"Command::inputChanged">(changedEvent);
+    }
+    [[nodiscard]] core::Ptr<core::ValidateInputsEvent> validateInputs() const override {
+        return get<"Command::validateInputs">(validateEvent);
+    }
+    [[nodiscard]] std::string okButtonText() const override {
+        return get<"Command::okButtonText">(okText_);
+    }
     bool okButtonText(const std::string& value) override;
-    [[nodiscard]] std::string cancelButtonText() const override;
+    [[nodiscard]] std::string cancelButtonText() const override {
+        return get<"Command::cancelButtonText">(cancelText_);
+    }
     bool cancelButtonText(const std::string& value) override;
-    [[nodiscard]] bool isOKButtonVisible() const override;
-    bool isOKButtonVisible(bool value) override;
-    [[nodiscard]] bool isAutoExecute() const override;
-    bool isAutoExecute(bool value) override;
-    [[nodiscard]] bool isExecutedWhenPreEmpted() const override;
-    bool isExecutedWhenPreEmpted(bool value) override;
-    [[nodiscard]] bool isRepeatable() const override;
-    bool isRepeatable(bool value) override;
+    [[nodiscard]] bool isOKButtonVisible() const override {
+        return get<"Command::isOKButtonVisible">(okVisible_);
+    }
+    bool isOKButtonVisible(bool value) override {
+        return set<"Command::isOKButtonVisible">(okVisible_, value);
+    }
+    [[nodiscard]] bool isAutoExecute() const override {
+        return get<"Command::isAutoExecute">(autoExecute_);
+    }
+    bool isAutoExecute(bool value) override {
+        return set<"Command::isAutoExecute">(autoExecute_, value);
+    }
+    [[nodiscard]] bool isExecutedWhenPreEmpted() const override {
+        return get<"Command::isExecutedWhenPreEmpted">(executedWhenPreEmpted_);
+    }
+    bool isExecutedWhenPreEmpted(bool value) override {
+        return set<"Command::isExecutedWhenPreEmpted">(executedWhenPreEmpted_, value);
+    }
+    [[nodiscard]] bool isRepeatable() const override {
+        return get<"Command::isRepeatable">(repeatable_);
+    }
+    bool isRepeatable(bool value) override {
+        return set<"Command::isRepeatable">(repeatable_, value);
+    }
     bool setDialogInitialSize(int width, int height) override;
     bool setDialogMinimumSize(int width, int height) override;
     bool doExecute(bool terminate) override;

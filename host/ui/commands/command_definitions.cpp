@@ -30,49 +30,6 @@ CommandDefinitionObject::CommandDefinitionObject(CommandDefinitionsObject* owner
       resourceFolder_(std::move(resourceFolder)),
       native_(native) {}
 
-std::string CommandDefinitionObject::id() const {
-    if (closed<"CommandDefinition::id">(*this)) return {};
-    return id_;
-}
-
-std::string CommandDefinitionObject::name() const {
-    if (closed<"CommandDefinition::name">(*this)) return {};
-    return name_;
-}
-
-bool CommandDefinitionObject::name(const std::string& value) {
-    if (closed<"CommandDefinition::name">(*this)) return {};
-    name_ = value;
-    return true;
-}
-
-std::string CommandDefinitionObject::tooltip() const {
-    if (closed<"CommandDefinition::tooltip">(*this)) return {};
-    return tooltip_;
-}
-
-bool CommandDefinitionObject::tooltip(const std::string& value) {
-    if (closed<"CommandDefinition::tooltip">(*this)) return {};
-    tooltip_ = value;
-    return true;
-}
-
-std::string CommandDefinitionObject::resourceFolder() const {
-    if (closed<"CommandDefinition::resourceFolder">(*this)) return {};
-    return resourceFolder_;
-}
-
-bool CommandDefinitionObject::resourceFolder(const std::string& value) {
-    if (closed<"CommandDefinition::resourceFolder">(*this)) return {};
-    resourceFolder_ = value;
-    return true;
-}
-
-core::Ptr<core::CommandCreatedEvent> CommandDefinitionObject::commandCreated() const {
-    if (closed<"CommandDefinition::commandCreated">(*this)) return {};
-    return createdEvent;
-}
-
 bool CommandDefinitionObject::execute(const core::Ptr<core::NamedValues>& /*input*/) {
     if (closed<"CommandDefinition::execute">(*this)) return {};
     owner_->runner().request(core::Ptr<CommandDefinitionObject>(this));

@@ -19,14 +19,28 @@ public:
     CommandDefinitionObject(CommandDefinitionsObject* owner, std::string id, std::string name,
                             std::string tooltip, std::string resourceFolder, bool native);
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] std::string name() const override;
-    bool name(const std::string& value) override;
-    [[nodiscard]] std::string tooltip() const override;
-    bool tooltip(const std::string& value) override;
-    [[nodiscard]] std::string resourceFolder() const override;
-    bool resourceFolder(const std::string& value) override;
-    [[nodiscard]] core::Ptr<core::CommandCreatedEvent> commandCreated() const override;
+    [[nodiscard]] std::string id() const override { return get<"CommandDefinition::id">(id_); }
+    [[nodiscard]] std::string name() const override {
+        return get<"CommandDefinition::name">(name_);
+    }
+    bool name(const std::string& value) override {
+        return set<"CommandDefinition::name">(name_, value);
+    }
+    [[nodiscard]] std::string tooltip() const override {
+        return get<"CommandDefinition::tooltip">(tooltip_);
+    }
+    bool tooltip(const std::string& value) override {
+        return set<"CommandDefinition::tooltip">(tooltip_, value);
+    }
+    [[nodiscard]] std::string resourceFolder() const override {
+        return get<"CommandDefinition::resourceFolder">(resourceFolder_);
+    }
+    bool resourceFolder(const std::string& value) override {
+        return set<"CommandDefinition::resourceFolder">(resourceFolder_, value);
+    }
+    [[nodiscard]] core::Ptr<core::CommandCreatedEvent> commandCreated() const override {
+        return get<"CommandDefinition::commandCreated">(createdEvent);
+    }
     bool execute(const core::Ptr<core::NamedValues>& input) override;
     bool deleteMe() override;
 

@@ -13,14 +13,14 @@
 /// The events of commands and what their notifications carry.
 namespace host::ui {
 
-namespace core = adsk::core;
-
 class CommandCreatedEventArgsObject final : public Arguments<core::CommandCreatedEventArgs> {
 public:
     CommandCreatedEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::Command> command)
         : Arguments(std::move(event)), command_(std::move(command)) {}
 
-    [[nodiscard]] core::Ptr<core::Command> command() const override;
+    [[nodiscard]] core::Ptr<core::Command> command() const override {
+        return get<"CommandCreatedEventArgs::command">(command_);
+    }
 
 private:
     core::Ptr<core::Command> command_;
@@ -32,14 +32,30 @@ public:
                            core::CommandTerminationReason reason = core::UnknownTerminationReason)
         : Arguments(std::move(event)), command_(std::move(command)), reason_(reason) {}
 
-    [[nodiscard]] core::Ptr<core::Command> command() const override;
-    [[nodiscard]] bool executeFailed() const override;
-    bool executeFailed(bool value) override;
-    [[nodiscard]] std::string executeFailedMessage() const override;
-    bool executeFailedMessage(const std::string& value) override;
-    [[nodiscard]] bool isValidResult() const override;
-    bool isValidResult(bool value) override;
-    [[nodiscard]] core::CommandTerminationReason terminationReason() const override;
+    [[nodiscard]] core::Ptr<core::Command> command() const override {
+        return get<"CommandEventArgs::command">(command_);
+    }
+    [[nodiscard]] bool executeFailed() const override {
+        return get<"CommandEventArgs::executeFailed">(failed_);
+    }
+    bool executeFailed(bool value) override {
+        return set<"CommandEventArgs::executeFailed">(failed_, value);
+    }
+    [[nodiscard]] std::string executeFailedMessage() const override {
+        return get<"CommandEventArgs::executeFailedMessage">(message_);
+    }
+    bool executeFailedMessage(const std::string& value) override {
+        return set<"CommandEventArgs::executeFailedMessage">(message_, value);
+    }
+    [[nodiscard]] bool isValidResult() const override {
+        return get<"CommandEventArgs::isValidResult">(validResult_);
+    }
+    bool isValidResult(bool value) override {
+        return set<"CommandEventArgs::isValidResult">(validResult_, value);
+    }
+    [[nodiscard]] core::CommandTerminationReason terminationReason() const override {
+        return get<"CommandEventArgs::terminationReason">(reason_);
+    }
 
     [[nodiscard]] bool failed() const { return failed_; }
     [[nodiscard]] bool standsForExecution() const { return validResult_; }
@@ -58,8 +74,12 @@ public:
                                 core::Ptr<core::CommandInputs> inputs)
         : Arguments(std::move(event)), input_(std::move(input)), inputs_(std::move(inputs)) {}
 
-    [[nodiscard]] core::Ptr<core::CommandInput> input() const override;
-    [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override;
+    [[nodiscard]] core::Ptr<core::CommandInput> input() const override {
+        return get<"InputChangedEventArgs::input">(input_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override {
+        return get<"InputChangedEventArgs::inputs">(inputs_);
+    }
 
 private:
     core::Ptr<core::CommandInput> input_;
@@ -72,9 +92,15 @@ public:
                                   core::Ptr<core::CommandInputs> inputs)
         : Arguments(std::move(event)), inputs_(std::move(inputs)) {}
 
-    [[nodiscard]] bool areInputsValid() const override;
-    bool areInputsValid(bool value) override;
-    [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override;
+    [[nodiscard]] bool areInputsValid() const override {
+        return get<"ValidateInputsEventArgs::areInputsValid">(valid_);
+    }
+    bool areInputsValid(bool value) override {
+        return set<"ValidateInputsEventArgs::areInputsValid">(valid_, value);
+    }
+    [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override {
+        return get<"ValidateInputsEventArgs::inputs">(inputs_);
+    }
 
     [[nodiscard]] bool valid() const { return valid_; }
 
@@ -97,10 +123,18 @@ public:
           reason_(reason),
           cancellable_(cancellable) {}
 
-    [[nodiscard]] std::string commandId() const override;
-    [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override;
-    [[nodiscard]] core::CommandTerminationReason terminationReason() const override;
-    [[nodiscard]] bool isCanceled() const override;
+    [[nodiscard]] std::string commandId() const override {
+        return get<"ApplicationCommandEventArgs::commandId">(commandId_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override {
+        return get<"ApplicationCommandEventArgs::commandDefinition">(definition_);
+    }
+    [[nodiscard]] core::CommandTerminationReason terminationReason() const override {
+        return get<"ApplicationCommandEventArgs::terminationReason">(reason_);
+    }
+    [[nodiscard]] bool isCanceled() const override {
+        return get<"ApplicationCommandEventArgs::isCanceled">(cancelled_);
+    }
     bool isCanceled(bool value) override;
 
     [[nodiscard]] bool cancelled() const { return cancelled_; }

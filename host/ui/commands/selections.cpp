@@ -9,11 +9,6 @@
 
 namespace host::ui {
 
-core::Ptr<core::Base> SelectionObject::entity() const {
-    if (closed<"Selection::entity">(*this)) return {};
-    return entity_;
-}
-
 core::Ptr<core::Point3D> SelectionObject::point() const {
     if (closed<"Selection::point">(*this)) return {};
     notImplemented("Selection::point");

@@ -11,13 +11,13 @@
 
 namespace host::ui {
 
-namespace core = adsk::core;
-
 class SelectionObject final : public Object<core::Selection> {
 public:
     explicit SelectionObject(core::Ptr<core::Base> entity) : entity_(std::move(entity)) {}
 
-    [[nodiscard]] core::Ptr<core::Base> entity() const override;
+    [[nodiscard]] core::Ptr<core::Base> entity() const override {
+        return get<"Selection::entity">(entity_);
+    }
     [[nodiscard]] core::Ptr<core::Point3D> point() const override;
 
     [[nodiscard]] const core::Ptr<core::Base>& selected() const { return entity_; }

@@ -43,51 +43,7 @@ void askForFiles(std::function<PickedFiles(const FileDialogShown&)> ask) {
 
 namespace ui {
 
-bool FileDialogObject::isMultiSelectEnabled() const {
-    if (closed<"FileDialog::isMultiSelectEnabled">(*this)) return {};
-    return state_.multiSelect;
-}
-
-bool FileDialogObject::isMultiSelectEnabled(bool value) {
-    if (closed<"FileDialog::isMultiSelectEnabled">(*this)) return {};
-    state_.multiSelect = value;
-    return true;
-}
-
-std::string FileDialogObject::title() const {
-    if (closed<"FileDialog::title">(*this)) return {};
-    return state_.title;
-}
-
-bool FileDialogObject::title(const std::string& value) {
-    if (closed<"FileDialog::title">(*this)) return {};
-    state_.title = value;
-    return true;
-}
-
-std::string FileDialogObject::filter() const {
-    if (closed<"FileDialog::filter">(*this)) return {};
-    return state_.filter;
-}
-
-bool FileDialogObject::filter(const std::string& value) {
-    if (closed<"FileDialog::filter">(*this)) return {};
-    state_.filter = value;
-    return true;
-}
-
-int FileDialogObject::filterIndex() const {
-    if (closed<"FileDialog::filterIndex">(*this)) return {};
-    return state_.filterIndex;
-}
-
-bool FileDialogObject::filterIndex(int value) {
-    if (closed<"FileDialog::filterIndex">(*this)) return {};
-    state_.filterIndex = value;
-    return true;
-}
-
-adsk::core::DialogResults FileDialogObject::showOpen() {
+core::DialogResults FileDialogObject::showOpen() {
     if (closed<"FileDialog::showOpen">(*this)) return {};
     answer(state_);
     if (state_.picked && state_.picked->size() > 1 && !state_.multiSelect) {
@@ -95,7 +51,7 @@ adsk::core::DialogResults FileDialogObject::showOpen() {
         state_.picked->resize(1);
     }
     screen().shown.push_back(state_);
-    return state_.picked ? adsk::core::DialogOK : adsk::core::DialogCancel;
+    return state_.picked ? core::DialogOK : core::DialogCancel;
 }
 
 std::vector<std::string> FileDialogObject::filenames() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/api_names.h"
+
 #include <Core/Enums.h>
 
 #include <functional>
@@ -13,9 +15,9 @@ namespace host {
 struct Message {
     std::string text;
     std::string title;  ///< as it was given; where it is empty a person sees the module's name
-    adsk::core::MessageBoxButtonTypes buttons = adsk::core::OKButtonType;
-    adsk::core::MessageBoxIconTypes icon = adsk::core::NoIconIconType;
-    adsk::core::DialogResults answer = adsk::core::DialogOK;  ///< what was pressed
+    core::MessageBoxButtonTypes buttons = core::OKButtonType;
+    core::MessageBoxIconTypes icon = core::NoIconIconType;
+    core::DialogResults answer = core::DialogOK;  ///< what was pressed
 
     bool operator==(const Message&) const = default;
 };
@@ -26,16 +28,16 @@ void clearMessages();
 
 /// Answers the next message that nobody answered yet; an answer that it has no button for is listed
 /// as a misuse, and its first button is pressed.
-void answerNextMessage(adsk::core::DialogResults answer);
+void answerNextMessage(core::DialogResults answer);
 
 /// Asks `ask` for the answer of each message that has none waiting; null asks nobody, and the first
 /// button is pressed. `ask` runs while the module waits.
-void askForAnswers(std::function<adsk::core::DialogResults(const Message&)> ask);
+void askForAnswers(std::function<core::DialogResults(const Message&)> ask);
 
 namespace ui {
 
 /// Shows a message: keeps it, and returns its answer.
-adsk::core::DialogResults showMessage(Message message);
+core::DialogResults showMessage(Message message);
 
 /// Forgets messages, answers and whom to ask.
 void resetMessages();

@@ -5,81 +5,11 @@
 
 namespace host::ui {
 
-std::string PaletteObject::id() const {
-    if (closed<"Palette::id">(*this)) return {};
-    return state.id;
-}
-
-std::string PaletteObject::name() const {
-    if (closed<"Palette::name">(*this)) return {};
-    return state.name;
-}
-
-bool PaletteObject::name(const std::string& value) {
-    if (closed<"Palette::name">(*this)) return {};
-    state.name = value;
-    return true;
-}
-
-std::string PaletteObject::htmlFileURL() const {
-    if (closed<"Palette::htmlFileURL">(*this)) return {};
-    return state.htmlFileURL;
-}
-
-bool PaletteObject::htmlFileURL(const std::string& value) {
-    if (closed<"Palette::htmlFileURL">(*this)) return {};
-    state.htmlFileURL = value;
-    return true;
-}
-
-bool PaletteObject::isVisible() const {
-    if (closed<"Palette::isVisible">(*this)) return {};
-    return state.visible;
-}
-
-bool PaletteObject::isVisible(bool value) {
-    if (closed<"Palette::isVisible">(*this)) return {};
-    state.visible = value;
-    return true;
-}
-
-core::PaletteDockingStates PaletteObject::dockingState() const {
-    if (closed<"Palette::dockingState">(*this)) return {};
-    return state.dockingState;
-}
-
-bool PaletteObject::dockingState(core::PaletteDockingStates value) {
-    if (closed<"Palette::dockingState">(*this)) return {};
-    state.dockingState = value;
-    return true;
-}
-
-core::PaletteDockingOptions PaletteObject::dockingOption() const {
-    if (closed<"Palette::dockingOption">(*this)) return {};
-    return state.dockingOption;
-}
-
-bool PaletteObject::dockingOption(core::PaletteDockingOptions value) {
-    if (closed<"Palette::dockingOption">(*this)) return {};
-    state.dockingOption = value;
-    return true;
-}
-
-int PaletteObject::left() const {
-    if (closed<"Palette::left">(*this)) return {};
-    return state.left;
-}
-
 bool PaletteObject::left(int value) {
     if (closed<"Palette::left">(*this)) return {};
     state.left = value;
     state.dockingState = core::PaletteDockStateFloating;
     return true;
-}
-
-int PaletteObject::top() const {
-    if (closed<"Palette::top">(*this)) return {};
-    return state.top;
 }
 
 bool PaletteObject::top(int value) {
@@ -89,20 +19,10 @@ bool PaletteObject::top(int value) {
     return true;
 }
 
-int PaletteObject::width() const {
-    if (closed<"Palette::width">(*this)) return {};
-    return state.width;
-}
-
 bool PaletteObject::width(int value) {
     if (closed<"Palette::width">(*this)) return {};
     resize(value, state.height);
     return true;
-}
-
-int PaletteObject::height() const {
-    if (closed<"Palette::height">(*this)) return {};
-    return state.height;
 }
 
 bool PaletteObject::height(int value) {

@@ -11,8 +11,6 @@
 
 namespace host::ui {
 
-namespace core = adsk::core;
-
 class PalettesObject;
 
 /// What a palette shows and where it stands, in pixels.
@@ -37,24 +35,38 @@ public:
     PaletteObject(PalettesObject* owner, PaletteState initial)
         : state(std::move(initial)), owner_(owner) {}
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] std::string name() const override;
-    bool name(const std::string& value) override;
-    [[nodiscard]] std::string htmlFileURL() const override;
-    bool htmlFileURL(const std::string& value) override;
-    [[nodiscard]] bool isVisible() const override;
-    bool isVisible(bool value) override;
-    [[nodiscard]] core::PaletteDockingStates dockingState() const override;
-    bool dockingState(core::PaletteDockingStates value) override;
-    [[nodiscard]] core::PaletteDockingOptions dockingOption() const override;
-    bool dockingOption(core::PaletteDockingOptions value) override;
-    [[nodiscard]] int left() const override;
+    [[nodiscard]] std::string id() const override { return get<"Palette::id">(state.id); }
+    [[nodiscard]] std::string name() const override { return get<"Palette::name">(state.name); }
+    bool name(const std::string& value) override { return set<"Palette::name">(state.name, value); }
+    [[nodiscard]] std::string htmlFileURL() const override {
+        return get<"Palette::htmlFileURL">(state.htmlFileURL);
+    }
+    bool htmlFileURL(const std::string& value) override {
+        return set<"Palette::htmlFileURL">(state.htmlFileURL, value);
+    }
+    [[nodiscard]] bool isVisible() const override {
+        return get<"Palette::isVisible">(state.visible);
+    }
+    bool isVisible(bool value) override { return set<"Palette::isVisible">(state.visible, value); }
+    [[nodiscard]] core::PaletteDockingStates dockingState() const override {
+        return get<"Palette::dockingState">(state.dockingState);
+    }
+    bool dockingState(core::PaletteDockingStates value) override {
+        return set<"Palette::dockingState">(state.dockingState, value);
+    }
+    [[nodiscard]] core::PaletteDockingOptions dockingOption() const override {
+        return get<"Palette::dockingOption">(state.dockingOption);
+    }
+    bool dockingOption(core::PaletteDockingOptions value) override {
+        return set<"Palette::dockingOption">(state.dockingOption, value);
+    }
+    [[nodiscard]] int left() const override { return get<"Palette::left">(state.left); }
     bool left(int value) override;
-    [[nodiscard]] int top() const override;
+    [[nodiscard]] int top() const override { return get<"Palette::top">(state.top); }
     bool top(int value) override;
-    [[nodiscard]] int width() const override;
+    [[nodiscard]] int width() const override { return get<"Palette::width">(state.width); }
     bool width(int value) override;
-    [[nodiscard]] int height() const override;
+    [[nodiscard]] int height() const override { return get<"Palette::height">(state.height); }
     bool height(int value) override;
     bool setPosition(int left, int top) override;
     bool setSize(int width, int height) override;

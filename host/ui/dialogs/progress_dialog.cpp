@@ -86,66 +86,6 @@ Progress ProgressDialogObject::seen() const {
     return seen;
 }
 
-std::string ProgressDialogObject::cancelButtonText() const {
-    if (closed<"ProgressDialog::cancelButtonText">(*this)) return {};
-    return cancelButtonText_;
-}
-
-bool ProgressDialogObject::cancelButtonText(const std::string& value) {
-    if (closed<"ProgressDialog::cancelButtonText">(*this)) return {};
-    cancelButtonText_ = value;
-    return true;
-}
-
-bool ProgressDialogObject::isBackgroundTranslucent() const {
-    if (closed<"ProgressDialog::isBackgroundTranslucent">(*this)) return {};
-    return translucent_;
-}
-
-bool ProgressDialogObject::isBackgroundTranslucent(bool value) {
-    if (closed<"ProgressDialog::isBackgroundTranslucent">(*this)) return {};
-    translucent_ = value;
-    return true;
-}
-
-bool ProgressDialogObject::isCancelButtonShown() const {
-    if (closed<"ProgressDialog::isCancelButtonShown">(*this)) return {};
-    return cancelButtonShown_;
-}
-
-bool ProgressDialogObject::isCancelButtonShown(bool value) {
-    if (closed<"ProgressDialog::isCancelButtonShown">(*this)) return {};
-    cancelButtonShown_ = value;
-    return true;
-}
-
-std::string ProgressDialogObject::message() const {
-    if (closed<"ProgressDialog::message">(*this)) return {};
-    return message_;
-}
-
-bool ProgressDialogObject::message(const std::string& value) {
-    if (closed<"ProgressDialog::message">(*this)) return {};
-    message_ = value;
-    return true;
-}
-
-int ProgressDialogObject::progressValue() const {
-    if (closed<"ProgressDialog::progressValue">(*this)) return {};
-    return value_;
-}
-
-bool ProgressDialogObject::progressValue(int value) {
-    if (closed<"ProgressDialog::progressValue">(*this)) return {};
-    value_ = value;
-    return true;
-}
-
-bool ProgressDialogObject::wasCancelled() const {
-    if (closed<"ProgressDialog::wasCancelled">(*this)) return {};
-    return cancelled_;
-}
-
 bool ProgressDialogObject::hide() {
     if (closed<"ProgressDialog::hide">(*this)) return {};
     hidden_ = true;

@@ -37,24 +37,46 @@ void startWaits(double longestWait);
 /// Cancels the dialogs that have waited too long, whether or not they have a button for it.
 void endLongWaits();
 
-class ProgressDialogObject final : public Object<adsk::core::ProgressDialog> {
+class ProgressDialogObject final : public Object<core::ProgressDialog> {
 public:
     ProgressDialogObject();
     ProgressDialogObject(const ProgressDialogObject&) = delete;
     ProgressDialogObject& operator=(const ProgressDialogObject&) = delete;
     ~ProgressDialogObject() override;
 
-    [[nodiscard]] std::string cancelButtonText() const override;
-    bool cancelButtonText(const std::string& value) override;
-    [[nodiscard]] bool isBackgroundTranslucent() const override;
-    bool isBackgroundTranslucent(bool value) override;
-    [[nodiscard]] bool isCancelButtonShown() const override;
-    bool isCancelButtonShown(bool value) override;
-    [[nodiscard]] std::string message() const override;
-    bool message(const std::string& value) override;
-    [[nodiscard]] int progressValue() const override;
-    bool progressValue(int value) override;
-    [[nodiscard]] bool wasCancelled() const override;
+    [[nodiscard]] std::string cancelButtonText() const override {
+        return get<"ProgressDialog::cancelButtonText">(cancelButtonText_);
+    }
+    bool cancelButtonText(const std::string& value) override {
+        return set<"ProgressDialog::cancelButtonText">(cancelButtonText_, value);
+    }
+    [[nodiscard]] bool isBackgroundTranslucent() const override {
+        return get<"ProgressDialog::isBackgroundTranslucent">(translucent_);
+    }
+    bool isBackgroundTranslucent(bool value) override {
+        return set<"ProgressDialog::isBackgroundTranslucent">(translucent_, value);
+    }
+    [[nodiscard]] bool isCancelButtonShown() const override {
+        return get<"ProgressDialog::isCancelButtonShown">(cancelButtonShown_);
+    }
+    bool isCancelButtonShown(bool value) override {
+        return set<"ProgressDialog::isCancelButtonShown">(cancelButtonShown_, value);
+    }
+    [[nodiscard]] std::string message() const override {
+        return get<"ProgressDialog::message">(message_);
+    }
+    bool message(const std::string& value) override {
+        return set<"ProgressDialog::message">(message_, value);
+    }
+    [[nodiscard]] int progressValue() const override {
+        return get<"ProgressDialog::progressValue">(value_);
+    }
+    bool progressValue(int value) override {
+        return set<"ProgressDialog::progressValue">(value_, value);
+    }
+    [[nodiscard]] bool wasCancelled() const override {
+        return get<"ProgressDialog::wasCancelled">(cancelled_);
+    }
     bool hide() override;
     bool show(const std::string& title, const std::string& message, int minimumValue,
               int maximumValue, int delay) override;

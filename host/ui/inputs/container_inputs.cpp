@@ -29,47 +29,9 @@ bool TabCommandInputObject::activate() {
     return true;
 }
 
-std::string TabCommandInputObject::resourceFolder() const {
-    if (closed<"TabCommandInput::resourceFolder">(*this)) return {};
-    return resourceFolder_;
-}
-
 core::Ptr<core::CommandInputs> GroupCommandInputObject::children() const {
     if (closed<"GroupCommandInput::children">(*this)) return {};
     return core::Ptr<core::CommandInputs>(inside());
-}
-
-bool GroupCommandInputObject::isExpanded() const {
-    if (closed<"GroupCommandInput::isExpanded">(*this)) return {};
-    return expanded_;
-}
-
-bool GroupCommandInputObject::isExpanded(bool value) {
-    if (closed<"GroupCommandInput::isExpanded">(*this)) return {};
-    expanded_ = value;
-    return true;
-}
-
-bool GroupCommandInputObject::isEnabledCheckBoxDisplayed() const {
-    if (closed<"GroupCommandInput::isEnabledCheckBoxDisplayed">(*this)) return {};
-    return checkBox_;
-}
-
-bool GroupCommandInputObject::isEnabledCheckBoxDisplayed(bool value) {
-    if (closed<"GroupCommandInput::isEnabledCheckBoxDisplayed">(*this)) return {};
-    checkBox_ = value;
-    return true;
-}
-
-bool GroupCommandInputObject::isEnabledCheckBoxChecked() const {
-    if (closed<"GroupCommandInput::isEnabledCheckBoxChecked">(*this)) return {};
-    return checked_;
-}
-
-bool GroupCommandInputObject::isEnabledCheckBoxChecked(bool value) {
-    if (closed<"GroupCommandInput::isEnabledCheckBoxChecked">(*this)) return {};
-    checked_ = value;
-    return true;
 }
 
 }  // namespace host::ui

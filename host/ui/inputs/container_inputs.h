@@ -28,7 +28,9 @@ public:
     [[nodiscard]] core::Ptr<core::CommandInputs> children() const override;
     [[nodiscard]] bool isActive() const override;
     bool activate() override;
-    [[nodiscard]] std::string resourceFolder() const override;
+    [[nodiscard]] std::string resourceFolder() const override {
+        return get<"TabCommandInput::resourceFolder">(resourceFolder_);
+    }
 
 private:
     std::string resourceFolder_;
@@ -41,12 +43,24 @@ public:
         : CommandInputObject(origin, InputKind::Group) {}
 
     [[nodiscard]] core::Ptr<core::CommandInputs> children() const override;
-    [[nodiscard]] bool isExpanded() const override;
-    bool isExpanded(bool value) override;
-    [[nodiscard]] bool isEnabledCheckBoxDisplayed() const override;
-    bool isEnabledCheckBoxDisplayed(bool value) override;
-    [[nodiscard]] bool isEnabledCheckBoxChecked() const override;
-    bool isEnabledCheckBoxChecked(bool value) override;
+    [[nodiscard]] bool isExpanded() const override {
+        return get<"GroupCommandInput::isExpanded">(expanded_);
+    }
+    bool isExpanded(bool value) override {
+        return set<"GroupCommandInput::isExpanded">(expanded_, value);
+    }
+    [[nodiscard]] bool isEnabledCheckBoxDisplayed() const override {
+        return get<"GroupCommandInput::isEnabledCheckBoxDisplayed">(checkBox_);
+    }
+    bool isEnabledCheckBoxDisplayed(bool value) override {
+        return set<"GroupCommandInput::isEnabledCheckBoxDisplayed">(checkBox_, value);
+    }
+    [[nodiscard]] bool isEnabledCheckBoxChecked() const override {
+        return get<"GroupCommandInput::isEnabledCheckBoxChecked">(checked_);
+    }
+    bool isEnabledCheckBoxChecked(bool value) override {
+        return set<"GroupCommandInput::isEnabledCheckBoxChecked">(checked_, value);
+    }
 
     [[nodiscard]] bool expanded() const { return expanded_; }
 

@@ -12,20 +12,4 @@ core::Ptr<core::ListItem> DropDownCommandInputObject::selectedItem() const {
     return selectedItemApi();
 }
 
-int DropDownCommandInputObject::maxVisibleItems() const {
-    if (closed<"DropDownCommandInput::maxVisibleItems">(*this)) return {};
-    return maxVisibleItems_;
-}
-
-bool DropDownCommandInputObject::maxVisibleItems(int value) {
-    if (closed<"DropDownCommandInput::maxVisibleItems">(*this)) return {};
-    maxVisibleItems_ = value;
-    return true;
-}
-
-core::DropDownStyles DropDownCommandInputObject::dropDownStyle() const {
-    if (closed<"DropDownCommandInput::dropDownStyle">(*this)) return {};
-    return style_;
-}
-
 }  // namespace host::ui

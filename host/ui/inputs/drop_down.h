@@ -13,9 +13,15 @@ public:
 
     [[nodiscard]] core::Ptr<core::ListItems> listItems() const override;
     [[nodiscard]] core::Ptr<core::ListItem> selectedItem() const override;
-    [[nodiscard]] int maxVisibleItems() const override;
-    bool maxVisibleItems(int value) override;
-    [[nodiscard]] core::DropDownStyles dropDownStyle() const override;
+    [[nodiscard]] int maxVisibleItems() const override {
+        return get<"DropDownCommandInput::maxVisibleItems">(maxVisibleItems_);
+    }
+    bool maxVisibleItems(int value) override {
+        return set<"DropDownCommandInput::maxVisibleItems">(maxVisibleItems_, value);
+    }
+    [[nodiscard]] core::DropDownStyles dropDownStyle() const override {
+        return get<"DropDownCommandInput::dropDownStyle">(style_);
+    }
 
 private:
     core::DropDownStyles style_;

@@ -4,11 +4,6 @@
 
 namespace host::ui {
 
-std::string StringValueCommandInputObject::value() const {
-    if (closed<"StringValueCommandInput::value">(*this)) return {};
-    return value_;
-}
-
 bool StringValueCommandInputObject::value(const std::string& value) {
     if (closed<"StringValueCommandInput::value">(*this)) return {};
     if (value_ != value) {
@@ -16,22 +11,6 @@ bool StringValueCommandInputObject::value(const std::string& value) {
         changedByCode();
     }
     return true;
-}
-
-bool StringValueCommandInputObject::isReadOnly() const {
-    if (closed<"StringValueCommandInput::isReadOnly">(*this)) return {};
-    return readOnly_;
-}
-
-bool StringValueCommandInputObject::isReadOnly(bool value) {
-    if (closed<"StringValueCommandInput::isReadOnly">(*this)) return {};
-    readOnly_ = value;
-    return true;
-}
-
-bool BoolValueCommandInputObject::value() const {
-    if (closed<"BoolValueCommandInput::value">(*this)) return {};
-    return value_;
 }
 
 bool BoolValueCommandInputObject::value(bool value) {
@@ -54,11 +33,6 @@ bool BoolValueCommandInputObject::resourceFolder(const std::string& value) {
     return true;
 }
 
-bool BoolValueCommandInputObject::isCheckBox() const {
-    if (closed<"BoolValueCommandInput::isCheckBox">(*this)) return {};
-    return checkBox_;
-}
-
 std::string BoolValueCommandInputObject::text() const {
     if (closed<"BoolValueCommandInput::text">(*this)) return {};
     return *text_;
@@ -79,11 +53,6 @@ TextBoxCommandInputObject::TextBoxCommandInputObject(const InputOrigin& origin,
       rows_(rows),
       readOnly_(readOnly) {}
 
-std::string TextBoxCommandInputObject::text() const {
-    if (closed<"TextBoxCommandInput::text">(*this)) return {};
-    return text_;
-}
-
 bool TextBoxCommandInputObject::text(const std::string& value) {
     if (closed<"TextBoxCommandInput::text">(*this)) return {};
     const bool changed = text_ != value;
@@ -94,11 +63,6 @@ bool TextBoxCommandInputObject::text(const std::string& value) {
     return true;
 }
 
-std::string TextBoxCommandInputObject::formattedText() const {
-    if (closed<"TextBoxCommandInput::formattedText">(*this)) return {};
-    return formatted_;
-}
-
 bool TextBoxCommandInputObject::formattedText(const std::string& value) {
     if (closed<"TextBoxCommandInput::formattedText">(*this)) return {};
     const bool changed = formatted_ != value;
@@ -107,28 +71,6 @@ bool TextBoxCommandInputObject::formattedText(const std::string& value) {
     if (changed) {
         changedByCode();
     }
-    return true;
-}
-
-int TextBoxCommandInputObject::numRows() const {
-    if (closed<"TextBoxCommandInput::numRows">(*this)) return {};
-    return rows_;
-}
-
-bool TextBoxCommandInputObject::numRows(int value) {
-    if (closed<"TextBoxCommandInput::numRows">(*this)) return {};
-    rows_ = value;
-    return true;
-}
-
-bool TextBoxCommandInputObject::isReadOnly() const {
-    if (closed<"TextBoxCommandInput::isReadOnly">(*this)) return {};
-    return readOnly_;
-}
-
-bool TextBoxCommandInputObject::isReadOnly(bool value) {
-    if (closed<"TextBoxCommandInput::isReadOnly">(*this)) return {};
-    readOnly_ = value;
     return true;
 }
 

@@ -13,10 +13,16 @@ public:
     StringValueCommandInputObject(const InputOrigin& origin, const std::string& value)
         : CommandInputObject(origin, InputKind::String), value_(value) {}
 
-    [[nodiscard]] std::string value() const override;
+    [[nodiscard]] std::string value() const override {
+        return get<"StringValueCommandInput::value">(value_);
+    }
     bool value(const std::string& value) override;
-    [[nodiscard]] bool isReadOnly() const override;
-    bool isReadOnly(bool value) override;
+    [[nodiscard]] bool isReadOnly() const override {
+        return get<"StringValueCommandInput::isReadOnly">(readOnly_);
+    }
+    bool isReadOnly(bool value) override {
+        return set<"StringValueCommandInput::isReadOnly">(readOnly_, value);
+    }
 
     /// Writes into it as a person does.
     void enter(const std::string& value) { value_ = value; }
@@ -37,11 +43,15 @@ public:
           resourceFolder_(shared(resourceFolder)),
           text_(shared("")) {}
 
-    [[nodiscard]] bool value() const override;
+    [[nodiscard]] bool value() const override {
+        return get<"BoolValueCommandInput::value">(value_);
+    }
     bool value(bool value) override;
     [[nodiscard]] std::string resourceFolder() const override;
     bool resourceFolder(const std::string& value) override;
-    [[nodiscard]] bool isCheckBox() const override;
+    [[nodiscard]] bool isCheckBox() const override {
+        return get<"BoolValueCommandInput::isCheckBox">(checkBox_);
+    }
     [[nodiscard]] std::string text() const override;
     bool text(const std::string& value) override;
 
@@ -60,14 +70,24 @@ public:
     TextBoxCommandInputObject(const InputOrigin& origin, const std::string& formattedText, int rows,
                               bool readOnly);
 
-    [[nodiscard]] std::string text() const override;
+    [[nodiscard]] std::string text() const override {
+        return get<"TextBoxCommandInput::text">(text_);
+    }
     bool text(const std::string& value) override;
-    [[nodiscard]] std::string formattedText() const override;
+    [[nodiscard]] std::string formattedText() const override {
+        return get<"TextBoxCommandInput::formattedText">(formatted_);
+    }
     bool formattedText(const std::string& value) override;
-    [[nodiscard]] int numRows() const override;
-    bool numRows(int value) override;
-    [[nodiscard]] bool isReadOnly() const override;
-    bool isReadOnly(bool value) override;
+    [[nodiscard]] int numRows() const override {
+        return get<"TextBoxCommandInput::numRows">(rows_);
+    }
+    bool numRows(int value) override { return set<"TextBoxCommandInput::numRows">(rows_, value); }
+    [[nodiscard]] bool isReadOnly() const override {
+        return get<"TextBoxCommandInput::isReadOnly">(readOnly_);
+    }
+    bool isReadOnly(bool value) override {
+        return set<"TextBoxCommandInput::isReadOnly">(readOnly_, value);
+    }
 
     /// Writes into it as a person does.
     void enter(const std::string& value);

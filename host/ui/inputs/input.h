@@ -17,8 +17,6 @@
 /// shared through the command's pool, and what few inputs have is kept aside.
 namespace host::ui {
 
-namespace core = adsk::core;
-
 class CommandObject;
 class CommandInputsObject;
 struct TableLine;
@@ -156,8 +154,7 @@ public:
     }
 
     [[nodiscard]] bool isVisible() const override {
-        if (closed<"CommandInput::isVisible">(*this)) return {};
-        return this->visible;
+        return this->template get<"CommandInput::isVisible">(this->visible);
     }
 
     bool isVisible(bool value) override {
@@ -168,30 +165,23 @@ public:
     }
 
     [[nodiscard]] bool isEnabled() const override {
-        if (closed<"CommandInput::isEnabled">(*this)) return {};
-        return this->enabled;
+        return this->template get<"CommandInput::isEnabled">(this->enabled);
     }
 
     bool isEnabled(bool value) override {
-        if (closed<"CommandInput::isEnabled">(*this)) return {};
-        this->enabled = value;
-        return true;
+        return this->template set<"CommandInput::isEnabled">(this->enabled, value);
     }
 
     [[nodiscard]] bool isFullWidth() const override {
-        if (closed<"CommandInput::isFullWidth">(*this)) return {};
-        return this->fullWidth;
+        return this->template get<"CommandInput::isFullWidth">(this->fullWidth);
     }
 
     bool isFullWidth(bool value) override {
-        if (closed<"CommandInput::isFullWidth">(*this)) return {};
-        this->fullWidth = value;
-        return true;
+        return this->template set<"CommandInput::isFullWidth">(this->fullWidth, value);
     }
 
     [[nodiscard]] std::string tooltip() const override {
-        if (closed<"CommandInput::tooltip">(*this)) return {};
-        return this->extras().tooltip;
+        return this->template get<"CommandInput::tooltip">(this->extras().tooltip);
     }
 
     bool tooltip(const std::string& value) override {
@@ -201,8 +191,8 @@ public:
     }
 
     [[nodiscard]] std::string tooltipDescription() const override {
-        if (closed<"CommandInput::tooltipDescription">(*this)) return {};
-        return this->extras().tooltipDescription;
+        return this->template get<"CommandInput::tooltipDescription">(
+            this->extras().tooltipDescription);
     }
 
     bool tooltipDescription(const std::string& value) override {
@@ -212,8 +202,8 @@ public:
     }
 
     [[nodiscard]] std::string toolClipFilename() const override {
-        if (closed<"CommandInput::toolClipFilename">(*this)) return {};
-        return this->extras().toolClipFilename;
+        return this->template get<"CommandInput::toolClipFilename">(
+            this->extras().toolClipFilename);
     }
 
     bool toolClipFilename(const std::string& value) override {

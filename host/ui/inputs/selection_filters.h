@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/api_names.h"
+
 #include <Core/Base.h>
 
 #include <string>
@@ -13,7 +15,7 @@ class UserInterfaceObject;
 bool isSelectionFilter(const std::string& name);
 
 /// Whether an entity is of the kind that a filter names.
-bool passesFilter(const adsk::core::Ptr<adsk::core::Base>& entity, const std::string& filter,
+bool passesFilter(const core::Ptr<core::Base>& entity, const std::string& filter,
                   const UserInterfaceObject& ui);
 
 }  // namespace host::ui

@@ -75,17 +75,6 @@ bool SelectionCommandInputObject::setSelectionLimits(std::size_t minimum, std::s
     return true;
 }
 
-std::string SelectionCommandInputObject::commandPrompt() const {
-    if (closed<"SelectionCommandInput::commandPrompt">(*this)) return {};
-    return prompt_;
-}
-
-bool SelectionCommandInputObject::commandPrompt(const std::string& value) {
-    if (closed<"SelectionCommandInput::commandPrompt">(*this)) return {};
-    prompt_ = value;
-    return true;
-}
-
 bool SelectionCommandInputObject::hasFocus() const {
     if (closed<"SelectionCommandInput::hasFocus">(*this)) return {};
     return focused();
@@ -116,17 +105,6 @@ void SelectionCommandInputObject::focus(bool value) {
     } else if (focused()) {
         command()->focus(nullptr);
     }
-}
-
-bool SelectionCommandInputObject::isUseCurrentSelections() const {
-    if (closed<"SelectionCommandInput::isUseCurrentSelections">(*this)) return {};
-    return usesCurrent_;
-}
-
-bool SelectionCommandInputObject::isUseCurrentSelections(bool value) {
-    if (closed<"SelectionCommandInput::isUseCurrentSelections">(*this)) return {};
-    usesCurrent_ = value;
-    return true;
 }
 
 void SelectionCommandInputObject::retire() {

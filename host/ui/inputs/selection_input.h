@@ -21,12 +21,20 @@ public:
     bool addSelectionFilter(const std::string& filter) override;
     bool clearSelectionFilter() override;
     bool setSelectionLimits(std::size_t minimum, std::size_t maximum) override;
-    [[nodiscard]] std::string commandPrompt() const override;
-    bool commandPrompt(const std::string& value) override;
+    [[nodiscard]] std::string commandPrompt() const override {
+        return get<"SelectionCommandInput::commandPrompt">(prompt_);
+    }
+    bool commandPrompt(const std::string& value) override {
+        return set<"SelectionCommandInput::commandPrompt">(prompt_, value);
+    }
     [[nodiscard]] bool hasFocus() const override;
     bool hasFocus(bool value) override;
-    [[nodiscard]] bool isUseCurrentSelections() const override;
-    bool isUseCurrentSelections(bool value) override;
+    [[nodiscard]] bool isUseCurrentSelections() const override {
+        return get<"SelectionCommandInput::isUseCurrentSelections">(usesCurrent_);
+    }
+    bool isUseCurrentSelections(bool value) override {
+        return set<"SelectionCommandInput::isUseCurrentSelections">(usesCurrent_, value);
+    }
 
     /// Of a selection both mean the focus.
     [[nodiscard]] bool isEnabled() const override;

@@ -207,46 +207,8 @@ int TableCommandInputObject::rowCount() const {
     return static_cast<int>(lines_.rows());
 }
 
-int TableCommandInputObject::numberOfColumns() const {
-    if (closed<"TableCommandInput::numberOfColumns">(*this)) return {};
-    return columns_;
-}
-
 bool TableCommandInputObject::numberOfColumns(int /*value*/) {
     if (closed<"TableCommandInput::numberOfColumns">(*this)) return {};
-    return true;
-}
-
-std::string TableCommandInputObject::columnRatio() const {
-    if (closed<"TableCommandInput::columnRatio">(*this)) return {};
-    return ratio_;
-}
-
-bool TableCommandInputObject::columnRatio(const std::string& value) {
-    if (closed<"TableCommandInput::columnRatio">(*this)) return {};
-    ratio_ = value;
-    return true;
-}
-
-int TableCommandInputObject::maximumVisibleRows() const {
-    if (closed<"TableCommandInput::maximumVisibleRows">(*this)) return {};
-    return maximumVisibleRows_;
-}
-
-bool TableCommandInputObject::maximumVisibleRows(int value) {
-    if (closed<"TableCommandInput::maximumVisibleRows">(*this)) return {};
-    maximumVisibleRows_ = value;
-    return true;
-}
-
-int TableCommandInputObject::minimumVisibleRows() const {
-    if (closed<"TableCommandInput::minimumVisibleRows">(*this)) return {};
-    return minimumVisibleRows_;
-}
-
-bool TableCommandInputObject::minimumVisibleRows(int value) {
-    if (closed<"TableCommandInput::minimumVisibleRows">(*this)) return {};
-    minimumVisibleRows_ = value;
     return true;
 }
 
@@ -263,17 +225,6 @@ bool TableCommandInputObject::selectedRow(int value) {
                     "TableCommandInput::selectedRow: there is no row " + std::to_string(value));
     }
     lines_.select(value < 0 ? nullptr : &lines_.at(static_cast<std::size_t>(value)));
-    return true;
-}
-
-core::TablePresentationStyles TableCommandInputObject::tablePresentationStyle() const {
-    if (closed<"TableCommandInput::tablePresentationStyle">(*this)) return {};
-    return style_;
-}
-
-bool TableCommandInputObject::tablePresentationStyle(core::TablePresentationStyles value) {
-    if (closed<"TableCommandInput::tablePresentationStyle">(*this)) return {};
-    style_ = value;
     return true;
 }
 

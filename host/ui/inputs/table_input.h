@@ -25,18 +25,36 @@ public:
     bool deleteRow(int row) override;
     bool clear() override;
     [[nodiscard]] int rowCount() const override;
-    [[nodiscard]] int numberOfColumns() const override;
+    [[nodiscard]] int numberOfColumns() const override {
+        return get<"TableCommandInput::numberOfColumns">(columns_);
+    }
     bool numberOfColumns(int value) override;
-    [[nodiscard]] std::string columnRatio() const override;
-    bool columnRatio(const std::string& value) override;
-    [[nodiscard]] int maximumVisibleRows() const override;
-    bool maximumVisibleRows(int value) override;
-    [[nodiscard]] int minimumVisibleRows() const override;
-    bool minimumVisibleRows(int value) override;
+    [[nodiscard]] std::string columnRatio() const override {
+        return get<"TableCommandInput::columnRatio">(ratio_);
+    }
+    bool columnRatio(const std::string& value) override {
+        return set<"TableCommandInput::columnRatio">(ratio_, value);
+    }
+    [[nodiscard]] int maximumVisibleRows() const override {
+        return get<"TableCommandInput::maximumVisibleRows">(maximumVisibleRows_);
+    }
+    bool maximumVisibleRows(int value) override {
+        return set<"TableCommandInput::maximumVisibleRows">(maximumVisibleRows_, value);
+    }
+    [[nodiscard]] int minimumVisibleRows() const override {
+        return get<"TableCommandInput::minimumVisibleRows">(minimumVisibleRows_);
+    }
+    bool minimumVisibleRows(int value) override {
+        return set<"TableCommandInput::minimumVisibleRows">(minimumVisibleRows_, value);
+    }
     [[nodiscard]] int selectedRow() const override;
     bool selectedRow(int value) override;
-    [[nodiscard]] core::TablePresentationStyles tablePresentationStyle() const override;
-    bool tablePresentationStyle(core::TablePresentationStyles value) override;
+    [[nodiscard]] core::TablePresentationStyles tablePresentationStyle() const override {
+        return get<"TableCommandInput::tablePresentationStyle">(style_);
+    }
+    bool tablePresentationStyle(core::TablePresentationStyles value) override {
+        return set<"TableCommandInput::tablePresentationStyle">(style_, value);
+    }
 
     void retire() override;
 

@@ -15,7 +15,9 @@ class LinearMarkingMenuObject final : public Object<core::LinearMarkingMenu> {
 public:
     LinearMarkingMenuObject() : controls_(make<ToolbarControlsObject>(this, /*inPanel=*/false)) {}
 
-    [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override;
+    [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
+        return get<"LinearMarkingMenu::controls">(controls_);
+    }
 
     [[nodiscard]] const ToolbarControlsObject& entries() const { return *controls_; }
     void dispose();
@@ -40,9 +42,15 @@ public:
           radial_(std::move(radial)),
           selected_(std::move(selected)) {}
 
-    [[nodiscard]] core::Ptr<core::LinearMarkingMenu> linearMarkingMenu() const override;
-    [[nodiscard]] core::Ptr<core::RadialMarkingMenu> radialMarkingMenu() const override;
-    [[nodiscard]] std::vector<core::Ptr<core::Base>> selectedEntities() const override;
+    [[nodiscard]] core::Ptr<core::LinearMarkingMenu> linearMarkingMenu() const override {
+        return get<"MarkingMenuEventArgs::linearMarkingMenu">(linear_);
+    }
+    [[nodiscard]] core::Ptr<core::RadialMarkingMenu> radialMarkingMenu() const override {
+        return get<"MarkingMenuEventArgs::radialMarkingMenu">(radial_);
+    }
+    [[nodiscard]] std::vector<core::Ptr<core::Base>> selectedEntities() const override {
+        return get<"MarkingMenuEventArgs::selectedEntities">(selected_);
+    }
 
 private:
     core::Ptr<LinearMarkingMenuObject> linear_;

@@ -6,22 +6,6 @@
 
 namespace host::ui {
 
-std::string CommandControlObject::id() const {
-    if (closed<"ToolbarControl::id">(*this)) return {};
-    return id_;
-}
-
-bool CommandControlObject::isVisible() const {
-    if (closed<"ToolbarControl::isVisible">(*this)) return {};
-    return visible_;
-}
-
-bool CommandControlObject::isVisible(bool value) {
-    if (closed<"ToolbarControl::isVisible">(*this)) return {};
-    visible_ = value;
-    return true;
-}
-
 core::Ptr<core::Base> CommandControlObject::parent() const {
     if (closed<"ToolbarControl::parent">(*this)) return {};
     return core::Ptr<core::Base>(owner_->parent());
@@ -45,11 +29,6 @@ core::Ptr<core::CommandDefinition> CommandControlObject::commandDefinition() con
     if (closed<"CommandControl::commandDefinition">(*this)) return {};
     if (!definition_->isValid()) return nullptr;
     return definition_;
-}
-
-bool CommandControlObject::isPromoted() const {
-    if (closed<"CommandControl::isPromoted">(*this)) return {};
-    return promoted_;
 }
 
 bool CommandControlObject::isPromoted(bool value) {

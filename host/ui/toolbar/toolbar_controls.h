@@ -18,14 +18,20 @@ public:
                          core::Ptr<CommandDefinitionObject> definition)
         : owner_(owner), id_(definition->identifier()), definition_(std::move(definition)) {}
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] bool isVisible() const override;
-    bool isVisible(bool value) override;
+    [[nodiscard]] std::string id() const override { return get<"ToolbarControl::id">(id_); }
+    [[nodiscard]] bool isVisible() const override {
+        return get<"ToolbarControl::isVisible">(visible_);
+    }
+    bool isVisible(bool value) override {
+        return set<"ToolbarControl::isVisible">(visible_, value);
+    }
     [[nodiscard]] core::Ptr<core::Base> parent() const override;
     [[nodiscard]] std::size_t index() const override;
     bool deleteMe() override;
     [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override;
-    [[nodiscard]] bool isPromoted() const override;
+    [[nodiscard]] bool isPromoted() const override {
+        return get<"CommandControl::isPromoted">(promoted_);
+    }
     bool isPromoted(bool value) override;
 
     [[nodiscard]] const std::string& identifier() const { return id_; }

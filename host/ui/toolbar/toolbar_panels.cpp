@@ -16,21 +16,6 @@ ToolbarPanelObject::ToolbarPanelObject(ToolbarTabObject* owner, std::string id, 
       native_(native),
       controls_(make<ToolbarControlsObject>(this, /*inPanel=*/true)) {}
 
-std::string ToolbarPanelObject::id() const {
-    if (closed<"ToolbarPanel::id">(*this)) return {};
-    return id_;
-}
-
-std::string ToolbarPanelObject::name() const {
-    if (closed<"ToolbarPanel::name">(*this)) return {};
-    return name_;
-}
-
-core::Ptr<core::ToolbarControls> ToolbarPanelObject::controls() const {
-    if (closed<"ToolbarPanel::controls">(*this)) return {};
-    return controls_;
-}
-
 bool ToolbarPanelObject::deleteMe() {
     if (closed<"ToolbarPanel::deleteMe">(*this)) return {};
     if (native_) {
@@ -118,21 +103,6 @@ ToolbarTabObject::ToolbarTabObject(WorkspaceObject* workspace, std::string id, s
     : id_(std::move(id)),
       name_(std::move(name)),
       api_(make<ToolbarPanelsObject>(workspace, this)) {}
-
-std::string ToolbarTabObject::id() const {
-    if (closed<"ToolbarTab::id">(*this)) return {};
-    return id_;
-}
-
-std::string ToolbarTabObject::name() const {
-    if (closed<"ToolbarTab::name">(*this)) return {};
-    return name_;
-}
-
-core::Ptr<core::ToolbarPanels> ToolbarTabObject::toolbarPanels() const {
-    if (closed<"ToolbarTab::toolbarPanels">(*this)) return {};
-    return api_;
-}
 
 core::Ptr<ToolbarPanelObject> ToolbarTabObject::add(const std::string& id, const std::string& name,
                                                     bool native, std::size_t place) {

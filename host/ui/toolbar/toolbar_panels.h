@@ -19,9 +19,11 @@ class ToolbarPanelObject final : public Object<core::ToolbarPanel> {
 public:
     ToolbarPanelObject(ToolbarTabObject* owner, std::string id, std::string name, bool native);
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] std::string name() const override;
-    [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override;
+    [[nodiscard]] std::string id() const override { return get<"ToolbarPanel::id">(id_); }
+    [[nodiscard]] std::string name() const override { return get<"ToolbarPanel::name">(name_); }
+    [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
+        return get<"ToolbarPanel::controls">(controls_);
+    }
     bool deleteMe() override;
 
     [[nodiscard]] const std::string& identifier() const { return id_; }
@@ -79,9 +81,11 @@ class ToolbarTabObject final : public Object<core::ToolbarTab> {
 public:
     ToolbarTabObject(WorkspaceObject* workspace, std::string id, std::string name);
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] std::string name() const override;
-    [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override;
+    [[nodiscard]] std::string id() const override { return get<"ToolbarTab::id">(id_); }
+    [[nodiscard]] std::string name() const override { return get<"ToolbarTab::name">(name_); }
+    [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override {
+        return get<"ToolbarTab::toolbarPanels">(api_);
+    }
 
     [[nodiscard]] const std::string& identifier() const { return id_; }
     [[nodiscard]] const PanelList& panels() const { return panels_; }

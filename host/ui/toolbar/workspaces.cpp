@@ -18,31 +18,6 @@ WorkspaceObject::WorkspaceObject(WorkspacesObject* owner, WorkspaceSetup setup)
       panelsApi_(make<ToolbarPanelsObject>(this, nullptr)),
       tabsApi_(make<ToolbarTabsObject>(this)) {}
 
-std::string WorkspaceObject::id() const {
-    if (closed<"Workspace::id">(*this)) return {};
-    return setup_.id;
-}
-
-std::string WorkspaceObject::name() const {
-    if (closed<"Workspace::name">(*this)) return {};
-    return setup_.name;
-}
-
-std::string WorkspaceObject::productType() const {
-    if (closed<"Workspace::productType">(*this)) return {};
-    return setup_.productType;
-}
-
-core::Ptr<core::ToolbarPanels> WorkspaceObject::toolbarPanels() const {
-    if (closed<"Workspace::toolbarPanels">(*this)) return {};
-    return panelsApi_;
-}
-
-core::Ptr<core::ToolbarTabs> WorkspaceObject::toolbarTabs() const {
-    if (closed<"Workspace::toolbarTabs">(*this)) return {};
-    return tabsApi_;
-}
-
 bool WorkspaceObject::isActive() const {
     if (closed<"Workspace::isActive">(*this)) return {};
     return owner_->active().get() == this;
@@ -161,11 +136,6 @@ void WorkspacesObject::dispose() {
     active_ = nullptr;
     ui_ = nullptr;
     invalidate();
-}
-
-core::Ptr<core::Workspace> WorkspaceEventArgsObject::workspace() const {
-    if (refused<"WorkspaceEventArgs::workspace">()) return {};
-    return workspace_;
 }
 
 }  // namespace host::ui

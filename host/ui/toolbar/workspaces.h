@@ -20,11 +20,17 @@ class WorkspaceObject final : public Object<core::Workspace> {
 public:
     WorkspaceObject(WorkspacesObject* owner, WorkspaceSetup setup);
 
-    [[nodiscard]] std::string id() const override;
-    [[nodiscard]] std::string name() const override;
-    [[nodiscard]] std::string productType() const override;
-    [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override;
-    [[nodiscard]] core::Ptr<core::ToolbarTabs> toolbarTabs() const override;
+    [[nodiscard]] std::string id() const override { return get<"Workspace::id">(setup_.id); }
+    [[nodiscard]] std::string name() const override { return get<"Workspace::name">(setup_.name); }
+    [[nodiscard]] std::string productType() const override {
+        return get<"Workspace::productType">(setup_.productType);
+    }
+    [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override {
+        return get<"Workspace::toolbarPanels">(panelsApi_);
+    }
+    [[nodiscard]] core::Ptr<core::ToolbarTabs> toolbarTabs() const override {
+        return get<"Workspace::toolbarTabs">(tabsApi_);
+    }
     [[nodiscard]] bool isActive() const override;
     bool activate() override;
 
@@ -83,7 +89,9 @@ public:
     WorkspaceEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::Workspace> workspace)
         : Arguments(std::move(event)), workspace_(std::move(workspace)) {}
 
-    [[nodiscard]] core::Ptr<core::Workspace> workspace() const override;
+    [[nodiscard]] core::Ptr<core::Workspace> workspace() const override {
+        return get<"WorkspaceEventArgs::workspace">(workspace_);
+    }
 
 private:
     core::Ptr<core::Workspace> workspace_;
