@@ -20,10 +20,11 @@ ComponentData part(std::size_t number) {
     made.name = "Part " + std::to_string(number);
     made.partNumber = "P-" + std::to_string(100000 + number);
     made.description = "Housing cover, milled from solid, edges broken, black anodised";
-    made.material = host::MaterialData{"Steel", 0.00785};
-    made.attributes = {{"QEMA_PropertiesAttributesGroup", "Produce", "1"},
-                       {"QEMA_PropertiesAttributesGroup", "Buy", "0"},
-                       {"QEMA_PropertiesAttributesGroup", "QEMA_Supplier", "Acme"}};
+    made.material = host::MaterialData{.name = "Steel", .density = 0.00785};
+    made.attributes = {
+        {.group = "QEMA_PropertiesAttributesGroup", .name = "Produce", .value = "1"},
+        {.group = "QEMA_PropertiesAttributesGroup", .name = "Buy", .value = "0"},
+        {.group = "QEMA_PropertiesAttributesGroup", .name = "QEMA_Supplier", .value = "Acme"}};
     made.geometry = host::boxGeometry(1, 2, 3);
     return made;
 }

@@ -27,7 +27,7 @@ bool takeOne(int& tries) {
 }
 
 DesignData readConverted(const DataFileObject& file) {
-    return readDesign(file.state().path, ImportLimits(), ImportProgress(),
+    return readDesign(file.state().path, ReadingLimits(), ImportProgress(),
                       ApplicationObject::current()->importWarnings);
 }
 

@@ -16,7 +16,7 @@ namespace {
 /// A STEP or IGES file.
 DesignData readShapes(const std::string& path) {
     // The API has no place for warnings; whoever drives the host may ask for them.
-    return importStep(path, ImportLimits(), ImportProgress(),
+    return importStep(path, ReadingLimits(), ImportProgress(),
                       ApplicationObject::current()->importWarnings);
 }
 

@@ -40,9 +40,13 @@ bool enterModule(const std::string& event, const std::string& inputId,
     } catch (const std::exception& error) {
         const std::string type = currentExceptionType();
         // A null handle throws the bare class, whose own `what` is only its name.
-        records().push_back({event, inputId, type, type == "std::exception" ? "" : error.what()});
+        records().push_back({.event = event,
+                             .inputId = inputId,
+                             .type = type,
+                             .text = type == "std::exception" ? "" : error.what()});
     } catch (...) {
-        records().push_back({event, inputId, currentExceptionType(), ""});
+        records().push_back(
+            {.event = event, .inputId = inputId, .type = currentExceptionType(), .text = ""});
     }
     return false;
 }

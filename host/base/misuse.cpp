@@ -19,7 +19,7 @@ const std::vector<Misuse>& misuses() { return list(); }
 void clearMisuses() { list().clear(); }
 
 bool misuse(const std::string& operation, const std::string& text) {
-    list().push_back({operation, text});
+    list().push_back({.operation = operation, .text = text});
     return fail(adsk::core::BadApiCallError, operation + ": " + text);
 }
 

@@ -121,7 +121,8 @@ core::Ptr<core::Attribute> AttributesObject::add(const std::string& groupName,
     if (!fits(value)) {
         return {};
     }
-    items_.push_back(make<AttributeObject>(*this, AttributeData{groupName, name, value}));
+    items_.push_back(make<AttributeObject>(
+        *this, AttributeData{.group = groupName, .name = name, .value = value}));
     index(*items_.back());
     countEdit();
     return items_.back();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/design/design_data.h"
+#include "host/design/reading_limits.h"
 
 #include <cstddef>
 #include <stdexcept>
@@ -16,15 +17,6 @@ public:
 
 /// How many occurrences a design may have, those in context counted one by one.
 inline constexpr std::size_t kMaximumOccurrences = 1'000'000;
-
-/// How many occurrences a file may bring unless somebody asks for more.
-inline constexpr std::size_t kUsualOccurrences = 200'000;
-
-/// The memory that reading a file may take unless somebody asks for more.
-inline constexpr std::size_t kUsualMegabytes = 3072;
-
-/// How deep assemblies may stand in each other.
-inline constexpr std::size_t kMaximumLevels = 500;
 
 /// Throws `DesignError` for a design without a root component, with a child that is no component,
 /// an assembly that contains itself, more occurrences or levels than allowed, two uses of a

@@ -80,7 +80,7 @@ struct SketchData {
 struct OccurrenceData {
     std::size_t component = 0;  ///< index into `DesignData::components`
     int instance = 1;           ///< the number behind ":" in its name
-    Transform transform;
+    Transform transform = {};
     bool grounded = false;
     bool absent = false;  ///< a place in the list at which the host has no occurrence to give
 };

@@ -156,7 +156,7 @@ void saveDesignFile(const fs::path& path, const DesignData& data) {
 }
 
 DesignData loadDesignFile(const fs::path& path, const ReadSource& readSource,
-                          const DesignFileLimits& limits) {
+                          const ReadingLimits& limits) {
     const std::string text = readAll(path, limits.megabytes);
     ReadDesign design;
     try {

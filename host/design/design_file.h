@@ -3,7 +3,6 @@
 #include "host/design/design_check.h"
 #include "host/design/design_data.h"
 
-#include <cstddef>
 #include <filesystem>
 #include <functional>
 
@@ -15,12 +14,6 @@ namespace host {
 
 /// The ending of a design file's name.
 inline constexpr const char* kDesignFileEnding = ".design.json";
-
-/// What a design file may take while it is read.
-struct DesignFileLimits {
-    std::size_t megabytes = kUsualMegabytes;      ///< what its text can take at the most
-    std::size_t occurrences = kUsualOccurrences;  ///< below the root, those in context one by one
-};
 
 /// Reads the source of a design again, with its `source` telling the fingerprint that it has now.
 /// What it throws leaves `loadDesignFile` as it is.
@@ -38,6 +31,6 @@ void saveDesignFile(const std::filesystem::path& path, const DesignData& data);
 /// and then beside the design file. Throws `DesignError` that names the file, the place in it and
 /// what would be right.
 DesignData loadDesignFile(const std::filesystem::path& path, const ReadSource& readSource = {},
-                          const DesignFileLimits& limits = {});
+                          const ReadingLimits& limits = {});
 
 }  // namespace host

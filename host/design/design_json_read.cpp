@@ -67,7 +67,7 @@ double readSize(const JsonNode& node) {
 std::shared_ptr<Geometry> readGeometry(const JsonNode& node) {
     std::optional<Box> box;
     node.ifMember("min", [&](const JsonNode& min) {
-        box = Box{readNumbers<3>(min), readNumbers<3>(node.member("max"))};
+        box = Box{.min = readNumbers<3>(min), .max = readNumbers<3>(node.member("max"))};
     });
     return fixedGeometry(readSize(node.member("area")), readSize(node.member("volume")), box);
 }
@@ -123,8 +123,8 @@ ReadDesign fromJson(const nlohmann::json& json) {
     design.data.name = whole.member("name").text();
     design.data.unit = whole.textOr("unit", "");
     whole.ifMember("source", [&](const JsonNode& found) {
-        design.data.source =
-            SourceFile{found.member("path").text(), found.member("fingerprint").text()};
+        design.data.source = SourceFile{.path = found.member("path").text(),
+                                        .fingerprint = found.member("fingerprint").text()};
     });
     whole.ifMember("attributes",
                    [&](const JsonNode& found) { design.data.attributes = readAttributes(found); });

@@ -20,7 +20,7 @@ std::optional<Box> FixedGeometry::box(const Transform& placement) {
 
 std::shared_ptr<Geometry> boxGeometry(double dx, double dy, double dz) {
     const double area = 2 * (dx * dy + dy * dz + dz * dx);
-    return fixedGeometry(area, dx * dy * dz, Box{{0, 0, 0}, {dx, dy, dz}});
+    return fixedGeometry(area, dx * dy * dz, Box{.min = {0, 0, 0}, .max = {dx, dy, dz}});
 }
 
 std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box) {

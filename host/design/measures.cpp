@@ -17,7 +17,8 @@ namespace {
 void noteFailure(ComponentObject& component, const std::string& reason) {
     fail(core::InvalidGeometryError, reason);
     if (!std::exchange(component.measureCache().failed, true)) {
-        component.model().unmeasured.push_back({component.state().name, reason});
+        component.model().unmeasured.push_back(
+            {.component = component.state().name, .reason = reason});
     }
 }
 
@@ -39,7 +40,7 @@ Measures ownMeasures(ComponentObject& component) {
         cache.own = Measures();
         if (component.state().geometry) {
             cache.own = asked<Measures>(component, [](Geometry& geometry) {
-                return Measures{geometry.area(), geometry.volume(), 0};
+                return Measures{.area = geometry.area(), .volume = geometry.volume()};
             });
         }
     }

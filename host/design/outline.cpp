@@ -71,7 +71,10 @@ private:
         }
         closeTo(level);
         const std::size_t component = line.absent ? 0 : componentOf(line.label);
-        open_.back().children.push_back({component, 1, line.transform, line.grounded, line.absent});
+        open_.back().children.push_back({.component = component,
+                                         .transform = line.transform,
+                                         .grounded = line.grounded,
+                                         .absent = line.absent});
         if (line.absent) {
             return;
         }
@@ -169,8 +172,8 @@ private:
         if (colon == std::string::npos) {
             refuseLine(line, "a material is written material=Name:density or material=none");
         }
-        return MaterialData{text.substr(0, colon),
-                            readNumbers(text.substr(colon + 1), ':', 1, line)[0]};
+        return MaterialData{.name = text.substr(0, colon),
+                            .density = readNumbers(text.substr(colon + 1), ':', 1, line)[0]};
     }
 
     static std::shared_ptr<Geometry> geometry(const std::string& box, const std::string& measures,
@@ -178,7 +181,7 @@ private:
         std::optional<Box> lengths;
         if (!box.empty()) {
             const std::vector<double> all = readNumbers(box, 'x', 3, line);
-            lengths = Box{{0, 0, 0}, {all[0], all[1], all[2]}};
+            lengths = Box{.min = {0, 0, 0}, .max = {all[0], all[1], all[2]}};
         }
         if (!measures.empty()) {
             const std::vector<double> both = readNumbers(measures, ':', 2, line);

@@ -29,7 +29,10 @@ std::optional<Move> readMove(const ComponentObject& top,
     if (object == nullptr || object->top() != &top || !target) {
         return std::nullopt;
     }
-    return Move{object, *target, object->depth(), object->localPlacement()};
+    return Move{.occurrence = object,
+                .target = *target,
+                .depth = object->depth(),
+                .before = object->localPlacement()};
 }
 
 bool apply(const Move& move) {

@@ -24,16 +24,17 @@ bool looksLikeDesignFile(const std::filesystem::path& file) {
 
 }  // namespace
 
-DesignData readDesign(const std::filesystem::path& file, const ImportLimits& limits,
+DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings) {
     if (!looksLikeDesignFile(file)) {
         return importStep(toUtf8(file), limits, progress, warnings);
     }
-    return loadDesignFile(file,
-                          [&](const SourceFile& source) {
-                              return importStep(source.path, limits, progress, warnings);
-                          },
-                          {limits.megabytes, limits.occurrences});
+    return loadDesignFile(
+        file,
+        [&](const SourceFile& source) {
+            return importStep(source.path, limits, progress, warnings);
+        },
+        limits);
 }
 
 }  // namespace host

@@ -15,7 +15,7 @@ namespace host {
 /// What a person should know although the design could be read is appended to `warnings`, one line
 /// each. Throws an `ImportError` or a `DesignError`, one line that names the file, for one that
 /// cannot be read. It needs no session, and a relative path starts in the working directory.
-DesignData readDesign(const std::filesystem::path& file, const ImportLimits& limits,
+DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings);
 
 }  // namespace host

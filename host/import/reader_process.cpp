@@ -82,8 +82,8 @@ std::string shortNumber(double value) {
 }  // namespace
 
 ReaderProcess::ReaderProcess(const std::filesystem::path& program,
-                             const std::vector<std::string>& arguments, const Bounds& bounds)
-    : bounds_(bounds) {
+                             const std::vector<std::string>& arguments, const ReadingLimits& limits)
+    : limits_(limits) {
     std::array<int, 2> ends = {};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
         throw ReaderFailure("the reader cannot be started (" + systemReason(errno) + ")");
@@ -108,7 +108,7 @@ ReaderProcess::~ReaderProcess() { end(); }
 void ReaderProcess::startClock() {
     deadline_ = std::chrono::steady_clock::now() +
                 std::chrono::duration_cast<std::chrono::steady_clock::duration>(
-                    std::chrono::duration<double>(bounds_.seconds));
+                    std::chrono::duration<double>(limits_.seconds));
 }
 
 void ReaderProcess::send(const std::string& line) {
@@ -131,7 +131,7 @@ std::string ReaderProcess::receive() {
         if (!failure_.empty()) {
             throw ReaderFailure(failure_);
         }
-        checkBounds();
+        checkLimits();
         pollfd socket = {socket_, POLLIN, 0};
         if (::poll(&socket, 1, kWatchMilliseconds) > 0) {
             readMore();
@@ -162,18 +162,18 @@ void ReaderProcess::readMore() {
     }
 }
 
-void ReaderProcess::checkBounds() {
+void ReaderProcess::checkLimits() {
     if (std::chrono::steady_clock::now() > deadline_) {
         end();
-        give("the reader took longer than " + shortNumber(bounds_.seconds) + " seconds");
+        give("the reader took longer than " + shortNumber(limits_.seconds) + " seconds");
     }
     if (unread_.size() > kLongestLine) {
         end();
         give("the reader's answer has no end");
     }
-    if (residentMegabytes(process_) > bounds_.megabytes) {
+    if (residentMegabytes(process_) > limits_.megabytes) {
         end();
-        give("the reader needed more than " + std::to_string(bounds_.megabytes) +
+        give("the reader needed more than " + std::to_string(limits_.megabytes) +
              " megabytes of memory");
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/design/reading_limits.h"
+
 #include <sys/types.h>
 
 #include <chrono>
@@ -24,19 +26,17 @@ public:
 /// of this process' other files. It is ended, and waited for, with this object.
 class ReaderProcess {
 public:
-    struct Bounds {
-        double seconds = 0;         ///< from `startClock` to the last line wanted
-        std::size_t megabytes = 0;  ///< resident memory
-    };
-
     /// Starts the program with its arguments; throws `ReaderFailure` when that is not possible.
+    ///
+    /// Of the limits it watches the time, from `startClock` to the last line wanted, and the
+    /// resident memory.
     ReaderProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
-                  const Bounds& bounds);
+                  const ReadingLimits& limits);
     ReaderProcess(const ReaderProcess&) = delete;
     ReaderProcess& operator=(const ReaderProcess&) = delete;
     ~ReaderProcess();
 
-    /// From now on the bounded time runs again.
+    /// Starts the time that is limited again.
     void startClock();
 
     /// Sends a line; a failure shows with the next `receive`.
@@ -50,11 +50,11 @@ public:
 private:
     bool takeLine(std::string& line);
     void readMore();
-    void checkBounds();
+    void checkLimits();
     [[noreturn]] void give(const std::string& reason);
     std::string end();
 
-    Bounds bounds_;
+    ReadingLimits limits_;
     pid_t process_ = -1;
     int socket_ = -1;
     std::string unread_;

@@ -63,8 +63,8 @@ std::optional<Box> StepGeometry::box(const Transform& placement) {
     if (!answer.contains("min")) {
         return std::nullopt;
     }
-    return Box{answer["min"].get<std::array<double, 3>>(),
-               answer["max"].get<std::array<double, 3>>()};
+    return Box{.min = answer["min"].get<std::array<double, 3>>(),
+               .max = answer["max"].get<std::array<double, 3>>()};
 }
 
 void StepGeometry::measure() {

@@ -69,11 +69,11 @@ private:
     std::string faults_;
 };
 
-std::vector<std::string> argumentsFor(const fs::path& file, const ImportLimits& limits) {
+std::vector<std::string> argumentsFor(const fs::path& file, const ReadingLimits& limits) {
     // The reader bounds its own processor time as well; that is spent on measurements too, so it
     // gets some of it for these.
     const auto seconds = static_cast<std::size_t>(limits.seconds) * 10 + 10;
-    return {file.string(), std::to_string(limits.occurrences), std::to_string(kMaximumLevels),
+    return {file.string(), std::to_string(limits.occurrences), std::to_string(limits.levels),
             std::to_string(seconds), std::to_string(limits.megabytes)};
 }
 
@@ -131,7 +131,7 @@ void joinRoots(std::vector<ImportedComponent>& components, const json& roots,
     if (roots.size() == 1) {
         return;
     }
-    ImportedComponent top{"", name, {}};
+    ImportedComponent top{.id = "", .name = name, .data = {}};
     top.data.material = defaultMaterial();
     for (ImportedComponent& component : components) {
         for (OccurrenceData& child : component.data.children) {
@@ -139,7 +139,7 @@ void joinRoots(std::vector<ImportedComponent>& components, const json& roots,
         }
     }
     for (const json& root : roots) {
-        top.data.children.push_back({root.get<std::size_t>() + 1, 1, {}, false, false});
+        top.data.children.push_back({.component = root.get<std::size_t>() + 1});
     }
     components.insert(components.begin(), std::move(top));
 }
@@ -160,7 +160,7 @@ DesignData designFrom(const json& read, const fs::path& given, const fs::path& f
     for (const json& name : read.at("files")) {
         files.emplace_back(name.get<std::string>());
     }
-    design.source = SourceFile{file.string(), fingerprintOf(files)};
+    design.source = SourceFile{.path = file.string(), .fingerprint = fingerprintOf(files)};
     return design;
 }
 
@@ -168,14 +168,13 @@ DesignData designFrom(const json& read, const fs::path& given, const fs::path& f
 
 MaterialData defaultMaterial() { return {"Steel", 0.00785}; }
 
-DesignData importStep(const std::string& path, const ImportLimits& limits,
+DesignData importStep(const std::string& path, const ReadingLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings) {
     const fs::path file = checkStepFile(path);
     std::shared_ptr<ReaderProcess> reader;
     try {
-        reader = std::make_shared<ReaderProcess>(
-            findStepReader(), argumentsFor(file, limits),
-            ReaderProcess::Bounds{limits.seconds, limits.megabytes});
+        reader =
+            std::make_shared<ReaderProcess>(findStepReader(), argumentsFor(file, limits), limits);
     } catch (const ReaderFailure& failure) {
         throw ImportError(path + ": " + failure.what());
     }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "host/design/design_check.h"
 #include "host/design/design_data.h"
+#include "host/design/reading_limits.h"
 
-#include <cstddef>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -33,13 +32,6 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// What an import may take before it is given up.
-struct ImportLimits {
-    double seconds = 300;                         ///< for reading; again for each measurement
-    std::size_t megabytes = kUsualMegabytes;      ///< memory of the reading program
-    std::size_t occurrences = kUsualOccurrences;  ///< below the root, those in context one by one
-};
-
 /// Hears how far an import is: a stage ("Reading", "Building") and the part of it that is done.
 using ImportProgress = std::function<void(const std::string& stage, double fraction)>;
 
@@ -52,7 +44,7 @@ MaterialData defaultMaterial();
 ///
 /// A measurement that fails later (the reader crashed, or took more than the limits allow) throws a
 /// `std::runtime_error`. A reader that crashed or was ended measures nothing any more.
-DesignData importStep(const std::string& path, const ImportLimits& limits,
+DesignData importStep(const std::string& path, const ReadingLimits& limits,
                       const ImportProgress& progress, std::vector<std::string>& warnings);
 
 }  // namespace host

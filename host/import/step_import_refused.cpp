@@ -4,7 +4,7 @@ namespace host {
 
 MaterialData defaultMaterial() { return {"Steel", 0.00785}; }
 
-DesignData importStep(const std::string& path, const ImportLimits& /*limits*/,
+DesignData importStep(const std::string& path, const ReadingLimits& /*limits*/,
                       const ImportProgress& /*progress*/, std::vector<std::string>& /*warnings*/) {
     throw ImportError(path +
                       ": STEP files cannot be read on Windows, for want of Open CASCADE; "

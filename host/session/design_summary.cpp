@@ -12,7 +12,7 @@ void countMaterial(std::vector<MaterialUse>& uses, const MaterialData& material)
         return use.name == material.name && use.density == material.density;
     });
     if (known == uses.end()) {
-        uses.push_back({material.name, material.density, 1});
+        uses.push_back({.name = material.name, .density = material.density, .components = 1});
     } else {
         ++known->components;
     }

@@ -131,7 +131,8 @@ void Session::show(const Ptr<Document>& document, const Ptr<Product>& product) {
 }
 
 std::vector<std::string> Session::open(const std::filesystem::path& file,
-                                       const ImportLimits& limits, const ImportProgress& progress) {
+                                       const ReadingLimits& limits,
+                                       const ImportProgress& progress) {
     std::vector<std::string> warnings;
     openDesign(readDesign(absolute(file), limits, progress, warnings), file);
     return warnings;

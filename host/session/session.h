@@ -105,7 +105,7 @@ public:
     /// content. A relative path starts where the process stood before the session. Returns what the
     /// reader had to say; throws what it cannot read, with the document before still open.
     std::vector<std::string> open(const std::filesystem::path& file,
-                                  const ImportLimits& limits = {},
+                                  const ReadingLimits& limits = {},
                                   const ImportProgress& progress = {});
 
     /// Opens a design drawn as an outline; throws a `DesignError` for one that cannot be read.

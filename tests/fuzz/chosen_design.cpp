@@ -23,10 +23,12 @@ host::ComponentData chosenComponent(Choices& choices, std::size_t index) {
     made.partNumber = choices.pick(kNumbers);
     made.description = choices.pick(kDescriptions);
     if (choices.oneIn(2)) {
-        made.attributes.push_back({kGroup, choices.pick(kStructures), "1"});
+        made.attributes.push_back(
+            {.group = kGroup, .name = choices.pick(kStructures), .value = "1"});
     }
     if (choices.oneIn(2)) {
-        made.attributes.push_back({kGroup, choices.pick(kProperties), choices.pick(kValues)});
+        made.attributes.push_back(
+            {.group = kGroup, .name = choices.pick(kProperties), .value = choices.pick(kValues)});
     }
     return made;
 }

@@ -3,6 +3,19 @@
 #include <CLI/CLI.hpp>
 
 namespace workbench {
+namespace {
+
+/// An option that takes a whole number, whatever `limit` counts in.
+template <class T>
+CLI::Option* addNumber(CLI::App& command, const std::string& name, T& limit,
+                       const std::string& description) {
+    return command
+        .add_option_function<int>(
+            name, [&limit](int value) { limit = static_cast<T>(value); }, description)
+        ->default_str(std::to_string(static_cast<int>(limit)));
+}
+
+}  // namespace
 
 void addFile(CLI::App& command, std::string& file) {
     command
@@ -10,19 +23,15 @@ void addFile(CLI::App& command, std::string& file) {
         ->required();
 }
 
-void addLimits(CLI::App& command, ReadingLimits& limits) {
-    command.add_option("--max-seconds", limits.maxSeconds, "Give up reading after this time")
-        ->check(CLI::Range(1, 86400))
-        ->capture_default_str();
-    command.add_option("--max-memory", limits.maxMegabytes, "Give up reading beyond this many MB")
-        ->check(CLI::Range(16, 1 << 20))
-        ->capture_default_str();
-    command
-        .add_option("--max-occurrences", limits.maxOccurrences,
-                    "Refuse a design that has more occurrences, those in a sub-assembly\n"
-                    "counted again wherever it is used")
-        ->check(CLI::Range(1, static_cast<int>(host::kMaximumOccurrences)))
-        ->capture_default_str();
+void addLimits(CLI::App& command, host::ReadingLimits& limits) {
+    addNumber(command, "--max-seconds", limits.seconds, "Give up reading after this time")
+        ->check(CLI::Range(1, 86400));
+    addNumber(command, "--max-memory", limits.megabytes, "Give up reading beyond this many MB")
+        ->check(CLI::Range(16, 1 << 20));
+    addNumber(command, "--max-occurrences", limits.occurrences,
+              "Refuse a design that has more occurrences, those in a sub-assembly\n"
+              "counted again wherever it is used")
+        ->check(CLI::Range(1, static_cast<int>(host::kMaximumOccurrences)));
 }
 
 void addAddin(CLI::App& command, std::string& folder) {

@@ -15,7 +15,7 @@ namespace workbench {
 void addFile(CLI::App& command, std::string& file);
 
 /// The bounds of reading it.
-void addLimits(CLI::App& command, ReadingLimits& limits);
+void addLimits(CLI::App& command, host::ReadingLimits& limits);
 
 /// Another folder with the add-in than the one beside the program.
 void addAddin(CLI::App& command, std::string& folder);

@@ -21,7 +21,7 @@ struct BomOptions {
     std::string addin;                 ///< folder of the add-in; empty: the one beside the program
     bool open = false;                 ///< lets the shell open what the add-in asks it to
     bool verbose = false;              ///< shows what the add-in throws as a matter of course, too
-    ReadingLimits limits;
+    host::ReadingLimits limits;
 };
 
 /// Opens a design, has the add-in make its parts list and export it, and prints the list on stdout.

@@ -15,7 +15,7 @@ struct DesignCommandOptions {
     std::vector<std::string> occurrences;  ///< full path names; none: all directly under the root
     bool ground = false;                   ///< grounds what was moved
     std::string addin;                     ///< folder of the add-in; empty: beside the program
-    ReadingLimits limits;
+    host::ReadingLimits limits;
 };
 
 /// Has "Move To Origin" place occurrences at the origin. Throws a `Failure`, with nothing saved.

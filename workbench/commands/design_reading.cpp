@@ -12,19 +12,8 @@
 #include <vector>
 
 namespace workbench {
-namespace {
 
-host::ImportLimits importLimits(const ReadingLimits& limits) {
-    host::ImportLimits result;
-    result.seconds = limits.maxSeconds;
-    result.megabytes = static_cast<std::size_t>(limits.maxMegabytes);
-    result.occurrences = static_cast<std::size_t>(limits.maxOccurrences);
-    return result;
-}
-
-}  // namespace
-
-host::DesignData readDesign(const std::string& file, const ReadingLimits& limits) {
+host::DesignData readDesign(const std::string& file, const host::ReadingLimits& limits) {
     std::vector<std::string> warnings;
     try {
         ProgressLine line;
@@ -34,7 +23,7 @@ host::DesignData readDesign(const std::string& file, const ReadingLimits& limits
                       std::to_string(static_cast<int>(fraction * kPercent)) + " %");
         };
         host::DesignData design =
-            host::readDesign(host::fromUtf8(file), importLimits(limits), progress, warnings);
+            host::readDesign(host::fromUtf8(file), limits, progress, warnings);
         line.show("");
         tellWarnings(warnings);
         return design;

@@ -7,16 +7,9 @@
 
 namespace workbench {
 
-/// What a file may cost while it is read.
-struct ReadingLimits {
-    int maxSeconds = 300;
-    int maxMegabytes = static_cast<int>(host::kUsualMegabytes);
-    int maxOccurrences = static_cast<int>(host::kUsualOccurrences);
-};
-
 /// Reads a design out of a file, with a progress line on a terminal and a line on stderr for each
 /// thing that the reader had to say. Throws a `Failure` for a file that cannot be read.
-host::DesignData readDesign(const std::string& file, const ReadingLimits& limits);
+host::DesignData readDesign(const std::string& file, const host::ReadingLimits& limits);
 
 /// Writes what a reader had to say on stderr, a line for each.
 void tellWarnings(const std::vector<std::string>& warnings);

@@ -8,7 +8,7 @@ namespace workbench {
 
 struct InfoOptions {
     std::string file;
-    ReadingLimits limits;
+    host::ReadingLimits limits;
 };
 
 /// Prints on stdout what a file holds: components, occurrences, levels, units, materials. Throws a

@@ -15,7 +15,7 @@ struct PropertiesOptions {
     std::string saveFile;             ///< where to; empty: in its design file, else beside it
     std::string data;                 ///< folder of the user's projects; empty: there are none
     std::string addin;                ///< folder of the add-in; empty: the one beside the program
-    ReadingLimits limits;
+    host::ReadingLimits limits;
 };
 
 /// Picks a component in the add-in's dialog and prints what the dialog shows of it. With `save`

@@ -28,7 +28,8 @@ std::vector<ShownColumn> columnsOf(const host::TableView& table) {
     std::vector<ShownColumn> columns;
     for (std::size_t i = 0; i < list.keys.size(); ++i) {
         const host::TableCell& header = table.rows.front().cells[i];
-        columns.push_back({header.column, list.keys[i], propertyOf(header)});
+        columns.push_back(
+            {.column = header.column, .key = list.keys[i], .property = propertyOf(header)});
     }
     return columns;
 }

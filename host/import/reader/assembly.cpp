@@ -142,7 +142,7 @@ private:
 
 }  // namespace
 
-Assembly readAssembly(const fs::path& file, const TreeLimits& limits) {
+Assembly readAssembly(const fs::path& file, const host::ReadingLimits& limits) {
     Assembly assembly;
     assembly.roots = AssemblyReader(assembly).read(file);
     ContentTaker(assembly).run();

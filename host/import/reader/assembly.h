@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/design/reading_limits.h"
 #include "host/import/reader/materials.h"
 #include "host/import/reader/step_file.h"
 
@@ -51,15 +52,9 @@ struct Assembly {
     std::vector<std::string> warnings;
 };
 
-/// How large a tree may become.
-struct TreeLimits {
-    std::size_t occurrences = 0;  ///< below the root, every use in context counted
-    std::size_t levels = 0;
-};
-
 /// Reads a file and the files it refers to, without building shapes. Throws `ReadError` for a file
 /// that is damaged or holds no product, a product or file that contains itself, and a tree beyond
 /// the limits. A referenced file that is missing or damaged is a warning; its product stays empty.
-Assembly readAssembly(const std::filesystem::path& file, const TreeLimits& limits);
+Assembly readAssembly(const std::filesystem::path& file, const host::ReadingLimits& limits);
 
 }  // namespace step

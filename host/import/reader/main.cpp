@@ -46,7 +46,7 @@ void runIges(const std::string& file) {
     step::answerRequests(std::cin, shapes);
 }
 
-void run(const std::string& file, const step::TreeLimits& limits) {
+void run(const std::string& file, const host::ReadingLimits& limits) {
     step::sendLine({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
     if (step::looksLikeIges(file)) {
         runIges(file);
@@ -66,7 +66,7 @@ void run(const std::string& file, const step::TreeLimits& limits) {
     step::answerRequests(std::cin, shapes);
 }
 
-int runOrTell(const std::string& file, const step::TreeLimits& limits) {
+int runOrTell(const std::string& file, const host::ReadingLimits& limits) {
     try {
         run(file, limits);
         return EXIT_SUCCESS;
@@ -91,7 +91,10 @@ int main(int count, char** arguments) {
     }
     std::ios::sync_with_stdio(false);
     step::endWithStarter();
-    step::boundProcess(std::stoul(arguments[4]), std::stoul(arguments[5]));
-    const step::TreeLimits limits = {std::stoul(arguments[2]), std::stoul(arguments[3])};
+    const host::ReadingLimits limits = {.seconds = std::stod(arguments[4]),
+                                        .megabytes = std::stoul(arguments[5]),
+                                        .occurrences = std::stoul(arguments[2]),
+                                        .levels = std::stoul(arguments[3])};
+    step::boundProcess(limits);
     step::endProcess(runOrTell(arguments[1], limits));
 }

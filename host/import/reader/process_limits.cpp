@@ -17,7 +17,7 @@ constexpr rlim_t kMegabyte = rlim_t{1024} * 1024;
 
 void bound(__rlimit_resource resource, rlim_t value) {
     const rlimit limits = {value, value};
-    // A bound that the system does not grant is one bound less, no reason to stop.
+    // A limit that the system does not grant is one limit less, no reason to stop.
     static_cast<void>(::setrlimit(resource, &limits));
 }
 
@@ -30,14 +30,14 @@ rlim_t addressSpace() {
 
 }  // namespace
 
-void boundProcess(std::size_t seconds, std::size_t megabytes) {
-    // The starter tells a crash by its signal; a sanitizer would turn it into an exit.
+void boundProcess(const host::ReadingLimits& limits) {
+    // The starter recognises a crash by its signal; a sanitizer would turn it into an exit.
     for (const int crash : {SIGSEGV, SIGBUS, SIGFPE, SIGILL}) {
         static_cast<void>(std::signal(crash, SIG_DFL));
     }
     bound(RLIMIT_CORE, 0);
-    bound(RLIMIT_CPU, seconds);
-    const rlim_t space = 2 * megabytes * kMegabyte;
+    bound(RLIMIT_CPU, static_cast<rlim_t>(limits.seconds));
+    const rlim_t space = 2 * limits.megabytes * kMegabyte;
     // A sanitizer reserves terabytes that it never touches; there the starter's watch has to do.
     if (addressSpace() < space) {
         bound(RLIMIT_AS, space);
@@ -51,7 +51,7 @@ void endWithStarter() {
         return;
     }
     std::thread([] {
-        pollfd input = {STDIN_FILENO, 0, 0};  // nothing asked for: hanging up is always told
+        pollfd input = {STDIN_FILENO, 0, 0};  // no events asked for: a hang-up is always reported
         while (::poll(&input, 1, -1) < 0 || (input.revents & (POLLHUP | POLLERR)) == 0) {
         }
         ::_exit(0);

@@ -1,17 +1,16 @@
 #pragma once
 
-#include <cstddef>
+#include "host/design/reading_limits.h"
 
 namespace step {
 
-/// Keeps the program itself within bounds, beside the watch that its starter keeps: no core files,
-/// crashes that are seen as such, no endless computing, and no more address space than twice the
-/// memory it may use.
-void boundProcess(std::size_t seconds, std::size_t megabytes);
+/// Limits the process itself, besides the watch that its starter keeps: no core files, crashes that
+/// are seen as such, no more processor time than `seconds`, and no more address space than twice
+/// the memory it may use.
+void boundProcess(const host::ReadingLimits& limits);
 
-/// Ends the program as soon as nobody holds the other end of its standard input any more, even
-/// while Open CASCADE is at work. Does nothing when that is no socket, as when a person runs the
-/// program.
+/// Ends the program as soon as the other end of its standard input is closed, even while Open
+/// CASCADE is at work. Does nothing when the input is no socket, as in a terminal.
 void endWithStarter();
 
 /// Ends the program at once. The static objects of Open CASCADE are left as they are: they go with

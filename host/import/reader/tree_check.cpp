@@ -8,7 +8,7 @@ namespace {
 
 class TreeCheck {
 public:
-    TreeCheck(const Assembly& assembly, const TreeLimits& limits)
+    TreeCheck(const Assembly& assembly, const host::ReadingLimits& limits)
         : assembly_(assembly),
           limits_(limits),
           states_(assembly.components.size()),
@@ -66,7 +66,7 @@ private:
     }
 
     const Assembly& assembly_;
-    const TreeLimits& limits_;
+    const host::ReadingLimits& limits_;
     std::vector<State> states_;
     std::vector<std::size_t> occurrences_;
     std::vector<std::size_t> way_;
@@ -74,7 +74,7 @@ private:
 
 }  // namespace
 
-void checkTree(const Assembly& assembly, const TreeLimits& limits) {
+void checkTree(const Assembly& assembly, const host::ReadingLimits& limits) {
     TreeCheck(assembly, limits).run();
 }
 

@@ -30,8 +30,10 @@ protected:
         startHost({});
         std::filesystem::create_directories(project());
         std::filesystem::create_directories(folder.path() / "disk");
-        data = std::make_unique<UserData>(
-            UserDataSetup{folder.path() / "data", "", ReferencedFiles::KnownAtOnce});
+        data =
+            std::make_unique<UserData>(UserDataSetup{.folder = folder.path() / "data",
+                                                     .activeProject = "",
+                                                     .references = ReferencedFiles::KnownAtOnce});
         host::ApplicationObject::current()->setData(data->api());
     }
     ~Uploads() override { endHost(); }

@@ -30,7 +30,8 @@ protected:
 
     void open(const std::string& activeProject = "",
               ReferencedFiles references = ReferencedFiles::KnownAtOnce) {
-        data = std::make_unique<UserData>(UserDataSetup{folder.path(), activeProject, references});
+        data = std::make_unique<UserData>(UserDataSetup{
+            .folder = folder.path(), .activeProject = activeProject, .references = references});
     }
 
     [[nodiscard]] Ptr<DataFolder> root() const {

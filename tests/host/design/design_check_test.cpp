@@ -48,11 +48,13 @@ TEST(CheckDesign, NamesPlaceAndWhatWouldBeRight) {
     EXPECT_EQ(complaint([](DesignData& data) { data.components[2].material->density = -1; }),
               "components[2].material: the density must be a number of 0 or more");
     EXPECT_EQ(complaint([](DesignData& data) {
-                  data.components[2].attributes = {{"G", "a", "1"}, {"G", "b", ""}, {"G", "a", ""}};
+                  data.components[2].attributes = {{.group = "G", .name = "a", .value = "1"},
+                                                   {.group = "G", .name = "b", .value = ""},
+                                                   {.group = "G", .name = "a", .value = ""}};
               }),
               "components[2].attributes: \"a\" of the group \"G\" may stand only once");
     EXPECT_EQ(complaint([](DesignData& data) {
-                  data.attributes = {{"", "a", "1"}};
+                  data.attributes = {{.group = "", .name = "a", .value = "1"}};
               }),
               "the design.attributes: an attribute needs a group and a name");
 }
@@ -78,7 +80,7 @@ TEST(CheckDesign, AbsentPlaceNeedsNoComponent) {
 TEST(CheckDesign, CycleThatTheRootDoesNotLeadToIsOneToo) {
     EXPECT_EQ(complaint([](DesignData& data) {
                   data.components.push_back(data.components[2]);
-                  data.components[3].children = {{3, 1, {}, false, false}};
+                  data.components[3].children = {{.component = 3}};
               }),
               "components[3]: \"Bolt\" contains itself; an assembly must be free of itself");
 }

@@ -32,7 +32,7 @@ protected:
         return complaint();
     }
 
-    std::string complaint(const ReadSource& readSource = {}, const DesignFileLimits& limits = {}) {
+    std::string complaint(const ReadSource& readSource = {}, const ReadingLimits& limits = {}) {
         const std::u8string name = path.u8string();
         try {
             loadDesignFile(path, readSource, limits);
@@ -84,7 +84,7 @@ TEST_F(DesignFile, HoldsEverythingOfADesign) {
         "Air  material=none");
     data.name = "Gearbox";
     data.unit = "mm";
-    data.attributes = {{"G", "whole", "line\nbreak"}};
+    data.attributes = {{.group = "G", .name = "whole", .value = "line\nbreak"}};
     data.components[1].hasExplicitPartNumber = true;
     data.components[2].sketches = {{"Profile", {{true, false}, {false, true}}}, {"Empty", {}}};
 
@@ -289,9 +289,9 @@ TEST_F(DesignFile, MoreOccurrencesThanAskedForAreRefused) {
           Bolt
         Frame)"));
 
-    EXPECT_EQ(complaint({}, {kUsualMegabytes, 8}), "none");
+    EXPECT_EQ(complaint({}, {.occurrences = 8}), "none");
     EXPECT_EQ(
-        complaint({}, {kUsualMegabytes, 7}),
+        complaint({}, {.occurrences = 7}),
         "would become more than 7 occurrences; open a part of the assembly, or increase the limit");
 }
 
@@ -338,7 +338,7 @@ protected:
     [[nodiscard]] DesignData edited() const {
         DesignData data = original();
         data.components[1].name = "Screw";
-        data.components[1].attributes = {{"G", "a", "1"}};
+        data.components[1].attributes = {{.group = "G", .name = "a", .value = "1"}};
         data.components[2].geometry = boxGeometry(1, 2, 3);
         return data;
     }
@@ -356,7 +356,8 @@ TEST_F(DesignFileWithSource, KeepsTheEditsAndTakesBodiesFromTheSource) {
 
     EXPECT_EQ(asked, original().source->path + " f1");
     EXPECT_EQ(loaded.components[1].name, "Screw");
-    EXPECT_EQ(loaded.components[1].attributes, (std::vector<AttributeData>{{"G", "a", "1"}}));
+    EXPECT_EQ(loaded.components[1].attributes,
+              (std::vector<AttributeData>{{.group = "G", .name = "a", .value = "1"}}));
     EXPECT_EQ(loaded.components[1].geometry, bolt);
     EXPECT_EQ(loaded.components[2].geometry->volume(), 6);
     EXPECT_EQ(loaded.components[0].geometry, nullptr);

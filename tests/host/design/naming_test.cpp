@@ -48,7 +48,9 @@ TEST(ComponentNames, ReleasedNameIsFreeWithoutANumber) {
 DesignData withNames(const Texts& names) {
     DesignData data;
     for (const std::string& name : names) {
-        data.components.push_back({name, name, "", {}, {}, {}, nullptr, {}, "", false});
+        ComponentData& component = data.components.emplace_back();
+        component.name = name;
+        component.partNumber = name;
     }
     return data;
 }
@@ -91,11 +93,12 @@ TEST(MakeNamesUnique, CarriesAnUntouchedPartNumberAlongAndNoOther) {
 
 TEST(NumberInstances, CountsUsesOverTheWholeDesignAndSharedChildrenOnce) {
     DesignData data = withNames({"Design", "Asm", "Bolt"});
-    data.components[0].children = {{1, 0, {}, false, false},
-                                   {2, 0, {}, false, false},
-                                   {1, 0, {}, false, false},
-                                   {2, 0, {}, false, false}};
-    data.components[1].children = {{2, 0, {}, false, false}, {2, 0, {}, false, true}};
+    data.components[0].children = {{.component = 1, .instance = 0},
+                                   {.component = 2, .instance = 0},
+                                   {.component = 1, .instance = 0},
+                                   {.component = 2, .instance = 0}};
+    data.components[1].children = {{.component = 2, .instance = 0},
+                                   {.component = 2, .instance = 0, .absent = true}};
 
     numberInstances(data);
 

@@ -12,7 +12,7 @@ ImportedComponent component(const std::string& id, const std::string& name,
                             const std::vector<std::size_t>& children = {}) {
     ImportedComponent made{id, name, {}};
     for (const std::size_t child : children) {
-        made.data.children.push_back({child, 0, {}, false, false});
+        made.data.children.push_back({.component = child, .instance = 0});
     }
     return made;
 }

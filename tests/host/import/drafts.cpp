@@ -92,7 +92,7 @@ host::DesignData import(const std::string& path) {
     return host::importStep(path, {}, {}, warnings);
 }
 
-std::string refusal(const std::string& path, const host::ImportLimits& limits) {
+std::string refusal(const std::string& path, const host::ReadingLimits& limits) {
     std::vector<std::string> warnings;
     try {
         host::importStep(path, limits, {}, warnings);

@@ -42,6 +42,6 @@ std::string tree(const host::DesignData& design);
 host::DesignData import(const std::string& path);
 
 /// The line with which a file is refused; empty when it is read.
-std::string refusal(const std::string& path, const host::ImportLimits& limits = {});
+std::string refusal(const std::string& path, const host::ReadingLimits& limits = {});
 
 }  // namespace drafts

@@ -15,7 +15,7 @@ namespace {
 using host::ReaderFailure;
 using host::ReaderProcess;
 
-constexpr ReaderProcess::Bounds kEnough = {30, 1000};
+constexpr host::ReadingLimits kEnough = {.seconds = 30, .megabytes = 1000};
 
 /// Why there is no answer; empty when there is one.
 std::string failureOf(ReaderProcess& process) {
@@ -27,8 +27,8 @@ std::string failureOf(ReaderProcess& process) {
     return {};
 }
 
-std::string failureOf(const std::string& script, const ReaderProcess::Bounds& bounds = kEnough) {
-    ReaderProcess process("/bin/sh", {"-c", script}, bounds);
+std::string failureOf(const std::string& script, const host::ReadingLimits& limits = kEnough) {
+    ReaderProcess process("/bin/sh", {"-c", script}, limits);
     return failureOf(process);
 }
 
@@ -69,28 +69,32 @@ TEST(ReaderProcess, TheLastLineBeforeTheEndIsHeard) {
 }
 
 TEST(ReaderProcess, OneThatTakesTooLongIsEnded) {
-    EXPECT_EQ(failureOf("exec sleep 60", {0.2, 1000}), "the reader took longer than 0.2 seconds");
+    EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 0.2, .megabytes = 1000}),
+              "the reader took longer than 0.2 seconds");
 }
 
 TEST(ReaderProcess, ItsTimeIsToldWithAPointInEveryLocale) {
     const test_support::CommaLocale locale;
 
     ASSERT_TRUE(test_support::CommaLocale::isSystems());
-    EXPECT_EQ(failureOf("exec sleep 60", {0.25, 1000}), "the reader took longer than 0.25 seconds");
+    EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 0.25, .megabytes = 1000}),
+              "the reader took longer than 0.25 seconds");
 }
 
 TEST(ReaderProcess, WholeSecondsAreToldWithoutAPoint) {
-    EXPECT_EQ(failureOf("exec sleep 60", {1, 1000}), "the reader took longer than 1 seconds");
+    EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 1, .megabytes = 1000}),
+              "the reader took longer than 1 seconds");
 }
 
 TEST(ReaderProcess, OneThatTalksForEverIsEnded) {
-    ReaderProcess process("/bin/sh", {"-c", "while :; do printf x; done"}, {0.2, 1000});
+    ReaderProcess process("/bin/sh", {"-c", "while :; do printf x; done"},
+                          {.seconds = 0.2, .megabytes = 1000});
 
     EXPECT_EQ(failureOf(process), "the reader took longer than 0.2 seconds");
 }
 
 TEST(ReaderProcess, OneThatGrowsTooLargeIsEnded) {
-    EXPECT_EQ(failureOf("exec tail /dev/zero", {30, 60}),
+    EXPECT_EQ(failureOf("exec tail /dev/zero", {.seconds = 30, .megabytes = 60}),
               "the reader needed more than 60 megabytes of memory");
 }
 

@@ -13,7 +13,7 @@ using host::StepGeometry;
 /// A reader that gives prepared answers to whatever it is asked.
 StepGeometry answering(const std::string& script) {
     return {std::make_shared<ReaderProcess>("/bin/sh", std::vector<std::string>{"-c", script},
-                                            ReaderProcess::Bounds{30, 1000}),
+                                            host::ReadingLimits{.seconds = 30, .megabytes = 1000}),
             3, "a.step"};
 }
 

@@ -66,10 +66,27 @@ TEST_F(StepImport, ASingleRootProductIsTheRootComponent) {
 }
 
 TEST_F(StepImport, SeveralRootsStandBelowOneOfTheFilesName) {
-    EXPECT_EQ(tree(importText(
-                  samples::stepFile("x", {{"left", "A", "Left", "", {}, kPlate, {}},
-                                          {"pin", "C", "Pin", "", {}, kPlate, {}},
-                                          {"right", "B", "Right", "", {}, {}, {{"pin", {}}}}}))),
+    EXPECT_EQ(tree(importText(samples::stepFile("x", {{.key = "left",
+                                                       .id = "A",
+                                                       .name = "Left",
+                                                       .description = "",
+                                                       .material = {},
+                                                       .solid = kPlate,
+                                                       .uses = {}},
+                                                      {.key = "pin",
+                                                       .id = "C",
+                                                       .name = "Pin",
+                                                       .description = "",
+                                                       .material = {},
+                                                       .solid = kPlate,
+                                                       .uses = {}},
+                                                      {.key = "right",
+                                                       .id = "B",
+                                                       .name = "Right",
+                                                       .description = "",
+                                                       .material = {},
+                                                       .solid = {},
+                                                       .uses = {{"pin", {}}}}}))),
               "Design\n"
               "  Left:1\n"
               "  Right:1\n"
@@ -133,7 +150,13 @@ TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
 }
 
 TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {
-    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    std::string text = samples::stepFile("x", {{.key = "plate",
+                                                .id = "P",
+                                                .name = "Plate",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = kPlate,
+                                                .uses = {}}});
     const std::string body = labelOf(text, "MANIFOLD_SOLID_BREP");
     damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
 
@@ -150,7 +173,13 @@ TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {
 }
 
 TEST_F(StepImport, ABodyThatLacksAFaceIsWarnedOf) {
-    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    std::string text = samples::stepFile("x", {{.key = "plate",
+                                                .id = "P",
+                                                .name = "Plate",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = kPlate,
+                                                .uses = {}}});
     const std::string face = labelOf(text, "ADVANCED_FACE");
     damage(text, "ADVANCED_FACE('',(#", ");", "ADVANCED_FACE('',(),$,.T.);");
 
@@ -169,7 +198,13 @@ TEST_F(StepImport, ABodyThatLacksAFaceIsWarnedOf) {
 }
 
 TEST_F(StepImport, ABodyWithoutAnyFaceIsWarnedOf) {
-    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    std::string text = samples::stepFile("x", {{.key = "plate",
+                                                .id = "P",
+                                                .name = "Plate",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = kPlate,
+                                                .uses = {}}});
     damage(text, "CLOSED_SHELL('',(", ");", "CLOSED_SHELL('',());");
 
     importText(text);
@@ -180,10 +215,27 @@ TEST_F(StepImport, ABodyWithoutAnyFaceIsWarnedOf) {
 }
 
 TEST_F(StepImport, BodiesOfOtherPartsAreThereBesideOneThatCannotBeBuilt) {
-    std::string text =
-        samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
-                                {"bar", "B", "Bar", "", {}, kPlate, {}},
-                                {"top", "A", "Top", "", {}, {}, {{"plate", {}}, {"bar", {}}}}});
+    std::string text = samples::stepFile("x", {{.key = "plate",
+                                                .id = "P",
+                                                .name = "Plate",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = kPlate,
+                                                .uses = {}},
+                                               {.key = "bar",
+                                                .id = "B",
+                                                .name = "Bar",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = kPlate,
+                                                .uses = {}},
+                                               {.key = "top",
+                                                .id = "A",
+                                                .name = "Top",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = {},
+                                                .uses = {{"plate", {}}, {"bar", {}}}}});
     damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
 
     const DesignData design = importText(text);
@@ -193,7 +245,13 @@ TEST_F(StepImport, BodiesOfOtherPartsAreThereBesideOneThatCannotBeBuilt) {
 }
 
 TEST_F(StepImport, AnEntityWithoutItsNameIsNoFault) {
-    std::string text = samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}});
+    std::string text = samples::stepFile("x", {{.key = "plate",
+                                                .id = "P",
+                                                .name = "Plate",
+                                                .description = "",
+                                                .material = {},
+                                                .solid = kPlate,
+                                                .uses = {}}});
     damage(text, "MANIFOLD_SOLID_BREP(''", ",", "MANIFOLD_SOLID_BREP($,");
 
     EXPECT_NE(importText(text).components[0].geometry, nullptr);
@@ -201,9 +259,21 @@ TEST_F(StepImport, AnEntityWithoutItsNameIsNoFault) {
 }
 
 TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {
-    const DesignData design = importText(samples::stepFile(
-        "x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
-              {"top", "A", "Top", "", {}, {}, {{"plate", {{10, 20, 30}, {0, 0, 1}, {0, 1, 0}}}}}}));
+    const DesignData design = importText(
+        samples::stepFile("x", {{.key = "plate",
+                                 .id = "P",
+                                 .name = "Plate",
+                                 .description = "",
+                                 .material = {},
+                                 .solid = kPlate,
+                                 .uses = {}},
+                                {.key = "top",
+                                 .id = "A",
+                                 .name = "Top",
+                                 .description = "",
+                                 .material = {},
+                                 .solid = {},
+                                 .uses = {{"plate", {{10, 20, 30}, {0, 0, 1}, {0, 1, 0}}}}}}));
 
     // A quarter turn around z: x points whereto y pointed.
     EXPECT_EQ(design.components[0].children[0].transform.cells,
@@ -211,8 +281,13 @@ TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {
 }
 
 TEST_F(StepImport, SizesAreInCentimetres) {
-    const DesignData design =
-        importText(samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}}));
+    const DesignData design = importText(samples::stepFile("x", {{.key = "plate",
+                                                                  .id = "P",
+                                                                  .name = "Plate",
+                                                                  .description = "",
+                                                                  .material = {},
+                                                                  .solid = kPlate,
+                                                                  .uses = {}}}));
     host::Geometry& plate = *design.components[0].geometry;
 
     EXPECT_NEAR(plate.area(), 7, 1e-9);  // 2 x (1x2 + 1x0.5 + 2x0.5)
@@ -221,8 +296,14 @@ TEST_F(StepImport, SizesAreInCentimetres) {
 }
 
 TEST_F(StepImport, TheBoxOfATurnedShapeIsExact) {
-    const DesignData design = importText(samples::stepFile(
-        "x", {{"disc", "P", "Disc", "", {}, Solid{{{samples::circle(10), 4}}, {}}, {}}}));
+    const DesignData design =
+        importText(samples::stepFile("x", {{.key = "disc",
+                                            .id = "P",
+                                            .name = "Disc",
+                                            .description = "",
+                                            .material = {},
+                                            .solid = Solid{{{samples::circle(10), 4}}, {}},
+                                            .uses = {}}}));
     // A quarter turn around x and 5 cm along x: the disc stands upright.
     const host::Transform upright = {{1, 0, 0, 5, 0, 0, -1, 0, 0, 1, 0, 0, 0, 0, 0, 1}};
 
@@ -237,9 +318,21 @@ TEST_F(StepImport, TheBoxOfATurnedShapeIsExact) {
 }
 
 TEST_F(StepImport, AnAssemblyWithABodyOfItsOwnKeepsBoth) {
-    const DesignData design = importText(samples::stepFile(
-        "x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
-              {"top", "A", "Top", "", {}, Solid{{{rectangle(10, 10), 10}}, {}}, {{"plate", {}}}}}));
+    const DesignData design =
+        importText(samples::stepFile("x", {{.key = "plate",
+                                            .id = "P",
+                                            .name = "Plate",
+                                            .description = "",
+                                            .material = {},
+                                            .solid = kPlate,
+                                            .uses = {}},
+                                           {.key = "top",
+                                            .id = "A",
+                                            .name = "Top",
+                                            .description = "",
+                                            .material = {},
+                                            .solid = Solid{{{rectangle(10, 10), 10}}, {}},
+                                            .uses = {{"plate", {}}}}}));
 
     EXPECT_EQ(tree(design), "Top\n  Plate:1\n");
     EXPECT_NEAR(design.components[0].geometry->volume(), 1, 1e-9);
@@ -247,17 +340,35 @@ TEST_F(StepImport, AnAssemblyWithABodyOfItsOwnKeepsBoth) {
 }
 
 TEST_F(StepImport, AnAssemblyOfASinglePartHasNoBodyOfItsOwn) {
-    const DesignData design = importText(
-        samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}},
-                                {"top", "A", "Top", "", {}, {}, {{"plate", {{1, 2, 3}}}}}}));
+    const DesignData design =
+        importText(samples::stepFile("x", {{.key = "plate",
+                                            .id = "P",
+                                            .name = "Plate",
+                                            .description = "",
+                                            .material = {},
+                                            .solid = kPlate,
+                                            .uses = {}},
+                                           {.key = "top",
+                                            .id = "A",
+                                            .name = "Top",
+                                            .description = "",
+                                            .material = {},
+                                            .solid = {},
+                                            .uses = {{"plate", {{1, 2, 3}}}}}}));
 
     EXPECT_EQ(design.components[0].geometry, nullptr);
     EXPECT_NE(design.components[1].geometry, nullptr);
 }
 
 TEST_F(StepImport, MaterialsComeWithTheirDensity) {
-    const DesignData design = importText(samples::stepFile(
-        "x", {{"plate", "P", "Plate", "", samples::Material{"Litina", 7200}, kPlate, {}}}));
+    const DesignData design =
+        importText(samples::stepFile("x", {{.key = "plate",
+                                            .id = "P",
+                                            .name = "Plate",
+                                            .description = "",
+                                            .material = samples::Material{"Litina", 7200},
+                                            .solid = kPlate,
+                                            .uses = {}}}));
 
     EXPECT_EQ(design.components[0].material, (host::MaterialData{"Litina", 0.0072}));
 }
@@ -293,9 +404,15 @@ TEST_F(StepImport, AProductTakesItsContentFromAnotherFile) {
 }
 
 TEST_F(StepImport, TheUnitOfTheFileIsTold) {
-    EXPECT_EQ(
-        importText(samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}})).unit,
-        "mm");
+    EXPECT_EQ(importText(samples::stepFile("x", {{.key = "plate",
+                                                  .id = "P",
+                                                  .name = "Plate",
+                                                  .description = "",
+                                                  .material = {},
+                                                  .solid = kPlate,
+                                                  .uses = {}}}))
+                  .unit,
+              "mm");
 }
 
 TEST_F(StepImport, TheSourceTellsWhetherTheFileChanged) {
@@ -311,8 +428,13 @@ TEST_F(StepImport, TheSourceTellsWhetherTheFileChanged) {
 TEST_F(StepImport, ProgressRunsFromReadingToBuilding) {
     std::vector<std::pair<std::string, double>> heard;
     host::importStep(
-        folder.write("a.step",
-                     samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}})),
+        folder.write("a.step", samples::stepFile("x", {{.key = "plate",
+                                                        .id = "P",
+                                                        .name = "Plate",
+                                                        .description = "",
+                                                        .material = {},
+                                                        .solid = kPlate,
+                                                        .uses = {}}})),
         {}, [&heard](const std::string& stage, double done) { heard.emplace_back(stage, done); },
         warnings);
 
@@ -344,7 +466,13 @@ TEST_F(StepImport, TheReaderEndsWhenItsStarterIsGone) {
 }
 
 TEST_F(StepImport, NoProcessOutlivesTheDesign) {
-    importText(samples::stepFile("x", {{"plate", "P", "Plate", "", {}, kPlate, {}}}));
+    importText(samples::stepFile("x", {{.key = "plate",
+                                        .id = "P",
+                                        .name = "Plate",
+                                        .description = "",
+                                        .material = {},
+                                        .solid = kPlate,
+                                        .uses = {}}}));
 
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);

@@ -17,11 +17,12 @@ using drafts::usage;
 class StepRefusal : public testing::Test {
 protected:
     /// The line for a file of this content, without the path that it begins with.
-    std::string reason(const std::string& bytes, const host::ImportLimits& limits = {}) {
+    std::string reason(const std::string& bytes, const host::ReadingLimits& limits = {}) {
         return withoutPath(folder.write("a.step", bytes), limits);
     }
 
-    static std::string withoutPath(const std::string& path, const host::ImportLimits& limits = {}) {
+    static std::string withoutPath(const std::string& path,
+                                   const host::ReadingLimits& limits = {}) {
         const std::string line = refusal(path, limits);
         EXPECT_EQ(line.substr(0, path.size() + 2), path + ": ");
         return line.size() > path.size() + 2 ? line.substr(path.size() + 2) : line;
@@ -127,10 +128,10 @@ TEST_F(StepRefusal, ATreeWithMoreOccurrencesThanAllowed) {
     // 2 + 4 + 8 occurrences below the root.
     const std::string text = chain(4, 2);
 
-    EXPECT_EQ(reason(text, {300, 3072, 13}),
+    EXPECT_EQ(reason(text, {.occurrences = 13}),
               "would become more than 13 occurrences; open a part of the assembly, or increase the "
               "limit");
-    EXPECT_EQ(refusal(folder.write("a.step", text), {300, 3072, 14}), "");
+    EXPECT_EQ(refusal(folder.write("a.step", text), {.occurrences = 14}), "");
 }
 
 TEST_F(StepRefusal, ATreeThatDoublesAtEveryLevelIsCountedWithoutOpeningIt) {
@@ -147,13 +148,13 @@ TEST_F(StepRefusal, ATreeOfManyLevels) {
 
 TEST_F(StepRefusal, AFileThatTakesTooLong) {
     EXPECT_EQ(
-        reason(step(product(10, "P", "Bar")), {0, 3072, 10}),
+        reason(step(product(10, "P", "Bar")), {.seconds = 0, .occurrences = 10}),
         "the reader took longer than 0 seconds at the stage \"Starting\"; export it again, or "
         "open a part of it");
 }
 
 TEST_F(StepRefusal, AFileThatTakesTooMuchMemory) {
-    EXPECT_EQ(reason(chain(400, 1), {300, 2, 1000}).substr(0, 49),
+    EXPECT_EQ(reason(chain(400, 1), {.megabytes = 2, .occurrences = 1000}).substr(0, 49),
               "the reader needed more than 2 megabytes of memory");
 }
 

@@ -74,7 +74,7 @@ TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneUnlessToldOtherwise) {
 
 TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
     SystemOverrides screen;
-    screen.screen = host::ScreenRectangle{-640, 0, 800, 600};
+    screen.screen = host::ScreenRectangle{.left = -640, .top = 0, .right = 800, .bottom = 600};
     screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
     answers::start(screen);
     StandInArea area = {};

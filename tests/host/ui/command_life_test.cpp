@@ -112,9 +112,10 @@ TEST_F(CommandLife, WhoseCreatedHandlerThrownAndThatHasNoInputsIsAborted) {
     pressCommand("Broken");
 
     EXPECT_EQ(noted(), "starting:Broken created deactivate destroy=3 terminated:Broken=3");
-    EXPECT_EQ(
-        uncaughtExceptions(),
-        (std::vector<UncaughtException>{{"OnCommandCreated", "", "std::runtime_error", "cannot"}}));
+    EXPECT_EQ(uncaughtExceptions(), (std::vector<UncaughtException>{{.event = "OnCommandCreated",
+                                                                     .inputId = "",
+                                                                     .type = "std::runtime_error",
+                                                                     .text = "cannot"}}));
 }
 
 TEST_F(CommandLife, WhoseCreatedHandlerThrownBehindItsInputsShowsThem) {
@@ -138,7 +139,8 @@ TEST_F(CommandLife, ARaiseInExecuteEndsWithCompleted) {
 
     EXPECT_EQ(noted(), "starting:Button created terminated:Button=1");
     EXPECT_EQ(uncaughtExceptions(),
-              (std::vector<UncaughtException>{{"OnExecute", "", "std::exception", ""}}));
+              (std::vector<UncaughtException>{
+                  {.event = "OnExecute", .inputId = "", .type = "std::exception", .text = ""}}));
 }
 
 TEST_F(CommandLife, AFailedExecutionEndsWithAborted) {

@@ -121,8 +121,10 @@ TEST_F(CommandDialog, ARaiseInInputChangedLeavesItOpenAndUsable) {
     EXPECT_EQ(noted(), "box");
     EXPECT_TRUE(openDialog());
     EXPECT_EQ(uncaughtExceptions(),
-              (std::vector<UncaughtException>{
-                  {"OnInputChanged", "box", "std::invalid_argument", "invalid stoi argument"}}));
+              (std::vector<UncaughtException>{{.event = "OnInputChanged",
+                                               .inputId = "box",
+                                               .type = "std::invalid_argument",
+                                               .text = "invalid stoi argument"}}));
 }
 
 TEST_F(CommandDialog, NothingCanBePressedWhileACommandIsAtWork) {

@@ -37,9 +37,15 @@ std::vector<std::string> fileNames() {
 host::DesignData withAttributes(host::DesignData design) {
     constexpr const char* kGroup = "QEMA_PropertiesAttributesGroup";
     for (std::size_t i = 1; i < design.components.size(); ++i) {
-        if (i % 2 == 1) design.components[i].attributes.push_back({kGroup, "QEMA_Supplier", "A"});
-        if (i % 3 == 1) design.components[i].attributes.push_back({kGroup, "QEMA_Mass", "old"});
-        if (i % 5 == 1) design.components[i].attributes.push_back({"Other", "Key", "kept"});
+        if (i % 2 == 1)
+            design.components[i].attributes.push_back(
+                {.group = kGroup, .name = "QEMA_Supplier", .value = "A"});
+        if (i % 3 == 1)
+            design.components[i].attributes.push_back(
+                {.group = kGroup, .name = "QEMA_Mass", .value = "old"});
+        if (i % 5 == 1)
+            design.components[i].attributes.push_back(
+                {.group = "Other", .name = "Key", .value = "kept"});
         for (host::OccurrenceData& child : design.components[i].children)
             child.grounded = i % 2 == 0;
     }

@@ -43,7 +43,8 @@ constexpr std::array<const char*, 4> kCustomKeys = {"QEMA_Colour", "QEMA_Supplie
 constexpr std::array<const char*, 5> kValues = {"", "red", "blue", "1", "***different***"};
 
 void addAttribute(ComponentData& component, const char* name, const char* value) {
-    component.attributes.push_back({"QEMA_PropertiesAttributesGroup", name, value});
+    component.attributes.push_back(
+        {.group = "QEMA_PropertiesAttributesGroup", .name = name, .value = value});
 }
 
 /// None, all five as the dialog leaves them, or some in any state, two of them at once included.
