@@ -61,7 +61,7 @@ core::Ptr<core::Document> DocumentsObject::open(const core::Ptr<core::DataFile>&
     }
     const core::Ptr<DataFileObject> file = dataFile;
     if (!file || !file->isValid()) {
-        fail(core::BadApiCallError, "Documents::open: there is no such file");
+        fail(core::BadApiCallError, "Documents::open: no such file");
         return {};
     }
     try {

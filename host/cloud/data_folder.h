@@ -36,19 +36,19 @@ public:
     [[nodiscard]] DataProjectObject& project() const { return *project_; }
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-    /// Whether someone has asked for its files.
+    /// Whether a module has asked for its files.
     [[nodiscard]] bool isListed() const { return isListed_; }
 
-    /// Looks at the disk; what is gone from it is not valid any more.
+    /// Looks at the disk; what was removed from it is disposed of.
     void refresh();
 
     [[nodiscard]] core::Ptr<DataFolderObject> folder(const std::filesystem::path& name) const;
     [[nodiscard]] core::Ptr<DataFileObject> file(const std::filesystem::path& name) const;
 
-    /// The first file of a name here or below, folders in front of files; null for none.
+    /// The first file of a name here or below, folders before files; null for none.
     [[nodiscard]] core::Ptr<DataFileObject> findByName(const std::string& name);
 
-    /// Lets go of all that lies in it; it is not valid any more.
+    /// Disposes of all that is in it, and of itself.
     void dispose();
     /// @}
 

@@ -3,7 +3,7 @@
 namespace host {
 
 /// How long the user's storage takes for what a module uploads, by the clock of the host, and what
-/// goes wrong there. As it stands: nothing takes time and all goes well.
+/// goes wrong there. By default nothing takes time and all goes well.
 struct StoragePace {
     double uploadSeconds = 0;
     bool uploadFails = false;  ///< at the end of that time
@@ -15,7 +15,7 @@ struct StoragePace {
     int conversionsThrowing = 0;          ///< so many tries, before those, throw an exception
 };
 
-/// How the storage of the host that runs behaves; to be changed by whoever started it.
+/// How the storage of the host that runs behaves; to be changed by its session.
 StoragePace& storagePace();
 
 }  // namespace host

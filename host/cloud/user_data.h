@@ -20,7 +20,7 @@ namespace host {
 /// When the host learns which file a referenced document was saved to.
 enum class ReferencedFiles {
     KnownAtOnce,
-    KnownWhenListed,  ///< not before someone asks the folder of the file for its files
+    KnownWhenListed,  ///< not before a module asks the folder of the file for its files
 };
 
 struct UserDataSetup {
@@ -31,10 +31,11 @@ struct UserDataSetup {
 
 class DataObject;
 
-/// Whoever makes it keeps it; what a module was handed out of it is not valid after its end.
+/// Belongs to the session. What a module holds of it is disposed of with it.
 class UserData {
 public:
-    /// Throws `std::invalid_argument` for a path that is no folder, or a project that is not there.
+    /// Throws `std::invalid_argument` for a path that is not a directory, or a project that is not
+    /// there.
     explicit UserData(UserDataSetup setup);
     UserData(const UserData&) = delete;
     UserData& operator=(const UserData&) = delete;
@@ -48,7 +49,7 @@ public:
 
     /// Ties a document that was opened from or saved to a file on the disk to its data file, and
     /// the documents that it refers to to the files of their names: the first in the active
-    /// project, folders in front of files, else none. Nothing happens for a file in no project.
+    /// project, folders before files, if there is one. Nothing happens for a file in no project.
     void tie(const core::Ptr<core::Document>& document, const std::filesystem::path& path) const;
 
 private:

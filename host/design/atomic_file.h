@@ -5,11 +5,11 @@
 
 namespace host {
 
-/// Writes a file so that whoever opens its name finds the old content or the new one, whole, also
+/// Writes a file so that its name refers to the old content or the new one, whole, also
 /// after a crash: the content goes into a new file beside it, down to the disk, which then takes
 /// the name. A link is followed, and a file that is replaced hands its permissions on.
 ///
-/// Throws `std::system_error` where that fails; the old file then stands, and nothing new beside
+/// Throws `std::system_error` where that fails; the old file is then kept, and nothing new beside
 /// it.
 void writeFileAtomically(const std::filesystem::path& path, std::string_view content);
 

@@ -15,7 +15,7 @@ namespace host {
 
 class AttributesObject;
 
-/// One attribute; it belongs to its collection, and outlives it as an object that is not valid.
+/// One attribute; it belongs to its collection, and is disposed of with it.
 class AttributeObject final : public Object<core::Attribute> {
 public:
     AttributeObject(AttributesObject& owner, AttributeData data);
@@ -47,7 +47,8 @@ private:
 /// The attributes of a component or of a design.
 class AttributesObject final : public Object<core::Attributes> {
 public:
-    /// `parent` is what they stand on, and `edits` counts the changes; both outlive it or end it.
+    /// `parent` is what they belong to, and `edits` counts the changes; both outlive the
+    /// collection, or dispose of it.
     AttributesObject(core::Base& parent, Edits& edits, std::vector<AttributeData> data);
 
     [[nodiscard]] std::size_t count() const override;
@@ -65,7 +66,7 @@ public:
     void countEdit() { ++edits_->all; }
     void take(AttributeObject& attribute);
 
-    /// Ends the collection and all attributes: what is still held of them is not valid any more.
+    /// Disposes of the collection and all attributes.
     void dispose();
 
 private:

@@ -29,7 +29,7 @@ bool ComponentObject::name(const std::string& value) {
         return fail(core::BadApiCallError, "a component needs a name");
     }
     if (value != data_.name) {
-        // The name it gives up is free for itself: asked for "Bolt", a "Bolt (1)" may stay.
+        // Its old name is free for itself: asked for "Bolt", a "Bolt (1)" may stay.
         model_->names.release(data_.name);
         rename(model_->names.claim(value));
     }

@@ -59,7 +59,7 @@ public:
     [[nodiscard]] ComponentObject& childComponent(const OccurrenceData& child) const;
     OccurrenceData& place(std::size_t index) { return data_.children[index]; }
 
-    /// The density of what it is made of, in kg/cm3; 0 where nothing is told.
+    /// The density of what it is made of, in kg/cm3; 0 where it is unknown.
     [[nodiscard]] double density() const { return material_ ? material_->state().density : 0; }
 
     MeasureCache& measureCache();

@@ -48,7 +48,7 @@ void checkAttributes(const std::vector<AttributeData>& attributes, const std::st
     const auto twice = std::adjacent_find(names.begin(), names.end());
     if (twice != names.end()) {
         refuse(place + ".attributes", "\"" + std::string(twice->second) + "\" of the group \"" +
-                                          std::string(twice->first) + "\" may stand only once");
+                                          std::string(twice->first) + "\" may appear only once");
     }
 }
 
@@ -65,7 +65,7 @@ void checkChildren(const DesignData& data, std::size_t index) {
                                            std::to_string(data.components.size() - 1));
         }
         if (child.component == 0) {
-            refuse(placeOf(index, at), "component 0 is the root component and stands nowhere");
+            refuse(placeOf(index, at), "component 0 is the root component and cannot be placed");
         }
         if (child.instance < 1) {
             refuse(placeOf(index, at), "the instance must be 1 or more");
@@ -118,8 +118,7 @@ void checkExpansion(const DesignData& data) {
                                  " occurrences, which is the most that can be opened");
     }
     if (expansion.levels > kMaximumLevels) {
-        refuse("components", "assemblies stand in each other more than " +
-                                 std::to_string(kMaximumLevels) +
+        refuse("components", "assemblies are nested more than " + std::to_string(kMaximumLevels) +
                                  " levels deep, which is the most that can be opened");
     }
 }

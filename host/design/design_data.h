@@ -13,7 +13,7 @@
 /// Lengths are in cm, masses in kg, densities in kg/cm3: the host's units.
 namespace host {
 
-/// A placement: the rows of a 4 by 4 matrix one behind the other, translation in cm in the fourth
+/// A placement: the rows of a 4 by 4 matrix, one after the other, translation in cm in the fourth
 /// column.
 struct Transform {
     std::array<double, 16> cells = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
@@ -29,10 +29,10 @@ struct Box {
     bool operator==(const Box&) const = default;
 };
 
-/// The bodies of one component, measured when somebody asks.
+/// The bodies of one component, measured on demand.
 ///
 /// One object serves all components that share the same shape, so a shape is measured once. What
-/// cannot be measured throws a `std::exception` that says why, each time that somebody asks.
+/// cannot be measured throws a `std::exception` that says why, each time.
 class Geometry {
 public:
     virtual ~Geometry() = default;
@@ -79,10 +79,10 @@ struct SketchData {
 /// One use of a component below another.
 struct OccurrenceData {
     std::size_t component = 0;  ///< index into `DesignData::components`
-    int instance = 1;           ///< the number behind ":" in its name
+    int instance = 1;           ///< the number after ":" in its name
     Transform transform = {};
     bool grounded = false;
-    bool absent = false;  ///< a place in the list at which the host has no occurrence to give
+    bool absent = false;  ///< a place in the list for which the host returns no occurrence
 };
 
 /// A component: named, measured and described once, used any number of times.
@@ -103,7 +103,7 @@ struct ComponentData {
 /// Where the shapes of a design come from.
 struct SourceFile {
     std::string path;         ///< absolute
-    std::string fingerprint;  ///< tells whether the file is still the one that was read
+    std::string fingerprint;  ///< differs when the file is no longer the one that was read
 };
 
 struct DesignData {

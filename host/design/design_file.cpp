@@ -40,7 +40,7 @@ fs::path fromUtf8(const std::string& text) {
     throw DesignError(utf8(path) + ": " + reason);
 }
 
-/// What a library puts before its own text says nothing to a person.
+/// The prefix that a library puts before its message is of no use to the user.
 std::string withoutOrigin(const std::string& text) {
     const std::size_t end = text.find("] ");
     return text.starts_with('[') && end != std::string::npos ? text.substr(end + 2) : text;
@@ -64,7 +64,7 @@ std::string readAll(const fs::path& path, std::size_t megabytes) {
     return std::move(content).str();
 }
 
-/// Brackets that stand open at once, at the most; those in texts are none.
+/// The deepest nesting of brackets; those in strings do not count.
 std::size_t nestingOf(const std::string& text) {
     std::size_t open = 0;
     std::size_t most = 0;
@@ -86,7 +86,7 @@ std::size_t nestingOf(const std::string& text) {
 
 ReadDesign parse(const std::string& text, std::size_t occurrences) {
     if (nestingOf(text) > kDeepestNesting) {
-        throw DesignError("is no design file: too many brackets stand in each other");
+        throw DesignError("is not a design file: brackets are nested too deep");
     }
     const nlohmann::json json = nlohmann::json::parse(text);
     const JsonNode whole(json);
@@ -109,9 +109,9 @@ ReadDesign parse(const std::string& text, std::size_t occurrences) {
 /// Where the source is now: at its path, or beside the design file when both were moved.
 SourceFile findSource(const fs::path& path, const SourceFile& source) {
     std::error_code error;
-    const fs::path told = fromUtf8(source.path);
-    const fs::path beside = fs::absolute(path, error).parent_path() / told.filename();
-    const bool moved = !fs::exists(told, error) && fs::exists(beside, error);
+    const fs::path stored = fromUtf8(source.path);
+    const fs::path beside = fs::absolute(path, error).parent_path() / stored.filename();
+    const bool moved = !fs::exists(stored, error) && fs::exists(beside, error);
     return {moved ? utf8(beside) : source.path, source.fingerprint};
 }
 

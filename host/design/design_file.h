@@ -21,11 +21,11 @@ using ReadSource = std::function<DesignData(const SourceFile&)>;
 
 /// Writes a design. The file holds the old design or the new one, whole, whatever happens.
 ///
-/// Bytes of a text that are no UTF-8 become U+FFFD. Throws `DesignError` that names the file and
-/// the reason, for a design that does not fulfil `checkDesign` too; the old file then stands.
+/// Bytes of a string that are not UTF-8 become U+FFFD. Throws `DesignError` that names the file and
+/// the reason, for a design that does not fulfil `checkDesign` too; the old file is then kept.
 void saveDesignFile(const std::filesystem::path& path, const DesignData& data);
 
-/// Reads a design that `saveDesignFile` wrote, or somebody by hand.
+/// Reads a design that `saveDesignFile` wrote, or that was written by hand.
 ///
 /// `readSource` is asked only where bodies are in a source; the source is looked for at its path
 /// and then beside the design file. Throws `DesignError` that names the file, the place in it and

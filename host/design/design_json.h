@@ -20,7 +20,7 @@ struct ReadDesign {
 };
 
 /// Reads a design; what it holds is well-formed, but not yet checked as a design. Throws
-/// `DesignError` that names the place and what should stand there.
+/// `DesignError` that names the place and what is expected there.
 ReadDesign fromJson(const nlohmann::json& json);
 
 }  // namespace host

@@ -9,7 +9,7 @@
 namespace host {
 namespace {
 
-/// The object behind a document, null for null and after its end.
+/// The implementation of a document, null for null and for a closed one.
 FusionDocumentObject* objectOf(const core::Ptr<core::Document>& document) {
     auto* object = dynamic_cast<FusionDocumentObject*>(document.get());
     return object != nullptr && object->isValid() ? object : nullptr;

@@ -16,13 +16,13 @@
 
 /// Documents: a design as the public API shows it, made from a `DesignData` and read back as one.
 ///
-/// Whoever opens a document keeps it and ends it. A module may hold on to anything that it was
-/// handed out of a document for ever: after the end it is not valid, and asking it returns nothing.
+/// The caller that opens a document owns it and ends it. A module may keep its handles on anything
+/// of a document for ever: after the end they are not valid, and their members return nothing.
 namespace host {
 
 /// Opens a design as a document of `parent`, which may be null.
 ///
-/// The root component is called like the document, and components that share a name are told apart,
+/// The root component is called like the document, and components that share a name are numbered,
 /// as in `makeNamesUnique`. Throws `DesignError` where `checkDesign` does. Nothing is measured.
 core::Ptr<core::Document> makeDocument(DesignData data,
                                        const core::Ptr<core::Application>& parent = nullptr);
@@ -34,8 +34,8 @@ core::Ptr<fusion::Design> designOf(const core::Ptr<core::Document>& document);
 /// null and after the end.
 core::Ptr<core::Product> otherProductOf(const core::Ptr<core::Document>& document);
 
-/// The documents that its referenced components come from, in the order in which they first stand
-/// among the components.
+/// The documents that its referenced components come from, in the order of their first
+/// components.
 std::vector<core::Ptr<core::Document>> referencesOf(const core::Ptr<core::Document>& document);
 
 /// One sketch of a component, for a session that edits it; null where there is none. Components are

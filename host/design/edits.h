@@ -4,8 +4,8 @@
 
 namespace host {
 
-/// Counts what was changed in a document, so that results that were worked out from it, and a
-/// person's unsaved work, can be told apart from what is current.
+/// Counts the changes of a document: a result that was computed from it, or saved, is current while
+/// the count is the same.
 struct Edits {
     std::uint64_t all = 0;         ///< every change
     std::uint64_t materials = 0;   ///< changes that masses depend on

@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// Measures that are told and not taken: the geometry of designs that are made without a modeller.
+/// Declared measures: the geometry of designs that are made without a modeller.
 ///
 /// When it is placed askew, its box is the one around the placed box.
 class FixedGeometry final : public Geometry {
@@ -27,7 +27,7 @@ private:
 /// A box between the origin and the corner (dx, dy, dz), in cm.
 std::shared_ptr<Geometry> boxGeometry(double dx, double dy, double dz);
 
-/// Measures as told: cm2, cm3, and the box of the body as it is modelled, if it has any.
+/// Measures as declared: cm2, cm3, and the box of the body as it is modelled, if it has any.
 std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box);
 
 }  // namespace host

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// The plain values of geometry, as the host hands them out.
+/// The plain values of geometry, as objects of the public API.
 namespace host {
 
 core::Ptr<core::BoundingBox3D> makeBoundingBox(const Box& box);

@@ -9,7 +9,7 @@
 namespace host {
 
 /// A place in a JSON text, which knows the way to it: what is asked of it and is not there is
-/// refused with a `DesignError` that names the place and what should stand there.
+/// refused with a `DesignError` that names the place and what is expected there.
 class JsonNode {
 public:
     explicit JsonNode(const nlohmann::json& value) : value_(value) {}

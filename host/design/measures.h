@@ -34,9 +34,10 @@ struct MeasureCache {
     bool failed = false;  ///< its own bodies could not be measured
 };
 
-/// Measures a component: its bodies, and everything that stands in it, each as often as it stands
+/// Measures a component: its bodies, and everything in it, each as often as it is used
 /// there. Every component is measured once, until a material changes. Bodies that cannot be
-/// measured count as none; the host's last error and `Model::unmeasured` tell of them.
+/// measured count as none; they are reported by the host's last error and in
+/// `Model::unmeasured`.
 Measures measure(ComponentObject& component);
 
 /// The box around a component along its axes, exact for every body in it; none without any body.

@@ -19,8 +19,8 @@ class OccurrenceListObject;
 
 /// What a document holds: its components, and what they have in common.
 ///
-/// It belongs to the document. When it ends, everything that the host has handed out of it becomes
-/// invalid, whoever still holds it.
+/// It belongs to the document. With it all its objects are disposed of,
+/// whether or not a module still holds them.
 class Model {
 public:
     /// `data` fulfils `checkDesign`.
@@ -34,11 +34,11 @@ public:
     }
     [[nodiscard]] std::size_t componentCount() const { return components_.size(); }
 
-    /// What stands in a component without children; one list serves them all.
+    /// The occurrences of a component without children; one list serves them all.
     [[nodiscard]] const core::Ptr<OccurrenceListObject>& emptyList() const { return emptyList_; }
 
-    /// The components and what is told of the design as a whole, as they stand now. The name and
-    /// the attributes of the document are not the model's.
+    /// The components and what describes the design as a whole, in their current state. The name
+    /// and the attributes of the document are not the model's.
     [[nodiscard]] DesignData snapshot() const;
 
     Edits edits;

@@ -14,10 +14,10 @@ namespace host {
 class ComponentNames {
 public:
     /// Takes a name into use: the wanted one, or where that is taken the wanted one with the lowest
-    /// free number behind it, as in "Bolt (1)". Returns the name taken.
+    /// free number after it, as in "Bolt (1)". Returns the name taken.
     std::string claim(const std::string& wanted);
 
-    /// Gives a name back.
+    /// Makes a name free again.
     void release(const std::string& name);
 
 private:
@@ -30,12 +30,12 @@ private:
 void renameComponent(ComponentData& component, const std::string& name);
 
 /// Makes the names of all components different, as the host does: the first one keeps a name, later
-/// ones get a number behind it. The root component takes no part, for it is called like the
+/// ones get a number after it. The root component takes no part, for it is called like the
 /// document.
 void makeNamesUnique(DesignData& data);
 
 /// Numbers the uses of each component over the whole design, from 1, going from the root component
-/// down before going on. What stands in a component is numbered once, however often it is used.
+/// down before going on. The children of a component are numbered once, however often it is used.
 void numberInstances(DesignData& data);
 
 }  // namespace host

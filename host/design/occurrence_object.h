@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-/// Occurrences in context. Each is made when somebody asks for it and kept from then on, so that
+/// Occurrences in context. Each is made on demand and kept from then on, so that
 /// one place in the assembly is always one object. Where an assembly is used often, what is in it
-/// is made only where somebody looks.
+/// is made only where it is asked for.
 namespace host {
 
 class ComponentObject;
@@ -32,10 +32,10 @@ public:
     [[nodiscard]] bool isReferencedComponent() const override;
     [[nodiscard]] core::Ptr<fusion::PhysicalProperties> physicalProperties() const override;
 
-    /// The assembly that this one stands in, null directly under the top.
+    /// The assembly that this one is in, null directly under the top.
     [[nodiscard]] OccurrenceObject* parent() const;
 
-    /// The component that this one is seen from, null once the document has ended.
+    /// The component that this one is seen from, null once the document is closed.
     [[nodiscard]] const ComponentObject* top() const;
 
     /// How many assemblies there are above it.
@@ -60,7 +60,7 @@ private:
     mutable core::Ptr<OccurrenceListObject> children_;
 };
 
-/// What stands in a component, seen from one top.
+/// The occurrences in a component, seen from one top.
 class OccurrenceListObject final : public Object<fusion::OccurrenceList> {
 public:
     /// The children of `owner`, inside `parent`; no parent: seen from the owner itself. Without an
@@ -83,7 +83,7 @@ private:
     mutable std::vector<core::Ptr<OccurrenceObject>> items_;
 };
 
-/// The collection that a component has of what stands directly in it.
+/// The collection of the occurrences directly in a component.
 class OccurrencesObject final : public Object<fusion::Occurrences> {
 public:
     explicit OccurrencesObject(ComponentObject& owner);

@@ -17,9 +17,9 @@
 namespace host {
 namespace {
 
-/// What the lines have told of one component so far.
-struct Told {
-    std::size_t line = 0;  ///< the first one that it stands on
+/// What the lines so far declare of one component.
+struct Declared {
+    std::size_t line = 0;  ///< the first one of it
     std::size_t childrenLine = 0;
     std::map<std::string, std::string> keys;
     std::vector<AttributeData> attributes;
@@ -67,7 +67,7 @@ private:
         }
         const std::size_t level = (line.indent - base_) / 2 + 1;
         if (level > open_.size()) {
-            refuseLine(line.number, "nothing stands at the level above");
+            refuseLine(line.number, "nothing is at the level above");
         }
         closeTo(level);
         const std::size_t component = line.absent ? 0 : componentOf(line.label);
@@ -78,39 +78,39 @@ private:
         if (line.absent) {
             return;
         }
-        tell(told_[component], line);
+        declare(declared_[component], line);
         open_.push_back({component, line.number, {}});
     }
 
     std::size_t componentOf(const std::string& label) {
-        const auto [found, isNew] = indices_.emplace(label, told_.size());
+        const auto [found, isNew] = indices_.emplace(label, declared_.size());
         if (isNew) {
-            told_.emplace_back();
+            declared_.emplace_back();
             labels_.push_back(label);
         }
         return found->second;
     }
 
-    static void tell(Told& told, const OutlineLine& line) {
-        told.line = told.line == 0 ? line.number : told.line;
+    static void declare(Declared& declared, const OutlineLine& line) {
+        declared.line = declared.line == 0 ? line.number : declared.line;
         for (const auto& [key, value] : line.keys) {
-            if (told.keys.emplace(key, value).first->second != value) {
-                refuseLine(line.number, key + "= differs from what an earlier line tells of \"" +
+            if (declared.keys.emplace(key, value).first->second != value) {
+                refuseLine(line.number, key + "= differs from what an earlier line gives for \"" +
                                             line.label + "\"");
             }
         }
-        if (!told.attributes.empty() && !line.attributes.empty() &&
-            told.attributes != line.attributes) {
+        if (!declared.attributes.empty() && !line.attributes.empty() &&
+            declared.attributes != line.attributes) {
             refuseLine(line.number,
-                       "the attributes differ from those that an earlier line tells of \"" +
+                       "the attributes differ from those that an earlier line gives for \"" +
                            line.label + "\"");
         }
-        if (told.attributes.empty()) {
-            told.attributes = line.attributes;
+        if (declared.attributes.empty()) {
+            declared.attributes = line.attributes;
         }
     }
 
-    /// Closes what stands deeper than `level`.
+    /// Closes what is deeper than `level`.
     void closeTo(std::size_t level) {
         while (open_.size() > level) {
             close();
@@ -120,47 +120,47 @@ private:
     void close() {
         const Open done = std::move(open_.back());
         open_.pop_back();
-        Told& told = told_[done.component];
+        Declared& declared = declared_[done.component];
         if (done.children.empty()) {
             return;
         }
-        if (!told.children.empty() && !same(told.children, done.children)) {
-            refuseLine(done.line, "what stands in \"" + labels_[done.component] +
-                                      "\" differs from what stands in it at line " +
-                                      std::to_string(told.childrenLine));
+        if (!declared.children.empty() && !same(declared.children, done.children)) {
+            refuseLine(done.line, "what is in \"" + labels_[done.component] +
+                                      "\" differs from what is in it at line " +
+                                      std::to_string(declared.childrenLine));
         }
-        told.children = done.children;
-        told.childrenLine = done.line;
+        declared.children = done.children;
+        declared.childrenLine = done.line;
     }
 
     DesignData design() const {
         DesignData data;
         data.name = "Design";
-        for (std::size_t index = 0; index < told_.size(); ++index) {
+        for (std::size_t index = 0; index < declared_.size(); ++index) {
             data.components.push_back(component(index));
         }
         if (const std::optional<std::size_t> cycle = expand(data).cycle) {
-            refuseLine(told_[*cycle].line, "\"" + labels_[*cycle] + "\" contains itself");
+            refuseLine(declared_[*cycle].line, "\"" + labels_[*cycle] + "\" contains itself");
         }
         numberInstances(data);
         return data;
     }
 
     ComponentData component(std::size_t index) const {
-        const Told& told = told_[index];
+        const Declared& declared = declared_[index];
         const auto value = [&](const char* key, const std::string& otherwise) {
-            const auto found = told.keys.find(key);
-            return found == told.keys.end() ? otherwise : found->second;
+            const auto found = declared.keys.find(key);
+            return found == declared.keys.end() ? otherwise : found->second;
         };
         ComponentData data;
         data.name = value("name", index == 0 ? "Design" : labels_[index]);
         data.partNumber = value("number", data.name);
         data.description = value("description", "");
         data.document = value("document", "");
-        data.material = material(value("material", "Steel:0.00785"), told.line);
-        data.geometry = geometry(value("box", ""), value("measures", ""), told.line);
-        data.attributes = told.attributes;
-        data.children = told.children;
+        data.material = material(value("material", "Steel:0.00785"), declared.line);
+        data.geometry = geometry(value("box", ""), value("measures", ""), declared.line);
+        data.attributes = declared.attributes;
+        data.children = declared.children;
         return data;
     }
 
@@ -192,7 +192,7 @@ private:
 
     std::size_t base_ = 0;
     std::vector<Open> open_;
-    std::vector<Told> told_;
+    std::vector<Declared> declared_;
     std::vector<std::string> labels_;
     std::map<std::string, std::size_t> indices_;
 };

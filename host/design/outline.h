@@ -15,10 +15,10 @@ namespace host {
 ///         Bolt
 ///       Bolt
 ///
-/// Each line is a use of a component: its name, then two or more spaces, then what is told of it.
+/// Each line is a use of a component: its name, then two or more spaces, then what describes it.
 /// Two more spaces of indent put it into the line above; the indent of the first line is that of
-/// what stands directly under the root component. The same name again is the same component: what
-/// is told of a component, and what stands in it, may be given at one of its lines or equally at
+/// what is directly under the root component. The same name again is the same component: what
+/// describes a component, and what is in it, may be given at one of its lines or equally at
 /// several.
 ///
 /// Of the component:

@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<std::string_view, 7> kComponentKeys = {
     "name", "number", "description", "material", "box", "measures", "document"};
 
-/// The words behind the name, with the quotes taken off.
+/// The words after the name, with the quotes taken off.
 std::vector<std::string> splitWords(const std::string& text, std::size_t line) {
     std::vector<std::string> words;
     std::string word;
@@ -75,7 +75,7 @@ void readWord(OutlineLine& line, const std::string& word) {
     } else if (equals != std::string::npos &&
                std::count(kComponentKeys.begin(), kComponentKeys.end(), key) > 0) {
         if (!line.keys.emplace(key, value).second) {
-            refuseLine(line.number, key + "= stands twice");
+            refuseLine(line.number, key + "= appears twice");
         }
     } else {
         refuseLine(line.number, "\"" + word + "\" is none of the keys");
@@ -93,11 +93,11 @@ OutlineLine readLine(const std::string& text, std::size_t number) {
     line.label = text.substr(line.indent, end - line.indent);
     line.absent = line.label == "(absent)";
     if (line.label.find('=') != std::string::npos) {
-        refuseLine(number, "two spaces are needed between the name and what is told of it");
+        refuseLine(number, "two spaces are needed between the name and what describes it");
     }
     const std::vector<std::string> words = splitWords(text.substr(end), number);
     if (line.absent && !words.empty()) {
-        refuseLine(number, "nothing can be told of what is absent");
+        refuseLine(number, "what is absent has no properties");
     }
     for (const std::string& word : words) {
         readWord(line, word);

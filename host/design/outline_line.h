@@ -14,7 +14,7 @@ struct OutlineLine {
     std::size_t number = 0;  ///< counted from 1 in the whole text
     std::size_t indent = 0;  ///< spaces before it
     std::string label;
-    std::map<std::string, std::string> keys;  ///< what is told of the component, once each
+    std::map<std::string, std::string> keys;  ///< of the component, once each
     std::vector<AttributeData> attributes;
     Transform transform;
     bool grounded = false;

@@ -4,11 +4,11 @@
 
 namespace host {
 
-/// A component whose own bodies could not be measured: it counts as if it had none, so whatever is
-/// summed up over it is too small.
+/// A component whose own bodies could not be measured: it counts as if it had none, so every sum
+/// that includes it is too small.
 struct Unmeasured {
     std::string component;  ///< its name
-    std::string reason;     ///< why, as its geometry tells it
+    std::string reason;     ///< why, in the words of its geometry
 
     bool operator==(const Unmeasured&) const = default;
 };

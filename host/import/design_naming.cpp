@@ -9,7 +9,7 @@
 namespace host {
 namespace {
 
-/// Hands out names, each once.
+/// Assigns names, each once.
 class UniqueNames {
 public:
     std::string take(const std::string& wanted) {
@@ -25,7 +25,7 @@ private:
     std::unordered_map<std::string, int> next_;
 };
 
-/// Numbers uses in the order in which a person sees them who opens the tree from top to bottom.
+/// Numbers uses in the order in which they appear in the tree, opened from top to bottom.
 class Numbering {
 public:
     explicit Numbering(std::vector<ImportedComponent>& components)
@@ -51,7 +51,7 @@ private:
 
 }  // namespace
 
-std::vector<ComponentData> named(std::vector<ImportedComponent> components) {
+std::vector<ComponentData> assignNamesAndNumbers(std::vector<ImportedComponent> components) {
     std::map<std::pair<std::string, std::string>, int> alike;
     for (const ImportedComponent& component : components) {
         ++alike[{component.id, component.name}];
@@ -64,9 +64,9 @@ std::vector<ComponentData> named(std::vector<ImportedComponent> components) {
     std::vector<ComponentData> result;
     for (ImportedComponent& component : components) {
         component.data.name = names.take(component.name);
-        const bool tells = !component.id.empty() && alike[{component.id, component.name}] == 1;
-        component.data.partNumber = tells ? component.id : component.data.name;
-        component.data.hasExplicitPartNumber = tells;
+        const bool isDistinct = !component.id.empty() && alike[{component.id, component.name}] == 1;
+        component.data.partNumber = isDistinct ? component.id : component.data.name;
+        component.data.hasExplicitPartNumber = isDistinct;
         result.push_back(std::move(component.data));
     }
     return result;

@@ -16,6 +16,6 @@ struct ImportedComponent {
 
 /// Gives the components their unique names and their part numbers, and their uses the instance
 /// numbers, by the rules of step_import.h; returns them in the same order.
-std::vector<ComponentData> named(std::vector<ImportedComponent> components);
+std::vector<ComponentData> assignNamesAndNumbers(std::vector<ImportedComponent> components);
 
 }  // namespace host

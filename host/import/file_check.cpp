@@ -68,7 +68,7 @@ fs::path checkStepFile(const std::string& path) {
     std::error_code error;
     const fs::file_status status = fs::status(file, error);
     if (status.type() == fs::file_type::not_found) {
-        refuse(path, "there is no such file; the path of a STEP file is needed");
+        refuse(path, "no such file");
     }
     if (status.type() == fs::file_type::directory) {
         refuse(path, "is a folder; the path of a STEP file is needed");

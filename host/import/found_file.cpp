@@ -55,7 +55,7 @@ fs::path foundFile(const std::string& path) {
     }
     std::vector<fs::path> variants = variantsOf(fs::absolute(file).lexically_normal());
     if (variants.empty()) {
-        throw ImportError(path + ": there is no such file");
+        throw ImportError(path + ": no such file");
     }
     if (variants.size() > 1) {
         std::sort(variants.begin(), variants.end());

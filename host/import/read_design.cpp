@@ -9,7 +9,7 @@
 namespace host {
 namespace {
 
-/// Whether a file begins like JSON text: with a brace, behind spaces and a byte order mark.
+/// Whether a file begins like JSON text: with a brace, after spaces and a byte order mark.
 bool looksLikeDesignFile(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     constexpr std::size_t kEnough = 4096;

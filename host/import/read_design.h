@@ -10,9 +10,9 @@
 
 namespace host {
 
-/// Reads a design out of a file: STEP, or a design file of this host, told by its content.
+/// Reads a design out of a file: STEP, or a design file of this host, recognised by its content.
 ///
-/// What a person should know although the design could be read is appended to `warnings`, one line
+/// What the user should know although the design could be read is appended to `warnings`, one line
 /// each. Throws an `ImportError` or a `DesignError`, one line that names the file, for one that
 /// cannot be read. It needs no session, and a relative path starts in the working directory.
 DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,

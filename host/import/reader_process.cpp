@@ -62,7 +62,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& words) {
     return pointers;
 }
 
-/// The memory that a process holds, in megabytes; 0 when it cannot be told.
+/// The memory that a process holds, in megabytes; 0 when it is unknown.
 std::size_t residentMegabytes(pid_t process) {
     std::size_t size = 0;
     std::size_t resident = 0;
@@ -115,7 +115,7 @@ void ReaderProcess::send(const std::string& line) {
     const std::string bytes = line + '\n';
     std::size_t sent = 0;
     while (socket_ >= 0 && sent < bytes.size()) {
-        // MSG_NOSIGNAL: a reader that is gone must not end this process by a signal.
+        // MSG_NOSIGNAL: a reader that has ended must not end this process by a signal.
         const ssize_t count =
             ::send(socket_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
         if (count < 0 && errno != EINTR) {
@@ -158,39 +158,39 @@ void ReaderProcess::readMore() {
     if (count > 0) {
         unread_.append(block.data(), static_cast<std::size_t>(count));
     } else if (count == 0 || errno != EINTR) {
-        give(end());
+        failWith(end());
     }
 }
 
 void ReaderProcess::checkLimits() {
     if (std::chrono::steady_clock::now() > deadline_) {
         end();
-        give("the reader took longer than " + shortNumber(limits_.seconds) + " seconds");
+        failWith("the reader took longer than " + shortNumber(limits_.seconds) + " seconds");
     }
     if (unread_.size() > kLongestLine) {
         end();
-        give("the reader's answer has no end");
+        failWith("the reader's answer has no end");
     }
     if (residentMegabytes(process_) > limits_.megabytes) {
         end();
-        give("the reader needed more than " + std::to_string(limits_.megabytes) +
-             " megabytes of memory");
+        failWith("the reader needed more than " + std::to_string(limits_.megabytes) +
+                 " megabytes of memory");
     }
 }
 
-void ReaderProcess::give(const std::string& reason) {
+void ReaderProcess::failWith(const std::string& reason) {
     failure_ = reason;
     throw ReaderFailure(reason);
 }
 
-/// Ends the program and waits until it is gone; tells how it had ended by itself.
+/// Ends the program and waits until it has ended; returns how it ended by itself.
 std::string ReaderProcess::end() {
     if (process_ < 0) {
         return failure_;
     }
     ::close(socket_);
     socket_ = -1;
-    // Whoever closed its output has ended or is about to; what else it did is of no use to us.
+    // A program that closed its output has ended or is about to.
     ::kill(process_, SIGKILL);
     int status = 0;
     while (::waitpid(process_, &status, 0) < 0 && errno == EINTR) {

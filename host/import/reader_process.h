@@ -51,7 +51,7 @@ private:
     bool takeLine(std::string& line);
     void readMore();
     void checkLimits();
-    [[noreturn]] void give(const std::string& reason);
+    [[noreturn]] void failWith(const std::string& reason);
     std::string end();
 
     ReadingLimits limits_;

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// Where the program that reads STEP files stands: beside the host's library, else beside the
+/// Where the program that reads STEP files is: beside the host's library, else beside the
 /// running program. Throws `ImportError` when it is at neither place.
 std::filesystem::path findStepReader();
 

@@ -31,7 +31,7 @@ json ask(ReaderProcess& reader, const std::string& request, const std::string& f
     throw std::runtime_error(file + ": a shape cannot be measured: " + reason);
 }
 
-/// All digits that tell the value, with a point whatever the process' locale is.
+/// All significant digits, with a point whatever the process' locale is.
 void append(std::string& text, double value) {
     std::array<char, 32> digits = {};
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);

@@ -8,13 +8,13 @@
 
 namespace host {
 
-/// A shape that a reader holds: it is asked when somebody wants to know its size, once.
+/// A shape that a reader holds, measured once, on demand.
 ///
 /// A reader that fails throws a `std::runtime_error` with the file and the reason: for this
 /// question, and where it crashed or was ended for every later one.
 class StepGeometry final : public Geometry {
 public:
-    /// The number of the shape is the reader's; `file` names the source where a failure is told.
+    /// The number of the shape is the reader's; `file` names the source in the text of a failure.
     StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file);
 
     double area() override;

@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-/// Waits for the design and hands on what is told on the way.
+/// Waits for the design and passes on the progress and warnings before it.
 class ResponseReader {
 public:
     ResponseReader(ReaderProcess& reader, const std::string& path, const ImportProgress& progress,
@@ -33,19 +33,20 @@ public:
                 if (line.contains("design")) {
                     return std::move(line["design"]);
                 }
-                hear(line);
+                handle(line);
             }
         } catch (const ReaderFailure& failure) {
             throw ImportError(path_ + ": " + failure.what() + " at the stage \"" + stage_ + "\"" +
                               (faults_.empty() ? "" : "; the file has " + faults_) +
                               "; export it again, or open a part of it");
         } catch (const json::exception&) {
-            throw ImportError(path_ + ": the reader gave no sense; export the file again");
+            throw ImportError(
+                path_ + ": the reader's response cannot be understood; export the file again");
         }
     }
 
 private:
-    void hear(const json& line) {
+    void handle(const json& line) {
         if (line.contains("error")) {
             throw ImportError(path_ + ": " + line["error"].get<std::string>());
         }
@@ -70,7 +71,7 @@ private:
 };
 
 std::vector<std::string> argumentsFor(const fs::path& file, const ReadingLimits& limits) {
-    // The reader bounds its own processor time as well; that is spent on measurements too, so it
+    // The reader limits its own processor time as well; that is spent on measurements too, so it
     // gets some of it for these.
     const auto seconds = static_cast<std::size_t>(limits.seconds) * 10 + 10;
     return {file.string(), std::to_string(limits.occurrences), std::to_string(limits.levels),
@@ -155,7 +156,7 @@ DesignData designFrom(const json& read, const fs::path& given, const fs::path& f
         components.push_back(maker.make(component));
     }
     joinRoots(components, read.at("roots"), design.name);
-    design.components = named(std::move(components));
+    design.components = assignNamesAndNumbers(std::move(components));
     std::vector<fs::path> files;
     for (const json& name : read.at("files")) {
         files.emplace_back(name.get<std::string>());
@@ -182,7 +183,8 @@ DesignData importStep(const std::string& path, const ReadingLimits& limits,
     try {
         return designFrom(read, fs::path(path), file, reader);
     } catch (const json::exception&) {
-        throw ImportError(path + ": the reader gave no sense; export the file again");
+        throw ImportError(path +
+                          ": the reader's response cannot be understood; export the file again");
     }
 }
 

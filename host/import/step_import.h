@@ -10,18 +10,19 @@
 
 /// STEP in: a file of AP203, AP214 or AP242 becomes a design.
 ///
-/// The file is read by a program of its own, `step-reader`, which stands beside the host's library
+/// The file is read by a program of its own, `step-reader`, which is beside the host's library
 /// or the running program. It is watched: one that crashes, takes too long or grows too large is an
 /// error line here and nothing else. It stays alive as long as a geometry of the design does, since
-/// shapes are measured when somebody asks: each shape once, however many components share it.
+/// shapes are measured on demand: each shape once, however many components share it.
 ///
 /// - A product definition becomes a component, a usage an occurrence. A single root product is the
-///   root component; several stand below a root component that bears the file's name.
+///   root component; several are below a root component that bears the file's name.
 /// - Names are the products' names, made unique: a second "Document" is "Document (1)".
 /// - Part numbers are the products' ids, else the component names. Products that share both id and
-///   name with others say nothing by them; their part numbers are their component names.
+///   name with others are not identified by them; their part numbers are their component names.
 /// - A product without material is of the host's default material, one without density as dense.
-/// - An IGES file, told by its first line, is one component with all its bodies, named like the
+/// - An IGES file, recognised by its first line, is one component with all its bodies, named like
+/// the
 ///   file.
 /// - Instance numbers count the uses of a component from the top of the opened tree to its end.
 namespace host {
@@ -32,13 +33,13 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Hears how far an import is: a stage ("Reading", "Building") and the part of it that is done.
+/// Reports how far an import is: a stage ("Reading", "Building") and the part of it that is done.
 using ImportProgress = std::function<void(const std::string& stage, double fraction)>;
 
 /// The material of components that have none of their own.
 MaterialData defaultMaterial();
 
-/// Reads a STEP file. The path may be relative; an empty `progress` is not called. What a person
+/// Reads a STEP file. The path may be relative; an empty `progress` is not called. What the user
 /// should know although the design could be read is appended to `warnings`, one line each. Throws
 /// `ImportError`.
 ///

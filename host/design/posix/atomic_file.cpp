@@ -37,7 +37,7 @@ private:
     int number_;
 };
 
-/// The file behind a link; the path itself where there is none yet.
+/// The file that a link leads to; the path itself where there is none yet.
 fs::path target(const fs::path& path) {
     std::error_code error;
     const fs::path real = fs::canonical(path, error);

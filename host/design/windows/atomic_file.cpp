@@ -38,7 +38,7 @@ private:
     HANDLE handle_;
 };
 
-/// The file behind a link; the path itself where there is none yet.
+/// The file that a link leads to; the path itself where there is none yet.
 fs::path target(const fs::path& path) {
     std::error_code error;
     const fs::path real = fs::canonical(path, error);

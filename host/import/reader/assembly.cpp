@@ -80,7 +80,7 @@ private:
         }
     }
 
-    /// A single root takes the place of the component; several stand below it.
+    /// A single root takes the place of the component; several are below it.
     void put(const std::vector<std::size_t>& roots, std::size_t index) {
         if (roots.size() == 1) {
             assembly_.components[index].content = roots.front();

@@ -20,7 +20,7 @@
 ///
 /// It is read from the file's own entities (product definitions and their usages) and not from the
 /// tree of shapes that Open CASCADE makes of them: there a part of several bodies turns into an
-/// assembly, and products are told apart by their names.
+/// assembly, and products are distinguished by their names.
 namespace step {
 
 /// One use of a component below another.
@@ -37,10 +37,10 @@ struct Component {
     std::string description;
     std::optional<Material> material;
     std::vector<Use> uses;
-    std::size_t file = 0;  ///< the file that it stands in
+    std::size_t file = 0;  ///< the file that it is in
     Handle(StepBasic_ProductDefinition) definition;
     bool described = false;  ///< whether the file gives it a shape representation
-    std::vector<Handle(StepRepr_RepresentationItem)> bodies;  ///< what is told of there as bodies
+    std::vector<Handle(StepRepr_RepresentationItem)> bodies;  ///< what is declared there as bodies
     int shape = -1;                      ///< its bodies, once shapes are built; -1 without any
     std::optional<std::size_t> content;  ///< the component of another file that fills it
 };

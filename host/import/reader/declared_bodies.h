@@ -11,7 +11,7 @@
 
 namespace step {
 
-/// The bodies that a file tells of, whether or not they can be built.
+/// The bodies that a file declares, whether or not they can be built.
 class DeclaredBodies {
 public:
     explicit DeclaredBodies(const StepFile& file);
@@ -29,7 +29,7 @@ private:
 
 struct Assembly;
 
-/// Tells of bodies of which nothing came, or not every face; to be asked once shapes are built. One
+/// Reports bodies that were not built, or not with every face; call it once shapes are built. One
 /// line, empty when there are none.
 std::string complaintAboutBodies(const Assembly& assembly);
 

@@ -18,7 +18,7 @@ namespace {
 
 using nlohmann::json;
 
-/// The name of the file's length unit, in lower case; empty where it tells none.
+/// The name of the file's length unit, in lower case; empty where it has none.
 std::string unitOf(const IGESControl_Reader& reader) {
     const Handle(IGESData_IGESModel) model = Handle(IGESData_IGESModel)::DownCast(reader.Model());
     const Handle(TCollection_HAsciiString) name = model->GlobalSection().UnitName();
@@ -41,7 +41,7 @@ bool looksLikeIges(const std::filesystem::path& file) {
 }
 
 json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes) {
-    // What it prints would stand among the answers.
+    // What it prints would be among the responses.
     Message::DefaultMessenger()->ChangePrinters().Clear();
     IGESControl_Reader reader;
     if (reader.ReadFile(file.c_str()) != IFSelect_RetDone || reader.NbRootsForTransfer() == 0) {

@@ -15,9 +15,9 @@
 
 /// step-reader FILE OCCURRENCES LEVELS SECONDS MEGABYTES
 ///
-/// Reads a STEP file (or an IGES file), tells what it holds, and answers questions about its
-/// shapes; see answers.h. It is a program of its own so that a file which makes Open CASCADE crash,
-/// hang or grow without end takes down nothing but this.
+/// Reads a STEP file (or an IGES file), sends what it holds, and answers requests about its
+/// shapes; see protocol.h. It is a program of its own so that a file which makes Open CASCADE
+/// crash, hang or grow without end takes down nothing but this.
 namespace {
 
 class Progress final : public Message_ProgressIndicator {
@@ -66,7 +66,7 @@ void run(const std::string& file, const host::ReadingLimits& limits) {
     step::answerRequests(std::cin, shapes);
 }
 
-int runOrTell(const std::string& file, const host::ReadingLimits& limits) {
+int runOrReport(const std::string& file, const host::ReadingLimits& limits) {
     try {
         run(file, limits);
         return EXIT_SUCCESS;
@@ -96,5 +96,5 @@ int main(int count, char** arguments) {
                                         .occurrences = std::stoul(arguments[2]),
                                         .levels = std::stoul(arguments[3])};
     step::boundProcess(limits);
-    step::endProcess(runOrTell(arguments[1], limits));
+    step::endProcess(runOrReport(arguments[1], limits));
 }

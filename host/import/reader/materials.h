@@ -10,7 +10,7 @@
 
 namespace step {
 
-/// What a file tells about the material of a product; either may be missing.
+/// What a file declares about the material of a product; either may be missing.
 struct Material {
     std::string name;
     std::optional<double> density;  ///< kg/cm3

@@ -22,7 +22,7 @@ std::optional<std::uint32_t> hexadecimal(std::string_view digits) {
     return value;
 }
 
-/// Walks one literal and hands its pieces to whoever listens: rows of plain bytes, rows of bytes
+/// Walks one literal and passes its pieces to a listener: rows of plain bytes, rows of bytes
 /// that were escaped one by one, and text that is certain.
 class Walk {
 public:

@@ -16,7 +16,7 @@ public:
     /// Takes note of a literal, without its outer quotes, before anything is read.
     void consider(std::string_view literal);
 
-    /// The literal as UTF-8, as it stands in the file; use `cleaned` for what is shown.
+    /// The literal as UTF-8, as spelt in the file; use `cleaned` for what is shown.
     [[nodiscard]] std::string read(std::string_view literal) const;
 
     /// Settles the encodings by what was considered.

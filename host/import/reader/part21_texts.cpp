@@ -37,7 +37,7 @@ public:
 
     [[nodiscard]] int label() const { return label_; }
 
-    /// The strings among the parameters, as they stand between their quotes.
+    /// The strings among the parameters, as spelt between their quotes.
     std::vector<std::string> parameters() {
         std::vector<std::string> found(1);
         for (int depth = 0; !rest_.empty();) {
@@ -82,7 +82,7 @@ private:
         }
     }
 
-    /// Stands on a quote; a literal may run over the ends of lines, which do not count.
+    /// At a quote; a literal may run over the ends of lines, which do not count.
     std::string readLiteral() {
         std::string literal;
         drop(1);
@@ -104,7 +104,7 @@ private:
         return literal;
     }
 
-    /// Stands on "#": true when "#label = KEYWORD (" with a wanted keyword follows.
+    /// At "#": true when "#label = KEYWORD (" with a wanted keyword follows.
     bool readHead() {
         drop(1);
         const char* const end = rest_.data() + rest_.size();

@@ -21,7 +21,7 @@ public:
     explicit Part21Texts(std::string_view file);
 
     /// The text of a parameter (0 is the first) of the instance `#label`, cleaned, as UTF-8; none
-    /// when there is no such instance here. A parameter that is no string reads as empty.
+    /// when there is no such instance here. A parameter that is not a string reads as empty.
     [[nodiscard]] std::optional<std::string> text(int label, std::size_t parameter) const;
 
 private:

@@ -91,7 +91,7 @@ std::unordered_set<std::size_t> addUses(Assembly& assembly, const Index& index) 
 
 void noteDescriptions(Assembly& assembly, const Index& index) {
     const StepFile& file = *assembly.files.back();
-    const DeclaredBodies told(file);
+    const DeclaredBodies declared(file);
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
         const auto link = entity<StepShape_ShapeDefinitionRepresentation>(file, number);
         if (link.IsNull() || link->Definition().PropertyDefinition().IsNull()) {
@@ -103,7 +103,7 @@ void noteDescriptions(Assembly& assembly, const Index& index) {
         if (found != index.end()) {
             Component& component = assembly.components[found->second];
             component.described = true;
-            const auto bodies = told.in(link->UsedRepresentation());
+            const auto bodies = declared.in(link->UsedRepresentation());
             component.bodies.insert(component.bodies.end(), bodies.begin(), bodies.end());
         }
     }

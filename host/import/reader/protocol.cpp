@@ -93,7 +93,7 @@ json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes
     int shape = -1;
     words >> verb >> shape;
     if (shape < 0 || shape >= shapes.Extent()) {
-        return {{"error", "there is no such shape"}};
+        return {{"error", "no such shape"}};
     }
     if (verb == "measure") {
         const Size size = sizeOf(shapes(shape + 1));

@@ -8,23 +8,23 @@
 
 #include <istream>
 
-/// What the reader says, a line of JSON each, in this order:
+/// What the reader sends, a line of JSON each, in this order:
 ///
 ///     {"progress": {"stage": "Reading", "fraction": 0}}      any number of times
 ///     {"faults": "..."}                                      what may explain a crash from here on
 ///     {"warning": "..."}                                     any number of times
 ///     {"error": "..."}   and it ends, or
-///     {"design": {...}}  and it answers requests until its input ends:
+///     {"design": {...}}  and it responds to requests until its input ends:
 ///
 ///     measure SHAPE                  {"area": cm2, "volume": cm3}
 ///     box SHAPE C0 ... C11           {"min": [x, y, z], "max": [x, y, z]} in cm, or {} without
 ///     extent
 ///
-/// C0 to C11 are the first three rows of a placement, translation in cm. An answer that cannot be
-/// worked out is {"error": "..."}.
+/// C0 to C11 are the first three rows of a placement, translation in cm. A response that cannot be
+/// computed is {"error": "..."}.
 namespace step {
 
-/// Sends one line to whoever started the program.
+/// Sends one line to the process that started the program.
 void sendLine(const nlohmann::json& line);
 
 /// The tree with the components that its roots lead to.

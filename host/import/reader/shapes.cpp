@@ -36,9 +36,9 @@ public:
             }
         }
         if (unplaced_ > 0) {
-            assembly_.warnings.push_back(
-                "tells no placement for " + std::to_string(unplaced_) +
-                (unplaced_ == 1 ? " usage; it stands" : " usages; they stand") + " at the origin");
+            assembly_.warnings.push_back("has no placement for " + std::to_string(unplaced_) +
+                                         (unplaced_ == 1 ? " usage; it is" : " usages; they are") +
+                                         " at the origin");
         }
         if (const std::string complaint = complaintAboutBodies(assembly_); !complaint.empty()) {
             assembly_.warnings.push_back(complaint);

@@ -12,8 +12,8 @@ namespace step {
 /// and returns the shapes (number 0 is the first). Components with the same shape share a number.
 ///
 /// A component's bodies are its solids; where it has none, its free faces. Curves and points that
-/// stand beside them are construction and no bodies. What hangs below it by a usage is not its own.
-/// Bodies that the file tells of and that cannot be built whole are warned of.
+/// are beside them are construction and no bodies. What hangs below it by a usage is not its own.
+/// Bodies that the file declares and that cannot be built whole are warned of.
 TopTools_IndexedMapOfShape buildShapes(Assembly& assembly, const Message_ProgressRange& progress);
 
 /// The bodies in a shape: its solids, else its faces; null when there are none.

@@ -41,7 +41,7 @@ std::string plainPlace(std::string_view place) {
         .append(place.substr(syntax + kSyntax.size()));
 }
 
-/// Listens to what Open CASCADE says while it reads.
+/// Collects the messages of Open CASCADE while it reads.
 class Listener final : public Message_Printer {
     DEFINE_STANDARD_RTTI_INLINE(Listener, Message_Printer)
 
@@ -121,7 +121,7 @@ private:
 };
 
 /// Whether a design lacks something where this is wrong with one of its entities. Products, places
-/// and shapes are built from these kinds; a name that is not told is an empty one.
+/// and shapes are built from these kinds; a missing name is an empty one.
 bool matters(const std::string& complaint, std::string_view kind) {
     return complaint.find("not a quoted String") == std::string::npos &&
            (kind.starts_with("StepBasic_") || kind.starts_with("StepGeom_") ||

@@ -13,7 +13,7 @@
 
 namespace step {
 
-/// What is wrong with a file, in words that go behind its name.
+/// What is wrong with a file, in words that follow its name.
 class ReadError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -26,13 +26,13 @@ public:
     /// cannot parse and reports success, so its messages are looked at as well as its status.
     explicit StepFile(const std::filesystem::path& file);
 
-    /// The label of an entity in the file, the number behind "#".
+    /// The label of an entity in the file, the number after "#".
     [[nodiscard]] int label(const Handle(Standard_Transient) & entity) const;
 
     /// What came of an entity once shapes were built; a null shape when nothing did.
     [[nodiscard]] TopoDS_Shape shapeOf(const Handle(Standard_Transient) & entity) const;
 
-    /// "mm", "cm", "m", "in" ...: the length unit that most of the file is in; empty if it tells
+    /// "mm", "cm", "m", "in" ...: the length unit that most of the file is in; empty if it has
     /// none.
     std::string unit();
 
@@ -41,7 +41,7 @@ public:
     Handle(StepData_StepModel) model;
     Part21Texts texts;
     std::string faults;  ///< entities that are not as their schema wants them, empty if none
-    std::vector<std::string> warnings;  ///< what a person should know
+    std::vector<std::string> warnings;  ///< what the user should know
 
 private:
     void checkEntities();

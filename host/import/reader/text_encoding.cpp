@@ -28,7 +28,7 @@ bool isCyrillicSmall(char c) { return byteOf(c) >= 0xE0 || byteOf(c) == 0xB8; }
 bool isCyrillicLetter(char c) { return isCyrillicCapital(c) || isCyrillicSmall(c); }
 
 bool isCyrillicPunctuation(char c) {
-    // Quotation marks, dashes, the numero sign, degree, a blank that does not break.
+    // Quotation marks, dashes, the numero sign, degree, a non-breaking space.
     static constexpr std::string_view kMarks = "\x96\x97\x93\x94\xAB\xBB\xB9\xB0\xA0";
     return kMarks.find(c) != std::string_view::npos;
 }

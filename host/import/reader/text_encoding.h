@@ -8,12 +8,13 @@
 /// escapes for ISO 8859-1 and Unicode; real files also hold UTF-8 as it is, and the bytes of the
 /// code page of the machine that wrote them.
 ///
-/// A single text is too short to tell; all texts of a file that are no UTF-8 are judged together:
+/// A single string is too short to decide; all strings of a file that are not UTF-8 are judged
+/// together:
 ///
 /// - Windows-1251 when all bytes above 127 are Cyrillic letters or the punctuation that goes with
 ///   them, none touches an ASCII letter, no small letter is followed by a capital, and at least two
-///   letters stand together;
-/// - else GBK when the bytes above 127 stand in whole Chinese characters everywhere, at least two
+///   letters are together;
+/// - else GBK when the bytes above 127 are in whole Chinese characters everywhere, at least two
 /// of
 ///   them together;
 /// - else ISO 8859-1, which reads any byte, so that different texts stay different.
@@ -37,7 +38,7 @@ std::string toUtf8(std::string_view bytes, Encoding encoding);
 /// Reads bytes of part 1 to 16 of ISO 8859, as UTF-8; as part 1 where the system lacks the part.
 std::string fromIso8859(std::string_view bytes, int part);
 
-/// Appends a code point; U+FFFD stands in for one that no text may hold (surrogates,
+/// Appends a code point; U+FFFD for one that no string may hold (surrogates,
 /// non-characters).
 void appendUtf8(std::string& text, char32_t point);
 

@@ -50,9 +50,9 @@ TEST_F(ImportManagerTest, KeepsWhatTheReaderHadToSay) {
 
     manager()->importToNewDocument(manager()->createSTEPImportOptions(file));
 
-    EXPECT_EQ(host::ApplicationObject::current()->importWarnings,
-              (std::vector<std::string>{
-                  file + ": tells no placement for 1 usage; it stands at the origin"}));
+    EXPECT_EQ(
+        host::ApplicationObject::current()->importWarnings,
+        (std::vector<std::string>{file + ": has no placement for 1 usage; it is at the origin"}));
 }
 
 TEST_F(ImportManagerTest, OpensDesignFilesInThePlaceOfArchives) {
@@ -87,7 +87,7 @@ TEST_F(ImportManagerTest, RefusesWhatIsNotThereByName) {
     EXPECT_FALSE(
         manager()->importToNewDocument(manager()->createSTEPImportOptions("/nowhere/a.stp")));
 
-    EXPECT_EQ(lastError().description, "/nowhere/a.stp: there is no such file");
+    EXPECT_EQ(lastError().description, "/nowhere/a.stp: no such file");
 }
 
 TEST_F(ImportManagerTest, ReportsMissingOptions) {

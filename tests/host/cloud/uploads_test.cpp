@@ -121,7 +121,7 @@ TEST_F(Uploads, OfAMissingFileFailByName) {
 
     EXPECT_EQ(future->uploadState(), UploadFailed);
     EXPECT_EQ(lastError().description,
-              "DataFolder::uploadFile: " + disk("missing.ipt") + ": there is no such file");
+              "DataFolder::uploadFile: " + disk("missing.ipt") + ": no such file");
 }
 
 TEST_F(Uploads, OfAFileThatGoesMeanwhileFail) {

@@ -36,7 +36,7 @@ TEST(CheckDesign, NamesPlaceAndWhatWouldBeRight) {
     EXPECT_EQ(complaint([](DesignData& data) { data.components[1].children[0].component = 9; }),
               "components[1].children[0]: component 9 is not there; the last one is 2");
     EXPECT_EQ(complaint([](DesignData& data) { data.components[1].children[0].component = 0; }),
-              "components[1].children[0]: component 0 is the root component and stands nowhere");
+              "components[1].children[0]: component 0 is the root component and cannot be placed");
     EXPECT_EQ(complaint([](DesignData& data) { data.components[1].children[0].component = 1; }),
               "components[1]: \"Frame\" contains itself; an assembly must be free of itself");
     EXPECT_EQ(complaint([](DesignData& data) { data.components[0].children[1].instance = 1; }),
@@ -52,7 +52,7 @@ TEST(CheckDesign, NamesPlaceAndWhatWouldBeRight) {
                                                    {.group = "G", .name = "b", .value = ""},
                                                    {.group = "G", .name = "a", .value = ""}};
               }),
-              "components[2].attributes: \"a\" of the group \"G\" may stand only once");
+              "components[2].attributes: \"a\" of the group \"G\" may appear only once");
     EXPECT_EQ(complaint([](DesignData& data) {
                   data.attributes = {{.group = "", .name = "a", .value = "1"}};
               }),

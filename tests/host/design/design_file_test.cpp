@@ -202,7 +202,7 @@ TEST_F(DesignFile, WhatIsNoJsonIsRefused) {
 }
 
 TEST_F(DesignFile, BracketsThatStandInEachOtherForEverAreRefused) {
-    const std::string reason = "is no design file: too many brackets stand in each other";
+    const std::string reason = "is not a design file: brackets are nested too deep";
 
     EXPECT_EQ(complaint(std::string(101, '[')), reason);
     EXPECT_EQ(complaint(with(std::string(200'000, '[') + std::string(200'000, ']'))), reason);

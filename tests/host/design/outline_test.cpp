@@ -129,33 +129,33 @@ TEST(Outline, ErrorsNameLineAndReason) {
     EXPECT_EQ(complaint("  A\nB"),
               "line 2: the indent should be that of the first line and two spaces more for each "
               "level");
-    EXPECT_EQ(complaint("A\n    B"), "line 2: nothing stands at the level above");
-    EXPECT_EQ(complaint("(absent)\n  B"), "line 2: nothing stands at the level above");
+    EXPECT_EQ(complaint("A\n    B"), "line 2: nothing is at the level above");
+    EXPECT_EQ(complaint("(absent)\n  B"), "line 2: nothing is at the level above");
     EXPECT_EQ(complaint("A  colour=red"), "line 1: \"colour=red\" is none of the keys");
     EXPECT_EQ(complaint("A box=1x1x1"),
-              "line 1: two spaces are needed between the name and what is told of it");
+              "line 1: two spaces are needed between the name and what describes it");
     EXPECT_EQ(complaint("A  box=1x1"),
               "line 1: \"1x1\" should be 3 numbers with \"x\" between them");
     EXPECT_EQ(complaint("A  at=1,2,inf"),
               "line 1: \"1,2,inf\" should be 3 numbers with \",\" between them");
     EXPECT_EQ(complaint("A  material=Steel"),
               "line 1: a material is written material=Name:density or material=none");
-    EXPECT_EQ(complaint("A  number=1 number=2"), "line 1: number= stands twice");
+    EXPECT_EQ(complaint("A  number=1 number=2"), "line 1: number= appears twice");
     EXPECT_EQ(complaint("A  number=\"1"), "line 1: a text that begins with \" has no end");
     EXPECT_EQ(complaint("A  attribute=G/n"),
               "line 1: an attribute is written attribute=group/name/value");
     EXPECT_EQ(complaint("A  attribute=/n/v"), "line 1: an attribute needs a group and a name");
-    EXPECT_EQ(complaint("(absent)  grounded"), "line 1: nothing can be told of what is absent");
+    EXPECT_EQ(complaint("(absent)  grounded"), "line 1: what is absent has no properties");
     EXPECT_EQ(complaint("A\tB"), "line 1: tabs are not understood, only spaces");
 }
 
 TEST(Outline, LinesThatTellDifferentThingsOfOneComponentAreRefused) {
     EXPECT_EQ(complaint("A  number=1\nA  number=2"),
-              "line 2: number= differs from what an earlier line tells of \"A\"");
+              "line 2: number= differs from what an earlier line gives for \"A\"");
     EXPECT_EQ(complaint("A  attribute=G/n/1\nA  attribute=G/n/2"),
-              "line 2: the attributes differ from those that an earlier line tells of \"A\"");
+              "line 2: the attributes differ from those that an earlier line gives for \"A\"");
     EXPECT_EQ(complaint("A\n  B\nA\n  C"),
-              "line 3: what stands in \"A\" differs from what stands in it at line 1");
+              "line 3: what is in \"A\" differs from what is in it at line 1");
 }
 
 TEST(Outline, AssemblyThatContainsItselfIsRefused) {

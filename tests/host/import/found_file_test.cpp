@@ -62,7 +62,7 @@ TEST_F(FoundFile, RefusesTwoThatDifferOnlyInCase) {
 }
 
 TEST_F(FoundFile, RefusesWhatIsNotThere) {
-    EXPECT_EQ(found("part.step"), (folder.path / "part.step").string() + ": there is no such file");
+    EXPECT_EQ(found("part.step"), (folder.path / "part.step").string() + ": no such file");
 }
 
 TEST_F(FoundFile, ComparesTheLettersAToZ) {

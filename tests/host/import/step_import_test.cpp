@@ -146,7 +146,7 @@ TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
                    "related_product_definition) : Entity has illegal type (#31); what needs them "
                    "may be missing or wrong",
             path + "places a product that is missing (#31); it is left out",
-            path + "tells no placement for 1 usage; it stands at the origin"}));
+            path + "has no placement for 1 usage; it is at the origin"}));
 }
 
 TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {

@@ -44,8 +44,7 @@ std::string chain(int length, int uses) {
 }
 
 TEST_F(StepRefusal, AMissingFile) {
-    EXPECT_EQ(withoutPath((folder.path / "no.step").string()),
-              "there is no such file; the path of a STEP file is needed");
+    EXPECT_EQ(withoutPath((folder.path / "no.step").string()), "no such file");
 }
 
 TEST_F(StepRefusal, AFolder) {

@@ -112,7 +112,7 @@ TEST_F(OpenLocalFile, EachExtensionHasItsFactory) {
 TEST_F(OpenLocalFile, StepFileInUpperCaseGoesThroughTheImportWithTheLowerCasedPath) {
     pick({"/nowhere/PART.STEP"});
 
-    EXPECT_EQ(host::lastError().description, "/nowhere/part.step: there is no such file");
+    EXPECT_EQ(host::lastError().description, "/nowhere/part.step: no such file");
     EXPECT_EQ(calls("ImportManager::createSTEPImportOptions"), 1U);
 }
 

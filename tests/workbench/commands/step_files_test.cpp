@@ -60,7 +60,7 @@ TEST_F(StepFile, ThatTheAddinOpensIsWarnedOfToo) {
     EXPECT_EQ(result.status, 0);
     EXPECT_TRUE(test_support::isOneLine(result.errors)) << result.errors;
     EXPECT_EQ(result.errors.rfind("warning: ", 0), 0U) << result.errors;
-    EXPECT_NE(result.errors.find("tells no placement for 1 usage"), std::string::npos)
+    EXPECT_NE(result.errors.find("has no placement for 1 usage"), std::string::npos)
         << result.errors;
 }
 
