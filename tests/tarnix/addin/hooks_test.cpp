@@ -1,4 +1,4 @@
-#include "tests/tarnix/addin/addin_ui_test.h"
+#include "tests/tarnix/addin/addin_ui_fixture.h"
 #include "tests/tarnix/bom/behaviour/own_dialog.h"
 
 #include "host/application/application.h"
@@ -44,7 +44,7 @@ TEST_F(WorkspaceHook, LeavesToStopThePanelsOfAllWorkspaces) {
 
     stop();
 
-    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
 }
 
 class StartingHook : public AddinUiTest {

@@ -1,4 +1,4 @@
-#include "tests/tarnix/commands/palette_test.h"
+#include "tests/tarnix/commands/palette_fixture.h"
 
 #include "host/base/gate.h"
 

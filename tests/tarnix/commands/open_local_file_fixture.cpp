@@ -1,4 +1,4 @@
-#include "tests/tarnix/commands/open_local_file_test.h"
+#include "tests/tarnix/commands/open_local_file_fixture.h"
 
 #include "tests/support/files.h"
 

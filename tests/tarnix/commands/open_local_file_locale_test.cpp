@@ -1,5 +1,5 @@
 #include "tests/support/files.h"
-#include "tests/tarnix/commands/open_local_file_test.h"
+#include "tests/tarnix/commands/open_local_file_fixture.h"
 
 #include "host/design/design_file.h"
 

@@ -1,7 +1,7 @@
 // Units Conversion at real windows, on a display of the test's own of 800 by 600 pixels.
 
 #include "tests/tarnix/commands/framed_window.h"
-#include "tests/tarnix/commands/palette_test.h"
+#include "tests/tarnix/commands/palette_fixture.h"
 
 #include "host/session/environment.h"
 

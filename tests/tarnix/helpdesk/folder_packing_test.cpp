@@ -2,7 +2,7 @@
 
 #include "tests/support/files.h"
 #include "tests/support/text.h"
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
 #include "host/session/system_overrides.h"
 

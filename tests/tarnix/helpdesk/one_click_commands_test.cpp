@@ -1,6 +1,6 @@
 #include "tarnix/helpdesk/one_click_commands.h"
 
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
 #include <gtest/gtest.h>
 

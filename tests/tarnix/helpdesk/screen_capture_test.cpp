@@ -1,5 +1,5 @@
 #include "tests/support/files.h"
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 #include "tests/tarnix/helpdesk/pattern_window.h"
 
 #include "host/session/system_overrides.h"

@@ -1,6 +1,6 @@
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
 #include <gtest/gtest.h>
 

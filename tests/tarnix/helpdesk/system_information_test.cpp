@@ -1,7 +1,7 @@
 #include "tarnix/helpdesk/system_information.h"
 
 #include "tests/support/files.h"
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
 #include "host/session/system_overrides.h"
 

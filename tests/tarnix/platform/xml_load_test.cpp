@@ -1,5 +1,5 @@
 #include "tests/tarnix/platform/test_system.h"
-#include "tests/tarnix/platform/xml_test.h"
+#include "tests/tarnix/platform/xml_fixture.h"
 
 namespace tarnix::platform {
 namespace {

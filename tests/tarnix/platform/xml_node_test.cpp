@@ -1,4 +1,4 @@
-#include "tests/tarnix/platform/xml_test.h"
+#include "tests/tarnix/platform/xml_fixture.h"
 
 namespace tarnix::platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/tarnix/properties/properties_test.h"
+#include "tests/tarnix/properties/properties_fixture.h"
 
 #include "host/session/user_actions.h"
 

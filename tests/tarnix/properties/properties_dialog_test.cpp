@@ -1,5 +1,5 @@
 #include "tests/support/files.h"
-#include "tests/tarnix/properties/properties_test.h"
+#include "tests/tarnix/properties/properties_fixture.h"
 
 #include "host/session/user_actions.h"
 

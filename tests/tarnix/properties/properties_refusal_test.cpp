@@ -3,7 +3,7 @@
 
 #include "tests/support/files.h"
 #include "tests/support/refusal.h"
-#include "tests/tarnix/properties/properties_test.h"
+#include "tests/tarnix/properties/properties_fixture.h"
 
 #include "host/session/user_actions.h"
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/addin/addin_ui_test.h"
+#include "tests/tarnix/addin/addin_ui_fixture.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

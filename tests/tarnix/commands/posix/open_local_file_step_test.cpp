@@ -1,7 +1,7 @@
 // STEP and IGES are read by Open CASCADE, which is native only.
 
 #include "tests/host/import/iges_drafts.h"
-#include "tests/tarnix/commands/open_local_file_test.h"
+#include "tests/tarnix/commands/open_local_file_fixture.h"
 
 #include <gtest/gtest.h>
 

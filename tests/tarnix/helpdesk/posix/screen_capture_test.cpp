@@ -1,4 +1,4 @@
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "tests/support/files.h"
-#include "tests/tarnix/helpdesk/helpdesk_test.h"
+#include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/platform/module_path_test.h"
+#include "tests/tarnix/platform/module_path_fixture.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/platform/shell_test.h"
+#include "tests/tarnix/platform/shell_fixture.h"
 
 #include "tests/tarnix/platform/scratch_folder.h"
 

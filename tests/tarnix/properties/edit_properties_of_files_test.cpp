@@ -1,6 +1,6 @@
 #include "tests/support/files.h"
 #include "tests/support/real_files.h"
-#include "tests/tarnix/properties/properties_test.h"
+#include "tests/tarnix/properties/properties_fixture.h"
 
 #include "host/session/user_actions.h"
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/properties/properties_test.h"
+#include "tests/tarnix/properties/properties_fixture.h"
 
 #include "tests/support/files.h"
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/settings/settings_test.h"
+#include "tests/tarnix/settings/settings_fixture.h"
 
 #include <stdexcept>
 

@@ -1,5 +1,5 @@
 #include "tests/tarnix/platform/test_system.h"
-#include "tests/tarnix/settings/settings_test.h"
+#include "tests/tarnix/settings/settings_fixture.h"
 
 namespace tarnix {
 namespace {

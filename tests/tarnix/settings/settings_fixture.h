@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnix/settings/settings_document.h"
-#include "tests/tarnix/platform/xml_test.h"
+#include "tests/tarnix/platform/xml_fixture.h"
 #include "tests/tarnix/settings/fake_module_path.h"
 
 #include <string>

@@ -1,5 +1,3 @@
-#include "tarnix/text/ids.h"
-#include "tarnix/text/positions.h"
 #include "tarnix/text/utf8.h"
 
 #include <gtest/gtest.h>
@@ -8,37 +6,6 @@
 
 namespace tarnix {
 namespace {
-
-TEST(Id, EndsInTheNumberAfterTheLastUnderscore) {
-    EXPECT_EQ(idNumber("modelPartNumberOcc_12"), 12);
-    EXPECT_EQ(idNumber("QEMA_Part_Name_3"), 3);
-    EXPECT_EQ(idTail("QEMA_Part_Name_3"), "3");
-    EXPECT_EQ(idBase("QEMA_Part_Name_3"), "QEMA_Part_Name");
-}
-
-TEST(Id, WithoutUnderscoreIsItsOwnTailAndBase) {
-    EXPECT_EQ(idTail("APITabBar"), "APITabBar");
-    EXPECT_EQ(idBase("APITabBar"), "APITabBar");
-    EXPECT_EQ(idNumber("7"), 7);
-}
-
-TEST(Id, ThrowsWhereNoNumberFollowsTheLastUnderscore) {
-    EXPECT_THROW(idNumber("QEMA_btnExportXls"), std::invalid_argument);
-    EXPECT_THROW(idNumber("positionOcc_"), std::invalid_argument);
-}
-
-TEST(Position, IsAsDeepAsItHasPoints) {
-    EXPECT_EQ(positionDepth("12"), 0);
-    EXPECT_EQ(positionDepth("1.2.3"), 2);
-    EXPECT_EQ(positionDepth(""), 0);
-}
-
-TEST(Position, LosesItsIndent) {
-    EXPECT_EQ(stripPositionPrefix("` _-|1.2-3"), "1.2-3");
-    EXPECT_EQ(stripPositionPrefix("1.2"), "1.2");
-    EXPECT_EQ(stripPositionPrefix("__"), "");
-    EXPECT_EQ(stripPositionPrefix(""), "");
-}
 
 TEST(Utf8, EncodesEveryLengthOfCharacter) {
     EXPECT_EQ(toUtf8(L"cm\u00B2"), "cm\xC2\xB2");

@@ -1,8 +1,12 @@
-#include "tests/tarnix/addin/addin_ui_test.h"
+#include "tests/tarnix/addin/registration_fixture.h"
 
 #include "host/base/gate.h"
 
 #include <gtest/gtest.h>
+
+namespace tarnix {
+extern "C" bool stop(const char* context);
+}
 
 namespace test_support {
 namespace {
@@ -12,7 +16,7 @@ class Stop : public AddinUiTest {};
 TEST_F(Stop, LeavesOpenLocalFileAlone) {
     stop();
 
-    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
 }
 
 TEST_F(Stop, ThrowsAtItsEndWhereTheHostHasNoRepeatControl) {
@@ -72,7 +76,7 @@ TEST_F(StopWithRepeatControl, Succeeds) {
     EXPECT_TRUE(stop());
 
     EXPECT_EQ(uncaughtExceptions(), "");
-    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
 }
 
 TEST_F(StopWithRepeatControl, LetsTheHostGo) {
@@ -86,22 +90,22 @@ TEST_F(StopWithRepeatControl, LetsTheHostGo) {
 }
 
 TEST_F(StopWithRepeatControl, LetsRunSucceedAgain) {
-    const std::string stood = standing();
+    const std::string before = present();
     ASSERT_TRUE(stop());
 
     EXPECT_TRUE(run());
 
-    EXPECT_EQ(standing(), stood);
+    EXPECT_EQ(present(), before);
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(StopWithRepeatControl, LetsRunPlaceItsEight) {
-    const std::string stood = controls("QM_HD_panelFusionSolidEnvironment");
+    const std::string before = controls("QM_HD_panelFusionSolidEnvironment");
     ASSERT_TRUE(stop());
 
     ASSERT_TRUE(run());
 
-    EXPECT_EQ(controls("QM_HD_panelFusionSolidEnvironment"), stood);
+    EXPECT_EQ(controls("QM_HD_panelFusionSolidEnvironment"), before);
 }
 
 TEST_F(StopWithRepeatControl, LeavesOpenLocalFileWithItsFirstRegistration) {
@@ -115,6 +119,16 @@ TEST_F(StopWithRepeatControl, LeavesOpenLocalFileWithItsFirstRegistration) {
     EXPECT_TRUE(definition("QEMA_OpenLocalCmd_QAT") == first);
     // Seven main commands and eight of the helpdesk: the new object got no definition to subscribe.
     EXPECT_EQ(host::gate::count("CommandDefinition::commandCreated"), 15U);
+}
+
+class StopWithoutUserInterface : public RegistrationTest {};
+
+TEST_F(StopWithoutUserInterface, ReleasesTheApplication) {
+    tarnix::ui = nullptr;
+
+    EXPECT_TRUE(tarnix::stop(nullptr));
+
+    EXPECT_FALSE(tarnix::app);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "tests/tarnix/addin/addin_ui_test.h"
+#include "tests/tarnix/addin/addin_ui_fixture.h"
 
 #include "host/base/gate.h"
 
@@ -157,7 +157,7 @@ TEST_F(RunWithoutManufacture, LeavesToStopWhatIsThere) {
 
     stop();
 
-    EXPECT_EQ(standing(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
 }
 
 }  // namespace

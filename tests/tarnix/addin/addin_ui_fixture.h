@@ -29,7 +29,7 @@ protected:
     [[nodiscard]] static std::string texts(const std::string& id);
 
     /// What there is of the add-in: its panels and definitions by id, a line for each.
-    [[nodiscard]] static std::string standing();
+    [[nodiscard]] static std::string present();
 };
 
 /// A test in which the module is loaded and not yet run.

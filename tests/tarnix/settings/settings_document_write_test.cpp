@@ -1,5 +1,5 @@
 #include "tests/tarnix/settings/failing_allocation.h"
-#include "tests/tarnix/settings/settings_test.h"
+#include "tests/tarnix/settings/settings_fixture.h"
 
 #include <stdexcept>
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/addin/addin_ui_test.h"
+#include "tests/tarnix/addin/addin_ui_fixture.h"
 
 namespace test_support {
 
@@ -60,7 +60,7 @@ std::string AddinUiTest::texts(const std::string& id) {
                  : "none";
 }
 
-std::string AddinUiTest::standing() {
+std::string AddinUiTest::present() {
     std::string lines;
     for (const char* id : kPanels) {
         if (panel(id)) addLine(lines, id);

@@ -1,4 +1,4 @@
-#include "tests/tarnix/platform/shell_test.h"
+#include "tests/tarnix/platform/shell_fixture.h"
 
 #include <Core/OSMacros.h>
 #include <StandIn/Process.h>

@@ -1,0 +1,93 @@
+#include "tarnix/addin/helpdesk_commands.h"
+
+#include "host/base/gate.h"
+#include "tests/tarnix/addin/registration_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace test_support {
+namespace {
+
+class HelpdeskCommands : public AddinUiTest {};
+
+TEST_F(HelpdeskCommands, OfTheFirstHalfHaveTheirTexts) {
+    EXPECT_EQ(texts("QM_HD_openHelpdesk"), text(R"(
+        Go to Helpdesk
+        Open your Helpdesk web site
+        Resources/OpenHelpdesk)"));
+    EXPECT_EQ(texts("QM_HD_captureScreen"), text(R"(
+        Capture screen
+        Capture all what is visible on screen and save it on disk to the Helpdesk folder
+        Resources/CaptureScreen)"));
+    EXPECT_EQ(texts("QM_HD_captureFusion"), text(R"(
+        Capture Fusion
+        Capture window of the Fusion application and save it on disk to the Helpdesk folder
+        Resources/CaptureInventor)"));
+    EXPECT_EQ(texts("QM_HD_systemInfo"), text(R"(
+        System info
+        Save information about your system in a text file
+        Resources/SaveSystemInfo)"));
+}
+
+TEST_F(HelpdeskCommands, OfTheSecondHalfHaveTheirTexts) {
+    EXPECT_EQ(texts("QM_HD_compressFolder"), text(R"(
+        Zip
+        Compress all context in the Helpdesk folder
+        Resources/ZipFolder)"));
+    EXPECT_EQ(texts("QM_HD_openFolder"), text(R"(
+        Open Helpdesk Folder
+        Open the Helpdesk folder in Explorer
+        Resources/OpenFolder)"));
+    EXPECT_EQ(texts("QM_HD_clearFolder"), text(R"(
+        Delete Helpdesk Folder
+        Delete all context in the Helpdesk folder
+        Resources/DeleteFolder)"));
+    EXPECT_EQ(texts("QM_HD_openHelp"), text(R"(
+        Open Help
+        Open User Guide
+        Resources/OpenHelp)"));
+}
+
+TEST_F(HelpdeskCommands, RunWithoutADialog) {
+    session->press("QM_HD_systemInfo");
+
+    EXPECT_FALSE(session->dialogOpen());
+    EXPECT_EQ(uncaughtExceptions(), "");
+}
+
+class RefusedHelpdeskCommand : public RegistrationTest {};
+
+TEST_F(RefusedHelpdeskCommand, ShowsTheUserWhyTheHostRefusedIt) {
+    ui()->commandDefinitions()->addButtonDefinition("QM_HD_captureScreen", "Another's", "");
+    const host::gate::Module asModule;
+    // It does not find the other one, and may not add its own.
+    host::gate::refuse("CommandDefinitions::itemById", 2);
+
+    EXPECT_FALSE(tarnix::createHelpdeskCommands());
+
+    std::string reason;
+    adsk::core::Application::get()->getLastError(&reason);
+    EXPECT_NE(reason, "");
+    host::Message shown;  // no title, no picture, one button
+    shown.text = reason;
+    EXPECT_EQ(session->messages(), std::vector{shown});
+    EXPECT_EQ(present(), text(R"(
+        QM_HD_openHelpdesk
+        QM_HD_captureScreen)"));
+}
+
+class DefinedHelpdeskCommand : public UnstartedAddinTest {};
+
+TEST_F(DefinedHelpdeskCommand, IsTakenAsItIs) {
+    ASSERT_TRUE(ui()->commandDefinitions()->addButtonDefinition("QM_HD_openHelp", "Mine", ""));
+
+    EXPECT_TRUE(run());
+
+    EXPECT_EQ(definition("QM_HD_openHelp")->name(), "Mine");
+}
+
+}  // namespace
+}  // namespace test_support
