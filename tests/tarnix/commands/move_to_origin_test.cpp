@@ -191,9 +191,11 @@ TEST_F(MoveToOrigin, ThrowsWithoutTheSelectionInput) {
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnCommandCreated");
 }
 
-TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoSelection) {
+class MoveToOriginWithout : public MoveToOrigin, public testing::WithParamInterface<const char*> {};
+
+TEST_P(MoveToOriginWithout, ThrowsAndMovesNothing) {
     select({0, 1});
-    host::gate::refuse("SelectionCommandInput::selection", 2);
+    host::gate::refuse(GetParam(), 2);
 
     session->ok();
 
@@ -201,15 +203,8 @@ TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoSelection) {
     EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
 }
 
-TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoOccurrence) {
-    select({0, 1});
-    host::gate::refuse("Selection::entity", 2);
-
-    session->ok();
-
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-    EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
-}
+INSTANTIATE_TEST_SUITE_P(EachCall, MoveToOriginWithout,
+                         testing::Values("SelectionCommandInput::selection", "Selection::entity"));
 
 TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoOccurrenceToGround) {
     select({0});

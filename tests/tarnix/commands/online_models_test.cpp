@@ -71,8 +71,10 @@ TEST_F(OnLineModels, SecondExecutionLeavesItDockedWhereItIs) {
     EXPECT_EQ(palette(kPalette)->dockingState(), PaletteDockStateRight);
 }
 
-TEST_F(OnLineModels, WithoutTheHostItselfNothingHappens) {
-    host::gate::refuse("Application::get", 1);
+class OnLineModelsWithout : public OnLineModels, public testing::WithParamInterface<const char*> {};
+
+TEST_P(OnLineModelsWithout, ShowsNothing) {
+    host::gate::refuse(GetParam(), 1);
 
     session->press(kCommand);
 
@@ -81,25 +83,9 @@ TEST_F(OnLineModels, WithoutTheHostItselfNothingHappens) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(OnLineModels, WithoutTheUserInterfaceNothingHappens) {
-    host::gate::refuse("Application::userInterface", 1);
-
-    session->press(kCommand);
-
-    EXPECT_EQ(palettes()->count(), 0U);
-    EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(OnLineModels, WithoutTheHostsPalettesNothingHappens) {
-    host::gate::refuse("UserInterface::palettes", 1);
-
-    session->press(kCommand);
-
-    EXPECT_EQ(palettes()->count(), 0U);
-    EXPECT_TRUE(session->messages().empty());
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
+INSTANTIATE_TEST_SUITE_P(EachCall, OnLineModelsWithout,
+                         testing::Values("Application::get", "Application::userInterface",
+                                         "UserInterface::palettes"));
 
 TEST_F(OnLineModels, StopRemovesThePalette) {
     session->press(kCommand);

@@ -159,21 +159,19 @@ TEST_F(UserGuide, ThatCannotBeOpenedIsNotReported) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(UserGuide, ThrowsAPlainExceptionWithoutPreferences) {
+class UserGuideWithout : public UserGuide, public testing::WithParamInterface<const char*> {};
+
+TEST_P(UserGuideWithout, ThrowsAPlainExceptionAndOpensNothing) {
     host::gate::reset();
-    host::gate::refuse("Application::preferences", 1);
+    host::gate::refuse(GetParam(), 1);
     press("openHelp");
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_TRUE(session->openedByShell().empty());
 }
 
-TEST_F(UserGuide, ThrowsAPlainExceptionWithoutGeneralPreferences) {
-    host::gate::reset();
-    host::gate::refuse("Preferences::generalPreferences", 1);
-    press("openHelp");
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-    EXPECT_TRUE(session->openedByShell().empty());
-}
+INSTANTIATE_TEST_SUITE_P(EachCall, UserGuideWithout,
+                         testing::Values("Application::preferences",
+                                         "Preferences::generalPreferences"));
 
 /// The add-in below a folder with a module's ending in its name.
 class UserGuideBelowAnotherEnding : public UserGuide {

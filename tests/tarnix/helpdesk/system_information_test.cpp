@@ -85,35 +85,38 @@ TEST_F(SystemInformation, IsLeftOutQuietlyWhereTheFileCannotBeOpened) {
     EXPECT_EQ(line(1), "Hardware information: ");
 }
 
-TEST_F(SystemInformation, HasTheNameOfTheProcessorUpToFortyEightBytes) {
-    restartWithLeavesUpTo(0x80000004U);
+/// A processor by its last extended leaf, and the line that names it.
+struct Processor {
+    const char* name;
+    unsigned lastLeaf;
+    const char* line;
+};
+
+class SystemInformationOf : public SystemInformation,
+                            public testing::WithParamInterface<Processor> {};
+
+TEST_P(SystemInformationOf, NamesTheProcessor) {
+    restartWithLeavesUpTo(GetParam().lastLeaf);
+
     press("systemInfo");
-    EXPECT_EQ(line(3), "      Processor 0123 @ 2.00GHz-with-a-name-of-48-cha");
+
+    EXPECT_EQ(line(3), GetParam().line);
 }
 
-TEST_F(SystemInformation, HasTheSameNameWhereTheProcessorHasMoreLeaves) {
-    restartWithLeavesUpTo(0x8000001FU);
-    press("systemInfo");
-    EXPECT_EQ(line(3), "      Processor 0123 @ 2.00GHz-with-a-name-of-48-cha");
-}
-
-TEST_F(SystemInformation, HasAShortenedNameWhereTheProcessorHasFewerLeaves) {
-    restartWithLeavesUpTo(0x80000002U);
-    press("systemInfo");
-    EXPECT_EQ(line(3), "      Processor 0123");
-}
-
-TEST_F(SystemInformation, HasFourSpacesWhereTheProcessorHasNoName) {
-    restartWithLeavesUpTo(0x80000001U);
-    press("systemInfo");
-    EXPECT_EQ(line(3), "    ");
-}
-
-TEST_F(SystemInformation, HasFourSpacesWhereTheProcessorHasNoExtendedLeaves) {
-    restartWithLeavesUpTo(5);
-    press("systemInfo");
-    EXPECT_EQ(line(3), "    ");
-}
+INSTANTIATE_TEST_SUITE_P(
+    EachProcessor, SystemInformationOf,
+    testing::Values(Processor{.name = "WithANameOf48Bytes",
+                              .lastLeaf = 0x80000004U,
+                              .line = "      Processor 0123 @ 2.00GHz-with-a-name-of-48-cha"},
+                    Processor{.name = "WithMoreLeaves",
+                              .lastLeaf = 0x8000001FU,
+                              .line = "      Processor 0123 @ 2.00GHz-with-a-name-of-48-cha"},
+                    Processor{.name = "WithFewerLeaves",
+                              .lastLeaf = 0x80000002U,
+                              .line = "      Processor 0123"},
+                    Processor{.name = "WithoutAName", .lastLeaf = 0x80000001U, .line = "    "},
+                    Processor{.name = "WithoutExtendedLeaves", .lastLeaf = 5, .line = "    "}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(SystemInformation, GoesWhereTheFolderWasWhenTheModuleWasLoaded) {
     const auto names = host::environment::temporaryFolderNames();

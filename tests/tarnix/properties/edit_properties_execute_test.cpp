@@ -98,47 +98,40 @@ TEST_F(PropertiesOk, WithoutASelectionLeavesTheDesignUntouched) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(PropertiesOk, StopsSilentlyWithoutTheInputs) {
-    okWithout("Command::commandInputs", 1);
+/// A call that the host refuses while OK is carried out, and what is thrown for it.
+struct RefusedCall {
+    const char* name;
+    const char* call;
+    int nth;
+    const char* thrown = "";
+};
+
+class PropertiesOkWithout : public PropertiesOk, public testing::WithParamInterface<RefusedCall> {};
+
+TEST_P(PropertiesOkWithout, WritesNothing) {
+    okWithout(GetParam().call, GetParam().nth);
+
     EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "");
+    EXPECT_EQ(uncaughtExceptions(), GetParam().thrown);
 }
 
-TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelectionInput) {
-    okWithout("CommandInputs::itemById", 1);
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
+constexpr const char* kThrown = "std::exception:  in OnExecute";
 
-TEST_F(PropertiesOk, StopsSilentlyWithoutTheSelection) {
-    okWithout("SelectionCommandInput::selection", 1);
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesOk, StopsSilentlyWithoutTheComponentOfAnOccurrence) {
-    okWithout("Occurrence::component", 1);
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesOk, StopsSilentlyWithoutTheEntity) {
-    okWithout("Selection::entity", 1);
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesOk, ThrowsWithoutTheGroupOfTheProperties) {
-    okWithout("CommandInputs::itemById", 2);
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-}
-
-TEST_F(PropertiesOk, ThrowsWithoutTheListOfTheButtons) {
-    okWithout("ButtonRowCommandInput::listItems", 1);
-    EXPECT_EQ(stored(session->design(), "Bolt"), "Bolt | Bolt | ");
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-}
+INSTANTIATE_TEST_SUITE_P(
+    EachCall, PropertiesOkWithout,
+    testing::Values(
+        RefusedCall{.name = "TheInputs", .call = "Command::commandInputs", .nth = 1},
+        RefusedCall{.name = "TheSelectionInput", .call = "CommandInputs::itemById", .nth = 1},
+        RefusedCall{.name = "TheSelection", .call = "SelectionCommandInput::selection", .nth = 1},
+        RefusedCall{.name = "TheEntity", .call = "Selection::entity", .nth = 1},
+        RefusedCall{.name = "TheComponent", .call = "Occurrence::component", .nth = 1},
+        RefusedCall{
+            .name = "TheGroup", .call = "CommandInputs::itemById", .nth = 2, .thrown = kThrown},
+        RefusedCall{.name = "TheListOfTheButtons",
+                    .call = "ButtonRowCommandInput::listItems",
+                    .nth = 1,
+                    .thrown = kThrown}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(PropertiesOk, WritesInputsThatAreDisabledToo) {
     open("Bolt");

@@ -213,47 +213,70 @@ TEST_F(PropertiesDialog, ReportsTheSecondSelectionFilterToo) {
     EXPECT_EQ(session->messages()[0].title, "");
 }
 
-TEST_F(PropertiesDialog, StopsWithoutItsFirstTab) {
-    EXPECT_EQ(withoutCall("CommandInputs::addTabCommandInput", 1), "");
+/// A call that the host refuses while the dialog is made, and the inputs that it has then.
+struct RefusedCall {
+    const char* name;
+    const char* call;
+    int nth;
+    const char* inputs;
+};
+
+class PropertiesDialogWithout : public PropertiesDialog,
+                                public testing::WithParamInterface<RefusedCall> {};
+
+TEST_P(PropertiesDialogWithout, StopsWithWhatIsMade) {
+    EXPECT_EQ(withoutCall(GetParam().call, GetParam().nth), GetParam().inputs);
     EXPECT_EQ(uncaughtExceptions(), "");
     EXPECT_TRUE(session->messages().empty());
 }
 
-TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsFirstTab) {
-    EXPECT_EQ(withoutCall("TabCommandInput::children", 1), "QEMA_tab_iProperties");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutItsFirstGroup) {
-    EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 1),
-              "QEMA_tab_iProperties QEMA_selectComponent");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsFirstGroup) {
-    EXPECT_EQ(withoutCall("GroupCommandInput::children", 1),
-              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutItsButtons) {
-    EXPECT_EQ(withoutCall("CommandInputs::addButtonRowCommandInput", 1),
-              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutTheListOfItsButtons) {
-    EXPECT_EQ(withoutCall("ButtonRowCommandInput::listItems", 1),
-              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutItsSecondGroup) {
-    EXPECT_EQ(withoutCall("CommandInputs::addGroupCommandInput", 2),
-              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
-              "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
+INSTANTIATE_TEST_SUITE_P(
+    EachCall, PropertiesDialogWithout,
+    testing::Values(
+        RefusedCall{.name = "ItsFirstTab",
+                    .call = "CommandInputs::addTabCommandInput",
+                    .nth = 1,
+                    .inputs = ""},
+        RefusedCall{.name = "TheChildrenOfItsFirstTab",
+                    .call = "TabCommandInput::children",
+                    .nth = 1,
+                    .inputs = "QEMA_tab_iProperties"},
+        RefusedCall{.name = "ItsFirstGroup",
+                    .call = "CommandInputs::addGroupCommandInput",
+                    .nth = 1,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent"},
+        RefusedCall{.name = "TheChildrenOfItsFirstGroup",
+                    .call = "GroupCommandInput::children",
+                    .nth = 1,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties"},
+        RefusedCall{.name = "ItsButtons",
+                    .call = "CommandInputs::addButtonRowCommandInput",
+                    .nth = 1,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties"},
+        RefusedCall{.name = "TheListOfItsButtons",
+                    .call = "ButtonRowCommandInput::listItems",
+                    .nth = 1,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties "
+                              "QEMA_btnRowBuyMake"},
+        RefusedCall{.name = "ItsSecondGroup",
+                    .call = "CommandInputs::addGroupCommandInput",
+                    .nth = 2,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties "
+                              "QEMA_btnRowBuyMake QEMA_Part Number QEMA_Part Name QEMA_Description "
+                              "QEMA_FullPathDoc"},
+        RefusedCall{.name = "ItsSecondTab",
+                    .call = "CommandInputs::addTabCommandInput",
+                    .nth = 2,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties "
+                              "QEMA_btnRowBuyMake QEMA_Part Number QEMA_Part Name QEMA_Description "
+                              "QEMA_FullPathDoc QEMA_customProperties"},
+        RefusedCall{.name = "TheChildrenOfItsSecondTab",
+                    .call = "TabCommandInput::children",
+                    .nth = 2,
+                    .inputs = "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties "
+                              "QEMA_btnRowBuyMake QEMA_Part Number QEMA_Part Name QEMA_Description "
+                              "QEMA_FullPathDoc QEMA_customProperties QEMA_tab_Settings"}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(PropertiesDialog, ThrowsWithoutTheChildrenOfItsSecondGroupWhereTheListHasEntries) {
     offer({"QEMA_Colour;Colour"});
@@ -264,22 +287,6 @@ TEST_F(PropertiesDialog, ThrowsWithoutTheChildrenOfItsSecondGroupWhereTheListHas
 TEST_F(PropertiesDialog, NeedsNoChildrenOfItsSecondGroupForAnEmptyList) {
     openWithout("GroupCommandInput::children", 2);
     EXPECT_EQ(session->input(kSave)->name(), "Save User Property");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutTheChildrenOfItsSecondTab) {
-    EXPECT_EQ(withoutCall("TabCommandInput::children", 2),
-              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
-              "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc "
-              "QEMA_customProperties QEMA_tab_Settings");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesDialog, StopsWithoutItsSecondTab) {
-    EXPECT_EQ(withoutCall("CommandInputs::addTabCommandInput", 2),
-              "QEMA_tab_iProperties QEMA_selectComponent QEMA_properties QEMA_btnRowBuyMake "
-              "QEMA_Part Number QEMA_Part Name QEMA_Description QEMA_FullPathDoc "
-              "QEMA_customProperties");
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 

@@ -12,9 +12,9 @@
 namespace tarnix {
 namespace {
 
-/// The text of what is thrown, with its kind in front.
+/// What is thrown: its class and its message.
 template <class Action>
-std::string uncaughtExceptions(Action action) {
+std::string thrownBy(Action action) {
     try {
         action();
     } catch (const std::invalid_argument& error) {
@@ -25,12 +25,12 @@ std::string uncaughtExceptions(Action action) {
     return "nothing";
 }
 
-std::string raisedByInt(const std::string& text) {
-    return uncaughtExceptions([&text] { parseInt(text); });
+std::string thrownByInt(const std::string& text) {
+    return thrownBy([&text] { parseInt(text); });
 }
 
-std::string raisedByDouble(const std::string& text) {
-    return uncaughtExceptions([&text] { parseDouble(text); });
+std::string thrownByDouble(const std::string& text) {
+    return thrownBy([&text] { parseDouble(text); });
 }
 
 const char* const kInvalidInt = "invalid_argument: invalid stoi argument";
@@ -57,18 +57,18 @@ TEST(ParseInt, LeavesAloneWhatFollowsTheDigits) {
 }
 
 TEST(ParseInt, ThrowsWhereNoDigitIsFound) {
-    EXPECT_EQ(raisedByInt(""), kInvalidInt);
-    EXPECT_EQ(raisedByInt("  "), kInvalidInt);
-    EXPECT_EQ(raisedByInt("btnExportXls"), kInvalidInt);
-    EXPECT_EQ(raisedByInt("+"), kInvalidInt);
-    EXPECT_EQ(raisedByInt("+-5"), kInvalidInt);
-    EXPECT_EQ(raisedByInt("- 5"), kInvalidInt);
+    EXPECT_EQ(thrownByInt(""), kInvalidInt);
+    EXPECT_EQ(thrownByInt("  "), kInvalidInt);
+    EXPECT_EQ(thrownByInt("btnExportXls"), kInvalidInt);
+    EXPECT_EQ(thrownByInt("+"), kInvalidInt);
+    EXPECT_EQ(thrownByInt("+-5"), kInvalidInt);
+    EXPECT_EQ(thrownByInt("- 5"), kInvalidInt);
 }
 
 TEST(ParseInt, ThrowsBeyondTheRange) {
-    EXPECT_EQ(raisedByInt("2147483648"), kIntOutOfRange);
-    EXPECT_EQ(raisedByInt("-2147483649"), kIntOutOfRange);
-    EXPECT_EQ(raisedByInt("99999999999999999999"), kIntOutOfRange);
+    EXPECT_EQ(thrownByInt("2147483648"), kIntOutOfRange);
+    EXPECT_EQ(thrownByInt("-2147483649"), kIntOutOfRange);
+    EXPECT_EQ(thrownByInt("99999999999999999999"), kIntOutOfRange);
 }
 
 TEST(ParseDouble, ReadsDecimalNumbers) {
@@ -115,21 +115,21 @@ TEST(ParseDouble, ReadsInfinityAndNotANumber) {
 }
 
 TEST(ParseDouble, ThrowsWhereNoNumberIsFound) {
-    EXPECT_EQ(raisedByDouble(""), kInvalidDouble);
-    EXPECT_EQ(raisedByDouble("M8"), kInvalidDouble);
-    EXPECT_EQ(raisedByDouble("."), kInvalidDouble);
-    EXPECT_EQ(raisedByDouble("--1"), kInvalidDouble);
-    EXPECT_EQ(raisedByDouble("+-1"), kInvalidDouble);
-    EXPECT_EQ(raisedByDouble("-+1"), kInvalidDouble);
-    EXPECT_EQ(raisedByDouble("in"), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble(""), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble("M8"), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble("."), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble("--1"), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble("+-1"), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble("-+1"), kInvalidDouble);
+    EXPECT_EQ(thrownByDouble("in"), kInvalidDouble);
 }
 
 TEST(ParseDouble, ThrowsBeyondTheRange) {
-    EXPECT_EQ(raisedByDouble("1e309"), kDoubleOutOfRange);
-    EXPECT_EQ(raisedByDouble("-1e309"), kDoubleOutOfRange);
-    EXPECT_EQ(raisedByDouble("0x1p1024"), kDoubleOutOfRange);
-    EXPECT_EQ(raisedByDouble("1e-400"), kDoubleOutOfRange);
-    EXPECT_EQ(raisedByDouble("1e-310"), kDoubleOutOfRange);
+    EXPECT_EQ(thrownByDouble("1e309"), kDoubleOutOfRange);
+    EXPECT_EQ(thrownByDouble("-1e309"), kDoubleOutOfRange);
+    EXPECT_EQ(thrownByDouble("0x1p1024"), kDoubleOutOfRange);
+    EXPECT_EQ(thrownByDouble("1e-400"), kDoubleOutOfRange);
+    EXPECT_EQ(thrownByDouble("1e-310"), kDoubleOutOfRange);
     EXPECT_EQ(parseDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());
     EXPECT_EQ(parseDouble("2.2250738585072014e-308"), std::numeric_limits<double>::min());
 }
