@@ -21,24 +21,24 @@ using Options = Ptr<ImportOptions>;
 
 const std::array<ImportFormat, 5>& importFormats() {
     static const std::array<ImportFormat, 5> formats = {{
-        {{"igs", "iges", "ige"},
-         [](const Manager& manager, const std::string& file) -> Options {
+        {.extensions = {"igs", "iges", "ige"},
+         .factory = [](const Manager& manager, const std::string& file) -> Options {
              return manager->createIGESImportOptions(file);
          }},
-        {{"f3d"},
-         [](const Manager& manager, const std::string& file) -> Options {
+        {.extensions = {"f3d"},
+         .factory = [](const Manager& manager, const std::string& file) -> Options {
              return manager->createFusionArchiveImportOptions(file);
          }},
-        {{"sab", "sat"},
-         [](const Manager& manager, const std::string& file) -> Options {
+        {.extensions = {"sab", "sat"},
+         .factory = [](const Manager& manager, const std::string& file) -> Options {
              return manager->createSATImportOptions(file);
          }},
-        {{"smb", "smt"},
-         [](const Manager& manager, const std::string& file) -> Options {
+        {.extensions = {"smb", "smt"},
+         .factory = [](const Manager& manager, const std::string& file) -> Options {
              return manager->createSMTImportOptions(file);
          }},
-        {{"stp", "step", "ste"},
-         [](const Manager& manager, const std::string& file) -> Options {
+        {.extensions = {"stp", "step", "ste"},
+         .factory = [](const Manager& manager, const std::string& file) -> Options {
              return manager->createSTEPImportOptions(file);
          }},
     }};

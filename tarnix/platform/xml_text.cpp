@@ -42,7 +42,7 @@ Decoded decode(std::string_view text) {
     if (character < smallest[size] || character > 0x10FFFF || surrogate) {
         return {};
     }
-    return {size, true, character};
+    return {.size = size, .valid = true, .character = character};
 }
 
 bool isAllowed(char32_t character) {

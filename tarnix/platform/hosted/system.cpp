@@ -53,7 +53,7 @@ WindowOnScreen findWindow(const std::string& title) {
         case StandInAnswer::NotHandled:
             return native::findWindow(title);
         case StandInAnswer::Done:
-            return {0, fromProcess(area)};
+            return {.inside = fromProcess(area)};
         default:
             return {};
     }

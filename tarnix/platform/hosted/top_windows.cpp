@@ -18,9 +18,10 @@ struct Visit {
 
 int visitOne(void* context, const char* title, const StandInArea* inside) {
     auto& visit = *static_cast<Visit*>(context);
-    const ScreenArea area = {inside->left, inside->top, inside->right, inside->bottom};
+    const ScreenArea area = {
+        .left = inside->left, .top = inside->top, .right = inside->right, .bottom = inside->bottom};
     try {
-        return visit.visitor({title, [area] { return area; }}) ? 1 : 0;
+        return visit.visitor({.title = title, .clientArea = [area] { return area; }}) ? 1 : 0;
     } catch (...) {
         visit.thrown = std::current_exception();
         return 0;
@@ -32,7 +33,7 @@ int visitOne(void* context, const char* title, const StandInArea* inside) {
 void visitTopWindows(const std::function<bool(const TopWindow&)>& visitor) {
     using Question = decltype(&standin_visitWindows);
     const auto ask = reinterpret_cast<Question>(processFunction("standin_visitWindows"));
-    Visit visit = {visitor, nullptr};
+    Visit visit = {.visitor = visitor, .thrown = nullptr};
     if (ask == nullptr || ask(&visitOne, &visit) == StandInAnswer::NotHandled) {
         native::visitTopWindows(visitor);
     } else if (visit.thrown) {

@@ -76,7 +76,10 @@ ScreenArea insideOf(const Display& display, xcb_window_t window) {
     if (size == nullptr || place == nullptr) {
         return {};
     }
-    return {place->dst_x, place->dst_y, place->dst_x + size->width, place->dst_y + size->height};
+    return {.left = place->dst_x,
+            .top = place->dst_y,
+            .right = place->dst_x + size->width,
+            .bottom = place->dst_y + size->height};
 }
 
 /// The windows directly on the screen, the lowest first: what a window manager calls its clients,
@@ -109,8 +112,8 @@ std::vector<xcb_window_t> topWindows(const Display& display) {
 
 ScreenArea virtualScreen() {
     const Display display;
-    return display ? ScreenArea{0, 0, display.screen().width_in_pixels,
-                                display.screen().height_in_pixels}
+    return display ? ScreenArea{.right = display.screen().width_in_pixels,
+                                .bottom = display.screen().height_in_pixels}
                    : ScreenArea();
 }
 
@@ -122,7 +125,8 @@ WindowOnScreen findWindow(const std::string& title) {
     constexpr int kLevels = 3;
     const xcb_window_t window =
         findBelow(display, display.screen().root, atom(display, "_NET_WM_NAME"), title, kLevels);
-    return window != 0 ? WindowOnScreen{window, insideOf(display, window)} : WindowOnScreen();
+    return window != 0 ? WindowOnScreen{.handle = window, .inside = insideOf(display, window)}
+                       : WindowOnScreen();
 }
 
 void visitTopWindows(const std::function<bool(const TopWindow&)>& visit) {
@@ -133,8 +137,9 @@ void visitTopWindows(const std::function<bool(const TopWindow&)>& visit) {
     const xcb_atom_t utf8Title = atom(display, "_NET_WM_NAME");
     const std::vector<xcb_window_t> windows = topWindows(display);
     for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-        const TopWindow shown = {titleOf(display, *window, utf8Title),
-                                 [&display, window] { return insideOf(display, *window); }};
+        const TopWindow shown = {
+            .title = titleOf(display, *window, utf8Title),
+            .clientArea = [&display, window] { return insideOf(display, *window); }};
         if (!visit(shown)) {
             return;
         }

@@ -67,9 +67,9 @@ std::optional<FoundFile> FolderSearch::next() {
         state_->error = ::GetLastError();
         return std::nullopt;
     }
-    return FoundFile{fromWide(found.cFileName),
-                     (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
-                     (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0};
+    return FoundFile{.name = fromWide(found.cFileName),
+                     .isDirectory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                     .isReadOnly = (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0};
 }
 
 bool FolderSearch::isComplete() const { return state_->error == ERROR_NO_MORE_FILES; }

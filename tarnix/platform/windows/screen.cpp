@@ -12,8 +12,10 @@ namespace native {
 ScreenArea virtualScreen() {
     const int left = ::GetSystemMetrics(SM_XVIRTUALSCREEN);
     const int top = ::GetSystemMetrics(SM_YVIRTUALSCREEN);
-    return {left, top, left + ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
-            top + ::GetSystemMetrics(SM_CYVIRTUALSCREEN)};
+    return {.left = left,
+            .top = top,
+            .right = left + ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
+            .bottom = top + ::GetSystemMetrics(SM_CYVIRTUALSCREEN)};
 }
 
 WindowOnScreen findWindow(const std::string& title) {
@@ -23,9 +25,11 @@ WindowOnScreen findWindow(const std::string& title) {
     static_cast<void>(::GetClientRect(window, &inside));
     static_cast<void>(
         ::MapWindowPoints(window, /*hWndTo=*/nullptr, reinterpret_cast<POINT*>(&inside), 2));
-    return {reinterpret_cast<WindowHandle>(window),
-            {static_cast<int>(inside.left), static_cast<int>(inside.top),
-             static_cast<int>(inside.right), static_cast<int>(inside.bottom)}};
+    return {.handle = reinterpret_cast<WindowHandle>(window),
+            .inside = {.left = static_cast<int>(inside.left),
+                       .top = static_cast<int>(inside.top),
+                       .right = static_cast<int>(inside.right),
+                       .bottom = static_cast<int>(inside.bottom)}};
 }
 
 }  // namespace native

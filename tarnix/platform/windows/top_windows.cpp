@@ -30,14 +30,17 @@ ScreenArea clientAreaOf(HWND window) {
     constexpr UINT kCorners = 2;
     static_cast<void>(
         ::MapWindowPoints(window, HWND_DESKTOP, reinterpret_cast<POINT*>(&area), kCorners));
-    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right),
-            static_cast<int>(area.bottom)};
+    return {.left = static_cast<int>(area.left),
+            .top = static_cast<int>(area.top),
+            .right = static_cast<int>(area.right),
+            .bottom = static_cast<int>(area.bottom)};
 }
 
 BOOL CALLBACK visitOne(HWND window, LPARAM context) {
     auto& visit = *reinterpret_cast<Visit*>(context);
     try {
-        const TopWindow shown = {titleOf(window), [window] { return clientAreaOf(window); }};
+        const TopWindow shown = {.title = titleOf(window),
+                                 .clientArea = [window] { return clientAreaOf(window); }};
         return visit.visitor(shown) ? TRUE : FALSE;
     } catch (...) {
         visit.thrown = std::current_exception();
@@ -48,7 +51,7 @@ BOOL CALLBACK visitOne(HWND window, LPARAM context) {
 }  // namespace
 
 void visitTopWindows(const std::function<bool(const TopWindow&)>& visitor) {
-    Visit visit = {visitor, nullptr};
+    Visit visit = {.visitor = visitor, .thrown = nullptr};
     // It fails where a visit ended it, and where there is no desktop: no windows then.
     static_cast<void>(::EnumWindows(&visitOne, reinterpret_cast<LPARAM>(&visit)));
     if (visit.thrown) {
