@@ -4,12 +4,7 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::CommandControl;
-using adsk::core::CommandCreatedEventHandler;
-using adsk::core::CommandDefinition;
-using adsk::core::CommandDefinitions;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 AddinCommand::AddinCommand(const CommandTexts& texts,
                            std::unique_ptr<CommandCreatedEventHandler> handler)

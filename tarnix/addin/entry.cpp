@@ -18,21 +18,9 @@
 #include <cstddef>
 #include <string>
 
-using adsk::core::Application;
-using adsk::core::CommandControl;
-using adsk::core::CommandDefinition;
-using adsk::core::Palette;
-using adsk::core::Palettes;
-using adsk::core::Ptr;
-using adsk::core::ToolbarPanel;
-using adsk::core::ToolbarPanelList;
-using adsk::core::ToolbarPanels;
-using adsk::core::ToolbarTab;
-using adsk::core::ToolbarTabList;
-using adsk::core::Workspace;
-using adsk::core::Workspaces;
-
 namespace tarnix {
+
+using namespace adsk::core;
 
 namespace {
 

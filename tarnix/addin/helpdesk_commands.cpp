@@ -14,12 +14,7 @@
 
 namespace tarnix {
 
-using adsk::core::Base;
-using adsk::core::CommandControl;
-using adsk::core::CommandDefinition;
-using adsk::core::CommandDefinitions;
-using adsk::core::Ptr;
-using adsk::core::ToolbarControls;
+using namespace adsk::core;
 
 std::vector<Ptr<CommandDefinition>> helpdeskCommandDefinitions;
 

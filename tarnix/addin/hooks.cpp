@@ -10,22 +10,8 @@
 
 namespace tarnix {
 
-using adsk::core::ApplicationCommandEvent;
-using adsk::core::ApplicationCommandEventArgs;
-using adsk::core::Base;
-using adsk::core::CommandControl;
-using adsk::core::CommandDefinition;
-using adsk::core::LinearMarkingMenu;
-using adsk::core::MarkingMenuEvent;
-using adsk::core::MarkingMenuEventArgs;
-using adsk::core::Ptr;
-using adsk::core::ToolbarControls;
-using adsk::core::ToolbarPanel;
-using adsk::core::ToolbarPanels;
-using adsk::core::Workspace;
-using adsk::core::WorkspaceEvent;
-using adsk::core::WorkspaceEventArgs;
-using adsk::fusion::Sketch;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 MyWorkspaceActivatedEventHandler workspaceActivatedEventHandler;
 MyCommandStartingEventHandler commandStartingEventHandler;

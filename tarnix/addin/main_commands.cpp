@@ -17,10 +17,7 @@
 
 namespace tarnix {
 
-using adsk::core::CommandControl;
-using adsk::core::Ptr;
-using adsk::core::ToolbarControls;
-using adsk::core::Workspace;
+using namespace adsk::core;
 
 namespace {
 

@@ -7,11 +7,7 @@
 
 namespace tarnix {
 
-using adsk::core::Ptr;
-using adsk::core::ToolbarControls;
-using adsk::core::ToolbarPanel;
-using adsk::core::ToolbarPanels;
-using adsk::core::Workspace;
+using namespace adsk::core;
 
 const std::vector<std::string> workspaceIds = {"FusionSolidEnvironment", "CAMEnvironment"};
 

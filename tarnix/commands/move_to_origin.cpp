@@ -10,11 +10,9 @@ namespace tarnix {
 namespace {
 
 using namespace adsk::core;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
+using namespace adsk::fusion;
 
-using Occurrences = std::vector<Ptr<Occurrence>>;
+using OccurrenceVector = std::vector<Ptr<Occurrence>>;
 
 Ptr<SelectionCommandInput> addOccurrenceInput(const Ptr<CommandInputs>& inputs) {
     Ptr<SelectionCommandInput> input =
@@ -29,8 +27,8 @@ Ptr<BoolValueCommandInput> addGroundInput(const Ptr<CommandInputs>& inputs) {
                                      /*resourceFolder=*/"", /*initialValue=*/false);
 }
 
-Occurrences selectedOccurrences(const Ptr<SelectionCommandInput>& input) {
-    Occurrences result;
+OccurrenceVector selectedOccurrences(const Ptr<SelectionCommandInput>& input) {
+    OccurrenceVector result;
     const std::size_t count = input->selectionCount();
     for (std::size_t index = 0; index < count; ++index) {
         const Ptr<Occurrence> occurrence = input->selection(index)->entity();
@@ -43,7 +41,7 @@ Occurrences selectedOccurrences(const Ptr<SelectionCommandInput>& input) {
 }
 
 /// Places all of them at the root's origin, in one step of the host.
-void moveToOrigin(const Ptr<Component>& root, const Occurrences& occurrences,
+void moveToOrigin(const Ptr<Component>& root, const OccurrenceVector& occurrences,
                   const Ptr<Matrix3D>& origin) {
     if (root->occurrences()->count() > 0) {
         const std::vector<Ptr<Matrix3D>> transforms(occurrences.size(), origin);
@@ -51,7 +49,7 @@ void moveToOrigin(const Ptr<Component>& root, const Occurrences& occurrences,
     }
 }
 
-void ground(const Occurrences& occurrences) {
+void ground(const OccurrenceVector& occurrences) {
     for (const Ptr<Occurrence>& occurrence : occurrences) {
         occurrence->isGrounded(true);
     }
@@ -61,7 +59,7 @@ void ground(const Occurrences& occurrences) {
 
 void MoveCompToOriginCmdExecuteHendler::notify(const Ptr<CommandEventArgs>& /*eventArgs*/) {
     const Ptr<Matrix3D> origin = Matrix3D::create();
-    const Occurrences occurrences = selectedOccurrences(selectionInput);
+    const OccurrenceVector occurrences = selectedOccurrences(selectionInput);
     const Ptr<Design> design = Application::get()->activeProduct();
     if (!design) {
         return;

@@ -6,15 +6,8 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::Command;
-using adsk::core::CommandCreatedEventArgs;
-using adsk::core::CommandEventArgs;
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
-using adsk::fusion::Sketch;
-using adsk::fusion::SketchCurve;
-using adsk::fusion::SketchCurves;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 void ProjEntitAsConstrCmdExecuteHandler::notify(const Ptr<CommandEventArgs>& /*eventArgs*/) {
     const Ptr<Sketch> sketch = Application::get()->activeEditObject();

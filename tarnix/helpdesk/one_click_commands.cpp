@@ -10,10 +10,7 @@
 
 namespace tarnix {
 
-using adsk::core::Command;
-using adsk::core::CommandCreatedEventArgs;
-using adsk::core::CommandEventArgs;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 OnExecuteEventHandler onExecuteEventHandler;
 CommandCreatedEventHandler commandCreatedEventHandler;

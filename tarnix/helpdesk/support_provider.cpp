@@ -14,14 +14,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Application;
-using adsk::core::CommandControl;
-using adsk::core::Ptr;
-using adsk::core::ToolbarControls;
-using adsk::core::ToolbarPanel;
-using adsk::core::ToolbarPanels;
-using adsk::core::UserInterface;
-using adsk::core::Workspace;
+using namespace adsk::core;
 
 /// The helpdesk panel of the active workspace; null if anything on the way is missing.
 Ptr<ToolbarPanel> helpdeskPanel(const Ptr<UserInterface>& userInterface) {

@@ -5,10 +5,7 @@
 
 namespace tarnix {
 
-using adsk::core::ButtonRowCommandInput;
-using adsk::core::ListItem;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 namespace {
 

@@ -14,22 +14,8 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::Command;
-using adsk::core::CommandCreatedEventArgs;
-using adsk::core::CommandEventArgs;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::GroupCommandInput;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::Ptr;
-using adsk::core::Selection;
-using adsk::core::SelectionCommandInput;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
-using adsk::core::TextBoxCommandInput;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace {
 

@@ -10,25 +10,8 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::Base;
-using adsk::core::CommandInputs;
-using adsk::core::Data;
-using adsk::core::DataFile;
-using adsk::core::DataFiles;
-using adsk::core::DataFolder;
-using adsk::core::DataFolders;
-using adsk::core::DataProject;
-using adsk::core::Document;
-using adsk::core::Ptr;
-using adsk::core::Selection;
-using adsk::core::SelectionCommandInput;
-using adsk::core::Selections;
-using adsk::core::UserInterface;
-using adsk::core::Workspace;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace {
 
@@ -87,7 +70,7 @@ Found fileOfReference(const Ptr<Application>& application, const Ptr<Occurrence>
         meetProjectFiles(application);
         file = document->dataFile();
     }
-    return {file, /*isReferenced=*/true};
+    return {.file = file, .isReferenced = true};
 }
 
 /// Whether an entity brings its own document in: an occurrence of a referenced component, and not
@@ -102,7 +85,7 @@ bool isReference(const Ptr<Design>& design, const Ptr<Base>& entity) {
 }
 
 Found fileOfActive(const Ptr<Application>& application) {
-    return {fileOf(application->activeDocument()), /*isReferenced=*/false};
+    return {.file = fileOf(application->activeDocument())};
 }
 
 /// The file of what is selected where that is one entity and it is picked for the dialog, else that

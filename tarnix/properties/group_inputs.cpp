@@ -6,15 +6,7 @@
 
 namespace tarnix {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::ButtonRowCommandInput;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::GroupCommandInput;
-using adsk::core::ListItem;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
+using namespace adsk::core;
 
 namespace {
 

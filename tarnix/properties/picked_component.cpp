@@ -2,12 +2,8 @@
 
 namespace tarnix {
 
-using adsk::core::Base;
-using adsk::core::Ptr;
-using adsk::core::Selection;
-using adsk::core::SelectionCommandInput;
-using adsk::fusion::Component;
-using adsk::fusion::Occurrence;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 Ptr<Selection> lastSelection(const Ptr<SelectionCommandInput>& input) {
     // With nothing picked the index is not valid, and the host has no selection for it.

@@ -10,16 +10,7 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::ButtonRowCommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::GroupCommandInput;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::SelectionCommandInput;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 
 int filledRowCounter = 15072;
 int addedRowCounter = 15095;
@@ -35,11 +26,12 @@ struct StructureButton {
     const char* iconFolder;
 };
 
-constexpr StructureButton kStructureButtons[] = {{"Produce", "resources/_Produce"},
-                                                 {"Buy", "resources/_Buy"},
-                                                 {"AsPart", "resources/_AsPart"},
-                                                 {"Divided", "resources/_Divided"},
-                                                 {"Reference", "resources/_Reference"}};
+constexpr StructureButton kStructureButtons[] = {
+    {.caption = "Produce", .iconFolder = "resources/_Produce"},
+    {.caption = "Buy", .iconFolder = "resources/_Buy"},
+    {.caption = "AsPart", .iconFolder = "resources/_AsPart"},
+    {.caption = "Divided", .iconFolder = "resources/_Divided"},
+    {.caption = "Reference", .iconFolder = "resources/_Reference"}};
 
 constexpr const char* kTableDescription =
     R"(<div align="left">User-defined properties of component.</div>)";

@@ -6,10 +6,8 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Attribute;
-using adsk::core::Attributes;
-using adsk::core::Ptr;
-using adsk::fusion::Component;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 constexpr std::size_t kModelKeyCount = 3;
 
@@ -27,15 +25,15 @@ ComponentProperties readComponentProperties(Ptr<Component> component) {
     }
     auto& entries = properties.entries;
     entries.reserve(kModelKeyCount);
-    entries.push_back({kPartNumberKey, component->partNumber()});
-    entries.push_back({kPartNameKey, component->name()});
-    entries.push_back({kDescriptionKey, component->description()});
+    entries.push_back({.name = kPartNumberKey, .value = component->partNumber()});
+    entries.push_back({.name = kPartNameKey, .value = component->name()});
+    entries.push_back({.name = kDescriptionKey, .value = component->description()});
     const auto ofGroup = attributes->itemsByGroup(kPropertiesAttributesGroup);
     entries.reserve(kModelKeyCount + ofGroup.size());
     for (const auto& attribute : ofGroup) {
         std::string name = attribute->name();
         if (!isModelKey(name)) {
-            entries.push_back({std::move(name), attribute->value()});
+            entries.push_back({.name = std::move(name), .value = attribute->value()});
         }
     }
     return properties;

@@ -7,14 +7,7 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 namespace {
 

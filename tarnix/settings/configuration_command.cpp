@@ -6,15 +6,7 @@
 
 namespace tarnix {
 
-using adsk::core::Command;
-using adsk::core::CommandCreatedEventArgs;
-using adsk::core::CommandEventArgs;
-using adsk::core::CommandInputs;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::RadioButtonGroupCommandInput;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 namespace {
 
