@@ -113,7 +113,7 @@ TEST_F(RefusedRun, NeedsTheEventOfEachHook) {
 }
 
 TEST_F(RefusedRun, NeedsOnlyTheHookOnActivatedWorkspaces) {
-    // Behind the handlers of eight main commands and of eight of the helpdesk.
+    // After the handlers of eight main commands and of eight of the helpdesk.
     EXPECT_TRUE(runsWithout("Event::add", 16 + 1));
     EXPECT_FALSE(runsWithout("Event::add", 16 + 2));
     EXPECT_TRUE(runsWithout("Event::add", 16 + 3));

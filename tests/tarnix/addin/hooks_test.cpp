@@ -65,7 +65,7 @@ protected:
 
     void finishSketch() { host::ApplicationObject::current()->setActiveEditObject(nullptr); }
 
-    /// Starts a command of the host's own.
+    /// Starts a command of the host.
     void startAnyCommand() {
         if (!definition("AnyCommand")) {
             ui()->commandDefinitions()->addButtonDefinition("AnyCommand", "Any", "");

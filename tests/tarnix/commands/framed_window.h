@@ -5,7 +5,7 @@
 
 namespace test_support {
 
-/// A real window with a frame around it, in front of all others.
+/// A real window with a frame around it, above all others.
 class FramedWindow {
 public:
     /// Shows the window, its inside being that part of the screen.

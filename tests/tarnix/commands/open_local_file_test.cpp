@@ -19,12 +19,12 @@ std::uint64_t calls(const std::string& name) { return host::gate::count(name); }
 /// The formats of the options that were made, of the calls recorded.
 std::vector<std::string> factoriesCalled() {
     const std::string before = "ImportManager::create";
-    const std::string behind = "ImportOptions";
+    const std::string after = "ImportOptions";
     std::vector<std::string> formats;
     for (const std::string& call : host::gate::recorded()) {
         if (call.rfind(before, 0) == 0) {
             formats.push_back(
-                call.substr(before.size(), call.size() - before.size() - behind.size()));
+                call.substr(before.size(), call.size() - before.size() - after.size()));
         }
     }
     return formats;
@@ -147,7 +147,7 @@ TEST_F(OpenLocalFile, InventorFileInUpperCaseIsUploadedWithTheLowerCasedPath) {
 
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "data" / "Workshop" / "model.ipt"));
     EXPECT_EQ(uploaded(), Texts{"model"});
-    // The design's own name, which the file's content tells.
+    // The design's name, which is in the file's content.
     EXPECT_EQ(opened(), Texts{"MODEL"});
     EXPECT_EQ(messages(), Texts());
     EXPECT_EQ(uncaughtExceptions(), "");

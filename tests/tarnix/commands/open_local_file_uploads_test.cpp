@@ -20,7 +20,7 @@ constexpr const char* kStillConverting =
 
 class OpenLocalFileUploads : public OpenLocalFileTest {
 protected:
-    /// Lets time pass when nobody waits.
+    /// Lets time pass while no call waits.
     static void passSeconds(int seconds) {
         host::clock::advance(std::chrono::seconds(seconds));
         host::runPosted();
@@ -73,7 +73,7 @@ TEST_F(OpenLocalFileUploads, TurnsToTheConversionWithZero) {
     std::optional<host::Progress> seen;
     host::clock::schedule(4, [&] { seen = host::progressDialog(); });
     // At 4 the upload's wait ends. The host looks at its clock once before the text changes, which
-    // would be too early; after one call behind the upload, four in the wait, this is the sixth.
+    // would be too early; after one call after the upload, four in the wait, this is the sixth.
     host::gate::refuse("adsk::doEvents", 6);
 
     pick({design("model.ipt")});
@@ -255,7 +255,7 @@ TEST_F(OpenLocalFileUploads, DialogOpenedDuringAWaitClosesWhenTheFileBecomesTheA
 
 class OpenLocalFileWithoutProject : public OpenLocalFileTest {
 protected:
-    // No folder stands in for the user's data.
+    // No folder is used for the user's data.
     void SetUp() override { AddinTest::SetUp(); }
 };
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// A test of a command that shows a palette, at a screen of the test's own.
+/// A test of a command that shows a palette, at the test's screen.
 class PaletteTest : public test_support::AddinTest {
 protected:
     /// The windows on the screen, the foremost first.
@@ -29,7 +29,7 @@ protected:
         return palettes()->itemById(id);
     }
 
-    /// What the host has been told of a palette, with what its API does not tell again.
+    /// What was set on a palette, with what its API does not return.
     static host::ui::PaletteState stateOf(const std::string& id) {
         return host::ApplicationObject::current()->ui().allPalettes().find(id)->state;
     }

@@ -1,4 +1,4 @@
-// Units Conversion at real windows, on a display of the test's own of 800 by 600 pixels.
+// Units Conversion at real windows, on the test's display of 800 by 600 pixels.
 
 #include "tests/tarnix/commands/framed_window.h"
 #include "tests/tarnix/commands/palette_fixture.h"

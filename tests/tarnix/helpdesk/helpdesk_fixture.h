@@ -11,7 +11,7 @@
 
 namespace test_support {
 
-/// The helpdesk buttons, pressed in a session whose support folder is its own.
+/// The helpdesk buttons, pressed in a session with a support folder of its own.
 ///
 /// The session sees no display, whatever the environment has.
 class HelpdeskTest : public AddinTest {
@@ -19,7 +19,7 @@ protected:
     HelpdeskTest();
     ~HelpdeskTest() override;
 
-    /// Presses the button of a command by what its id has behind "QM_HD_".
+    /// Presses the button of a command by what follows "QM_HD_" in its id.
     void press(const std::string& command) { session->press("QM_HD_" + command); }
 
     /// Where the support folder of the session is, once it is made.

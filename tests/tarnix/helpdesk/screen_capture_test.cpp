@@ -121,7 +121,7 @@ TEST_F(ScreenCapture, IsOfTheWholeScreen) {
 }
 
 TEST_F(ScreenCapture, IsLargerThanTheDesktopWithAMonitorToTheLeft) {
-    // A monitor of 640 by 600 in front of one of 800 by 600 at the origin: 1440 pixels from -640
+    // A monitor of 640 by 600 to the left of one of 800 by 600 at the origin: 1440 pixels from -640
     // on.
     startWithScreen({-640, 0, 800, 600});
     press("captureScreen");

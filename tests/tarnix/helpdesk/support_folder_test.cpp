@@ -116,7 +116,7 @@ class SupportFolderBelow : public HelpdeskTest {
 protected:
     ~SupportFolderBelow() override { session.reset(); }
 
-    /// Starts over, two levels below a folder of the test's own: what the low bytes of a name
+    /// Starts over, two levels below the test's folder: what the low bytes of a name
     /// spell may be another folder.
     void restartBelow(const std::u8string& name) {
         session.reset();

@@ -19,7 +19,7 @@ protected:
         return {text.begin(), text.end()};
     }
 
-    /// All that a search has behind its first entry, with "/" behind folders and "!" behind what is
+    /// All that a search has after its first entry, with "/" after folders and "!" after what is
     /// read-only; "nothing" where it has no first entry.
     [[nodiscard]] std::string found(const std::string& pattern) const {
         FolderSearch search(wide(pattern));

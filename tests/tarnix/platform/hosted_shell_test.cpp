@@ -12,7 +12,7 @@ std::vector<std::string> asked;
 
 }  // namespace
 
-// What a stand-in process shows to the modules that it loads.
+// What a stand-in process exports to the modules that it loads.
 extern "C" XI_EXPORT StandInAnswer standin_openWithShell(const char* target) {
     asked.emplace_back(target);
     return answer;

@@ -27,7 +27,7 @@ StandInAnswer answerTo(const std::string& question) {
 
 }  // namespace
 
-// What a stand-in process shows to the modules that it loads.
+// What a stand-in process exports to the modules that it loads.
 extern "C" XI_EXPORT StandInAnswer standin_sleep(int milliseconds) {
     return answerTo("sleep " + std::to_string(milliseconds));
 }

@@ -15,7 +15,7 @@ std::string seen;
 
 }  // namespace
 
-// What a stand-in process shows to the modules that it loads: two windows, the foremost first.
+// What a stand-in process exports to the modules that it loads: two windows, the foremost first.
 extern "C" XI_EXPORT StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
     const StandInArea front = {10, 20, 40, 60};
     const StandInArea back = {-5, 0, 5, 10};

@@ -10,10 +10,10 @@
 
 namespace tarnix::platform {
 
-/// Loads copies of a small module that tells its path.
+/// Loads copies of a small module that returns its path.
 class ModulePath : public testing::Test {
 protected:
-    /// What the module tells when it lies at `path`.
+    /// What the module returns when it lies at `path`.
     static std::string pathOfProbeAt(const std::filesystem::path& path) {
         std::filesystem::copy_file(MODULE_PATH_PROBE, path);
         const auto module = test::loadModule(path);

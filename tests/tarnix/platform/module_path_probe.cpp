@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// A module that tells its own path to the test which loads it.
+/// A module that returns its path to the test that loads it.
 extern "C" XI_EXPORT const char* probeModulePath() {
     static std::string path;
     path = tarnix::platform::modulePath();

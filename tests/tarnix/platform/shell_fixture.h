@@ -12,7 +12,7 @@
 
 namespace tarnix::platform {
 
-/// Tests of what the system's opener is asked. A recorder stands in for it, which adds a line for
+/// Tests of what the system's opener is asked. A recorder replaces it, which adds a line for
 /// each call to the file that the environment names.
 class Shell : public testing::Test {
 protected:

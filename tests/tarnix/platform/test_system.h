@@ -19,7 +19,7 @@ std::filesystem::path longPath(const std::filesystem::path& path);
 /// The number of this process.
 long processNumber();
 
-/// Tells whether anybody reads a file from now on.
+/// Observes whether a file is read from now on.
 class ReadWatch {
 public:
     explicit ReadWatch(std::filesystem::path file);
@@ -30,7 +30,7 @@ private:
     std::filesystem::path file_;
 };
 
-/// While it lives, a file may be read and written but not deleted. Tell it by `isEffective` where
+/// While it lives, a file may be read and written but not deleted. Check `isEffective` where
 /// the system could not be brought to that.
 class Undeletable {
 public:

@@ -23,7 +23,7 @@ HRESULT comError(Action action) {
     return 0;
 }
 
-/// What is between the declaration and the end, where systems write line ends of their own.
+/// What is between the declaration and the end, where the line ends differ between systems.
 inline std::string rootOf(const std::string& document) {
     const std::size_t begin = document.find("<configuration");
     const std::string end = "</configuration>";

@@ -6,12 +6,13 @@ namespace {
 
 class XmlLoad : public Xml {
 protected:
-    /// Reads a document that names a file "secret.txt" beside it, and tells whether that was read.
+    /// Reads a document that names a file "secret.txt" beside it, and returns whether that was
+    /// read.
     bool readsSecretFor(const std::string& content) {
         folder.write("secret.txt", "<!ENTITY e 'secret'>");
         const test::ReadWatch control(folder.path() / "secret.txt");
         EXPECT_NE(folder.read("secret.txt"), "");
-        EXPECT_TRUE(control.wasRead()) << "this file system does not tell who reads";
+        EXPECT_TRUE(control.wasRead()) << "this file system does not report reads";
 
         const test::ReadWatch watch(folder.path() / "secret.txt");
         EXPECT_FALSE(read(content));
@@ -77,11 +78,11 @@ TEST_F(XmlLoad, OtherEncodingsAreUnderstood) {
 }
 
 TEST_F(XmlLoad, DeclarationAndCommentsAreChildrenOfTheDocument) {
-    read("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- by hand -->\n<r/>");
+    read("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- manual -->\n<r/>");
     ASSERT_EQ(document.childNodes().length(), 3);
     EXPECT_EQ(document.firstChild().nodeName(), "xml");
     EXPECT_EQ(document.firstChild().nodeValue(), "version=\"1.0\" encoding=\"UTF-8\"");
-    EXPECT_EQ(document.childNodes().item(1).nodeValue(), " by hand ");
+    EXPECT_EQ(document.childNodes().item(1).nodeValue(), " manual ");
 }
 
 TEST_F(XmlLoad, DocumentTypeIsRefused) {

@@ -8,7 +8,7 @@ namespace {
 
 class PropertiesOk : public PropertiesTest {
 protected:
-    /// Runs the handlers of OK although the host would not let a person press it.
+    /// Runs the handlers of OK although the host would not let the user press it.
     static void forceOk() { host::acceptAnyway(); }
 
     /// Accepts an edited dialog with one host call refused.

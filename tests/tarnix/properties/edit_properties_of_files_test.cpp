@@ -44,7 +44,8 @@ protected:
         session->ok();
     }
 
-    /// Gives a component its attributes: the BOM writes a custom property only where there is one.
+    /// Adds the attributes to a component: the BOM writes a custom property only where there is
+    /// one.
     void acceptInDialog(const std::string& path) {
         openAndPick(path);
         session->ok();

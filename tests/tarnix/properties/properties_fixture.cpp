@@ -210,11 +210,11 @@ std::string PropertiesTest::savedList() const {
     if (from == std::string::npos) {
         return "none";
     }
-    const std::size_t behind = from + start.size();
-    if (bytes.compare(behind, 2, "/>") == 0) {
+    const std::size_t after = from + start.size();
+    if (bytes.compare(after, 2, "/>") == 0) {
         return "";
     }
-    return bytes.substr(behind + 1, bytes.find("</category>", behind) - behind - 1);
+    return bytes.substr(after + 1, bytes.find("</category>", after) - after - 1);
 }
 
 bool PropertiesTest::isEnabled(const std::string& id) const {

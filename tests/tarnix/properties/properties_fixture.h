@@ -55,7 +55,7 @@ protected:
     void showList();
 
     /// The inputs of a collection, a line each: kind, id, name in quotes, what it holds, and what
-    /// is special about it. "" stands for the dialog itself, else the id of a tab or a group.
+    /// is special about it. "" is the dialog itself, else the id of a tab or a group.
     [[nodiscard]] std::string inputsOf(const std::string& container) const;
 
     /// The texts of the properties, the buttons that are on in front: "Buy | B-1 | Bolt | | red".
@@ -64,7 +64,7 @@ protected:
     /// The open design as a design file would have it.
     [[nodiscard]] std::string wholeDesign() const;
 
-    /// The captions of the buttons that are on, with a blank between them.
+    /// The captions of the buttons that are on, with a space between them.
     [[nodiscard]] std::string buttonsOn() const;
 
     /// What a line of text holds.
@@ -79,7 +79,7 @@ protected:
     /// Where the host has the cell of a row of the list: "row 0, column 0, spans 0 and 0".
     [[nodiscard]] std::string placeOfCell(int row) const;
 
-    /// What a path of the browser tree stands for.
+    /// The entity of a path of the browser tree.
     [[nodiscard]] static adsk::core::Ptr<adsk::core::Base> entity(const std::string& path);
 
     /// The id of the input in a row of the list.
@@ -96,7 +96,7 @@ protected:
 };
 
 /// Shows what a component holds: part number, name, description and attributes of the group, as the
-/// design has them. Components are told by their names.
+/// design has them. Components are found by their names.
 std::string stored(const host::DesignData& design, const std::string& component);
 
 }  // namespace tarnix

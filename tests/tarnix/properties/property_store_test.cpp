@@ -44,8 +44,8 @@ template <class Action>
 bool raisesAPlainException(Action action) {
     try {
         action();
-    } catch (const std::exception& thrown) {
-        return typeid(thrown) == typeid(std::exception);
+    } catch (const std::exception& exception) {
+        return typeid(exception) == typeid(std::exception);
     }
     return false;
 }

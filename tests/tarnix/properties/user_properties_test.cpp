@@ -18,7 +18,7 @@ protected:
         return box->numRows();
     }
 
-    /// Pastes a name into the only row, and tells whether it can be saved.
+    /// Pastes a name into the only row, and returns whether it can be saved.
     bool accepts(const std::string& name) {
         host::pasteText(session->table(kTable)->getInputAtPosition(0, 0), name);
         EXPECT_EQ(box(kMessage), isEnabled(kSave) ? kNotice : kIncorrect);

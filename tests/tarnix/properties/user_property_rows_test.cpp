@@ -11,7 +11,7 @@ using adsk::core::Ptr;
 using adsk::core::StringValueCommandInput;
 using adsk::core::TableCommandInput;
 
-/// The table of the custom properties alone, in a dialog of the test's own.
+/// The table of the custom properties alone, in the test's dialog.
 class UserPropertyRows : public host::HostTest {
 protected:
     UserPropertyRows() {

@@ -19,7 +19,7 @@ class Configuration : public test_support::AddinTest {
 protected:
     void openConfiguration() { session->press("QM_TX_configuration"); }
 
-    /// Stores an address, as it stands in XML.
+    /// Stores an address, given as it is in XML.
     void store(const std::string& url) {
         test_support::writeFile(settingsFile(), document("<www>" + url + "</www>"));
     }
@@ -215,7 +215,7 @@ TEST_F(Configuration, CancelledWritesNothing) {
 }
 
 TEST_F(Configuration, WithoutACategoryForTheProviderSavesTheSettingsAsTheyAre) {
-    // The quotes tell whether they were written again.
+    // The quotes show whether they were written again.
     test_support::writeFile(settingsFile(),
                             "<configuration><category name='mine'><a/></category>"
                             "</configuration>");

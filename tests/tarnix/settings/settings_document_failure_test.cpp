@@ -17,8 +17,8 @@ protected:
         "<category name=\"bomItems\"><i id=\"b\"><d>2</d></i></category>";
 
     /// Writes again and again, each time from the same settings, with the first, the second, ...
-    /// allocation failing until none is left to fail. What stood in the file after a write that
-    /// thrown, each content once.
+    /// allocation failing until none is left to fail. What was in the file after a write that
+    /// threw, each content once.
     std::set<std::string> leftByFailures(const std::function<void()>& write) {
         std::set<std::string> contents;
         for (long nth = 1; nth < 100000; ++nth) {

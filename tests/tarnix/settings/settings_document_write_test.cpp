@@ -161,7 +161,7 @@ protected:
         const platform::XmlNodeList children = document.documentElement().childNodes();
         const std::string element = "category";
         const std::string attribute = "name";
-        const std::string value = "a long name that needs memory of its own";
+        const std::string value = "a long name that is stored on the heap";
         std::string outcomes;
         for (long nth = 1; nth < 1000; ++nth) {
             bool hasFailed = false;

@@ -20,7 +20,7 @@ inline void replaceItems(const std::string& categoryName, const Items& items,
         categoryName, [&items] { return items; }, missing);
 }
 
-/// Tests of the settings of a module that lies in a folder of the test's own. COM is ready, as it
+/// Tests of the settings of a module that lies in the test's folder. COM is ready, as it
 /// is on a host's thread.
 class Settings : public testing::Test {
 protected:

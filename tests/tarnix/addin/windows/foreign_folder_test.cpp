@@ -7,7 +7,7 @@ namespace test_support {
 namespace {
 
 /// The add-in in a folder whose name holds a letter that no single-byte code page has. The path of
-/// the settings has a blank in its place, and no such folder is there.
+/// the settings has a space in its place, and no such folder is there.
 class FolderBeyondTheCodePage : public AddinUiTest {
 protected:
     [[nodiscard]] host::SessionOptions options() const override {
@@ -17,7 +17,7 @@ protected:
     }
 };
 
-/// The add-in in a folder whose name holds a blank and a letter of the western code page.
+/// The add-in in a folder whose name holds a space and a letter of the western code page.
 class FolderOfTheCodePage : public AddinUiTest {
 protected:
     void SetUp() override {

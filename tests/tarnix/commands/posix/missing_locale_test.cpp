@@ -10,7 +10,7 @@ namespace {
 
 using OpenLocalFileWithoutLocale = OpenLocalFileTest;
 
-// In a process of its own: what the C library takes for the search, it does not give back.
+// In a process of its own: what the C library allocates for the search, it does not free.
 TEST_F(OpenLocalFileWithoutLocale, ThrowsForTheFirstFile) {
     const std::string file = design("part.f3d");
 

@@ -28,7 +28,7 @@ private:
     bool isEffective_;
 };
 
-/// A folder in which everybody may make files, and delete no others' files than their own.
+/// A folder in which all users may make files, and delete only their own.
 class FolderDeletionOfPosix : public testing::Test {
 protected:
     void SetUp() override {

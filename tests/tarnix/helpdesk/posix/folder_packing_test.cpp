@@ -55,7 +55,7 @@ protected:
         ASSERT_GT(fs::file_size(archive()), kEmpty);
     }
 
-    /// The file of the folder that the packing comes to behind all others.
+    /// The file of the folder that the packing comes to after all others.
     [[nodiscard]] fs::path lastFile() const {
         fs::path last;
         for (const fs::directory_entry& entry : fs::directory_iterator(supportFolder())) {

@@ -10,13 +10,13 @@
 
 namespace test_support {
 
-/// A file that whoever opens it has to wait for, until it is let go. A lease on the file, which not
+/// A file that cannot be opened until it is released. A lease on the file, which not
 /// every file system has.
 class HeldFile {
 public:
     explicit HeldFile(const std::filesystem::path& file)
         : descriptor_(::open(file.c_str(), O_RDWR | O_CLOEXEC)) {
-        // The system tells of the waiting by a signal; this one is ignored where nobody wants it.
+        // The system reports the waiting by a signal, which is ignored unless a handler is set.
         ::fcntl(descriptor_, F_SETSIG, SIGURG);
         isHeld_ = ::fcntl(descriptor_, F_SETLEASE, F_WRLCK) == 0;
     }
@@ -30,7 +30,7 @@ public:
     /// False where the file system does not do that.
     [[nodiscard]] bool isHeld() const { return isHeld_; }
 
-    /// Waits until somebody waits for the file; false if nobody does for half a minute.
+    /// Waits until a process waits to open the file; false if none does for half a minute.
     [[nodiscard]] bool waitUntilAsked() const {
         for (int i = 0; i < 600 && ::fcntl(descriptor_, F_GETLEASE) == F_WRLCK; ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(50));

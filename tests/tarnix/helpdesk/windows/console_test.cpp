@@ -18,7 +18,7 @@ bool comesToBe(HWND window, BOOL shown) {
     return ::IsWindowVisible(window) == shown;
 }
 
-/// Runs a test of this program in a process with a console window of its own; its exit status.
+/// Runs a test of this program in a process with its own console window; its exit status.
 DWORD runInNewConsole(const std::wstring& test) {
     std::array<wchar_t, 1024> program = {};
     ::GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));

@@ -26,7 +26,7 @@ protected:
         fs::create_directory(supportFolder());
     }
 
-    /// The archive of a folder with one more file, right behind the command.
+    /// The archive of a folder with one more file, right after the command.
     std::string pack() {
         put("screen_001.png", "picture");
         press("compressFolder");

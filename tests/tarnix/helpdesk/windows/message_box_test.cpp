@@ -11,7 +11,7 @@
 namespace tarnix::platform {
 namespace {
 
-/// What a person finds in a message box.
+/// What the user finds in a message box.
 struct Seen {
     std::wstring text;
     bool hasOk = false;

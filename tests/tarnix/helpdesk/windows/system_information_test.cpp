@@ -10,7 +10,7 @@
 namespace test_support {
 namespace {
 
-/// What stands behind a caption and its colon in a list of the system below Wine.
+/// What follows a caption and its colon in a list of the system below Wine.
 std::string valueIn(const std::string& list, const std::string& caption) {
     std::ifstream file("Z:\\proc\\" + list);
     for (std::string line; std::getline(file, line);) {

@@ -24,7 +24,7 @@ protected:
         return std::u16string(text.begin(), text.end()) + name;
     }
 
-    /// The only entry besides the folder's own two.
+    /// The only entry besides "." and "..".
     [[nodiscard]] std::optional<FoundFile> onlyEntry() const {
         FolderSearch search(wide(u"*"));
         static_cast<void>(search.next());

@@ -32,7 +32,7 @@ TEST(CzechLocaleOnLinux, LeavesTheBytesOfOtherLettersAlone) {
               "elezo");
 }
 
-/// What is thrown for want of the locale, and the locale that there is then.
+/// What is thrown without the locale, and the locale that is set then.
 std::string complaint() {
     try {
         useCzechLocale();
@@ -42,7 +42,7 @@ std::string complaint() {
     return "none";
 }
 
-// In a process of its own: what the C library takes for the search, it does not give back.
+// In a process of its own: what the C library allocates for the search, it does not free.
 TEST(CzechLocaleOnLinux, IsABadNameWhereTheSystemDoesNotHaveIt) {
     EXPECT_EXIT(
         {

@@ -47,7 +47,7 @@ bool ReadWatch::wasRead() const {
 namespace {
 
 /// Takes from a folder the right to delete what it holds. The superuser has it anyway, and becomes
-/// somebody else for the while.
+/// another user meanwhile.
 struct ForbiddenFolder {
     explicit ForbiddenFolder(std::filesystem::path folder) : path(std::move(folder)) {
         ::chmod(path.c_str(), 0555);
