@@ -12,12 +12,7 @@ namespace test_support {
 /// The built program with a shell script in the place of the program that reads STEP files.
 class WorkbenchWithReader : public Workbench {
 protected:
-    void TearDown() override {
-        host::environment::setVariable(kLibraries, before_);
-        Workbench::TearDown();
-    }
-
-    /// The reader is looked for beside the host's library, so that goes along.
+    /// The reader is looked for beside the host's library, so that is copied as well.
     void readerIs(const std::string& script) {
         namespace fs = std::filesystem;
         const fs::path place = folder.path() / "reader";
@@ -26,19 +21,15 @@ protected:
         fs::copy_file(library, place / TEST_HOST_LIBRARY);
         writeFile(place / "step-reader", "#!/bin/sh\n" + script + "\n");
         fs::permissions(place / "step-reader", fs::perms::owner_all);
-        host::environment::setVariable(kLibraries, place.native());
+        variables.set("LD_LIBRARY_PATH", place);
     }
 
-    /// A file that is STEP as far as anybody but the reader looks.
+    /// A file that only its first line makes a STEP file.
     [[nodiscard]] std::string anyStep() const {
         const std::filesystem::path file = folder.path() / "a.step";
         writeFile(file, "ISO-10303-21;");
         return host::toUtf8(file);
     }
-
-private:
-    static constexpr const char* kLibraries = "LD_LIBRARY_PATH";
-    std::optional<host::environment::Text> before_ = host::environment::variable(kLibraries);
 };
 
 }  // namespace test_support

@@ -5,17 +5,16 @@
 #include "tests/support/run_program.h"
 #include "tests/support/settings.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/workbench/environment_variables.h"
 
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
-#include "host/session/environment.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,18 +23,7 @@ namespace test_support {
 /// The built program, with a user of its own who has not used it yet.
 class Workbench : public testing::Test {
 protected:
-    void SetUp() override {
-        for (const host::environment::Text& name : kDataVariables) {
-            before.push_back(host::environment::variable(name));
-            host::environment::setVariable(name, (folder.path() / "data").native());
-        }
-    }
-
-    void TearDown() override {
-        for (std::size_t i = 0; i < before.size(); ++i) {
-            host::environment::setVariable(kDataVariables[i], before[i]);
-        }
-    }
+    void SetUp() override { variables.setUserData(folder.path() / "data"); }
 
     /// A design file with a drawn design.
     std::string design(const std::string& outline, const std::string& name = "sample") {
@@ -52,7 +40,7 @@ protected:
         writeFile(settingsFile(), settingsDocument(items));
     }
 
-    /// Settings of this user with these children of their root.
+    /// Settings of this user with these children of the root element.
     void storeSettings(const std::string& categories) {
         std::filesystem::create_directories(addinCopy());
         writeFile(settingsFile(),
@@ -61,8 +49,7 @@ protected:
                       categories + "</configuration>\r\n");
     }
 
-    /// The root of this user's settings with all that it holds; the line ends around it are the
-    /// system's.
+    /// The root element of this user's settings; the line ends around it differ between systems.
     [[nodiscard]] std::string settingsRoot() const {
         const std::string bytes = readFile(settingsFile());
         const std::size_t from = std::min(bytes.find("<configuration"), bytes.size());
@@ -77,6 +64,11 @@ protected:
         return addinCopy() / "Tarnix_configuration.xml";
     }
 
+    /// A path in the test's folder, both in UTF-8.
+    [[nodiscard]] std::string path(const std::string& name) const {
+        return host::toUtf8(folder.path() / host::fromUtf8(name));
+    }
+
     [[nodiscard]] std::string out() const { return host::toUtf8(folder.path() / "out"); }
 
     static ProgramResult run(const std::vector<std::string>& arguments) {
@@ -84,13 +76,7 @@ protected:
     }
 
     TemporaryFolder folder;
-    std::vector<std::optional<host::environment::Text>> before;
-
-private:
-    /// The variables that name the place of a user's data, on either system.
-    const std::vector<host::environment::Text> kDataVariables = {
-        std::filesystem::path("XDG_DATA_HOME").native(),
-        std::filesystem::path("LOCALAPPDATA").native()};
+    EnvironmentVariables variables;
 };
 
 /// Two parts of 1 kg and 0.5 kg, the lighter one twice: boxes of 100 and 50 cm3 at 0.01 kg/cm3.
@@ -98,6 +84,10 @@ inline constexpr const char* kSmallDesign = R"(
     Frame  box=10x10x1 material=Sheet:0.01
     Bolt  box=10x5x1 material=Sheet:0.01
     Bolt)";
+
+inline host::DesignData loadDesign(const std::string& file) {
+    return host::loadDesignFile(host::fromUtf8(file));
+}
 
 inline std::string firstLines(const std::string& output, std::size_t count) {
     std::size_t end = 0;

@@ -1,7 +1,5 @@
 #include "workbench/cli/common_options.h"
 
-#include <CLI/CLI.hpp>
-
 namespace workbench {
 namespace {
 
@@ -24,29 +22,27 @@ void addFile(CLI::App& command, std::string& file) {
 }
 
 void addLimits(CLI::App& command, host::ReadingLimits& limits) {
-    addNumber(command, "--max-seconds", limits.seconds, "Give up reading after this time")
+    addNumber(command, "--max-seconds", limits.seconds, "Time limit for reading")
+        ->type_name("SECONDS")
         ->check(CLI::Range(1, 86400));
-    addNumber(command, "--max-memory", limits.megabytes, "Give up reading beyond this many MB")
+    addNumber(command, "--max-memory", limits.megabytes, "Memory limit for reading")
+        ->type_name("MB")
         ->check(CLI::Range(16, 1 << 20));
     addNumber(command, "--max-occurrences", limits.occurrences,
-              "Refuse a design that has more occurrences, those in a sub-assembly\n"
-              "counted again wherever it is used")
+              "Refuse a design with more occurrences; those in a sub-assembly count each\n"
+              "time it is used")
+        ->type_name("COUNT")
         ->check(CLI::Range(1, static_cast<int>(host::kMaximumOccurrences)));
 }
 
 void addAddin(CLI::App& command, std::string& folder) {
-    command.add_option("--addin", folder, "Another folder with the add-in")->type_name("DIR");
+    command.add_option("--addin", folder, "Use the add-in in this folder")->type_name("DIR");
 }
 
-void addSave(CLI::App& command, bool& save, std::string& file, const std::string& description) {
+void addSave(CLI::App& command, std::optional<std::string>& file, const std::string& description) {
     command
         .add_option_function<std::string>(
-            "--save",
-            [&save, &file](const std::string& named) {
-                save = true;
-                file = named;
-            },
-            description)
+            "--save", [&file](const std::string& named) { file = named; }, description)
         ->type_name("[FILE]")
         ->expected(0, 1)
         ->run_callback_for_default()

@@ -5,18 +5,18 @@
 
 namespace workbench {
 
-/// The exit status of the program. Anything but `Success` comes with a line on stderr, and with no
-/// output file written or changed, except by what opens several files.
+/// The exit status of the program. Anything but `Success` comes with one line on stderr, and with
+/// no output file written or changed, except by commands that open several files.
 enum class ExitCode : int {
     Success = 0,
     BadInput = 1,     ///< the given file cannot be read as a design, or not be measured
     BadUsage = 2,     ///< the command line makes no sense
     NoAddin = 3,      ///< the add-in is missing, cannot be started, or is in use by another process
-    AddinFailed = 4,  ///< the add-in threw something it ordinarily does not, or did not do its work
+    AddinFailed = 4,  ///< the add-in threw an unexpected exception, or did not do its work
     OutputFailed = 5,  ///< a result cannot be written
 };
 
-/// What ends the program with a line on stderr.
+/// Ends the program: its text is the line on stderr.
 class Failure : public std::runtime_error {
 public:
     Failure(ExitCode code, const std::string& line) : std::runtime_error(line), code_(code) {}
@@ -26,5 +26,10 @@ public:
 private:
     ExitCode code_;
 };
+
+/// Throws a `Failure` for wrong usage.
+[[noreturn]] inline void refuse(const std::string& line) {
+    throw Failure(ExitCode::BadUsage, line);
+}
 
 }  // namespace workbench

@@ -1,47 +1,28 @@
 #pragma once
 
-#include "workbench/commands/bom_command.h"
+#include "workbench/dialogs/bom_run.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
+/// The values of the options of `bom`. Each function throws a `Failure` for wrong usage.
 namespace workbench {
 
-/// A column to configure: a property, and the caption over it.
-struct ColumnWish {
-    std::string property;
-    std::string caption;
+/// "PROPERTY" or "PROPERTY=CAPTION" each; the caption is the property's name by default. No more
+/// than there are free columns, and no property twice.
+std::vector<ColumnChoice> parseColumns(const std::vector<std::string>& values);
 
-    bool operator==(const ColumnWish&) const = default;
-};
+/// "COLUMN", which may end in ":asc" or ":desc"; nothing for an empty string.
+std::optional<SortOrder> parseSort(const std::string& value);
 
-struct SortWish {
-    std::string column;
-    bool descending = false;
+/// "all" or a level from 1; nothing for an empty string.
+std::optional<int> parseLevels(const std::string& value);
 
-    bool operator==(const SortWish&) const = default;
-};
+/// "ROW:COLUMN=VALUE" each, with rows from 1.
+std::vector<CellEdit> parseEdits(const std::vector<std::string>& values);
 
-/// A cell to edit.
-struct CellEdit {
-    int row = 0;  ///< line of the list as it is printed, from 1
-    std::string column;
-    std::string value;
-
-    bool operator==(const CellEdit&) const = default;
-};
-
-/// What the command line wants done in the dialog.
-struct BomWishes {
-    std::vector<ColumnWish> columns;  ///< none: those of the settings stay
-    std::optional<SortWish> sort;
-    int levels = 1;  ///< of the tree to show
-    std::vector<CellEdit> cells;
-};
-
-/// Takes the options apart. Throws a `Failure` for wrong usage: a text that does not follow its
-/// form, more columns than there are, a wish that the chosen tab cannot fulfil.
-BomWishes readWishes(const BomOptions& options);
+/// Refuses what the chosen tab cannot do, and edits that are not to be saved.
+void checkRequest(const BomRequest& request);
 
 }  // namespace workbench

@@ -1,6 +1,7 @@
-#include "workbench/commands/configure_command.h"
-
+#include "workbench/cli/common_options.h"
 #include "workbench/cli/exit_code.h"
+#include "workbench/commands/commands.h"
+#include "workbench/dialogs/addin_ids.h"
 #include "workbench/dialogs/dialog_session.h"
 #include "workbench/output/display_text.h"
 
@@ -12,25 +13,26 @@ namespace {
 
 using namespace adsk::core;
 
-constexpr const char* kCommand = "QM_TX_configuration";
-constexpr const char* kChoice = "choiceProvider";
-constexpr const char* kAddress = "helpdeskOther";
 constexpr const char* kDefault = "default";
 constexpr std::size_t kDefaultProvider = 0;
 constexpr std::size_t kOtherProvider = 1;
 
+struct ConfigureOptions {
+    std::optional<std::string> supportUrl;  ///< an address, or "default"; none: only print
+    std::string addin;                      ///< folder of the add-in; empty: beside the program
+};
+
 void choose(host::Session& session, std::size_t provider) {
-    const Ptr<RadioButtonGroupCommandInput> choice = session.input(kChoice);
-    session.choose(kChoice, choice->listItems()->item(provider)->name());
+    const Ptr<RadioButtonGroupCommandInput> choice = session.input(kProviderChoice);
+    session.choose(kProviderChoice, choice->listItems()->item(provider)->name());
 }
 
+/// The settings do not keep white space at the ends.
 void refuseUnusableAddress(const std::string& url) {
-    constexpr const char* kBlanks = " \t\r\n";
-    if (!url.empty() &&
-        (url.find_first_not_of(kBlanks) != 0 || url.find_last_not_of(kBlanks) != url.size() - 1)) {
-        throw Failure(ExitCode::BadUsage, "--support-url \"" + url +
-                                              "\": the settings keep no blank at the ends of an "
-                                              "address");
+    constexpr const char* kWhiteSpace = " \t\r\n";
+    if (!url.empty() && (url.find_first_not_of(kWhiteSpace) != 0 ||
+                         url.find_last_not_of(kWhiteSpace) != url.size() - 1)) {
+        refuse("--support-url \"" + url + "\": an address must not begin or end with a space");
     }
 }
 
@@ -39,15 +41,15 @@ void change(host::Session& session, const std::string& url) {
         choose(session, kDefaultProvider);
     } else {
         choose(session, kOtherProvider);
-        session.paste(kAddress, url);
+        session.paste(kProviderAddress, url);
     }
     session.ok();
 }
 
-/// The add-in tells nobody of an address that its settings do not take, such as those that have no
+/// The add-in does not report an address that its settings do not take, such as those that have no
 /// place for one.
 void refuseUntaken(const host::Session& session, const std::string& asked) {
-    const Ptr<TextBoxCommandInput> address = session.input(kAddress);
+    const Ptr<TextBoxCommandInput> address = session.input(kProviderAddress);
     const bool isTaken = asked == kDefault ? !address->isVisible() : address->text() == asked;
     if (!isTaken) {
         throw Failure(ExitCode::AddinFailed, "--support-url \"" + asked +
@@ -56,33 +58,43 @@ void refuseUntaken(const host::Session& session, const std::string& asked) {
     }
 }
 
-/// The address that is stored, and whether it is the default one.
-std::string shownProvider(const host::Session& session) {
-    const Ptr<TextBoxCommandInput> address = session.input(kAddress);
+/// The address in the dialog, and whether it is the default one.
+std::string readProvider(const host::Session& session) {
+    const Ptr<TextBoxCommandInput> address = session.input(kProviderAddress);
     if (address->isVisible()) {
         return address->text().empty() ? "none" : address->text();
     }
     return address->text() + " (default)";
 }
 
-}  // namespace
-
+/// Chooses this user's support provider in the add-in's dialog, if one is given, and prints what
+/// the dialog then shows.
 void runConfigure(const ConfigureOptions& options) {
     refuseUnusableAddress(options.supportUrl.value_or(""));
-    DialogRun run(options.addin);
+    DialogSession dialog(options.addin);
     if (options.supportUrl) {
-        run.open(kCommand);
-        run.act([&](host::Session& session) { change(session, *options.supportUrl); });
+        dialog.open(kConfigurationCommand);
+        dialog.act([&](host::Session& session) { change(session, *options.supportUrl); });
     }
-    run.open(kCommand);
+    dialog.open(kConfigurationCommand);
     if (options.supportUrl) {
-        refuseUntaken(run.session(), *options.supportUrl);
+        refuseUntaken(dialog.session(), *options.supportUrl);
     }
-    std::cout << "Support provider: " << printable(shownProvider(run.session())) << "\n";
-    run.act([](host::Session& session) { session.cancel(); });
-    if (!std::cout.flush()) {
-        throw Failure(ExitCode::OutputFailed, "cannot write to stdout");
-    }
+    std::cout << "Support provider: " << printable(readProvider(dialog.session())) << "\n";
+    dialog.act([](host::Session& session) { session.cancel(); });
+}
+
+}  // namespace
+
+void addConfigureCommand(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "configure", "Print or choose the provider of the add-in's support");
+    ConfigureOptions& options = optionsFor(command, runConfigure);
+    command
+        .add_option("--support-url", options.supportUrl,
+                    "The web address of the provider, or \"default\"")
+        ->type_name("URL|default");
+    addAddin(command, options.addin);
 }
 
 }  // namespace workbench

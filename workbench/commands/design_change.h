@@ -1,28 +1,29 @@
 #pragma once
 
-#include "workbench/commands/design_reading.h"
+#include "workbench/cli/common_options.h"
+#include "workbench/dialogs/dialog_session.h"
 
+#include <functional>
+#include <optional>
 #include <string>
-#include <vector>
 
-/// The commands of the add-in that change a design, as subcommands: the button is pressed in a
-/// session, and the design is saved.
+/// What the subcommands share that change a design through a command of the add-in.
 namespace workbench {
 
-struct DesignCommandOptions {
+struct DesignChangeOptions {
     std::string file;
-    std::string saveFile;                  ///< where to save; empty: see `saveTarget`
-    std::vector<std::string> occurrences;  ///< full path names; none: all directly under the root
-    bool ground = false;                   ///< grounds what was moved
-    std::string addin;                     ///< folder of the add-in; empty: beside the program
+    std::optional<std::string> saveFile;  ///< where to save, see `saveTarget`
+    std::string addin;                    ///< folder of the add-in; empty: beside the program
     host::ReadingLimits limits;
 };
 
-/// Has "Move To Origin" place occurrences at the origin. Throws a `Failure`, with nothing saved.
-void runMoveToOrigin(const DesignCommandOptions& options);
+void addDesignChange(CLI::App& command, DesignChangeOptions& options);
 
-/// Has "Projected Entities As Construction" do its work in each sketch of the design, which is
-/// opened for edit for it. Throws a `Failure`, with nothing saved.
-void runProjectToConstruction(const DesignCommandOptions& options);
+/// Does its work on the open design, and returns the line that says what was done.
+using DesignChange = std::function<std::string(DialogSession&)>;
+
+/// Opens the design, has the work done, saves the design, and prints what was done. Throws a
+/// `Failure`, with nothing saved.
+void changeDesign(const DesignChangeOptions& options, const DesignChange& change);
 
 }  // namespace workbench

@@ -3,12 +3,11 @@
 #include "workbench/cli/exit_code.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/progress_line.h"
+#include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
 
 #include <exception>
-#include <iostream>
-#include <string>
 #include <vector>
 
 namespace workbench {
@@ -25,16 +24,10 @@ host::DesignData readDesign(const std::string& file, const host::ReadingLimits& 
         host::DesignData design =
             host::readDesign(host::fromUtf8(file), limits, progress, warnings);
         line.show("");
-        tellWarnings(warnings);
+        reportWarnings(warnings);
         return design;
     } catch (const std::exception& error) {
         throw Failure(ExitCode::BadInput, error.what());
-    }
-}
-
-void tellWarnings(const std::vector<std::string>& warnings) {
-    for (const std::string& warning : warnings) {
-        std::cerr << "warning: " << printable(warning) << "\n";
     }
 }
 

@@ -1,24 +1,43 @@
-#include "workbench/commands/helpdesk_command.h"
-
-#include "workbench/cli/exit_code.h"
-#include "workbench/commands/helpdesk_actions.h"
+#include "workbench/cli/common_options.h"
+#include "workbench/commands/commands.h"
+#include "workbench/dialogs/addin_ids.h"
 #include "workbench/dialogs/addin_session.h"
 #include "workbench/dialogs/uncaught.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
-#include "host/session/session.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <system_error>
+#include <vector>
 
 namespace workbench {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const char* kFooter =
+    "Actions:\n"
+    "  open            make the support folder, and ask to open it\n"
+    "  capture-screen  save a picture of the screen in it\n"
+    "  capture-host    save a picture of the window titled \"Autodesk Fusion 360\" in it\n"
+    "  system-info     write SystemInfo.txt in it\n"
+    "  zip             pack its files into helpdesk.zip in it\n"
+    "  clear           delete it; only after open or zip, which let the add-in remember it\n"
+    "  guide           ask to open the user guide\n"
+    "  go              ask to open the support provider's address\n"
+    "What was done before an action that fails stays. Without a display there are no pictures.";
+
+struct HelpdeskOptions {
+    std::vector<std::string> actions;  ///< names of `kHelpdeskActions`, in the order of the presses
+    std::string addin;                 ///< folder of the add-in; empty: the one beside the program
+    bool here = false;  ///< uses the user's own support folder, not that of the workbench
+    bool open = false;  ///< lets the shell open what the add-in asks it to
+};
 
 host::SessionOptions sessionOptions(const HelpdeskOptions& options) {
     host::SessionOptions session = userSession(options.addin);
@@ -30,11 +49,16 @@ host::SessionOptions sessionOptions(const HelpdeskOptions& options) {
     return session;
 }
 
+std::vector<std::string> actionNames() {
+    std::vector<std::string> names;
+    for (const HelpdeskAction& action : kHelpdeskActions) {
+        names.emplace_back(action.name);
+    }
+    return names;
+}
+
 std::string commandOf(const std::string& action) {
-    const auto* const found =
-        std::find_if(std::begin(kHelpdeskActions), std::end(kHelpdeskActions),
-                     [&](const HelpdeskAction& each) { return action == each.name; });
-    return found->command;
+    return std::ranges::find(kHelpdeskActions, action, &HelpdeskAction::name)->command;
 }
 
 /// What pressing the buttons left.
@@ -47,9 +71,7 @@ struct Outcome {
 
 Outcome pressButtons(const HelpdeskOptions& options) {
     const std::unique_ptr<host::Session> session = startSession(sessionOptions(options));
-    if (!session->run()) {
-        throw Failure(ExitCode::AddinFailed, "the add-in did not start");
-    }
+    runAddin(*session);
     for (const std::string& action : options.actions) {
         session->press(commandOf(action));
     }
@@ -57,57 +79,61 @@ Outcome pressButtons(const HelpdeskOptions& options) {
     // While the session lives: it decides about the folder for temporary files.
     const fs::path temporary = fs::temp_directory_path(failure);
     session->stop();
-    return {failure ? fs::path() : temporary / kSupportFolder, session->openedByShell(),
-            session->messages(), session->uncaughtExceptions()};
+    return {.supportFolder = failure ? fs::path() : temporary / kSupportFolder,
+            .opened = session->openedByShell(),
+            .messages = session->messages(),
+            .thrown = session->uncaughtExceptions()};
 }
 
-/// Tells what the add-in said and asked for; ends the program when it threw something.
-void report(const Outcome& outcome, bool mayOpen) {
-    for (const std::string& target : outcome.opened) {
-        std::cout << "The add-in asked to open " << printable(target)
-                  << (mayOpen ? "\n" : "; use --open to let it\n");
-    }
-    for (const host::Message& message : outcome.messages) {
-        std::cerr << "the add-in says: " << printable(message.text) << "\n";
-    }
-    const auto first = std::find_if_not(outcome.thrown.begin(), outcome.thrown.end(), isOrdinary);
-    if (first != outcome.thrown.end()) {
-        throw Failure(ExitCode::AddinFailed, describe(*first));
-    }
-}
-
-/// The names of what the support folder holds. Sizes are not told: the archive may still grow,
-/// until this process ends.
-void listFolder(const fs::path& folder) {
-    std::error_code failure;
-    std::vector<std::string> lines;
+/// The names of what a folder holds, without sizes: the archive may still grow until this process
+/// ends.
+std::vector<std::string> sortedNames(const fs::path& folder, std::error_code& failure) {
+    std::vector<std::string> names;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure)) {
-        lines.push_back("  " + printable(host::toUtf8(entry.path().filename())) + "\n");
+        names.push_back(printable(host::toUtf8(entry.path().filename())));
     }
-    std::sort(lines.begin(), lines.end());
-    std::cout << "Support folder: "
-              << (folder.empty() ? "none, there is no folder for temporary files"
-                                 : printable(host::toUtf8(folder)))
-              << (failure && !folder.empty() ? ", not there\n" : "\n");
-    for (const std::string& line : lines) {
-        std::cout << line;
+    std::ranges::sort(names);
+    return names;
+}
+
+void listFolder(const fs::path& folder) {
+    if (folder.empty()) {
+        std::cout << "Support folder: none, the system has no folder for temporary files\n";
+        return;
     }
+    std::error_code failure;
+    const std::vector<std::string> names = sortedNames(folder, failure);
+    std::cout << "Support folder: " << printable(host::toUtf8(folder))
+              << (failure ? " (does not exist)\n" : "\n");
+    for (const std::string& name : names) {
+        std::cout << "  " << name << "\n";
+    }
+}
+
+/// Presses helpdesk buttons of the add-in in one host, and prints the outcome.
+void runHelpdesk(const HelpdeskOptions& options) {
+    const Outcome outcome = pressButtons(options);
+    reportShellRequests(std::cout, outcome.opened, options.open);
+    reportMessages(outcome.messages);
+    refuseUnexpected(outcome.thrown);
+    listFolder(outcome.supportFolder);
 }
 
 }  // namespace
 
-std::vector<std::string> helpdeskActions() {
-    std::vector<std::string> names;
-    for (const HelpdeskAction& action : kHelpdeskActions) {
-        names.emplace_back(action.name);
-    }
-    return names;
-}
-
-void runHelpdesk(const HelpdeskOptions& options) {
-    const Outcome outcome = pressButtons(options);
-    report(outcome, options.open);
-    listFolder(outcome.supportFolder);
+void addHelpdeskCommand(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "helpdesk", "Press helpdesk buttons of the add-in, in this order and in one host");
+    HelpdeskOptions& options = optionsFor(command, runHelpdesk);
+    command.add_option("ACTION", options.actions, "What to press")
+        ->required()
+        ->check(CLI::IsMember(actionNames()))
+        ->type_name("");
+    command.add_flag("--here", options.here,
+                     "Use your own support folder, not that of the workbench");
+    command.add_flag("--open", options.open, "Let the add-in open files and addresses");
+    addAddin(command, options.addin);
+    command.footer(kFooter);
 }
 
 }  // namespace workbench

@@ -1,5 +1,6 @@
-#include "workbench/commands/info_command.h"
-
+#include "workbench/cli/common_options.h"
+#include "workbench/commands/commands.h"
+#include "workbench/commands/design_reading.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/text_table.h"
 
@@ -12,6 +13,11 @@
 
 namespace workbench {
 namespace {
+
+struct InfoOptions {
+    std::string file;
+    host::ReadingLimits limits;
+};
 
 /// kg/cm3 as kg/m3, with one decimal.
 std::string densityText(double density) {
@@ -30,8 +36,7 @@ std::string materialTable(const std::vector<host::MaterialUse>& materials) {
     return table.text();
 }
 
-}  // namespace
-
+/// Prints what a file holds.
 void runInfo(const InfoOptions& options) {
     const host::DesignSummary summary = host::summarize(readDesign(options.file, options.limits));
     std::cout << printable(summary.name) << "\n\n"
@@ -39,11 +44,21 @@ void runInfo(const InfoOptions& options) {
               << "  with shape " << summary.bodies << "\n"
               << "Occurrences  " << summary.occurrences << "\n"
               << "Levels       " << summary.levels << "\n"
-              << "Length unit  " << (summary.unit.empty() ? "not told" : printable(summary.unit))
+              << "Length unit  " << (summary.unit.empty() ? "unknown" : printable(summary.unit))
               << "\n";
     if (!summary.materials.empty()) {
         std::cout << "\n" << materialTable(summary.materials);
     }
+}
+
+}  // namespace
+
+void addInfoCommand(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "info", "Print what a file holds: components, occurrences, levels, units, materials");
+    InfoOptions& options = optionsFor(command, runInfo);
+    addFile(command, options.file);
+    addLimits(command, options.limits);
 }
 
 }  // namespace workbench

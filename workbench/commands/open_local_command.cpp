@@ -1,13 +1,14 @@
-#include "workbench/commands/open_local_command.h"
-
+#include "workbench/cli/common_options.h"
 #include "workbench/cli/exit_code.h"
-#include "workbench/commands/design_reading.h"
+#include "workbench/cli/interrupt.h"
+#include "workbench/commands/commands.h"
 #include "workbench/dialogs/addin_ids.h"
 #include "workbench/dialogs/addin_session.h"
 #include "workbench/dialogs/dialog_session.h"
 #include "workbench/output/design_files.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/progress_line.h"
+#include "workbench/output/reports.h"
 
 #include "host/base/clock.h"
 #include "host/base/utf8_path.h"
@@ -27,41 +28,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
-volatile std::sig_atomic_t interrupted = 0;
-
-extern "C" void noteInterrupt(int signal) {
-    interrupted = 1;
-    // Whoever does not want to wait for the end presses it once more.
-    static_cast<void>(std::signal(signal, SIG_DFL));
-}
-
-/// While it lives, Ctrl-C is noted and does not end the program.
-class NotingInterrupts {
-public:
-    NotingInterrupts() : before_(std::signal(SIGINT, noteInterrupt)) { interrupted = 0; }
-    NotingInterrupts(const NotingInterrupts&) = delete;
-    NotingInterrupts& operator=(const NotingInterrupts&) = delete;
-    ~NotingInterrupts() { static_cast<void>(std::signal(SIGINT, before_)); }
-
-private:
-    void (*before_)(int);
+struct OpenLocalOptions {
+    std::vector<std::string> files;
+    std::string out;    ///< folder for the designs; empty: the current one
+    std::string data;   ///< folder whose folders are projects; empty: the user's own
+    int timeout = 300;  ///< seconds until what still waits for a file is cancelled
+    std::string addin;  ///< folder of the add-in; empty: the one beside the program
 };
 
-/// Shows what the add-in waits for, and cancels it when the user wants it; from now on at each look
-/// of the host at its clock, for as long as somebody keeps the line.
+/// Shows what the add-in waits for, and cancels it after Ctrl-C; again and again on the host's
+/// clock, for as long as the line lives.
 void watchWaiting(const std::weak_ptr<ProgressLine>& watched) {
     const std::shared_ptr<ProgressLine> line = watched.lock();
     if (!line) {
         return;
     }
     const std::optional<host::Progress> progress = host::progressDialog();
-    if (progress && interrupted != 0) {
+    if (progress && InterruptGuard::interrupted()) {
         host::cancelProgress();
     } else if (progress) {
         line->show(printable(progress->text) + "  (Ctrl-C cancels)");
     }
-    constexpr double kLookEach = 0.1;
-    host::clock::schedule(host::clock::now() + kLookEach, [watched] { watchWaiting(watched); });
+    constexpr double kInterval = 0.1;
+    host::clock::schedule(host::clock::now() + kInterval, [watched] { watchWaiting(watched); });
 }
 
 host::SessionOptions waitingSession(const OpenLocalOptions& options) {
@@ -72,7 +61,7 @@ host::SessionOptions waitingSession(const OpenLocalOptions& options) {
     return session;
 }
 
-/// The user's data: the folder that was named, else one with one project in the beginning.
+/// The user's data: the named folder, else the program's own, which begins with one project.
 void useProjects(host::Session& session, const std::string& named) {
     fs::path projects = host::fromUtf8(named);
     if (named.empty()) {
@@ -91,32 +80,33 @@ std::vector<std::string> absoluteNames(const std::vector<std::string>& files) {
     return names;
 }
 
-/// What the add-in threw for want of its locale, in words that help.
+/// A failure for want of the add-in's locale, with what to do about it.
 Failure explained(const Failure& failure, const host::Session& session) {
     const auto& thrown = session.uncaughtExceptions();
     const bool missing = std::any_of(
         thrown.begin(), thrown.end(),
         [](const host::UncaughtException& each) { return each.text == "bad locale name"; });
     return missing ? Failure(ExitCode::AddinFailed,
-                             "the add-in needs the Czech locale, which this system does not have; "
-                             "as root, localedef -i cs_CZ -f UTF-8 cs_CZ.UTF-8 makes it")
+                             "the add-in needs the Czech locale, which is not installed; as root, "
+                             "run localedef -i cs_CZ -f UTF-8 cs_CZ.UTF-8")
                    : failure;
 }
 
-/// Presses the button and picks the files; what went wrong then.
-std::optional<Failure> open(DialogRun& run, const std::vector<std::string>& names) {
-    const NotingInterrupts noting;
+/// Presses the button and picks the files. Returns what went wrong: files that were opened before
+/// are saved all the same.
+std::optional<Failure> open(DialogSession& dialog, const std::vector<std::string>& names) {
+    const InterruptGuard guard;
     const auto line = std::make_shared<ProgressLine>();
     watchWaiting(line);
     try {
-        run.act([&](host::Session& session) {
+        dialog.act([&](host::Session& session) {
             host::answerNextFileDialog(names);
             session.press(kOpenLocalCommand);
             line->show("");
         });
         return std::nullopt;
     } catch (const Failure& failure) {
-        return explained(failure, run.session());
+        return explained(failure, dialog.session());
     }
 }
 
@@ -130,24 +120,54 @@ void refuseUnopened(std::size_t opened, std::size_t wanted) {
     }
 }
 
-}  // namespace
-
+/// Has "Open local file" bring files into the host, and saves each document that it opened. Where
+/// not every file became a document, those that did are saved.
 void runOpenLocal(const OpenLocalOptions& options) {
     const std::vector<std::string> names = absoluteNames(options.files);
     const fs::path out = fs::current_path() / host::fromUtf8(options.out);
     if (!fs::is_directory(out)) {
-        throw Failure(ExitCode::OutputFailed, "--out " + options.out + ": is no folder");
+        throw Failure(ExitCode::OutputFailed, "--out " + options.out + ": not a directory");
     }
-    DialogRun run(waitingSession(options));
-    run.act([&](host::Session& session) { useProjects(session, options.data); });
-    const std::optional<Failure> obstacle = open(run, names);
-    tellWarnings(run.session().importWarnings());
-    const std::vector<host::DesignData> designs = run.session().designsOpenedByModule();
+    DialogSession dialog(waitingSession(options));
+    dialog.act([&](host::Session& session) { useProjects(session, options.data); });
+    const std::optional<Failure> obstacle = open(dialog, names);
+    reportWarnings(dialog.session().importWarnings());
+    const std::vector<host::DesignData> designs = dialog.session().designsOpenedByModule();
     saveInFolder(designs, out);
     if (obstacle) {
         throw *obstacle;
     }
     refuseUnopened(designs.size(), names.size());
+}
+
+}  // namespace
+
+void addOpenLocalCommand(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "open-local", "Bring files into the host with \"Open local file\", and save the designs");
+    OpenLocalOptions& options = optionsFor(command, runOpenLocal);
+    command
+        .add_option("FILE", options.files,
+                    "Files of any format. STEP, IGES and .f3d are imported; all others are\n"
+                    "uploaded into the user's project and opened from there. Those that can be\n"
+                    "opened are saved, even if others fail")
+        ->required();
+    command
+        .add_option("--out", options.out,
+                    "Save the design files in this folder, by default the current one")
+        ->type_name("DIR");
+    command
+        .add_option("--data", options.data,
+                    "A folder whose folders are projects, the first of which takes the uploads;\n"
+                    "by default the program's own")
+        ->type_name("DIR");
+    command
+        .add_option("--timeout", options.timeout,
+                    "Cancel after waiting this long for one file, as Ctrl-C does at once")
+        ->type_name("SECONDS")
+        ->check(CLI::Range(1, 86400))
+        ->capture_default_str();
+    addAddin(command, options.addin);
 }
 
 }  // namespace workbench

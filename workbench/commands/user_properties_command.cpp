@@ -1,6 +1,7 @@
-#include "workbench/commands/user_properties_command.h"
-
+#include "workbench/cli/common_options.h"
 #include "workbench/cli/exit_code.h"
+#include "workbench/commands/commands.h"
+#include "workbench/dialogs/addin_ids.h"
 #include "workbench/dialogs/dialog_session.h"
 #include "workbench/dialogs/properties_dialog.h"
 #include "workbench/output/display_text.h"
@@ -16,16 +17,18 @@ namespace {
 
 using namespace adsk::core;
 
-constexpr const char* kTable = "userProperty";
-constexpr const char* kSave = "QEMA_btnSaveUserIProperty";
+struct UserPropertiesOptions {
+    std::string name;   ///< of the property to add or to remove
+    std::string addin;  ///< folder of the add-in; empty: the one beside the program
+};
 
-void showList(DialogRun& run) {
-    run.open(kPropertiesCommand);
-    run.act([](host::Session& session) { session.activateTab("QEMA_tab_Settings"); });
+void showList(DialogSession& dialog) {
+    dialog.open(kPropertiesCommand);
+    dialog.act([](host::Session& session) { session.activateTab(kUserPropertyTab); });
 }
 
 std::vector<std::string> namesIn(const host::Session& session) {
-    const Ptr<TableCommandInput> table = session.table(kTable);
+    const Ptr<TableCommandInput> table = session.table(kUserPropertyTable);
     std::vector<std::string> names;
     for (int row = 0; row < table->rowCount(); ++row) {
         const Ptr<StringValueCommandInput> cell = table->getInputAtPosition(row, 0);
@@ -34,32 +37,31 @@ std::vector<std::string> namesIn(const host::Session& session) {
     return names;
 }
 
-/// Presses the button that saves; where it is off, what the dialog says is the error.
+/// Presses the button that saves; where it is disabled, the dialog's message is the error.
 void save(host::Session& session) {
-    if (!session.input(kSave)->isEnabled()) {
-        const Ptr<TextBoxCommandInput> message = session.input("messageSave");
-        throw Failure(ExitCode::BadUsage, message->text());
+    if (!session.input(kSaveUserProperties)->isEnabled()) {
+        const Ptr<TextBoxCommandInput> message = session.input(kUserPropertyMessage);
+        refuse(message->text());
     }
-    session.click(kSave);
+    session.click(kSaveUserProperties);
 }
 
-/// A name that is none to the settings, which keep no spaces at the ends of a text.
+/// The settings keep no spaces at the ends of a name.
 void refuseUnusableName(const std::string& name) {
     if (name.empty()) {
-        throw Failure(ExitCode::BadUsage, "a custom property needs a name");
+        refuse("a custom property needs a name");
     }
     if (name.front() == ' ' || name.back() == ' ') {
-        throw Failure(ExitCode::BadUsage,
-                      "\"" + name + "\": the settings keep no blank at the ends of a name");
+        refuse("\"" + name + "\": a name must not begin or end with a space");
     }
 }
 
-/// Of two lines with one id the dialog writes both, and the second would undo what is typed into
-/// the first.
+/// Of two lines with the same id the dialog writes both, and the second would undo what is typed
+/// into the first.
 void refuseTakenName(const host::Session& session, const std::string& name) {
-    for (const ShownProperty& each : readProperties(session)) {
-        if (each.id == "QEMA_" + name) {
-            throw Failure(ExitCode::BadUsage, "there is a property \"" + each.name + "\" already");
+    for (const PropertyLine& each : readProperties(session)) {
+        if (each.id == kPropertyPrefix + name) {
+            refuse("property \"" + each.name + "\" exists already");
         }
     }
 }
@@ -67,74 +69,86 @@ void refuseTakenName(const host::Session& session, const std::string& name) {
 void add(host::Session& session, const std::string& name) {
     refuseUnusableName(name);
     refuseTakenName(session, name);
-    session.click("propertyAdd");
-    const Ptr<TableCommandInput> table = session.table(kTable);
+    session.click(kAddUserProperty);
+    const Ptr<TableCommandInput> table = session.table(kUserPropertyTable);
     host::pasteText(table->getInputAtPosition(table->rowCount() - 1, 0), name);
     save(session);
 }
 
 void remove(host::Session& session, const std::string& name) {
     const std::vector<std::string> names = namesIn(session);
-    const auto found = std::find(names.begin(), names.end(), name);
+    const auto found = std::ranges::find(names, name);
     if (found == names.end()) {
-        throw Failure(ExitCode::BadUsage, "there is no custom property \"" + name + "\"");
+        refuse("there is no custom property \"" + name + "\"");
     }
-    session.selectRow(kTable, static_cast<int>(found - names.begin()));
-    session.click("propertyDelete");
+    session.selectRow(kUserPropertyTable, static_cast<int>(found - names.begin()));
+    session.click(kRemoveUserProperty);
     save(session);
 }
 
-/// What the rows say that have a name: the others are not saved.
+/// The names without the empty ones, which are not saved.
 std::vector<std::string> namesToKeep(const host::Session& session) {
     std::vector<std::string> names = namesIn(session);
-    names.erase(std::remove(names.begin(), names.end(), ""), names.end());
+    std::erase(names, "");
     return names;
 }
 
-/// Edits the list and saves it; returns the names that it then has to have.
-std::vector<std::string> change(DialogRun& run, const UserPropertiesOptions& options) {
+void printList(DialogSession& dialog) {
+    for (const std::string& name : namesIn(dialog.session())) {
+        std::cout << printable(name) << "\n";
+    }
+    dialog.act([](host::Session& session) { session.cancel(); });
+}
+
+/// Makes one edit of the list and saves it, which is checked as the dialog opens again: the add-in
+/// does not report a list that its settings do not take, such as those that have no place for one.
+void edit(const UserPropertiesOptions& options,
+          void (*change)(host::Session&, const std::string&)) {
     std::vector<std::string> names;
-    showList(run);
-    run.act([&](host::Session& session) {
-        if (options.action == UserPropertiesOptions::Action::Add) {
-            add(session, options.name);
-        } else {
-            remove(session, options.name);
-        }
+    DialogSession dialog(options.addin);
+    showList(dialog);
+    dialog.act([&](host::Session& session) {
+        change(session, options.name);
         names = namesToKeep(session);
         session.cancel();
     });
-    return names;
+    showList(dialog);
+    if (namesToKeep(dialog.session()) != names) {
+        throw Failure(ExitCode::AddinFailed,
+                      "\"" + options.name + "\": the add-in's settings did not take the list");
+    }
+    printList(dialog);
 }
 
-/// The add-in tells nobody of a list that its settings do not take, such as those that have no
-/// place for one.
-void refuseUntaken(const std::vector<std::string>& names, const host::Session& session,
-                   const std::string& name) {
-    if (namesToKeep(session) != names) {
-        throw Failure(ExitCode::AddinFailed,
-                      "\"" + name + "\": the add-in's settings did not take the list");
+void runList(const UserPropertiesOptions& options) {
+    DialogSession dialog(options.addin);
+    showList(dialog);
+    printList(dialog);
+}
+
+void runAdd(const UserPropertiesOptions& options) { edit(options, add); }
+
+void runRemove(const UserPropertiesOptions& options) { edit(options, remove); }
+
+void addAction(CLI::App& command, const std::string& name, const std::string& description,
+               void (*run)(const UserPropertiesOptions&)) {
+    CLI::App& action = *command.add_subcommand(name, description);
+    UserPropertiesOptions& options = optionsFor(action, run);
+    if (run != runList) {
+        action.add_option("NAME", options.name, "The property's name")->required();
     }
+    addAddin(action, options.addin);
 }
 
 }  // namespace
 
-void runUserProperties(const UserPropertiesOptions& options) {
-    DialogRun run(options.addin);
-    if (options.action == UserPropertiesOptions::Action::List) {
-        showList(run);
-    } else {
-        const std::vector<std::string> names = change(run, options);
-        showList(run);
-        refuseUntaken(names, run.session(), options.name);
-    }
-    for (const std::string& name : namesIn(run.session())) {
-        std::cout << printable(name) << "\n";
-    }
-    run.act([](host::Session& session) { session.cancel(); });
-    if (!std::cout.flush()) {
-        throw Failure(ExitCode::OutputFailed, "cannot write to stdout");
-    }
+void addUserPropertiesCommand(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "user-properties", "Print or edit the list of custom properties that the add-in offers");
+    command.require_subcommand(1);
+    addAction(command, "list", "Print the list", runList);
+    addAction(command, "add", "Add a property, and print the list", runAdd);
+    addAction(command, "remove", "Remove a property, and print the list", runRemove);
 }
 
 }  // namespace workbench

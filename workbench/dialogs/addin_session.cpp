@@ -6,8 +6,6 @@
 #include "host/base/utf8_path.h"
 #include "host/session/environment.h"
 
-#include <algorithm>
-
 namespace workbench {
 
 namespace fs = std::filesystem;
@@ -15,8 +13,7 @@ namespace fs = std::filesystem;
 fs::path userFolder() {
     const fs::path data = host::environment::userDataFolder();
     if (data.empty()) {
-        throw Failure(ExitCode::NoAddin,
-                      "the system names no folder for a user's data: set XDG_DATA_HOME or HOME");
+        throw Failure(ExitCode::NoAddin, "no folder for user data: set XDG_DATA_HOME or HOME");
     }
     return data / "tarnix-workbench";
 }
@@ -37,10 +34,15 @@ std::unique_ptr<host::Session> startSession(const host::SessionOptions& options)
     }
 }
 
+void runAddin(host::Session& session) {
+    if (!session.run()) {
+        throw Failure(ExitCode::AddinFailed, explain(session, "the add-in did not start"));
+    }
+}
+
 std::string explain(const host::Session& session, const std::string& obstacle) {
-    const auto first = std::find_if_not(session.uncaughtExceptions().begin(),
-                                        session.uncaughtExceptions().end(), isOrdinary);
-    return first != session.uncaughtExceptions().end() ? describe(*first) : obstacle;
+    const std::string thrown = describeUnexpected(session.uncaughtExceptions());
+    return thrown.empty() ? obstacle : thrown;
 }
 
 }  // namespace workbench

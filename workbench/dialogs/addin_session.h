@@ -9,7 +9,7 @@
 /// The add-in's session of the user who runs the program.
 namespace workbench {
 
-/// The folder that keeps what the program has of this user: the add-in's copy with its settings.
+/// The folder with all that the program keeps for this user: the add-in's copy with its settings.
 /// Throws a `Failure` where the system names no place for it.
 std::filesystem::path userFolder();
 
@@ -17,10 +17,13 @@ std::filesystem::path userFolder();
 /// beside the program.
 host::SessionOptions userSession(const std::string& addin);
 
-/// Starts a session; a `Failure` tells what is in the way.
+/// Starts a session. Throws a `Failure` that says why it cannot be started.
 std::unique_ptr<host::Session> startSession(const host::SessionOptions& options);
 
-/// Why a step could not be done: what the add-in threw before, else what was in the way.
+/// Calls the add-in's `run`. Throws a `Failure` when that does not succeed.
+void runAddin(host::Session& session);
+
+/// Why a step could not be done: what the add-in threw before, else the obstacle.
 std::string explain(const host::Session& session, const std::string& obstacle);
 
 }  // namespace workbench

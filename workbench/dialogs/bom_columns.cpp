@@ -1,6 +1,8 @@
 #include "workbench/dialogs/bom_columns.h"
 
 #include "workbench/cli/exit_code.h"
+#include "workbench/dialogs/addin_ids.h"
+#include "workbench/output/display_text.h"
 #include "workbench/output/parts_list.h"
 
 #include <algorithm>
@@ -9,23 +11,23 @@
 namespace workbench {
 namespace {
 
-/// The property of a configured column; its header's id is made of it.
+/// The property of a configured column, from which the id of its header is made.
 std::string propertyOf(const host::TableCell& header) {
-    constexpr std::string_view kPrefix = "QEMA_";
-    constexpr std::string_view kEnd = "_0";
+    constexpr std::string_view kPrefix = kPropertyPrefix;
+    constexpr std::string_view kSuffix = kHeaderSuffix;
     const std::string& id = header.id;
-    if (!id.starts_with(kPrefix) || !id.ends_with(kEnd) ||
-        id.size() <= kPrefix.size() + kEnd.size()) {
+    if (!id.starts_with(kPrefix) || !id.ends_with(kSuffix) ||
+        id.size() <= kPrefix.size() + kSuffix.size()) {
         return "";
     }
-    return id.substr(kPrefix.size(), id.size() - kPrefix.size() - kEnd.size());
+    return id.substr(kPrefix.size(), id.size() - kPrefix.size() - kSuffix.size());
 }
 
 }  // namespace
 
-std::vector<ShownColumn> columnsOf(const host::TableView& table) {
+std::vector<BomColumn> columnsOf(const host::TableView& table) {
     const PartsList list = readPartsList(table);
-    std::vector<ShownColumn> columns;
+    std::vector<BomColumn> columns;
     for (std::size_t i = 0; i < list.keys.size(); ++i) {
         const host::TableCell& header = table.rows.front().cells[i];
         columns.push_back(
@@ -34,26 +36,18 @@ std::vector<ShownColumn> columnsOf(const host::TableView& table) {
     return columns;
 }
 
-ShownColumn findColumn(const std::vector<ShownColumn>& columns, const std::string& name,
-                       const std::string& what) {
-    auto found = std::ranges::find(columns, name, &ShownColumn::key);
+BomColumn findColumn(const std::vector<BomColumn>& columns, const std::string& name,
+                     const std::string& what) {
+    auto found = std::ranges::find(columns, name, &BomColumn::key);
     if (found == columns.end() && !name.empty()) {
-        found = std::ranges::find(columns, name, &ShownColumn::property);
+        found = std::ranges::find(columns, name, &BomColumn::property);
     }
-    if (found != columns.end()) {
-        return *found;
+    if (found == columns.end()) {
+        std::vector<std::string> keys(columns.size());
+        std::ranges::transform(columns, keys.begin(), &BomColumn::key);
+        refuse(what + ": no such column; available: " + quoted(keys));
     }
-    std::vector<std::string> names(columns.size());
-    std::ranges::transform(columns, names.begin(), &ShownColumn::key);
-    throw Failure(ExitCode::BadUsage, what + ": there is no such column, only " + quoted(names));
-}
-
-std::string quoted(const std::vector<std::string>& names) {
-    std::string all;
-    for (const std::string& name : names) {
-        all += (all.empty() ? "\"" : ", \"") + name + "\"";
-    }
-    return all.empty() ? "none" : all;
+    return *found;
 }
 
 }  // namespace workbench

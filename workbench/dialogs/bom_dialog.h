@@ -1,34 +1,45 @@
 #pragma once
 
-#include "workbench/commands/bom_request.h"
 #include "workbench/dialogs/addin_ids.h"
 
 #include "host/session/session.h"
 
+#include <string>
 #include <vector>
 
-/// What a person does in the open BOM dialog.
+/// What the user does in the open BOM dialog, but for editing cells (see `cell_edits.h`).
 ///
-/// Each of these throws a `Failure` for wrong usage where the dialog has no such property, column
-/// or cell, with the names that it has, and one of the add-in where that threw something.
+/// Each function throws a `Failure`: for wrong usage where the dialog has no such property or
+/// column, with the names that it has, and of the add-in where that threw something unexpected.
 namespace workbench {
 
-/// Chooses the free columns, gives them their captions, and saves them. The dialog shows them from
-/// its next opening on.
-void saveColumns(host::Session& session, const std::vector<ColumnWish>& columns);
+/// A column to configure: a property, and the caption over it.
+struct ColumnChoice {
+    std::string property;
+    std::string caption;
 
-/// Chooses the order and clicks the header of a column. The tab has to show.
-void sortBy(host::Session& session, const BomTab& tab, const SortWish& wish);
+    bool operator==(const ColumnChoice&) const = default;
+};
 
-/// Clicks the toggles of the assemblies that show until `levels` levels of the tree do. The tab has
-/// to show.
+struct SortOrder {
+    std::string column;  ///< its key or its property, see `findColumn`
+    bool descending = false;
+
+    bool operator==(const SortOrder&) const = default;
+};
+
+/// Chooses the free columns, gives them their captions, and saves them. The dialog shows them the
+/// next time it opens.
+void saveColumns(host::Session& session, const std::vector<ColumnChoice>& columns);
+
+/// Chooses the order and clicks the header of a column. The tab has to be active.
+void sortBy(host::Session& session, const BomTab& tab, const SortOrder& order);
+
+/// Clicks the toggles of visible assemblies until `levels` levels of the tree show. The tab has to
+/// be active.
 void expandTree(host::Session& session, const BomTab& tab, int levels);
 
-/// Edits cells of the shown tab. All cells are looked for before the first is edited, so that rows
-/// that an edit hides do not shift the others.
-void editCells(host::Session& session, const BomTab& tab, const std::vector<CellEdit>& cells);
-
-/// Accepts the dialog, which writes the shown tab into the design.
+/// Accepts the dialog, which writes the active tab into the design.
 void acceptChanges(host::Session& session, const BomTab& tab);
 
 }  // namespace workbench

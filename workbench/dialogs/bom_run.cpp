@@ -2,7 +2,6 @@
 
 #include "workbench/cli/exit_code.h"
 #include "workbench/dialogs/addin_session.h"
-#include "workbench/dialogs/bom_dialog.h"
 #include "workbench/dialogs/unmeasured.h"
 
 #include <fstream>
@@ -18,9 +17,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace adsk::core;
 
-host::SessionOptions sessionOptions(const BomOptions& options) {
-    host::SessionOptions session = userSession(options.addin);
-    session.shell = options.open ? host::shell_requests::Policy::RecordOpen
+host::SessionOptions sessionOptions(const BomRequest& request) {
+    host::SessionOptions session = userSession(request.addin);
+    session.shell = request.open ? host::shell_requests::Policy::RecordOpen
                                  : host::shell_requests::Policy::Record;
     return session;
 }
@@ -31,18 +30,16 @@ std::string fileContent(const fs::path& file) {
 }
 
 void openDialog(host::Session& session) {
-    if (!session.run()) {
-        throw std::runtime_error("the add-in did not start");
-    }
+    runAddin(session);
     session.press(kBomCommand);
     if (!session.dialogOpen()) {
-        throw std::runtime_error("the add-in opened no BOM dialog");
+        throw std::runtime_error("the add-in did not open the BOM dialog");
     }
 }
 
-PartsList readShownList(const host::Session& session, const BomTab& tab) {
+PartsList readVisibleList(const host::Session& session, const BomTab& tab) {
     PartsList list = readPartsList(host::readTable(session.table(tab.table)));
-    if (std::string(tab.name) == kStructureTab.name) {
+    if (&tab == &kStructureTab) {
         const Ptr<StringValueCommandInput> total = session.input(kTotalMass);
         list.totalCaption = total ? total->name() : "";
         list.total = total ? total->value() : "";
@@ -50,7 +47,8 @@ PartsList readShownList(const host::Session& session, const BomTab& tab) {
     return list;
 }
 
-/// Presses the button, and sees what it left. A file of an earlier export is no answer.
+/// Presses the button and reads what it wrote. The file of an earlier export must not be taken for
+/// it.
 void exportList(host::Session& session, BomResult& result) {
     const fs::path file = session.addin().folder / kExportFile;
     std::error_code ignored;
@@ -62,32 +60,27 @@ void exportList(host::Session& session, BomResult& result) {
     }
 }
 
-/// Shows the tab as it is wished for.
-void arrange(host::Session& session, const BomTab& tab, const BomWishes& wishes) {
-    session.activateTab(tab.tab);
-    if (wishes.levels > 1) {
-        expandTree(session, tab, wishes.levels);
+/// Shows the tab in the requested order and depth.
+void arrange(host::Session& session, const BomRequest& request) {
+    session.activateTab(request.tab->tab);
+    const int levels = request.levels.value_or(1);
+    if (levels > 1) {
+        expandTree(session, *request.tab, levels);
     }
-    if (wishes.sort) {
-        sortBy(session, tab, *wishes.sort);
+    if (request.sort) {
+        sortBy(session, *request.tab, *request.sort);
     }
 }
 
-/// Notes what a session leaves behind.
-void noteTraces(const host::Session& session, BomResult& result) {
-    result.shell.insert(result.shell.end(), session.openedByShell().begin(),
-                        session.openedByShell().end());
-    result.thrown.insert(result.thrown.end(), session.uncaughtExceptions().begin(),
-                         session.uncaughtExceptions().end());
-    for (const host::Message& message : session.messages()) {
-        result.messages.push_back(message.text);
-    }
+template <class Item>
+void append(std::vector<Item>& all, const std::vector<Item>& more) {
+    all.insert(all.end(), more.begin(), more.end());
 }
 
 /// Does something in the dialog of a design, in a session of its own.
-void useAddin(const BomOptions& options, host::DesignData design, BomResult& result,
-              const std::function<void(host::Session&)>& work) {
-    const std::unique_ptr<host::Session> session = startSession(sessionOptions(options));
+void useDialog(const BomRequest& request, host::DesignData design, BomResult& result,
+               const std::function<void(host::Session&)>& work) {
+    const std::unique_ptr<host::Session> session = startSession(sessionOptions(request));
     try {
         session->openDesign(std::move(design));
         openDialog(*session);
@@ -101,35 +94,36 @@ void useAddin(const BomOptions& options, host::DesignData design, BomResult& res
     } catch (const std::runtime_error& obstacle) {
         throw Failure(ExitCode::AddinFailed, explain(*session, obstacle.what()));
     }
-    noteTraces(*session, result);
+    append(result.shell, session->openedByShell());
+    append(result.thrown, session->uncaughtExceptions());
+    append(result.messages, session->messages());
 }
 
 }  // namespace
 
-BomResult makeBom(host::DesignData design, const BomTab& tab, const BomOptions& options,
-                  const BomWishes& wishes, WrittenFiles& written) {
+BomResult runBomDialog(host::DesignData design, const BomRequest& request, WrittenFiles& written) {
     BomResult result;
-    if (!wishes.columns.empty()) {
-        useAddin(options, design, result, [&](host::Session& session) {
+    if (!request.columns.empty()) {
+        useDialog(request, design, result, [&](host::Session& session) {
             written.watch(session.addin().folder / kSettingsFile);
-            saveColumns(session, wishes.columns);
+            saveColumns(session, request.columns);
         });
     }
-    if (options.save) {
-        useAddin(options, design, result, [&](host::Session& session) {
-            arrange(session, tab, wishes);
-            editCells(session, tab, wishes.cells);
-            acceptChanges(session, tab);
+    if (request.save) {
+        useDialog(request, design, result, [&](host::Session& session) {
+            arrange(session, request);
+            editCells(session, *request.tab, request.edits);
+            acceptChanges(session, *request.tab);
             result.saved = session.design();
         });
     }
-    useAddin(options, result.saved ? *result.saved : std::move(design), result,
-             [&](host::Session& session) {
-                 arrange(session, tab, wishes);
-                 result.list = readShownList(session, tab);
-                 refuseUnmeasured(session.unmeasured());
-                 exportList(session, result);
-             });
+    useDialog(request, result.saved ? *result.saved : std::move(design), result,
+              [&](host::Session& session) {
+                  arrange(session, request);
+                  result.list = readVisibleList(session, *request.tab);
+                  refuseUnmeasured(session.unmeasured());
+                  exportList(session, result);
+              });
     return result;
 }
 

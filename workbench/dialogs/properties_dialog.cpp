@@ -1,6 +1,9 @@
 #include "workbench/dialogs/properties_dialog.h"
 
 #include "workbench/cli/exit_code.h"
+#include "workbench/dialogs/addin_ids.h"
+#include "workbench/dialogs/list_items.h"
+#include "workbench/output/display_text.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,9 +13,7 @@ namespace {
 
 using namespace adsk::core;
 
-[[noreturn]] void refuse(const std::string& line) { throw Failure(ExitCode::BadUsage, line); }
-
-std::string buttonsOn(const Ptr<ButtonRowCommandInput>& row) {
+std::string captionsOfButtonsOn(const Ptr<ButtonRowCommandInput>& row) {
     std::string captions;
     for (std::size_t i = 0; i < row->listItems()->count(); ++i) {
         const Ptr<ListItem> item = row->listItems()->item(i);
@@ -30,72 +31,72 @@ bool readValue(const Ptr<CommandInput>& input, std::string& value) {
     } else if (const Ptr<TextBoxCommandInput> box = input) {
         value = box->text();
     } else if (const Ptr<ButtonRowCommandInput> row = input) {
-        value = buttonsOn(row);
+        value = captionsOfButtonsOn(row);
     } else {
         return false;
     }
     return true;
 }
 
+void checkCaption(const Ptr<ButtonRowCommandInput>& row, const std::string& caption) {
+    const std::vector<std::string> captions = itemNames(row->listItems());
+    if (!caption.empty() && std::ranges::find(captions, caption) == captions.end()) {
+        refuse("--set \"" + row->name() + "=" + caption +
+               "\": no such choice; available: " + quoted(captions));
+    }
+}
+
 void switchOn(host::Session& session, const Ptr<ButtonRowCommandInput>& row,
               const std::string& caption) {
-    std::string captions;
-    bool isThere = caption.empty();
-    for (std::size_t i = 0; i < row->listItems()->count(); ++i) {
-        const std::string name = row->listItems()->item(i)->name();
-        captions += (captions.empty() ? "\"" : ", \"") + name + "\"";
-        isThere = isThere || name == caption;
-    }
-    if (!isThere) {
-        refuse("--set \"" + row->name() + "=" + caption + "\": there is only " + captions);
-    }
+    checkCaption(row, caption);
     for (std::size_t i = 0; i < row->listItems()->count(); ++i) {
         const Ptr<ListItem> item = row->listItems()->item(i);
         if (item->isSelected() && item->name() != caption) {
             session.choose(row->id(), item->name());
         }
     }
-    if (!caption.empty() && buttonsOn(row) != caption) {
+    if (!caption.empty() && captionsOfButtonsOn(row) != caption) {
         session.choose(row->id(), caption);
     }
 }
 
+PropertyLine findLine(const std::vector<PropertyLine>& lines, const std::string& name) {
+    const auto found = std::ranges::find_if(
+        lines, [&name](const PropertyLine& each) { return each.name == name || each.id == name; });
+    if (found == lines.end()) {
+        std::vector<std::string> names(lines.size());
+        std::ranges::transform(lines, names.begin(), &PropertyLine::name);
+        refuse("--set \"" + name + "\": no such property; available: " + quoted(names));
+    }
+    return *found;
+}
+
 }  // namespace
 
-std::vector<ShownProperty> readProperties(const host::Session& session) {
-    std::vector<ShownProperty> properties;
-    for (const char* group : {"QEMA_properties", "QEMA_customProperties"}) {
-        const Ptr<GroupCommandInput> shown = session.input(group);
-        const Ptr<CommandInputs> children = shown->children();
+std::vector<PropertyLine> readProperties(const host::Session& session) {
+    std::vector<PropertyLine> lines;
+    for (const char* const id : kPropertyGroups) {
+        const Ptr<GroupCommandInput> group = session.input(id);
+        const Ptr<CommandInputs> children = group->children();
         for (std::size_t i = 0; i < children->count(); ++i) {
             const Ptr<CommandInput> input = children->item(i);
-            ShownProperty property{input->id(), input->name(), {}};
-            if (readValue(input, property.value)) {
-                properties.push_back(property);
+            PropertyLine line{.id = input->id(), .name = input->name(), .value = {}};
+            if (readValue(input, line.value)) {
+                lines.push_back(line);
             }
         }
     }
-    return properties;
+    return lines;
 }
 
 std::string setProperty(host::Session& session, const std::string& name, const std::string& value) {
-    const std::vector<ShownProperty> properties = readProperties(session);
-    const auto found = std::find_if(
-        properties.begin(), properties.end(),
-        [&name](const ShownProperty& each) { return each.name == name || each.id == name; });
-    if (found == properties.end()) {
-        std::string names;
-        for (const ShownProperty& each : properties) {
-            names += (names.empty() ? "\"" : ", \"") + each.name + "\"";
-        }
-        refuse("--set \"" + name + "\": there is no such property, only " + names);
-    }
-    if (const Ptr<ButtonRowCommandInput> row = session.input(found->id)) {
+    const PropertyLine line = findLine(readProperties(session), name);
+    if (const Ptr<ButtonRowCommandInput> row = session.input(line.id)) {
         switchOn(session, row, value);
     } else {
-        session.paste(found->id, value);
+        session.paste(line.id, value);
     }
-    return found->id;
+    return line.id;
 }
 
 }  // namespace workbench

@@ -7,7 +7,7 @@
 
 namespace workbench {
 
-bool isOrdinary(const host::UncaughtException& thrown) {
+bool isExpected(const host::UncaughtException& thrown) {
     const std::string& id = thrown.inputId;
     const bool numberless = id == kExportButton || id == kSaveConfiguration || id == kSortOrder ||
                             id.starts_with(kCaptionField);
@@ -22,11 +22,18 @@ std::string describe(const host::UncaughtException& thrown) {
     return line + (thrown.inputId.empty() ? "" : " of " + thrown.inputId);
 }
 
-void refuseThrown(const host::Session& session, std::size_t since, const std::string& what) {
-    const auto begin = session.uncaughtExceptions().begin() + static_cast<std::ptrdiff_t>(since);
-    const auto first = std::find_if_not(begin, session.uncaughtExceptions().end(), isOrdinary);
-    if (first != session.uncaughtExceptions().end()) {
-        throw Failure(ExitCode::AddinFailed, what + ": " + describe(*first));
+std::string describeUnexpected(const std::vector<host::UncaughtException>& thrown,
+                               std::size_t since) {
+    const auto begin = thrown.begin() + static_cast<std::ptrdiff_t>(since);
+    const auto first = std::find_if_not(begin, thrown.end(), isExpected);
+    return first != thrown.end() ? describe(*first) : "";
+}
+
+void refuseUnexpected(const std::vector<host::UncaughtException>& thrown, std::size_t since,
+                      const std::string& what) {
+    const std::string line = describeUnexpected(thrown, since);
+    if (!line.empty()) {
+        throw Failure(ExitCode::AddinFailed, what.empty() ? line : what + ": " + line);
     }
 }
 

@@ -18,7 +18,7 @@ void refuseUnmeasured(const std::vector<host::Unmeasured>& components) {
                                        (others == 1 ? " other component" : " other components");
     throw Failure(ExitCode::BadInput, components.front().reason + "; \"" +
                                           components.front().component + "\"" + more +
-                                          " would be without a mass");
+                                          " would have no mass");
 }
 
 }  // namespace workbench

@@ -6,8 +6,8 @@
 
 namespace workbench {
 
-/// Throws a `Failure` when components could not be measured: their masses, and whatever is summed
-/// up over them, would be too small without anyone seeing it.
+/// Throws a `Failure` when components could not be measured: their masses, and all sums over them,
+/// would be too small, and nothing in the list would show it.
 void refuseUnmeasured(const std::vector<host::Unmeasured>& components);
 
 }  // namespace workbench

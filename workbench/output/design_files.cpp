@@ -1,7 +1,7 @@
 #include "workbench/output/design_files.h"
 
 #include "workbench/cli/exit_code.h"
-#include "workbench/output/display_text.h"
+#include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The name in this folder that no file has yet.
+/// The first name in this folder that no file has yet.
 fs::path freePath(const fs::path& folder, const std::string& name) {
     fs::path path = folder / host::fromUtf8(name + host::kDesignFileEnding);
     for (int number = 2; fs::exists(path); ++number) {
@@ -24,7 +24,20 @@ fs::path freePath(const fs::path& folder, const std::string& name) {
     return path;
 }
 
-void save(const host::DesignData& design, const fs::path& file) {
+bool isDesignFile(const fs::path& file) { return file.extension() == ".json"; }
+
+fs::path newFileBeside(fs::path file) {
+    file.replace_extension(host::kDesignFileEnding);
+    if (fs::exists(file)) {
+        const std::string name = host::toUtf8(file);
+        refuse(name + " exists already; --save " + name + " replaces it");
+    }
+    return file;
+}
+
+}  // namespace
+
+void saveDesign(const host::DesignData& design, const fs::path& file) {
     try {
         host::saveDesignFile(file, design);
     } catch (const host::DesignError& error) {
@@ -32,7 +45,13 @@ void save(const host::DesignData& design, const fs::path& file) {
     }
 }
 
-}  // namespace
+void saveInFolder(const std::vector<host::DesignData>& designs, const fs::path& folder) {
+    for (const host::DesignData& each : designs) {
+        const fs::path file = freePath(folder, fileName(each.name));
+        saveDesign(each, file);
+        reportSaved(std::cout, file);
+    }
+}
 
 std::string fileName(std::string name) {
     constexpr std::string_view kOfPaths = "/\\:*?\"<>|";
@@ -47,15 +66,16 @@ std::string fileName(std::string name) {
     return name;
 }
 
-void saveInFolder(const std::vector<host::DesignData>& designs, const fs::path& folder) {
-    for (const host::DesignData& each : designs) {
-        const fs::path file = freePath(folder, fileName(each.name));
-        save(each, file);
-        std::cout << "Saved: " << printable(host::toUtf8(file)) << "\n";
+fs::path saveTarget(const std::string& file, const std::string& named) {
+    const fs::path input = host::fromUtf8(file);
+    const fs::path target = host::fromUtf8(named);
+    if (!target.empty() && !isDesignFile(target)) {
+        refuse("--save " + named + ": the name of a design file must end in .json");
     }
-    if (!std::cout.flush()) {
-        throw Failure(ExitCode::OutputFailed, "cannot write to stdout");
+    if (!target.empty()) {
+        return target;
     }
+    return isDesignFile(input) ? input : newFileBeside(input);
 }
 
 }  // namespace workbench

@@ -16,7 +16,8 @@ struct Range {
     char32_t last;
 };
 
-// What takes no column of its own: combining marks, joiners, direction marks, variation selectors.
+// Characters that take no column of their own: combining marks, joiners, direction marks, variation
+// selectors.
 constexpr std::array kNoWidth = {
     Range{0x0300, 0x036F},   Range{0x0483, 0x0489}, Range{0x0591, 0x05BD}, Range{0x0610, 0x061A},
     Range{0x064B, 0x065F},   Range{0x06D6, 0x06DC}, Range{0x0E31, 0x0E31}, Range{0x0E34, 0x0E3A},
@@ -26,7 +27,7 @@ constexpr std::array kNoWidth = {
     Range{0xE0100, 0xE01EF},
 };
 
-// What takes two columns: East Asian scripts, their full-width forms, and pictures.
+// Characters that take two columns: East Asian scripts, their full-width forms, and pictures.
 constexpr std::array kWide = {
     Range{0x1100, 0x115F},   Range{0x2E80, 0x303E},   Range{0x3041, 0x33FF},
     Range{0x3400, 0x4DBF},   Range{0x4E00, 0x9FFF},   Range{0xA000, 0xA4CF},
@@ -45,11 +46,11 @@ bool contains(const std::array<Range, N>& ranges, char32_t character) {
 }
 
 struct Decoded {
-    char32_t character;  ///< `kNone` for bytes that are no UTF-8
+    char32_t character;  ///< `kNone` for bytes that are not UTF-8
     std::size_t length;
 };
 
-/// How many bytes a character with this first byte has, 0 for a byte that begins none.
+/// How many bytes a character with this first byte has; 0 for a byte that cannot be the first.
 std::size_t lengthByLead(unsigned char lead) {
     if (lead < 0x80) return 1;
     if (lead >= 0xC2 && lead < 0xE0) return 2;
@@ -57,7 +58,7 @@ std::size_t lengthByLead(unsigned char lead) {
     return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
 }
 
-/// The first character of a text that is not empty.
+/// The first character of a string that is not empty.
 Decoded decode(std::string_view text) {
     const auto lead = static_cast<unsigned char>(text[0]);
     const std::size_t length = lengthByLead(lead);
@@ -85,7 +86,7 @@ bool isControl(char32_t character) {
            character == 0x2029;
 }
 
-bool isBlank(char32_t character) {
+bool isSpace(char32_t character) {
     return character == '\t' || character == '\n' || character == '\r';
 }
 
@@ -95,7 +96,7 @@ std::string printable(std::string_view text) {
     std::string result;
     while (!text.empty()) {
         const Decoded next = decode(text);
-        if (isBlank(next.character)) {
+        if (isSpace(next.character)) {
             result += ' ';
         } else if (next.character == kNone || isControl(next.character)) {
             result += kReplacement;
@@ -128,6 +129,14 @@ bool looksLikeNumber(std::string_view text) {
     const bool onlyNumber =
         std::all_of(text.begin(), text.end(), [&](char c) { return isDigit(c) || c == '.'; });
     return hasDigit && onlyNumber && std::count(text.begin(), text.end(), '.') <= 1;
+}
+
+std::string quoted(const std::vector<std::string>& names) {
+    std::string all;
+    for (const std::string& name : names) {
+        all += (all.empty() ? "\"" : ", \"") + name + "\"";
+    }
+    return all.empty() ? "none" : all;
 }
 
 }  // namespace workbench

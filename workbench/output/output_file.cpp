@@ -31,7 +31,7 @@ void writeWhole(const fs::path& file, const std::string& content) {
     stream.close();
     if (!stream) {
         fs::remove(fresh, failure);
-        fail(file, "the folder cannot be written, or is full");
+        fail(file, "the folder is not writable, or the disk is full");
     }
     fs::rename(fresh, file, failure);
     if (failure) {

@@ -5,8 +5,8 @@
 
 namespace workbench {
 
-/// Writes a file so that it is there whole or not at all: into a new one beside it, which then
-/// takes its name. Makes the folder if it is missing. Throws a `Failure`.
+/// Writes a file whole or not at all: a new one beside it, which is then renamed. Creates a missing
+/// folder. Throws a `Failure` where that fails.
 void writeWhole(const std::filesystem::path& file, const std::string& content);
 
 }  // namespace workbench

@@ -10,13 +10,13 @@
 namespace workbench {
 namespace {
 
-std::string shownText(const host::TableCell& cell) {
+std::string contentOf(const host::TableCell& cell) {
     return cell.text.empty() ? cell.picture : cell.text;
 }
 
-bool showsPictures(const host::TableView& table, std::size_t place) {
+bool showsPictures(const host::TableView& table, std::size_t column) {
     return std::any_of(table.rows.begin(), table.rows.end(), [&](const host::TableRow& row) {
-        return place < row.cells.size() && !row.cells[place].picture.empty();
+        return column < row.cells.size() && !row.cells[column].picture.empty();
     });
 }
 
@@ -30,9 +30,9 @@ std::string firstFree(const std::string& wanted, const std::vector<std::string>&
 
 std::vector<std::string> makeKeys(const PartsList& list, const host::TableView& table) {
     std::vector<std::string> keys;
-    for (std::size_t place = 0; place < list.captions.size(); ++place) {
-        const std::string unnamed = showsPictures(table, place) ? "Image" : "Tree";
-        const std::string& caption = list.captions[place];
+    for (std::size_t column = 0; column < list.captions.size(); ++column) {
+        const std::string unnamed = showsPictures(table, column) ? "Image" : "Tree";
+        const std::string& caption = list.captions[column];
         keys.push_back(firstFree(caption.empty() ? unnamed : caption, keys));
     }
     return keys;
@@ -43,14 +43,14 @@ std::vector<std::string> makeKeys(const PartsList& list, const host::TableView& 
 PartsList readPartsList(const host::TableView& table) {
     PartsList list;
     for (const host::TableRow& row : table.rows) {
-        std::vector<std::string> texts;
+        std::vector<std::string> cells;
         for (const host::TableCell& cell : row.cells) {
-            texts.push_back(row.row == 0 ? cell.text : shownText(cell));
+            cells.push_back(row.row == 0 ? cell.text : contentOf(cell));
         }
         if (row.row == 0) {
-            list.captions = texts;
+            list.captions = cells;
         } else {
-            list.rows.push_back(texts);
+            list.rows.push_back(cells);
         }
     }
     list.keys = makeKeys(list, table);

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// One line on a terminal that is written over again and again, and is gone at the end. Where no
-/// person reads stderr there is none.
+/// One line on a terminal that is overwritten again and again, and erased at the end. Where stderr
+/// is not a terminal nothing is written.
 class ProgressLine {
 public:
     ProgressLine();
@@ -13,7 +13,7 @@ public:
     ProgressLine& operator=(const ProgressLine&) = delete;
     ~ProgressLine();
 
-    /// Shows a line that is fit for a terminal; an empty one takes it away.
+    /// Shows a printable line; an empty one erases it.
     void show(const std::string& line);
 
 private:

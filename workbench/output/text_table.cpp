@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t kGap = 2;
 constexpr const char* kRule = "\xE2\x94\x80";  // U+2500
 
-std::string withoutTrailingBlanks(std::string line) {
+std::string withoutTrailingSpaces(std::string line) {
     line.erase(line.find_last_not_of(' ') + 1);
     return line;
 }
@@ -69,10 +69,10 @@ std::string TextTable::text(std::size_t indent) const {
         rules.push_back(rule);
     }
     const std::string margin(indent, ' ');
-    std::string result = withoutTrailingBlanks(margin + line(captions_, columns)) + "\n";
-    result += withoutTrailingBlanks(margin + line(rules, columns)) + "\n";
+    std::string result = withoutTrailingSpaces(margin + line(captions_, columns)) + "\n";
+    result += withoutTrailingSpaces(margin + line(rules, columns)) + "\n";
     for (const std::vector<std::string>& row : rows_) {
-        result += withoutTrailingBlanks(margin + line(row, columns)) + "\n";
+        result += withoutTrailingSpaces(margin + line(row, columns)) + "\n";
     }
     return result;
 }

@@ -8,9 +8,8 @@ namespace workbench {
 
 /// A table for the terminal or for a file: a line of captions, a rule, and the rows.
 ///
-/// Columns are as wide as their widest text, measured in terminal columns. A column whose texts all
-/// are numbers stands right-aligned under its caption. No line ends in spaces. Texts are made
-/// printable on the way in.
+/// Columns are as wide as their widest cell, measured in terminal columns. A column of numbers
+/// alone is right-aligned under its caption. No line ends in spaces. Cells are made printable.
 class TextTable {
 public:
     explicit TextTable(const std::vector<std::string>& captions);
@@ -18,11 +17,11 @@ public:
     /// Adds a row; missing cells are empty, surplus ones are dropped.
     void add(const std::vector<std::string>& cells);
 
-    /// All lines, each ended by a line feed. `indent` spaces stand before each.
+    /// All lines, each with a line feed at its end and `indent` spaces before it.
     [[nodiscard]] std::string text(std::size_t indent = 0) const;
 
 private:
-    /// How the cells of one column stand.
+    /// How the cells of one column are laid out.
     struct Column {
         std::size_t width;
         bool rightAligned;

@@ -18,7 +18,7 @@ std::optional<std::string> contentOf(const fs::path& file) {
     return std::string{std::istreambuf_iterator<char>(stream), {}};
 }
 
-void putBack(const fs::path& file, const std::optional<std::string>& content) {
+void restore(const fs::path& file, const std::optional<std::string>& content) {
     if (content == contentOf(file)) {
         return;
     }
@@ -35,9 +35,9 @@ void putBack(const fs::path& file, const std::optional<std::string>& content) {
 WrittenFiles::~WrittenFiles() {
     for (const File& file : files_) {
         try {
-            putBack(file.path, file.content);
+            restore(file.path, file.content);
         } catch (const std::exception&) {
-            // The failure that brought this about is the one to tell.
+            // The failure that led here is the one to report.
             continue;
         }
     }

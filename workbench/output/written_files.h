@@ -9,8 +9,8 @@ namespace workbench {
 
 /// Files that a failure must leave as they were.
 ///
-/// What was handed to `watch` is put back at the end, unless `keep` was called: a file gets its old
-/// content, one that was not there goes.
+/// Watched files are restored at the end, unless `keep` was called: a file gets its old content,
+/// one that did not exist is removed.
 class WrittenFiles {
 public:
     WrittenFiles() = default;
@@ -18,8 +18,7 @@ public:
     WrittenFiles& operator=(const WrittenFiles&) = delete;
     ~WrittenFiles();
 
-    /// To be called before the file is written; a relative path starts in the working directory of
-    /// this moment.
+    /// To be called before the file is written. A relative path is made absolute at once.
     void watch(const std::filesystem::path& file);
 
     void keep() { files_.clear(); }

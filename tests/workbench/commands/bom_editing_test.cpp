@@ -13,11 +13,10 @@ using test_support::kSmallDesign;
 using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::text;
-using test_support::Workbench;
 
 namespace {
 
-/// An assembly in an assembly, and a part. An export of the model tells no mass, since the
+/// An assembly in an assembly, and a part. An export of the model has no mass, since the
 /// structure was never shown.
 constexpr const char* kTree = R"(
     Frame
@@ -31,13 +30,11 @@ constexpr const char* kMerged = R"(
     Bolt  number=B-1
     Screw  number=B-1)";
 
-host::DesignData load(const std::string& file) {
-    return host::loadDesignFile(host::fromUtf8(file));
-}
-
 }  // namespace
 
-TEST_F(Workbench, ColumnsAreChosenAndSaved) {
+using BomEditing = test_support::Workbench;
+
+TEST_F(BomEditing, ColumnsAreChosenAndSaved) {
     const std::string file = design(kSmallDesign);
 
     const ProgramResult result = run({"bom", file, "--column", "Quantity=Qty", "--column", "Mass"});
@@ -53,7 +50,7 @@ TEST_F(Workbench, ColumnsAreChosenAndSaved) {
     EXPECT_EQ(firstLines(run({"bom", file}).output, 4), firstLines(result.output, 4));
 }
 
-TEST_F(Workbench, NewColumnsTakeThePlaceOfTheOldOnesAndTheirCaptions) {
+TEST_F(BomEditing, NewColumnsReplaceTheOldOnesAndTheirCaptions) {
     configure({"QEMA_Mass;Weight", "QEMA_Area;Area"});
 
     const ProgramResult result = run({"bom", design(kSmallDesign), "--column", "Mass"});
@@ -65,7 +62,7 @@ TEST_F(Workbench, NewColumnsTakeThePlaceOfTheOldOnesAndTheirCaptions) {
         )") + "\n");
 }
 
-TEST_F(Workbench, AnUnknownPropertyNamesThoseThereAreAndChangesNothing) {
+TEST_F(BomEditing, AnUnknownPropertyListsTheKnownOnesAndChangesNothing) {
     configure({"QEMA_Mass;Mass"});
     const std::string old = readFile(settingsFile());
 
@@ -74,7 +71,7 @@ TEST_F(Workbench, AnUnknownPropertyNamesThoseThereAreAndChangesNothing) {
 
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: --column Weight: there is no such property, only \"Quantity\", "
+              "tarnix-workbench: --column Weight: no such property; available: \"Quantity\", "
               "\"Part Name\", \"Description\", \"Area\", \"Density\", \"Mass\", \"Volume\", "
               "\"Physical Material\", \"Length\", \"Width\", \"Height\", \"Bounding Box\", "
               "\"Supplier\"\n");
@@ -83,7 +80,7 @@ TEST_F(Workbench, AnUnknownPropertyNamesThoseThereAreAndChangesNothing) {
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }
 
-TEST_F(Workbench, AnUnknownSortColumnLeavesTheSettingsAsTheyWere) {
+TEST_F(BomEditing, AnUnknownSortColumnLeavesTheSettingsAsTheyWere) {
     configure({"QEMA_Area;Area"});
     const std::string old = readFile(settingsFile());
 
@@ -92,12 +89,12 @@ TEST_F(Workbench, AnUnknownSortColumnLeavesTheSettingsAsTheyWere) {
 
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: --sort Area: there is no such column, only \"Pos.\", \"Part "
+              "tarnix-workbench: --sort Area: no such column; available: \"Pos.\", \"Part "
               "Number\", \"BOM Structure\", \"Mass [kg]\"\n");
     EXPECT_EQ(readFile(settingsFile()), old);
 }
 
-TEST_F(Workbench, RowsAreSortedByACaption) {
+TEST_F(BomEditing, RowsAreSortedByACaption) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--sort", "Part Number"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -109,7 +106,7 @@ TEST_F(Workbench, RowsAreSortedByACaption) {
         )") + "\n");
 }
 
-TEST_F(Workbench, RowsAreSortedByAPropertyFromTheGreatestOn) {
+TEST_F(BomEditing, RowsAreSortedByAPropertyInDescendingOrder) {
     configure({"QEMA_Quantity;How many"});
 
     const ProgramResult result = run({"bom", design(kSmallDesign), "--sort", "Quantity:desc"});
@@ -122,7 +119,7 @@ TEST_F(Workbench, RowsAreSortedByAPropertyFromTheGreatestOn) {
         )") + "\n");
 }
 
-TEST_F(Workbench, ASortOfTextsThatTheAddinTakesForNumbersFails) {
+TEST_F(BomEditing, ASortOfNamesThatTheAddinTakesForNumbersFails) {
     configure({"QEMA_Part Name;Name"});
 
     const ProgramResult result =
@@ -136,7 +133,7 @@ TEST_F(Workbench, ASortOfTextsThatTheAddinTakesForNumbersFails) {
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }
 
-TEST_F(Workbench, TheWholeTreeIsShown) {
+TEST_F(BomEditing, TheWholeTreeIsShown) {
     const ProgramResult result =
         run({"bom", design(kTree), "--tab", "model", "--expand", "all", "--format", "csv"});
 
@@ -152,7 +149,7 @@ TEST_F(Workbench, TheWholeTreeIsShown) {
               ";Total mass of structure BOM [kg]: ;\r\n");
 }
 
-TEST_F(Workbench, TheTreeIsShownDownToALevel) {
+TEST_F(BomEditing, TheTreeIsShownDownToALevel) {
     const ProgramResult result =
         run({"bom", design(kTree), "--tab", "model", "--expand", "2", "--format", "csv"});
 
@@ -166,7 +163,7 @@ TEST_F(Workbench, TheTreeIsShownDownToALevel) {
               ";Total mass of structure BOM [kg]: ;\r\n");
 }
 
-TEST_F(Workbench, EditedCellsAreSavedAndPrintedFromANewOpening) {
+TEST_F(BomEditing, EditedCellsAreSavedAndPrintedFromANewOpening) {
     const std::string file = design(kSmallDesign);
 
     const ProgramResult result =
@@ -180,10 +177,10 @@ TEST_F(Workbench, EditedCellsAreSavedAndPrintedFromANewOpening) {
         Part     2  B-2          Produce
         )") + "\n");
     EXPECT_NE(result.output.find("Saved: " + file + "\n"), std::string::npos) << result.output;
-    EXPECT_EQ(load(file).components[2].partNumber, "B-2");
+    EXPECT_EQ(loadDesign(file).components[2].partNumber, "B-2");
 }
 
-TEST_F(Workbench, ANamedFileGetsTheDesignAndTheOpenedOneStays) {
+TEST_F(BomEditing, ANamedFileGetsTheDesignAndTheOpenedOneStays) {
     const std::string file = design(kSmallDesign);
     const std::string old = readFile(host::fromUtf8(file));
     const std::string copy = host::toUtf8(folder.path() / "copy.design.json");
@@ -191,19 +188,19 @@ TEST_F(Workbench, ANamedFileGetsTheDesignAndTheOpenedOneStays) {
     const ProgramResult result = run({"bom", file, "--set", "1:Part Number=F", "--save", copy});
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_EQ(load(copy).components[1].partNumber, "F");
+    EXPECT_EQ(loadDesign(copy).components[1].partNumber, "F");
     EXPECT_EQ(readFile(host::fromUtf8(file)), old);
 }
 
-TEST_F(Workbench, RowsOfCellsAreThoseOfTheSortedList) {
+TEST_F(BomEditing, RowsOfCellsAreThoseOfTheSortedList) {
     const std::string file = design(kSmallDesign);
 
     run({"bom", file, "--sort", "Part Number", "--set", "1:Part Number=Z", "--save"});
 
-    EXPECT_EQ(load(file).components[2].partNumber, "Z");
+    EXPECT_EQ(loadDesign(file).components[2].partNumber, "Z");
 }
 
-TEST_F(Workbench, LineNumbersStartAtOneAfterSaving) {
+TEST_F(BomEditing, LineNumbersStartAtOneAfterSaving) {
     const ProgramResult result =
         run({"bom", design(kSmallDesign), "--column", "Mass", "--tab", "model", "--set",
              "1:Part Number=F", "--save", "--format", "csv"});
@@ -218,7 +215,7 @@ TEST_F(Workbench, LineNumbersStartAtOneAfterSaving) {
               ";Total mass of structure BOM [kg]: ;\r\n");
 }
 
-TEST_F(Workbench, AnUnknownCellNamesThoseThereAreAndWritesNothing) {
+TEST_F(BomEditing, AnUnknownCellListsTheKnownOnesAndWritesNothing) {
     const std::string file = design(kSmallDesign);
     const std::string old = readFile(host::fromUtf8(file));
 
@@ -228,28 +225,28 @@ TEST_F(Workbench, AnUnknownCellNamesThoseThereAreAndWritesNothing) {
 
     EXPECT_EQ(column.status, 2);
     EXPECT_EQ(column.errors,
-              "tarnix-workbench: --set 1:Pos.: there is no such column, only \"Part Number\", "
+              "tarnix-workbench: --set 1:Pos.: no such column; available: \"Part Number\", "
               "\"BOM Structure\"\n");
     EXPECT_EQ(row.status, 2);
     EXPECT_EQ(row.errors,
-              "tarnix-workbench: --set 3:Part Number: there is no such row, only 1 to 2\n");
+              "tarnix-workbench: --set 3:Part Number: row 3 is out of range (1 to 2)\n");
     EXPECT_EQ(readFile(host::fromUtf8(file)), old);
 }
 
-TEST_F(Workbench, AnUnknownChoiceNamesThoseThereAre) {
+TEST_F(BomEditing, AnUnknownChoiceListsTheKnownOnes) {
     const ProgramResult result =
         run({"bom", design(kSmallDesign), "--set", "1:BOM Structure=Bought", "--save"});
 
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: --set 1:BOM Structure=Bought: there is no such choice, only "
+              "tarnix-workbench: --set 1:BOM Structure=Bought: no such choice; available: "
               "\"Produce\", \"Buy\", \"AsPart\", \"Divided\", \"Reference\"\n");
 }
 
-TEST_F(Workbench, ASaveInWhichTheAddinThrowsFailsAndWritesNothing) {
+TEST_F(BomEditing, ASaveInWhichTheAddinThrowsFailsAndWritesNothing) {
     // Equal descriptions get no marker, and accepting cuts a marker's length off all the same.
     const std::string file = design(kMerged);
-    host::DesignData data = load(file);
+    host::DesignData data = loadDesign(file);
     data.components[1].description = "Short";
     data.components[2].description = "Short";
     host::saveDesignFile(host::fromUtf8(file), data);
@@ -259,16 +256,16 @@ TEST_F(Workbench, ASaveInWhichTheAddinThrowsFailsAndWritesNothing) {
 
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: cannot save the tab structure: the add-in threw "
+              "tarnix-workbench: cannot save the structure tab: the add-in threw "
               "std::out_of_range (invalid string position) in OnExecute\n");
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(readFile(host::fromUtf8(file)), old);
 }
 
-TEST_F(Workbench, ASaveIntoAFileThatIsNoDesignFileIsRefused) {
+TEST_F(BomEditing, ASaveIntoAnotherKindOfFileIsRefused) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--save", "frame.step"});
 
     EXPECT_EQ(result.status, 2);
     EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-    EXPECT_NE(result.errors.find("has to end in .json"), std::string::npos) << result.errors;
+    EXPECT_NE(result.errors.find("must end in .json"), std::string::npos) << result.errors;
 }

@@ -11,22 +11,20 @@
 
 namespace {
 
-using workbench::BomOptions;
-using workbench::BomWishes;
+using workbench::BomRequest;
 using workbench::CellEdit;
-using workbench::ColumnWish;
-using workbench::SortWish;
+using workbench::checkRequest;
+using workbench::ColumnChoice;
+using workbench::parseColumns;
+using workbench::parseEdits;
+using workbench::parseLevels;
+using workbench::parseSort;
+using workbench::SortOrder;
 
-BomWishes read(const std::function<void(BomOptions&)>& set) {
-    BomOptions options;
-    set(options);
-    return workbench::readWishes(options);
-}
-
-/// The line with which options are refused as wrong usage; empty where they are not.
-std::string refusal(const std::function<void(BomOptions&)>& set) {
+/// The line with which something is refused as wrong usage; empty where it is not.
+std::string refusal(const std::function<void()>& parse) {
     try {
-        read(set);
+        parse();
         return "";
     } catch (const workbench::Failure& failure) {
         return failure.code() == workbench::ExitCode::BadUsage ? failure.what() : "other code";
@@ -35,107 +33,83 @@ std::string refusal(const std::function<void(BomOptions&)>& set) {
 
 }  // namespace
 
-TEST(BomWishes, WithoutOptionsNothingIsWished) {
-    const BomWishes wishes = read([](BomOptions&) {});
-
-    EXPECT_TRUE(wishes.columns.empty());
-    EXPECT_FALSE(wishes.sort.has_value());
-    EXPECT_EQ(wishes.levels, 1);
-    EXPECT_TRUE(wishes.cells.empty());
+TEST(BomRequest, OfNoOptionsIsEmpty) {
+    EXPECT_TRUE(parseColumns({}).empty());
+    EXPECT_FALSE(parseSort("").has_value());
+    EXPECT_FALSE(parseLevels("").has_value());
+    EXPECT_TRUE(parseEdits({}).empty());
+    EXPECT_EQ(refusal([] { checkRequest({}); }), "");
 }
 
-TEST(BomWishes, AColumnIsCalledAsItsPropertyOrAsTold) {
-    const BomWishes wishes = read([](BomOptions& options) {
-        options.columns = {"Mass", "Area=Paint = cost", "Width="};
-    });
-
-    EXPECT_EQ(wishes.columns,
-              (std::vector<ColumnWish>{{"Mass", "Mass"}, {"Area", "Paint = cost"}, {"Width", ""}}));
+TEST(BomRequest, AColumnIsNamedAfterItsPropertyUnlessItHasACaption) {
+    EXPECT_EQ(parseColumns({"Mass", "Area=Paint = cost", "Width="}),
+              (std::vector<ColumnChoice>{{.property = "Mass", .caption = "Mass"},
+                                         {.property = "Area", .caption = "Paint = cost"},
+                                         {.property = "Width", .caption = ""}}));
 }
 
-TEST(BomWishes, AColumnWithoutPropertyIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) { options.columns = {"=Weight"}; }),
-              "--column =Weight: it has to be PROPERTY or PROPERTY=CAPTION");
+TEST(BomRequest, AColumnWithoutPropertyIsRefused) {
+    EXPECT_EQ(refusal([] { parseColumns({"=Weight"}); }),
+              "--column =Weight: expected PROPERTY or PROPERTY=CAPTION");
 }
 
-TEST(BomWishes, AColumnGivenTwiceIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) {
-                  options.columns = {"Mass", "Area", "Mass=kg"};
+TEST(BomRequest, AColumnGivenTwiceIsRefused) {
+    EXPECT_EQ(refusal([] {
+                  parseColumns({"Mass", "Area", "Mass=kg"});
               }),
               "--column Mass is given twice");
 }
 
-TEST(BomWishes, ASeventhColumnIsRefused) {
+TEST(BomRequest, ASeventhColumnIsRefused) {
+    EXPECT_EQ(refusal([] {
+                  parseColumns({"a", "b", "c", "d", "e", "f", "g"});
+              }),
+              "--column is given 7 times, but there are 6 free columns");
+}
+
+TEST(BomRequest, ASortAscendsUnlessItSaysOtherwise) {
+    EXPECT_EQ(parseSort("Pos."), (SortOrder{.column = "Pos.", .descending = false}));
+    EXPECT_EQ(parseSort("Mass:desc"), (SortOrder{.column = "Mass", .descending = true}));
+}
+
+TEST(BomRequest, OnlyTheLastOrderOfASortCounts) {
+    EXPECT_EQ(parseSort("a:desc:asc"), (SortOrder{.column = "a:desc", .descending = false}));
+}
+
+TEST(BomRequest, ASortOfTheModelIsRefused) {
     EXPECT_EQ(
-        refusal([](BomOptions& options) { options.columns = {"a", "b", "c", "d", "e", "f", "g"}; }),
-        "--column is given 7 times, there are 6 free columns");
+        refusal([] { checkRequest({.tab = &workbench::kModelTab, .sort = parseSort("Mass")}); }),
+        "--sort requires --tab structure: the model tab has an order of its own");
 }
 
-TEST(BomWishes, ASortAscendsUnlessItIsToldToDescend) {
-    EXPECT_EQ(read([](BomOptions& options) { options.sort = "Pos."; }).sort,
-              (SortWish{"Pos.", false}));
-    EXPECT_EQ(read([](BomOptions& options) { options.sort = "Mass:desc"; }).sort,
-              (SortWish{"Mass", true}));
+TEST(BomRequest, TheTreeIsExpandedToALevelOrCompletely) {
+    EXPECT_EQ(parseLevels("3"), 3);
+    EXPECT_EQ(parseLevels("all"), std::numeric_limits<int>::max());
 }
 
-TEST(BomWishes, OnlyTheLastOrderOfASortCounts) {
-    EXPECT_EQ(read([](BomOptions& options) { options.sort = "a:desc:asc"; }).sort,
-              (SortWish{"a:desc", false}));
+TEST(BomRequest, ALevelThatIsNotANumberIsRefused) {
+    EXPECT_EQ(refusal([] { parseLevels("2nd"); }), "--expand 2nd: expected all, or a level from 1");
 }
 
-TEST(BomWishes, ASortOfTheModelIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) {
-                  options.tab = "model";
-                  options.sort = "Mass";
-              }),
-              "--sort needs --tab structure: the other tab has an order of its own");
+TEST(BomRequest, AnExpandedStructureIsRefused) {
+    EXPECT_EQ(refusal([] { checkRequest({.levels = parseLevels("all")}); }),
+              "--expand requires --tab model: the structure tab has no tree");
 }
 
-TEST(BomWishes, TheTreeIsShownToALevelOrWhole) {
-    BomOptions options;
-    options.tab = "model";
-    options.expand = "3";
-    EXPECT_EQ(workbench::readWishes(options).levels, 3);
-    options.expand = "all";
-    EXPECT_EQ(workbench::readWishes(options).levels, std::numeric_limits<int>::max());
+TEST(BomRequest, AnEditHasARowAColumnAndAValue) {
+    EXPECT_EQ(parseEdits({"12:Part Number=A=B:C", "1:Mass="}),
+              (std::vector<CellEdit>{{.row = 12, .column = "Part Number", .value = "A=B:C"},
+                                     {.row = 1, .column = "Mass", .value = ""}}));
 }
 
-TEST(BomWishes, ALevelThatIsNoneIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) {
-                  options.tab = "model";
-                  options.expand = "2nd";
-              }),
-              "--expand 2nd: it has to be all, or a level from 1 on");
+TEST(BomRequest, AnEditOfAnotherFormIsRefused) {
+    EXPECT_EQ(refusal([] { parseEdits({"0:Mass=1"}); }),
+              "--set 0:Mass=1: expected ROW:COLUMN=VALUE, with a row from 1");
+    EXPECT_EQ(refusal([] { parseEdits({"1=Mass:1"}); }),
+              "--set 1=Mass:1: expected ROW:COLUMN=VALUE, with a row from 1");
 }
 
-TEST(BomWishes, AnExpandedStructureIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) { options.expand = "all"; }),
-              "--expand needs --tab model: the other tab has no tree");
-}
-
-TEST(BomWishes, ACellIsARowAndAColumn) {
-    const BomWishes wishes = read([](BomOptions& options) {
-        options.save = true;
-        options.cells = {"12:Part Number=A=B:C", "1:Mass="};
-    });
-
-    EXPECT_EQ(wishes.cells, (std::vector<CellEdit>{{12, "Part Number", "A=B:C"}, {1, "Mass", ""}}));
-}
-
-TEST(BomWishes, ACellOfAnotherFormIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) {
-                  options.save = true;
-                  options.cells = {"0:Mass=1"};
-              }),
-              "--set 0:Mass=1: it has to be ROW:COLUMN=VALUE, with a row from 1 on");
-    EXPECT_EQ(refusal([](BomOptions& options) {
-                  options.save = true;
-                  options.cells = {"1=Mass:1"};
-              }),
-              "--set 1=Mass:1: it has to be ROW:COLUMN=VALUE, with a row from 1 on");
-}
-
-TEST(BomWishes, ACellThatIsNotSavedIsRefused) {
-    EXPECT_EQ(refusal([](BomOptions& options) { options.cells = {"1:Mass=1"}; }),
-              "--set needs --save: what is not saved is lost as the dialog closes");
+TEST(BomRequest, AnEditThatIsNotSavedIsRefused) {
+    EXPECT_EQ(refusal([] { checkRequest({.edits = parseEdits({"1:Mass=1"})}); }),
+              "--set requires --save: without it the edits are lost when the dialog closes");
 }

@@ -13,10 +13,11 @@ using test_support::kSmallDesign;
 using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::text;
-using test_support::Workbench;
 using test_support::writeFile;
 
-TEST_F(Workbench, BomPrintsTheStructureAndItsMass) {
+using BomCommand = test_support::Workbench;
+
+TEST_F(BomCommand, PrintsTheStructureAndItsMass) {
     const ProgramResult result = run({"bom", design(kSmallDesign)});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -31,16 +32,16 @@ TEST_F(Workbench, BomPrintsTheStructureAndItsMass) {
     EXPECT_EQ(result.errors, "");
 }
 
-TEST_F(Workbench, BomTellsWhereTheExportLiesAndWhatTheShellWasAsked) {
+TEST_F(BomCommand, ReportsWhereTheExportIsAndWhatTheShellWasAsked) {
     const ProgramResult result = run({"bom", design(kSmallDesign)});
 
-    const std::string told = "TarnixBOM.csv: " + host::toUtf8(addinCopy() / "TarnixBOM.csv") + "\n";
-    EXPECT_NE(result.output.find(told), std::string::npos) << result.output;
+    const std::string line = "TarnixBOM.csv: " + host::toUtf8(addinCopy() / "TarnixBOM.csv") + "\n";
+    EXPECT_NE(result.output.find(line), std::string::npos) << result.output;
     EXPECT_NE(result.output.find("The add-in asked to open "), std::string::npos);
     EXPECT_NE(result.output.find("\\TarnixBOM.xlsm; use --open to let it\n"), std::string::npos);
 }
 
-TEST_F(Workbench, CsvIsTheExportedFileAndNothingElse) {
+TEST_F(BomCommand, CsvIsTheExportedFileAndNothingElse) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--format", "csv"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -53,7 +54,7 @@ TEST_F(Workbench, CsvIsTheExportedFileAndNothingElse) {
     EXPECT_EQ(result.output, readFile(addinCopy() / "TarnixBOM.csv"));
 }
 
-TEST_F(Workbench, JsonHasAnObjectForEachLineOfTheList) {
+TEST_F(BomCommand, JsonHasAnObjectForEachLineOfTheList) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--format", "json"});
 
     EXPECT_EQ(result.output, text(R"(
@@ -74,7 +75,7 @@ TEST_F(Workbench, JsonHasAnObjectForEachLineOfTheList) {
         )") + "\n");
 }
 
-TEST_F(Workbench, ColumnsThatTheUserChoseArePrinted) {
+TEST_F(BomCommand, ColumnsThatTheUserChoseArePrinted) {
     configure({"QEMA_Quantity;Qty", "QEMA_Mass;Mass"});
 
     const ProgramResult result = run({"bom", design(kSmallDesign)});
@@ -87,7 +88,7 @@ TEST_F(Workbench, ColumnsThatTheUserChoseArePrinted) {
         )") + "\n");
 }
 
-TEST_F(Workbench, TheModelTabShowsTheFirstLevel) {
+TEST_F(BomCommand, TheModelTabShowsTheFirstLevel) {
     const ProgramResult result = run({"bom", design(R"(
                                           Frame
                                             Leg
@@ -103,7 +104,7 @@ TEST_F(Workbench, TheModelTabShowsTheFirstLevel) {
         )") + "\n");
 }
 
-TEST_F(Workbench, NamesOfAllScriptsKeepTheTableInLine) {
+TEST_F(BomCommand, NamesOfAllScriptsKeepTheTableInLine) {
     const ProgramResult result = run({"bom", design(R"(
         鋼板
         Größe  number="Größe 5")",
@@ -117,7 +118,7 @@ TEST_F(Workbench, NamesOfAllScriptsKeepTheTableInLine) {
         )") + "\n");
 }
 
-TEST_F(Workbench, OutGetsACopyOfTheExport) {
+TEST_F(BomCommand, OutGetsACopyOfTheExport) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--out", out()});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -127,7 +128,7 @@ TEST_F(Workbench, OutGetsACopyOfTheExport) {
     EXPECT_FALSE(fs::exists(folder.path() / "out" / "TarnixBOM.csv.new"));
 }
 
-TEST_F(Workbench, AFileInThePlaceOfTheFolderForTheExportIsRefusedWithALine) {
+TEST_F(BomCommand, AFileInThePlaceOfTheFolderForTheExportIsRefusedWithALine) {
     writeFile(folder.path() / "out", "mine");
 
     const ProgramResult result = run({"bom", design(kSmallDesign), "--out", out()});
@@ -141,7 +142,7 @@ TEST_F(Workbench, AFileInThePlaceOfTheFolderForTheExportIsRefusedWithALine) {
     EXPECT_EQ(readFile(folder.path() / "out"), "mine");
 }
 
-TEST_F(Workbench, ADesignWithoutOccurrencesHasNothingToExport) {
+TEST_F(BomCommand, ADesignWithoutOccurrencesHasNothingToExport) {
     const ProgramResult result = run({"bom", design("")});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -150,7 +151,7 @@ TEST_F(Workbench, ADesignWithoutOccurrencesHasNothingToExport) {
         << result.output;
 }
 
-TEST_F(Workbench, AnOldExportIsNotTakenForANewOne) {
+TEST_F(BomCommand, AnOldExportIsNotTakenForANewOne) {
     run({"bom", design(kSmallDesign)});
 
     const ProgramResult result = run({"bom", design(""), "--out", out()});
@@ -161,7 +162,7 @@ TEST_F(Workbench, AnOldExportIsNotTakenForANewOne) {
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }
 
-TEST_F(Workbench, VerboseTellsWhatTheAddinThrowsEachTime) {
+TEST_F(BomCommand, VerboseReportsWhatTheAddinAlwaysThrows) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--verbose"});
 
     EXPECT_EQ(result.status, 0);
@@ -171,7 +172,7 @@ TEST_F(Workbench, VerboseTellsWhatTheAddinThrowsEachTime) {
               "the add-in threw std::exception in stop\n");
 }
 
-TEST_F(Workbench, WhatTheAddinThrowsOtherwiseFailsWithALine) {
+TEST_F(BomCommand, WhatTheAddinThrowsOtherwiseFailsWithALine) {
     // A key of a configured column that is shorter than its prefix.
     configure({"Mass;Mass"});
 
@@ -185,7 +186,7 @@ TEST_F(Workbench, WhatTheAddinThrowsOtherwiseFailsWithALine) {
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }
 
-TEST_F(Workbench, SettingsThatAreNoXmlFailWithALine) {
+TEST_F(BomCommand, SettingsThatAreNotXmlFailWithALine) {
     configure({});
     writeFile(addinCopy() / "Tarnix_configuration.xml", "<configuration");
 
@@ -196,7 +197,7 @@ TEST_F(Workbench, SettingsThatAreNoXmlFailWithALine) {
     EXPECT_EQ(readFile(addinCopy() / "Tarnix_configuration.xml"), "<configuration");
 }
 
-TEST_F(Workbench, AUserFolderInUseIsRefusedWithALine) {
+TEST_F(BomCommand, AUserFolderInUseIsRefusedWithALine) {
     const fs::path home = folder.path() / "data" / "tarnix-workbench";
     fs::create_directories(home);
     const auto lock = host::FolderLock::take(home);
@@ -208,7 +209,7 @@ TEST_F(Workbench, AUserFolderInUseIsRefusedWithALine) {
               "tarnix-workbench: another process is using " + host::toUtf8(home) + "\n");
 }
 
-TEST_F(Workbench, AMissingAddinIsNamed) {
+TEST_F(BomCommand, AMissingAddinIsNamed) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--addin", out()});
 
     EXPECT_EQ(result.status, 3);
@@ -217,7 +218,7 @@ TEST_F(Workbench, AMissingAddinIsNamed) {
                                  " is missing\n");
 }
 
-TEST_F(Workbench, AMissingFileIsRefusedWithALine) {
+TEST_F(BomCommand, AMissingFileIsRefusedWithALine) {
     const ProgramResult result = run({"bom", "nowhere.step", "--out", out()});
 
     EXPECT_EQ(result.status, 1);
@@ -225,89 +226,4 @@ TEST_F(Workbench, AMissingFileIsRefusedWithALine) {
     EXPECT_EQ(result.errors.rfind("tarnix-workbench: nowhere.step", 0), 0U) << result.errors;
     EXPECT_EQ(result.output, "");
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
-}
-
-TEST_F(Workbench, ABrokenDesignFileIsRefusedWithALine) {
-    const fs::path file = folder.path() / "broken.design.json";
-    writeFile(file, "{\"components\": [");
-
-    const ProgramResult result = run({"info", host::toUtf8(file)});
-
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-    EXPECT_NE(result.errors.find("broken.design.json"), std::string::npos) << result.errors;
-}
-
-TEST_F(Workbench, AnEmptyFileIsRefusedWithALine) {
-    const fs::path file = folder.path() / "empty.step";
-    writeFile(file, "");
-
-    const ProgramResult result = run({"info", host::toUtf8(file)});
-
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-}
-
-TEST_F(Workbench, AFolderIsRefusedWithALine) {
-    const ProgramResult result = run({"info", host::toUtf8(folder.path())});
-
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-}
-
-TEST_F(Workbench, InfoCountsWhatAFileHolds) {
-    const ProgramResult result = run({"info", design(R"(
-        Frame  material=Aluminium:0.0027 box=10x10x1
-          Leg  material=Steel:0.00785 box=1x1x40
-          Leg
-        Frame
-        Bolt  material=Steel:0.00785 box=1x1x1)")});
-
-    EXPECT_EQ(result.status, 0) << result.errors;
-    // Frame, its two legs, both again, and the bolt.
-    EXPECT_EQ(result.output, text(R"(
-        sample
-
-        Components   4
-          with shape 3
-        Occurrences  7
-        Levels       2
-        Length unit  not told
-
-        Material   Density [kg/m³]  Components
-        ─────────  ───────────────  ──────────
-        Aluminium           2700.0           1
-        Steel               7850.0           2
-        )") + "\n");
-}
-
-TEST_F(Workbench, AnUnknownOptionIsWrongUsage) {
-    const ProgramResult result = run({"bom", "--nonsense", "a.step"});
-
-    EXPECT_EQ(result.status, 2);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-}
-
-TEST_F(Workbench, WithoutACommandItIsWrongUsage) {
-    const ProgramResult result = run({});
-
-    EXPECT_EQ(result.status, 2);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-}
-
-TEST_F(Workbench, AnUnknownFormatNamesTheOnesThereAre) {
-    const ProgramResult result = run({"bom", "a.step", "--format", "xml"});
-
-    EXPECT_EQ(result.status, 2);
-    EXPECT_NE(result.errors.find("{table,csv,json}"), std::string::npos) << result.errors;
-}
-
-TEST_F(Workbench, HelpAndVersionSucceed) {
-    const ProgramResult help = run({"bom", "--help"});
-    const ProgramResult version = run({"--version"});
-
-    EXPECT_EQ(help.status, 0);
-    EXPECT_NE(help.output.find("--tab"), std::string::npos) << help.output;
-    EXPECT_EQ(version.status, 0);
-    EXPECT_EQ(version.output.rfind("tarnix-workbench ", 0), 0U) << version.output;
 }

@@ -27,7 +27,7 @@ protected:
         return host::toUtf8(path);
     }
 
-    /// Why `bom` refuses a file: its line behind the file's name.
+    /// Why `bom` refuses a file: its line after the file's name.
     std::string reason(const std::string& file, const std::vector<std::string>& more = {}) {
         std::vector<std::string> arguments = {"bom", file, "--out", out()};
         arguments.insert(arguments.end(), more.begin(), more.end());
@@ -151,7 +151,7 @@ TEST_F(BadInput, ADesignFileThatMayTakeTooMuchMemory) {
               "limit\n");
 }
 
-TEST_F(BadInput, GetsItsLineFromInfoToo) {
+TEST_F(BadInput, GetsTheSameLineFromInfo) {
     const std::string path = file("PK");
 
     EXPECT_EQ(reason(path, run({"info", path})),

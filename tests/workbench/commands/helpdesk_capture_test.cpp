@@ -9,21 +9,21 @@ using test_support::Picture;
 namespace {
 
 /// On the display of the test, which is 800 by 600 pixels large.
-class CapturesOfTheWorkbench : public HelpdeskOfTheWorkbench {
+class HelpdeskCapture : public Helpdesk {
 protected:
     void SetUp() override {
         const char* const display = std::getenv("TEST_DISPLAY");
         if (display == nullptr) {
             GTEST_SKIP() << "TEST_DISPLAY names no display";
         }
-        HelpdeskOfTheWorkbench::SetUp();
-        set("DISPLAY", std::filesystem::path(display));
+        Helpdesk::SetUp();
+        variables.set("DISPLAY", std::filesystem::path(display));
     }
 };
 
 }  // namespace
 
-TEST_F(CapturesOfTheWorkbench, AreOfTheScreenAndOfTheHostsWindow) {
+TEST_F(HelpdeskCapture, AreOfTheScreenAndOfTheHostsWindow) {
     const PatternWindow window("Autodesk Fusion 360", 300, 200, 100, 60);
 
     const auto result = helpdesk({"capture-screen", "capture-host"});

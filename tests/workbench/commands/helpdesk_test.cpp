@@ -15,19 +15,19 @@ std::string folderLine(const fs::path& folder) {
 
 }  // namespace
 
-TEST_F(HelpdeskOfTheWorkbench, PressesTheButtonsInOrderInOneProcess) {
+TEST_F(Helpdesk, PressesTheButtonsInOrderInOneProcess) {
     const ProgramResult result = helpdesk({"open", "system-info", "clear"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_FALSE(fs::exists(support()));
     EXPECT_NE(result.output.find("The add-in asked to open "), std::string::npos) << result.output;
     EXPECT_NE(result.output.find("Helpdesk\\; use --open to let it\n"), std::string::npos);
-    EXPECT_NE(result.output.find(folderLine(support()) + ", not there\n"), std::string::npos)
+    EXPECT_NE(result.output.find(folderLine(support()) + " (does not exist)\n"), std::string::npos)
         << result.output;
     EXPECT_EQ(result.errors, "");
 }
 
-TEST_F(HelpdeskOfTheWorkbench, ListsWhatTheSupportFolderHolds) {
+TEST_F(Helpdesk, ListsWhatTheSupportFolderHolds) {
     const ProgramResult result = helpdesk({"system-info"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -35,7 +35,7 @@ TEST_F(HelpdeskOfTheWorkbench, ListsWhatTheSupportFolderHolds) {
     EXPECT_EQ(readFile(support() / "SystemInfo.txt").rfind("Hardware information: \r\n", 0), 0U);
 }
 
-TEST_F(HelpdeskOfTheWorkbench, KeepsTheSupportFolderForTheNextTimeAndDoesNotRememberIt) {
+TEST_F(Helpdesk, KeepsTheSupportFolderForTheNextTimeAndDoesNotRememberIt) {
     helpdesk({"open", "system-info"});
     const ProgramResult result = helpdesk({"clear"});
 
@@ -43,34 +43,34 @@ TEST_F(HelpdeskOfTheWorkbench, KeepsTheSupportFolderForTheNextTimeAndDoesNotReme
     EXPECT_TRUE(fs::exists(support() / "SystemInfo.txt"));
 }
 
-TEST_F(HelpdeskOfTheWorkbench, ClearsNothingOfThePersonsWhenNoFolderIsRemembered) {
-    fs::create_directory(mine() / "Helpdesk");
-    writeFile(mine() / "Helpdesk" / "kept", "x");
+TEST_F(Helpdesk, ClearsNothingOfTheUsersWhenNoFolderIsRemembered) {
+    fs::create_directory(userTemp() / "Helpdesk");
+    writeFile(userTemp() / "Helpdesk" / "kept", "x");
 
     const ProgramResult result = helpdesk({"clear"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_TRUE(fs::exists(stand() / "kept"));
-    EXPECT_TRUE(fs::exists(mine() / "Helpdesk" / "kept"));
+    EXPECT_TRUE(fs::exists(workingDirectory() / "kept"));
+    EXPECT_TRUE(fs::exists(userTemp() / "Helpdesk" / "kept"));
     EXPECT_TRUE(fs::exists(folder.path() / "data" / "tarnix-workbench" / "Tarnix" / "Tarnix.dll"));
 }
 
-TEST_F(HelpdeskOfTheWorkbench, UsesThePersonsSupportFolderWhenAskedTo) {
+TEST_F(Helpdesk, UsesTheUsersSupportFolderWhenAskedTo) {
     const ProgramResult result = helpdesk({"system-info", "--here"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_TRUE(fs::exists(mine() / "Helpdesk" / "SystemInfo.txt"));
+    EXPECT_TRUE(fs::exists(userTemp() / "Helpdesk" / "SystemInfo.txt"));
     EXPECT_FALSE(fs::exists(support()));
 }
 
-TEST_F(HelpdeskOfTheWorkbench, TellsWhatTheAddinSays) {
+TEST_F(Helpdesk, ReportsWhatTheAddinSays) {
     const ProgramResult result = helpdesk({"zip"});
 
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "the add-in says: Target directory does not exist.\n");
 }
 
-TEST_F(HelpdeskOfTheWorkbench, LeavesAnArchiveThatIsComplete) {
+TEST_F(Helpdesk, LeavesAnArchiveThatIsComplete) {
     const ProgramResult result = helpdesk({"system-info", "zip"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -80,7 +80,7 @@ TEST_F(HelpdeskOfTheWorkbench, LeavesAnArchiveThatIsComplete) {
     EXPECT_EQ(archive.substr(archive.size() - 22, 4), std::string("PK\5\6", 4));
 }
 
-TEST_F(HelpdeskOfTheWorkbench, AsksToOpenTheGuideAndTheAddress) {
+TEST_F(Helpdesk, AsksToOpenTheGuideAndTheAddress) {
     const ProgramResult result = helpdesk({"guide", "go"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -88,18 +88,18 @@ TEST_F(HelpdeskOfTheWorkbench, AsksToOpenTheGuideAndTheAddress) {
     EXPECT_NE(result.output.find("The add-in asked to open http://"), std::string::npos);
 }
 
-TEST_F(HelpdeskOfTheWorkbench, RefusesAnUnknownAction) {
+TEST_F(Helpdesk, RefusesAnUnknownAction) {
     const ProgramResult result = helpdesk({"delete"});
 
     EXPECT_EQ(result.status, 2);
     EXPECT_NE(result.errors.find("capture-screen"), std::string::npos) << result.errors;
 }
 
-TEST_F(HelpdeskOfTheWorkbench, TellsWhatTheAddinRaised) {
-    // What is left of the low byte of U+00E9 is no UTF-8, in which the folder is remembered.
-    set("TMPDIR", fs::path(mine() / u8"\u00E9"));
-    set("TMP", fs::path(mine() / u8"\u00E9"));
-    fs::create_directory(mine() / u8"\u00E9");
+TEST_F(Helpdesk, ReportsWhatTheAddinThrows) {
+    // The folder is remembered in UTF-8, which the remaining low byte of U+00E9 is not.
+    variables.set("TMPDIR", fs::path(userTemp() / u8"\u00E9"));
+    variables.set("TMP", fs::path(userTemp() / u8"\u00E9"));
+    fs::create_directory(userTemp() / u8"\u00E9");
 
     const ProgramResult result = helpdesk({"--here", "open", "clear"});
 
@@ -107,7 +107,7 @@ TEST_F(HelpdeskOfTheWorkbench, TellsWhatTheAddinRaised) {
     EXPECT_EQ(
         result.errors,
         "tarnix-workbench: the add-in threw std::range_error (bad conversion) in OnExecute\n");
-    EXPECT_TRUE(fs::exists(stand() / "kept"));
+    EXPECT_TRUE(fs::exists(workingDirectory() / "kept"));
 }
 
-TEST_F(HelpdeskOfTheWorkbench, WantsAnAction) { EXPECT_EQ(helpdesk({}).status, 2); }
+TEST_F(Helpdesk, NeedsAnAction) { EXPECT_EQ(helpdesk({}).status, 2); }

@@ -19,7 +19,7 @@ using test_support::realFiles;
 using test_support::Workbench;
 using test_support::writeFile;
 
-/// The lines of README.md that stand indented behind the first `line`, without their indent.
+/// The indented lines of README.md from the first `line` on, without their indent.
 std::string shownInReadme(const std::string& line) {
     const std::string readme = readFile(std::filesystem::path(PROJECT_FOLDER) / "README.md");
     std::string shown;
@@ -87,12 +87,12 @@ TEST_P(RealStepFile, GivesALineForEachOccurrence) {
         run({"bom", path(GetParam().file), "--tab", "model", "--expand", "all", "--format", "csv"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    // The captions, a blank line and the mass.
+    // The captions, an empty line and the mass.
     EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'),
               GetParam().occurrences + 3);
 }
 
-TEST_P(RealStepFile, TellsWhatIsInIt) {
+TEST_P(RealStepFile, HasTheCountsInInfo) {
     const ProgramResult result = run({"info", path(GetParam().file)});
 
     EXPECT_EQ(result.status, 0) << result.errors;

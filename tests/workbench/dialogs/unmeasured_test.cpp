@@ -7,7 +7,7 @@ using test_support::ProgramResult;
 
 namespace {
 
-/// Answers with a frame that holds a bolt and a nut, each with a shape of its own.
+/// Returns a frame that holds a bolt and a nut, each with a shape of its own.
 constexpr const char* kTwoShapes = R"sh(
 component() {
     echo '{"id": "", "name": "'$1'", "description": "", "shape": '$2', "uses": ['$3']}'
@@ -33,7 +33,7 @@ TEST_F(Measuring, ACrashIsNoMassOfZero) {
     EXPECT_EQ(result.errors,
               "tarnix-workbench: " + file +
                   ": a shape cannot be measured: the reader crashed (Segmentation fault); "
-                  "\"Bolt\" and 1 other component would be without a mass\n");
+                  "\"Bolt\" and 1 other component would have no mass\n");
     EXPECT_EQ(result.output, "");
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
     EXPECT_FALSE(fs::exists(addinCopy() / "TarnixBOM.csv"));
@@ -49,7 +49,7 @@ TEST_F(Measuring, AShapeThatTakesTooLongIsNoMassOfZero) {
     EXPECT_EQ(result.errors,
               "tarnix-workbench: " + file +
                   ": a shape cannot be measured: the reader took longer than 1 seconds; "
-                  "\"Bolt\" and 1 other component would be without a mass\n");
+                  "\"Bolt\" and 1 other component would have no mass\n");
     EXPECT_EQ(result.output, "");
 }
 
@@ -64,7 +64,7 @@ TEST_F(Measuring, OneShapeThatCannotBeMeasuredNamesItsComponent) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
               "tarnix-workbench: " + file +
-                  ": a shape cannot be measured: the shell is open; \"Bolt\" would be without a "
+                  ": a shape cannot be measured: the shell is open; \"Bolt\" would have no "
                   "mass\n");
 }
 

@@ -8,7 +8,7 @@
 namespace workbench {
 namespace {
 
-TEST(FileName, StaysAsItIsWhereEachSystemTakesIt) {
+TEST(FileName, IsUnchangedWhereEachSystemTakesIt) {
     EXPECT_EQ(fileName("Gear box, v2 (new)"), "Gear box, v2 (new)");
     EXPECT_EQ(fileName("P\xC5\x99\xC3\xADruba"), "P\xC5\x99\xC3\xADruba");
 }
@@ -25,7 +25,7 @@ TEST(FileName, IsNeverEmptyOrHidden) {
     EXPECT_EQ(fileName(".a"), "_a");
 }
 
-TEST(OpenedDesigns, OfOneNameAreSavedBesideEachOther) {
+TEST(DesignFiles, OfTheSameNameGetNumbers) {
     const test_support::TemporaryFolder folder;
     host::DesignData design;
     design.name = "Part";

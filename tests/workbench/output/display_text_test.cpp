@@ -11,7 +11,7 @@ TEST(Printable, LeavesUtf8AsItIs) {
               "Schraube \xC3\x9C \xE9\x8B\xBC \xF0\x9F\x94\xA9");
 }
 
-TEST(Printable, NoEscapeSequenceComesThrough) {
+TEST(Printable, EscapeSequencesAreReplaced) {
     EXPECT_EQ(printable("a\x1B[2Jb"), "a\xEF\xBF\xBD[2Jb");
 }
 
@@ -22,9 +22,9 @@ TEST(Printable, ControlCharactersOfTheSecondSetAreReplaced) {
               "2Jb");
 }
 
-TEST(Printable, LineEndsAndTabsBecomeBlanks) { EXPECT_EQ(printable("a\r\nb\tc"), "a  b c"); }
+TEST(Printable, LineEndsAndTabsBecomeSpaces) { EXPECT_EQ(printable("a\r\nb\tc"), "a  b c"); }
 
-TEST(Printable, EachByteThatIsNoUtf8IsReplaced) {
+TEST(Printable, EachByteThatIsNotUtf8IsReplaced) {
     EXPECT_EQ(printable("\xC4\xD0"), "\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
@@ -47,9 +47,9 @@ TEST(DisplayWidth, TreeDrawingTakesOneColumnACharacter) {
     EXPECT_EQ(displayWidth("\xE2\x96\x91    \xE2\x94\x9C\xE2\x94\x80\xE2\x94\x80"), 8U);
 }
 
-TEST(DisplayWidth, CombiningMarksTakeNone) { EXPECT_EQ(displayWidth("e\xCC\x81"), 1U); }
+TEST(DisplayWidth, CombiningMarksTakeNoColumn) { EXPECT_EQ(displayWidth("e\xCC\x81"), 1U); }
 
-TEST(DisplayWidth, LatinAndCyrillicTakeOne) {
+TEST(DisplayWidth, LatinAndCyrillicTakeOneColumn) {
     EXPECT_EQ(displayWidth("\xC3\xA9"), 1U);
     EXPECT_EQ(displayWidth("\xD0\xA1\xD0\xB1"), 2U);
 }

@@ -43,7 +43,7 @@ TEST(PartsList, TheFirstRowOfTheTableHoldsTheCaptions) {
     EXPECT_EQ(list.rows[0], (std::vector<std::string>{"Asm", "1", "", "Frame"}));
 }
 
-TEST(PartsList, PicturesAndTreeStandInTheTable) {
+TEST(PartsList, PicturesAndTreeAreInTheTable) {
     EXPECT_EQ(workbench::asTable(workbench::readPartsList(smallTable())), text(R"(
               Pos.       Part Number
         ────  ────  ───  ───────────
@@ -52,7 +52,7 @@ TEST(PartsList, PicturesAndTreeStandInTheTable) {
         )") + "\n");
 }
 
-TEST(PartsList, TheTotalStandsBelowTheTable) {
+TEST(PartsList, TheTotalIsBelowTheTable) {
     PartsList list{{"Part"}, {"Part"}, {{"Bolt"}}, "Total mass [kg] : ", "1.500"};
 
     EXPECT_EQ(workbench::asTable(list), "Part\n────\nBolt\n\nTotal mass [kg] : 1.500\n");

@@ -7,7 +7,7 @@
 using test_support::text;
 using workbench::TextTable;
 
-TEST(TextTable, NumbersStandRightAlignedUnderTheirCaption) {
+TEST(TextTable, NumbersAreRightAlignedUnderTheirCaption) {
     TextTable table({"Pos.", "Part", "Mass [kg]"});
     table.add({"9", "Bolt", "0.5"});
     table.add({"10", "Frame", "12.25"});
@@ -33,7 +33,7 @@ TEST(TextTable, WideCharactersKeepTheColumnsInLine) {
         )") + "\n");
 }
 
-TEST(TextTable, AnEmptyCellDoesNotMakeNumbersText) {
+TEST(TextTable, AnEmptyCellLeavesNumbersRightAligned) {
     TextTable table({"Mass"});
     table.add({""});
     table.add({"1.5"});
@@ -53,7 +53,7 @@ TEST(TextTable, MissingCellsAreEmptyAndSurplusOnesDropped) {
     EXPECT_EQ(table.text(), "A  B\n─  ─\nx\nx  y\n");
 }
 
-TEST(TextTable, LineBreaksInATextDoNotBreakTheTable) {
+TEST(TextTable, LineBreaksInACellDoNotBreakTheTable) {
     TextTable table({"A", "B"});
     table.add({"x\ny", "z"});
 

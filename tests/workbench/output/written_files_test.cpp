@@ -23,7 +23,7 @@ TEST(WrittenFiles, AFailureGivesAFileItsOldContent) {
     EXPECT_EQ(readFile(folder.path() / "a"), "old\r\n");
 }
 
-TEST(WrittenFiles, AFailureTakesANewFileAway) {
+TEST(WrittenFiles, AFailureRemovesANewFile) {
     const test_support::TemporaryFolder folder;
     {
         WrittenFiles written;

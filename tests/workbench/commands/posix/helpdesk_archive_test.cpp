@@ -6,7 +6,7 @@
 
 namespace fs = std::filesystem;
 
-TEST_F(HelpdeskOfTheWorkbench, EndsOnlyWhenTheArchiveIsWhole) {
+TEST_F(Helpdesk, EndsOnlyWhenTheArchiveIsWhole) {
     // Noise that takes longer to pack than the second that the add-in waits.
     std::mt19937 random(1);
     std::string noise(60'000'000, '\0');

@@ -7,9 +7,9 @@
 
 namespace {
 
-using Interrupt = test_support::Workbench;
+using OpenLocal = test_support::Workbench;
 
-/// What a shell's command writes.
+/// The output of a shell command.
 std::string shell(const std::string& command) {
     struct Close {
         void operator()(std::FILE* stream) const { ::pclose(stream); }
@@ -23,9 +23,9 @@ std::string shell(const std::string& command) {
     return text;
 }
 
-TEST_F(Interrupt, CancelsWhatOpenLocalWaitsFor) {
+TEST_F(OpenLocal, IsCancelledByAnInterrupt) {
     const std::filesystem::path file = folder.path() / "frame.ipt";
-    test_support::writeFile(file, "nothing that anybody can convert");
+    test_support::writeFile(file, "nothing that can be converted");
     const std::filesystem::path program = host::environment::programFolder() / "tarnix-workbench";
 
     const std::string text =

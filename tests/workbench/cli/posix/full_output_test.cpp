@@ -1,0 +1,46 @@
+#include "tests/workbench/workbench_fixture.h"
+
+#include "host/session/environment.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+/// Each subcommand reports that its output could not be written.
+namespace {
+
+class FullOutput : public test_support::Workbench,
+                   public testing::WithParamInterface<std::vector<std::string>> {};
+
+TEST_P(FullOutput, IsReported) {
+    const std::string file = design(test_support::kSmallDesign);
+    std::vector<std::string> arguments = GetParam();
+    for (std::string& argument : arguments) {
+        argument = argument == "FILE" ? file : argument;
+    }
+
+    const int status =
+        test_support::runRedirected(host::environment::programFolder() / "tarnix-workbench",
+                                    arguments, "/dev/full", folder.path() / "errors");
+
+    EXPECT_EQ(status, 5);
+    EXPECT_EQ(test_support::readFile(folder.path() / "errors"),
+              "tarnix-workbench: cannot write to stdout\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, FullOutput,
+                         testing::Values(std::vector<std::string>{"bom", "FILE"},
+                                         std::vector<std::string>{"info", "FILE"},
+                                         std::vector<std::string>{"properties", "FILE"},
+                                         std::vector<std::string>{"configure"},
+                                         std::vector<std::string>{"helpdesk", "system-info"},
+                                         std::vector<std::string>{"move-to-origin", "FILE",
+                                                                  "--save"}),
+                         [](const auto& tested) {
+                             std::string name = tested.param.front();
+                             std::erase(name, '-');
+                             return name;
+                         });
+
+}  // namespace

@@ -1,0 +1,60 @@
+#include "tests/workbench/workbench_fixture.h"
+
+#include <gtest/gtest.h>
+
+/// What `bom --open` asks of the system's shell.
+namespace {
+
+namespace fs = std::filesystem;
+using test_support::kSmallDesign;
+using test_support::ProgramResult;
+using test_support::readFile;
+using test_support::writeFile;
+
+/// The program with an "xdg-open" of the test's own, before the system's.
+class BomOpen : public test_support::Workbench {
+protected:
+    void openerIs(const std::string& script) {
+        const fs::path place = folder.path() / "bin";
+        fs::create_directory(place);
+        writeFile(place / "xdg-open", "#!/bin/sh\n" + script + "\n");
+        fs::permissions(place / "xdg-open", fs::perms::owner_all);
+        const std::string before = host::environment::variable("PATH").value_or("");
+        variables.set("PATH", place.string() + ":" + before);
+    }
+
+    [[nodiscard]] fs::path openedList() const { return folder.path() / "opened"; }
+
+    [[nodiscard]] std::string recording() const { return "echo \"$1\" > " + openedList().string(); }
+};
+
+TEST_F(BomOpen, OpensTheWorkbook) {
+    openerIs(recording());
+
+    const ProgramResult result = run({"bom", design(kSmallDesign), "--open"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(readFile(openedList()), host::toUtf8(addinCopy() / "TarnixBOM.xlsm") + "\n");
+    EXPECT_NE(result.output.find("\\TarnixBOM.xlsm\n"), std::string::npos) << result.output;
+}
+
+TEST_F(BomOpen, IsNeededToOpenTheWorkbook) {
+    openerIs(recording());
+
+    run({"bom", design(kSmallDesign)});
+
+    EXPECT_FALSE(fs::exists(openedList()));
+}
+
+TEST_F(BomOpen, ExportsAlsoWhereTheShellFails) {
+    openerIs("exit 3");
+
+    const ProgramResult result = run({"bom", design(kSmallDesign), "--open", "--out", out()});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(readFile(folder.path() / "out" / "TarnixBOM.csv"),
+              readFile(addinCopy() / "TarnixBOM.csv"));
+}
+
+}  // namespace

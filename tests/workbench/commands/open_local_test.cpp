@@ -1,0 +1,89 @@
+#include "tests/workbench/placed_design.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using test_support::kPlaced;
+using test_support::places;
+using test_support::ProgramResult;
+using test_support::readFile;
+using test_support::writeFile;
+
+using OpenLocal = test_support::Workbench;
+
+TEST_F(OpenLocal, SavesWhatTheHostImportsAndWhatItConverts) {
+    const std::string archive = path("Gearbox.F3D");
+    const std::string inventor = path("Frame.ipt");
+    writeFile(host::fromUtf8(archive), readFile(host::fromUtf8(design(kPlaced, "gearbox"))));
+    writeFile(host::fromUtf8(inventor), readFile(host::fromUtf8(design("Post  at=7,0,0", "post"))));
+    std::filesystem::create_directories(host::fromUtf8(out()));
+
+    const ProgramResult result = run({"open-local", archive, inventor, "--out", out()});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(places(host::toUtf8(host::fromUtf8(out()) / "gearbox.design.json")), "1 2 3 ");
+    EXPECT_EQ(places(host::toUtf8(host::fromUtf8(out()) / "post.design.json")), "7 ");
+}
+
+TEST_F(OpenLocal, IsCancelledAtTheTimeout) {
+    const std::string file = path("Frame.ipt");
+    writeFile(host::fromUtf8(file), "nothing that can be converted");
+
+    const ProgramResult result = run({"open-local", file, "--timeout", "2"});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(test_support::firstLines(result.errors, 1),
+              "the add-in says: File still uploaded, open from data panel after conversion "
+              "completes\n");
+}
+
+TEST_F(OpenLocal, SavesWhatItCouldOpenAndReportsTheRest) {
+    const std::string archive = path("gearbox.f3d");
+    writeFile(host::fromUtf8(archive), readFile(host::fromUtf8(design(kPlaced, "gearbox"))));
+    std::filesystem::create_directories(host::fromUtf8(out()));
+
+    const ProgramResult result = run({"open-local", path("missing.f3d"), archive, "--out", out()});
+
+    EXPECT_EQ(result.status, 1);
+    // The add-in passes the path in lower case.
+    const std::string end = "missing.f3d: there is no such file\n";
+    EXPECT_EQ(test_support::firstLines(result.errors, 1), result.errors);
+    EXPECT_EQ(result.errors.rfind("tarnix-workbench: opened 1 of 2 files: ", 0), 0U);
+    EXPECT_EQ(result.errors.substr(result.errors.size() - end.size()), end);
+    EXPECT_EQ(result.output,
+              "Saved: " + host::toUtf8(host::fromUtf8(out()) / "gearbox.design.json") + "\n");
+}
+
+TEST_F(OpenLocal, UploadsIntoTheFirstProjectOfANamedFolder) {
+    const std::string inventor = path("frame.ipt");
+    writeFile(host::fromUtf8(inventor), readFile(host::fromUtf8(design(kPlaced, "frame"))));
+    const std::filesystem::path project = host::fromUtf8(path("projects/Workshop"));
+    std::filesystem::create_directories(project);
+
+    const ProgramResult result =
+        run({"open-local", inventor, "--data", path("projects"), "--out", host::toUtf8(project)});
+
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(readFile(project / "frame.ipt"), readFile(host::fromUtf8(inventor)));
+}
+
+TEST_F(OpenLocal, ReportsThatThereIsNoProject) {
+    const std::string inventor = path("frame.ipt");
+    writeFile(host::fromUtf8(inventor), "x");
+    std::filesystem::create_directories(host::fromUtf8(path("projects")));
+
+    const ProgramResult result =
+        run({"open-local", inventor, "--data", path("projects"), "--out", path("projects")});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_TRUE(test_support::isOneLine(result.errors)) << result.errors;
+}
+
+TEST_F(OpenLocal, RefusesAFolderThatDoesNotExist) {
+    const ProgramResult result = run({"open-local", path("a.f3d"), "--out", path("nowhere")});
+
+    EXPECT_EQ(result.status, 5);
+    EXPECT_EQ(result.errors, "tarnix-workbench: --out " + path("nowhere") + ": not a directory\n");
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/session/session.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <vector>
+
+/// Lines about what happened, in the same words for all subcommands.
+namespace workbench {
+
+/// Where a design was saved.
+void reportSaved(std::ostream& stream, const std::filesystem::path& file);
+
+/// What the add-in asked the shell to open, and how to let it where it may not.
+void reportShellRequests(std::ostream& stream, const std::vector<std::string>& targets,
+                         bool mayOpen);
+
+/// What the add-in showed to its user, from the index `since` on; on stderr.
+void reportMessages(const std::vector<host::Message>& messages, std::size_t since = 0);
+
+/// What a reader had to say; on stderr.
+void reportWarnings(const std::vector<std::string>& warnings);
+
+}  // namespace workbench
