@@ -33,6 +33,9 @@ set(rules
     "host/cloud|host/(ui|application|session)/.*||cloud/ knows nothing of the screen"
     "host/ui|host/(application|session)/.*||ui/ knows neither the application nor the user"
     "host/application|host/session/.*||the application does not know who uses it"
+    "workbench/cli|workbench/(commands|dialogs)/.*|workbench/cli/main.cpp|cli/ serves the others, only the program lists the commands"
+    "workbench/output|workbench/(commands|dialogs)/.*||output/ writes what it is given"
+    "workbench/dialogs|workbench/commands/.*||dialogs/ does not know which command asks for it"
     "workbench|(tarnix|tests|bench)/.*||the workbench reaches the add-in as a module alone"
     "workbench|host/.*|host/session/,host/base/utf8_path.h,host/design/design_file.h,host/import/read_design.h|the workbench talks to the session, and to plain designs and paths")
 

@@ -1,3 +1,3 @@
-// Planted: the workbench goes behind the session.
+// Planted: the workbench reaches past the session.
 #include "host/design/document.h"
 #include "host/session/session.h"

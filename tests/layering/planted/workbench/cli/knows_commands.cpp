@@ -1,0 +1,2 @@
+// Planted: an option knows a command.
+#include "workbench/commands/commands.h"
