@@ -2,7 +2,7 @@
 
 #include "tarnix/addin/panels.h"
 #include "tarnix/addin/state.h"
-#include "tarnix/bom/behaviour/bom_created_handler.h"
+#include "tarnix/bom/behaviour/bom_command.h"
 #include "tarnix/commands/projected_entities.h"
 #include "tarnix/properties/edit_properties_command.h"
 

@@ -2,7 +2,7 @@
 
 #include "tarnix/addin/panels.h"
 #include "tarnix/addin/state.h"
-#include "tarnix/bom/behaviour/bom_created_handler.h"
+#include "tarnix/bom/behaviour/bom_command.h"
 #include "tarnix/commands/move_to_origin.h"
 #include "tarnix/commands/online_models.h"
 #include "tarnix/commands/open_local_file.h"

@@ -1,6 +1,7 @@
 #include "tarnix/bom/behaviour/bom_export.h"
 
-#include "tarnix/bom/tabs/bom_ids.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
+#include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/platform/files.h"
 #include "tarnix/platform/module_path.h"
 #include "tarnix/platform/shell.h"
@@ -16,7 +17,6 @@ using adsk::core::CommandInputs;
 using adsk::core::DropDownCommandInput;
 using adsk::core::InputChangedEventArgs;
 using adsk::core::ListItem;
-using adsk::core::ListItems;
 using adsk::core::Ptr;
 using adsk::core::StringValueCommandInput;
 using adsk::core::TableCommandInput;
@@ -25,7 +25,7 @@ using adsk::core::TextBoxCommandInput;
 namespace {
 
 /// The text file's path: the module's, with its file name replaced. Of a file name longer than 30
-/// characters the rest stays behind the new one.
+/// characters the rest stays after the new one.
 std::string csvPath() {
     constexpr std::size_t kReplaced = 31;
     std::string path = platform::modulePath();
@@ -42,15 +42,8 @@ std::string workbookPath(std::string path) {
 }
 
 std::string selectedName(const Ptr<DropDownCommandInput>& dropDown) {
-    const Ptr<ListItems> items = dropDown->listItems();
-    const std::size_t count = items->count();
-    for (std::size_t i = 0; i < count; ++i) {
-        const Ptr<ListItem> item = items->item(i);
-        if (item->isSelected()) {
-            return item->name();
-        }
-    }
-    return "n/a";
+    const Ptr<ListItem> item = firstSelected(dropDown->listItems());
+    return item ? item->name() : "n/a";
 }
 
 /// Adds the field of a cell with its separator. An input is of one kind only, so the most frequent
@@ -73,11 +66,11 @@ void appendField(std::string& line, const Ptr<CommandInput>& cell) {
 }
 
 /// Puts a row's fields into `line`, whose storage serves all rows. The toggle and the graph column
-/// are left out; the position stands in the column between them.
+/// are left out; the position is in the column between them.
 void readRow(std::string& line, const Ptr<TableCommandInput>& table, int row, int lastColumn) {
     line.clear();
-    for (int column = 1; column <= lastColumn; ++column) {
-        if (column != 2) {
+    for (int column = kPositionColumn; column <= lastColumn; ++column) {
+        if (column != kGraphColumn) {
             appendField(line, table->getInputAtPosition(row, column));
         }
     }
@@ -91,15 +84,15 @@ bool exportBom(Ptr<InputChangedEventArgs> eventArgs) {
     if (!inputs) {
         return false;
     }
-    Ptr<TableCommandInput> table = inputs->itemById(kModelTableId);
+    Ptr<TableCommandInput> table = inputs->itemById(kModelRows.tableId);
     if (!table) {
-        table = inputs->itemById(kStructureTableId);
+        table = inputs->itemById(kStructureRows.tableId);
     }
     if (!table || table->rowCount() < 2) {
         return false;
     }
     const std::string path = csvPath();
-    // A file that stays gets the new text behind the old.
+    // A file that stays gets the new lines after the old ones.
     static_cast<void>(platform::deleteFile(path));
     writeBomCsv(path, table);
     // A shell that has no program for it has no consequence.
@@ -113,7 +106,7 @@ void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
     const int lastColumn = table->numberOfColumns();
     std::string line;
     for (int row = 0; row < rowCount; ++row) {
-        const Ptr<CommandInput> first = table->getInputAtPosition(row, 0);
+        const Ptr<CommandInput> first = table->getInputAtPosition(row, kIconColumn);
         if (first && first->isVisible()) {
             // Not handed to the system line by line, which takes too long for a large table. What
             // is thrown closes the file, and the lines so far stand in it; a process that is killed

@@ -15,8 +15,8 @@ namespace tarnix {
 /// less than a header and one row.
 bool exportBom(adsk::core::Ptr<adsk::core::InputChangedEventArgs> eventArgs);
 
-/// Writes the visible rows of `table` behind what the file at `path` holds: fields end in ";" and
-/// nothing is quoted, lines end in CR LF, and the last line tells the total mass.
+/// Writes the visible rows of `table` after what the file at `path` holds: fields end in ";" and
+/// nothing is quoted, lines end in CR LF, and the last line has the total mass.
 ///
 /// What is thrown leaves the lines so far in the file.
 void writeBomCsv(std::string path, adsk::core::Ptr<adsk::core::TableCommandInput> table);

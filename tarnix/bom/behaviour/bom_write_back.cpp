@@ -1,18 +1,16 @@
 #include "tarnix/bom/behaviour/bom_write_back.h"
 
-#include "tarnix/bom/behaviour/active_design.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
+#include "tarnix/bom/model/columns.h"
 #include "tarnix/bom/model/walk.h"
-#include "tarnix/bom/tabs/bom_ids.h"
+#include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/properties/property_store.h"
-#include "tarnix/settings/settings_document.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
 #include "tarnix/text/numbers.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
-#include <string_view>
 #include <unordered_set>
 #include <utility>
 
@@ -30,7 +28,6 @@ using adsk::core::ListItem;
 using adsk::core::ListItems;
 using adsk::core::Ptr;
 using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
 using adsk::core::TableCommandInput;
 using adsk::fusion::Component;
 using adsk::fusion::Occurrence;
@@ -38,17 +35,13 @@ using adsk::fusion::OccurrenceList;
 
 namespace {
 
-constexpr std::array<std::string_view, 13> kBuiltInNames = {
-    "Quantity", "Part Name",         "Part Number", "Description", "Area",   "Density",     "Mass",
-    "Volume",   "Physical Material", "Length",      "Width",       "Height", "Bounding Box"};
-
-/// The text of a cell; one that is no text field throws.
-std::string textOf(const Ptr<CommandInput>& cell) {
+/// The value of a cell; one that is no text field throws.
+std::string valueOf(const Ptr<CommandInput>& cell) {
     const Ptr<StringValueCommandInput> field = cell;
     return field->value();
 }
 
-/// Cuts the merge marker's length off the description, also where no marker stands in front.
+/// Cuts the merge marker's length off the description, also where it does not begin with one.
 void cutDescription(const Ptr<Component>& component) {
     constexpr std::size_t kMarkerLength = 15;
     const std::string description = component->description();
@@ -57,7 +50,7 @@ void cutDescription(const Ptr<Component>& component) {
     }
 }
 
-/// Writes an attribute for each item of the list, so that one held by an earlier choice goes.
+/// Writes an attribute for each item of the list, so that the one of an earlier choice is cleared.
 void writeStructure(const Ptr<Component>& component, const Ptr<DropDownCommandInput>& dropDown) {
     const Ptr<ListItems> items = dropDown->listItems();
     const Ptr<Attributes> attributes = component->attributes();
@@ -82,7 +75,7 @@ public:
     void write() {
         const int rowCount = table_->rowCount();
         for (int tableRow = 1; tableRow < rowCount; ++tableRow) {
-            if (const Ptr<CommandInput> first = table_->getInputAtPosition(tableRow, 0)) {
+            if (const Ptr<CommandInput> first = table_->getInputAtPosition(tableRow, kIconColumn)) {
                 writeRow(tableRow, first);
             }
         }
@@ -93,7 +86,7 @@ private:
         const int number = idNumber(first->id());
         const BomRow& row = at(rows_, static_cast<std::size_t>(number) - 1);
         const Ptr<ImageCommandInput> image = first;
-        if (image && image->imageFile().find("Combine") != std::string::npos) {
+        if (image && image->imageFile().find(kInCombineImages) != std::string::npos) {
             cutDescription(row.component);
             return;
         }
@@ -107,24 +100,24 @@ private:
         const std::string id = cell->id();
         if (id == partNumberPrefix_ + number) {
             partNumberColumn_ = column;
-            row.component->partNumber(textOf(cell));
+            row.component->partNumber(valueOf(cell));
         } else if (id == bomStructurePrefix_ + number) {
             writeStructure(row.component, cell);
-        } else if (id == "QEMA_Part Name_" + number) {
+        } else if (id == kPartNameKey + ("_" + number)) {
             writeName(row.component, tableRow, cell);
-        } else if (id == "QEMA_Description_" + number) {
-            row.component->description(textOf(cell));
-        } else if (column >= kFirstPropertyColumn) {
+        } else if (id == kDescriptionKey + ("_" + number)) {
+            row.component->description(valueOf(cell));
+        } else if (column >= kFixedColumns) {
             writeProperty(row, number, id, cell);
         }
     }
 
-    /// A part number follows its component's name in the host, so it is set again behind it.
+    /// A part number follows its component's name in the host, so it is set again after it.
     void writeName(const Ptr<Component>& component, int tableRow,
                    const Ptr<CommandInput>& cell) const {
         const std::string partNumber =
-            textOf(table_->getInputAtPosition(tableRow, partNumberColumn_));
-        component->name(textOf(cell));
+            valueOf(table_->getInputAtPosition(tableRow, partNumberColumn_));
+        component->name(valueOf(cell));
         component->partNumber(partNumber);
     }
 
@@ -139,17 +132,15 @@ private:
         if (!isCustomPropertyId(id)) {
             const Ptr<Attributes> attributes = row.component->attributes();
             if (!attributes->itemByName(kPropertiesAttributesGroup, key)) {
-                attributes->add(kPropertiesAttributesGroup, key, textOf(cell));
+                attributes->add(kPropertiesAttributesGroup, key, valueOf(cell));
             }
             return;
         }
         const auto hasKey = [&](const PropertyEntry& entry) { return entry.name == key; };
         if (id == key + "_" + number && std::ranges::any_of(row.properties, hasKey)) {
-            writeAttribute(row.component->attributes(), key, textOf(cell));
+            writeAttribute(row.component->attributes(), key, valueOf(cell));
         }
     }
-
-    static constexpr int kFirstPropertyColumn = 5;
 
     Ptr<TableCommandInput> table_;
     std::vector<BomRow> rows_;
@@ -159,23 +150,22 @@ private:
     int partNumberColumn_ = -1;  ///< stays from one row to the next
 };
 
-/// The occurrences at the top whose part number stands in column 3 of `table`.
+/// The occurrences at the top whose part number the table shows.
 std::vector<Ptr<Occurrence>> matchingOccurrences(const Ptr<OccurrenceList>& occurrences,
                                                  const Ptr<TableCommandInput>& table) {
-    constexpr int kPartNumberColumn = 3;
-    std::unordered_set<std::string> texts;
+    std::unordered_set<std::string> partNumbers;
     const int rowCount = table->rowCount();
     for (int row = 1; row < rowCount; ++row) {
         const Ptr<StringValueCommandInput> cell = table->getInputAtPosition(row, kPartNumberColumn);
         if (cell) {
-            texts.insert(cell->value());
+            partNumbers.insert(cell->value());
         }
     }
     std::vector<Ptr<Occurrence>> matching;
-    const std::size_t count = texts.empty() ? 0 : occurrences->count();
+    const std::size_t count = partNumbers.empty() ? 0 : occurrences->count();
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<Occurrence> occurrence = occurrences->item(i);
-        if (texts.contains(occurrence->component()->partNumber())) {
+        if (partNumbers.contains(occurrence->component()->partNumber())) {
             matching.push_back(occurrence);
         }
     }
@@ -194,34 +184,34 @@ void writeActiveTable(const Ptr<CommandEventArgs>& eventArgs) {
     if (!inputs) {
         return;
     }
-    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
-    const Ptr<TabCommandInput> modelTab = inputs->itemById(kModelTabId);
+    const RowTabs tabs = rowTabs(inputs);
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
-    if (structureTab->isActive()) {
-        const Ptr<TableCommandInput> table = structureTab->children()->itemById(kStructureTableId);
-        writeBomTable(occurrences, matchingOccurrences(occurrences, table), table, "partNumberOcc_",
-                      "bomStructure_");
-    } else if (modelTab->isActive()) {
-        const Ptr<TableCommandInput> table = modelTab->children()->itemById(kModelTableId);
-        writeBomTable(occurrences, {}, table, "modelPartNumberOcc_", "modelBomStructure_");
+    if (tabs.structure->isActive()) {
+        const Ptr<TableCommandInput> table =
+            tabs.structure->children()->itemById(kStructureRows.tableId);
+        writeBomTable(occurrences, matchingOccurrences(occurrences, table), table,
+                      kStructureRows.ids.partNumber, kStructureRows.ids.structure);
+    } else if (tabs.model->isActive()) {
+        const Ptr<TableCommandInput> table = tabs.model->children()->itemById(kModelRows.tableId);
+        writeBomTable(occurrences, /*matching=*/{}, table, kModelRows.ids.partNumber,
+                      kModelRows.ids.structure);
     }
 }
 
 void writeBomTable(Ptr<OccurrenceList> occurrences, std::vector<Ptr<Occurrence>> matching,
                    Ptr<TableCommandInput> table, std::string partNumberPrefix,
                    std::string bomStructurePrefix) {
-    const std::vector<std::string> items = readCategoryItems("category", "bomItems");
+    const std::vector<Column> columns = readColumns();
     if (!table) {
         return;
     }
-    constexpr int kFixedColumns = 5;
     BomModel model;
     if (matching.empty()) {
-        walkOccurrences(model, occurrences, 1);
+        walkOccurrences(model, occurrences, /*level=*/1);
     } else {
-        walkOccurrencesMerged(model, occurrences, 1);
+        walkOccurrencesMerged(model, occurrences, /*level=*/1);
     }
-    TableWriter(table, std::move(model.rows), static_cast<int>(items.size()) + kFixedColumns - 1,
+    TableWriter(table, std::move(model.rows), static_cast<int>(columns.size()) + kFixedColumns - 1,
                 std::move(partNumberPrefix), std::move(bomStructurePrefix))
         .write();
 }
@@ -229,7 +219,7 @@ void writeBomTable(Ptr<OccurrenceList> occurrences, std::vector<Ptr<Occurrence>>
 bool isCustomPropertyId(std::string id) {
     const std::size_t first = id.find('_') + 1;
     const std::string name = id.substr(first, id.rfind('_') - first);
-    return std::ranges::find(kBuiltInNames, name) == kBuiltInNames.end();
+    return !isBuiltInName(name);
 }
 
 }  // namespace tarnix

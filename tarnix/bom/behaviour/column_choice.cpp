@@ -1,9 +1,10 @@
 #include "tarnix/bom/behaviour/column_choice.h"
 
-#include "tarnix/bom/behaviour/list_choice.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
 #include "tarnix/bom/behaviour/row_numbering.h"
-#include "tarnix/bom/behaviour/table_rows.h"
-#include "tarnix/bom/tabs/bom_ids.h"
+#include "tarnix/bom/model/columns.h"
+#include "tarnix/bom/tabs/table_layout.h"
+#include "tarnix/settings/settings_document.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
 
@@ -25,24 +26,19 @@ using adsk::core::TableCommandInput;
 
 namespace {
 
-/// Whether an entry of the list only heads others, so that choosing it chooses no property.
-bool isHeading(const std::string& name) {
-    return name == "---Select One---" || name == "--- Model Property ---" ||
-           name == "--- User Property ---";
-}
-
-/// The input that `base` and a number behind that of the drop-down name.
-Ptr<StringValueCommandInput> fieldOf(const Ptr<CommandInputs>& inputs, const char* base, int number,
-                                     int distance) {
-    return inputs->itemById(base + std::to_string(static_cast<long long>(number) + distance));
+/// The input that `prefix` and a number `distance` after that of the drop-down name.
+Ptr<StringValueCommandInput> fieldOf(const Ptr<CommandInputs>& inputs, const char* prefix,
+                                     int number, int distance) {
+    return inputs->itemById(prefix + std::to_string(static_cast<long long>(number) + distance));
 }
 
 /// Marks the column of the drop-down with this number as used under the property's name, or as free
 /// when a heading was chosen.
 void chooseProperty(const Ptr<CommandInputs>& inputs, const Ptr<DropDownCommandInput>& dropDown,
                     int number) {
-    const Ptr<StringValueCommandInput> state = fieldOf(inputs, "colUsrHeader_", number, 1);
-    const Ptr<StringValueCommandInput> caption = fieldOf(inputs, "nameCol", number, 5);
+    const Ptr<StringValueCommandInput> state = fieldOf(inputs, kStateIdPrefix, number, 1);
+    const Ptr<StringValueCommandInput> caption =
+        fieldOf(inputs, kCaptionIdPrefix, number, kFirstFreeColumn + 1);
     const Ptr<ListItems> items = dropDown->listItems();
     const Ptr<ListItem> selected = firstSelected(items);
     if (!selected) {
@@ -54,7 +50,7 @@ void chooseProperty(const Ptr<CommandInputs>& inputs, const Ptr<DropDownCommandI
         caption->value("");
         items->item(0)->isSelected(true);
     } else {
-        state->value("used");
+        state->value(kUsedState);
         caption->value(name);
     }
 }
@@ -62,16 +58,16 @@ void chooseProperty(const Ptr<CommandInputs>& inputs, const Ptr<DropDownCommandI
 /// Takes the row out of sight when "Reference" was chosen for it on the tab "Structure".
 void chooseStructure(const Ptr<CommandInputs>& inputs, const Ptr<DropDownCommandInput>& dropDown,
                      int number, const std::vector<BomRow>& rows) {
-    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
+    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureRows.tabId);
     const Ptr<ListItems> items = dropDown->listItems();
     const std::size_t count = items->count();
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<ListItem> item = items->item(i);
         static_cast<void>(at(rows, static_cast<std::size_t>(number) - 1));
         if (item->isSelected() && item->name() == "Reference" && structureTab->isActive()) {
-            const Ptr<TableCommandInput> table = inputs->itemById(kStructureTableId);
+            const Ptr<TableCommandInput> table = inputs->itemById(kStructureRows.tableId);
             // The id's number counts the rows of the list; here it serves as a table row. The two
-            // differ behind a merged or dropped row, and then it is another row that goes.
+            // differ after a merged or dropped row, and then it is another row that goes.
             hideRowWithChildren(table, number);
             renumberVisibleRows(table);
         }
@@ -85,14 +81,14 @@ void onBomSelectionChange(Ptr<InputChangedEventArgs> eventArgs, const std::vecto
     if (!input) {
         return;
     }
-    const Ptr<CommandInputs> inputs = input->parentCommandInput()->parentCommand()->commandInputs();
+    const Ptr<CommandInputs> inputs = dialogInputsOf(input);
     if (!inputs) {
         return;
     }
     const std::string id = input->id();
     const int number = idNumber(id);
     const Ptr<DropDownCommandInput> dropDown = inputs->itemById(id);
-    if (idBase(id) == "iProperty") {
+    if (idBase(id) == kPropertyIdBase) {
         chooseProperty(inputs, dropDown, number);
     } else if (dropDown) {
         chooseStructure(inputs, dropDown, number, rows);
@@ -109,6 +105,32 @@ void hideRowWithChildren(Ptr<TableCommandInput> table, int row) {
             hideRow(table, later);
         }
     }
+}
+
+void saveBomConfiguration(Ptr<CommandInput> input) {
+    replaceCategoryItems("bomItems", [&input] { return readBomConfigTable(input); });
+}
+
+std::vector<std::string> readBomConfigTable(Ptr<CommandInput> input) {
+    std::vector<std::string> items;
+    const Ptr<TableCommandInput> table = input->commandInputs()->itemById(kConfigTableId);
+    if (!table) {
+        return items;
+    }
+    const int columns = table->numberOfColumns();
+    for (int column = kFirstFreeColumn; column < columns; ++column) {
+        const Ptr<DropDownCommandInput> dropDown = table->getInputAtPosition(kPropertyRow, column);
+        const Ptr<StringValueCommandInput> caption = table->getInputAtPosition(kCaptionRow, column);
+        const Ptr<ListItem> selected = dropDown ? firstSelected(dropDown->listItems()) : nullptr;
+        if (!selected) {
+            continue;
+        }
+        const std::string name = selected->name();
+        if (name != kSelectOne) {
+            items.push_back(columnItem(name, caption->value()));
+        }
+    }
+    return items;
 }
 
 }  // namespace tarnix

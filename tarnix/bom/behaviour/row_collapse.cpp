@@ -1,6 +1,7 @@
 #include "tarnix/bom/behaviour/row_collapse.h"
 
-#include "tarnix/bom/tabs/bom_ids.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
+#include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/text/ids.h"
 #include "tarnix/text/positions.h"
 
@@ -20,17 +21,14 @@ using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::Ptr;
 using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
 using adsk::core::TableCommandInput;
 
 namespace {
 
-constexpr const char* kFoldedIcon = "././Resources/BOM/ColapseAsm";
-constexpr const char* kUnfoldedIcon = "././Resources/BOM/UnColapseAsm";
 constexpr const char* kUnfoldedMark = "\xE2\x96\x91";  // U+2591
 
 Ptr<BoolValueCommandInput> toggleOf(const Ptr<TableCommandInput>& table, int row) {
-    return table->getInputAtPosition(row, 0);
+    return table->getInputAtPosition(row, kIconColumn);
 }
 
 bool hasPosition(const Ptr<CommandInput>& cell) {
@@ -47,7 +45,7 @@ std::string positionIn(const Ptr<CommandInput>& cell) {
 }
 
 std::string positionAt(const Ptr<TableCommandInput>& table, int row) {
-    return positionIn(table->getInputAtPosition(row, 1));
+    return positionIn(table->getInputAtPosition(row, kPositionColumn));
 }
 
 /// Whether `position` lies below `parent`, at any depth; a repeated position lies below itself.
@@ -57,7 +55,7 @@ bool isBelow(std::string_view position, std::string_view parent) {
 }
 
 void setIconOfAssembly(const Ptr<BoolValueCommandInput>& toggle, const char* icon) {
-    if (toggle->resourceFolder().find("Asm") != std::string::npos) {
+    if (toggle->resourceFolder().find(kInAssemblyIcons) != std::string::npos) {
         toggle->resourceFolder(icon);
     }
 }
@@ -66,7 +64,7 @@ void setIconOfAssembly(const Ptr<BoolValueCommandInput>& toggle, const char* ico
 void markFolded(const Ptr<TableCommandInput>& table, int row, std::string_view position) {
     setIconOfAssembly(toggleOf(table, row), kFoldedIcon);
     if (position.find('.') == std::string_view::npos) {
-        const Ptr<StringValueCommandInput> graph = table->getInputAtPosition(row, 2);
+        const Ptr<StringValueCommandInput> graph = table->getInputAtPosition(row, kGraphColumn);
         graph->value("");
     }
 }
@@ -74,7 +72,7 @@ void markFolded(const Ptr<TableCommandInput>& table, int row, std::string_view p
 /// What showing a row does to the row above it that was unfolded.
 void markUnfolded(const Ptr<TableCommandInput>& table, int row) {
     setIconOfAssembly(toggleOf(table, row), kUnfoldedIcon);
-    const Ptr<StringValueCommandInput> graph = table->getInputAtPosition(row, 2);
+    const Ptr<StringValueCommandInput> graph = table->getInputAtPosition(row, kGraphColumn);
     if (graph->value().empty()) {
         graph->value(kUnfoldedMark);
     }
@@ -115,7 +113,7 @@ std::optional<std::vector<std::string>> differingPositions(const Ptr<TableComman
     std::unordered_set<std::string_view> seen;
     positions.reserve(static_cast<std::size_t>(rowCount - row));
     for (; row < rowCount; ++row) {
-        const Ptr<CommandInput> cell = table->getInputAtPosition(row, 1);
+        const Ptr<CommandInput> cell = table->getInputAtPosition(row, kPositionColumn);
         if (!hasPosition(cell)) {
             return std::nullopt;
         }
@@ -127,7 +125,7 @@ std::optional<std::vector<std::string>> differingPositions(const Ptr<TableComman
     return positions;
 }
 
-/// Unfolds below a row in one pass over the rows behind it.
+/// Unfolds below a row in one pass over the rows after it.
 ///
 /// Where no position repeats, a row is touched at most once: it is shown by the row directly above
 /// it, when that one is unfolded, or hidden by the first one above it that is folded. So it is
@@ -194,14 +192,13 @@ private:
 }  // namespace
 
 void toggleRowCollapse(Ptr<CommandInput> input) {
-    const Ptr<CommandInputs> inputs = input->parentCommandInput()->parentCommand()->commandInputs();
-    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
-    const Ptr<TabCommandInput> modelTab = inputs->itemById(kModelTabId);
+    const Ptr<CommandInputs> inputs = dialogInputsOf(input);
+    const RowTabs tabs = rowTabs(inputs);
     const char* tableId = nullptr;
-    if (structureTab->isActive()) {
-        tableId = kStructureTableId;
-    } else if (modelTab->isActive()) {
-        tableId = kModelTableId;
+    if (tabs.structure->isActive()) {
+        tableId = kStructureRows.tableId;
+    } else if (tabs.model->isActive()) {
+        tableId = kModelRows.tableId;
     } else {
         return;
     }
@@ -226,11 +223,11 @@ void collapseRows(Ptr<TableCommandInput> table, int row, bool showChildren) {
 
 void setRowVisible(Ptr<TableCommandInput> table, int row, bool visible) {
     const Ptr<BoolValueCommandInput> toggle = toggleOf(table, row);
-    if (toggle->resourceFolder().find("/BOM/Part") == std::string::npos) {
+    if (toggle->resourceFolder().find(kInPartIcons) == std::string::npos) {
         toggle->resourceFolder(toggle->value() ? kFoldedIcon : kUnfoldedIcon);
     }
     const std::string id = table->id();
-    if (id != kModelTableId && id != kStructureTableId) {
+    if (id != kModelRows.tableId && id != kStructureRows.tableId) {
         return;
     }
     toggle->isVisible(visible);

@@ -15,7 +15,7 @@ namespace tarnix {
 /// On the tab "Structure" column 0 holds images: a click there throws a plain `std::exception`.
 void toggleRowCollapse(adsk::core::Ptr<adsk::core::CommandInput> input);
 
-/// Hides all rows behind `row` that lie below it, or shows those directly below it and, for each of
+/// Hides all rows after `row` that lie below it, or shows those directly below it and, for each of
 /// these, what its own toggle says.
 ///
 /// Nothing for row 0, and for a row that is not there. A row without a toggle, or without a

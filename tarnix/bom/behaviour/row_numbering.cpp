@@ -1,6 +1,7 @@
 #include "tarnix/bom/behaviour/row_numbering.h"
 
-#include "tarnix/bom/behaviour/table_rows.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
+#include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/numbers.h"
 #include "tarnix/text/positions.h"
@@ -20,7 +21,7 @@ std::string counted(const std::string& text, int step) {
     return std::to_string(static_cast<long long>(parseInt(text)) + step);
 }
 
-/// How a number looks in a text box: white on white, the underscores are an indent nobody sees.
+/// How a number looks in a text box: white on white, the underscores are an invisible indent.
 std::string positionHtml(const std::string& number) {
     const std::string indent(static_cast<std::size_t>(positionDepth(number)), '_');
     std::string html = "<p>";
@@ -46,7 +47,7 @@ const std::string& RowNumbers::nextNested(const Place& place) {
     } else if (depth == place.previousDepth) {
         current_ = numberBesideEqual();
     } else {
-        current_ = numberBehindDeeper(place, depth);
+        current_ = numberAfterDeeper(place, depth);
     }
     last_ = current_;
     return current_;
@@ -60,7 +61,7 @@ std::string RowNumbers::numberBesideEqual() const {
     return last_.substr(0, dot + 1) + counted(last_.substr(dot + 1), 1);
 }
 
-std::string RowNumbers::numberBehindDeeper(const Place& place, int depth) const {
+std::string RowNumbers::numberAfterDeeper(const Place& place, int depth) const {
     const std::string& position = place.position;
     const std::size_t dot = position.rfind('.');
     if (depth == place.nextDepth) {
@@ -85,7 +86,7 @@ void renumberVisibleRows(Ptr<TableCommandInput> table) {
         RowNumbers::Place place;
         place.position = positionOfRow(table, row);
         const int depth = positionDepth(place.position);
-        if (!table->getInputAtPosition(row, 0)->isVisible()) {
+        if (!table->getInputAtPosition(row, kIconColumn)->isVisible()) {
             continue;
         }
         std::string number;
@@ -97,7 +98,7 @@ void renumberVisibleRows(Ptr<TableCommandInput> table) {
                 row + 1 < rowCount ? positionDepth(positionOfRow(table, row + 1)) : depth;
             number = numbers.nextNested(place);
         }
-        const Ptr<TextBoxCommandInput> textBox = table->getInputAtPosition(row, 1);
+        const Ptr<TextBoxCommandInput> textBox = table->getInputAtPosition(row, kPositionColumn);
         if (textBox) {
             textBox->formattedText(positionHtml(number));
         }

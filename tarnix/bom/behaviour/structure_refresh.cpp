@@ -1,12 +1,9 @@
 #include "tarnix/bom/behaviour/structure_refresh.h"
 
-#include "tarnix/bom/behaviour/active_design.h"
-#include "tarnix/bom/behaviour/table_rows.h"
-#include "tarnix/bom/model/bom_row.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
 #include "tarnix/bom/model/walk.h"
-#include "tarnix/bom/tabs/bom_ids.h"
 #include "tarnix/bom/tabs/structure_tab.h"
-#include "tarnix/settings/settings_document.h"
+#include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
 #include "tarnix/text/numbers.h"
@@ -25,14 +22,11 @@ using adsk::core::InputChangedEventArgs;
 using adsk::core::ListItem;
 using adsk::core::Ptr;
 using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
 using adsk::core::TableCommandInput;
 using adsk::fusion::Component;
 using adsk::fusion::OccurrenceList;
 
 namespace {
-
-using Items = std::vector<std::string>;
 
 void showCells(const Ptr<TableCommandInput>& table, int row, int firstColumn) {
     const int lastColumn = table->numberOfColumns();
@@ -45,7 +39,7 @@ void showCells(const Ptr<TableCommandInput>& table, int row, int firstColumn) {
 void showRows(const Ptr<TableCommandInput>& table) {
     const int rowCount = table->rowCount();
     for (int row = 1; row < rowCount; ++row) {
-        const Ptr<CommandInput> first = table->getInputAtPosition(row, 0);
+        const Ptr<CommandInput> first = table->getInputAtPosition(row, kIconColumn);
         if (first && first->isVisible()) {
             showCells(table, row, 1);
         }
@@ -57,7 +51,7 @@ double totalMass(const Ptr<TableCommandInput>& table, const std::vector<BomRow>&
     double total = 0;
     const int rowCount = table->rowCount();
     for (int tableRow = 1; tableRow < rowCount; ++tableRow) {
-        const int number = idNumber(table->getInputAtPosition(tableRow, 0)->id());
+        const int number = idNumber(table->getInputAtPosition(tableRow, kIconColumn)->id());
         const BomRow& row = at(rows, static_cast<std::size_t>(number) - 1);
         total += row.occurrence->physicalProperties()->mass() * static_cast<double>(row.quantity);
     }
@@ -73,7 +67,7 @@ void showTotalMass(const Ptr<TableCommandInput>& table, double total) {
 }
 
 void refreshStructureTab(const Ptr<CommandInputs>& inputs, const Ptr<TableCommandInput>& table,
-                         const Items& items) {
+                         const std::vector<Column>& columns) {
     refreshStructureTable(inputs, table);
     showRows(table);
     const Ptr<Component> root = activeRootComponent();
@@ -83,11 +77,11 @@ void refreshStructureTab(const Ptr<CommandInputs>& inputs, const Ptr<TableComman
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
     BomModel model;
     buildStructureTab(inputs);
-    showTotalMass(table, totalMass(table, walkOccurrencesMerged(model, occurrences, 1)));
-    table->columnRatio(makeColumnRatio(table, items));
+    showTotalMass(table, totalMass(table, walkOccurrencesMerged(model, occurrences, /*level=*/1)));
+    table->columnRatio(makeColumnRatio(table, columns));
 }
 
-/// Hides the row behind `number`, and the rows behind that one which its position begins.
+/// Hides the row after `number`, and the rows after it whose positions begin with that row's.
 void hideReferenceRows(const Ptr<TableCommandInput>& table, int number) {
     const std::string position = positionOfRow(table, number + 1);
     hideRow(table, number + 1);
@@ -107,16 +101,15 @@ void hideReferenceRows(const Ptr<TableCommandInput>& table, int number) {
 
 void refreshOnTabChange(Ptr<InputChangedEventArgs> eventArgs) {
     const Ptr<CommandInputs> inputs = eventArgs->inputs();
-    const Ptr<TabCommandInput> structureTab = inputs->itemById(kStructureTabId);
-    const Ptr<TabCommandInput> modelTab = inputs->itemById(kModelTabId);
-    const Ptr<TableCommandInput> structureTable = inputs->itemById(kStructureTableId);
-    const Ptr<TableCommandInput> modelTable = inputs->itemById(kModelTableId);
-    const Items items = readCategoryItems("category", "bomItems");
-    if (structureTab->isActive()) {
-        refreshStructureTab(inputs, structureTable, items);
-    } else if (modelTab->isActive()) {
+    const RowTabs tabs = rowTabs(inputs);
+    const Ptr<TableCommandInput> structureTable = inputs->itemById(kStructureRows.tableId);
+    const Ptr<TableCommandInput> modelTable = inputs->itemById(kModelRows.tableId);
+    const std::vector<Column> columns = readColumns();
+    if (tabs.structure->isActive()) {
+        refreshStructureTab(inputs, structureTable, columns);
+    } else if (tabs.model->isActive()) {
         showCells(modelTable, 0, 0);
-        modelTable->columnRatio(makeColumnRatio(modelTable, items));
+        modelTable->columnRatio(makeColumnRatio(modelTable, columns));
     }
 }
 
@@ -126,7 +119,7 @@ void refreshStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> tab
     }
     const int rowCount = table->rowCount();
     for (int row = 1; row < rowCount; ++row) {
-        const Ptr<CommandInput> cell = table->getInputAtPosition(row, 3);
+        const Ptr<CommandInput> cell = table->getInputAtPosition(row, kPartNumberColumn);
         const int number = idNumber(cell->id());
         const Ptr<DropDownCommandInput> dropDown = cell;
         const Ptr<ListItem> selected = dropDown ? dropDown->selectedItem() : nullptr;
@@ -145,32 +138,22 @@ void fillStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> table)
         return;
     }
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
-    const bool isStructure = table->id() == kStructureTableId;
+    const bool isStructure = table->id() == kStructureRows.tableId;
     BomModel model;
-    const std::vector<BomRow>& rows = isStructure ? walkOccurrencesMerged(model, occurrences, 1)
-                                                  : walkOccurrences(model, occurrences, 1);
-    const Items items = readCategoryItems("category", "bomItems");
+    const std::vector<BomRow>& rows = isStructure
+                                          ? walkOccurrencesMerged(model, occurrences, /*level=*/1)
+                                          : walkOccurrences(model, occurrences, /*level=*/1);
+    const std::vector<Column> columns = readColumns();
     if (isStructure) {
-        buildStructureTableHeader(table, items);
+        buildStructureTableHeader(table, columns);
     }
-    fillStructureRows(table, rows, items);
+    fillStructureRows(table, rows, columns);
 }
 
 std::string formatMass(double kilograms) { return formatFixed(kilograms, 3); }
 
-std::string makeColumnRatio(Ptr<TableCommandInput> table, const Items& items) {
-    constexpr std::size_t kConfigurableColumns = 6;
-    std::string ratio;
-    const std::string id = table->id();
-    if (id == kStructureTableId) {
-        ratio = "2:3:0:12:8";
-    } else if (id == kModelTableId) {
-        ratio = "2:0:8:12:8";
-    }
-    for (std::size_t k = 0; k < kConfigurableColumns; ++k) {
-        ratio += k < items.size() ? ":8" : ":0";
-    }
-    return ratio;
+std::string makeColumnRatio(Ptr<TableCommandInput> table, const std::vector<Column>& columns) {
+    return elevenColumnRatio(table->id(), columns.size());
 }
 
 }  // namespace tarnix

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tarnix/bom/model/columns.h"
+
 #include <Core/CoreAll.h>
 
 #include <string>
@@ -14,7 +16,7 @@ namespace tarnix {
 /// Answers a change of the tab.
 ///
 /// On the tab "Structure" rows that nothing has hidden are shown whole, the total mass is put into
-/// its field, and the columns get their widths. Without an active design it ends behind the rows.
+/// its field, and the columns get their widths. Without an active design it ends after the rows.
 /// On the tab "Data of Model" the header row is shown and the columns get their widths. The third
 /// tab stays as it is.
 void refreshOnTabChange(adsk::core::Ptr<adsk::core::InputChangedEventArgs> eventArgs);
@@ -33,6 +35,6 @@ std::string formatMass(double kilograms);
 /// The widths of the eleven columns of one of the two tables: five fixed ones, then a width for
 /// each configured column and none for a slot that is not configured.
 std::string makeColumnRatio(adsk::core::Ptr<adsk::core::TableCommandInput> table,
-                            const std::vector<std::string>& items);
+                            const std::vector<Column>& columns);
 
 }  // namespace tarnix

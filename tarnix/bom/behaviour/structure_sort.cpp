@@ -1,5 +1,6 @@
 #include "tarnix/bom/behaviour/structure_sort.h"
 
+#include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
 #include "tarnix/text/numbers.h"
@@ -21,11 +22,7 @@ using adsk::core::TableCommandInput;
 
 namespace {
 
-constexpr std::size_t kPositionColumn = 1;
-constexpr std::size_t kGraphColumn = 2;
-constexpr std::size_t kFirstPropertyColumn = 5;
-
-/// Whether what stands behind the last "_" of an id is exactly "0".
+/// Whether what follows the last "_" of an id is exactly "0".
 bool isHeaderId(const std::string& id) { return id == "0" || id.ends_with("_0"); }
 
 /// The rows that hold anything but header cells, in the table's order.
@@ -51,7 +48,7 @@ std::vector<CellRow> dataRows(const Ptr<TableCommandInput>& table) {
 }
 
 /// The column whose cells have the id of the clicked header but for the number; 0 where none has.
-std::size_t columnOf(const CellRow& row, const std::string& clickedBase) {
+std::size_t clickedColumn(const CellRow& row, const std::string& clickedBase) {
     for (std::size_t column = 0; column < row.size(); ++column) {
         if (row[column]->id().find(clickedBase) != std::string::npos) {
             return column;
@@ -60,7 +57,7 @@ std::size_t columnOf(const CellRow& row, const std::string& clickedBase) {
     return 0;
 }
 
-/// The text that a cell sorts by; nothing for a kind of input that has none.
+/// The string that a cell sorts by; nothing for a kind of input that has none.
 std::optional<std::string> sortText(const Ptr<CommandInput>& cell) {
     if (const Ptr<StringValueCommandInput> field = cell) {
         return field->value();
@@ -79,7 +76,7 @@ using Rows = std::vector<const CellRow*>;
 /// What the sorted column holds under one id.
 template <class Key>
 struct Entry {
-    std::optional<Key> key;  ///< none where no cell has a text
+    std::optional<Key> key;  ///< missing where no cell has a text
     Rows rows;               ///< in the table's order
 };
 
@@ -87,7 +84,7 @@ template <class Key>
 using EntryOfId = std::pair<const std::string, Entry<Key>>;
 
 /// Compares by plain less-than, first the keys, then the ids. The standard's own comparison of
-/// pairs takes a key that is not a number for equal to every other, and a set would drop its row.
+/// pairs takes a key that is not a number as equal to every other, and a set would drop its row.
 template <class Key>
 struct PlainLess {
     using Pair = std::pair<Key, EntryOfId<Key>*>;
@@ -137,18 +134,18 @@ std::vector<Rows> sortedRows(const std::vector<CellRow>& rows, std::size_t colum
 }
 
 std::vector<Rows> rowsInOrder(const std::vector<CellRow>& rows, std::size_t column) {
-    if (column == 0 || column == kGraphColumn) {
+    if (column == kIconColumn || column == kGraphColumn) {
         return {};
     }
-    const bool isNumber = column == kPositionColumn ||
-                          (column >= kFirstPropertyColumn && isNumericColumn(rows, column));
+    const bool isNumber =
+        column == kPositionColumn || (column >= kFixedColumns && isNumericColumn(rows, column));
     if (isNumber) {
         return sortedRows<double>(rows, column, parseDouble);
     }
     return sortedRows<std::string>(rows, column, [](const std::string& text) { return text; });
 }
 
-/// Moves the row's cells behind the table's rows.
+/// Moves the row's cells to a row after the table's last.
 void moveToEnd(const Ptr<TableCommandInput>& table, const CellRow& row) {
     const int target = table->rowCount();
     for (std::size_t column = 0; column < row.size(); ++column) {
@@ -162,11 +159,11 @@ void moveToEnd(const Ptr<TableCommandInput>& table, const CellRow& row) {
 void sortStructureTable(Ptr<TableCommandInput> table, Ptr<CommandInput> input,
                         const std::string& orderText) {
     const std::vector<CellRow> rows = dataRows(table);
-    const std::size_t column = columnOf(at(rows, 0), idBase(input->id()));
+    const std::size_t column = clickedColumn(at(rows, 0), idBase(input->id()));
     std::vector<Rows> sorted = rowsInOrder(rows, column);
-    if (orderText == "Descending") {
+    if (orderText == kDescending) {
         std::ranges::reverse(sorted);
-    } else if (orderText != "Ascending") {
+    } else if (orderText != kAscending) {
         return;
     }
     for (const Rows& rowsOfId : sorted) {

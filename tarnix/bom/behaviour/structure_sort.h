@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tarnix/bom/tabs/row_cells.h"
+
 #include <Core/CoreAll.h>
 
 #include <cstddef>
@@ -9,11 +11,8 @@
 /// Sorting of the Structure table by the column whose header was clicked.
 ///
 /// The sort is flat: every data row is a unit of its own. It works on the table's cells alone, and
-/// moves the rows behind the others one by one, so cells keep their ids, values and visibility.
+/// moves the rows after the others one by one, so cells keep their ids, values and visibility.
 namespace tarnix {
-
-/// A row's cells in the order of their columns, none of them null.
-using CellRow = std::vector<adsk::core::Ptr<adsk::core::CommandInput>>;
 
 /// Sorts the data rows of `table` by the column of `input`, a header cell, in the order "Ascending"
 /// or "Descending"; any other order, and the columns of the icon and of the graph, move nothing.
@@ -28,7 +27,7 @@ void sortStructureTable(adsk::core::Ptr<adsk::core::TableCommandInput> table,
                         adsk::core::Ptr<adsk::core::CommandInput> input,
                         const std::string& orderText);
 
-/// Whether any of the column's text fields holds a number other than zero.
+/// Whether any of the column's text fields holds a number other than zero. No cell is null.
 ///
 /// Every one of them is read as a number: an empty one, and a text that begins with none, throws
 /// "invalid stod argument".

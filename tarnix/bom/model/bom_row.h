@@ -5,18 +5,18 @@
 #include <Core/CoreAll.h>
 #include <Fusion/FusionAll.h>
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
 
 /// Everything the BOM dialog shows comes out of one flat list of rows. A walk over the design fills
 /// the list (`walk.h`), an identity test decides which occurrences count as the same item
-/// (`identity.h`), a merge marks what differs between them (`merge.h`), and one function turns a
-/// row and a property's key into the text of a cell (`cell_text.h`). The tabs only lay these values
-/// out.
+/// (`identity.h`), the walk marks what differs between them, and one function turns a row and a
+/// property's key into the text of a cell (`columns.h`). The tabs only lay these values out.
 namespace tarnix {
 
-/// Stands as `BomRow::pathName` of the last row of a finished subtree.
+/// The `BomRow::pathName` of the last row of a finished subtree.
 inline constexpr const char* kSubtreeEnd = "-1";
 
 /// One visited occurrence of the design, as the dialog shows it.
@@ -32,7 +32,7 @@ struct BomRow {
 
     std::size_t childCount = 0;  ///< a row is an assembly exactly when this is above 0
 
-    /// The occurrence's path, or `kSubtreeEnd`: whoever needs the path asks the occurrence.
+    /// The occurrence's path, or `kSubtreeEnd`: for the path, ask the occurrence.
     std::string pathName;
 
     int quantity = 1;       ///< occurrences merged into this row, itself included
@@ -51,5 +51,19 @@ struct BomModel {
     /// emptied here, so a name stays known for as long as the model lives.
     std::vector<std::string> userPropertyNames;
 };
+
+/// The values that a component's BOM structure can have, in the order of every drop-down. Each is a
+/// property of its own that holds "1" or "0".
+inline constexpr std::array<const char*, 5> kBomStructures = {"Produce", "Buy", "AsPart", "Divided",
+                                                              "Reference"};
+
+/// True when the row has an entry of that key with the value exactly "1"; an entry of that key with
+/// another value does not end the search.
+bool isPropertySet(const BomRow& row, const std::string& key);
+
+/// The key of the row's first entry whose value is exactly "1", an empty string where there is
+/// none. All entries are looked at: a part number, or a custom property, of "1" ahead of the
+/// structure's keys wins.
+std::string firstSetProperty(const BomRow& row);
 
 }  // namespace tarnix

@@ -1,13 +1,12 @@
 #include "tarnix/bom/model/walk.h"
 
-#include "tarnix/bom/model/bom_structure.h"
+#include "tarnix/bom/model/columns.h"
 #include "tarnix/bom/model/identity.h"
-#include "tarnix/bom/model/merge.h"
-#include "tarnix/bom/model/property_keys.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/numbers.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -18,18 +17,12 @@ using adsk::core::Ptr;
 using adsk::fusion::Occurrence;
 using adsk::fusion::OccurrenceList;
 
-/// A row with the list of its children, which the walk goes on with.
-struct Visit {
-    BomRow row;
-    Ptr<OccurrenceList> children;
-};
-
 std::string relativePosition(int level, std::size_t index) {
     return level < 2 ? std::string() : "." + std::to_string(index + 1);
 }
 
-Visit visit(BomModel& model, const Ptr<Occurrence>& occurrence, int level, std::size_t index) {
-    const Ptr<OccurrenceList> children = occurrence->childOccurrences();
+BomRow makeRow(BomModel& model, const Ptr<Occurrence>& occurrence,
+               const Ptr<OccurrenceList>& children, int level, std::size_t index) {
     BomRow row;
     row.component = occurrence->component();
     row.occurrence = occurrence;
@@ -39,7 +32,7 @@ Visit visit(BomModel& model, const Ptr<Occurrence>& occurrence, int level, std::
     row.level = level;
     row.properties = readComponentProperties(row.component).entries;
     collectUserPropertyNames(model, row.properties);
-    return {std::move(row), children};
+    return row;
 }
 
 /// The walk itself; `append` puts a row into the model.
@@ -50,11 +43,12 @@ void walk(BomModel& model, const Ptr<OccurrenceList>& occurrences, int level, Ap
         if (!occurrence) {
             continue;
         }
-        Visit visited = visit(model, occurrence, level, index);
-        const bool isAssembly = visited.row.childCount > 0;
-        append(std::move(visited.row));
+        const Ptr<OccurrenceList> children = occurrence->childOccurrences();
+        BomRow row = makeRow(model, occurrence, children, level, index);
+        const bool isAssembly = row.childCount > 0;
+        append(std::move(row));
         if (isAssembly) {
-            walk(model, visited.children, level + 1, append);
+            walk(model, children, level + 1, append);
             at(model.rows, model.rows.size() - 1).pathName = kSubtreeEnd;
         }
     }
@@ -86,6 +80,46 @@ private:
     ItemIndex index_;
 };
 
+/// A path without the instance number of its last occurrence.
+std::string withoutInstance(const std::string& path) { return path.substr(0, path.rfind(':')); }
+
+void mergeNames(BomRow& target, const BomRow& row) {
+    if (withoutInstance(target.occurrence->fullPathName()) !=
+        withoutInstance(row.occurrence->fullPathName())) {
+        target.combined = true;
+    }
+}
+
+/// Both descriptions are read from the design: an earlier merge may have changed either.
+void mergeDescriptions(const BomRow& target, const BomRow& row) {
+    const std::string description = target.component->description();
+    if (row.component->description() != description &&
+        description.find(kDifferent) == std::string::npos) {
+        target.component->description(kDifferent + description);
+    }
+}
+
+void mergeProperties(std::vector<PropertyEntry>& target,
+                     const std::vector<PropertyEntry>& further) {
+    const std::size_t common = std::min(target.size(), further.size());
+    for (std::size_t j = 0; j < common; ++j) {
+        if (target[j].value != further[j].value) {
+            target[j].value = kDifferent;
+        }
+    }
+    for (std::size_t j = common; j < target.size(); ++j) {
+        if (!target[j].value.empty()) {
+            target[j].value = kDifferent;
+        }
+    }
+    // Entries are appended meanwhile, so the length to start from is the common one.
+    for (std::size_t j = common; j < further.size(); ++j) {
+        if (!further[j].value.empty()) {
+            target.push_back({.name = further[j].name, .value = kDifferent});
+        }
+    }
+}
+
 bool isReserved(const std::string& key) {
     return key == kPartNameKey || key == kPartNumberKey || key == kDescriptionKey ||
            std::find(kBomStructures.begin(), kBomStructures.end(), key) != kBomStructures.end();
@@ -107,6 +141,13 @@ const std::vector<BomRow>& walkOccurrencesMerged(BomModel& model, Ptr<Occurrence
     MergingAppender append(model, occurrences->count());
     walk(model, occurrences, level, append);
     return model.rows;
+}
+
+void mergeInto(BomRow& target, const BomRow& row) {
+    ++target.quantity;
+    mergeNames(target, row);
+    mergeDescriptions(target, row);
+    mergeProperties(target.properties, row.properties);
 }
 
 void collectUserPropertyNames(BomModel& model, const std::vector<PropertyEntry>& properties) {

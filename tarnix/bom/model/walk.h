@@ -11,7 +11,7 @@ namespace tarnix {
 /// them: bind them to a reference, or move them out of a model that is not needed any more.
 ///
 /// Rows come depth first, parent before children, siblings in the host's order. `level` is the
-/// level of these occurrences, 1 at the top. Behind the children of an occurrence, the last row
+/// level of these occurrences, 1 at the top. After the children of an occurrence, the last row
 /// then in the list gets `kSubtreeEnd` as its `pathName`. An index at which the host has no
 /// occurrence is skipped, and counts for the ordinals of the others. A null list adds nothing.
 const std::vector<BomRow>& walkOccurrences(
@@ -24,6 +24,17 @@ const std::vector<BomRow>& walkOccurrences(
 /// A null list throws a plain `std::exception`.
 const std::vector<BomRow>& walkOccurrencesMerged(
     BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
+
+/// Shown in place of a value that is not the same in all occurrences of an item.
+inline constexpr const char* kDifferent = "***different***";
+
+/// Counts `row`, a further occurrence of the same item, into `target`, the item's first row.
+///
+/// The quantity grows by one, another name sets `combined`, and property values that differ become
+/// `kDifferent`: entries are compared by position, not by key, and those that only the further row
+/// has are appended unless they are empty. Where the descriptions differ, `kDifferent` is written
+/// ahead of the target component's description: into the design, at once, and only once.
+void mergeInto(BomRow& target, const BomRow& row);
 
 /// Adds to `model.userPropertyNames` the names of those properties that are custom ones, without
 /// their prefix. Throws `std::out_of_range` ("invalid string position") for such a key that is

@@ -1,18 +1,17 @@
 #include "tarnix/bom/tabs/bom_configuration_tab.h"
 
-#include "tarnix/bom/model/property_keys.h"
-#include "tarnix/bom/tabs/bom_ids.h"
-#include "tarnix/bom/tabs/columns.h"
-#include "tarnix/bom/tabs/row_inputs.h"
+#include "tarnix/bom/model/columns.h"
+#include "tarnix/bom/tabs/row_cells.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/numbers.h"
 
+#include <cstddef>
+#include <span>
 #include <string>
 
 namespace tarnix {
 namespace {
 
-using adsk::core::CommandInput;
 using adsk::core::CommandInputs;
 using adsk::core::DropDownCommandInput;
 using adsk::core::ListItem;
@@ -23,55 +22,49 @@ using adsk::core::TabCommandInput;
 using adsk::core::TableCommandInput;
 using adsk::core::TextListDropDownStyle;
 
-using Inputs = std::vector<Ptr<CommandInput>>;
-
-/// The column of the first drop-down; the four in front of it cannot be changed.
-constexpr int kFirstFreeColumn = 4;
-
 constexpr const char* kNotice =
     R"(<div style="background-color:#fefa50" align="center">The changes in the layout of BOM )"
     R"(properties will be applied on tab 'Structure' on the tab 'Data of Model' after clicking )"
     R"(on <span><b>"Save BOM Configuration"</b></span> and re-open this dialog.</div>)";
 
-/// What every drop-down begins with. The lines with dashes are entries like the others.
-constexpr const char* kFixedEntries[] = {"---Select One---",
-                                         "Quantity",
-                                         "--- Model Property ---",
-                                         "Part Name",
-                                         "Description",
-                                         "Area",
-                                         "Density",
-                                         "Mass",
-                                         "Volume",
-                                         "Physical Material",
-                                         "Length",
-                                         "Width",
-                                         "Height",
-                                         "Bounding Box",
-                                         "--- User Property ---"};
+/// A field of a fixed column, which the user cannot change.
+struct FixedField {
+    const char* id;
+    const char* name;
+    const char* value;
+};
 
-void placeRow(const Ptr<TableCommandInput>& table, int tableRow, const Inputs& cells) {
-    int column = 0;
-    for (const auto& cell : cells) {
-        table->addCommandInput(cell, tableRow, column, 0, 0);
-        ++column;
+constexpr FixedField kFixedCaptionFields[] = {
+    {.id = "nameCol1", .name = "NameCol1", .value = "Asm."},
+    {.id = "nameCol2", .name = "NameCol2", .value = "Pos."},
+    {.id = "nameCol3", .name = "NameCol3", .value = "Part Number"},
+    {.id = "nameCol4", .name = "NameCol4", .value = "BOM Structure"}};
+
+constexpr FixedField kFixedSampleFields[] = {
+    {.id = "colapseRow", .name = "Asm.", .value = "isAsm."},
+    {.id = "positionOcc", .name = "Pos.", .value = "1.1"},
+    {.id = "partNumberOcc", .name = "Part Number", .value = "Part Number"},
+    {.id = "bomStructure", .name = "BOM Structure", .value = "Produce"}};
+
+CellRow makeFixedCells(const Ptr<CommandInputs>& inputs, std::span<const FixedField> fields) {
+    CellRow cells;
+    for (const FixedField& field : fields) {
+        cells.push_back(addReadOnlyField(inputs, field.id, field.name, field.value));
     }
+    return cells;
 }
 
-void fillPropertyList(const Ptr<ListItems>& list, const std::vector<std::string>& userProperties) {
+void fillPropertyList(const Ptr<ListItems>& list, const std::vector<std::string>& entries) {
     list->clear();
-    for (const char* entry : kFixedEntries) {
-        list->add(entry, false, "", -1);
-    }
-    for (const auto& name : userProperties) {
-        list->add(name, false, "", -1);
+    for (const std::string& entry : entries) {
+        list->add(entry, /*isSelected=*/false, /*icon=*/"", /*beforeIndex=*/-1);
     }
 }
 
-void setText(const Ptr<TableCommandInput>& table, int tableRow, int column,
-             const std::string& text) {
+void setValue(const Ptr<TableCommandInput>& table, int tableRow, int column,
+              const std::string& value) {
     const Ptr<StringValueCommandInput> cell = table->getInputAtPosition(tableRow, column);
-    cell->value(text);
+    cell->value(value);
 }
 
 /// Selects every entry that `column` names: a custom property may be called like a fixed entry.
@@ -82,18 +75,17 @@ void loadColumn(const Ptr<TableCommandInput>& table, int place, const Column& co
         const Ptr<ListItem> entry = list->item(index);
         if (kPropertyPrefix + entry->name() == column.key) {
             entry->isSelected(true);
-            setText(table, 1, place, column.label);
-            setText(table, 0, place, "used");
+            setValue(table, kCaptionRow, place, column.label);
+            setValue(table, kStateRow, place, kUsedState);
         }
     }
 }
 
 void loadColumns(const Ptr<TableCommandInput>& table,
                  const std::vector<Ptr<DropDownCommandInput>>& dropDowns) {
-    const std::vector<std::string> items = readColumnItems();
-    for (std::size_t q = 0; q < items.size(); ++q) {
-        loadColumn(table, static_cast<int>(q) + kFirstFreeColumn, columnOf(items[q]),
-                   at(dropDowns, q));
+    const std::vector<Column> columns = readColumns();
+    for (std::size_t q = 0; q < columns.size(); ++q) {
+        loadColumn(table, static_cast<int>(q) + kFirstFreeColumn, columns[q], at(dropDowns, q));
     }
 }
 
@@ -107,73 +99,68 @@ void buildBomConfigurationTab(const BomModel& model, Ptr<CommandInputs> inputs) 
         return;
     }
     const Ptr<TableCommandInput> table = children->addTableCommandInput(
-        kConfigTableId, "ConfigurationBom", 10, "3:3:6:7:8:8:8:8:8:8");
+        kConfigTableId, "ConfigurationBom", kConfigColumns, kConfigRatio);
     if (!table) {
         return;
     }
     buildConfigTableDefaultRow(table);
     buildConfigTableCaptionRow(table);
     buildConfigTableModelRow(model, table);
-    children->addTextBoxCommandInput("fullWidth_textBox", "", kNotice, 2, /*isReadOnly=*/true);
+    children->addTextBoxCommandInput(kConfigNoticeId, "", kNotice, /*numRows=*/2,
+                                     /*isReadOnly=*/true);
     children
-        ->addBoolValueInput(kSaveConfigId, "Save BOM Configuration", /*isCheckBox=*/false, "", true)
+        ->addBoolValueInput(kSaveConfigId, "Save BOM Configuration", /*isCheckBox=*/false,
+                            /*resourceFolder=*/"", /*initialValue=*/true)
         ->isFullWidth(true);
 }
 
 void buildConfigTableDefaultRow(const Ptr<TableCommandInput>& table) {
     const Ptr<CommandInputs> inputs = table->commandInputs();
-    Inputs cells;
+    CellRow cells;
     for (int column = 0; column < kFirstFreeColumn; ++column) {
-        cells.push_back(addReadOnlyText(inputs, "", "", "default"));
+        cells.push_back(addReadOnlyField(inputs, "", "", "default"));
     }
     for (int k = 1; k <= kConfigurableColumns; ++k) {
-        cells.push_back(addReadOnlyText(inputs, "colUsrHeader_" + decimal(k), "", "not used"));
+        cells.push_back(addReadOnlyField(inputs, kStateIdPrefix + decimal(k), "", "not used"));
     }
-    placeRow(table, 0, cells);
+    placeCells(table, kStateRow, cells);
 }
 
 void buildConfigTableCaptionRow(const Ptr<TableCommandInput>& table) {
     const Ptr<CommandInputs> inputs = table->commandInputs();
-    Inputs cells;
-    cells.push_back(addReadOnlyText(inputs, "nameCol1", "NameCol1", "Asm."));
-    cells.push_back(addReadOnlyText(inputs, "nameCol2", "NameCol2", "Pos."));
-    cells.push_back(addReadOnlyText(inputs, "nameCol3", "NameCol3", "Part Number"));
-    cells.push_back(addReadOnlyText(inputs, "nameCol4", "NameCol4", "BOM Structure"));
-    for (int k = 5; k <= 10; ++k) {
+    CellRow cells = makeFixedCells(inputs, kFixedCaptionFields);
+    for (int k = kFirstFreeColumn + 1; k <= kConfigColumns; ++k) {
         cells.push_back(
-            inputs->addStringValueInput("nameCol" + decimal(k), "NameCol" + decimal(k), ""));
+            inputs->addStringValueInput(kCaptionIdPrefix + decimal(k), "NameCol" + decimal(k), ""));
     }
-    placeRow(table, 1, cells);
+    placeCells(table, kCaptionRow, cells);
 }
 
 void buildConfigTableModelRow(const BomModel& model, const Ptr<TableCommandInput>& table) {
     const Ptr<CommandInputs> inputs = table->commandInputs();
-    Inputs cells;
-    cells.push_back(addReadOnlyText(inputs, "colapseRow", "Asm.", "isAsm."));
-    cells.push_back(addReadOnlyText(inputs, "positionOcc", "Pos.", "1.1"));
-    cells.push_back(addReadOnlyText(inputs, "partNumberOcc", "Part Number", "Part Number"));
-    cells.push_back(addReadOnlyText(inputs, "bomStructure", "BOM Structure", "Produce"));
+    CellRow cells = makeFixedCells(inputs, kFixedSampleFields);
     const auto dropDowns = buildPropertyDropDowns(model, table);
     for (const auto& dropDown : dropDowns) {
         dropDown->maxVisibleItems(30);
         cells.push_back(dropDown);
     }
-    placeRow(table, 2, cells);
+    placeCells(table, kPropertyRow, cells);
     loadColumns(table, dropDowns);
 }
 
 std::vector<Ptr<DropDownCommandInput>> buildPropertyDropDowns(const BomModel& model,
                                                               const Ptr<TableCommandInput>& table) {
     const Ptr<CommandInputs> inputs = table->commandInputs();
+    const std::vector<std::string> entries = offeredEntries(model.userPropertyNames);
     std::vector<Ptr<DropDownCommandInput>> dropDowns;
     for (int k = 0; k < kConfigurableColumns; ++k) {
         const Ptr<DropDownCommandInput> dropDown = inputs->addDropDownCommandInput(
-            "iProperty_" + decimal(k), "iProperty", TextListDropDownStyle);
+            kPropertyIdBase + ("_" + decimal(k)), "iProperty", TextListDropDownStyle);
         const Ptr<ListItems> list = dropDown->listItems();
         if (!list) {
             return dropDowns;
         }
-        fillPropertyList(list, model.userPropertyNames);
+        fillPropertyList(list, entries);
         dropDowns.push_back(dropDown);
     }
     return dropDowns;

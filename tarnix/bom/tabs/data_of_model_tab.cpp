@@ -1,9 +1,7 @@
 #include "tarnix/bom/tabs/data_of_model_tab.h"
 
 #include "tarnix/bom/model/row_positions.h"
-#include "tarnix/bom/tabs/bom_ids.h"
-#include "tarnix/bom/tabs/columns.h"
-#include "tarnix/bom/tabs/row_inputs.h"
+#include "tarnix/bom/tabs/row_cells.h"
 #include "tarnix/text/numbers.h"
 
 #include <cstddef>
@@ -17,38 +15,25 @@ using adsk::core::StringValueCommandInput;
 using adsk::core::TabCommandInput;
 using adsk::core::TableCommandInput;
 
-constexpr const char* kBaseRatio = "2:0:8:12:8";
-
-Ptr<TableCommandInput> findOrAddTable(const Ptr<CommandInputs>& inputs, std::size_t itemCount) {
-    Ptr<TableCommandInput> table = inputs->itemById(kModelTableId);
-    if (!table) {
-        table = inputs->addTableCommandInput(kModelTableId, "Data of Model",
-                                             static_cast<int>(itemCount) + 4,
-                                             extendColumnRatio(kBaseRatio, itemCount));
-    }
-    return table;
+/// A read-only field, whose value is given at creation and set once more.
+Ptr<StringValueCommandInput> addShownField(const Ptr<CommandInputs>& inputs, const std::string& id,
+                                           const std::string& value) {
+    Ptr<StringValueCommandInput> field = addReadOnlyField(inputs, id, /*name=*/"", value);
+    field->value(value);
+    return field;
 }
 
-/// A read-only text, given at creation and set once more.
-Ptr<StringValueCommandInput> addShownText(const Ptr<CommandInputs>& inputs, const std::string& id,
-                                          const std::string& value) {
-    Ptr<StringValueCommandInput> text = addReadOnlyText(inputs, id, "", value);
-    text->value(value);
-    return text;
-}
-
-FixedCells makeCells(const Ptr<CommandInputs>& inputs, const BomRow& row, const std::string& r,
-                     const std::string& position) {
-    const char* icon =
-        row.childCount > 0 ? "././Resources/BOM/ColapseAsm" : "././Resources/BOM/Part";
-    FixedCells cells;
-    cells.icon = inputs->addBoolValueInput("modelColapseRow_" + r, "", /*isCheckBox=*/false, icon,
-                                           /*initialValue=*/false);
-    cells.position = addShownText(inputs, "positionOcc_" + r, position);
-    cells.graph = addShownText(inputs, "graphPositionOcc_" + r, graphPosition(position));
-    cells.partNumber = inputs->addStringValueInput("modelPartNumberOcc_" + r, "Part Number",
-                                                   row.component->partNumber());
-    cells.structure = addStructureDropDown(inputs, "modelBomStructure_" + r, row);
+CellRow makeCells(const Ptr<CommandInputs>& inputs, const BomRow& row, const std::string& r,
+                  const std::string& position) {
+    const RowIds& ids = kModelRows.ids;
+    CellRow cells;
+    cells.push_back(inputs->addBoolValueInput(ids.icon + r, "", /*isCheckBox=*/false,
+                                              row.childCount > 0 ? kFoldedIcon : kPartIcon,
+                                              /*initialValue=*/false));
+    cells.push_back(addShownField(inputs, ids.position + r, position));
+    cells.push_back(addShownField(inputs, ids.graph + r, graphPosition(position)));
+    cells.push_back(addPartNumberField(inputs, ids.partNumber + r, row));
+    cells.push_back(addStructureDropDown(inputs, ids.structure + r, row));
     return cells;
 }
 
@@ -62,7 +47,8 @@ void setRowVisible(const Ptr<TableCommandInput>& table, int tableRow, int column
 void hideNestedRows(const Ptr<TableCommandInput>& table, int columns) {
     const int rowCount = table->rowCount();
     for (int tableRow = 1; tableRow < rowCount; ++tableRow) {
-        const Ptr<StringValueCommandInput> position = table->getInputAtPosition(tableRow, 1);
+        const Ptr<StringValueCommandInput> position =
+            table->getInputAtPosition(tableRow, kPositionColumn);
         if (position->value().find('.') != std::string::npos) {
             setRowVisible(table, tableRow, columns, false);
         }
@@ -72,50 +58,45 @@ void hideNestedRows(const Ptr<TableCommandInput>& table, int columns) {
 }  // namespace
 
 void buildDataOfModelTab(BomModel& model, Ptr<CommandInputs> inputs) {
-    const Ptr<TabCommandInput> tab = inputs->addTabCommandInput(kModelTabId, "Data of Model", "");
+    const Ptr<TabCommandInput> tab =
+        inputs->addTabCommandInput(kModelRows.tabId, kModelRows.caption, "");
     const Ptr<CommandInputs> children = tab ? tab->children() : nullptr;
     if (!children) {
         return;
     }
-    const std::vector<std::string> items = readColumnItems();
+    const std::vector<Column> columns = readColumns();
     addExportButton(children)->isFullWidth(false);
-    const Ptr<TableCommandInput> table = findOrAddTable(children, items.size());
+    const Ptr<TableCommandInput> table = findOrAddTable(children, kModelRows, columns);
     if (!table) {
         return;
     }
-    buildModelTableHeader(table, items);
-    fillModelTable(table, model.rows, items);
-    // Rows have no more cells than six items need: a seventh has a header, and nothing below it.
-    const int columns = kFixedColumns + static_cast<int>(items.size());
-    setRowVisible(table, 0, columns, true);
-    hideNestedRows(table, columns);
-    table->columnRatio(extendColumnRatio(kBaseRatio, items.size()));
-    table->maximumVisibleRows(1000);
+    buildModelTableHeader(table, columns);
+    fillModelTable(table, model.rows, columns);
+    // Rows have no more cells than six columns need: a seventh has a header, and nothing below it.
+    const int cells = kFixedColumns + static_cast<int>(columns.size());
+    setRowVisible(table, 0, cells, true);
+    hideNestedRows(table, cells);
+    table->columnRatio(extendColumnRatio(kModelRows.fixedRatio, columns.size()));
+    table->maximumVisibleRows(kMaximumVisibleRows);
 }
 
 void buildModelTableHeader(const Ptr<TableCommandInput>& table,
-                           const std::vector<std::string>& items) {
-    const Ptr<CommandInputs> inputs = table->commandInputs();
-    addHeader(table, inputs, 0, "", "");
-    addHeader(table, inputs, 1, "", "Pos.");
-    addHeader(table, inputs, 2, "", "");
-    addHeader(table, inputs, 3, "", "Part Number");
-    addHeader(table, inputs, 4, "", "BOM Structure");
-    addConfiguredHeaders(table, inputs, items);
+                           const std::vector<Column>& columns) {
+    buildTableHeader(table, std::vector<std::string>(kFixedColumns), columns);
 }
 
 void fillModelTable(const Ptr<TableCommandInput>& table, const std::vector<BomRow>& rows,
-                    const std::vector<std::string>& items) {
+                    const std::vector<Column>& columns) {
     const Ptr<CommandInputs> inputs = table->commandInputs();
     RowPositions positions;
     std::string previousPathName;
     int r = 1;
     for (const BomRow& row : rows) {
         const std::string position = positions.next(row, previousPathName);
-        const FixedCells cells = makeCells(inputs, row, decimal(r), position);
+        const CellRow cells = makeCells(inputs, row, decimal(r), position);
         const int tableRow = table->rowCount();
-        placeFixedCells(table, tableRow, cells);
-        fillConfiguredCells(row, table, tableRow, r, items);
+        placeCells(table, tableRow, cells);
+        fillConfiguredCells(row, table, tableRow, r, columns);
         positions.finishRow();
         previousPathName = row.pathName;
         ++r;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "tarnix/bom/model/bom_row.h"
+#include "tarnix/bom/model/columns.h"
 
 #include <Core/CoreAll.h>
 
-#include <string>
 #include <vector>
 
 /// The tab "Data of Model": every occurrence of the design as one row of a table, in the order of
@@ -18,12 +18,12 @@ namespace tarnix {
 /// refused input throws a plain `std::exception`.
 void buildDataOfModelTab(BomModel& model, adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 
-/// Fills row 0 with a button for each of the five fixed columns and each item.
+/// Fills row 0 with a button for each of the five fixed columns and each of `columns`.
 void buildModelTableHeader(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,
-                           const std::vector<std::string>& items);
+                           const std::vector<Column>& columns);
 
-/// Adds a row behind those of the table for each of `rows`, which are those of a plain walk.
+/// Adds a row after those of the table for each of `rows`, which are those of a plain walk.
 void fillModelTable(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,
-                    const std::vector<BomRow>& rows, const std::vector<std::string>& items);
+                    const std::vector<BomRow>& rows, const std::vector<Column>& columns);
 
 }  // namespace tarnix

@@ -1,6 +1,6 @@
 #include "tarnix/bom/tabs/structure_filter.h"
 
-#include "tarnix/bom/model/bom_structure.h"
+#include "tarnix/bom/model/bom_row.h"
 
 namespace tarnix {
 namespace {

@@ -1,8 +1,6 @@
 #include "tarnix/bom/tabs/structure_tab.h"
 
-#include "tarnix/bom/tabs/bom_ids.h"
-#include "tarnix/bom/tabs/columns.h"
-#include "tarnix/bom/tabs/row_inputs.h"
+#include "tarnix/bom/tabs/row_cells.h"
 #include "tarnix/bom/tabs/structure_filter.h"
 #include "tarnix/text/numbers.h"
 
@@ -24,52 +22,42 @@ bool addSortOrder(const Ptr<CommandInputs>& inputs) {
     const Ptr<DropDownCommandInput> order = inputs->addDropDownCommandInput(
         kSortOrderId, "BOM can be sorted by clicking on the column header:", TextListDropDownStyle);
     const Ptr<ListItems> items = order ? order->listItems() : nullptr;
-    return items && items->add("Ascending", false, "", -1) &&
-           items->add("Descending", false, "", -1);
-}
-
-Ptr<TableCommandInput> findOrAddTable(const Ptr<CommandInputs>& inputs,
-                                      const std::vector<std::string>& items,
-                                      const std::string& ratio) {
-    Ptr<TableCommandInput> table = inputs->itemById(kStructureTableId);
-    if (!table) {
-        table = inputs->addTableCommandInput(kStructureTableId, "Structure",
-                                             static_cast<int>(items.size()) + 4, ratio);
-    }
-    return table;
+    return items && items->add(kAscending, /*isSelected=*/false, /*icon=*/"", /*beforeIndex=*/-1) &&
+           items->add(kDescending, /*isSelected=*/false, /*icon=*/"", /*beforeIndex=*/-1);
 }
 
 /// The line number is the button's caption.
-Ptr<BoolValueCommandInput> addLineNumber(const Ptr<CommandInputs>& inputs, const std::string& r,
+Ptr<BoolValueCommandInput> addLineNumber(const Ptr<CommandInputs>& inputs, const std::string& id,
                                          int tableRow) {
-    Ptr<BoolValueCommandInput> button = inputs->addBoolValueInput(
-        "positionOcc_" + r, decimal(tableRow), /*isCheckBox=*/false, "", /*initialValue=*/false);
+    Ptr<BoolValueCommandInput> button =
+        inputs->addBoolValueInput(id, decimal(tableRow), /*isCheckBox=*/false,
+                                  /*resourceFolder=*/"", /*initialValue=*/false);
     button->isVisible(true);
     return button;
 }
 
-FixedCells makeCells(const Ptr<CommandInputs>& inputs, const BomRow& row, const std::string& r,
-                     int tableRow, const std::string& image) {
-    FixedCells cells;
-    cells.icon = inputs->addImageCommandInput("colapseRow_" + r, "", image);
-    cells.position = addLineNumber(inputs, r, tableRow);
-    cells.graph = addReadOnlyText(inputs, "graphPositionOcc_" + r, "", "");
-    cells.partNumber = inputs->addStringValueInput("partNumberOcc_" + r, "Part Number",
-                                                   row.component->partNumber());
-    cells.structure = addStructureDropDown(inputs, "bomStructure_" + r, row);
+CellRow makeCells(const Ptr<CommandInputs>& inputs, const BomRow& row, const std::string& r,
+                  int tableRow, const std::string& image) {
+    const RowIds& ids = kStructureRows.ids;
+    CellRow cells;
+    cells.push_back(inputs->addImageCommandInput(ids.icon + r, "", image));
+    cells.push_back(addLineNumber(inputs, ids.position + r, tableRow));
+    cells.push_back(addReadOnlyField(inputs, ids.graph + r, /*name=*/"", /*value=*/""));
+    cells.push_back(addPartNumberField(inputs, ids.partNumber + r, row));
+    cells.push_back(addStructureDropDown(inputs, ids.structure + r, row));
     return cells;
 }
 
 }  // namespace
 
 void buildStructureTab(Ptr<CommandInputs> inputs) {
-    const Ptr<TabCommandInput> tab = inputs->addTabCommandInput(kStructureTabId, "Structure", "");
+    const Ptr<TabCommandInput> tab =
+        inputs->addTabCommandInput(kStructureRows.tabId, kStructureRows.caption, "");
     const Ptr<CommandInputs> children = tab ? tab->children() : nullptr;
     if (!children) {
         return;
     }
-    const std::vector<std::string> items = readColumnItems();
-    const std::string ratio = extendColumnRatio("2:3:0:12:8", items.size());
+    const std::vector<Column> columns = readColumns();
     const Ptr<BoolValueCommandInput> exportButton = addExportButton(children);
     if (!exportButton) {
         return;
@@ -78,7 +66,7 @@ void buildStructureTab(Ptr<CommandInputs> inputs) {
     if (!addSortOrder(children)) {
         return;
     }
-    const Ptr<TableCommandInput> table = findOrAddTable(children, items, ratio);
+    const Ptr<TableCommandInput> table = findOrAddTable(children, kStructureRows, columns);
     if (!table) {
         return;
     }
@@ -88,22 +76,21 @@ void buildStructureTab(Ptr<CommandInputs> inputs) {
         return;
     }
     mass->isVisible(false);
-    table->maximumVisibleRows(1000);
+    table->maximumVisibleRows(kMaximumVisibleRows);
 }
 
 void buildStructureTableHeader(const Ptr<TableCommandInput>& table,
-                               const std::vector<std::string>& items) {
-    const Ptr<CommandInputs> inputs = table->commandInputs();
-    addHeader(table, inputs, 0, "colapseRow_0", "");
-    addHeader(table, inputs, 1, "positionOcc_0", "Pos.");
-    addHeader(table, inputs, 2, "graphPositionOcc_0", "");
-    addHeader(table, inputs, 3, "partNumberOcc_0", "Part Number");
-    addHeader(table, inputs, 4, "bomStructure_0", "BOM Structure");
-    addConfiguredHeaders(table, inputs, items);
+                               const std::vector<Column>& columns) {
+    const RowIds& ids = kStructureRows.ids;
+    std::vector<std::string> headerIds;
+    for (const char* prefix : {ids.icon, ids.position, ids.graph, ids.partNumber, ids.structure}) {
+        headerIds.push_back(prefix + std::string("0"));
+    }
+    buildTableHeader(table, headerIds, columns);
 }
 
 void fillStructureRows(const Ptr<TableCommandInput>& table, const std::vector<BomRow>& rows,
-                       const std::vector<std::string>& items) {
+                       const std::vector<Column>& columns) {
     if (!table) {
         return;
     }
@@ -117,21 +104,20 @@ void fillStructureRows(const Ptr<TableCommandInput>& table, const std::vector<Bo
             continue;
         }
         const std::string image = structureImage(row, filter.isUnderDivided());
-        placeFixedCells(table, tableRow, makeCells(inputs, row, decimal(r), tableRow, image));
-        fillConfiguredCells(row, table, tableRow, r, items);
+        placeCells(table, tableRow, makeCells(inputs, row, decimal(r), tableRow, image));
+        fillConfiguredCells(row, table, tableRow, r, columns);
         ++tableRow;
     }
 }
 
 std::string structureImage(const BomRow& row, bool underDivided) {
     if (row.combined) {
-        return row.level > 1 ? "././Resources/BOM/CombineUp.png" : "././Resources/BOM/Combine.png";
+        return row.level > 1 ? kCombineUpImage : kCombineImage;
     }
     if (row.childCount > 0) {
-        return underDivided && row.level > 1 ? "././Resources/BOM/AsmUp.png"
-                                             : "././Resources/BOM/Asm.png";
+        return underDivided && row.level > 1 ? kAssemblyUpImage : kAssemblyImage;
     }
-    return underDivided ? "././Resources/BOM/PartUp.png" : "././Resources/BOM/Part.png";
+    return underDivided ? kPartUpImage : kPartImage;
 }
 
 }  // namespace tarnix

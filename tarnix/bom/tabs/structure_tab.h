@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarnix/bom/model/bom_row.h"
+#include "tarnix/bom/model/columns.h"
 
 #include <Core/CoreAll.h>
 
@@ -14,22 +15,22 @@ namespace tarnix {
 
 /// Adds the tab with an empty table, the choice of the sort order and the field of the total mass.
 ///
-/// Whatever the host refuses ends it at once, with what stands so far. With the tab standing
+/// Whatever the host refuses ends it at once, with what is there so far. Where the tab is there
 /// already the host gives no second one, so a second call has no effect.
 void buildStructureTab(adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 
 /// Fills row 0 with a button for each column. They have ids, unlike those of "Data of Model":
-/// sorting tells the columns apart by them.
+/// sorting distinguishes the columns by them.
 void buildStructureTableHeader(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,
-                               const std::vector<std::string>& items);
+                               const std::vector<Column>& columns);
 
-/// Adds from row 1 on those of `rows`, the rows of a merging walk, that stand in the bill of
+/// Adds from row 1 on those of `rows`, the rows of a merging walk, that belong to the bill of
 /// materials. The ids of cells end in the place of their row in `rows`, counted from 1, so that
 /// they have gaps. A null table takes nothing.
 void fillStructureRows(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,
-                       const std::vector<BomRow>& rows, const std::vector<std::string>& items);
+                       const std::vector<BomRow>& rows, const std::vector<Column>& columns);
 
-/// The image of a row that is shown; `underDivided` tells whether it was handed up.
+/// The image of a row that is shown; `underDivided`: it was handed up.
 std::string structureImage(const BomRow& row, bool underDivided);
 
 }  // namespace tarnix

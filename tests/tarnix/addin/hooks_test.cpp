@@ -1,5 +1,5 @@
 #include "tests/tarnix/addin/addin_ui_fixture.h"
-#include "tests/tarnix/bom/behaviour/own_dialog.h"
+#include "tests/tarnix/bom/behaviour/synthetic_dialog.h"
 
 #include "host/application/application.h"
 #include "host/base/gate.h"
@@ -215,7 +215,7 @@ TEST_F(EndingHook, LetsABomDialogGoThatTheHostAborted) {
 
 TEST_F(EndingHook, TakesTheWholeIdOfACommand) {
     int starts = 0;
-    OwnDialog longer("QM_TX_BOM_export", [&](const auto& /*inputs*/) { ++starts; });
+    SyntheticDialog longer("QM_TX_BOM_export", [&](const auto& /*inputs*/) { ++starts; });
 
     longer.open();
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
 #include "tests/support/comma_locale.h"
 #include "tests/support/files.h"
@@ -21,7 +21,7 @@ constexpr const char* kBoltsAndPlate = R"(
     Bolt
     Plate  number=P-1 measures=10:200)";
 
-class BomExport : public BehaviourTest {};
+class BomExport : public BomDialogTest {};
 
 TEST_F(BomExport, WritesTheStructureTableByteForByte) {
     configure({"QEMA_Quantity;Qty", "QEMA_Mass;Mass"});
@@ -307,7 +307,7 @@ TEST_F(BomExport, WithoutTheMassFieldKeepsTheLinesAndOpensNothing) {
 }
 
 /// A copy of the add-in under another name, in a folder that goes with the test.
-class RenamedExport : public BehaviourTest {
+class RenamedExport : public BomDialogTest {
 protected:
     [[nodiscard]] bool runsAtStart() const override { return false; }
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ using adsk::fusion::Component;
 
 constexpr const char* kGroup = "QEMA_PropertiesAttributesGroup";
 
-class BomWriteBack : public BehaviourTest {
+class BomWriteBack : public BomDialogTest {
 protected:
     /// The attributes of the component at a place at the top, as name=value with spaces between.
     [[nodiscard]] std::string attributes(std::size_t index) const {

@@ -1,4 +1,4 @@
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -26,10 +26,10 @@ private:
     std::string ids_;
 };
 
-class ColumnChoice : public BehaviourTest {
+class ColumnChoice : public BomDialogTest {
 protected:
     void SetUp() override {
-        BehaviourTest::SetUp();
+        BomDialogTest::SetUp();
         open(R"(
             Bolt
             Plate

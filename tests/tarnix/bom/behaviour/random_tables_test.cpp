@@ -2,9 +2,9 @@
 #include "tarnix/bom/behaviour/structure_sort.h"
 
 #include "tests/support/addin_test.h"
-#include "tests/tarnix/bom/behaviour/own_dialog.h"
-#include "tests/tarnix/bom/behaviour/plain_folding.h"
-#include "tests/tarnix/bom/behaviour/plain_sorting.h"
+#include "tests/tarnix/bom/behaviour/reference_folding.h"
+#include "tests/tarnix/bom/behaviour/reference_sorting.h"
+#include "tests/tarnix/bom/behaviour/synthetic_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -64,13 +64,14 @@ protected:
     void show(const std::string& id, std::mt19937& random,
               const std::function<void(std::mt19937&, const Ptr<CommandInputs>&,
                                        const Ptr<TableCommandInput>&)>& fill) {
-        OwnDialog dialog("Own" + std::to_string(shown_++), [&](const Ptr<CommandInputs>& inputs) {
-            std::mt19937 again = random;
-            product = inputs->addTableCommandInput(id, "", kColumns, "");
-            fill(random, inputs, product);
-            plain = inputs->addTableCommandInput(id, "", kColumns, "");
-            fill(again, inputs, plain);
-        });
+        SyntheticDialog dialog("Own" + std::to_string(shown_++),
+                               [&](const Ptr<CommandInputs>& inputs) {
+                                   std::mt19937 again = random;
+                                   product = inputs->addTableCommandInput(id, "", kColumns, "");
+                                   fill(random, inputs, product);
+                                   plain = inputs->addTableCommandInput(id, "", kColumns, "");
+                                   fill(again, inputs, plain);
+                               });
         dialog.open();
     }
 
@@ -129,7 +130,7 @@ TEST_F(RandomTables, FoldLikeThePlainOnes) {
         const std::string before = describe(product);
 
         tarnix::collapseRows(product, row, showChildren);
-        plain::collapseRows(plain, row, showChildren);
+        reference::collapseRows(plain, row, showChildren);
 
         ASSERT_EQ(describe(product), describe(plain))
             << "table " << i << ", row " << row << (showChildren ? " shown" : " hidden") << " in\n"
@@ -196,8 +197,9 @@ TEST_F(RandomTables, SortLikeThePlainOnes) {
         const std::string raisedByProduct = raisedBy([&] {
             tarnix::sortStructureTable(product, product->getInputAtPosition(0, column), order);
         });
-        const std::string raisedByPlain = raisedBy(
-            [&] { plain::sortStructureTable(plain, plain->getInputAtPosition(0, column), order); });
+        const std::string raisedByPlain = raisedBy([&] {
+            reference::sortStructureTable(plain, plain->getInputAtPosition(0, column), order);
+        });
 
         ASSERT_EQ(raisedByProduct, raisedByPlain) << before;
         ASSERT_EQ(describe(product), describe(plain))

@@ -65,7 +65,7 @@ TEST_F(RandomWriteBack, OfTheModelTableLeavesWhatThePlainOneLeaves) {
         unfold(/*atMost=*/100);
         edit();
 
-        expectWrittenLikeThePlain(plain::Tab::Model, kColumns);
+        expectWrittenLikeTheReference(reference::Tab::Model, kColumns);
         expectKeptInItsFile();
     }
 }
@@ -77,7 +77,7 @@ TEST_F(RandomWriteBack, OfTheStructureTableLeavesWhatThePlainOneLeaves) {
         showStructure();
         edit();
 
-        expectWrittenLikeThePlain(plain::Tab::Structure, kColumns);
+        expectWrittenLikeTheReference(reference::Tab::Structure, kColumns);
         expectKeptInItsFile();
     }
 }

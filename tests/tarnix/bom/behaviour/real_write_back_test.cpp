@@ -100,18 +100,18 @@ protected:
     }
 };
 
-TEST_P(RealWriteBack, OfBothTablesInTurnIsLikeThePlainOneAndKept) {
+TEST_P(RealWriteBack, OfBothTablesInTurnIsLikeTheReferenceAndKept) {
     showModel();
     unfold(/*atMost=*/8);
     edit();
     chooseTwo("Buy", "Reference");
-    expectWrittenLikeThePlain(plain::Tab::Model, kColumns);
+    expectWrittenLikeTheReference(reference::Tab::Model, kColumns);
     expectLastRowWritten();
 
     showStructure();
     edit();
     chooseTwo("Reference", "AsPart");
-    expectWrittenLikeThePlain(plain::Tab::Structure, kColumns);
+    expectWrittenLikeTheReference(reference::Tab::Structure, kColumns);
 
     expectKeptInItsFile();
 }

@@ -1,9 +1,9 @@
 #include "tarnix/bom/behaviour/row_numbering.h"
 
-#include "tarnix/bom/behaviour/table_rows.h"
+#include "tarnix/bom/behaviour/open_dialog.h"
 
 #include "tests/support/addin_test.h"
-#include "tests/tarnix/bom/behaviour/own_dialog.h"
+#include "tests/tarnix/bom/behaviour/synthetic_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -25,8 +25,8 @@ class Renumbering : public AddinTest {
 protected:
     /// Makes a table with a header and a row for each position.
     void show(const std::vector<std::string>& positions) {
-        dialog_ =
-            std::make_unique<OwnDialog>("OwnPositions", [&](const Ptr<CommandInputs>& inputs) {
+        dialog_ = std::make_unique<SyntheticDialog>(
+            "OwnPositions", [&](const Ptr<CommandInputs>& inputs) {
                 rows_ = inputs->addTableCommandInput("own", "", 2, "1:1");
                 addRow(inputs, "Pos.");
                 for (const std::string& position : positions) {
@@ -68,7 +68,7 @@ protected:
         return lines;
     }
 
-    std::unique_ptr<OwnDialog> dialog_;
+    std::unique_ptr<SyntheticDialog> dialog_;
     Ptr<TableCommandInput> rows_;
 };
 

@@ -1,4 +1,4 @@
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
 #include "host/session/user_actions.h"
 
@@ -47,10 +47,10 @@ constexpr int kBox = 23;
 constexpr int kLid = 24;
 constexpr int kLast = 25;
 
-class RowCollapse : public BehaviourTest {
+class RowCollapse : public BomDialogTest {
 protected:
     void SetUp() override {
-        BehaviourTest::SetUp();
+        BomDialogTest::SetUp();
         open(kFrames);
         showModel();
     }

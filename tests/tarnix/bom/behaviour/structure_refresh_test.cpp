@@ -1,4 +1,4 @@
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ constexpr const char* kThreeParts = R"(
     Plate  number=P-1 measures=10:200
     Rod  number=R-1 measures=10:300)";
 
-class StructureRefresh : public BehaviourTest {};
+class StructureRefresh : public BomDialogTest {};
 
 TEST_F(StructureRefresh, FillsTheTableAndSumsTheMassWhenTheTabIsFirstShown) {
     open(kThreeParts);

@@ -1,6 +1,6 @@
 #include "tarnix/bom/behaviour/structure_sort.h"
 
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
 #include "host/session/user_actions.h"
 
@@ -9,7 +9,7 @@
 namespace test_support {
 namespace {
 
-class StructureSort : public BehaviourTest {
+class StructureSort : public BomDialogTest {
 protected:
     void sortBy(const std::string& headerId, const std::string& order) {
         session->choose("QEMA_droDown_AscDesc", order);

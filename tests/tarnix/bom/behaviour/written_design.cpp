@@ -98,15 +98,15 @@ std::string WrittenDesign::accept() {
     return thrown.empty() ? "" : "thrown: " + thrown.front().text;
 }
 
-void WrittenDesign::expectWrittenLikeThePlain(plain::Tab tab, int configuredColumns) {
-    const plain::Table table = plain::capture(shownTableInput());
+void WrittenDesign::expectWrittenLikeTheReference(reference::Tab tab, int configuredColumns) {
+    const reference::Table table = reference::capture(shownTableInput());
     const host::DesignData before = session->design();
     const std::string raisedByProduct = accept();
     const std::string product = describe(session->design());
 
     session->openDesign(before);
     const std::string raisedByPlain =
-        raisedBy([&] { plain::writeBack(root(), table, tab, configuredColumns); });
+        raisedBy([&] { reference::writeBack(root(), table, tab, configuredColumns); });
 
     EXPECT_EQ(product, describe(session->design()));
     EXPECT_EQ(raisedByProduct, raisedByPlain);

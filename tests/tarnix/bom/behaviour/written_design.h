@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tests/tarnix/bom/behaviour/behaviour_test.h"
-#include "tests/tarnix/bom/behaviour/plain_write_back.h"
+#include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
+#include "tests/tarnix/bom/behaviour/reference_write_back.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@
 namespace test_support {
 
 /// What the write-back of the open dialog makes of the design, against what the plain one makes.
-class WrittenDesign : public BehaviourTest {
+class WrittenDesign : public BomDialogTest {
 protected:
     /// Everything of a design but its bodies: components with their texts, attributes, materials
     /// and sketches, and where and how they are used.
@@ -24,7 +24,7 @@ protected:
     /// Accepts the dialog with `tab` shown, has the plain write-back do its work on an equal
     /// design, and expects the two to be equal, what they threw included. The dialog is closed
     /// then, and the plainly written design is open.
-    void expectWrittenLikeThePlain(plain::Tab tab, int configuredColumns);
+    void expectWrittenLikeTheReference(reference::Tab tab, int configuredColumns);
 
     /// Saves the open design, opens the file, and expects nothing to be lost on the way.
     void expectKeptInItsFile();

@@ -81,7 +81,7 @@ TEST(Walk, AppendsToTheRowsOfTheModelAndReturnsThemAll) {
     EXPECT_EQ(model.rows.size(), 2U);
 }
 
-TEST(Walk, GivesEveryOccurrenceARowOfItsOwn) {
+TEST(Walk, ReturnsARowForEveryOccurrence) {
     const OpenDesign design(R"(
         Bolt  number=P description=long
         Screw  number=P description=short)");
