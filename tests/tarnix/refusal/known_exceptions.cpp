@@ -28,3 +28,10 @@ void expectOnlyKnownThrown(const host::Session& session) {
             << thrown.type << " (" << thrown.text << ") in " << thrown.event;
     }
 }
+
+void expectOnlyPlainThrown(const host::Session& session) {
+    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
+        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " in " << thrown.event;
+        EXPECT_EQ(thrown.text, "");
+    }
+}

@@ -1,221 +1,32 @@
-// Every host call of the add-in's main flows, refused once each: whatever the host fails to do at a
-// single place, the add-in neither crashes nor loses memory, throws nothing but what it is known to
-// throw, leaves its settings whole, and goes out of the host when it is stopped.
-
-#include "tests/support/refusal.h"
-#include "tests/support/addin_test.h"
-#include "tests/support/files.h"
-#include "tests/support/settings.h"
-#include "tests/tarnix/refusal/known_exceptions.h"
-#include "tests/tarnix/refusal/traces.h"
+#include "tests/tarnix/refusal/refused_flow.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
-#include <vector>
 
+namespace refusal {
 namespace {
 
-using host::Session;
-using test_support::RefusalSweep;
-using test_support::refuseEachCall;
-using Texts = std::vector<std::string>;
+class RefusedHostCalls : public testing::TestWithParam<RefusedFlow> {};
 
-/// An assembly whose parts are handed up, one that is not, equal parts and differing ones: each
-/// branch of the walks and of the tables.
-constexpr const char* kDesign =
-    "Frame  attribute=QEMA_PropertiesAttributesGroup/Divided/1\n"
-    "  Leg  box=1x2x3 description=\"A leg\"\n"
-    "  Foot  number=Leg box=1x1x1 description=Another\n"
-    "Drive\n"
-    "  Bolt  box=1x1x1\n"
-    "Bolt\n";
+TEST_P(RefusedHostCalls, BreakNothing) {
+    const RefusedFlow& flow = GetParam();
 
-const Texts kColumns = {"QEMA_Quantity;Qty", "QEMA_Mass;Mass", "QEMA_Length;Length",
-                        "QEMA_Physical Material;Material", "QEMA_Colour;Colour"};
-
-/// What stays behind after `stop`, whatever happens: nothing ever destroys that command.
-constexpr const char* kToldTrace = "definition QEMA_OpenLocalCmd_QAT";
-
-void expectSettingsWhole(const Session& session) {
-    EXPECT_EQ(test_support::readFile(session.addin().folder / "Tarnix_configuration.xml"),
-              test_support::settingsDocument(kColumns));
+    EXPECT_GE(test_support::refuseEachCall(flow.sweep()), flow.leastCalls);
 }
 
-/// What there is in the host beyond what is told.
-Texts traces() {
-    Texts found = tracesOfAddin();
-    std::erase(found, kToldTrace);
-    return found;
-}
+std::string nameOf(const testing::TestParamInfo<RefusedFlow>& flow) { return flow.param.name; }
 
-/// Settings that nobody made yet are the default ones, or still none.
-void checkFirstUse(Session& session, const std::string& call) {
-    expectOnlyKnownThrown(session);
-    const auto file = session.addin().folder / "Tarnix_configuration.xml";
-    const std::string settings = test_support::readFile(file);
-    EXPECT_TRUE(settings.empty() ||
-                settings.find(test_support::kDefaultSettings) != std::string::npos)
-        << settings << " after " << call;
-}
+using testing::ValuesIn;
 
-void checkFlow(Session& session, const std::string& /*call*/) {
-    expectOnlyKnownThrown(session);
-    expectSettingsWhole(session);
-    if (session.dialogOpen()) {
-        session.cancel();
-    }
-    session.stop();
-    EXPECT_EQ(traces(), Texts());
-}
-
-void checkRun(Session& session, const std::string& call) {
-    expectOnlyKnownThrown(session);
-    expectSettingsWhole(session);
-    session.stop();
-    // A panel is called after its workspace. One that was made while the workspace told no id is
-    // one that nobody looks for.
-    const Texts left = call == "Workspace::id" ? Texts{"panel QM_HD_panel"} : Texts();
-    EXPECT_EQ(traces(), left);
-}
-
-/// What stands in the host with both palettes open: seven commands, the helpdesk's eight, two
-/// panels in each of two workspaces, and the palettes.
-constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + 2;
-
-/// The most that `stop` leaves in the host when one of its calls is refused: what that call itself
-/// would have removed, or led to. Without the host's list of palettes it returns false and has done
-/// nothing.
-std::size_t keptBy(const std::string& call) {
-    static const std::map<std::string, std::size_t> kKept = {
-        {"UserInterface::palettes", kEverything},
-        {"Palettes::itemById", 1},
-        {"Palette::deleteMe", 1},
-        {"UserInterface::allToolbarPanels", 2},  // the panels of one kind
-        {"UserInterface::workspaces", 2},
-        {"Workspaces::count", 2},
-        {"Workspaces::item", 1},  // the panel of one workspace
-        {"Workspace::id", 1},
-        {"ToolbarPanelList::itemById", 1},
-        {"ToolbarPanel::deleteMe", 1},
-        {"CommandDefinition::deleteMe", 1}};
-    const auto kept = kKept.find(call);
-    return kept == kKept.end() ? 0 : kept->second;
-}
-
-void checkStop(Session& session, const std::string& call) {
-    expectOnlyKnownThrown(session);
-    expectSettingsWhole(session);
-    EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
-    // Whatever kept the first one from its work: the next one does it. A command's own definition
-    // goes with its object, which asks for it only once.
-    session.stop();
-    const std::size_t left = traces().size();
-    EXPECT_LE(left, call == "CommandDefinition::deleteMe" ? 1U : 0U)
-        << testing::PrintToString(traces());
-}
-
-/// With the control that it looks for at its end, one `stop` is all: the next has lost the host.
-void checkOnlyStop(Session& session, const std::string& call) {
-    expectOnlyKnownThrown(session);
-    expectSettingsWhole(session);
-    EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
-}
-
-void load(Session& session) {
-    test_support::writeFile(session.addin().folder / "Tarnix_configuration.xml",
-                            test_support::settingsDocument(kColumns));
-    session.openOutline(kDesign);
-}
-
-void start(Session& session) {
-    load(session);
-    ASSERT_TRUE(session.run());
-}
-
-void openBom(Session& session) {
-    start(session);
-    session.press("QM_TX_BOM");
-}
-
-void showStructure(Session& session) {
-    openBom(session);
-    session.activateTab(test_support::kStructureTab);
-    ASSERT_TRUE(session.uncaughtExceptions().empty());
-}
+INSTANTIATE_TEST_SUITE_P(Addin, RefusedHostCalls, ValuesIn(addinFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(BomColumns, RefusedHostCalls, ValuesIn(columnFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(BomRows, RefusedHostCalls, ValuesIn(rowFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(BomWriteBack, RefusedHostCalls, ValuesIn(writeFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Properties, RefusedHostCalls, ValuesIn(propertiesFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Configuration, RefusedHostCalls, ValuesIn(configurationFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Commands, RefusedHostCalls, ValuesIn(commandFlows()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Helpdesk, RefusedHostCalls, ValuesIn(helpdeskFlows()), nameOf);
 
 }  // namespace
-
-TEST(RefusedHostCalls, InRun) {
-    const std::uint64_t calls =
-        refuseEachCall({load, [](Session& session) { session.run(); }, checkRun});
-
-    EXPECT_GT(calls, 100U);
-}
-
-TEST(RefusedHostCalls, WhileTheBomOpens) {
-    const std::uint64_t calls =
-        refuseEachCall({start, [](Session& session) { session.press("QM_TX_BOM"); }, checkFlow});
-
-    EXPECT_GT(calls, 300U);
-}
-
-TEST(RefusedHostCalls, WhileTheBomMakesTheSettings) {
-    const auto startAgain = [](Session& session) {
-        session.openOutline(kDesign);
-        ASSERT_TRUE(session.run());
-    };
-
-    const std::uint64_t calls = refuseEachCall(
-        {startAgain, [](Session& session) { session.press("QM_TX_BOM"); }, checkFirstUse});
-
-    EXPECT_GT(calls, 200U);
-}
-
-TEST(RefusedHostCalls, AtTheFirstChangeToStructure) {
-    const std::uint64_t calls = refuseEachCall(
-        {openBom, [](Session& session) { session.activateTab(test_support::kStructureTab); },
-         checkFlow});
-
-    EXPECT_GT(calls, 300U);
-}
-
-TEST(RefusedHostCalls, AtTheChangeBackToTheModel) {
-    const std::uint64_t calls = refuseEachCall(
-        {showStructure, [](Session& session) { session.activateTab(test_support::kModelTab); },
-         checkFlow});
-
-    EXPECT_GT(calls, 50U);
-}
-
-TEST(RefusedHostCalls, InTheExport) {
-    const std::uint64_t calls = refuseEachCall(
-        {showStructure, [](Session& session) { session.click(test_support::kExportButton); },
-         checkFlow});
-
-    EXPECT_GT(calls, 100U);
-}
-
-TEST(RefusedHostCalls, InStop) {
-    const std::uint64_t calls =
-        refuseEachCall({start, [](Session& session) { session.stop(); }, checkStop});
-
-    EXPECT_GT(calls, 50U);
-}
-
-TEST(RefusedHostCalls, InStopWithOpenPalettes) {
-    RefusalSweep sweep;
-    sweep.options.host.repeatControl = true;
-    sweep.options.system.windows = {{{"Autodesk Fusion 360", {0, 0, 1280, 800}}}};
-    sweep.prepare = [](Session& session) {
-        start(session);
-        session.press("QM_TX_onLineLibrary");
-        session.press("QM_TX_unitsConversion");
-        ASSERT_EQ(traces().size(), kEverything);
-    };
-    sweep.flow = [](Session& session) { session.stop(); };
-    sweep.check = checkOnlyStop;
-
-    EXPECT_GT(refuseEachCall(sweep), 60U);
-}
+}  // namespace refusal

@@ -1,8 +1,6 @@
-// Every host call of the small commands, refused once each: the add-in neither crashes nor loses
-// memory, throws nothing but the plain exception of a null handle, and every wait comes to an end.
-
 #include "tests/support/addin_test.h"
-#include "tests/support/refusal.h"
+#include "tests/tarnix/refusal/known_exceptions.h"
+#include "tests/tarnix/refusal/refused_flow.h"
 
 #include "host/base/clock.h"
 #include "host/base/utf8_path.h"
@@ -18,20 +16,18 @@
 #include <string>
 #include <vector>
 
+namespace refusal {
 namespace {
 
 using host::Session;
-using test_support::refuseEachCall;
+using test_support::RefusalSweep;
 
 constexpr const char* kDesign =
     "Housing  at=1,2,3\n"
     "Shaft  at=4,5,6\n";
 
-void expectPlainExceptionsAlone(Session& session, const std::string& call) {
-    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
-        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " after " << call;
-        EXPECT_EQ(thrown.text, "") << "after " << call;
-    }
+void checkFlow(Session& session, const std::string& /*call*/) {
+    expectOnlyPlainThrown(session);
     if (session.dialogOpen()) {
         session.cancel();
     }
@@ -83,7 +79,7 @@ void openPalette(Session& session) {
     session.press("QM_TX_unitsConversion");
 }
 
-/// As far as the dialog lets a person go: some of it may be missing.
+/// As far as the dialog lets the user go: some of it may be missing.
 void moveToOrigin(Session& session) {
     session.press("QM_TX_moveComponentToOrigin");
     if (!session.dialogOpen()) return;
@@ -95,51 +91,41 @@ void moveToOrigin(Session& session) {
     session.ok();
 }
 
-TEST(RefusedHostCallsOfCommands, InMoveToOrigin) {
-    const std::uint64_t calls = refuseEachCall({start, moveToOrigin, expectPlainExceptionsAlone});
-
-    EXPECT_GT(calls, 25U);
+/// Presses the command's button.
+template <const char* kCommand>
+void press(Session& session) {
+    session.press(kCommand);
 }
 
-TEST(RefusedHostCallsOfCommands, InProjectedEntities) {
-    const std::uint64_t calls = refuseEachCall(
-        {startSketch,
-         [](Session& session) { session.press("QM_TX_projectedEntitiesAsConstruction"); },
-         expectPlainExceptionsAlone});
+constexpr char kProjectedEntities[] = "QM_TX_projectedEntitiesAsConstruction";
+constexpr char kOnLineModels[] = "QM_TX_onLineLibrary";
+constexpr char kUnitsConversion[] = "QM_TX_unitsConversion";
+constexpr char kOpenLocalFile[] = "QEMA_OpenLocalCmd_QAT";
 
-    EXPECT_GT(calls, 15U);
-}
-
-TEST(RefusedHostCallsOfCommands, InOnLineModels) {
-    const std::uint64_t calls =
-        refuseEachCall({start, [](Session& session) { session.press("QM_TX_onLineLibrary"); },
-                        expectPlainExceptionsAlone});
-
-    EXPECT_GT(calls, 15U);
-}
-
-TEST(RefusedHostCallsOfCommands, InTheFirstUnitsConversion) {
-    const std::uint64_t calls = refuseEachCall(
-        {startAtScreen, [](Session& session) { session.press("QM_TX_unitsConversion"); },
-         expectPlainExceptionsAlone});
-
-    EXPECT_GT(calls, 15U);
-}
-
-TEST(RefusedHostCallsOfCommands, InTheSecondUnitsConversion) {
-    const std::uint64_t calls = refuseEachCall(
-        {openPalette, [](Session& session) { session.press("QM_TX_unitsConversion"); },
-         expectPlainExceptionsAlone});
-
-    EXPECT_GT(calls, 15U);
-}
-
-TEST(RefusedHostCallsOfCommands, InOpenLocalFile) {
-    const std::uint64_t calls = refuseEachCall(
-        {startWithFiles, [](Session& session) { session.press("QEMA_OpenLocalCmd_QAT"); },
-         expectPlainExceptionsAlone});
-
-    EXPECT_GT(calls, 60U);
+/// The sweep of a flow, begun where `prepare` leaves the session.
+template <void (*prepare)(Session&), void (*flow)(Session&)>
+RefusalSweep sweepOf() {
+    return {prepare, flow, checkFlow};
 }
 
 }  // namespace
+
+RefusedFlows commandFlows() {
+    return {
+        {.name = "InMoveToOrigin", .sweep = sweepOf<start, moveToOrigin>, .leastCalls = 26},
+        {.name = "InProjectedEntities",
+         .sweep = sweepOf<startSketch, press<kProjectedEntities>>,
+         .leastCalls = 16},
+        {.name = "InOnLineModels", .sweep = sweepOf<start, press<kOnLineModels>>, .leastCalls = 16},
+        {.name = "InTheFirstUnitsConversion",
+         .sweep = sweepOf<startAtScreen, press<kUnitsConversion>>,
+         .leastCalls = 16},
+        {.name = "InTheSecondUnitsConversion",
+         .sweep = sweepOf<openPalette, press<kUnitsConversion>>,
+         .leastCalls = 16},
+        {.name = "InOpenLocalFile",
+         .sweep = sweepOf<startWithFiles, press<kOpenLocalFile>>,
+         .leastCalls = 61}};
+}
+
+}  // namespace refusal

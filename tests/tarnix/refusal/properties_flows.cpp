@@ -1,9 +1,7 @@
-// Every host call of the dialog's flows, refused once each: the add-in neither crashes nor loses
-// memory, throws nothing but the plain exception of a null handle, and leaves its settings whole.
-
 #include "tests/support/files.h"
-#include "tests/support/refusal.h"
 #include "tests/tarnix/properties/properties_fixture.h"
+#include "tests/tarnix/refusal/known_exceptions.h"
+#include "tests/tarnix/refusal/refused_flow.h"
 
 #include "host/session/user_actions.h"
 
@@ -13,11 +11,19 @@
 #include <cstdint>
 #include <string>
 
-namespace tarnix {
+namespace refusal {
 namespace {
 
 using host::Session;
-using test_support::refuseEachCall;
+using tarnix::category;
+using tarnix::kAddRow;
+using tarnix::kDeleteRow;
+using tarnix::kSave;
+using tarnix::kSettingsTab;
+using tarnix::kStructure;
+using tarnix::kTable;
+using tarnix::settingsWith;
+using test_support::RefusalSweep;
 
 const std::vector<std::string> kOffered = {"QEMA_Colour;Colour", "QEMA_Size;Size"};
 
@@ -39,15 +45,8 @@ std::string rootWith(const std::vector<std::string>& properties) {
                            document.rfind('>') + 1 - document.find("<configuration"));
 }
 
-void expectPlainExceptionsAlone(const Session& session) {
-    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
-        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " in " << thrown.event;
-        EXPECT_EQ(thrown.text, "");
-    }
-}
-
 void checkFlow(Session& session, const std::string& /*call*/) {
-    expectPlainExceptionsAlone(session);
+    expectOnlyPlainThrown(session);
     EXPECT_EQ(rootOf(session), rootWith(kOffered));
     if (session.dialogOpen()) {
         session.cancel();
@@ -55,8 +54,8 @@ void checkFlow(Session& session, const std::string& /*call*/) {
     session.stop();
 }
 
-/// After a saved list: as it was where something was thrown, else what the rows told. A table that
-/// could not be reached has none, a row that could not be read no name.
+/// After a saved list: as it was where something was thrown, else what the rows hold. A table that
+/// could not be reached has no rows, a row that could not be read no name.
 void checkSaved(Session& session, const std::string& call) {
     const std::string root = rootOf(session);
     if (!session.uncaughtExceptions().empty()) {
@@ -70,7 +69,7 @@ void checkSaved(Session& session, const std::string& call) {
             "</configuration>"};
         EXPECT_NE(std::find(whole.begin(), whole.end(), root), whole.end()) << call << ": " << root;
     }
-    expectPlainExceptionsAlone(session);
+    expectOnlyPlainThrown(session);
 }
 
 void storeSettings(const Session& session) {
@@ -116,87 +115,77 @@ void addNamedRow(Session& session) {
     host::typeText(session.table(kTable)->getInputAtPosition(2, 0), "New");
 }
 
-TEST(RefusedHostCalls, WhileTheDialogOpens) {
-    const std::uint64_t calls = refuseEachCall(
-        {load, [](Session& session) { session.press("QEMA_EditPropertiesCmd"); }, checkFlow});
-
-    EXPECT_GT(calls, 60U);
+RefusalSweep opening() {
+    return {load, [](Session& session) { session.press("QEMA_EditPropertiesCmd"); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InPickingAComponentOfAnotherDocument) {
-    const std::uint64_t calls =
-        refuseEachCall({openDialog, [](Session& session) { session.pick("Motor:1"); }, checkFlow});
-
-    EXPECT_GT(calls, 100U);
+RefusalSweep pickOfAnotherDocument() {
+    return {openDialog, [](Session& session) { session.pick("Motor:1"); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InClearingThePick) {
-    const std::uint64_t calls =
-        refuseEachCall({openAndPick, [](Session& session) { session.pick("Bolt:1"); }, checkFlow});
-
-    EXPECT_GT(calls, 40U);
+RefusalSweep clearingOfThePick() {
+    return {openAndPick, [](Session& session) { session.pick("Bolt:1"); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InPressingAStructureButton) {
-    const std::uint64_t calls = refuseEachCall(
-        {openAndPick, [](Session& session) { session.choose(kStructure, "Produce"); }, checkFlow});
-
-    EXPECT_GT(calls, 20U);
+RefusalSweep structureButton() {
+    return {openAndPick, [](Session& session) { session.choose(kStructure, "Produce"); },
+            checkFlow};
 }
 
-TEST(RefusedHostCalls, InAddingARow) {
-    const std::uint64_t calls =
-        refuseEachCall({showList, [](Session& session) { session.click(kAddRow); }, checkFlow});
-
-    EXPECT_GT(calls, 8U);
+RefusalSweep addedRow() {
+    return {showList, [](Session& session) { session.click(kAddRow); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InDeletingARow) {
-    const std::uint64_t calls =
-        refuseEachCall({[](Session& session) {
-                            showList(session);
-                            session.selectRow(kTable, 0);
-                        },
-                        [](Session& session) { session.click(kDeleteRow); }, checkFlow});
-
-    EXPECT_GT(calls, 6U);
+RefusalSweep deletedRow() {
+    return {[](Session& session) {
+                showList(session);
+                session.selectRow(kTable, 0);
+            },
+            [](Session& session) { session.click(kDeleteRow); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InDeletingARowWithNoneSelected) {
-    const std::uint64_t calls =
-        refuseEachCall({showList, [](Session& session) { session.click(kDeleteRow); }, checkFlow});
-
-    EXPECT_GT(calls, 6U);
+RefusalSweep deletedRowWithoutSelection() {
+    return {showList, [](Session& session) { session.click(kDeleteRow); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InTypingAName) {
-    const std::uint64_t calls =
-        refuseEachCall({showList,
-                        [](Session& session) {
-                            host::typeText(session.table(kTable)->getInputAtPosition(0, 0), "a.");
-                        },
-                        checkFlow});
-
-    EXPECT_GT(calls, 12U);
+RefusalSweep typedName() {
+    return {showList,
+            [](Session& session) {
+                host::typeText(session.table(kTable)->getInputAtPosition(0, 0), "a.");
+            },
+            checkFlow};
 }
 
-TEST(RefusedHostCalls, InSavingTheList) {
-    const std::uint64_t calls = refuseEachCall({addNamedRow,
-                                                [](Session& session) {
-                                                    storeSettings(session);
-                                                    session.click(kSave);
-                                                },
-                                                checkSaved});
-
-    EXPECT_GT(calls, 10U);
+RefusalSweep savedList() {
+    return {addNamedRow,
+            [](Session& session) {
+                storeSettings(session);
+                session.click(kSave);
+            },
+            checkSaved};
 }
 
-TEST(RefusedHostCalls, InOk) {
-    const std::uint64_t calls =
-        refuseEachCall({openAndPick, [](Session& session) { session.ok(); }, checkFlow});
-
-    EXPECT_GT(calls, 60U);
+RefusalSweep acceptance() {
+    return {openAndPick, [](Session& session) { session.ok(); }, checkFlow};
 }
 
 }  // namespace
-}  // namespace tarnix
+
+RefusedFlows propertiesFlows() {
+    return {{.name = "WhileTheDialogOpens", .sweep = opening, .leastCalls = 61},
+            {.name = "InPickingAComponentOfAnotherDocument",
+             .sweep = pickOfAnotherDocument,
+             .leastCalls = 101},
+            {.name = "InClearingThePick", .sweep = clearingOfThePick, .leastCalls = 41},
+            {.name = "InPressingAStructureButton", .sweep = structureButton, .leastCalls = 21},
+            {.name = "InAddingARow", .sweep = addedRow, .leastCalls = 9},
+            {.name = "InDeletingARow", .sweep = deletedRow, .leastCalls = 7},
+            {.name = "InDeletingARowWithoutSelection",
+             .sweep = deletedRowWithoutSelection,
+             .leastCalls = 7},
+            {.name = "InTypingAName", .sweep = typedName, .leastCalls = 13},
+            {.name = "InSavingTheList", .sweep = savedList, .leastCalls = 11},
+            {.name = "InOk", .sweep = acceptance, .leastCalls = 61}};
+}
+
+}  // namespace refusal

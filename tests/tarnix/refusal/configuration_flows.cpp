@@ -1,20 +1,18 @@
-// Every host call of the dialog's flows, refused once each: the add-in neither crashes nor loses
-// memory, throws nothing but the plain exception of a null handle, and leaves its settings whole.
-
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
-#include "tests/support/refusal.h"
+#include "tests/tarnix/refusal/known_exceptions.h"
+#include "tests/tarnix/refusal/refused_flow.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <string>
 
-namespace tarnix {
+namespace refusal {
 namespace {
 
 using host::Session;
-using test_support::refuseEachCall;
+using test_support::RefusalSweep;
 
 constexpr const char* kStored = "<www>http://old.example/</www>";
 
@@ -22,15 +20,15 @@ std::filesystem::path settingsOf(const Session& session) {
     return session.addin().folder / "Tarnix_configuration.xml";
 }
 
-/// What stands in the category of the provider, an empty element in its short form; the whole file
-/// where there is none.
+/// What the category of the provider holds, an empty element in its short form; the whole file
+/// where there is no such category.
 std::string stored(const Session& session) {
     const std::string bytes = test_support::readFile(settingsOf(session));
     const std::string before =
         "<configuration nameOfApplication=\"Tarnix\"><category name=\"httpHelpdesk\">";
-    const std::string behind = "</category></configuration>";
+    const std::string after = "</category></configuration>";
     const std::size_t from = bytes.find(before);
-    const std::size_t to = bytes.find(behind);
+    const std::size_t to = bytes.find(after);
     const bool isWhole = from != std::string::npos && to != std::string::npos;
     if (!isWhole) {
         return bytes;
@@ -39,15 +37,8 @@ std::string stored(const Session& session) {
     return found == "<www></www>" ? "<www/>" : found;
 }
 
-void expectPlainExceptionsAlone(const Session& session) {
-    for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {
-        EXPECT_EQ(thrown.type, "std::exception") << thrown.text << " in " << thrown.event;
-        EXPECT_EQ(thrown.text, "");
-    }
-}
-
 void checkFlow(Session& session, const std::string& /*call*/) {
-    expectPlainExceptionsAlone(session);
+    expectOnlyPlainThrown(session);
     EXPECT_EQ(stored(session), kStored);
     if (session.dialogOpen()) {
         session.cancel();
@@ -55,8 +46,8 @@ void checkFlow(Session& session, const std::string& /*call*/) {
     session.stop();
 }
 
-/// The address as it was where something was thrown, else the new one, or what a box that tells
-/// nothing stands for: its text is empty, or it is not visible.
+/// The address as it was where something was thrown, else the new one, or what a box that returns
+/// nothing leads to: its text is empty, or it is not visible.
 void checkAccepted(Session& session, const std::string& call) {
     const std::string now = stored(session);
     if (!session.uncaughtExceptions().empty()) {
@@ -68,7 +59,7 @@ void checkAccepted(Session& session, const std::string& call) {
     } else {
         EXPECT_EQ(now, "<www>http://new.example/</www>") << call;
     }
-    expectPlainExceptionsAlone(session);
+    expectOnlyPlainThrown(session);
 }
 
 void storeSettings(const Session& session) {
@@ -91,39 +82,37 @@ void openDialog(Session& session) {
     ASSERT_TRUE(session.uncaughtExceptions().empty());
 }
 
-TEST(RefusedHostCalls, WhileTheConfigurationOpens) {
-    const std::uint64_t calls = refuseEachCall(
-        {load, [](Session& session) { session.press("QM_TX_configuration"); }, checkFlow});
-
-    EXPECT_GT(calls, 12U);
+RefusalSweep opening() {
+    return {load, [](Session& session) { session.press("QM_TX_configuration"); }, checkFlow};
 }
 
-TEST(RefusedHostCalls, InSwitchingTheProvider) {
-    const std::uint64_t calls = refuseEachCall(
-        {openDialog,
-         [](Session& session) {
-             session.choose("choiceProvider", "Set Ostrel Works as your support provider");
-             session.choose("choiceProvider", "Set other support provider");
-         },
-         checkFlow});
-
-    EXPECT_GT(calls, 12U);
+RefusalSweep switchedProvider() {
+    return {openDialog,
+            [](Session& session) {
+                session.choose("choiceProvider", "Set Ostrel Works as your support provider");
+                session.choose("choiceProvider", "Set other support provider");
+            },
+            checkFlow};
 }
 
-TEST(RefusedHostCalls, InAcceptingTheConfiguration) {
-    const std::uint64_t calls =
-        refuseEachCall({[](Session& session) {
-                            openDialog(session);
-                            session.paste("helpdeskOther", "http://new.example/");
-                        },
-                        [](Session& session) {
-                            storeSettings(session);
-                            session.ok();
-                        },
-                        checkAccepted});
-
-    EXPECT_GT(calls, 4U);
+RefusalSweep acceptance() {
+    return {[](Session& session) {
+                openDialog(session);
+                session.paste("helpdeskOther", "http://new.example/");
+            },
+            [](Session& session) {
+                storeSettings(session);
+                session.ok();
+            },
+            checkAccepted};
 }
 
 }  // namespace
-}  // namespace tarnix
+
+RefusedFlows configurationFlows() {
+    return {{.name = "WhileTheConfigurationOpens", .sweep = opening, .leastCalls = 13},
+            {.name = "InSwitchingTheProvider", .sweep = switchedProvider, .leastCalls = 13},
+            {.name = "InAcceptingTheConfiguration", .sweep = acceptance, .leastCalls = 5}};
+}
+
+}  // namespace refusal
