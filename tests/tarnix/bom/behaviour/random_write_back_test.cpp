@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// The write-back of edited tables against a plain one, on designs whose items are hard to tell
+/// The write-back of edited tables against the reference, on designs whose items are hard to tell
 /// apart.
 namespace test_support {
 namespace {
@@ -57,7 +57,7 @@ protected:
     std::mt19937 random{7};
 };
 
-TEST_F(RandomWriteBack, OfTheModelTableLeavesWhatThePlainOneLeaves) {
+TEST_F(RandomWriteBack, OfTheModelTableIsLikeTheReference) {
     for (int i = 0; i < kDesigns && !HasFailure(); ++i) {
         SCOPED_TRACE("design " + std::to_string(i));
         session->openDesign(randomDesign(random));
@@ -70,7 +70,7 @@ TEST_F(RandomWriteBack, OfTheModelTableLeavesWhatThePlainOneLeaves) {
     }
 }
 
-TEST_F(RandomWriteBack, OfTheStructureTableLeavesWhatThePlainOneLeaves) {
+TEST_F(RandomWriteBack, OfTheStructureTableIsLikeTheReference) {
     for (int i = 0; i < kDesigns && !HasFailure(); ++i) {
         SCOPED_TRACE("design " + std::to_string(i));
         session->openDesign(randomDesign(random));

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// The write-back of edited tables against a plain one, on files that real systems wrote.
+/// The write-back of edited tables against the reference, on files that real systems wrote.
 namespace test_support {
 namespace {
 
@@ -116,7 +116,7 @@ TEST_P(RealWriteBack, OfBothTablesInTurnIsLikeTheReferenceAndKept) {
     expectKeptInItsFile();
 }
 
-TEST(RealFiles, StandBesideTheProject) {
+TEST(RealFiles, AreBesideTheProject) {
     needRealFiles();
     if (!IsSkipped()) {
         EXPECT_TRUE(fs::is_regular_file(realFiles() / fileNames().front()));

@@ -6,7 +6,9 @@
 
 #include "tests/tarnix/bom/model/reference_bom.h"
 
+#include <cstddef>
 #include <exception>
+#include <map>
 #include <set>
 
 namespace reference {
@@ -53,7 +55,7 @@ void setAttribute(const Ptr<Component>& component, const std::string& name,
     }
 }
 
-/// The text of a field; of anything else a null handle was asked.
+/// The value of a field; anything else is like a null handle.
 const std::string& textOf(const Cell& cell) {
     if (cell.kind != Cell::Kind::Field) throw std::exception();
     return cell.text;
@@ -89,28 +91,53 @@ void writeOther(const BomRow& row, const std::string& number, const Cell& cell) 
     }
 }
 
+void writePartNumber(const BomRow& row, const Cell& cell, const Cell& /*partNumber*/) {
+    row.component->partNumber(textOf(cell));
+}
+
+void writeStructure(const BomRow& row, const Cell& cell, const Cell& /*partNumber*/) {
+    for (const auto& [name, chosen] : cell.choices) {
+        setAttribute(row.component, name, chosen ? "1" : "");
+    }
+}
+
+void writeName(const BomRow& row, const Cell& cell, const Cell& partNumber) {
+    row.component->name(textOf(cell));
+    row.component->partNumber(textOf(partNumber));
+}
+
+void writeDescription(const BomRow& row, const Cell& cell, const Cell& /*partNumber*/) {
+    row.component->description(textOf(cell));
+}
+
+using Write = void (*)(const BomRow& row, const Cell& cell, const Cell& partNumber);
+
+/// Where the cells of each tab go, by their ids without the number; any other is a property's.
+const std::map<std::string, Write>& targetsOf(Tab tab) {
+    static const std::map<std::string, Write> structure = {{"partNumberOcc", writePartNumber},
+                                                           {"bomStructure", writeStructure},
+                                                           {"QEMA_Part Name", writeName},
+                                                           {"QEMA_Description", writeDescription}};
+    static const std::map<std::string, Write> model = {{"modelPartNumberOcc", writePartNumber},
+                                                       {"modelBomStructure", writeStructure},
+                                                       {"QEMA_Part Name", writeName},
+                                                       {"QEMA_Description", writeDescription}};
+    return tab == Tab::Structure ? structure : model;
+}
+
 void writeRow(const BomRow& row, const std::string& number, const std::vector<Cell>& cells, Tab tab,
-              int configuredColumns, int& partNumberColumn) {
-    const bool isStructure = tab == Tab::Structure;
-    const std::string partNumberId = isStructure ? "partNumberOcc_" : "modelPartNumberOcc_";
-    const std::string structureId = isStructure ? "bomStructure_" : "modelBomStructure_";
-    for (int column = 0; column <= configuredColumns + 4; ++column) {
-        const Cell& cell = cells.at(static_cast<std::size_t>(column));
+              int configuredColumns) {
+    constexpr std::size_t kPartNumberColumn = 3;
+    constexpr std::size_t kFixedColumns = 5;
+    const std::size_t columns = kFixedColumns + static_cast<std::size_t>(configuredColumns);
+    for (std::size_t column = 0; column < columns; ++column) {
+        const Cell& cell = cells.at(column);
         if (cell.kind == Cell::Kind::None) throw std::exception();
-        if (cell.id == partNumberId + number) {
-            partNumberColumn = column;
-            row.component->partNumber(textOf(cell));
-        } else if (cell.id == structureId + number) {
-            for (const auto& [name, chosen] : cell.choices) {
-                setAttribute(row.component, name, chosen ? "1" : "");
-            }
-        } else if (cell.id == "QEMA_Part Name_" + number) {
-            const Cell& partNumber = cells.at(static_cast<std::size_t>(partNumberColumn));
-            row.component->name(textOf(cell));
-            row.component->partNumber(textOf(partNumber));
-        } else if (cell.id == "QEMA_Description_" + number) {
-            row.component->description(textOf(cell));
-        } else if (column > 4) {
+        const auto target = targetsOf(tab).find(tarnix::idBase(cell.id));
+        const bool isOfThisRow = tarnix::idTail(cell.id) == number;
+        if (isOfThisRow && target != targetsOf(tab).end()) {
+            target->second(row, cell, cells.at(kPartNumberColumn));
+        } else if (column >= kFixedColumns) {
             writeOther(row, number, cell);
         }
     }
@@ -148,7 +175,6 @@ void writeBack(const Ptr<Component>& root, const Table& table, Tab tab, int conf
     const std::vector<BomRow> rows = tab == Tab::Structure && anyMatches(occurrences, table)
                                          ? reference::walkOccurrencesMerged(model, occurrences, 1)
                                          : tarnix::walkOccurrences(model, occurrences, 1);
-    int partNumberColumn = -1;
     for (std::size_t r = 1; r < table.size(); ++r) {
         const Cell& first = table[r].front();
         if (first.kind == Cell::Kind::None) continue;
@@ -161,7 +187,7 @@ void writeBack(const Ptr<Component>& root, const Table& table, Tab tab, int conf
             }
             continue;
         }
-        writeRow(row, std::to_string(number), table[r], tab, configuredColumns, partNumberColumn);
+        writeRow(row, std::to_string(number), table[r], tab, configuredColumns);
     }
 }
 

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// The write-back as plainly as it can be told. It takes what a table shows and no table, so that
-/// the dialog may be gone by then: the product's own is compared with it on an equal design.
+/// The write-back as plainly as it can be written. It takes what a table shows and no table, so
+/// that the dialog may be gone by then: the product's own is compared with it on an equal design.
 namespace reference {
 
 /// What the write-back reads of a cell.

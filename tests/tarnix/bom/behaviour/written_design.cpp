@@ -44,8 +44,8 @@ void describeComponent(std::ostream& out, const host::ComponentData& component) 
     for (const host::OccurrenceData& child : component.children) describeUse(out, child);
 }
 
-/// What `act` throws as the host tells it: a null handle's exception has no text.
-std::string raisedBy(const std::function<void()>& act) {
+/// What `act` throws as the host reports it: a null handle's exception has no message.
+std::string thrownBy(const std::function<void()>& act) {
     try {
         act();
     } catch (const std::exception& error) {
@@ -101,15 +101,15 @@ std::string WrittenDesign::accept() {
 void WrittenDesign::expectWrittenLikeTheReference(reference::Tab tab, int configuredColumns) {
     const reference::Table table = reference::capture(shownTableInput());
     const host::DesignData before = session->design();
-    const std::string raisedByProduct = accept();
+    const std::string thrownByProduct = accept();
     const std::string product = describe(session->design());
 
     session->openDesign(before);
-    const std::string raisedByPlain =
-        raisedBy([&] { reference::writeBack(root(), table, tab, configuredColumns); });
+    const std::string thrownByReference =
+        thrownBy([&] { reference::writeBack(root(), table, tab, configuredColumns); });
 
     EXPECT_EQ(product, describe(session->design()));
-    EXPECT_EQ(raisedByProduct, raisedByPlain);
+    EXPECT_EQ(thrownByProduct, thrownByReference);
 }
 
 void WrittenDesign::expectKeptInItsFile() {
