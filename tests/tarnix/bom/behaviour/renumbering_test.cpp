@@ -26,8 +26,8 @@ protected:
     /// Makes a table with a header and a row for each position.
     void show(const std::vector<std::string>& positions) {
         dialog_ = std::make_unique<SyntheticDialog>(
-            "OwnPositions", [&](const Ptr<CommandInputs>& inputs) {
-                rows_ = inputs->addTableCommandInput("own", "", 2, "1:1");
+            "SyntheticPositions", [&](const Ptr<CommandInputs>& inputs) {
+                rows_ = inputs->addTableCommandInput("synthetic", "", 2, "1:1");
                 addRow(inputs, "Pos.");
                 for (const std::string& position : positions) {
                     addRow(inputs, position);
@@ -45,8 +45,19 @@ protected:
         rows_->addCommandInput(inputs->addTextBoxCommandInput("", "", position, 1, true), row, 1);
     }
 
+    /// The positions after a renumbering of rows with these positions.
+    std::string renumbered(const std::vector<std::string>& before,
+                           const std::vector<int>& hidden = {}) {
+        show(before);
+        for (const int row : hidden) {
+            hide(row);
+        }
+        tarnix::renumberVisibleRows(rows_);
+        return positions();
+    }
+
     /// What the renumbering throws; empty if nothing.
-    [[nodiscard]] std::string raisedByRenumbering() const {
+    [[nodiscard]] std::string thrownByRenumbering() const {
         try {
             tarnix::renumberVisibleRows(rows_);
         } catch (const std::exception& error) {
@@ -73,11 +84,7 @@ protected:
 };
 
 TEST_F(Renumbering, LeavesAWholeTableAsItIs) {
-    show({"1", "1.1", "1.2", "2", "3", "3.1"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "1.1", "1.2", "2", "3", "3.1"}), text(R"(
         1
         1.1
         1.2
@@ -87,12 +94,7 @@ TEST_F(Renumbering, LeavesAWholeTableAsItIs) {
 }
 
 TEST_F(Renumbering, ClosesTheGapsOfHiddenRows) {
-    show({"1", "2", "2.1", "2.2", "3"});
-    hide(1);
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "2", "2.1", "2.2", "3"}, /*hidden=*/{1}), text(R"(
         1
         1
         1.1
@@ -102,62 +104,41 @@ TEST_F(Renumbering, ClosesTheGapsOfHiddenRows) {
 
 // How a deeper row, one of the same depth and the first below the top are numbered.
 TEST_F(Renumbering, CountsLevelsWhereTwoOpenAtOnce) {
-    show({"1", "2", "2.1.1", "2.1.2"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    // Row 3 stands two levels below the 2. Row 4 then is one level below the 2.2 above it.
-    EXPECT_EQ(positions(), text(R"(
+    // Row 3 is two levels below the 2. Row 4 then is one level below the 2.2 above it.
+    EXPECT_EQ(renumbered({"1", "2", "2.1.1", "2.1.2"}), text(R"(
         1
         2
         2.2
         2.2.1)"));
 }
 
-TEST_F(Renumbering, ReadsTheNewNumberOfTheRowInFront) {
-    show({"1", "1.1.1", "1.1"});
-
-    tarnix::renumberVisibleRows(rows_);
-
+TEST_F(Renumbering, ReadsTheNewNumberOfTheRowBefore) {
     // By its old position row 2 is deeper than row 3; by the 1.2 that it got it is as deep.
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "1.1.1", "1.1"}), text(R"(
         1
         1.2
         1.3)"));
 }
 
-TEST_F(Renumbering, BeginsAtOneBehindAHiddenRowOfTheSameDepth) {
-    show({"1", "1.1.1", "1.1.2", "1.1.3"});
-    hide(2);
-
-    tarnix::renumberVisibleRows(rows_);
-
-    // The last number given is 1, which has no dot. Behind a row that shows, row 3 would have got
+TEST_F(Renumbering, BeginsAtOneAfterAHiddenRowOfTheSameDepth) {
+    // The last number is 1, which has no dot. After a row that shows, row 3 would have got
     // 1.2 for its two levels.
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "1.1.1", "1.1.2", "1.1.3"}, /*hidden=*/{2}), text(R"(
         1
         1.1.1
         1.1
         1.1.1)"));
 }
 
-// The first row, in front of which the header stands: "Pos." has a dot.
+// The first row, before which there is the header: "Pos." has a dot.
 TEST_F(Renumbering, TakesTheHeaderForARowOfDepthOne) {
-    show({"1.1", "1.2"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1.1", "1.2"}), text(R"(
         .1
         .2)"));
 }
 
 TEST_F(Renumbering, GoesOneLevelDeeperThanTheHeader) {
-    show({"1.1.1", "2"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1.1.1", "2"}), text(R"(
         .1
         1)"));
 }
@@ -174,13 +155,9 @@ TEST_F(Renumbering, ComparesWithAHiddenFirstRowAndNotWithTheHeader) {
     EXPECT_EQ(box(2)->formattedText(), "<p><span style=\"color:#000000\"><b></b></span></p>");
 }
 
-// A row behind a deeper one, when the row behind it is deeper again.
-TEST_F(Renumbering, CountsOnBehindADeeperRowWhereTheNextOneIsDeeper) {
-    show({"1", "1.1", "1.1.1", "1.2", "1.2.1"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+// A row after a deeper one, when the row after it is deeper again.
+TEST_F(Renumbering, CountsOnAfterADeeperRowWhereTheNextOneIsDeeper) {
+    EXPECT_EQ(renumbered({"1", "1.1", "1.1.1", "1.2", "1.2.1"}), text(R"(
         1
         1.1
         1.1.1
@@ -188,15 +165,10 @@ TEST_F(Renumbering, CountsOnBehindADeeperRowWhereTheNextOneIsDeeper) {
         1.2.1)"));
 }
 
-TEST_F(Renumbering, CountsOnWithTheNewNumbersBehindAGap) {
-    show({"1", "2", "2.1", "2.2", "2.2.1", "2.3", "2.3.1"});
-    hide(1);
-    hide(3);
-
-    tarnix::renumberVisibleRows(rows_);
-
+TEST_F(Renumbering, CountsOnWithTheNewNumbersAfterAGap) {
     // Row 4 is as deep as the hidden row 3, and begins at one below the 1 that row 2 got.
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "2", "2.1", "2.2", "2.2.1", "2.3", "2.3.1"}, /*hidden=*/{1, 3}),
+              text(R"(
         1
         1
         2.1
@@ -206,28 +178,18 @@ TEST_F(Renumbering, CountsOnWithTheNewNumbersBehindAGap) {
         1.2.1)"));
 }
 
-TEST_F(Renumbering, BeginsAtOneBehindADeeperHiddenRowWhereTheNextOneIsDeeper) {
-    show({"1", "1.1.1.1", "1.1.2", "1.1.2.1"});
-    hide(2);
-
-    tarnix::renumberVisibleRows(rows_);
-
-    // The last number given has one digit. Row 4 then is two levels below the 1.1 above it.
-    EXPECT_EQ(positions(), text(R"(
+TEST_F(Renumbering, BeginsAtOneAfterADeeperHiddenRowWhereTheNextOneIsDeeper) {
+    // The last number has one digit. Row 4 then is two levels below the 1.1 above it.
+    EXPECT_EQ(renumbered({"1", "1.1.1.1", "1.1.2", "1.1.2.1"}, /*hidden=*/{2}), text(R"(
         1
         1.1.1.1
         1.1
         1.1.2)"));
 }
 
-TEST_F(Renumbering, LooksAtAHiddenRowBehind) {
-    show({"1", "1.1", "1.1.1", "1.2", "1.2.1", "2"});
-    hide(5);
-
-    tarnix::renumberVisibleRows(rows_);
-
+TEST_F(Renumbering, LooksAtAHiddenRowAfter) {
     // Before the 2 that is seen next, row 4 would have got 1.1.
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "1.1", "1.1.1", "1.2", "1.2.1", "2"}, /*hidden=*/{5}), text(R"(
         1
         1.1
         1.1.1
@@ -236,11 +198,11 @@ TEST_F(Renumbering, LooksAtAHiddenRowBehind) {
         2)"));
 }
 
-TEST_F(Renumbering, ThrowsWhereThePlaceOfTheDotIsBehindTheLastNumber) {
+TEST_F(Renumbering, ThrowsWhereThePlaceOfTheDotIsBeyondTheLastNumber) {
     show({"1", "1.1", "9.9.9", "15.4", "15.4.1"});
     hide(3);
 
-    EXPECT_EQ(raisedByRenumbering(), "invalid stoi argument");
+    EXPECT_EQ(thrownByRenumbering(), "invalid stoi argument");
     EXPECT_EQ(positions(), text(R"(
         1
         1.1
@@ -249,14 +211,10 @@ TEST_F(Renumbering, ThrowsWhereThePlaceOfTheDotIsBehindTheLastNumber) {
         15.4.1)"));
 }
 
-// A row behind a deeper one, when the row behind it is as deep as itself.
-TEST_F(Renumbering, RepeatsTheNumberBehindADeeperRowWhereTheNextOneIsAsDeep) {
-    show({"1", "1.1", "1.1.1", "1.2", "1.3", "1.4"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    // The repeated number makes each row that follows one behind a deeper row.
-    EXPECT_EQ(positions(), text(R"(
+// A row after a deeper one, when the row after it is as deep as itself.
+TEST_F(Renumbering, RepeatsTheNumberAfterADeeperRowWhereTheNextOneIsAsDeep) {
+    // The repeated number makes each following row one after a deeper row.
+    EXPECT_EQ(renumbered({"1", "1.1", "1.1.1", "1.2", "1.3", "1.4"}), text(R"(
         1
         1.1
         1.1.1
@@ -265,25 +223,17 @@ TEST_F(Renumbering, RepeatsTheNumberBehindADeeperRowWhereTheNextOneIsAsDeep) {
         1.1.1)"));
 }
 
-TEST_F(Renumbering, OfTheLastRowTakesItsOwnDepthForThatBehindIt) {
-    show({"1", "1.1", "1.1.1", "1.2"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+TEST_F(Renumbering, OfTheLastRowTakesItsOwnDepthForTheNext) {
+    EXPECT_EQ(renumbered({"1", "1.1", "1.1.1", "1.2"}), text(R"(
         1
         1.1
         1.1.1
         1.1.1)"));
 }
 
-// A row behind a deeper one, when the row behind it is higher.
-TEST_F(Renumbering, TakesOneOffBehindADeeperRowWhereTheNextOneIsHigher) {
-    show({"1", "1.1", "1.1.1", "1.5", "2", "2.1"});
-
-    tarnix::renumberVisibleRows(rows_);
-
-    EXPECT_EQ(positions(), text(R"(
+// A row after a deeper one, when the row after it is higher.
+TEST_F(Renumbering, TakesOneOffAfterADeeperRowWhereTheNextOneIsHigher) {
+    EXPECT_EQ(renumbered({"1", "1.1", "1.1.1", "1.5", "2", "2.1"}), text(R"(
         1
         1.1
         1.1.1
@@ -295,17 +245,12 @@ TEST_F(Renumbering, TakesOneOffBehindADeeperRowWhereTheNextOneIsHigher) {
 TEST_F(Renumbering, ThrowsWhereTheNumberToTakeOneOffIsNone) {
     show({"1", "1.1", "1.1.1", "1.x", "2"});
 
-    EXPECT_EQ(raisedByRenumbering(), "invalid stoi argument");
+    EXPECT_EQ(thrownByRenumbering(), "invalid stoi argument");
 }
 
-TEST_F(Renumbering, LooksAtAHiddenRowInFront) {
-    show({"1", "1.1", "1.2.1", "1.5", "2"});
-    hide(3);
-
-    tarnix::renumberVisibleRows(rows_);
-
+TEST_F(Renumbering, LooksAtAHiddenRowBefore) {
     // Beside the 1.1 that is seen before it, row 4 would have got 1.2.
-    EXPECT_EQ(positions(), text(R"(
+    EXPECT_EQ(renumbered({"1", "1.1", "1.2.1", "1.5", "2"}, /*hidden=*/{3}), text(R"(
         1
         1.1
         1.2.1
@@ -338,7 +283,7 @@ TEST_F(Renumbering, LeavesTheNamesOfButtonsAlone) {
         3 | Part | Rod)"));
 }
 
-TEST_F(Renumbering, OfARowWithoutAPositionRaises) {
+TEST_F(Renumbering, OfARowWithoutAPositionThrows) {
     show({"1", "2"});
     rows_->removeInput(2, 1);
 

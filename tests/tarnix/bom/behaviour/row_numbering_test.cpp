@@ -9,8 +9,8 @@ namespace {
 
 using tarnix::RowNumbers;
 
-/// What the rows at the top so far leave behind: the last number given is `count`.
-RowNumbers behindTop(int count) {
+/// The state after rows at the top: the last number is `count`.
+RowNumbers afterTop(int count) {
     RowNumbers numbers;
     for (int i = 0; i < count; ++i) {
         numbers.nextTop();
@@ -18,51 +18,55 @@ RowNumbers behindTop(int count) {
     return numbers;
 }
 
-/// What rows at the top and one below the last of them leave behind, such as "3.1".
-RowNumbers behindNested(int count) {
-    RowNumbers numbers = behindTop(count);
-    numbers.nextNested({"9.9", 0, 1});
+/// The state after rows at the top and one below the last of them, such as "3.1".
+RowNumbers afterNested(int count) {
+    RowNumbers numbers = afterTop(count);
+    numbers.nextNested({.position = "9.9", .previousDepth = 0, .nextDepth = 1});
     return numbers;
 }
 
 TEST(RowNumbers, CountsTheRowsAtTheTop) {
-    RowNumbers numbers = behindTop(2);
+    RowNumbers numbers = afterTop(2);
 
     EXPECT_EQ(numbers.nextTop(), "3");
 }
 
 TEST(RowNumbers, BeginsAtOneBelowARowAtTheTop) {
-    EXPECT_EQ(behindTop(3).nextNested({"5.4", 0, 0}), "3.1");
+    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4", .previousDepth = 0, .nextDepth = 0}),
+              "3.1");
 }
 
 TEST(RowNumbers, CountsLevelsAndNotPlacesWhereTwoOpenAtOnce) {
-    EXPECT_EQ(behindTop(3).nextNested({"5.4.7", 0, 0}), "3.2");
+    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4.7", .previousDepth = 0, .nextDepth = 0}),
+              "3.2");
 }
 
 TEST(RowNumbers, CountsOnBesideARowOfTheSameDepth) {
-    EXPECT_EQ(behindNested(3).nextNested({"5.4", 1, 0}), "3.2");
+    EXPECT_EQ(afterNested(3).nextNested({.position = "5.4", .previousDepth = 1, .nextDepth = 0}),
+              "3.2");
 }
 
 TEST(RowNumbers, BeginsAtOneBesideARowOfTheSameDepthThatHadANumberOfTheTop) {
-    EXPECT_EQ(behindTop(3).nextNested({"5.4", 1, 0}), "3.1");
+    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4", .previousDepth = 1, .nextDepth = 0}),
+              "3.1");
 }
 
-TEST(RowNumbers, CountsOnBehindADeeperRowWhereTheNextOneIsDeeper) {
-    RowNumbers numbers = behindNested(3);
-    numbers.nextNested({"9.9.9", 1, 1});
+TEST(RowNumbers, CountsOnAfterADeeperRowWhereTheNextOneIsDeeper) {
+    RowNumbers numbers = afterNested(3);
+    numbers.nextNested({.position = "9.9.9", .previousDepth = 1, .nextDepth = 1});
 
-    // The last number is 3.1.1; of its first three characters the part behind the dot is 1.
-    EXPECT_EQ(numbers.nextNested({"5.4", 2, 2}), "3.2");
+    // The last number is 3.1.1; of its first three characters the part after the dot is 1.
+    EXPECT_EQ(numbers.nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 2}), "3.2");
 }
 
 TEST(RowNumbers, TakesTheDotFromTheRowsOwnPosition) {
-    RowNumbers numbers = behindNested(3);
+    RowNumbers numbers = afterNested(3);
 
     // The dot of 15.4 is at place 2, where the last number, 3.1, has its second digit.
     EXPECT_THROW(
         {
             try {
-                numbers.nextNested({"15.4", 2, 2});
+                numbers.nextNested({.position = "15.4", .previousDepth = 2, .nextDepth = 2});
             } catch (const std::invalid_argument& error) {
                 EXPECT_STREQ(error.what(), "invalid stoi argument");
                 throw;
@@ -71,17 +75,18 @@ TEST(RowNumbers, TakesTheDotFromTheRowsOwnPosition) {
         std::invalid_argument);
 }
 
-TEST(RowNumbers, BeginsAtOneBehindADeeperRowWithANumberOfOneDigit) {
-    EXPECT_EQ(behindTop(3).nextNested({"5.4", 2, 2}), "3.1");
+TEST(RowNumbers, BeginsAtOneAfterADeeperRowWithANumberOfOneDigit) {
+    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 2}),
+              "3.1");
 }
 
-TEST(RowNumbers, CountsOnBehindADeeperRowWithALongerNumberOfTheTop) {
-    RowNumbers numbers = behindTop(12);
+TEST(RowNumbers, CountsOnAfterADeeperRowWithALongerNumberOfTheTop) {
+    RowNumbers numbers = afterTop(12);
 
     EXPECT_THROW(
         {
             try {
-                numbers.nextNested({"12.4", 2, 2});
+                numbers.nextNested({.position = "12.4", .previousDepth = 2, .nextDepth = 2});
             } catch (const std::out_of_range& error) {
                 EXPECT_STREQ(error.what(), "invalid string position");
                 throw;
@@ -90,16 +95,19 @@ TEST(RowNumbers, CountsOnBehindADeeperRowWithALongerNumberOfTheTop) {
         std::out_of_range);
 }
 
-TEST(RowNumbers, RepeatsTheNumberBehindADeeperRowWhereTheNextOneIsAsDeep) {
-    EXPECT_EQ(behindNested(3).nextNested({"5.4", 2, 1}), "3.1");
+TEST(RowNumbers, RepeatsTheNumberAfterADeeperRowWhereTheNextOneIsAsDeep) {
+    EXPECT_EQ(afterNested(3).nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 1}),
+              "3.1");
 }
 
-TEST(RowNumbers, TakesOneOffTheRowsOwnNumberBehindADeeperRowWhereTheNextOneIsHigher) {
-    EXPECT_EQ(behindNested(3).nextNested({"5.4", 2, 0}), "5.3");
+TEST(RowNumbers, TakesOneOffTheRowsOwnNumberAfterADeeperRowWhereTheNextOneIsHigher) {
+    EXPECT_EQ(afterNested(3).nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 0}),
+              "5.3");
 }
 
 TEST(RowNumbers, ThrowsWhereThePositionHoldsNoNumber) {
-    EXPECT_THROW(behindNested(3).nextNested({"5.x", 2, 0}), std::invalid_argument);
+    EXPECT_THROW(afterNested(3).nextNested({.position = "5.x", .previousDepth = 2, .nextDepth = 0}),
+                 std::invalid_argument);
 }
 
 }  // namespace
