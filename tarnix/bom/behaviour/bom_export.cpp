@@ -109,7 +109,7 @@ void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
         const Ptr<CommandInput> first = table->getInputAtPosition(row, kIconColumn);
         if (first && first->isVisible()) {
             // Not handed to the system line by line, which takes too long for a large table. What
-            // is thrown closes the file, and the lines so far stand in it; a process that is killed
+            // is thrown closes the file, and the lines so far are in it; a process that is killed
             // meanwhile loses those that were not handed over yet.
             readRow(line, table, row, lastColumn);
             file.write(line);

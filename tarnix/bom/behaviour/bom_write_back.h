@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// The write-back of the BOM dialog: what stands in the cells of the active tab's table goes into
+/// The write-back of the BOM dialog: what the cells of the active tab's table hold goes into
 /// the design, row by row.
 namespace tarnix {
 
@@ -29,7 +29,7 @@ void writeBomTable(adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences,
                    adsk::core::Ptr<adsk::core::TableCommandInput> table,
                    std::string partNumberPrefix, std::string bomStructurePrefix);
 
-/// Whether a cell's id names a custom property: what stands between its first and its last "_" is
+/// Whether a cell's id names a custom property: what is between its first and its last "_" is
 /// none of the thirteen built-in names.
 bool isCustomPropertyId(std::string id);
 

@@ -25,8 +25,8 @@ void onBomSelectionChange(adsk::core::Ptr<adsk::core::InputChangedEventArgs> eve
 
 /// Hides a row, and each later row whose position is longer and begins with the row's position.
 ///
-/// Positions are compared character by character, whatever the dots: under 1 go 10, 11 and 100 too.
-/// A row that is not there throws a plain `std::exception`, and nothing is hidden.
+/// Positions are compared character by character, regardless of the dots: under 1 go 10, 11 and 100
+/// too. A row that is not there throws a plain `std::exception`, and nothing is hidden.
 void hideRowWithChildren(adsk::core::Ptr<adsk::core::TableCommandInput> table, int row);
 
 /// Replaces the columns in the settings document by those of the tab of `input`, its button. The

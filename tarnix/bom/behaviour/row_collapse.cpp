@@ -136,7 +136,7 @@ public:
         : table_(std::move(table)), firstRow_(row), positions_(std::move(positions)) {}
 
     void run() {
-        reached_.emplace(positions_.front(), Reached{firstRow_, /*isUnfolded=*/true});
+        reached_.emplace(positions_.front(), Reached{.row = firstRow_, .isUnfolded = true});
         for (std::size_t i = 1; i < positions_.size(); ++i) {
             visit(positions_[i], firstRow_ + static_cast<int>(i));
         }
@@ -180,7 +180,8 @@ private:
     void show(std::string_view position, int row, const Reached& unfolded) {
         markUnfolded(table_, unfolded.row);
         setRowVisible(table_, row, true);
-        reached_.emplace(position, Reached{row, toggleOf(table_, row)->value()});
+        reached_.emplace(position,
+                         Reached{.row = row, .isUnfolded = toggleOf(table_, row)->value()});
     }
 
     Ptr<TableCommandInput> table_;

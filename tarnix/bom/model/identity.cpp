@@ -31,7 +31,7 @@ int findBomRow(const std::vector<BomRow>& rows,
 }
 
 ItemIndex::Item ItemIndex::itemOf(const std::string& partNumber, const std::string& path) {
-    return {partNumber, parentPath(path)};
+    return {.partNumber = partNumber, .parentPath = parentPath(path)};
 }
 
 void ItemIndex::reserve(std::size_t rowCount) {
@@ -43,7 +43,7 @@ std::optional<std::size_t> ItemIndex::add(const std::string& partNumber, const s
     const std::size_t added = rowCount_++;
     std::size_t first = firstOfItem_.try_emplace(itemOf(partNumber, path), added).first->second;
     if (isUnderRoot(path)) {
-        // A row inside this occurrence can count as the same item and stand in front.
+        // A row inside this occurrence can count as the same item and come first.
         first = std::min(first, firstUnderRoot_.try_emplace(partNumber, added).first->second);
     }
     return first < added ? std::optional(first) : std::nullopt;

@@ -14,17 +14,17 @@ namespace tarnix {
 
 /// The index of the first row that is the same item as `occurrence`, or -1.
 ///
-/// Two occurrences are the same item when their components have the same part number and they stand
+/// Two occurrences are the same item when their components have the same part number and they are
 /// under the same parent occurrence, or both directly under the root component. The component's
-/// name plays no part. Paths are compared as texts, cut in front of their last "+"; a path without
+/// name plays no part. Paths are compared as strings, cut before their last "+"; a path without
 /// "+" stays whole, so an occurrence directly under the root is the same item as one inside it that
 /// has its part number.
 int findBomRow(const std::vector<BomRow>& rows,
                const adsk::core::Ptr<adsk::fusion::Occurrence>& occurrence);
 
-/// Answers what `findBomRow` answers for the rows added so far, without a scan.
+/// Returns what `findBomRow` returns for the rows added so far, without a scan.
 ///
-/// It holds the texts that were given with a row. They stay true for as long as part numbers and
+/// It holds the strings that came with a row. They stay true for as long as part numbers and
 /// paths do not change in the design, which is the case within one walk over it.
 class ItemIndex {
 public:

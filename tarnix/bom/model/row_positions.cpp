@@ -7,8 +7,8 @@
 namespace tarnix {
 namespace {
 
-/// `position` in front of its `count`-th "."; whole where it has fewer.
-std::string inFrontOfPoint(const std::string& position, int count) {
+/// `position` up to its `count`-th "."; whole where it has fewer.
+std::string upToPoint(const std::string& position, int count) {
     std::size_t point = position.find('.');
     for (int passed = 1; passed < count && point != std::string::npos; ++passed) {
         point = position.find('.', point + 1);
@@ -31,7 +31,7 @@ std::string RowPositions::next(const BomRow& row, const std::string& previousPat
         position = decimal(modelRowCounter) + row.relativePosition;
     } else {
         if (previousPathName == kSubtreeEnd) {
-            prefix_ = inFrontOfPoint(prefix_, row.level - 1);
+            prefix_ = upToPoint(prefix_, row.level - 1);
         }
         position = prefix_ + row.relativePosition;
     }

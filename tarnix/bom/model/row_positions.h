@@ -15,7 +15,7 @@ extern int modelRowCounter;
 /// Numbers the rows of a plain walk, such as 1, 1.1, 1.1.1, 1.2, 2, in their order.
 class RowPositions {
 public:
-    /// The position of the next row; `previousPathName` is that of the row in front of it, empty
+    /// The position of the next row; `previousPathName` is that of the row before it, empty
     /// for the first. Call `finishRow` when the row is done.
     std::string next(const BomRow& row, const std::string& previousPathName);
 
@@ -23,10 +23,10 @@ public:
     void finishRow();
 
 private:
-    std::string prefix_;  ///< the position under which nested rows stand
+    std::string prefix_;  ///< the position under which nested rows are numbered
 };
 
-/// A drawing of the tree in front of a row at `position`: an indent for each level below the top,
+/// A drawing of the tree before a row at `position`: an indent for each level below the top,
 /// and a branch. Empty at the top.
 std::string graphPosition(const std::string& position);
 

@@ -30,7 +30,7 @@ void buildConfigTableModelRow(const BomModel& model,
                               const adsk::core::Ptr<adsk::core::TableCommandInput>& table);
 
 /// Makes the six drop-downs, in the order of their ids, with nothing selected; those made so far
-/// where the host gives one without a list.
+/// where the host returns one without a list.
 std::vector<adsk::core::Ptr<adsk::core::DropDownCommandInput>> buildPropertyDropDowns(
     const BomModel& model, const adsk::core::Ptr<adsk::core::TableCommandInput>& table);
 

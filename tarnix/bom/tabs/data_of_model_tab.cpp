@@ -15,7 +15,7 @@ using adsk::core::StringValueCommandInput;
 using adsk::core::TabCommandInput;
 using adsk::core::TableCommandInput;
 
-/// A read-only field, whose value is given at creation and set once more.
+/// A read-only field, whose value is passed at creation and set once more.
 Ptr<StringValueCommandInput> addShownField(const Ptr<CommandInputs>& inputs, const std::string& id,
                                            const std::string& value) {
     Ptr<StringValueCommandInput> field = addReadOnlyField(inputs, id, /*name=*/"", value);

@@ -14,8 +14,8 @@ namespace tarnix {
 
 /// Adds the tab with the rows of `model`.
 ///
-/// A host that gives no tab, no children of it or no table leaves the tab out, or empty. Any other
-/// refused input throws a plain `std::exception`.
+/// A host that returns no tab, no children of it or no table leaves the tab out, or empty. Any
+/// other refused input throws a plain `std::exception`.
 void buildDataOfModelTab(BomModel& model, adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 
 /// Fills row 0 with a button for each of the five fixed columns and each of `columns`.

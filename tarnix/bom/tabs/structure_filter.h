@@ -7,11 +7,11 @@
 
 namespace tarnix {
 
-/// Decides which rows of the merged list stand in the bill of materials.
+/// Decides which rows of the merged list belong to the bill of materials.
 ///
 /// A reference assembly and all below it drop out; a divided one drops out and hands its direct
-/// children up; any other assembly stands as one line with nothing below it; an item stands once.
-/// Paths are compared by plain substring search, and the word "empty" stands for no path: a
+/// children up; any other assembly is one line with nothing below it; an item is listed once.
+/// Paths are compared by plain substring search, and the word "empty" means no path: a
 /// component of that name is dropped like one below a reference.
 class StructureFilter {
 public:
@@ -19,7 +19,7 @@ public:
     /// row without an occurrence.
     bool accept(const BomRow& row);
 
-    /// Whether the row taken last stands under a divided assembly.
+    /// Whether the row taken last is under a divided assembly.
     [[nodiscard]] bool isUnderDivided() const;
 
 private:

@@ -16,7 +16,7 @@ namespace tarnix {
 /// Adds the tab with an empty table, the choice of the sort order and the field of the total mass.
 ///
 /// Whatever the host refuses ends it at once, with what is there so far. Where the tab is there
-/// already the host gives no second one, so a second call has no effect.
+/// already the host returns no second one, so a second call has no effect.
 void buildStructureTab(adsk::core::Ptr<adsk::core::CommandInputs> inputs);
 
 /// Fills row 0 with a button for each column. They have ids, unlike those of "Data of Model":

@@ -31,22 +31,22 @@ constexpr const char* kDesign =
 const Texts kColumns = {"QEMA_Quantity;Qty", "QEMA_Mass;Mass", "QEMA_Length;Length",
                         "QEMA_Physical Material;Material", "QEMA_Colour;Colour"};
 
-/// What stays behind after `stop`, whatever happens: nothing ever destroys that command.
-constexpr const char* kToldTrace = "definition QEMA_OpenLocalCmd_QAT";
+/// What is left after `stop` in any case: nothing ever destroys that command.
+constexpr const char* kKnownTrace = "definition QEMA_OpenLocalCmd_QAT";
 
 void expectSettingsWhole(const Session& session) {
     EXPECT_EQ(test_support::readFile(session.addin().folder / "Tarnix_configuration.xml"),
               test_support::settingsDocument(kColumns));
 }
 
-/// What there is in the host beyond what is told.
+/// What is left in the host beyond what is known.
 Texts traces() {
     Texts found = tracesOfAddin();
-    std::erase(found, kToldTrace);
+    std::erase(found, kKnownTrace);
     return found;
 }
 
-/// Settings that nobody made yet are the default ones, or still none.
+/// Settings that were not made before are the default ones, or still missing.
 void checkFirstUse(Session& session, const std::string& call) {
     expectOnlyKnownThrown(session);
     const auto file = session.addin().folder / "Tarnix_configuration.xml";
@@ -70,13 +70,13 @@ void checkRun(Session& session, const std::string& call) {
     expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
     session.stop();
-    // A panel is called after its workspace. One that was made while the workspace told no id is
-    // one that nobody looks for.
+    // A panel is called after its workspace. One that was made while the workspace returned no id
+    // is never looked for.
     const Texts left = call == "Workspace::id" ? Texts{"panel QM_HD_panel"} : Texts();
     EXPECT_EQ(traces(), left);
 }
 
-/// What stands in the host with both palettes open: seven commands, the helpdesk's eight, two
+/// What there is in the host with both palettes open: seven commands, the helpdesk's eight, two
 /// panels in each of two workspaces, and the palettes.
 constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + 2;
 
@@ -104,7 +104,7 @@ void checkStop(Session& session, const std::string& call) {
     expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
     EXPECT_LE(traces().size(), keptBy(call)) << testing::PrintToString(traces());
-    // Whatever kept the first one from its work: the next one does it. A command's own definition
+    // The next one does what the first one could not. A command's own definition
     // goes with its object, which asks for it only once.
     session.stop();
     const std::size_t left = traces().size();

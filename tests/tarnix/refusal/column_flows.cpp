@@ -19,7 +19,7 @@ constexpr const char* kDesign =
     "Drive  attribute=QEMA_PropertiesAttributesGroup/QEMA_Size/10\n"
     "  Bolt  box=1x1x1\n";
 
-/// What stands between two marks, each time that they do.
+/// What is between two marks, for each occurrence of them.
 Texts textsBetween(const std::string& document, const std::string& begin, const std::string& end) {
     Texts texts;
     for (std::size_t from = document.find(begin); from != std::string::npos;

@@ -19,7 +19,7 @@ using test_support::kStructureTab;
 using test_support::kStructureTable;
 using test_support::RefusalSweep;
 
-/// A row that stands for two parts, one with a property, one that stands in two rows.
+/// A row that merges two parts, a part with a property, and a part in two rows.
 constexpr const char* kDesign =
     "Leg  number=L description=\"A leg\"\n"
     "Foot  number=L description=Another\n"

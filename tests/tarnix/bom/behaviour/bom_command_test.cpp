@@ -141,7 +141,7 @@ TEST_F(InputRouting, WithoutAnActiveProductNothingHappens) {
 TEST_F(InputRouting, WithoutADesignNothingHappens) {
     session->openForeignDocument();
     tarnix::BomCmdInputChangedHandler handler;
-    SyntheticDialog dialog("OwnCell", [&](const Ptr<CommandInputs>& inputs) {
+    SyntheticDialog dialog("SyntheticCell", [&](const Ptr<CommandInputs>& inputs) {
         inputs->addStringValueInput("cell", "");
         inputs->command()->inputChanged()->add(&handler);
     });

@@ -9,13 +9,13 @@
 
 namespace test_support {
 
-/// The open BOM dialog, and what is asked of it and of the design behind it.
+/// The open BOM dialog, and what is asked of it and of the design below it.
 class BomDialogTest : public AddinTest {
 protected:
     /// The paths of the occurrences that are selected in the design, one a line, each once.
     [[nodiscard]] std::string selected() const;
 
-    /// Selects an occurrence directly under the root, as a person did before.
+    /// Selects an occurrence directly under the root, as the user did before.
     void select(std::size_t index) const;
 
     /// The active design's root component.

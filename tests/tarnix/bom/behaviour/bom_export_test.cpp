@@ -132,7 +132,7 @@ TEST_F(BomExport, LeavesOutHiddenRowsAndKeepsTheirMass) {
 }
 
 TEST_F(BomExport, OfARowWithoutAChosenStructureSaysNotAvailable) {
-    // A property that holds "1" in front of the structure's counts as set, so none is chosen.
+    // A property that holds "1" ahead of the structure's counts as set, so none is chosen.
     open("Plate  number=P-1 property=Rank/1");
     showModel();
 
@@ -215,7 +215,7 @@ TEST_F(BomExport, TwiceInARowLeavesTheLinesOfTheSecond) {
     EXPECT_EQ(session->openedByShell().size(), 2U);
 }
 
-TEST_F(BomExport, OverAFileThatCannotBeDeletedWritesBehindIt) {
+TEST_F(BomExport, ToAFileThatCannotBeDeletedAppends) {
     writeFile(csvFile(), "older\r\n");
     const KeptFile kept(csvFile());
     if (!kept.isKept()) {
@@ -278,7 +278,7 @@ TEST_F(BomExport, OpensTheWorkbookBesideTheModule) {
     EXPECT_EQ(opened.substr(opened.rfind('\\')), "\\TarnixBOM.xlsm");
 }
 
-TEST_F(BomExport, EndsWithTheExceptionThatTheButtonsIdRaises) {
+TEST_F(BomExport, EndsWithTheExceptionThatTheButtonsIdThrows) {
     open("Plate");
     showModel();
 

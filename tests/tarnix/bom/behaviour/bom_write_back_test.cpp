@@ -215,7 +215,7 @@ TEST_F(BomWriteBack, LetsTheLastRowOfAComponentWin) {
 
     save();
 
-    // The second row still holds the old text, and is written behind the first.
+    // The second row still holds the old value, and is written after the first.
     EXPECT_EQ(component(0)->partNumber(), "B-1");
 }
 
@@ -247,7 +247,7 @@ TEST_F(BomWriteBack, MarksAndCutsACombinedRowWhereANumberMatches) {
     EXPECT_EQ(component(1)->description(), "second");
 }
 
-TEST_F(BomWriteBack, OfACombinedRowWithAShortDescriptionRaises) {
+TEST_F(BomWriteBack, OfACombinedRowWithAShortDescriptionThrows) {
     open(R"(
         Bolt  number=B-1 description=same
         Screw  number=B-1 description=same
@@ -289,7 +289,7 @@ TEST_F(BomWriteBack, OfTheStructureTableThrowsWhereAPlaceAtTheTopIsEmpty) {
     EXPECT_EQ(attributes(0), "");
 }
 
-TEST_F(BomWriteBack, OfTheStructureTableLooksBehindTheFirstMatchToo) {
+TEST_F(BomWriteBack, OfTheStructureTableLooksBeyondTheFirstMatchToo) {
     open(R"(
         Bolt  number=B-1
         (absent))");

@@ -10,12 +10,12 @@ using adsk::core::DropDownCommandInput;
 using adsk::core::InputChangedEventArgs;
 using adsk::core::Ptr;
 
-/// The inputs of a dialog that its handlers were told of while this lives.
+/// The inputs of a dialog that were reported to its handlers while this lives.
 class ChangedInputs final : public adsk::core::InputChangedEventHandler {
 public:
     explicit ChangedInputs(const Ptr<Command>& dialog) { dialog->inputChanged()->add(this); }
 
-    /// Their ids, oldest first, with a blank between.
+    /// Their ids, oldest first, with a space between.
     [[nodiscard]] std::string ids() const { return ids_; }
 
     void notify(const Ptr<InputChangedEventArgs>& eventArgs) override {
@@ -169,7 +169,7 @@ TEST_F(ColumnChoice, OfReferenceHidesUntilTheDialogOpensAgain) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(ColumnChoice, OfReferenceStaysOutOfSightBehindAChangeOfTab) {
+TEST_F(ColumnChoice, OfReferenceStaysOutOfSightAfterAChangeOfTab) {
     showStructure();
     session->choose("bomStructure_2", "Reference");
     showModel();
@@ -219,7 +219,7 @@ TEST_F(ColumnChoice, OfReferenceTakesTheIdsNumberForATableRow) {
         Nut)");
     showStructure();
 
-    // The plate's id is 3, for two bolts stand in front of it; row 3 of the table is the rod's.
+    // The plate's id is 3, for there are two bolts before it; row 3 of the table is the rod's.
     session->choose("bomStructure_3", "Reference");
 
     EXPECT_EQ(table(), text(R"(
@@ -228,7 +228,7 @@ TEST_F(ColumnChoice, OfReferenceTakesTheIdsNumberForATableRow) {
         4 | Part | Nut)"));
 }
 
-TEST_F(ColumnChoice, OfReferenceBehindTheTablesEndThrowsAndHidesNothing) {
+TEST_F(ColumnChoice, OfReferenceBeyondTheTablesEndThrowsAndHidesNothing) {
     open(R"(
         Bolt
         Bolt

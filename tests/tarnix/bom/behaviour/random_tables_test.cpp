@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-/// The product's folding and sorting against plain ones, on tables that no design gives.
+/// The product's folding and sorting against the references, on tables that no design leads to.
 namespace test_support {
 namespace {
 
@@ -49,7 +49,7 @@ std::string describe(const Ptr<TableCommandInput>& table) {
 }
 
 /// What `act` throws, empty for nothing.
-std::string raisedBy(const std::function<void()>& act) {
+std::string thrownBy(const std::function<void()>& act) {
     try {
         act();
     } catch (const std::exception& error) {
@@ -64,19 +64,19 @@ protected:
     void show(const std::string& id, std::mt19937& random,
               const std::function<void(std::mt19937&, const Ptr<CommandInputs>&,
                                        const Ptr<TableCommandInput>&)>& fill) {
-        SyntheticDialog dialog("Own" + std::to_string(shown_++),
+        SyntheticDialog dialog("Synthetic" + std::to_string(shown_++),
                                [&](const Ptr<CommandInputs>& inputs) {
                                    std::mt19937 again = random;
                                    product = inputs->addTableCommandInput(id, "", kColumns, "");
                                    fill(random, inputs, product);
-                                   plain = inputs->addTableCommandInput(id, "", kColumns, "");
-                                   fill(again, inputs, plain);
+                                   expected = inputs->addTableCommandInput(id, "", kColumns, "");
+                                   fill(again, inputs, expected);
                                });
         dialog.open();
     }
 
     Ptr<TableCommandInput> product;
-    Ptr<TableCommandInput> plain;
+    Ptr<TableCommandInput> expected;
 
 private:
     int shown_ = 0;
@@ -120,7 +120,7 @@ void fillTree(std::mt19937& random, const Ptr<CommandInputs>& inputs,
     }
 }
 
-TEST_F(RandomTables, FoldLikeThePlainOnes) {
+TEST_F(RandomTables, FoldLikeTheReference) {
     std::mt19937 random(20);
     const std::array<const char*, 3> ids = {"QEMA_bom_models", "QEMA_bom_structure", "other"};
     for (int i = 0; i < kTables; ++i) {
@@ -130,9 +130,9 @@ TEST_F(RandomTables, FoldLikeThePlainOnes) {
         const std::string before = describe(product);
 
         tarnix::collapseRows(product, row, showChildren);
-        reference::collapseRows(plain, row, showChildren);
+        reference::collapseRows(expected, row, showChildren);
 
-        ASSERT_EQ(describe(product), describe(plain))
+        ASSERT_EQ(describe(product), describe(expected))
             << "table " << i << ", row " << row << (showChildren ? " shown" : " hidden") << " in\n"
             << before;
     }
@@ -185,7 +185,7 @@ void fillParts(std::mt19937& random, const Ptr<CommandInputs>& inputs,
     }
 }
 
-TEST_F(RandomTables, SortLikeThePlainOnes) {
+TEST_F(RandomTables, SortLikeTheReference) {
     std::mt19937 random(4);
     const std::array<const char*, 4> orders = {"Ascending", "Descending", "Ascending", "Sideways"};
     for (int i = 0; i < kTables; ++i) {
@@ -194,15 +194,15 @@ TEST_F(RandomTables, SortLikeThePlainOnes) {
         const std::string order = draw(random, orders);
         const std::string before = describe(product);
 
-        const std::string raisedByProduct = raisedBy([&] {
+        const std::string thrownByProduct = thrownBy([&] {
             tarnix::sortStructureTable(product, product->getInputAtPosition(0, column), order);
         });
-        const std::string raisedByPlain = raisedBy([&] {
-            reference::sortStructureTable(plain, plain->getInputAtPosition(0, column), order);
+        const std::string thrownByReference = thrownBy([&] {
+            reference::sortStructureTable(expected, expected->getInputAtPosition(0, column), order);
         });
 
-        ASSERT_EQ(raisedByProduct, raisedByPlain) << before;
-        ASSERT_EQ(describe(product), describe(plain))
+        ASSERT_EQ(thrownByProduct, thrownByReference) << before;
+        ASSERT_EQ(describe(product), describe(expected))
             << "table " << i << ", column " << column << " " << order << " in\n"
             << before;
     }

@@ -24,8 +24,8 @@ long depthOf(const std::string& position) {
     return std::count(position.begin(), position.end(), '.');
 }
 
-/// `text` in front of its `n`-th point, counted from 1.
-std::string inFrontOfPoint(const std::string& text, long n) {
+/// `text` up to its `n`-th point, counted from 1.
+std::string upToPoint(const std::string& text, long n) {
     std::size_t at = 0;
     for (long i = 0; i < n; ++i) {
         at = text.find('.', i == 0 ? 0 : at + 1);
@@ -74,8 +74,7 @@ void collapseRows(const Ptr<TableCommandInput>& table, int row, bool showChildre
         if (showChildren && depthOf(q) - depthOf(p) >= 2) {
             continue;
         }
-        const std::string ancestor =
-            depthOf(p) < depthOf(q) ? inFrontOfPoint(q, depthOf(p) + 1) : q;
+        const std::string ancestor = depthOf(p) < depthOf(q) ? upToPoint(q, depthOf(p) + 1) : q;
         if (ancestor != p) {
             continue;
         }

@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// Sorting as plainly as it can be told, with all rows looked through again for each of them. Slow
-/// on purpose: the product's own is compared with it.
+/// Sorting as plainly as it can be written, with all rows looked through again for each of them.
+/// Slow on purpose: the product's own is compared with it.
 namespace reference {
 
 void sortStructureTable(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,

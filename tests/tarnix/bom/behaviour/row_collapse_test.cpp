@@ -92,7 +92,7 @@ TEST_F(RowCollapse, ExpandingShowsTheDirectChildrenOnly) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(RowCollapse, ExpandingGivesTheOtherIconAndAFoldedChildKeepsItsOwn) {
+TEST_F(RowCollapse, ExpandingSetsTheOtherIconAndAFoldedChildKeepsItsOwn) {
     click(kFrame);
 
     EXPECT_EQ(icon(kFrame), "UnColapseAsm");
@@ -216,18 +216,18 @@ TEST_F(RowCollapse, OfTheStructureTablesHeaderDoesNothing) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(RowCollapse, OfARowOfTheStructureTableRaises) {
+TEST_F(RowCollapse, OfARowOfTheStructureTableThrows) {
     showStructure();
     const std::string before = shownTable();
 
-    // Nobody can click there: the cell is an image.
+    // The user cannot click there: the cell is an image.
     host::reportChange(session->input("colapseRow_1"));
 
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of colapseRow_1");
     EXPECT_EQ(shownTable(), before);
 }
 
-TEST_F(RowCollapse, OfARowBehindTheTablesEndRaises) {
+TEST_F(RowCollapse, OfARowBeyondTheTablesEndThrows) {
     // The ids stay, so that the last row's number is one more than the table has.
     ASSERT_TRUE(shownTableInput()->deleteRow(1));
     const std::string before = shownTable();
@@ -238,7 +238,7 @@ TEST_F(RowCollapse, OfARowBehindTheTablesEndRaises) {
     EXPECT_EQ(shownTable(), before);
 }
 
-TEST_F(RowCollapse, MatchesPositionsBehindAnIndent) {
+TEST_F(RowCollapse, MatchesPositionsAfterAnIndent) {
     const Ptr<adsk::core::StringValueCommandInput> field = session->input("positionOcc_3");
     field->value("`_ -|2.1");
 

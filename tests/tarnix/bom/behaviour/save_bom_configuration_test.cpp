@@ -113,7 +113,7 @@ TEST_F(BomConfiguration, ClosesTheGapsBetweenChosenColumns) {
     EXPECT_EQ(value("colUsrHeader_4"), "not used");
 }
 
-TEST_F(BomConfiguration, TwiceInARowGivesTheSameFile) {
+TEST_F(BomConfiguration, TwiceInARowWritesTheSameFile) {
     showConfiguration();
     session->choose("iProperty_0", "Mass");
     save();

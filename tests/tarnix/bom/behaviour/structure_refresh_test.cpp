@@ -62,7 +62,7 @@ TEST_F(StructureRefresh, WorksTheMassOutAgainEachTime) {
 
     showStructure();
 
-    // The two bolts' rows still stand: the first one counts for two now.
+    // The two bolts' rows are still there: the first one counts for two now.
     EXPECT_EQ(value("idAllMass"), "3.140");
 }
 
@@ -75,7 +75,7 @@ TEST_F(StructureRefresh, OfADesignWithoutOccurrencesShowsTheHeaderAndNoMass) {
     EXPECT_EQ(value("idAllMass"), "0.000");
 }
 
-TEST_F(StructureRefresh, GivesNoWidthToColumnsThatAreNotConfigured) {
+TEST_F(StructureRefresh, LeavesNoWidthToColumnsThatAreNotConfigured) {
     open("Plate");
 
     showStructure();
@@ -83,7 +83,7 @@ TEST_F(StructureRefresh, GivesNoWidthToColumnsThatAreNotConfigured) {
     EXPECT_EQ(session->table(kStructureTable)->columnRatio(), "2:3:0:12:8:0:0:0:0:0:0");
 }
 
-TEST_F(StructureRefresh, GivesAWidthToEachConfiguredColumn) {
+TEST_F(StructureRefresh, SetsAWidthForEachConfiguredColumn) {
     configure({"QEMA_Mass;Mass", "QEMA_Area;Area"});
     open("Plate");
 
@@ -92,7 +92,7 @@ TEST_F(StructureRefresh, GivesAWidthToEachConfiguredColumn) {
     EXPECT_EQ(session->table(kStructureTable)->columnRatio(), "2:3:0:12:8:8:8:0:0:0:0");
 }
 
-TEST_F(StructureRefresh, GivesAWidthToSixColumnsAtMost) {
+TEST_F(StructureRefresh, SetsAWidthForSixColumnsAtMost) {
     open("Plate");
     showStructure();
     showModel();
@@ -103,7 +103,7 @@ TEST_F(StructureRefresh, GivesAWidthToSixColumnsAtMost) {
     EXPECT_EQ(session->table(kStructureTable)->columnRatio(), "2:3:0:12:8:8:8:8:8:8:8");
 }
 
-TEST_F(StructureRefresh, GivesTheModelTableItsHeaderAndWidthsBack) {
+TEST_F(StructureRefresh, RestoresTheHeaderAndWidthsOfTheModelTable) {
     configure({"QEMA_Mass;Mass"});
     open("Plate");
     showStructure();

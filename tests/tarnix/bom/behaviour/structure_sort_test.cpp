@@ -34,7 +34,7 @@ TEST_F(StructureSort, OfPartNumbersGoesByBytes) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(StructureSort, DescendingGivesTheReverse) {
+TEST_F(StructureSort, DescendingReversesTheRows) {
     open(R"(
         One  number=B
         Two  number=a
@@ -200,7 +200,7 @@ TEST_F(StructureSort, OfTheGraphColumnMovesNothing) {
     session->choose("QEMA_droDown_AscDesc", "Descending");
     session->clearUncaughtExceptions();
 
-    // Nobody can click there: the column has no width.
+    // The user cannot click there: the column has no width.
     host::reportChange(session->input("graphPositionOcc_0"));
 
     EXPECT_EQ(table(), text(R"(
@@ -311,21 +311,22 @@ TEST_F(StructureSort, TakesHiddenRowsAlongAndKeepsThemHidden) {
     EXPECT_FALSE(shownTableInput()->getInputAtPosition(2, 3)->isVisible());
 }
 
-TEST_F(StructureSort, OfOneRowMovesItBehindTheTablesRows) {
+TEST_F(StructureSort, OfOneRowMovesItAfterTheTablesRows) {
     open("Only");
     showStructure();
     ASSERT_TRUE(shownTableInput()->getInputAtPosition(1, 5));
 
     sortBy("partNumberOcc_0", "Ascending");
 
-    // The cells of columns without a property stay behind, and go with the row that was closed up.
+    // The cells of columns without a property stay where they are, and go with the row that was
+    // closed up.
     EXPECT_FALSE(shownTableInput()->getInputAtPosition(1, 5));
     EXPECT_EQ(shownTableInput()->rowCount(), 2);
     EXPECT_EQ(table(), "1 | Part | Only");
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(StructureSort, OfATableWithoutRowsRaises) {
+TEST_F(StructureSort, OfATableWithoutRowsThrows) {
     open("");
     showStructure();
 

@@ -8,7 +8,7 @@
 
 namespace test_support {
 
-/// A dialog of the test's own, for tables that the add-in's dialog has none of.
+/// A dialog that a test makes, for tables that the add-in's dialog does not have.
 class SyntheticDialog final : public adsk::core::CommandCreatedEventHandler {
 public:
     using Build = std::function<void(const adsk::core::Ptr<adsk::core::CommandInputs>&)>;

@@ -66,14 +66,14 @@ TEST_F(SyntheticFolding, UnfoldingTheFirstRowDoesNothing) {
     EXPECT_EQ(state(), text(kUntouched));
 }
 
-TEST_F(SyntheticFolding, OfTheRowBehindTheLastDoesNothing) {
+TEST_F(SyntheticFolding, OfTheRowAfterTheLastDoesNothing) {
     EXPECT_NO_THROW(collapseRows(rows, 3, /*showChildren=*/false));
     EXPECT_NO_THROW(collapseRows(rows, 3, /*showChildren=*/true));
 
     EXPECT_EQ(state(), text(kUntouched));
 }
 
-TEST_F(SyntheticFolding, OfARowFarBehindTheLastDoesNothing) {
+TEST_F(SyntheticFolding, OfARowFarBeyondTheLastDoesNothing) {
     EXPECT_NO_THROW(collapseRows(rows, 8, /*showChildren=*/false));
     EXPECT_NO_THROW(collapseRows(rows, 8, /*showChildren=*/true));
 

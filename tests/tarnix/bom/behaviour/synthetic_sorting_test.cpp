@@ -37,7 +37,7 @@ protected:
 TEST_F(SyntheticSorting, ByATextLeavesARowWithATextBoxWhereItIs) {
     constexpr int kTextColumn = 3;
     Ptr<CommandInput> header;
-    show("own", kTextColumn, [&](const Ptr<CommandInputs>& inputs) {
+    show("synthetic", kTextColumn, [&](const Ptr<CommandInputs>& inputs) {
         header = inputs->addBoolValueInput("part_0", "", false);
         addRow(inputs, kTextColumn, inputs->addStringValueInput("part_1", "", "c"));
         addRow(inputs, kTextColumn, inputs->addTextBoxCommandInput("part_2", "", "a", 1, true));
@@ -46,14 +46,14 @@ TEST_F(SyntheticSorting, ByATextLeavesARowWithATextBoxWhereItIs) {
 
     sortStructureTable(rows, header, "Descending");
 
-    // The sorted rows went behind the one that was dropped from the sort.
+    // The sorted rows went after the one that was dropped from the sort.
     EXPECT_EQ(ids(kTextColumn), "part_2 part_1 part_3");
 }
 
 TEST_F(SyntheticSorting, ByANumberLeavesARowWithAnImageWhereItIs) {
     constexpr int kNumberColumn = 5;
     Ptr<CommandInput> header;
-    show("own", kNumberColumn, [&](const Ptr<CommandInputs>& inputs) {
+    show("synthetic", kNumberColumn, [&](const Ptr<CommandInputs>& inputs) {
         header = inputs->addBoolValueInput("size_0", "", false);
         addRow(inputs, kNumberColumn, inputs->addStringValueInput("size_1", "", "9"));
         addRow(inputs, kNumberColumn, inputs->addStringValueInput("size_2", "", "10"));
@@ -68,7 +68,7 @@ TEST_F(SyntheticSorting, ByANumberLeavesARowWithAnImageWhereItIs) {
 TEST_F(SyntheticSorting, ByAColumnOfImagesAloneMovesNothing) {
     constexpr int kTextColumn = 4;
     Ptr<CommandInput> header;
-    show("own", kTextColumn, [&](const Ptr<CommandInputs>& inputs) {
+    show("synthetic", kTextColumn, [&](const Ptr<CommandInputs>& inputs) {
         header = inputs->addBoolValueInput("part_0", "", false);
         addRow(inputs, kTextColumn, inputs->addImageCommandInput("part_1", "", "a.png"));
         addRow(inputs, kTextColumn, inputs->addImageCommandInput("part_2", "", "b.png"));

@@ -11,7 +11,7 @@
 
 namespace test_support {
 
-/// A table of the test's own, with cells that the dialog's tables have none of.
+/// A table that a test makes, with cells that the dialog's tables do not have.
 class SyntheticTable : public BomDialogTest {
 protected:
     /// Shows a table of this id in a tab; `fill` makes its cells among the tab's inputs.
@@ -22,7 +22,7 @@ protected:
         using adsk::core::TabCommandInput;
         dialog_ = std::make_unique<SyntheticDialog>(
             "SyntheticTable", [&](const Ptr<CommandInputs>& inputs) {
-                const Ptr<TabCommandInput> tab = inputs->addTabCommandInput("ownTab", "");
+                const Ptr<TabCommandInput> tab = inputs->addTabCommandInput("syntheticTab", "");
                 rows = tab->children()->addTableCommandInput(id, "", columns, "");
                 fill(tab->children());
             });

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-/// What the dialog's own tables hold no cells for is shown on a table of the test's own.
+/// Behaviour that no cell of the dialog's tables can show, on a table that the test makes.
 namespace test_support {
 namespace {
 
@@ -15,23 +15,23 @@ using adsk::core::DropDownCommandInput;
 using adsk::core::Ptr;
 using adsk::core::TextListDropDownStyle;
 
-TEST_F(SyntheticTable, IsExportedWithTheUnderscoresOfItsTextBoxesAsBlanks) {
-    show("own", 1, [&](const Ptr<CommandInputs>& inputs) {
+TEST_F(SyntheticTable, IsExportedWithTheUnderscoresOfItsTextBoxesAsSpaces) {
+    show("synthetic", 1, [&](const Ptr<CommandInputs>& inputs) {
         rows->addCommandInput(inputs->addStringValueInput("", "", "first"), 0, 0);
         rows->addCommandInput(inputs->addTextBoxCommandInput("", "", "a_b", 1, true), 0, 1);
         inputs->addStringValueInput("idAllMass", "", "1.000");
     });
 
-    tarnix::writeBomCsv("own.csv", rows);
+    tarnix::writeBomCsv("synthetic.csv", rows);
 
-    EXPECT_EQ(readFile("own.csv"),
+    EXPECT_EQ(readFile("synthetic.csv"),
               "a b;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;1.000\r\n");
 }
 
 TEST_F(SyntheticTable, IsExportedWithoutCellsThatHoldNoText) {
-    show("own", 4, [&](const Ptr<CommandInputs>& inputs) {
+    show("synthetic", 4, [&](const Ptr<CommandInputs>& inputs) {
         rows->addCommandInput(inputs->addStringValueInput("", "", "first"), 0, 0);
         rows->addCommandInput(inputs->addImageCommandInput("", "", "x.png"), 0, 1);
         rows->addCommandInput(inputs->addStringValueInput("", "", "graph"), 0, 2);
@@ -39,9 +39,9 @@ TEST_F(SyntheticTable, IsExportedWithoutCellsThatHoldNoText) {
         inputs->addStringValueInput("idAllMass", "");
     });
 
-    tarnix::writeBomCsv("own.csv", rows);
+    tarnix::writeBomCsv("synthetic.csv", rows);
 
-    EXPECT_EQ(readFile("own.csv"),
+    EXPECT_EQ(readFile("synthetic.csv"),
               "last;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;\r\n");
@@ -50,7 +50,7 @@ TEST_F(SyntheticTable, IsExportedWithoutCellsThatHoldNoText) {
 /// Tables with a drop-down in column 3, as no table of the dialog has.
 class SyntheticReferences : public SyntheticTable {
 protected:
-    /// A row for each position; in the one behind the header "Reference" is chosen.
+    /// A row for each position; in the one after the header "Reference" is chosen.
     void showReferences(const std::string& id, const std::vector<std::string>& positions) {
         show(id, 3, [&](const Ptr<CommandInputs>& inputs) {
             for (const std::string& position : positions) {
@@ -85,7 +85,7 @@ protected:
     }
 };
 
-TEST_F(SyntheticReferences, InATableOfTheCaptionsIdHideTheRowBehindThemAndWhatItBegins) {
+TEST_F(SyntheticReferences, InATableOfTheCaptionsIdHideTheRowAfterThemAndThoseBelowIt) {
     showReferences("BOM Structure", {"Pos.", "1", "2", "2.1", "2", "2.2", "3", "2.3"});
 
     tarnix::refreshStructureTable(nullptr, rows);

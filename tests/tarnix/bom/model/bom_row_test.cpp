@@ -34,7 +34,7 @@ TEST(FirstSetProperty, IsEmptyWhereNothingIsSet) {
     EXPECT_EQ(firstSetProperty(rowWith({})), "");
 }
 
-TEST(FirstSetProperty, IsACustomPropertyOfOneThatStandsInFront) {
+TEST(FirstSetProperty, IsACustomPropertyOfOneThatComesFirst) {
     EXPECT_EQ(firstSetProperty(rowWith({{"QEMA_Count", "1"}, {"Reference", "1"}})), "QEMA_Count");
 }
 

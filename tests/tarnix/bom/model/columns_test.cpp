@@ -100,7 +100,7 @@ TEST_F(CellTextTest, MeasuresTheComponent) {
     EXPECT_EQ(cell("QEMA_Density"), "2700.00");
 }
 
-TEST_F(CellTextTest, GivesTheBoxInMillimetresAlongTheAxes) {
+TEST_F(CellTextTest, ShowsTheBoxInMillimetresAlongTheAxes) {
     EXPECT_EQ(cell("QEMA_Length"), "120.0");
     EXPECT_EQ(cell("QEMA_Width"), "40.5");
     EXPECT_EQ(cell("QEMA_Height"), "12.0");
@@ -120,7 +120,7 @@ TEST_F(CellTextTest, TakesTheLastOfSeveralPropertiesOfOneKey) {
     EXPECT_EQ(cell("QEMA_Colour"), "blue");
 }
 
-TEST_F(CellTextTest, TellsColumnsByWhatFollowsFiveCharacters) {
+TEST_F(CellTextTest, DistinguishesColumnsByWhatFollowsFiveCharacters) {
     EXPECT_EQ(cell("XXXX-Mass"), "0.157");
     EXPECT_EQ(cell("Produce"), "");
 }

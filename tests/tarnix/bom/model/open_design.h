@@ -12,7 +12,7 @@ class OpenDesign {
 public:
     explicit OpenDesign(const host::DesignData& data);
 
-    /// Opens an outline, in which `structure=` and `property=` may stand.
+    /// Opens an outline, in which `structure=` and `property=` are known.
     explicit OpenDesign(const std::string& outline);
 
     OpenDesign(const OpenDesign&) = delete;

@@ -117,7 +117,7 @@ DesignData randomDesign(std::mt19937& random) {
         design.components.push_back(randomComponent(random, names[i], partNumbers));
     }
     std::map<std::size_t, int> uses;
-    // Children come from behind, so that no assembly contains itself.
+    // Children come from later components, so that no assembly contains itself.
     for (std::size_t parent = 0; parent < count; ++parent) {
         const bool isAssembly = parent == 0 || !oneIn(random, 3);
         const std::size_t children = isAssembly ? 1 + below(random, parent == 0 ? 6 : 4) : 0;

@@ -50,7 +50,8 @@ void mergeProperties(BomRow& target, const BomRow& current) {
     }
     for (std::size_t j = length; j < current.properties.size(); ++j) {
         if (!current.properties[j].value.empty()) {
-            target.properties.push_back(PropertyEntry{current.properties[j].name, kDifferent});
+            target.properties.push_back(
+                PropertyEntry{.name = current.properties[j].name, .value = kDifferent});
         }
     }
 }
@@ -150,7 +151,7 @@ std::vector<ShownRow> shownRows(const std::vector<BomRow>& rows) {
             continue;
         }
         seen.push_back(row);
-        shown.push_back({static_cast<int>(i) + 1, underDivided});
+        shown.push_back({.r = static_cast<int>(i) + 1, .underDivided = underDivided});
         const bool isAssembly = row.occurrence->childOccurrences()->count() > 0;
         if (isAssembly && path.find(lastAssemblyStem) == kNowhere && lastAssemblyStem != "empty") {
             lastAssemblyStem = "empty";

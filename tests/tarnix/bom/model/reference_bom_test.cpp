@@ -16,7 +16,7 @@
 namespace tarnix {
 namespace {
 
-/// Everything of the rows that can be told without their handles.
+/// Everything of the rows but their handles.
 std::string describe(const std::vector<BomRow>& rows) {
     std::ostringstream text;
     for (const auto& row : rows) {
@@ -38,7 +38,7 @@ std::vector<reference::ShownRow> shownRows(const std::vector<BomRow>& rows) {
     for (const auto& row : rows) {
         ++r;
         if (filter.accept(row)) {
-            shown.push_back({r, filter.isUnderDivided()});
+            shown.push_back({.r = r, .underDivided = filter.isUnderDivided()});
         }
     }
     return shown;
@@ -80,19 +80,23 @@ Outcome outcomeOf(const host::DesignData& data) {
     const OpenDesign design(data);
     BomModel model;
     const auto rows = walkOccurrencesMerged(model, design.occurrences(), 1);
-    return {describe(rows), joined(model.userPropertyNames), design.descriptions(),
-            describe(shownRows(rows))};
+    return {.rows = describe(rows),
+            .userPropertyNames = joined(model.userPropertyNames),
+            .descriptions = design.descriptions(),
+            .shown = describe(shownRows(rows))};
 }
 
 Outcome referenceOutcomeOf(const host::DesignData& data) {
     const OpenDesign design(data);
     BomModel model;
     const auto rows = reference::walkOccurrencesMerged(model, design.occurrences(), 1);
-    return {describe(rows), joined(model.userPropertyNames), design.descriptions(),
-            describe(reference::shownRows(rows))};
+    return {.rows = describe(rows),
+            .userPropertyNames = joined(model.userPropertyNames),
+            .descriptions = design.descriptions(),
+            .shown = describe(reference::shownRows(rows))};
 }
 
-TEST(RandomDesigns, MergeAndAreFilteredAsThePlainAlgorithmsTell) {
+TEST(RandomDesigns, MergeAndAreFilteredLikeTheReference) {
     constexpr unsigned kDesigns = 1200;
     for (unsigned seed = 1; seed <= kDesigns; ++seed) {
         std::mt19937 random(seed);

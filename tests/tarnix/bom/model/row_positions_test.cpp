@@ -48,7 +48,7 @@ TEST_F(RowPositionsTest, NestedRowsStandUnderTheNumberOfTheirParent) {
         (Texts{"1", "1.1", "1.1.1", "1.2", "2"}));
 }
 
-TEST_F(RowPositionsTest, ASiblingBehindTwoFinishedLevelsGoesOnWhereItsLevelStood) {
+TEST_F(RowPositionsTest, ASiblingAfterTwoFinishedLevelsGoesOnWhereItsLevelWas) {
     EXPECT_EQ(number({row(1, 1, 2), row(2, 1, 1), row(3, 1, 1), row(4, 1, 0, true), row(2, 2, 1),
                       row(3, 1, 0, true)}),
               (Texts{"1", "1.1", "1.1.1", "1.1.1.1", "1.2", "1.2.1"}));

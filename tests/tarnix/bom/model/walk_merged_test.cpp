@@ -29,7 +29,7 @@ std::string items(const std::vector<BomRow>& rows) {
     return all;
 }
 
-/// The properties of the first row, behind the part number.
+/// The properties of the first row, after the part number.
 std::string firstProperties(const OpenDesign& design) {
     const BomRow row = merge(design).at(0);
     std::string all;
@@ -102,7 +102,7 @@ TEST(Merging, TakesAChildWithTheNumberOfItsTopAssemblyForThatAssembly) {
         1 Asm:1+Bolt:1)"));
 }
 
-TEST(Merging, WritesTheMarkerOnceInFrontOfTheFirstOfThreeDescriptions) {
+TEST(Merging, WritesTheMarkerOnceBeforeTheFirstOfThreeDescriptions) {
     const OpenDesign design(R"(
         Bolt  number=P description=long
         Screw  number=P description=short
@@ -169,7 +169,7 @@ TEST(Merging, ComparesPropertiesByPlaceAndNotByKey) {
         QEMA_Size=***different***)"));
 }
 
-TEST(Merging, KeepsAMarkerThatStandsAlready) {
+TEST(Merging, KeepsAMarkerThatIsThereAlready) {
     const OpenDesign design(R"(
         Bolt  number=P property=Colour/***different***
         Screw  number=P property=Colour/red)");

@@ -151,7 +151,7 @@ TEST(UserPropertyNames, LoseFiveCharactersWhateverTheyAre) {
     EXPECT_EQ(model.userPropertyNames, (std::vector<std::string>{" of it", "", "ce"}));
 }
 
-TEST(UserPropertyNames, RaiseForAKeyThatIsShorterThanThePrefix) {
+TEST(UserPropertyNames, ThrowForAKeyThatIsShorterThanThePrefix) {
     BomModel model;
     try {
         collectUserPropertyNames(model, {{"Size", "M8"}});

@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-/// Hosts differ in which changes that code makes they tell the handlers. The dialog has to come out
-/// the same on all of them.
+/// Hosts differ in which of the changes that code makes they report to the handlers. The dialog has
+/// to come out the same on all of them.
 namespace test_support {
 namespace {
 
 using host::CodeChanges;
 
-/// What a person sees and keeps of one use of the dialog.
+/// What the user sees and keeps of one use of the dialog.
 struct Outcome {
     std::string configuration;  ///< the table of the columns before it is saved
     std::string settings;       ///< bytes of the settings file
@@ -66,17 +66,17 @@ protected:
         session->paste("partNumberOcc_1", "F-9");
     }
 
-    void startHostThatTells(CodeChanges told) {
+    void startHostThatReports(CodeChanges reported) {
         host::SessionOptions with = addinOptions();
-        with.host.codeChanges = told;
+        with.host.codeChanges = reported;
         restart(with);
         EXPECT_TRUE(run());
     }
 
     /// Unfolds an assembly and the one in it, and folds that again: the graphs that this writes are
     /// changes too.
-    void fold(CodeChanges told) {
-        startHostThatTells(told);
+    void fold(CodeChanges reported) {
+        startHostThatReports(reported);
         open(R"(
             Frame
               Leg assembly
@@ -89,9 +89,9 @@ protected:
         session->click("modelColapseRow_2");
     }
 
-    /// Uses the whole dialog in a host that tells these changes.
-    Outcome use(CodeChanges told) {
-        startHostThatTells(told);
+    /// Uses the whole dialog in a host that reports these changes.
+    Outcome use(CodeChanges reported) {
+        startHostThatReports(reported);
         open(R"(
             Frame  box=10x10x1 material=Sheet:0.01 property=Supplier/Acme
             Bolt  box=10x5x1 material=Sheet:0.01
@@ -111,7 +111,7 @@ protected:
     }
 };
 
-TEST_F(ChangesByCode, LeaveTheTableAndTheDesignOfAHostThatTellsNone) {
+TEST_F(ChangesByCode, LeaveTheTableAndTheDesignOfAHostThatReportsNone) {
     const Outcome outcome = use(CodeChanges::None);
 
     EXPECT_EQ(outcome.structure, text(R"(
@@ -124,19 +124,19 @@ TEST_F(ChangesByCode, LeaveTheTableAndTheDesignOfAHostThatTellsNone) {
         )") + "\n");
 }
 
-TEST_F(ChangesByCode, OfListsMakeNoDifferenceWhereTheyAreTold) {
-    const Outcome told = use(CodeChanges::Lists);
+TEST_F(ChangesByCode, OfListsMakeNoDifferenceWhereTheyAreReported) {
+    const Outcome reported = use(CodeChanges::Lists);
 
-    EXPECT_EQ(told, use(CodeChanges::None));
+    EXPECT_EQ(reported, use(CodeChanges::None));
 }
 
-TEST_F(ChangesByCode, OfAnyKindMakeNoDifferenceWhereTheyAreTold) {
-    const Outcome told = use(CodeChanges::All);
+TEST_F(ChangesByCode, OfAnyKindMakeNoDifferenceWhereTheyAreReported) {
+    const Outcome reported = use(CodeChanges::All);
 
-    EXPECT_EQ(told, use(CodeChanges::None));
+    EXPECT_EQ(reported, use(CodeChanges::None));
 }
 
-TEST_F(ChangesByCode, ThatFoldingMakesLeaveTheRowsOfAHostThatTellsNone) {
+TEST_F(ChangesByCode, ThatFoldingMakesLeaveTheRowsOfAHostThatReportsNone) {
     fold(CodeChanges::None);
 
     EXPECT_EQ(table(), text(R"(
@@ -146,12 +146,12 @@ TEST_F(ChangesByCode, ThatFoldingMakesLeaveTheRowsOfAHostThatTellsNone) {
         2   | Part         | Bolt)"));
 }
 
-TEST_F(ChangesByCode, ThatFoldingMakesMakeNoDifferenceWhereTheyAreTold) {
+TEST_F(ChangesByCode, ThatFoldingMakesMakeNoDifferenceWhereTheyAreReported) {
     fold(CodeChanges::All);
-    const std::string told = shownTable();
+    const std::string reported = shownTable();
     fold(CodeChanges::None);
 
-    EXPECT_EQ(told, shownTable());
+    EXPECT_EQ(reported, shownTable());
 }
 
 }  // namespace

@@ -142,7 +142,7 @@ TEST_F(BomConfigurationTab, SelectsTheLastEntryOfAUserPropertyNamedLikeAFixedOne
     EXPECT_EQ(freeColumn(0), "used | Weight | Mass");
 }
 
-TEST_F(BomConfigurationTab, WithMoreThanSixItemsThrowsBehindTheSixth) {
+TEST_F(BomConfigurationTab, WithMoreThanSixItemsThrowsAfterTheSixth) {
     configure({"QEMA_Mass;1", "QEMA_Area;2", "QEMA_Volume;3", "QEMA_Length;4", "QEMA_Width;5",
                "QEMA_Height;6", "QEMA_Density;7"});
     open("Bolt");

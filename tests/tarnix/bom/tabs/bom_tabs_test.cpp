@@ -21,14 +21,14 @@ std::string head(const char* kind, const Ptr<CommandInput>& input) {
     return std::string(kind) + " " + input->id() + " \"" + input->name() + "\"";
 }
 
-std::string shownBehind(const std::string& text) { return text.empty() ? "" : " " + text; }
+std::string shownAfter(const std::string& text) { return text.empty() ? "" : " " + text; }
 
 std::string describeButton(const Ptr<BoolValueCommandInput>& button) {
     return head(button->isCheckBox() ? "check box" : "button", button) +
-           shownBehind(button->resourceFolder()) + (button->value() ? " on" : " off");
+           shownAfter(button->resourceFolder()) + (button->value() ? " on" : " off");
 }
 
-/// What a person reads in a cell.
+/// What the user reads in a cell.
 std::string shown(const Ptr<CommandInput>& input) {
     if (const Ptr<StringValueCommandInput> line = input) {
         return line->value();
@@ -49,15 +49,15 @@ std::string describe(const Ptr<CommandInput>& input) {
     if (const Ptr<BoolValueCommandInput> button = input) {
         all = describeButton(button);
     } else if (const Ptr<StringValueCommandInput> line = input) {
-        all = head("text", line) + shownBehind(line->value()) +
+        all = head("text", line) + shownAfter(line->value()) +
               (line->isReadOnly() ? "  read-only" : "");
     } else if (const Ptr<TextBoxCommandInput> box = input) {
-        all = head("text box", box) + shownBehind(box->formattedText()) +
+        all = head("text box", box) + shownAfter(box->formattedText()) +
               (box->isReadOnly() ? "  read-only" : "");
     } else if (const Ptr<DropDownCommandInput> dropDown = input) {
-        all = head("choice", dropDown) + shownBehind(items(dropDown));
+        all = head("choice", dropDown) + shownAfter(items(dropDown));
     } else if (const Ptr<ImageCommandInput> image = input) {
-        all = head("image", image) + shownBehind(image->imageFile());
+        all = head("image", image) + shownAfter(image->imageFile());
     } else if (input) {
         all = head("other", input);
     }

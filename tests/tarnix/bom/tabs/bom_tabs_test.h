@@ -22,7 +22,7 @@ protected:
     /// shows. Two spaces and "hidden" follow where it is not visible.
     [[nodiscard]] std::string row(const char* table, int index) const;
 
-    /// The ids of a table's row, with a blank in front of each.
+    /// The ids of a table's row, with a space before each.
     [[nodiscard]] std::string ids(const char* table, int index) const;
 
     /// What one column shows, from row 1 to the last, a line each.

@@ -54,7 +54,7 @@ TEST_F(DataOfModelTab, ShowsAnAssemblyAndHidesWhatIsInIt) {
         10 text _2 "")"));
 }
 
-TEST_F(DataOfModelTab, ShowsTheConfiguredColumnsBehindTheFixedOnes) {
+TEST_F(DataOfModelTab, ShowsTheConfiguredColumnsAfterTheFixedOnes) {
     configure({"QEMA_Mass;Mass", "QEMA_Colour;Masses"});
     open(R"(
         Asm
@@ -114,7 +114,7 @@ TEST_F(DataOfModelTab, StartsItsNumbersAgainWhenTheAddinWasReloaded) {
     EXPECT_EQ(column(kModelTable, 1), "1");
 }
 
-TEST_F(DataOfModelTab, WithoutItemsGivesWidthToTheFixedColumnsAlone) {
+TEST_F(DataOfModelTab, WithoutItemsLeavesWidthToTheFixedColumnsAlone) {
     open("Bolt");
     openBom();
     EXPECT_EQ(ratio(kModelTable), "2:0:8:12:8:0:0:0:0:0:0:0");
@@ -169,7 +169,7 @@ TEST_F(SevenItems, OfANestedDesignEndTheDialogInAPlainException) {
     EXPECT_EQ(tabs(), "QEMA_tab_models_BOM \"Data of Model\"");
 }
 
-TEST_F(DataOfModelTab, WritesUnitsBehindTheirFourLabels) {
+TEST_F(DataOfModelTab, WritesUnitsAfterTheirFourLabels) {
     configure({"QEMA_Mass;Mass", "QEMA_Area;Area", "QEMA_Density;Density", "QEMA_Volume;Volume",
                "QEMA_Length;Length"});
     open("Bolt");

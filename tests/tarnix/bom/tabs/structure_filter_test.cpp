@@ -13,7 +13,7 @@ namespace {
 
 using test_support::text;
 
-/// The paths of the shown rows, with "^" in front of those that were handed up.
+/// The paths of the shown rows, with "^" before those that were handed up.
 std::string shown(const OpenDesign& design) {
     BomModel model;
     StructureFilter filter;
@@ -99,7 +99,7 @@ TEST(StructureFilter, ForgetsAStructureThatMergingOverwrote) {
               "Stand:1");
 }
 
-TEST(StructureFilter, TakesACustomPropertyOfOneInFrontForTheStructure) {
+TEST(StructureFilter, TakesACustomPropertyOfOneThatComesFirstForTheStructure) {
     EXPECT_EQ(shown(OpenDesign("Stand  property=Count/1 structure=Reference")), "Stand:1");
 }
 
@@ -120,7 +120,7 @@ TEST(StructureFilter, DropsWhatHoldsTheStemOfTheLastAssembly) {
               "Asm:1\nNut:1");
 }
 
-TEST(StructureFilter, ShowsWhatHoldsTheStemDirectlyBehindTheAssemblysParts) {
+TEST(StructureFilter, ShowsWhatHoldsTheStemDirectlyAfterTheAssemblysParts) {
     EXPECT_EQ(shown(OpenDesign(R"(
         Asm
           Bolt
@@ -128,7 +128,7 @@ TEST(StructureFilter, ShowsWhatHoldsTheStemDirectlyBehindTheAssemblysParts) {
               "Asm:1\nBig Asm bolt:1");
 }
 
-TEST(StructureFilter, DropsADeeperRowBehindTheEndOfASubtree) {
+TEST(StructureFilter, DropsADeeperRowAfterTheEndOfASubtree) {
     EXPECT_EQ(shown(OpenDesign(R"(
         Nut
         Frame  structure=Divided
@@ -140,7 +140,7 @@ TEST(StructureFilter, DropsADeeperRowBehindTheEndOfASubtree) {
 
 TEST(StructureFilter, CountsARowAboveTheDividedOneAsFarBelowIt) {
     // The last assembly is a further one of "Plate", so it is not shown and has no stem; its child
-    // stands one level above the divided "C", in whose path it lies by its name.
+    // is one level above the divided "C", in whose path it lies by its name.
     EXPECT_EQ(shown(OpenDesign(R"(
         A  structure=Divided
           B  structure=Divided

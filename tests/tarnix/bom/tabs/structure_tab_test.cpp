@@ -154,7 +154,7 @@ TEST_F(StructureTab, TwoInstancesOfAnAssemblyAreOneLineWithoutTheirChildren) {
 }
 
 TEST_F(StructureTab, DropsAPartThatHoldsTheStemOfTheAssemblyBeforeIt) {
-    // A row of the same level has to stand between: the row in front of the part is deeper
+    // A row of the same level has to come between: the row before the part is deeper
     // otherwise.
     open(R"(
         Asm
@@ -168,7 +168,7 @@ TEST_F(StructureTab, DropsAPartThatHoldsTheStemOfTheAssemblyBeforeIt) {
         2 | Part | Nut)"));
 }
 
-TEST_F(StructureTab, ShowsAPartWithTheStemDirectlyBehindTheAssembly) {
+TEST_F(StructureTab, ShowsAPartWithTheStemDirectlyAfterTheAssembly) {
     open(R"(
         Asm
           Bolt
