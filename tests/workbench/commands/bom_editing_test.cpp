@@ -10,6 +10,7 @@ namespace fs = std::filesystem;
 using test_support::firstLines;
 using test_support::isOneLine;
 using test_support::kSmallDesign;
+using test_support::loadDesign;
 using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::text;

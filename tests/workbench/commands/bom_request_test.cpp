@@ -77,9 +77,12 @@ TEST(BomRequest, OnlyTheLastOrderOfASortCounts) {
 }
 
 TEST(BomRequest, ASortOfTheModelIsRefused) {
-    EXPECT_EQ(
-        refusal([] { checkRequest({.tab = &workbench::kModelTab, .sort = parseSort("Mass")}); }),
-        "--sort requires --tab structure: the model tab has an order of its own");
+    BomRequest request;
+    request.tab = &workbench::kModelTab;
+    request.sort = parseSort("Mass");
+
+    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+              "--sort requires --tab structure: the model tab has an order of its own");
 }
 
 TEST(BomRequest, TheTreeIsExpandedToALevelOrCompletely) {
@@ -92,7 +95,10 @@ TEST(BomRequest, ALevelThatIsNotANumberIsRefused) {
 }
 
 TEST(BomRequest, AnExpandedStructureIsRefused) {
-    EXPECT_EQ(refusal([] { checkRequest({.levels = parseLevels("all")}); }),
+    BomRequest request;
+    request.levels = parseLevels("all");
+
+    EXPECT_EQ(refusal([&] { checkRequest(request); }),
               "--expand requires --tab model: the structure tab has no tree");
 }
 
@@ -110,6 +116,9 @@ TEST(BomRequest, AnEditOfAnotherFormIsRefused) {
 }
 
 TEST(BomRequest, AnEditThatIsNotSavedIsRefused) {
-    EXPECT_EQ(refusal([] { checkRequest({.edits = parseEdits({"1:Mass=1"})}); }),
+    BomRequest request;
+    request.edits = parseEdits({"1:Mass=1"});
+
+    EXPECT_EQ(refusal([&] { checkRequest(request); }),
               "--set requires --save: without it the edits are lost when the dialog closes");
 }
