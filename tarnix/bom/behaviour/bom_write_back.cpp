@@ -3,6 +3,7 @@
 #include "tarnix/bom/behaviour/open_dialog.h"
 #include "tarnix/bom/model/columns.h"
 #include "tarnix/bom/model/walk.h"
+#include "tarnix/bom/tabs/row_cells.h"
 #include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/properties/property_store.h"
 #include "tarnix/text/checked.h"

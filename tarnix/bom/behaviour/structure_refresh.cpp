@@ -2,6 +2,7 @@
 
 #include "tarnix/bom/behaviour/open_dialog.h"
 #include "tarnix/bom/model/walk.h"
+#include "tarnix/bom/tabs/row_cells.h"
 #include "tarnix/bom/tabs/structure_tab.h"
 #include "tarnix/bom/tabs/table_layout.h"
 #include "tarnix/text/checked.h"

@@ -1,6 +1,5 @@
 #include "tarnix/bom/model/columns.h"
 
-#include "tarnix/settings/settings_document.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/numbers.h"
 #include "tarnix/text/utf8.h"
@@ -133,14 +132,6 @@ std::string propertyText(const BomRow& row, const std::string& key) {
 std::string withoutPrefix(const std::string& key) {
     constexpr std::size_t kPrefixLength = 5;
     return substringFrom(key, kPrefixLength);
-}
-
-std::vector<Column> readColumns() {
-    std::vector<Column> columns;
-    for (const std::string& item : readCategoryItems("category", "bomItems")) {
-        columns.push_back(columnOf(item));
-    }
-    return columns;
 }
 
 Column columnOf(const std::string& item) {

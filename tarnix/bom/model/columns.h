@@ -26,9 +26,6 @@ struct Column {
     std::string label;  ///< its caption, without the unit
 };
 
-/// The configured columns, from left to right, as the settings document holds them.
-std::vector<Column> readColumns();
-
 /// Splits an item of the settings at its first ";" into key and label; without one it is its own
 /// key and its own label.
 Column columnOf(const std::string& item);

@@ -1,5 +1,6 @@
 #include "tarnix/bom/tabs/row_cells.h"
 
+#include "tarnix/settings/settings_document.h"
 #include "tarnix/text/numbers.h"
 
 #include <cstddef>
@@ -26,6 +27,14 @@ void addHeader(const Ptr<TableCommandInput>& table, const Ptr<CommandInputs>& in
 }
 
 }  // namespace
+
+std::vector<Column> readColumns() {
+    std::vector<Column> columns;
+    for (const std::string& item : readCategoryItems("category", "bomItems")) {
+        columns.push_back(columnOf(item));
+    }
+    return columns;
+}
 
 void placeCells(const Ptr<TableCommandInput>& table, int tableRow, const CellRow& cells) {
     int column = 0;

@@ -13,6 +13,9 @@
 /// tables themselves.
 namespace tarnix {
 
+/// The configured columns, from left to right, as the settings document holds them.
+std::vector<Column> readColumns();
+
 /// The cells of one row of a table, in the order of their columns.
 using CellRow = std::vector<adsk::core::Ptr<adsk::core::CommandInput>>;
 
