@@ -28,13 +28,13 @@ constexpr const char* kPlainException = "std::exception: ";
 struct Refusal {
     const char* name = "";
     const char* design = "Bolt";
-    std::vector<std::string> columns;
+    std::vector<std::string> columns = {};
     const char* call = "";
     std::uint64_t nth = 1;
 
     const char* tabs = kAllTabs;
-    std::vector<const char*> made;
-    std::vector<const char*> missing;
+    std::vector<const char*> made = {};
+    std::vector<const char*> missing = {};
     const char* thrown = "";  ///< type and text of the exception
 };
 
