@@ -4,9 +4,9 @@
 
 namespace {
 
+using host::assignNamesAndNumbers;
 using host::ComponentData;
 using host::ImportedComponent;
-using host::named;
 
 ImportedComponent component(const std::string& id, const std::string& name,
                             const std::vector<std::size_t>& children = {}) {
