@@ -3,10 +3,8 @@
 set(addin_source ${PROJECT_SOURCE_DIR}/tarnix)
 
 install(TARGETS tarnix_module LIBRARY DESTINATION Tarnix COMPONENT addin)
-install(FILES ${PROJECT_BINARY_DIR}/Tarnix/Tarnix.manifest
-              ${addin_source}/package/workbook/TarnixBOM.xlsm
-              ${addin_source}/package/THIRD-PARTY-NOTICES.txt
-              ${PROJECT_SOURCE_DIR}/LICENSE
+get_target_property(delivered_files tarnix_module DELIVERED_FILES)
+install(FILES ${PROJECT_BINARY_DIR}/Tarnix/Tarnix.manifest ${delivered_files}
         DESTINATION Tarnix COMPONENT addin)
 install(DIRECTORY ${addin_source}/Resources DESTINATION Tarnix COMPONENT addin)
 # The guides that "Open Help" opens, in the host's two languages.
