@@ -8,7 +8,7 @@ const path = require('node:path');
 const {zipSync} = require('fflate');
 const {vbaProject} = require('./vba_project.js');
 
-// The parts in the order in which they stand in the file; the content types come first.
+// The parts in their order in the file; the content types come first.
 const PARTS = [
   ['[Content_Types].xml', 'parts/content_types.xml'],
   ['_rels/.rels', 'parts/rels.xml'],
@@ -34,7 +34,7 @@ function workbook() {
   const files = {};
   for (const [name, source] of PARTS) files[name] = read(source);
   files['xl/vbaProject.bin'] = vbaProject(MACROS.map(macroModule));
-  // A zip file has local times and none earlier; what it says it was written on tells nothing.
+  // A zip file has local times and none earlier; its date means nothing.
   return zipSync(files, {level: 9, mtime: new Date(1980, 0, 1), os: 0});
 }
 

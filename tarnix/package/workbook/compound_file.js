@@ -21,7 +21,7 @@ function words(values) {
   return buffer;
 }
 
-// Appends a chain of sectors to an allocation table and yields its first sector.
+// Appends a chain of sectors to an allocation table and returns its first sector.
 function allocate(table, count) {
   const first = table.length;
   for (let i = 1; i <= count; i++) table.push(i < count ? first + i : END);

@@ -1,5 +1,5 @@
 // The macro project of a workbook (MS-OVBA) from plain sources. It holds the sources alone, no compiled
-// code: a version of 0xFFFF tells the program that opens it to compile them.
+// code: a version of 0xFFFF makes the program that opens it to compile them.
 'use strict';
 
 const {compress} = require('./vba_compression.js');
@@ -8,7 +8,7 @@ const {compoundFile} = require('./compound_file.js');
 const PROJECT_NAME = 'TarnixBom';
 const PROJECT_ID = '{6E1B1C0A-52B7-4C0E-9B0A-5C1F60B1A7D3}';
 const STDOLE = '*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#C:\\Windows\\System32\\stdole2.tlb#OLE Automation';
-// The kinds of object that a document module stands for.
+// The kinds of object that a document module represents.
 const WORKBOOK = '0{00020819-0000-0000-C000-000000000046}';
 const WORKSHEET = '0{00020820-0000-0000-C000-000000000046}';
 
@@ -97,7 +97,7 @@ function nameMap(modules) {
   return Buffer.concat([...names, u16(0)]);
 }
 
-// The attributes that the editor hides, in front of the source; lines end in CR LF.
+// The attributes that the editor hides, before the source; lines end in CR LF.
 function moduleStream(module) {
   const attributes = [`Attribute VB_Name = "${module.name}"`];
   if (module.isDocument) {

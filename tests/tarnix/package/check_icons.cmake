@@ -1,4 +1,4 @@
-# The committed icons and images are what the drawings give: rendered again, each file is the same.
+# The committed icons and images are what the drawings render to: rendered again, each file is the same.
 #
 #   cmake -DROOT=<folder> -DOUT=<folder to render into> -P check_icons.cmake
 #
@@ -28,7 +28,7 @@ foreach(file IN LISTS committed)
     file(SHA256 ${ROOT}/tarnix/${file} old)
     file(SHA256 ${OUT}/${file} new)
     if(NOT old STREQUAL new)
-        message(SEND_ERROR "${file}: the drawing gives another picture; run scripts/render-icons")
+        message(SEND_ERROR "${file}: the drawing renders to another picture; run scripts/render-icons")
     endif()
 endforeach()
 list(LENGTH committed count)

@@ -58,9 +58,9 @@ execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out
 file(READ "${place}/TarnixBOM.csv" csv)
 string(REPLACE "\r" "" csv "${csv}")
 # Two bolts of half a kilogram are one line of one kilogram.
-set(told "Pos.;Part Number;BOM Structure;\n1;M8;Produce;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
-if(NOT csv STREQUAL told)
-    message(FATAL_ERROR "exported:\n${csv}\nexpected:\n${told}")
+set(expected_csv "Pos.;Part Number;BOM Structure;\n1;M8;Produce;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
+if(NOT csv STREQUAL expected_csv)
+    message(FATAL_ERROR "exported:\n${csv}\nexpected:\n${expected_csv}")
 endif()
 list(REMOVE_ITEM WORKBENCH "")
 list(LENGTH WORKBENCH words)

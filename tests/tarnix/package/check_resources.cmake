@@ -2,7 +2,7 @@
 #
 #   cmake -DROOT=<folder> -DTEXTS=<list> -P check_resources.cmake
 #
-# TEXTS lists every resource text that the add-in hands to the host, as it is spelled. A fault is one
+# TEXTS lists every resource path that the add-in passes to the host, as it is spelled. A fault is one
 # line; any makes the check fail:
 #   - a text in the sources that is not listed, or a listed one that no source names;
 #   - a file that a text needs and that is missing, or has another size: letters are compared as the

@@ -23,7 +23,7 @@ function chain(table, first) {
   return sectors;
 }
 
-// A compound file as its format tells to read it: each name is searched for in its storage's tree.
+// A compound file, read as its format prescribes: each name is searched for in its storage's tree.
 class Reader {
   constructor(file) {
     this.file = file;
@@ -147,7 +147,7 @@ test('TheDocumentModulesBearTheCodeNamesOfTheWorkbook', () => {
   assert.deepStrictEqual(documents, codeNames);
 });
 
-// The obfuscation undone: what stands behind version, key and the ignored bytes.
+// The obfuscation undone: what follows version, key and the ignored bytes.
 function decoded(key) {
   const text = reader.stream('PROJECT').toString();
   const bytes = unhex(text.match(new RegExp(`^${key}="(\\w+)"`, 'm'))[1]);

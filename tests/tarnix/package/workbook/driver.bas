@@ -1,4 +1,4 @@
-' Opens the workbook of each case as a person does, with macros allowed, and writes down what its sheet
+' Opens the workbook of each case as a user does, with macros allowed, and writes down what its sheet
 ' shows; then puts the case's next export in place and presses the button. The cases are the folders in
 ' the environment's WORKBOOK_CASES, parted by line ends.
 Sub Run()
@@ -28,7 +28,7 @@ Failed:
     WriteText(folder & "/failed.txt", "line " & Erl & ": " & Error)
 End Sub
 
-' The workbook's own macro comes to run once the window stands. Without it the first sentence stays.
+' The workbook's own macro runs once the window is open. Without it the first sentence stays.
 Sub AwaitMacro(book)
     Dim round As Integer
     delivered = book.Sheets(0).getCellRangeByName("B1").String
@@ -78,7 +78,7 @@ Function CellText(cell) As String
     CellText = Replace(address, "$", "") & " " & kind & " [" & Replace(cell.String, Chr(10), "\n") & "]" & Chr(10)
 End Function
 
-' With a point whatever the locale, and a digit in front of it.
+' With a point whatever the locale, and a digit before it.
 Function NumberText(value As Double) As String
     NumberText = Replace(Replace(Str(value), " .", "0."), "-.", "-0.")
     NumberText = Trim(NumberText)
