@@ -28,6 +28,12 @@ host::SessionOptions addinOptions() {
     return options;
 }
 
+host::SessionOptions addinWithIconsOptions() {
+    host::SessionOptions options = addinOptions();
+    options.addin = options.addin.parent_path().parent_path() / "Tarnix";
+    return options;
+}
+
 void AddinTest::SetUp() {
     restart(options());
     if (runsAtStart()) {

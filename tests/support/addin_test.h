@@ -24,6 +24,9 @@ inline constexpr const char* kExportButton = "QEMA_btnExportXls";
 /// The add-in as it was built, for tests that make sessions of their own.
 host::SessionOptions addinOptions();
 
+/// The same with the add-in's icons, which take time to copy.
+host::SessionOptions addinWithIconsOptions();
+
 /// A test that uses the add-in through its loaded module, as a person at the host does.
 ///
 /// Each test has a fresh session: private folders, default settings, statics as after loading.

@@ -54,7 +54,12 @@ TEST_F(MainCommands, ForOtherPurposesHaveTheirTexts) {
         ././Resources/OpenLocalFile)"));
 }
 
-TEST_F(MainCommands, NameIconFoldersThatTheAddinBrings) {
+class MainCommandsWithIcons : public MainCommands {
+protected:
+    [[nodiscard]] host::SessionOptions options() const override { return addinWithIconsOptions(); }
+};
+
+TEST_F(MainCommandsWithIcons, NameFoldersThatTheAddinBrings) {
     for (const char* id : {"QM_TX_BOM", "QM_TX_projectedEntitiesAsConstruction",
                            "QM_TX_configuration", "QM_HD_openHelp"}) {
         const auto folder = session->addin().resource(definition(id)->resourceFolder());

@@ -12,7 +12,7 @@ class StructureButtons : public PropertiesTest {
 protected:
     void press(const std::string& caption) { session->choose(kStructure, caption); }
 
-    /// Switches two buttons on and reports one change, as no person can.
+    /// Switches two buttons on and reports one change, as no user can.
     void switchOnProduceAndBuyAtOnce() {
         const adsk::core::Ptr<adsk::core::ButtonRowCommandInput> row = session->input(kStructure);
         row->listItems()->item(0)->isSelected(true);
@@ -34,7 +34,14 @@ protected:
     }
 };
 
-TEST_F(StructureButtons, HaveTheIconsOfTheAddin) {
+class StructureButtonsWithIcons : public StructureButtons {
+protected:
+    [[nodiscard]] host::SessionOptions options() const override {
+        return test_support::addinWithIconsOptions();
+    }
+};
+
+TEST_F(StructureButtonsWithIcons, NameFoldersThatTheAddinBrings) {
     openProperties();
     const adsk::core::Ptr<adsk::core::ButtonRowCommandInput> row = session->input(kStructure);
     ASSERT_EQ(row->listItems()->count(), 5U);
