@@ -48,7 +48,7 @@ TEST_F(OpenLocal, SavesWhatItCouldOpenAndReportsTheRest) {
 
     EXPECT_EQ(result.status, 1);
     // The add-in passes the path in lower case.
-    const std::string end = "missing.f3d: there is no such file\n";
+    const std::string end = "missing.f3d: no such file\n";
     EXPECT_EQ(test_support::firstLines(result.errors, 1), result.errors);
     EXPECT_EQ(result.errors.rfind("tarnix-workbench: opened 1 of 2 files: ", 0), 0U);
     EXPECT_EQ(result.errors.substr(result.errors.size() - end.size()), end);
