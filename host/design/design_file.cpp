@@ -1,5 +1,6 @@
 #include "host/design/design_file.h"
 
+#include "host/base/utf8_path.h"
 #include "host/design/atomic_file.h"
 #include "host/design/design_json.h"
 #include "host/design/json_node.h"
@@ -27,17 +28,8 @@ constexpr std::uintmax_t kMegabyte = std::uintmax_t{1} << 20;
 // Lists in lists are the one thing that takes more: a hundred bytes for each bracket.
 constexpr std::size_t kDeepestNesting = 100;
 
-std::string utf8(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
-fs::path fromUtf8(const std::string& text) {
-    return fs::path(std::u8string(text.begin(), text.end()));
-}
-
 [[noreturn]] void refuse(const fs::path& path, const std::string& reason) {
-    throw DesignError(utf8(path) + ": " + reason);
+    throw DesignError(toUtf8(path) + ": " + reason);
 }
 
 /// The prefix that a library puts before its message is of no use to the user.
@@ -112,7 +104,7 @@ SourceFile findSource(const fs::path& path, const SourceFile& source) {
     const fs::path stored = fromUtf8(source.path);
     const fs::path beside = fs::absolute(path, error).parent_path() / stored.filename();
     const bool moved = !fs::exists(stored, error) && fs::exists(beside, error);
-    return {moved ? utf8(beside) : source.path, source.fingerprint};
+    return {moved ? toUtf8(beside) : source.path, source.fingerprint};
 }
 
 /// Takes the bodies over from the source.

@@ -134,7 +134,7 @@ private:
             if (pair) {
                 point = 0x10000 + ((point - 0xD800) << 10) + (units[++at] - 0xDC00);
             }
-            appendUtf8(text, point);
+            appendCharacter(text, point);
         }
         return text;
     }

@@ -1,5 +1,7 @@
 #include "host/import/reader/text_encoding.h"
 
+#include "host/base/utf8.h"
+
 #include <iconv.h>
 
 #include <algorithm>
@@ -138,7 +140,7 @@ std::optional<std::string> convert(std::string_view bytes, const std::string& en
 std::string fromLatin1(std::string_view bytes) {
     std::string text;
     for (const char c : bytes) {
-        appendUtf8(text, byteOf(c));
+        appendCharacter(text, byteOf(c));
     }
     return text;
 }
@@ -220,26 +222,8 @@ std::string fromIso8859(std::string_view bytes, int part) {
     return convert(bytes, "ISO-8859-" + std::to_string(part)).value_or(fromLatin1(bytes));
 }
 
-void appendUtf8(std::string& text, char32_t point) {
-    if (!isCharacter(point)) {
-        point = kReplacement;
-    }
-    const auto put = [&text](char32_t bits) { text += static_cast<char>(bits); };
-    if (point < 0x80) {
-        put(point);
-    } else if (point < 0x800) {
-        put(0xC0 | (point >> 6));
-        put(0x80 | (point & 0x3F));
-    } else if (point < 0x10000) {
-        put(0xE0 | (point >> 12));
-        put(0x80 | ((point >> 6) & 0x3F));
-        put(0x80 | (point & 0x3F));
-    } else {
-        put(0xF0 | (point >> 18));
-        put(0x80 | ((point >> 12) & 0x3F));
-        put(0x80 | ((point >> 6) & 0x3F));
-        put(0x80 | (point & 0x3F));
-    }
+void appendCharacter(std::string& text, char32_t point) {
+    host::appendUtf8(text, isCharacter(point) ? point : kReplacement);
 }
 
 std::string cleaned(std::string_view text) {
@@ -247,7 +231,7 @@ std::string cleaned(std::string_view text) {
     while (!text.empty()) {
         const auto [point, length] = firstPoint(text);
         const bool control = point < 0x20 || (point >= 0x7F && point <= 0x9F);
-        appendUtf8(clean, length == 0 ? kReplacement : control ? U' ' : point);
+        appendCharacter(clean, length == 0 ? kReplacement : control ? U' ' : point);
         text.remove_prefix(std::max<std::size_t>(length, 1));
     }
     const std::size_t first = clean.find_first_not_of(' ');

@@ -38,9 +38,9 @@ std::string toUtf8(std::string_view bytes, Encoding encoding);
 /// Reads bytes of part 1 to 16 of ISO 8859, as UTF-8; as part 1 where the system lacks the part.
 std::string fromIso8859(std::string_view bytes, int part);
 
-/// Appends a code point; U+FFFD for one that no string may hold (surrogates,
+/// Appends a code point as UTF-8; U+FFFD for one that no string may hold (surrogates,
 /// non-characters).
-void appendUtf8(std::string& text, char32_t point);
+void appendCharacter(std::string& text, char32_t point);
 
 /// A text fit to be shown: control characters become spaces, non-characters U+FFFD, and spaces at
 /// both ends go. The argument is UTF-8.

@@ -1,5 +1,7 @@
 #include "host/ui/inputs/markup.h"
 
+#include "host/base/utf8.h"
+
 #include <array>
 #include <cctype>
 #include <charconv>
@@ -42,25 +44,6 @@ std::size_t tagLength(std::string_view text) {
 bool isLineBreak(std::string_view tag) {
     return tag.size() >= 4 && std::tolower(static_cast<unsigned char>(tag[1])) == 'b' &&
            std::tolower(static_cast<unsigned char>(tag[2])) == 'r' && !isLetter(tag[3]);
-}
-
-void appendUtf8(std::string& out, std::uint32_t code) {
-    const auto byte = [&out](std::uint32_t value) { out += static_cast<char>(value); };
-    if (code < 0x80) {
-        byte(code);
-    } else if (code < 0x800) {
-        byte(0xC0 | (code >> 6));
-        byte(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        byte(0xE0 | (code >> 12));
-        byte(0x80 | ((code >> 6) & 0x3F));
-        byte(0x80 | (code & 0x3F));
-    } else {
-        byte(0xF0 | (code >> 18));
-        byte(0x80 | ((code >> 12) & 0x3F));
-        byte(0x80 | ((code >> 6) & 0x3F));
-        byte(0x80 | (code & 0x3F));
-    }
 }
 
 bool isCharacter(std::uint32_t code) {
