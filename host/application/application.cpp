@@ -1,12 +1,9 @@
 #include "host/application/application.h"
 
-#include "host/application/main_queue.h"
-#include "host/base/clock.h"
+#include "host/application/running_host.h"
+#include "host/base/host_state.h"
 #include "host/base/last_error.h"
-#include "host/cloud/storage_pace.h"
 #include "host/design/document.h"
-#include "host/ui/dialogs/file_dialog.h"
-#include "host/ui/dialogs/progress_dialog.h"
 
 #include <Core/Data.h>
 #include <Core/Import.h>
@@ -18,12 +15,6 @@
 namespace host {
 namespace {
 
-// Never destroyed by itself: modules and the host end in either order.
-core::Ptr<ApplicationObject>& running() {
-    static auto* instance = new core::Ptr<ApplicationObject>;
-    return *instance;
-}
-
 constexpr const char* kDesignType = "DesignProductType";
 
 }  // namespace
@@ -34,7 +25,10 @@ ApplicationObject::ApplicationObject(const HostSetup& setup)
       documents_(make<DocumentsObject>()),
       importManager_(make<ImportManagerObject>()) {}
 
-core::Ptr<ApplicationObject> ApplicationObject::current() { return running(); }
+core::Ptr<ApplicationObject> ApplicationObject::current() {
+    const auto* running = HostState::currentPart<RunningApplication>();
+    return running == nullptr ? nullptr : running->application;
+}
 
 core::Ptr<core::Product> ApplicationObject::activeProduct() const {
     if (closed<"Application::activeProduct">(*this)) return {};
@@ -113,27 +107,6 @@ void ApplicationObject::dispose() {
     root_ = nullptr;
     editObject_ = nullptr;
     invalidate();
-}
-
-core::Ptr<ApplicationObject> startHost(const HostSetup& setup) {
-    endHost();
-    lastError() = {};
-    clearMisuses();
-    ui::resetMessages();
-    ui::resetFileDialogs();
-    storagePace() = {};
-    ui::startWaits(setup.longestWait);
-    clock::start(setup.clock);
-    running() = make<ApplicationObject>(setup);
-    return running();
-}
-
-void endHost() {
-    if (!running()) return;
-    running()->dispose();
-    running() = nullptr;
-    ui::forgetPosted();
-    clock::start(clock::ClockMode::Virtual);
 }
 
 }  // namespace host

@@ -21,14 +21,13 @@
 
 namespace host {
 
-/// The host itself. One runs at a time, from `startHost` to `endHost`.
-///
-/// Whoever starts it gives it its document and drives it through `hands.h`.
+/// The application object of the host. A `RunningHost` makes it; the actions of `host/session`
+/// drive it.
 class ApplicationObject final : public Object<core::Application>, public ui::ActiveModel {
 public:
     explicit ApplicationObject(const HostSetup& setup);
 
-    /// The one that runs, null for none.
+    /// That of the host that lives, null for none.
     static core::Ptr<ApplicationObject> current();
 
     [[nodiscard]] core::Ptr<core::UserInterface> userInterface() const override {
@@ -51,31 +50,31 @@ public:
     }
     int getLastError(std::string* description) const override;
 
-    /// @name For whoever started it
+    /// @name For the code that started the host
     /// @{
 
-    /// Makes a document the active one. A running command ends, since its document goes, unless it
-    /// is inside its execution; what was selected is no longer. In workspaces for designs `product`
-    /// is what is shown of it: its design where that is null.
+    /// Makes a document the active one. A running command ends with its document, unless it is
+    /// inside its execution; nothing is selected any more. In workspaces for designs `product` is
+    /// what is shown of it: its design where that is null.
     void setActiveDocument(const core::Ptr<core::Document>& document,
                            const core::Ptr<core::Product>& product = nullptr);
 
-    /// Opens a design as a document of the host's own, which it ends itself, and makes it the
-    /// active one. A command that is inside its execution goes on.
+    /// Opens a design as a document that the host owns and ends itself, and makes it the active
+    /// one. A command that is inside its execution goes on.
     core::Ptr<core::Document> openInHost(DesignData data);
 
-    /// The documents that were opened so and are still open, oldest first.
+    /// The documents that `openInHost` opened, oldest first.
     [[nodiscard]] const std::vector<core::Ptr<core::Document>>& openedInHost() const {
         return documents_->owned();
     }
 
-    /// What a person should know of files that modules opened, one line each, oldest first.
+    /// What the user should know of files that modules opened, one line each, oldest first.
     std::vector<std::string> importWarnings;
 
-    /// Gives the host the user's projects; null takes them away.
+    /// Sets the user's projects; null for none.
     void setData(const core::Ptr<core::Data>& data);
 
-    /// What a person edits, such as an open sketch; the root component where it is null.
+    /// Sets what the user edits, such as an open sketch; null for the root component.
     void setActiveEditObject(const core::Ptr<core::Base>& object);
 
     [[nodiscard]] const core::Ptr<core::Document>& document() const { return document_; }
@@ -100,12 +99,5 @@ private:
     core::Ptr<core::Base> root_;
     core::Ptr<core::Base> editObject_;
 };
-
-/// Starts a host; one that runs is ended first. Messages and misuses begin again.
-core::Ptr<ApplicationObject> startHost(const HostSetup& setup = {});
-
-/// Ends the host that runs: a running command ends with it, and whatever a module still holds is no
-/// longer valid. Its document is left to whoever made it. Nothing happens when none runs.
-void endHost();
 
 }  // namespace host

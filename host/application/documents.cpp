@@ -19,7 +19,7 @@ namespace host {
 
 namespace {
 
-/// Counts one try down; false when there is none.
+/// Counts one try down; false when none is left.
 bool takeOne(int& tries) {
     if (tries <= 0) return false;
     --tries;
@@ -31,7 +31,7 @@ DesignData readConverted(const DataFileObject& file) {
                       ApplicationObject::current()->importWarnings);
 }
 
-/// The design of a file, or a thrown exception that tells why it cannot be opened yet, or ever.
+/// The design of a file; throws, with the reason, where it cannot be opened yet, or ever.
 DesignData convertedDesign(const DataFileObject& file) {
     if (takeOne(storagePace().conversionsReturningNothing) ||
         clock::now() < file.state().convertedAt) {

@@ -21,7 +21,7 @@ public:
     /// @name For the host itself
     /// @{
 
-    /// Counts a document among the open ones; whoever made it ends it.
+    /// Counts a document among the open ones; the code that made it ends it.
     void add(const core::Ptr<core::Document>& document);
 
     /// Counts it among them and ends it with the host.

@@ -15,7 +15,7 @@ namespace {
 
 /// A STEP or IGES file.
 DesignData readShapes(const std::string& path) {
-    // The API has no place for warnings; whoever drives the host may ask for them.
+    // The API has no place for warnings; the code that drives the host may ask for them.
     return importStep(path, ReadingLimits(), ImportProgress(),
                       ApplicationObject::current()->importWarnings);
 }
@@ -83,7 +83,7 @@ core::Ptr<core::Document> ImportManagerObject::importToNewDocument(
     if (closed<"ImportManager::importToNewDocument">(*this)) return {};
     const core::Ptr<ApplicationObject> application = ApplicationObject::current();
     if (!importOptions || !application) {
-        misuse("ImportManager::importToNewDocument", "needs options that tell what to import");
+        misuse("ImportManager::importToNewDocument", "needs options that name a file");
         return {};
     }
     try {

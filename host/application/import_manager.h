@@ -10,7 +10,7 @@
 
 namespace host {
 
-/// What to import; `Interface` tells the format.
+/// What to import; `Interface` determines the format.
 template <class Interface>
 class ImportOptionsObject final : public Object<Interface> {
 public:

@@ -3,43 +3,30 @@
 #include "host/application/application.h"
 #include "host/base/clock.h"
 #include "host/base/gate.h"
+#include "host/base/host_state.h"
 #include "host/base/last_error.h"
 #include "host/ui/dialogs/progress_dialog.h"
 
 #include <Core/Utils.h>
 
 #include <exception>
-#include <mutex>
-#include <utility>
+#include <functional>
 #include <vector>
 
 namespace host {
 namespace {
 
-struct Queue {
-    std::mutex mutex;
-    std::vector<std::function<void()>> posted;
-    bool autoTerminate = true;
+/// What the module that runs has asked for, a part of the host's state.
+struct ModuleRequests {
+    bool unloadAfterRun = true;
 };
-
-Queue& queue() {
-    static auto* instance = new Queue;
-    return *instance;
-}
 
 }  // namespace
 
-void post(std::function<void()> work) {
-    const std::lock_guard<std::mutex> lock(queue().mutex);
-    queue().posted.push_back(std::move(work));
-}
-
 void runPosted() {
-    std::vector<std::function<void()>> due;
-    {
-        const std::lock_guard<std::mutex> lock(queue().mutex);
-        due.swap(queue().posted);
-    }
+    HostState* host = HostState::current();
+    if (host == nullptr) return;
+    const std::vector<std::function<void()>> due = host->posted.take();
     const gate::Outside outside;
     const auto work = [&due] {
         for (const std::function<void()>& each : due) {
@@ -60,18 +47,17 @@ void runPosted() {
     });
 }
 
-bool unloadsAfterRun() { return queue().autoTerminate; }
-
-void resetAutoTerminate() { queue().autoTerminate = true; }
-
-namespace ui {
-
-void forgetPosted() {
-    const std::lock_guard<std::mutex> lock(queue().mutex);
-    queue().posted.clear();
+bool unloadsAfterRun() {
+    const auto* requests = HostState::currentPart<ModuleRequests>();
+    return requests == nullptr || requests->unloadAfterRun;
 }
 
-}  // namespace ui
+void setUnloadsAfterRun(bool value) {
+    if (auto* requests = HostState::currentPart<ModuleRequests>()) {
+        requests->unloadAfterRun = value;
+    }
+}
+
 }  // namespace host
 
 namespace adsk {
@@ -88,12 +74,12 @@ void doEvents() {
 
 bool autoTerminate() {
     if (host::refused<"adsk::autoTerminate">()) return {};
-    return host::queue().autoTerminate;
+    return host::unloadsAfterRun();
 }
 
 void autoTerminate(bool value) {
     if (host::refused<"adsk::autoTerminate">()) return;
-    host::queue().autoTerminate = value;
+    host::setUnloadsAfterRun(value);
 }
 
 void terminate() {

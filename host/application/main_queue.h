@@ -1,28 +1,18 @@
 #pragma once
 
-#include <functional>
+#include "host/base/posted_work.h"
 
-/// What waits for the host's main thread.
+/// The turn of the host's main thread: what it does while a module waits.
 namespace host {
 
-/// Hands work to the main thread. Any thread may call it; the work is done in order, when the main
-/// thread comes to it: in `runPosted`, or while a module calls `adsk::doEvents`.
-void post(std::function<void()> work);
-
-/// Does what was posted until then, and what the clock has planned. Only the main thread may call
-/// it.
+/// Does what was posted until now, and what the clock has scheduled. Only the main thread may call
+/// it; `adsk::doEvents` does so for a module. Nothing happens without a host.
 void runPosted();
 
-/// What `adsk::autoTerminate` was last set to; true in the beginning.
+/// What `adsk::autoTerminate` was last set to; true at the beginning of a host.
 bool unloadsAfterRun();
 
-/// Makes `unloadsAfterRun` true again: another module is about to run.
-void resetAutoTerminate();
+/// Sets it as a module does: true where another module is about to run.
+void setUnloadsAfterRun(bool value);
 
-namespace ui {
-
-/// Forgets what was posted.
-void forgetPosted();
-
-}  // namespace ui
 }  // namespace host

@@ -1,6 +1,7 @@
 #include "host/base/dispatcher.h"
 
 #include "host/base/gate.h"
+#include "host/base/host_state.h"
 
 #include <cxxabi.h>
 
@@ -8,13 +9,15 @@
 #include <exception>
 #include <memory>
 #include <typeinfo>
+#include <utility>
 
 namespace host {
 namespace {
 
-std::vector<UncaughtException>& records() {
-    static auto* instance = new std::vector<UncaughtException>;
-    return *instance;
+void record(UncaughtException thrown) {
+    if (HostState* host = HostState::current()) {
+        host->uncaughtExceptions.push_back(std::move(thrown));
+    }
 }
 
 /// The class of the exception being handled, readable.
@@ -40,19 +43,20 @@ bool enterModule(const std::string& event, const std::string& inputId,
     } catch (const std::exception& error) {
         const std::string type = currentExceptionType();
         // A null handle throws the bare class, whose own `what` is only its name.
-        records().push_back({.event = event,
-                             .inputId = inputId,
-                             .type = type,
-                             .text = type == "std::exception" ? "" : error.what()});
+        record({.event = event,
+                .inputId = inputId,
+                .type = type,
+                .text = type == "std::exception" ? "" : error.what()});
     } catch (...) {
-        records().push_back(
-            {.event = event, .inputId = inputId, .type = currentExceptionType(), .text = ""});
+        record({.event = event, .inputId = inputId, .type = currentExceptionType(), .text = ""});
     }
     return false;
 }
 
-const std::vector<UncaughtException>& uncaughtExceptions() { return records(); }
+const std::vector<UncaughtException>& uncaughtExceptions() {
+    return HostState::required().uncaughtExceptions;
+}
 
-void clearUncaughtExceptions() { records().clear(); }
+void clearUncaughtExceptions() { HostState::required().uncaughtExceptions.clear(); }
 
 }  // namespace host

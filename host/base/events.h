@@ -92,8 +92,8 @@ public:
     [[nodiscard]] bool hasHandlers() const { return !link_->handlers.empty(); }
 
     /// Notifies all handlers in the order they were added. One that throws is recorded and does not
-    /// keep the others from being notified; one that goes while another runs is skipped. Returns
-    /// false when any threw.
+    /// keep the others from being notified; one that is removed while another runs is skipped.
+    /// Returns false when any threw.
     bool fire(const core::Ptr<ArgumentsInterface>& arguments, const std::string& inputId = "") {
         const std::shared_ptr<core::EventLink> link = link_;
         const std::vector<core::EventHandler*> handlers = link->handlers;

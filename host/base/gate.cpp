@@ -1,102 +1,107 @@
 #include "host/base/gate.h"
 
+#include "host/base/host_state.h"
+
+#include <numeric>
+
 namespace host::gate {
 namespace {
 
-struct Memory {
-    std::vector<Call*> calls;
-    std::string refusedName;  ///< empty: any name
-    std::uint64_t refuseIn = 0;
-    std::optional<std::string> refusedCall;
-    bool recording = false;
-    std::vector<std::string> recorded;
-};
-
-// Never destroyed: modules and the host end in either order.
-Memory& memory() {
-    static auto* instance = new Memory;
-    return *instance;
+/// The names of all operations. Of the process and not of a host: it is filled while libraries are
+/// loaded, and never changes afterwards.
+std::vector<const char*>& catalogue() {
+    static std::vector<const char*> names;
+    return names;
 }
 
-void updateArmed() { state().armed = memory().refuseIn > 0 || memory().recording; }
+std::size_t addToCatalogue(const char* name) {
+    catalogue().push_back(name);
+    if (State* const living = state()) {
+        living->counts.resize(catalogue().size());
+    }
+    return catalogue().size() - 1;
+}
+
+void updateArmed(State& state) { state.armed = state.refuseIn > 0 || state.recording; }
 
 }  // namespace
 
-Call::Call(const char* callName) : name(callName) { memory().calls.push_back(this); }
+Call::Call(const char* callName) : name(callName), index(addToCatalogue(callName)) {}
 
-State& state() {
-    static State instance;
-    return instance;
-}
+State::State() : counts(catalogue().size()) {}
 
-bool onArmedCall(Call& passing) {
-    Memory& all = memory();
-    if (all.recording) {
-        all.recorded.emplace_back(passing.name);
+bool isModuleRunning() { return state() != nullptr && state()->modules > 0; }
+
+bool onArmedCall(State& state, const Call& passing) {
+    if (state.recording) {
+        state.recorded.emplace_back(passing.name);
     }
-    const bool meant = all.refusedName.empty() || all.refusedName == passing.name;
-    if (all.refuseIn == 0 || !meant || --all.refuseIn > 0) {
+    const bool meant = state.refusedName.empty() || state.refusedName == passing.name;
+    if (state.refuseIn == 0 || !meant || --state.refuseIn > 0) {
         return false;
     }
-    all.refusedCall = passing.name;
-    updateArmed();
+    state.refusedCall = passing.name;
+    updateArmed(state);
     return true;
 }
 
-void reset() {
-    Memory& all = memory();
-    for (Call* each : all.calls) {
-        each->count = 0;
+ModuleCount::ModuleCount(int modules)
+    : state_(state()), before_(state_ == nullptr ? 0 : std::exchange(state_->modules, modules)) {}
+
+ModuleCount::~ModuleCount() {
+    // The host may have ended meanwhile.
+    if (state_ != nullptr && state_ == state()) {
+        state_->modules = before_;
     }
-    all.refuseIn = 0;
-    all.refusedCall.reset();
-    all.recording = false;
-    all.recorded.clear();
-    updateArmed();
+}
+
+void reset() {
+    State& all = HostState::required().gate;
+    const int modules = all.modules;
+    all = {};
+    all.modules = modules;
 }
 
 std::uint64_t count(const std::string& name) {
-    std::uint64_t sum = 0;
-    for (const Call* each : memory().calls) {
-        sum += each->name == name ? each->count : 0;
-    }
-    return sum;
+    const auto all = counts();
+    const auto found = all.find(name);
+    return found == all.end() ? 0 : found->second;
 }
 
 std::map<std::string, std::uint64_t> counts() {
+    const State& all = HostState::required().gate;
     std::map<std::string, std::uint64_t> result;
-    for (const Call* each : memory().calls) {
-        if (each->count > 0) {
-            result[each->name] += each->count;
+    for (std::size_t i = 0; i < all.counts.size(); ++i) {
+        if (all.counts[i] > 0) {
+            result[catalogue()[i]] += all.counts[i];
         }
     }
     return result;
 }
 
 std::uint64_t total() {
-    std::uint64_t sum = 0;
-    for (const Call* each : memory().calls) {
-        sum += each->count;
-    }
-    return sum;
+    const State& all = HostState::required().gate;
+    return std::accumulate(all.counts.begin(), all.counts.end(), std::uint64_t{0});
 }
 
 void refuse(const std::string& name, std::uint64_t nth) {
-    memory().refusedName = name;
-    memory().refuseIn = nth;
-    memory().refusedCall.reset();
-    updateArmed();
+    State& all = HostState::required().gate;
+    all.refusedName = name;
+    all.refuseIn = nth;
+    all.refusedCall.reset();
+    updateArmed(all);
 }
 
 void refuseAny(std::uint64_t nth) { refuse("", nth); }
 
-std::optional<std::string> refusedCall() { return memory().refusedCall; }
+std::optional<std::string> refusedCall() { return HostState::required().gate.refusedCall; }
 
 void record(bool on) {
-    memory().recording = on;
-    updateArmed();
+    State& all = HostState::required().gate;
+    all.recording = on;
+    updateArmed(all);
 }
 
-std::vector<std::string> recorded() { return memory().recorded; }
+std::vector<std::string> recorded() { return HostState::required().gate.recorded; }
 
 }  // namespace host::gate

@@ -11,16 +11,16 @@
 
 /// The gate that every call of the public API passes.
 ///
-/// It counts calls by name, can be told to refuse one, and to record their order. A refused call
+/// It counts calls by name, can be made to refuse one, and to record their order. A refused call
 /// does nothing and returns null, false, zero or an empty value. Calls count only while a module
 /// runs, that is inside a `gate::Module`: what the host and a session do among themselves is not a
-/// call.
+/// call. Without a host all calls pass uncounted.
 ///
 /// An operation of the API begins with
 ///
 ///     if (refused<"CommandInput::id">()) return {};
 ///
-/// and costs an addition while nobody asks.
+/// and costs an addition while no refusal is due and nothing is recorded.
 namespace host {
 
 /// A name that is known while compiling.
@@ -34,57 +34,82 @@ struct CallName {
 
 namespace gate {
 
-/// One operation of the API.
+/// One operation of the API, in the catalogue of those that this process has.
 struct Call {
     explicit Call(const char* callName);
 
     const char* name;
-    std::uint64_t count = 0;
+    std::size_t index;  ///< of the call in the catalogue
 };
 
 template <CallName Name>
-inline Call call{Name.text};
+inline const Call call{Name.text};
 
-/// What the gate has been asked to do besides counting; read on each call.
+/// The gate of one host.
 struct State {
-    int modules = 0;     ///< how many notifications run inside each other
-    bool armed = false;  ///< a refusal is due, or calls are being recorded
+    State();
+
+    /// @name Read on each call
+    /// @{
+    int modules = 0;                    ///< how many notifications run inside each other
+    bool armed = false;                 ///< a refusal is due, or calls are being recorded
+    std::vector<std::uint64_t> counts;  ///< by the indices of the calls
+    /// @}
+
+    std::string refusedName;     ///< empty: any name
+    std::uint64_t refuseIn = 0;  ///< the number of calls until the refused one, 0 for none
+    std::optional<std::string> refusedCall;
+    bool recording = false;
+    std::vector<std::string> recorded;
 };
 
-State& state();
+/// The gate of the host that lives, null for none.
+State* state();
 
-/// The slow way through the gate: records the call, and tells whether it is refused.
-bool onArmedCall(Call& passing);
+/// True while a module runs.
+bool isModuleRunning();
 
-/// While it lives, calls are a module's.
-class Module {
+/// The slow way through the gate: records the call, and returns whether it is refused.
+bool onArmedCall(State& state, const Call& passing);
+
+/// While it lives, so many modules run inside each other; afterwards as many as before.
+class ModuleCount {
 public:
-    Module() { ++state().modules; }
-    Module(const Module&) = delete;
-    Module& operator=(const Module&) = delete;
-    ~Module() { --state().modules; }
-};
-
-/// While it lives, calls are the host's own again: for what a person or a session does while a
-/// module waits for the host.
-class Outside {
-public:
-    Outside() : modules_(std::exchange(state().modules, 0)) {}
-    Outside(const Outside&) = delete;
-    Outside& operator=(const Outside&) = delete;
-    ~Outside() { state().modules = modules_; }
+    explicit ModuleCount(int modules);
+    ModuleCount(const ModuleCount&) = delete;
+    ModuleCount& operator=(const ModuleCount&) = delete;
+    ~ModuleCount();
 
 private:
-    int modules_;
+    State* state_;
+    int before_;
 };
 
-/// Forgets counts, records and refusals that have not come to pass.
+/// While it lives, calls are a module's.
+class Module : ModuleCount {
+public:
+    Module() : ModuleCount(state() == nullptr ? 0 : state()->modules + 1) {}
+};
+
+/// While it lives, calls are the host's own again: for what the user or a session does while a
+/// module waits for the host.
+class Outside : ModuleCount {
+public:
+    Outside() : ModuleCount(/*modules=*/0) {}
+};
+
+/// @name For those who drive a host
+/// Each needs a host that lives, and throws a `MisuseError` without one.
+/// @{
+
+/// Forgets counts, records and refusals that have not come to pass: a measurement begins.
 void reset();
 
-/// How often a call of this name came through since the last `reset`; refused ones count too.
+/// How often a call of this name came through since the host started or since `reset`; refused ones
+/// count too.
 std::uint64_t count(const std::string& name);
 
-/// All names that were called since the last `reset`, with their counts.
+/// All names that were called since the host started or since `reset`, with their counts.
 std::map<std::string, std::uint64_t> counts();
 
 /// The sum of all counts.
@@ -96,26 +121,28 @@ void refuse(const std::string& name, std::uint64_t nth);
 /// Refuses the `nth` call from now on whatever its name (1 is the next), once.
 void refuseAny(std::uint64_t nth);
 
-/// The name of the call that was refused since the last `reset`, none if it has not come.
+/// The name of the call that was refused since the host started or since `reset`; none if it has
+/// not come.
 std::optional<std::string> refusedCall();
 
-/// Starts or stops keeping the order of calls.
+/// Starts or stops recording the order of calls.
 void record(bool on);
 
-/// The calls recorded since the last `reset`, in order.
+/// The calls recorded since the host started or since `reset`, in order.
 std::vector<std::string> recorded();
+/// @}
 
 }  // namespace gate
 
 /// Passes the gate; true when the call is refused and has to return nothing.
 template <CallName Name>
 bool refused() {
-    gate::State& state = gate::state();
-    if (state.modules == 0) {
+    gate::State* state = gate::state();
+    if (state == nullptr || state->modules == 0) {
         return false;
     }
-    ++gate::call<Name>.count;
-    return state.armed && gate::onArmedCall(gate::call<Name>);
+    ++state->counts[gate::call<Name>.index];
+    return state->armed && gate::onArmedCall(*state, gate::call<Name>);
 }
 
 }  // namespace host

@@ -1,24 +1,22 @@
 #include "host/base/last_error.h"
 
+#include "host/base/host_state.h"
+
+#include <Core/Enums.h>
+
 namespace host {
-namespace {
 
-constexpr int kBadApiCall = 3;  // GenericErrors::BadApiCallError
-
-}  // namespace
-
-LastError& lastError() {
-    static auto* instance = new LastError;
-    return *instance;
-}
+const LastError& lastError() { return HostState::required().lastError; }
 
 bool fail(int code, const std::string& description) {
-    lastError() = {code, description};
+    if (HostState* host = HostState::current()) {
+        host->lastError = {code, description};
+    }
     return false;
 }
 
 bool notImplemented(const std::string& operation) {
-    return fail(kBadApiCall, operation + " is not part of the stand-in host");
+    return fail(adsk::core::BadApiCallError, operation + " is not part of the stand-in host");
 }
 
 }  // namespace host

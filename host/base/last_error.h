@@ -6,19 +6,20 @@
 
 namespace host {
 
-/// The last failure, as `Application::getLastError` tells it.
+/// The last failure, as `Application::getLastError` returns it.
 struct LastError {
     int code = 0;  ///< a value of `adsk::core::GenericErrors`
     std::string description;
 };
 
-LastError& lastError();
+/// The last failure since the host started; throws a `MisuseError` without a host.
+const LastError& lastError();
 
-/// Notes a failing call, with a text that names what was wrong; always false, for `return
-/// fail(...)`.
+/// Records a failing call; the description names what was wrong. Always false, for
+/// `return fail(...)`.
 bool fail(int code, const std::string& description);
 
-/// Notes a call of an operation that the stand-in does not have; always false.
+/// Records a call of an operation that the stand-in does not have; always false.
 bool notImplemented(const std::string& operation);
 
 }  // namespace host

@@ -1,25 +1,19 @@
 #include "host/base/misuse.h"
 
-#include "host/base/last_error.h"
+#include "host/base/host_state.h"
 
 #include <Core/Enums.h>
 
 namespace host {
-namespace {
 
-std::vector<Misuse>& list() {
-    static auto* instance = new std::vector<Misuse>;
-    return *instance;
-}
+const std::vector<Misuse>& misuses() { return HostState::required().misuses; }
 
-}  // namespace
-
-const std::vector<Misuse>& misuses() { return list(); }
-
-void clearMisuses() { list().clear(); }
+void clearMisuses() { HostState::required().misuses.clear(); }
 
 bool misuse(const std::string& operation, const std::string& text) {
-    list().push_back({.operation = operation, .text = text});
+    if (HostState* host = HostState::current()) {
+        host->misuses.push_back({.operation = operation, .text = text});
+    }
     return fail(adsk::core::BadApiCallError, operation + ": " + text);
 }
 

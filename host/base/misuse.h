@@ -4,11 +4,12 @@
 #include <string>
 #include <vector>
 
-/// What a module, or the caller who plays the user, does wrong.
+/// What a module, or the code that acts as the user, does wrong.
 ///
 /// A module's misuse is what the host would punish or leave undefined: a call on a deleted object,
 /// an id used twice for a tab, a call at a wrong time. The call fails as it would in the host, and
-/// is listed here. A user's is an action that the screen does not offer; it throws.
+/// is listed here; a call that comes when no host lives is not. A user's misuse is an action that
+/// the screen does not offer; it throws.
 namespace host {
 
 /// A call that a module should not have made.
@@ -19,7 +20,8 @@ struct Misuse {
     bool operator==(const Misuse&) const = default;
 };
 
-/// What was misused since the host started or since `clearMisuses`, oldest first.
+/// What was misused since the host started or since `clearMisuses`, oldest first. Both throw a
+/// `MisuseError` without a host.
 const std::vector<Misuse>& misuses();
 void clearMisuses();
 

@@ -11,7 +11,7 @@ inline std::string toUtf8(const std::filesystem::path& path) {
     return {text.begin(), text.end()};
 }
 
-/// The path that a UTF-8 text names.
+/// The path that a UTF-8 string names.
 inline std::filesystem::path fromUtf8(const std::string& text) {
     return {std::u8string(text.begin(), text.end())};
 }

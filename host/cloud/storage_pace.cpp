@@ -1,10 +1,9 @@
 #include "host/cloud/storage_pace.h"
 
+#include "host/base/host_state.h"
+
 namespace host {
 
-StoragePace& storagePace() {
-    static StoragePace pace;
-    return pace;
-}
+StoragePace& storagePace() { return HostState::required().part<StoragePace>(); }
 
 }  // namespace host

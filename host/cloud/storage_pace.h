@@ -15,7 +15,8 @@ struct StoragePace {
     int conversionsThrowing = 0;          ///< so many tries, before those, throw an exception
 };
 
-/// How the storage of the host that runs behaves; to be changed by its session.
+/// How the storage of the host that lives behaves; to be changed by the code that started it.
+/// Throws a `MisuseError` without a host.
 StoragePace& storagePace();
 
 }  // namespace host

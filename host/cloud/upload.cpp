@@ -1,6 +1,7 @@
 #include "host/cloud/upload.h"
 
 #include "host/base/clock.h"
+#include "host/base/host_state.h"
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/cloud/storage_pace.h"
@@ -82,6 +83,10 @@ void DataFileFutureObject::fail(const std::string& why) {
 core::Ptr<core::DataFileFuture> beginUpload(const core::Ptr<DataFolderObject>& folder,
                                             const std::string& filename) {
     core::Ptr<DataFileFutureObject> upload = make<DataFileFutureObject>(folder);
+    if (HostState::current() == nullptr) {
+        upload->fail("the host has ended");
+        return upload;
+    }
     clock::schedule(clock::now() + storagePace().uploadSeconds, endOf(upload, filename));
     return upload;
 }

@@ -43,7 +43,7 @@ bool isOutdated(const fs::path& copy, const fs::path& original, bool compareCont
                           : fs::last_write_time(copy) < fs::last_write_time(original);
 }
 
-/// Through a new file: a module that some process still has open keeps what it was.
+/// Through a new file: a process that still has the old module open keeps it unchanged.
 void copyFile(const fs::path& from, const fs::path& to) {
     const fs::path fresh = to.parent_path() / (to.filename().native() + fs::path(".new").native());
     fs::remove(fresh);

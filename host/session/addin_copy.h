@@ -5,7 +5,7 @@
 
 namespace host {
 
-/// An add-in as it lies on disk: the folder, the manifest and the module share one name.
+/// An add-in on disk: the folder, the manifest and the module share one name.
 struct AddinFiles {
     std::filesystem::path folder;
     std::string name;
@@ -26,7 +26,7 @@ AddinFiles findAddin(const std::filesystem::path& folder);
 /// returns the copy.
 ///
 /// The module and the manifest are copied where they differ, the other files where they are missing
-/// or newer than their copy. What stands only in the copy (settings, exports) is left alone.
+/// or newer than their copy. What only the copy holds (settings, exports) is left alone.
 AddinFiles copyAddin(const AddinFiles& installed, const std::filesystem::path& parent);
 
 }  // namespace host

@@ -17,7 +17,7 @@ using adsk::fusion::OccurrenceList;
 
 namespace {
 
-/// The names in a list, as many as a line can tell.
+/// The names in a list, as many as fit in a line.
 std::string namesIn(const Ptr<OccurrenceList>& list) {
     constexpr std::size_t kMost = 8;
     std::string names;
@@ -25,7 +25,7 @@ std::string namesIn(const Ptr<OccurrenceList>& list) {
         const Ptr<Occurrence> each = list->item(i);
         names += (names.empty() ? "\"" : ", \"") + (each ? each->fullPathName() : "") + "\"";
     }
-    return names.empty() ? "nothing stands there"
+    return names.empty() ? "nothing is there"
                          : "there is " + names + (list->count() > kMost ? ", and more" : "");
 }
 

@@ -20,11 +20,11 @@ struct MaterialUse {
 /// A design in numbers.
 struct DesignSummary {
     std::string name;
-    std::string unit;            ///< length unit of the file it came from; empty if it told none
+    std::string unit;            ///< length unit of the file it came from; empty if it names none
     std::size_t components = 0;  ///< the root component is one of them
     std::size_t occurrences =
         0;                   ///< every use of every component, those in sub-assemblies repeated
-    std::size_t levels = 0;  ///< how deep assemblies stand in each other; 0 without occurrences
+    std::size_t levels = 0;  ///< how deep assemblies are nested; 0 without occurrences
     std::size_t bodies = 0;  ///< components that have a shape of their own
     std::vector<MaterialUse> materials;  ///< in the order in which components name them
 };

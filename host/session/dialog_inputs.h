@@ -8,7 +8,7 @@
 namespace host {
 
 /// The first input of that id in the active tab of a dialog, else the first in the whole dialog.
-/// Throws a `SessionError` that tells the ids there are.
+/// Throws a `SessionError` that lists the ids there are.
 adsk::core::Ptr<adsk::core::CommandInput> findInput(
     const adsk::core::Ptr<adsk::core::Command>& dialog, const std::string& id);
 

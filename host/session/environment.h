@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// What a session changes about the process it runs in, and gives back.
+/// What a session changes about the process it runs in, and restores at its end.
 namespace host::environment {
 
 using Text = std::filesystem::path::string_type;
@@ -14,13 +14,13 @@ using Text = std::filesystem::path::string_type;
 /// The variables by which this system finds the folder for temporary files.
 std::vector<Text> temporaryFolderNames();
 
-/// A variable of the process, none if it is not set.
+/// A variable of the process; nothing if it is not set.
 std::optional<Text> variable(const Text& name);
 
 /// Sets a variable, or takes it away.
 void setVariable(const Text& name, const std::optional<Text>& value);
 
-/// Where this program keeps a person's data between runs, "" if the system names no such place.
+/// Where this program keeps the user's data between runs; empty if the system names no such place.
 std::filesystem::path userDataFolder();
 
 /// The folder of the running program.

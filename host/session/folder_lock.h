@@ -7,11 +7,11 @@ namespace host {
 
 /// Keeps a folder to one process.
 ///
-/// The lock stands in a file "lock" inside the folder. It ends with its owner, or with the process,
-/// whatever way that goes.
+/// The lock is held on a file "lock" inside the folder. It ends with its owner, or with the
+/// process, however that ends.
 class FolderLock {
 public:
-    /// Takes the lock of an existing folder at once, or returns none: another process has it, or
+    /// Takes the lock of an existing folder at once, or returns null: another process has it, or
     /// the folder cannot be written. A second lock in the same process counts as another's.
     static std::unique_ptr<FolderLock> take(const std::filesystem::path& folder);
 

@@ -16,16 +16,15 @@ namespace core = adsk::core;
 using core::Ptr;
 using ui::InputKind;
 using ui::InputState;
-using ui::UserAction;
 
-/// Whoever acts on a cell selects its row.
+/// An action on a cell selects its row.
 void selectRowOf(const InputState& input) {
     if (input.inLine != nullptr && !input.inLine->table->isToolbar(*input.inLine)) {
         input.inLine->table->select(*input.inLine);
     }
 }
 
-/// Ends in the middle of a character nowhere: the length of the first `count` characters, or all.
+/// The string after each typed character; none of them ends inside of a character.
 std::vector<std::string> prefixes(const std::string& text) {
     std::vector<std::string> all;
     for (std::size_t end = 1; end <= text.size(); ++end) {
@@ -48,9 +47,9 @@ bool isReadOnly(const InputState& input) {
     return static_cast<const ui::TextBoxCommandInputObject&>(input).readOnly();
 }
 
-/// A text that a person can write into.
+/// An input for text that the user can write into.
 InputState& writable(const Ptr<core::CommandInput>& input) {
-    InputState& state = ui::usable(input, "type into");
+    InputState& state = usable(input, "type into");
     if (state.kind != InputKind::String && state.kind != InputKind::TextBox) {
         throw MisuseError("cannot type into " + ui::describe(state) + ": it holds no text");
     }
@@ -74,7 +73,7 @@ bool isList(InputKind kind) {
 }
 
 ui::ListState& listAt(const Ptr<core::CommandInput>& input) {
-    InputState& state = ui::usable(input, "choose from");
+    InputState& state = usable(input, "choose from");
     if (!isList(state.kind)) {
         throw MisuseError("cannot choose from " + ui::describe(state) + ": it has no items");
     }
@@ -99,7 +98,7 @@ void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
 }
 
 void showTab(UserAction& acting, InputState& tab) {
-    ui::CommandObject& dialog = ui::shownDialog();
+    ui::CommandObject& dialog = shownDialog();
     if (dialog.activeTab() != &tab) {
         dialog.activeTab(&tab);
         acting.runner().tabChanged();
@@ -107,7 +106,7 @@ void showTab(UserAction& acting, InputState& tab) {
     acting.finish();
 }
 
-/// What a click does beside selecting a row; true where handlers are to be told.
+/// What a click does beside selecting a row; true where it has to be reported.
 bool clicked(InputState& input) {
     switch (input.kind) {
         case InputKind::Bool:
@@ -117,7 +116,7 @@ bool clicked(InputState& input) {
             static_cast<ui::GroupCommandInputObject&>(input).toggle();
             return false;
         case InputKind::Selection:
-            ui::shownDialog().focus(&input);
+            shownDialog().focus(&input);
             return false;
         default:
             return false;
@@ -150,7 +149,7 @@ void passFocus(ui::CommandObject& dialog, const ui::SelectionCommandInputObject&
 }
 
 void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity) {
-    ui::CommandObject& dialog = ui::shownDialog();
+    ui::CommandObject& dialog = shownDialog();
     ui::SelectionCommandInputObject& target = pickTarget(dialog);
     if (target.picks().holds(entity)) {
         target.drop(entity);
@@ -184,7 +183,7 @@ void click(const Ptr<core::CommandInput>& input) {
         activateTab(input);
         return;
     }
-    InputState& state = ui::usable(input, "click");
+    InputState& state = usable(input, "click");
     selectRowOf(state);
     if (clicked(state)) {
         acting.runner().changed(state);
@@ -236,7 +235,7 @@ void chooseItem(const Ptr<core::CommandInput>& input, std::size_t index) {
 void activateTab(const Ptr<core::TabCommandInput>& tab) {
     UserAction acting;
     InputState* state = InputState::of(tab);
-    if (state == nullptr || state->command() != &ui::shownDialog()) {
+    if (state == nullptr || state->command() != &shownDialog()) {
         throw MisuseError("cannot show a tab that the open dialog does not have");
     }
     if (!state->visible) {
@@ -247,7 +246,7 @@ void activateTab(const Ptr<core::TabCommandInput>& tab) {
 
 void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
     const UserAction acting;
-    auto& state = static_cast<ui::TableCommandInputObject&>(ui::usable(table, "select a row of"));
+    auto& state = static_cast<ui::TableCommandInputObject&>(usable(table, "select a row of"));
     const std::vector<int> shown = shownRows(table);
     if (std::find(shown.begin(), shown.end(), row) == shown.end()) {
         throw MisuseError("cannot select row " + std::to_string(row) + " of " +
@@ -286,7 +285,7 @@ void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
 void reportChange(const Ptr<core::CommandInput>& input) {
     UserAction acting;
     InputState* state = InputState::of(input);
-    if (state == nullptr || state->command() != &ui::shownDialog()) {
+    if (state == nullptr || state->command() != &shownDialog()) {
         throw MisuseError("cannot report a change of an input that the open dialog does not have");
     }
     acting.runner().changed(*state);

@@ -24,7 +24,8 @@ ProcessSandbox::~ProcessSandbox() {
     for (const auto& [name, value] : variables_) {
         environment::setVariable(name, value);
     }
-    // The folder the process stood in may have gone meanwhile; then it stays where it is.
+    // The earlier working directory may have been deleted meanwhile; then the process keeps this
+    // one.
     std::error_code ignored;
     fs::current_path(startedIn_, ignored);
     fs::remove_all(work_, ignored);

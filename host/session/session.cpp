@@ -1,14 +1,16 @@
 #include "host/session/session.h"
 
 #include "host/application/main_queue.h"
+#include "host/base/clock.h"
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
 #include "host/session/browser_tree.h"
+#include "host/session/dialog_answers.h"
 #include "host/session/dialog_inputs.h"
+#include "host/session/process_state.h"
 
-#include <map>
 #include <stdexcept>
 #include <utility>
 
@@ -29,36 +31,28 @@ DesignData emptyDesign() {
     return design;
 }
 
-bool sessionLives = false;
-
-/// Modules of kept homes that sessions of this process left loaded, by their files.
-std::map<std::filesystem::path, LoadedModule>& leftModules() {
-    static auto* modules = new std::map<std::filesystem::path, LoadedModule>;
-    return *modules;
+/// Makes sure that the file will be loaded again: its statics are to be those of a new session.
+void unloadLeftModule(const std::filesystem::path& file) {
+    auto& leftModules = processState().leftModules;
+    const auto left = leftModules.find(file);
+    if (left != leftModules.end()) {
+        left->second.unload();
+        leftModules.erase(left);
+    }
 }
 
-/// Makes sure that the file will be loaded again: its statics are to be those of a new session.
-void takeOutLeftModule(const std::filesystem::path& file) {
-    const auto left = leftModules().find(file);
-    if (left != leftModules().end()) {
-        left->second.unload();
-        leftModules().erase(left);
+/// The options of the process's only session, checked before anything is made for it.
+SessionOptions onlySession(SessionOptions options) {
+    if (HostState::current() != nullptr) {
+        throw SessionError("this process has a session already");
     }
+    return options;
 }
 
 }  // namespace
 
-Session::SingleSessionGuard::SingleSessionGuard() {
-    if (sessionLives) {
-        throw SessionError("this process has a session already");
-    }
-    sessionLives = true;
-}
-
-Session::SingleSessionGuard::~SingleSessionGuard() { sessionLives = false; }
-
 Session::Session(SessionOptions options)
-    : options_(std::move(options)),
+    : options_(onlySession(std::move(options))),
       installed_(findAddin(options_.addin)),
       folder_(makeFolder(options_)) {
     try {
@@ -72,31 +66,27 @@ Session::Session(SessionOptions options)
 Session::~Session() { end(); }
 
 void Session::begin() {
-    takeOutLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
+    unloadLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
     addin_ = copyAddin(installed_, folder_.path());
     sandbox_.emplace(folder_.path(), options_.useUserTempDir ? TemporaryFiles::UserTempDir
                                                              : TemporaryFiles::Private);
-    gate::reset();
-    host::clearUncaughtExceptions();
-    shell_requests::start(options_.shell);
-    system_overrides::start(options_.system);
-    startHost(options_.host);
+    host_.emplace(options_.host);
+    shell_requests::setPolicy(options_.shell);
+    system_overrides::set(options_.system);
     newDesign();
     module_ = LoadedModule(addin_.module());
 }
 
 void Session::end() noexcept {
     const bool wasLoaded = module_.isLoaded();
-    endHost();
+    host_.reset();
     endDocument(document_);
     document_ = nullptr;
     data_.reset();
-    shell_requests::start(shell_requests::Policy::PassOn);
-    system_overrides::end();
     if (options_.unloadAtEnd) {
         module_.unload();
     } else if (wasLoaded && !options_.home.empty()) {
-        leftModules()[addin_.module()] = module_;
+        processState().leftModules[addin_.module()] = module_;
     }
     sandbox_.reset();
     const bool stays = wasLoaded && !options_.unloadAtEnd;
@@ -114,7 +104,7 @@ bool Session::call(const char* entry, const char* context) {
 }
 
 bool Session::run() {
-    resetAutoTerminate();
+    setUnloadsAfterRun(true);
     return call("run", R"({"IsApplicationStartup": true})");
 }
 
@@ -265,6 +255,10 @@ const std::vector<std::string>& Session::importWarnings() const {
 
 std::vector<Unmeasured> Session::unmeasured() const {
     return unmeasuredIn(ApplicationObject::current()->document());
+}
+
+void Session::schedule(double seconds, std::function<void()> action) {
+    clock::schedule(clock::now() + seconds, std::move(action));
 }
 
 const std::vector<Message>& Session::messages() const { return host::messages(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/application/application.h"
+#include "host/application/running_host.h"
 #include "host/base/dispatcher.h"
 #include "host/base/gate.h"
 #include "host/cloud/user_data.h"
@@ -22,20 +22,21 @@
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-/// A person at the host, with one add-in.
+/// A user at the host, with one add-in.
 ///
 /// A session is the one way in which a program drives the host: the workbench, a test, a benchmark.
-/// It starts the host, loads a copy of the add-in's module, and then does what a person could do:
+/// It starts the host, loads a copy of the add-in's module, and then does what a user could do:
 /// opens designs, presses buttons, types into cells, chooses, accepts and closes dialogs. One
 /// process has one session at a time, and as many after each other as it likes; each has a host of
 /// its own and the module's statics as they are after loading.
 ///
-/// What the module throws never reaches the caller: it is recorded, and `thrown` tells it. What the
+/// What the module throws never reaches the caller: `uncaughtExceptions` lists it. What the
 /// screen does not offer throws a `MisuseError`. Actions that are not among the members here are in
 /// `host/session/user_actions.h`; they work on the host of the session.
 namespace host {
@@ -45,7 +46,7 @@ struct SessionOptions {
     std::filesystem::path addin;
 
     /// Where the copy of the add-in, the working directory and the temporary folder lie. Empty: a
-    /// fresh folder that goes with the session. Else this one, which stays, with the add-in's
+    /// fresh folder that is deleted with the session. Else this one, which stays, with the add-in's
     /// settings in it, and is locked while the session lives.
     std::filesystem::path home;
 
@@ -59,8 +60,8 @@ struct SessionOptions {
     shell_requests::Policy shell = shell_requests::Policy::Record;
     SystemOverrides system;
 
-    /// Lets the module make its temporary files where the person's are, and not in the private
-    /// folder.
+    /// Lets the module make its temporary files in the user's temporary folder instead of the
+    /// private one.
     bool useUserTempDir = false;
 
     /// Takes the module out of the process at the end, which lets thousands of sessions follow each
@@ -70,14 +71,14 @@ struct SessionOptions {
 
 class Session {
 public:
-    /// Starts the host in its private surroundings and loads the module; `run` is the caller's.
+    /// Starts the host in its process sandbox and loads the module; the caller calls `run`.
     /// Throws a `SessionError` where the add-in or its place is unusable, or another session lives;
     /// nothing is left then.
     explicit Session(SessionOptions options);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// Ends the host and gives the process back its surroundings. The module is not asked to stop.
+    /// Ends the host and leaves the process sandbox. The module is not asked to stop.
     ~Session();
 
     /// @name The add-in
@@ -91,7 +92,7 @@ public:
     /// none.
     bool stop();
 
-    /// The session's own copy of the add-in: what the module writes beside itself lies there.
+    /// The session's own copy of the add-in: what the module writes beside itself is there.
     [[nodiscard]] const AddinFiles& addin() const { return addin_; }
 
     /// The folder that holds that copy, the working directory and the temporary folder.
@@ -101,9 +102,9 @@ public:
     /// @name Documents
     /// @{
 
-    /// Opens a file in the place of the document that is open: STEP or a design file, told by its
-    /// content. A relative path starts where the process stood before the session. Returns what the
-    /// reader had to say; throws what it cannot read, with the document before still open.
+    /// Opens a file, which replaces the document that is open: STEP or a design file, by its
+    /// content. A relative path starts in the working directory before the session. Returns the
+    /// warnings of the reader; throws what it cannot read, with the earlier document still open.
     std::vector<std::string> open(const std::filesystem::path& file,
                                   const ReadingLimits& limits = {},
                                   const ImportProgress& progress = {});
@@ -123,12 +124,12 @@ public:
     /// Opens an empty document whose product is no design.
     void openForeignDocument();
 
-    /// Writes the open design into a design file, in the place of one that is there.
+    /// Writes the open design into a design file, which is replaced where it exists.
     void save(const std::filesystem::path& file);
 
     /// Makes a local folder the user's data. A document that is then opened from a file in one of
-    /// its projects, or saved into one, has that file. Throws a `SessionError` for a folder that is
-    /// none.
+    /// its projects, or saved into one, has that file. Throws a `SessionError` where that
+    /// is not a folder.
     void useData(UserDataSetup setup);
 
     /// The open design as it is now.
@@ -145,7 +146,7 @@ public:
     void leaveSketch();
     /// @}
 
-    /// @name Hands
+    /// @name User actions
     /// A `SessionError` or a `MisuseError` is thrown for what is not there, with the names of what
     /// is.
     /// @{
@@ -153,7 +154,7 @@ public:
     /// Presses the button of a command, which starts it.
     void press(const std::string& commandId);
 
-    /// True while a dialog stands on the screen.
+    /// True while a dialog is open.
     [[nodiscard]] bool dialogOpen() const;
 
     /// The open dialog's command.
@@ -169,10 +170,10 @@ public:
     /// Clicks a button or check box.
     void click(const std::string& id);
 
-    /// Types a text into a field in the place of what stands there, key by key.
+    /// Types a string into a field, key by key; it replaces what the field held.
     void type(const std::string& id, const std::string& text);
 
-    /// Puts a text into a field at one stroke.
+    /// Pastes a string into a field, as one change; it replaces what the field held.
     void paste(const std::string& id, const std::string& text);
 
     /// Chooses an item of a list by its name.
@@ -205,12 +206,17 @@ public:
     [[nodiscard]] const std::vector<UncaughtException>& uncaughtExceptions() const;
     void clearUncaughtExceptions();
 
-    /// What the reader had to say of files that the module opened, as `open` returns it of others.
+    /// The warnings of the reader about files that the module opened, as `open` returns them for
+    /// others.
     [[nodiscard]] const std::vector<std::string>& importWarnings() const;
 
     /// The components of the open design that were asked for their size and could not be measured:
-    /// each stands in every sum with nothing.
+    /// each counts as nothing in every sum.
     [[nodiscard]] std::vector<Unmeasured> unmeasured() const;
+
+    /// Schedules something for so many seconds from now on the host's clock. It is done while the
+    /// module waits in a call to the host, at the first moment at which that time has come.
+    void schedule(double seconds, std::function<void()> action);
 
     /// The messages that were shown, oldest first.
     [[nodiscard]] const std::vector<Message>& messages() const;
@@ -220,15 +226,6 @@ public:
     /// @}
 
 private:
-    /// The right to be the process's session; throws a `SessionError` when there is one.
-    class SingleSessionGuard {
-    public:
-        SingleSessionGuard();
-        SingleSessionGuard(const SingleSessionGuard&) = delete;
-        SingleSessionGuard& operator=(const SingleSessionGuard&) = delete;
-        ~SingleSessionGuard();
-    };
-
     void begin();
     void end() noexcept;
     void show(const adsk::core::Ptr<adsk::core::Document>& document,
@@ -236,12 +233,12 @@ private:
     [[nodiscard]] std::filesystem::path absolute(const std::filesystem::path& file) const;
     bool call(const char* entry, const char* context);
 
-    SingleSessionGuard guard_;
     SessionOptions options_;
     AddinFiles installed_;
     SessionFolder folder_;
     AddinFiles addin_;
     std::optional<ProcessSandbox> sandbox_;
+    std::optional<RunningHost> host_;
     LoadedModule module_;
     adsk::core::Ptr<adsk::core::Document> document_;
     std::unique_ptr<UserData> data_;

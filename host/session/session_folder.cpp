@@ -2,9 +2,9 @@
 
 #include "host/base/utf8_path.h"
 #include "host/session/environment.h"
+#include "host/session/process_state.h"
 #include "host/session/session_error.h"
 
-#include <map>
 #include <random>
 #include <string>
 #include <thread>
@@ -18,16 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kPrefix = "standin-";
 
-/// A folder of this process, in which its sessions have theirs. Its lock tells that the process
-/// lives.
-struct ProcessFolder {
-    fs::path path;
-    std::unique_ptr<FolderLock> lock;
-    int made = 0;     ///< sessions so far
-    int present = 0;  ///< those whose folders are not gone
-};
-
-/// Removes what processes that are gone have left in `parent`.
+/// Removes what processes that no longer live left in `parent`.
 void removeLeftovers(const fs::path& parent) {
     std::error_code ignored;
     std::vector<fs::path> left;
@@ -42,7 +33,7 @@ void removeLeftovers(const fs::path& parent) {
     }
 }
 
-/// Digits alone: the name stands in the path of a module, which may look at its letters.
+/// Digits alone: the name is part of a module's path, whose letters the module may examine.
 std::string randomDigits() {
     std::random_device device;
     return std::to_string(100'000'000 + device() % 900'000'000);
@@ -64,17 +55,9 @@ ProcessFolder makeProcessFolder(const fs::path& parent) {
     throw SessionError("cannot make a private folder in " + toUtf8(parent));
 }
 
-using ProcessFolders = std::map<fs::path, ProcessFolder>;
-
-// Never destroyed: the locks end with the process.
-ProcessFolders& processFolders() {
-    static auto* folders = new ProcessFolders;
-    return *folders;
-}
-
 /// This process's folder in `parent`.
 ProcessFolder& processFolder(const fs::path& parent) {
-    ProcessFolders& folders = processFolders();
+    auto& folders = processState().folders;
     const auto known = folders.find(parent);
     if (known != folders.end()) {
         return known->second;
@@ -84,7 +67,7 @@ ProcessFolder& processFolder(const fs::path& parent) {
 
 /// Removes the process's folder once nothing is left in it.
 void sessionFolderIsGone(const fs::path& folder) {
-    ProcessFolders& folders = processFolders();
+    auto& folders = processState().folders;
     const auto found = folders.find(folder.parent_path().parent_path());
     if (found != folders.end() && --found->second.present == 0) {
         folders.erase(found);

@@ -8,20 +8,20 @@
 
 namespace host {
 
-/// The folder a session keeps everything in: a fresh one that goes with the session, or a given one
-/// that stays and is locked while it is used.
+/// The folder a session keeps everything in: a fresh one that is deleted with the session, or a
+/// given one that stays and is locked while it is used.
 ///
 /// Fresh folders of one process lie together in one that is locked for as long as the process
-/// lives; what a process left behind, because a loaded module's file cannot go before it or because
-/// it crashed, the next one to make a fresh folder in that place removes.
+/// lives. What a process left, because a loaded module's file cannot be deleted before the process
+/// ends or because it crashed, is removed by the next one that makes a fresh folder in that place.
 class SessionFolder {
 public:
     /// A fresh folder below `parent`, which is made if missing; an empty parent means the system's
     /// folder for temporary files.
     static SessionFolder makeFresh(const std::filesystem::path& parent);
 
-    /// The folder `home`, made if missing. Where another process has it, waits for as long as told,
-    /// then throws a `SessionError`.
+    /// The folder `home`, made if missing. Where another process has it, waits as long as
+    /// `lockTimeout`, then throws a `SessionError`.
     static SessionFolder keep(const std::filesystem::path& home,
                               std::chrono::milliseconds lockTimeout);
 
@@ -30,7 +30,7 @@ public:
     /// Deletes a fresh folder as far as the system lets it, sparing one file; leaves a kept one.
     ///
     /// The module's file is spared while it is loaded: some systems refuse to delete it, and on the
-    /// others whoever names functions at the end of the process (a report of leaks) reads it.
+    /// others a report of leaks at the end of the process reads the names of functions in it.
     void discard(const std::filesystem::path& spared) const;
 
 private:

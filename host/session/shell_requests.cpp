@@ -1,37 +1,34 @@
 #include "host/session/shell_requests.h"
 
+#include "host/base/host_state.h"
+
 #include <StandIn/Process.h>
 
 namespace host::shell_requests {
 namespace {
 
+/// A part of the host's state.
 struct State {
     Policy policy = Policy::PassOn;
     std::vector<std::string> recorded;
 };
 
-// Never destroyed: a module may ask while the process ends.
-State& state() {
-    static auto* instance = new State;
-    return *instance;
-}
-
 }  // namespace
 
-void start(Policy policy) { state() = {policy, {}}; }
+void setPolicy(Policy policy) { HostState::required().part<State>().policy = policy; }
 
-const std::vector<std::string>& recorded() { return state().recorded; }
+const std::vector<std::string>& recorded() { return HostState::required().part<State>().recorded; }
 
 }  // namespace host::shell_requests
 
 StandInAnswer standin_openWithShell(const char* target) {
     using host::shell_requests::Policy;
-    auto& state = host::shell_requests::state();
-    if (state.policy == Policy::PassOn) {
+    auto* state = host::HostState::currentPart<host::shell_requests::State>();
+    if (state == nullptr || state->policy == Policy::PassOn) {
         return StandInAnswer::NotHandled;
     }
-    state.recorded.emplace_back(target);
-    switch (state.policy) {
+    state->recorded.emplace_back(target);
+    switch (state->policy) {
         case Policy::RecordOpen:
             return StandInAnswer::NotHandled;
         case Policy::RecordFail:

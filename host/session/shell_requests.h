@@ -5,21 +5,23 @@
 
 /// What modules ask the shell to open, answered in the place of the system.
 ///
-/// While a session lives its requests are written down; whether the shell then gets to see them is
-/// the session's choice. Without a session the system is left alone with them.
+/// While a session lives its requests are recorded; whether the shell then gets to see them is the
+/// session's choice. Without a session the module asks the system.
 namespace host::shell_requests {
 
 enum class Policy {
-    PassOn,      ///< no session: the module asks the system
-    Record,      ///< written down, and told to be done
-    RecordOpen,  ///< written down, and the module asks the system
-    RecordFail,  ///< written down, and told to have failed
+    PassOn,      ///< not recorded, and the module asks the system
+    Record,      ///< recorded, and reported to the module as done
+    RecordOpen,  ///< recorded, and the module asks the system
+    RecordFail,  ///< recorded, and reported to the module as failed
 };
 
-/// Forgets what was recorded, and answers that way from now on.
-void start(Policy policy);
+/// Answers that way from now on; `PassOn` at the start of a host. Throws a `MisuseError` without a
+/// host.
+void setPolicy(Policy policy);
 
-/// The targets since `start`, as the module spelt them, oldest first.
+/// The targets since the host started, as the module spelt them, oldest first. Throws a
+/// `MisuseError` without a host.
 const std::vector<std::string>& recorded();
 
 }  // namespace host::shell_requests

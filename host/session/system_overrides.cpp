@@ -1,6 +1,7 @@
 #include "host/session/system_overrides.h"
 
 #include "host/base/clock.h"
+#include "host/base/host_state.h"
 #include "host/session/environment.h"
 #include "host/ui/dialogs/messages.h"
 
@@ -12,17 +13,33 @@
 namespace host::system_overrides {
 namespace {
 
+/// A part of the host's state.
 struct State {
-    bool isAnswering = false;
-    SystemOverrides answers;
+    State() = default;
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+    ~State() {
+        if (overrides && overrides->consoleMayHide && consoleHidings > 0) {
+            environment::showConsole();
+        }
+    }
+
+    std::optional<SystemOverrides> overrides;
     std::vector<int> sleeps;
     int consoleHidings = 0;
 };
 
-// Never destroyed: a module may ask while the process ends.
-State& state() {
-    static auto* instance = new State;
-    return *instance;
+/// The state of a session that answers, null where everything is left to the system.
+State* answering() {
+    auto* state = HostState::currentPart<State>();
+    return state != nullptr && state->overrides ? state : nullptr;
+}
+
+/// A member of the overrides; as it is by default where everything is left to the system.
+template <class Member>
+Member overriding(Member SystemOverrides::*member) {
+    const State* state = answering();
+    return state == nullptr ? Member() : (*state->overrides).*member;
 }
 
 StandInAnswer answerWith(const ScreenRectangle& rectangle, StandInArea* area) {
@@ -45,39 +62,32 @@ adsk::core::MessageBoxIconTypes iconOf(unsigned style) {
 
 }  // namespace
 
-void start(SystemOverrides answers) {
-    state() = {};
-    state().isAnswering = true;
-    state().answers = std::move(answers);
+void set(SystemOverrides overrides) {
+    HostState::required().part<State>().overrides = std::move(overrides);
 }
 
-void end() {
-    const bool wasHidden = state().answers.consoleMayHide && state().consoleHidings > 0;
-    state() = {};
-    if (wasHidden) {
-        environment::showConsole();
-    }
-}
+const std::vector<int>& sleeps() { return HostState::required().part<State>().sleeps; }
 
-const std::vector<int>& sleeps() { return state().sleeps; }
-
-int consoleHidings() { return state().consoleHidings; }
+int consoleHidings() { return HostState::required().part<State>().consoleHidings; }
 
 }  // namespace host::system_overrides
 
-using host::system_overrides::state;
+using host::SystemOverrides;
+using host::system_overrides::answering;
+using host::system_overrides::overriding;
 
 StandInAnswer standin_sleep(int milliseconds) {
-    if (!state().isAnswering) {
+    auto* state = answering();
+    if (state == nullptr) {
         return StandInAnswer::NotHandled;
     }
-    state().sleeps.push_back(milliseconds);
+    state->sleeps.push_back(milliseconds);
     host::clock::advance(std::chrono::milliseconds(milliseconds));
-    return state().answers.sleepTakesTime ? StandInAnswer::NotHandled : StandInAnswer::Done;
+    return state->overrides->sleepTakesTime ? StandInAnswer::NotHandled : StandInAnswer::Done;
 }
 
 StandInAnswer standin_messageBox(const char* text, const char* title, unsigned style) {
-    if (!state().isAnswering) {
+    if (answering() == nullptr) {
         return StandInAnswer::NotHandled;
     }
     host::Message message;
@@ -89,20 +99,21 @@ StandInAnswer standin_messageBox(const char* text, const char* title, unsigned s
 }
 
 StandInAnswer standin_hideConsole() {
-    if (!state().isAnswering) {
+    auto* state = answering();
+    if (state == nullptr) {
         return StandInAnswer::NotHandled;
     }
-    ++state().consoleHidings;
-    return state().answers.consoleMayHide ? StandInAnswer::NotHandled : StandInAnswer::Done;
+    ++state->consoleHidings;
+    return state->overrides->consoleMayHide ? StandInAnswer::NotHandled : StandInAnswer::Done;
 }
 
 StandInAnswer standin_virtualScreen(StandInArea* area) {
-    const auto& screen = state().answers.screen;
+    const auto screen = overriding(&SystemOverrides::screen);
     return screen ? host::system_overrides::answerWith(*screen, area) : StandInAnswer::NotHandled;
 }
 
 StandInAnswer standin_windowArea(const char* title, StandInArea* area) {
-    const auto& windows = state().answers.windows;
+    const auto windows = overriding(&SystemOverrides::windows);
     if (!windows) {
         return StandInAnswer::NotHandled;
     }
@@ -114,12 +125,12 @@ StandInAnswer standin_windowArea(const char* title, StandInArea* area) {
 }
 
 StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
-    if (!state().answers.windows) {
+    // A copy: the visitor may set other overrides.
+    const auto windows = overriding(&SystemOverrides::windows);
+    if (!windows) {
         return StandInAnswer::NotHandled;
     }
-    // A copy: whoever looks may start other answers.
-    const std::vector<host::WindowShown> windows = *state().answers.windows;
-    for (const host::WindowShown& window : windows) {
+    for (const host::WindowShown& window : *windows) {
         StandInArea area = {};
         host::system_overrides::answerWith(window.inside, &area);
         if (visit(context, window.title.c_str(), &area) == 0) {
@@ -130,7 +141,7 @@ StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
 }
 
 StandInAnswer standin_cpuid(unsigned leaf, unsigned* registers) {
-    const auto& processor = state().answers.processor;
+    const auto processor = overriding(&SystemOverrides::processor);
     if (!processor) {
         return StandInAnswer::NotHandled;
     }

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-/// What a session answers a module in the place of the system, besides what the shell is asked:
-/// time, message boxes, the console, the screen, the processor.
+/// What a session answers a module in the place of the system, besides requests to the shell: time,
+/// message boxes, the console, the screen, the processor.
 namespace host {
 
-/// A part of the screen; right and bottom no longer belong to it.
+/// A part of the screen, in pixels; right and bottom are outside of it.
 struct ScreenRectangle {
     int left = 0;
     int top = 0;
@@ -18,21 +18,21 @@ struct ScreenRectangle {
     int bottom = 0;
 };
 
-/// A window on the screen, and where its inside stands.
+/// A window on the screen, and where its inside is.
 struct WindowShown {
     std::string title;
     ScreenRectangle inside;
 };
 
-/// How a session answers. As it stands: without waiting, and with what the machine has.
+/// How a session answers. By default without waiting, and with what the machine has.
 struct SystemOverrides {
     bool sleepTakesTime = false;  ///< else a module that wants to wait goes on at once
     bool consoleMayHide = false;  ///< a console that a module hides is shown again at the end
 
-    /// The area of all monitors; none: as the machine has it.
+    /// The area of all monitors; without one the machine's.
     std::optional<ScreenRectangle> screen;
 
-    /// All windows that there are, the foremost first; none: as the machine has them.
+    /// All windows, the foremost first; without a list the machine's.
     std::optional<std::vector<WindowShown>> windows;
 
     /// EAX, EBX, ECX and EDX after CPUID of a leaf; null: the machine's.
@@ -41,16 +41,15 @@ struct SystemOverrides {
 
 namespace system_overrides {
 
-/// Answers this way from now on. Message boxes are kept among the messages of the host.
-void start(SystemOverrides answers);
+/// Answers this way until the host ends; a console that a module has hidden is shown then. Message
+/// boxes are recorded among the messages of the host. Before the first call, and without a host,
+/// everything is left to the system. Each function here throws a `MisuseError` without a host.
+void set(SystemOverrides overrides);
 
-/// Leaves everything to the system again, and shows a console that a module has hidden.
-void end();
-
-/// The milliseconds that modules wanted to wait since `start`, one number for each wait.
+/// The milliseconds that modules wanted to wait since the host started, one number for each wait.
 const std::vector<int>& sleeps();
 
-/// How often since `start` a module wanted the console hidden.
+/// How often since the host started a module wanted the console hidden.
 int consoleHidings();
 
 }  // namespace system_overrides

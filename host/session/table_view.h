@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// One place of a table, as a person sees it.
+/// One place of a table, as the user sees it.
 struct TableCell {
     enum class Kind { Empty, Button, CheckBox, Text, Choice, Picture };
 
@@ -33,10 +33,10 @@ struct TableView {
 };
 
 /// Reads what a table shows at this moment. Neither cells that are hidden one by one nor columns
-/// without a width are in it; a row without any visible cell is none.
+/// without a width are in it; nor are rows without any visible cell.
 TableView readTable(const adsk::core::Ptr<adsk::core::TableCommandInput>& table);
 
-/// One cell, wherever it stands and whether it shows or not; of kind `Empty` where there is none.
+/// One cell, shown or not; of kind `Empty` where there is none.
 TableCell readCell(const adsk::core::Ptr<adsk::core::TableCommandInput>& table, int row,
                    int column);
 

@@ -4,9 +4,8 @@
 #include "host/ui/inputs/reachability.h"
 
 namespace host {
-namespace ui {
 
-ApplicationObject& hostAtHand() {
+ApplicationObject& runningApplication() {
     const core::Ptr<ApplicationObject> application = ApplicationObject::current();
     if (!application) {
         throw MisuseError("no host runs: start one first");
@@ -14,36 +13,34 @@ ApplicationObject& hostAtHand() {
     return *application;
 }
 
-UserAction::UserAction() : application_(&hostAtHand()) {
+UserAction::UserAction() : application_(&runningApplication()) {
     if (runner().isBusy()) {
         throw MisuseError("a command is at work: wait until it has answered");
     }
     runner().beginUserAction();
 }
 
-CommandObject& shownDialog() {
-    const core::Ptr<CommandObject>& active = hostAtHand().ui().runner().active();
+ui::CommandObject& shownDialog() {
+    const core::Ptr<ui::CommandObject>& active = runningApplication().ui().runner().active();
     if (!active || !active->isShown()) {
         throw MisuseError("no dialog is open: press the button of a command first");
     }
     return *active;
 }
 
-InputState& usable(const core::Ptr<core::CommandInput>& input, const std::string& action) {
-    InputState* state = InputState::of(input);
+ui::InputState& usable(const core::Ptr<core::CommandInput>& input, const std::string& action) {
+    ui::InputState* state = ui::InputState::of(input);
     if (state == nullptr) {
         throw MisuseError("cannot " + action + ": there is no such input");
     }
     const std::string why = whyUnusable(input);
     if (!why.empty()) {
-        throw MisuseError("cannot " + action + " " + describe(*state) + ": " + why);
+        throw MisuseError("cannot " + action + " " + ui::describe(*state) + ": " + why);
     }
     return *state;
 }
 
-}  // namespace ui
-
-std::string whyUnusable(const adsk::core::Ptr<adsk::core::CommandInput>& input) {
+std::string whyUnusable(const core::Ptr<core::CommandInput>& input) {
     const ui::InputState* state = ui::InputState::of(input);
     if (state == nullptr) return "there is no such input";
     const std::string why = ui::whyUnreachable(*state);

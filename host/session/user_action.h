@@ -4,35 +4,37 @@
 
 #include <string>
 
-/// What every action of a person begins and ends with.
-namespace host::ui {
+/// How every user action begins and ends.
+namespace host {
 
-/// The host that a person acts at; throws a `MisuseError` where none runs.
-ApplicationObject& hostAtHand();
+/// The application at which the user acts; throws a `MisuseError` where no host runs.
+ApplicationObject& runningApplication();
 
 /// The open dialog; throws a `MisuseError` where none is open.
-CommandObject& shownDialog();
+ui::CommandObject& shownDialog();
 
-/// One action of a person: commands can start again from here on, and those that were asked for
-/// during the action start at its end. Throws a `MisuseError` while a command is at work.
+/// One action of the user: from here on commands may start again as often as allowed, and those
+/// that were requested during the action start at its end. Throws a `MisuseError` while a command
+/// is at work.
 class UserAction {
 public:
     UserAction();
     UserAction(const UserAction&) = delete;
     UserAction& operator=(const UserAction&) = delete;
 
-    [[nodiscard]] UserInterfaceObject& ui() const { return application_->ui(); }
-    [[nodiscard]] CommandRunner& runner() const { return ui().runner(); }
+    [[nodiscard]] ui::UserInterfaceObject& ui() const { return application_->ui(); }
+    [[nodiscard]] ui::CommandRunner& runner() const { return ui().runner(); }
 
-    /// Starts what was asked for: the last thing of each action.
+    /// Starts what was requested: the last step of each action.
     void finish() { runner().drainRequests(); }
 
 private:
     adsk::core::Ptr<ApplicationObject> application_;
 };
 
-/// The state of an input that a person can use now; throws a `MisuseError` that begins with
+/// The state of an input that the user can use now; throws a `MisuseError` that begins with
 /// `action` where there is none.
-InputState& usable(const core::Ptr<core::CommandInput>& input, const std::string& action);
+ui::InputState& usable(const adsk::core::Ptr<adsk::core::CommandInput>& input,
+                       const std::string& action);
 
-}  // namespace host::ui
+}  // namespace host

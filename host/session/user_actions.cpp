@@ -10,7 +10,6 @@ namespace {
 
 namespace core = adsk::core;
 using core::Ptr;
-using ui::UserAction;
 
 std::vector<Ptr<ui::CommandControlObject>> controlsOf(const ui::CommandDefinitionObject& definition,
                                                       const ui::WorkspaceObject& workspace) {
@@ -71,13 +70,13 @@ void pressCommand(const std::string& id) {
 }
 
 Ptr<core::Command> openDialog() {
-    const Ptr<ui::CommandObject>& active = ui::hostAtHand().ui().runner().active();
+    const Ptr<ui::CommandObject>& active = runningApplication().ui().runner().active();
     return active && active->isShown() ? active : nullptr;
 }
 
 ui::DialogSize dialogSize() {
-    const ui::CommandObject& dialog = ui::shownDialog();
-    const auto& remembered = ui::hostAtHand().ui().rememberedSizes;
+    const ui::CommandObject& dialog = shownDialog();
+    const auto& remembered = runningApplication().ui().rememberedSizes;
     const auto found = remembered.find(dialog.definition()->identifier());
     ui::DialogSize size = found == remembered.end() ? dialog.initialSize() : found->second;
     size.width = std::max(size.width, dialog.minimumSize().width);
@@ -87,7 +86,7 @@ ui::DialogSize dialogSize() {
 
 void resizeDialog(int width, int height) {
     const UserAction acting;
-    acting.ui().rememberedSizes[ui::shownDialog().definition()->identifier()] = {width, height};
+    acting.ui().rememberedSizes[shownDialog().definition()->identifier()] = {width, height};
 }
 
 void pressOk() {
@@ -102,7 +101,7 @@ void pressOk() {
 
 void acceptAnyway() {
     UserAction acting;
-    static_cast<void>(ui::shownDialog());
+    static_cast<void>(shownDialog());
     acting.runner().accept();
     acting.finish();
 }
@@ -116,7 +115,7 @@ void pressCancel() {
     acting.finish();
 }
 
-void drainRequests() { ui::hostAtHand().ui().runner().drainRequests(); }
+void drainRequests() { runningApplication().ui().runner().drainRequests(); }
 
 void closePalette(const std::string& id) {
     const UserAction acting;

@@ -12,11 +12,11 @@
 #include <string>
 #include <vector>
 
-/// What a person does at the host that runs.
+/// What the user does at the host that runs.
 ///
-/// Each of these is one action: the handlers of the module are told, and whatever commands were
-/// asked for meanwhile have started before it returns. An action that the screen does not offer
-/// throws a `MisuseError` and changes nothing: an input that is hidden, disabled, or stands in
+/// Each of these is one action: the handlers of the module are notified, and the commands that were
+/// requested meanwhile have started before it returns. An action that the screen does not offer
+/// throws a `MisuseError` and changes nothing: an input that is hidden, disabled, or in
 /// another tab, an item that the list does not hold, OK while the host refuses it.
 ///
 /// What handlers throw is recorded by the dispatcher, under "OnInputChanged" with the id of the
@@ -33,10 +33,10 @@ namespace host {
 void pressCommand(const adsk::core::Ptr<adsk::core::CommandDefinition>& definition);
 void pressCommand(const std::string& id);
 
-/// The command whose dialog stands on the screen, null for none.
+/// The command whose dialog is open, null for none.
 adsk::core::Ptr<adsk::core::Command> openDialog();
 
-/// The size of the open dialog, 0 by 0 where nothing gives it one: what the person made of it at
+/// The size of the open dialog, 0 by 0 where nothing determines it: what the user gave it at
 /// the last opening, else what the command asked for.
 ui::DialogSize dialogSize();
 
@@ -46,52 +46,53 @@ void resizeDialog(int width, int height);
 /// Accepts the dialog.
 void pressOk();
 
-/// Accepts the dialog although the host refuses OK, which no person can do: a host that differs in
-/// what it refuses may.
+/// Accepts the dialog although the host refuses OK, which the user cannot do: for tests of what a
+/// module does in a host that refuses less.
 void acceptAnyway();
 
 /// Closes the dialog without accepting it, as the Esc key does too.
 void pressCancel();
 
-/// Starts the commands that a module asked for while nobody acted, for instance in its `run`.
+/// Starts the commands that a module requested outside of user actions, for instance in its `run`.
 void drainRequests();
 /// @}
 
 /// @name Inputs of the open dialog
 /// @{
 
-/// Clicks a button or check box, which changes its value and is told. A click on anything else
-/// selects the row of the table that it stands in, gives a selection input the focus, unfolds or
-/// folds a group, and shows a tab.
+/// Clicks a button or check box, which changes its value and is reported. A click on anything else
+/// selects the row of the table that the input is in, moves the focus to a selection input, unfolds
+/// or folds a group, and shows a tab.
 void click(const adsk::core::Ptr<adsk::core::CommandInput>& input);
 
-/// Types a text in the place of the one that is there. Told once for each character, the value
-/// having grown by it; once for an empty text.
+/// Types a string, which replaces what the input held. The change is reported after each character;
+/// once for an empty string.
 void typeText(const adsk::core::Ptr<adsk::core::CommandInput>& input, const std::string& text);
 
-/// Puts a text in the place of the one that is there; told once.
+/// Pastes a string, which replaces what the input held; reported once.
 void pasteText(const adsk::core::Ptr<adsk::core::CommandInput>& input, const std::string& text);
 
-/// Chooses an item, which is told; where several can be selected it unselects a selected one.
+/// Chooses an item, which is reported; where several can be selected it unselects a selected one.
 /// Nothing happens for the item that is chosen already.
 void chooseItem(const adsk::core::Ptr<adsk::core::CommandInput>& input, const std::string& item);
 void chooseItem(const adsk::core::Ptr<adsk::core::CommandInput>& input, std::size_t index);
 
-/// Shows a tab; told as a change of the input "APITabBar". Nothing happens for the tab that shows.
+/// Shows a tab; reported as a change of the input "APITabBar". Nothing happens for the tab that
+/// shows.
 void activateTab(const adsk::core::Ptr<adsk::core::TabCommandInput>& tab);
 
-/// Selects a row of a table, which nobody is told.
+/// Selects a row of a table, which is not reported.
 void selectRow(const adsk::core::Ptr<adsk::core::TableCommandInput>& table, int row);
 
 /// Picks an entity in the model. With a dialog it goes to the selection that has the focus, which
-/// is told; an entity that is picked there already is taken out. Without one it is all that is
-/// selected.
+/// is reported; an entity that is picked there already is taken out. Without one it replaces the
+/// selection.
 void pick(const adsk::core::Ptr<adsk::core::Base>& entity);
 
-/// Selects entities in the model, in the place of those that are selected. Only without a dialog.
+/// Selects entities in the model, and nothing else. Only without a dialog.
 void selectInModel(const std::vector<adsk::core::Ptr<adsk::core::Base>>& entities);
 
-/// Tells the handlers that an input changed although nobody could have changed it.
+/// Notifies the handlers that an input changed, although the user could not have changed it.
 void reportChange(const adsk::core::Ptr<adsk::core::CommandInput>& input);
 /// @}
 
@@ -104,8 +105,8 @@ void activateWorkspace(const std::string& id);
 /// Closes a palette with the button in its corner, which hides it.
 void closePalette(const std::string& id);
 
-/// Opens the context menu and returns the ids of the commands in its list; none where it is empty,
-/// and so does not show.
+/// Opens the context menu and returns the ids of the commands in its list; an empty list
+/// does not show.
 std::vector<std::string> showMarkingMenu();
 /// @}
 
@@ -122,7 +123,7 @@ std::vector<int> shownColumns(const adsk::core::Ptr<adsk::core::TableCommandInpu
 std::vector<adsk::core::Ptr<adsk::core::CommandInput>> toolbarOf(
     const adsk::core::Ptr<adsk::core::TableCommandInput>& table);
 
-/// Why a person cannot use an input; empty where they can.
+/// Why the user cannot use an input; empty where they can.
 std::string whyUnusable(const adsk::core::Ptr<adsk::core::CommandInput>& input);
 /// @}
 

@@ -15,12 +15,12 @@ struct WorkspaceSetup {
     std::string productType = "DesignProductType";  ///< of any other type: it shows no design
 };
 
-/// Which changes that code makes to inputs of the open dialog are told to its handlers, as if a
-/// person had made them. They are told after the running notification.
+/// Which changes that code makes to inputs of the open dialog are reported to its handlers, as if
+/// the user had made them. They are reported after the running notification.
 enum class CodeChanges {
     None,
-    Lists,  ///< items selected in drop-downs that stood in the dialog before that notification
-    All,    ///< every changed value of inputs that stood in it
+    Lists,  ///< items selected in drop-downs that were in the dialog before that notification
+    All,    ///< every changed value of inputs that were in it
 };
 
 struct HostSetup {
@@ -35,8 +35,8 @@ struct HostSetup {
     /// Whether waiting takes a module real time.
     clock::ClockMode clock = clock::ClockMode::Virtual;
 
-    /// How many seconds a progress dialog may wait before the host presses its Cancel: what nobody
-    /// is there to end comes to an end all the same.
+    /// How many seconds a progress dialog may wait before the host presses its Cancel, so that a
+    /// wait ends without a user too.
     double longestWait = 86400;
 
     /// Whether the host's own command "SelectCommand" is announced whenever no other runs.

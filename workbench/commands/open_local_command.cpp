@@ -10,11 +10,8 @@
 #include "workbench/output/progress_line.h"
 #include "workbench/output/reports.h"
 
-#include "host/base/clock.h"
 #include "host/base/utf8_path.h"
-#include "host/cloud/storage_pace.h"
-#include "host/ui/dialogs/file_dialog.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/session/dialog_answers.h"
 
 #include <algorithm>
 #include <csignal>
@@ -38,7 +35,7 @@ struct OpenLocalOptions {
 
 /// Shows what the add-in waits for, and cancels it after Ctrl-C; again and again on the host's
 /// clock, for as long as the line lives.
-void watchWaiting(const std::weak_ptr<ProgressLine>& watched) {
+void watchWaiting(host::Session& session, const std::weak_ptr<ProgressLine>& watched) {
     const std::shared_ptr<ProgressLine> line = watched.lock();
     if (!line) {
         return;
@@ -50,7 +47,7 @@ void watchWaiting(const std::weak_ptr<ProgressLine>& watched) {
         line->show(printable(progress->text) + "  (Ctrl-C cancels)");
     }
     constexpr double kInterval = 0.1;
-    host::clock::schedule(host::clock::now() + kInterval, [watched] { watchWaiting(watched); });
+    session.schedule(kInterval, [&session, watched] { watchWaiting(session, watched); });
 }
 
 host::SessionOptions waitingSession(const OpenLocalOptions& options) {
@@ -97,7 +94,7 @@ Failure explained(const Failure& failure, const host::Session& session) {
 std::optional<Failure> open(DialogSession& dialog, const std::vector<std::string>& names) {
     const InterruptGuard guard;
     const auto line = std::make_shared<ProgressLine>();
-    watchWaiting(line);
+    watchWaiting(dialog.session(), line);
     try {
         dialog.act([&](host::Session& session) {
             host::answerNextFileDialog(names);

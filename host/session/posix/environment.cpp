@@ -36,7 +36,7 @@ std::filesystem::path programFolder() {
     return std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
 }
 
-// The window around a program belongs to another program here, which hides for nobody.
+// The window of a terminal belongs to another program here, and a module cannot hide it.
 void showConsole() {}
 
 bool makePrivateFolder(const std::filesystem::path& folder) {

@@ -35,7 +35,7 @@ std::filesystem::path programFolder() {
 }
 
 void showConsole() {
-    // Says whether the window showed before; without one nothing happens.
+    // The result is whether the window was visible; without a window nothing happens.
     static_cast<void>(::ShowWindow(::GetConsoleWindow(), SW_SHOW));
 }
 

@@ -18,7 +18,7 @@ private:
 
 std::unique_ptr<FolderLock> FolderLock::take(const std::filesystem::path& folder) {
     const std::filesystem::path file = folder / "lock";
-    // Nobody else can open the file while it is shared with none.
+    // No other process can open the file while it is not shared.
     const HANDLE handle =
         ::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, /*dwShareMode=*/0, nullptr,
                       OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);

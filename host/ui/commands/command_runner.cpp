@@ -50,7 +50,7 @@ void CommandRunner::request(const core::Ptr<CommandDefinitionObject>& definition
 }
 
 void CommandRunner::drainRequests() {
-    if (busy_ > 0 || gate::state().modules > 0) return;
+    if (busy_ > 0 || gate::isModuleRunning()) return;
     do {
         while (!requested_.empty()) {
             const core::Ptr<CommandDefinitionObject> next = requested_.front();

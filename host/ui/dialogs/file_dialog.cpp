@@ -1,56 +1,34 @@
 #include "host/ui/dialogs/file_dialog.h"
 
-#include <deque>
-#include <utility>
+#include "host/base/host_state.h"
 
-namespace host {
+namespace host::ui {
 namespace {
 
-struct Screen {
-    std::vector<FileDialogShown> shown;
-    std::deque<PickedFiles> answers;
-    std::function<PickedFiles(const FileDialogShown&)> ask;
-};
-
-Screen& screen() {
-    static auto* instance = new Screen;
-    return *instance;
-}
-
-/// Has the dialog answered: by the answer that waits for it, else by whoever is asked.
-void answer(FileDialogShown& dialog) {
-    Screen& all = screen();
-    if (!all.answers.empty()) {
-        dialog.picked = all.answers.front();
-        all.answers.pop_front();
-    } else if (all.ask) {
-        const gate::Outside outside;
-        dialog.picked = all.ask(dialog);
-    } else {
-        dialog.picked.reset();
+/// The answer that waits for the dialog, else that of the function to ask.
+PickedFiles answerOf(const FileDialogShown& dialog, FileDialogLog& log) {
+    if (!log.answers.empty()) {
+        PickedFiles answer = log.answers.front();
+        log.answers.pop_front();
+        return answer;
     }
+    if (!log.ask) return std::nullopt;
+    const gate::Outside outside;
+    return log.ask(dialog);
 }
 
 }  // namespace
 
-const std::vector<FileDialogShown>& fileDialogs() { return screen().shown; }
-
-void answerNextFileDialog(PickedFiles files) { screen().answers.push_back(std::move(files)); }
-
-void askForFiles(std::function<PickedFiles(const FileDialogShown&)> ask) {
-    screen().ask = std::move(ask);
-}
-
-namespace ui {
-
 core::DialogResults FileDialogObject::showOpen() {
     if (closed<"FileDialog::showOpen">(*this)) return {};
-    answer(state_);
+    auto* log = HostState::currentPart<FileDialogLog>();
+    if (log == nullptr) return core::DialogCancel;
+    state_.picked = answerOf(state_, *log);
     if (state_.picked && state_.picked->size() > 1 && !state_.multiSelect) {
         misuse("FileDialog::showOpen", "several files were picked in a dialog that takes one");
         state_.picked->resize(1);
     }
-    screen().shown.push_back(state_);
+    log->shown.push_back(state_);
     return state_.picked ? core::DialogOK : core::DialogCancel;
 }
 
@@ -64,7 +42,4 @@ std::string FileDialogObject::filename() const {
     return state_.picked && !state_.picked->empty() ? state_.picked->front() : "";
 }
 
-void resetFileDialogs() { screen() = {}; }
-
-}  // namespace ui
-}  // namespace host
+}  // namespace host::ui

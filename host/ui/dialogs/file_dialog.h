@@ -4,15 +4,16 @@
 
 #include <Core/Dialogs.h>
 
+#include <deque>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-/// The file dialogs that a module shows, kept and answered in place of a person.
+/// The file dialogs that a module shows, recorded and answered in place of the user.
 namespace host {
 
-/// The full names of the files that a person picks; none where the dialog is closed without.
+/// The full names of the files that the user picks; none where the dialog is closed without any.
 using PickedFiles = std::optional<std::vector<std::string>>;
 
 /// A dialog as it was shown.
@@ -26,18 +27,17 @@ struct FileDialogShown {
     bool operator==(const FileDialogShown&) const = default;
 };
 
-/// What was shown since the host started, oldest first.
-const std::vector<FileDialogShown>& fileDialogs();
-
-/// Answers the next file dialog that nobody answered yet. Several files for a dialog that takes one
-/// are listed as a misuse, and the first is picked.
-void answerNextFileDialog(PickedFiles files);
-
-/// Asks `ask` for the answer of each dialog that has none waiting; null asks nobody, and the dialog
-/// is closed without a file. `ask` runs while the module waits.
-void askForFiles(std::function<PickedFiles(const FileDialogShown&)> ask);
-
 namespace ui {
+
+/// The file dialogs of one host, a part of its state.
+struct FileDialogLog {
+    std::vector<FileDialogShown> shown;                      ///< oldest first
+    std::deque<PickedFiles> answers;                         ///< of the dialogs to come
+    std::function<PickedFiles(const FileDialogShown&)> ask;  ///< where no answer waits
+};
+
+/// A dialog is closed without a file where nothing answers it. Several files for a dialog that
+/// takes one are a misuse, and the first is picked.
 
 class FileDialogObject final : public Object<core::FileDialog> {
 public:
@@ -72,9 +72,6 @@ public:
 private:
     FileDialogShown state_;
 };
-
-/// Forgets dialogs, answers and whom to ask.
-void resetFileDialogs();
 
 }  // namespace ui
 }  // namespace host

@@ -1,10 +1,10 @@
 #include "host/ui/dialogs/messages.h"
 
 #include "host/base/gate.h"
+#include "host/base/host_state.h"
 #include "host/base/misuse.h"
 
 #include <algorithm>
-#include <deque>
 #include <utility>
 
 namespace host {
@@ -12,18 +12,7 @@ namespace {
 
 using namespace adsk::core;
 
-struct Screen {
-    std::vector<Message> shown;
-    std::deque<DialogResults> answers;
-    std::function<DialogResults(const Message&)> ask;
-};
-
-Screen& screen() {
-    static auto* instance = new Screen;
-    return *instance;
-}
-
-/// The buttons of a message box, the first one in front; "Retry" answers as OK does.
+/// The buttons of a message box, in their order; "Retry" answers as OK does.
 std::vector<DialogResults> buttonsOf(MessageBoxButtonTypes type) {
     switch (type) {
         case OKCancelButtonType:
@@ -38,47 +27,36 @@ std::vector<DialogResults> buttonsOf(MessageBoxButtonTypes type) {
     }
 }
 
-DialogResults answerOf(const Message& message, DialogResults first) {
-    Screen& all = screen();
-    if (!all.answers.empty()) {
-        const DialogResults answer = all.answers.front();
-        all.answers.pop_front();
+DialogResults answerOf(const Message& message, DialogResults first, ui::MessageLog& log) {
+    if (!log.answers.empty()) {
+        const DialogResults answer = log.answers.front();
+        log.answers.pop_front();
         return answer;
     }
-    if (!all.ask) return first;
+    if (!log.ask) return first;
     const gate::Outside outside;
-    return all.ask(message);
+    return log.ask(message);
 }
 
 }  // namespace
-
-const std::vector<Message>& messages() { return screen().shown; }
-
-void clearMessages() { screen().shown.clear(); }
-
-void answerNextMessage(DialogResults answer) { screen().answers.push_back(answer); }
-
-void askForAnswers(std::function<DialogResults(const Message&)> ask) {
-    screen().ask = std::move(ask);
-}
 
 namespace ui {
 
 DialogResults showMessage(Message message) {
     const std::vector<DialogResults> buttons = buttonsOf(message.buttons);
-    message.answer = answerOf(message, buttons.front());
+    auto* log = HostState::currentPart<MessageLog>();
+    if (log == nullptr) return buttons.front();
+    message.answer = answerOf(message, buttons.front(), *log);
     if (std::find(buttons.begin(), buttons.end(), message.answer) == buttons.end()) {
-        // UncaughtException from here it would end in the module that waits for the answer.
+        // An exception thrown from here would end in the module that waits for the answer.
         misuse("UserInterface::messageBox", "the message \"" + message.text +
                                                 "\" has no button for the answer " +
                                                 std::to_string(message.answer));
         message.answer = buttons.front();
     }
-    screen().shown.push_back(message);
+    log->shown.push_back(message);
     return message.answer;
 }
-
-void resetMessages() { screen() = {}; }
 
 }  // namespace ui
 }  // namespace host

@@ -1,30 +1,12 @@
 #include "host/ui/dialogs/progress_dialog.h"
 
-#include "host/ui/host_setup.h"
+#include "host/base/host_state.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <vector>
 
-namespace host {
+namespace host::ui {
 namespace {
-
-using Dialogs = std::vector<ui::ProgressDialogObject*>;
-
-/// Those that a module holds, the newest behind. Never destroyed: modules and the host end in
-/// either order.
-Dialogs& living() {
-    static auto* instance = new Dialogs;
-    return *instance;
-}
-
-double longestWait = HostSetup().longestWait;
-
-ui::ProgressDialogObject* newest() {
-    const auto found = std::find_if(living().rbegin(), living().rend(),
-                                    [](const auto* each) { return !each->isHidden(); });
-    return found == living().rend() ? nullptr : *found;
-}
 
 /// `text` with a number in each place of "%" and `sign`.
 void fillIn(std::string& text, char sign, int number) {
@@ -45,37 +27,36 @@ int percent(int value, int minimum, int maximum) {
 
 }  // namespace
 
-std::optional<Progress> progressDialog() {
-    const ui::ProgressDialogObject* dialog = newest();
-    return dialog == nullptr ? std::nullopt : std::optional(dialog->seen());
+ProgressDialogObject* newestProgressDialog() {
+    const auto* all = HostState::currentPart<ProgressDialogs>();
+    if (all == nullptr) return nullptr;
+    const auto found = std::find_if(all->held.rbegin(), all->held.rend(),
+                                    [](const auto* each) { return !each->isHidden(); });
+    return found == all->held.rend() ? nullptr : *found;
 }
-
-void cancelProgress() {
-    ui::ProgressDialogObject* dialog = newest();
-    if (dialog == nullptr) {
-        throw MisuseError("nothing is in progress that could be cancelled");
-    }
-    if (!dialog->hasCancelButton()) {
-        throw MisuseError("what is in progress has no button to cancel it");
-    }
-    dialog->cancel();
-}
-
-namespace ui {
-
-void startWaits(double seconds) { longestWait = seconds; }
 
 void endLongWaits() {
-    for (ProgressDialogObject* each : living()) {
-        if (clock::now() - each->madeAt() >= longestWait) {
+    const auto* all = HostState::currentPart<ProgressDialogs>();
+    if (all == nullptr) return;
+    for (ProgressDialogObject* each : all->held) {
+        if (clock::now() - each->madeAt() >= all->longestWait) {
             each->cancel();
         }
     }
 }
 
-ProgressDialogObject::ProgressDialogObject() { living().push_back(this); }
+ProgressDialogObject::ProgressDialogObject() {
+    if (auto* all = HostState::currentPart<ProgressDialogs>()) {
+        all->held.push_back(this);
+    }
+}
 
-ProgressDialogObject::~ProgressDialogObject() { std::erase(living(), this); }
+// A module may hold the dialog for longer than its host lives, and into the next one.
+ProgressDialogObject::~ProgressDialogObject() {
+    if (auto* all = HostState::currentPart<ProgressDialogs>()) {
+        std::erase(all->held, this);
+    }
+}
 
 Progress ProgressDialogObject::seen() const {
     Progress seen = {message_, value_, cancelButtonShown_ ? cancelButtonText_ : "", cancelled_,
@@ -103,5 +84,4 @@ bool ProgressDialogObject::show(const std::string& /*title*/, const std::string&
     return true;
 }
 
-}  // namespace ui
-}  // namespace host
+}  // namespace host::ui

@@ -2,37 +2,39 @@
 
 #include "host/base/clock.h"
 #include "host/base/object.h"
+#include "host/ui/host_setup.h"
 
 #include <Core/Dialogs.h>
 
-#include <optional>
 #include <string>
+#include <vector>
 
-/// The progress dialogs that a module has, and a person's cancelling in them.
+/// The progress dialogs that a module has.
 namespace host {
 
-/// A dialog as a person would read it.
+/// A dialog as the user would read it.
 struct Progress {
     std::string text;  ///< with the numbers in the places of "%v", "%m" and "%p"
     int value = 0;
     std::string cancelButton;  ///< empty where it has none
     bool cancelled = false;
-    bool translucent = false;  ///< what lies behind shines through
+    bool translucent = false;  ///< what is below it shines through
 
     bool operator==(const Progress&) const = default;
 };
 
-/// The newest progress dialog that a module holds and has not hidden; none without one.
-std::optional<Progress> progressDialog();
-
-/// Presses the cancel button of the newest progress dialog. Throws a `MisuseError` where there is
-/// no dialog or no button.
-void cancelProgress();
-
 namespace ui {
 
-/// Begins again: dialogs that have waited for so many seconds are cancelled by `endLongWaits`.
-void startWaits(double longestWait);
+class ProgressDialogObject;
+
+/// The progress dialogs of one host, a part of its state.
+struct ProgressDialogs {
+    std::vector<ProgressDialogObject*> held;       ///< those that a module holds, the newest last
+    double longestWait = HostSetup().longestWait;  ///< in seconds
+};
+
+/// The newest progress dialog that a module holds and has not hidden; null without one.
+ProgressDialogObject* newestProgressDialog();
 
 /// Cancels the dialogs that have waited too long, whether or not they have a button for it.
 void endLongWaits();

@@ -1,6 +1,6 @@
 #include "host/application/import_manager.h"
 
-#include "host/application/application.h"
+#include "host/application/running_host.h"
 #include "host/base/last_error.h"
 #include "host/design/design_file.h"
 #include "host/design/document.h"
@@ -23,12 +23,10 @@ using drafts::tree;
 
 class ImportManagerTest : public testing::Test {
 protected:
-    ImportManagerTest() { startHost({}); }
-    ~ImportManagerTest() override { endHost(); }
-
     static Ptr<ImportManager> manager() { return adsk::core::Application::get()->importManager(); }
 
     drafts::Folder folder;
+    RunningHost host_;
 };
 
 TEST_F(ImportManagerTest, OpensStepFilesAsNewDocuments) {
@@ -94,7 +92,7 @@ TEST_F(ImportManagerTest, ReportsMissingOptions) {
     EXPECT_FALSE(manager()->importToNewDocument(nullptr));
 
     EXPECT_EQ(misuses(), (std::vector<Misuse>{{"ImportManager::importToNewDocument",
-                                               "needs options that tell what to import"}}));
+                                               "needs options that name a file"}}));
 }
 
 }  // namespace

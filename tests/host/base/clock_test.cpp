@@ -1,8 +1,11 @@
 #include "host/base/clock.h"
 
+#include "host/base/host_state.h"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <optional>
 #include <string>
 #include <thread>
 
@@ -13,17 +16,15 @@ using namespace std::chrono_literals;
 
 class ClockTest : public testing::Test {
 protected:
-    ClockTest() { start(ClockMode::Virtual); }
-    ~ClockTest() override { start(ClockMode::Virtual); }
-
-    void plan(double seconds, const std::string& what) {
+    void scheduleNote(double seconds, const std::string& what) {
         schedule(seconds, [this, what] { done += what; });
     }
 
+    std::optional<HostState> host{ClockMode::Virtual};
     std::string done;
 };
 
-TEST_F(ClockTest, AStandingOneMovesOnlyWhenSomebodyWaits) {
+TEST_F(ClockTest, AVirtualOneMovesOnlyWhenAModuleWaits) {
     EXPECT_EQ(now(), 0);
 
     advance(1500ms);
@@ -31,8 +32,9 @@ TEST_F(ClockTest, AStandingOneMovesOnlyWhenSomebodyWaits) {
     EXPECT_EQ(now(), 1.5);
 }
 
-TEST_F(ClockTest, ARunningOneIsTheSystems) {
-    start(ClockMode::Real);
+TEST_F(ClockTest, ARealOneIsTheSystems) {
+    host.reset();
+    host.emplace(ClockMode::Real);
     const double before = now();
 
     advance(1h);
@@ -43,10 +45,10 @@ TEST_F(ClockTest, ARunningOneIsTheSystems) {
 }
 
 TEST_F(ClockTest, DoesWhatIsDueTheEarliestFirst) {
-    plan(3, "c");
-    plan(1, "a");
-    plan(2, "b");
-    plan(9, "z");
+    scheduleNote(3, "c");
+    scheduleNote(1, "a");
+    scheduleNote(2, "b");
+    scheduleNote(9, "z");
     advance(3s);
 
     runDue();
@@ -55,7 +57,7 @@ TEST_F(ClockTest, DoesWhatIsDueTheEarliestFirst) {
 }
 
 TEST_F(ClockTest, DoesNothingOfItself) {
-    plan(1, "a");
+    scheduleNote(1, "a");
 
     advance(5s);
 
@@ -63,7 +65,7 @@ TEST_F(ClockTest, DoesNothingOfItself) {
 }
 
 TEST_F(ClockTest, DoesAThingOnce) {
-    plan(0, "a");
+    scheduleNote(0, "a");
 
     runDue();
     runDue();
@@ -71,8 +73,8 @@ TEST_F(ClockTest, DoesAThingOnce) {
     EXPECT_EQ(done, "a");
 }
 
-TEST_F(ClockTest, WhatIsPlannedMeanwhileForThenIsDoneToo) {
-    schedule(1, [this] { plan(now(), "b"); });
+TEST_F(ClockTest, WhatIsScheduledMeanwhileForThenIsDoneToo) {
+    schedule(1, [this] { scheduleNote(now(), "b"); });
     advance(1s);
 
     runDue();
@@ -80,10 +82,11 @@ TEST_F(ClockTest, WhatIsPlannedMeanwhileForThenIsDoneToo) {
     EXPECT_EQ(done, "b");
 }
 
-TEST_F(ClockTest, ForgetsWhatWasPlannedWhenItBeginsAgain) {
-    plan(1, "a");
+TEST_F(ClockTest, BeginsAgainWithEachHost) {
+    scheduleNote(1, "a");
 
-    start(ClockMode::Virtual);
+    host.reset();
+    host.emplace();
     advance(2s);
     runDue();
 

@@ -1,6 +1,6 @@
 #include "host/base/events.h"
 
-#include "host/base/last_error.h"
+#include "host/base/host_state.h"
 
 #include <gtest/gtest.h>
 
@@ -43,8 +43,7 @@ private:
 
 class EventDispatch : public ::testing::Test {
 protected:
-    void SetUp() override { clearUncaughtExceptions(); }
-
+    HostState host;
     Ptr<PingEvent> event = make<PingEvent>("ping", nullptr);
 };
 
@@ -92,7 +91,6 @@ TEST_F(EventDispatch, HandlerOutlivesItsEvent) {
 
 TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndSaysSo) {
     Counting handler;
-    clearMisuses();
 
     event->dispose();
 

@@ -1,5 +1,7 @@
 #include "host/base/gate.h"
 
+#include "host/base/host_state.h"
+
 #include <gtest/gtest.h>
 
 namespace host {
@@ -7,11 +9,10 @@ namespace {
 
 class Gate : public ::testing::Test {
 protected:
-    void SetUp() override { gate::reset(); }
-    void TearDown() override { gate::reset(); }
-
     static bool first() { return refused<"Test::first">(); }
     static bool second() { return refused<"Test::second">(); }
+
+    HostState host;
 };
 
 TEST_F(Gate, CountsOnlyWhatAModuleCalls) {

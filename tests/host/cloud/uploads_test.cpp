@@ -1,5 +1,5 @@
-#include "host/application/application.h"
 #include "host/application/main_queue.h"
+#include "host/application/running_host.h"
 #include "host/base/clock.h"
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
@@ -27,7 +27,6 @@ using namespace std::chrono_literals;
 class Uploads : public testing::Test {
 protected:
     Uploads() {
-        startHost({});
         std::filesystem::create_directories(project());
         std::filesystem::create_directories(folder.path() / "disk");
         data =
@@ -36,7 +35,6 @@ protected:
                                                      .references = ReferencedFiles::KnownAtOnce});
         host::ApplicationObject::current()->setData(data->api());
     }
-    ~Uploads() override { endHost(); }
 
     [[nodiscard]] std::filesystem::path project() const {
         return folder.path() / "data" / "Workshop";
@@ -64,6 +62,7 @@ protected:
 
     test_support::TemporaryFolder folder;
     std::unique_ptr<UserData> data;
+    RunningHost host_;
 };
 
 TEST_F(Uploads, AreUnderWayUntilTheirTimeHasCome) {

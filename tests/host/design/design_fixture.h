@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/base/host_state.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
 
@@ -15,6 +16,8 @@ namespace host {
 
 /// Opens a design for a test, and closes it when the test is over.
 class DesignTest : public testing::Test {
+    HostState host_;
+
 protected:
     ~DesignTest() override;
 

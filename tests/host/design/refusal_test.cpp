@@ -16,9 +16,7 @@ protected:
         open(R"(
             Frame  at=1,2,3 grounded attribute=G/a/1
               Bolt  box=1x1x1)");
-        gate::reset();
     }
-    ~RefusalTest() override { gate::reset(); }
 
     gate::Module module_;
 };

@@ -1,4 +1,4 @@
-#include "host/application/application.h"
+#include "host/application/running_host.h"
 #include "host/design/document.h"
 #include "tests/host/import/drafts.h"
 #include "tests/host/import/iges_drafts.h"
@@ -46,14 +46,13 @@ TEST_F(IgesImport, WithoutBodiesHasNone) {
 
 TEST_F(IgesImport, IsOpenedByTheImportManager) {
     using namespace adsk::core;
-    host::startHost({});
+    const host::RunningHost host;
     const Ptr<ImportManager> manager = Application::get()->importManager();
 
     const Ptr<Document> document = manager->importToNewDocument(
         manager->createIGESImportOptions(folder.write("Panel.ige", iges(kRectangle))));
 
     EXPECT_EQ(drafts::tree(host::snapshot(document)), "Panel\n");
-    host::endHost();
 }
 
 TEST_F(IgesImport, RefusesWhatOnlyBeginsAsIges) {

@@ -1,9 +1,12 @@
 #include "host/session/shell_requests.h"
 
+#include "host/base/host_state.h"
+
 #include <StandIn/Process.h>
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +17,7 @@ namespace {
 
 class ShellRequests : public testing::Test {
 protected:
-    void TearDown() override { requests::start(Policy::PassOn); }
+    std::optional<host::HostState> host{std::in_place};
 };
 
 }  // namespace
@@ -22,10 +25,13 @@ protected:
 TEST_F(ShellRequests, WithoutASessionTheyAreTheSystems) {
     EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotHandled);
     EXPECT_TRUE(requests::recorded().empty());
+
+    host.reset();
+    EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotHandled);
 }
 
 TEST_F(ShellRequests, AreRecordedInOrderAndDone) {
-    requests::start(Policy::Record);
+    requests::setPolicy(Policy::Record);
 
     EXPECT_EQ(standin_openWithShell("C:\\a.xlsm"), StandInAnswer::Done);
     EXPECT_EQ(standin_openWithShell("http://b.example"), StandInAnswer::Done);
@@ -33,24 +39,25 @@ TEST_F(ShellRequests, AreRecordedInOrderAndDone) {
 }
 
 TEST_F(ShellRequests, AreRecordedWhenTheSystemIsToOpenThem) {
-    requests::start(Policy::RecordOpen);
+    requests::setPolicy(Policy::RecordOpen);
 
     EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::NotHandled);
     EXPECT_EQ(requests::recorded(), (std::vector<std::string>{"a.txt"}));
 }
 
 TEST_F(ShellRequests, CanBeMadeToFail) {
-    requests::start(Policy::RecordFail);
+    requests::setPolicy(Policy::RecordFail);
 
     EXPECT_EQ(standin_openWithShell("a.txt"), StandInAnswer::Failed);
     EXPECT_EQ(requests::recorded(), (std::vector<std::string>{"a.txt"}));
 }
 
-TEST_F(ShellRequests, AnotherStartForgetsThem) {
-    requests::start(Policy::Record);
+TEST_F(ShellRequests, AreThoseOfOneHost) {
+    requests::setPolicy(Policy::Record);
     standin_openWithShell("a.txt");
 
-    requests::start(Policy::Record);
+    host.reset();
+    host.emplace();
 
     EXPECT_TRUE(requests::recorded().empty());
 }

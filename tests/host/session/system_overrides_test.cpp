@@ -1,12 +1,14 @@
 #include "host/session/system_overrides.h"
 
-#include "host/ui/dialogs/messages.h"
+#include "host/base/host_state.h"
+#include "host/session/dialog_answers.h"
 
 #include <StandIn/Process.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,15 +19,13 @@ namespace {
 
 class AnswersForTheSystem : public testing::Test {
 protected:
-    ~AnswersForTheSystem() override {
-        answers::end();
-        host::clearMessages();
-    }
+    std::optional<host::HostState> host{std::in_place};
 };
 
 }  // namespace
 
 TEST_F(AnswersForTheSystem, WithoutASessionAreTheSystems) {
+    host.reset();
     StandInArea area = {};
     std::array<unsigned, 4> registers = {};
     EXPECT_EQ(standin_sleep(1), StandInAnswer::NotHandled);
@@ -36,21 +36,28 @@ TEST_F(AnswersForTheSystem, WithoutASessionAreTheSystems) {
     EXPECT_EQ(standin_cpuid(0, registers.data()), StandInAnswer::NotHandled);
 }
 
-TEST_F(AnswersForTheSystem, WaitAtOnceUnlessToldOtherwise) {
-    answers::start({});
+TEST_F(AnswersForTheSystem, UntilTheyAreSetAreTheSystems) {
+    EXPECT_EQ(standin_sleep(1), StandInAnswer::NotHandled);
+    EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
+    EXPECT_TRUE(answers::sleeps().empty());
+    EXPECT_EQ(answers::consoleHidings(), 0);
+}
+
+TEST_F(AnswersForTheSystem, WaitAtOnceByDefault) {
+    answers::set({});
     EXPECT_EQ(standin_sleep(250), StandInAnswer::Done);
     EXPECT_EQ(standin_sleep(1000), StandInAnswer::Done);
     EXPECT_EQ(answers::sleeps(), (std::vector<int>{250, 1000}));
 
     SystemOverrides inTime;
     inTime.sleepTakesTime = true;
-    answers::start(inTime);
+    answers::set(inTime);
     EXPECT_EQ(standin_sleep(250), StandInAnswer::NotHandled);
-    EXPECT_EQ(answers::sleeps(), std::vector<int>{250});
+    EXPECT_EQ(answers::sleeps(), (std::vector<int>{250, 1000, 250}));
 }
 
 TEST_F(AnswersForTheSystem, KeepAMessageWithItsIcon) {
-    answers::start({});
+    answers::set({});
     EXPECT_EQ(standin_messageBox("one", "first", 64), StandInAnswer::Done);
     EXPECT_EQ(standin_messageBox("two", "second", 16), StandInAnswer::Done);
     ASSERT_EQ(host::messages().size(), 2U);
@@ -60,23 +67,23 @@ TEST_F(AnswersForTheSystem, KeepAMessageWithItsIcon) {
     EXPECT_EQ(host::messages()[1].icon, adsk::core::CriticalIconType);
 }
 
-TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneUnlessToldOtherwise) {
-    answers::start({});
+TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneByDefault) {
+    answers::set({});
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::Done);
     EXPECT_EQ(answers::consoleHidings(), 1);
 
     SystemOverrides hiding;
     hiding.consoleMayHide = true;
-    answers::start(hiding);
+    answers::set(hiding);
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
-    EXPECT_EQ(answers::consoleHidings(), 1);
+    EXPECT_EQ(answers::consoleHidings(), 2);
 }
 
 TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
     SystemOverrides screen;
     screen.screen = host::ScreenRectangle{.left = -640, .top = 0, .right = 800, .bottom = 600};
     screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
-    answers::start(screen);
+    answers::set(screen);
     StandInArea area = {};
     EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::Done);
     EXPECT_EQ(area.left, -640);
@@ -103,7 +110,7 @@ TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
     EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::NotHandled);
     SystemOverrides screen;
     screen.windows = std::vector<host::WindowShown>{{"b", {5, 0, 9, 9}}, {"a", {6, 0, 9, 9}}, {}};
-    answers::start(screen);
+    answers::set(screen);
     EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::Done);
     EXPECT_EQ(seen, (std::vector<std::string>{"b5", "a6"}));
 }
@@ -111,7 +118,7 @@ TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
 TEST_F(AnswersForTheSystem, SpeakForAnotherProcessor) {
     SystemOverrides other;
     other.processor = [](unsigned leaf) { return std::array<unsigned, 4>{leaf, 1, 2, 3}; };
-    answers::start(other);
+    answers::set(other);
     std::array<unsigned, 4> registers = {};
     EXPECT_EQ(standin_cpuid(0x80000000U, registers.data()), StandInAnswer::Done);
     EXPECT_EQ(registers, (std::array<unsigned, 4>{0x80000000U, 1, 2, 3}));

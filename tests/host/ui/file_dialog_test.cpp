@@ -1,6 +1,6 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/dialogs/file_dialog.h"
+#include "host/session/dialog_answers.h"
 
 namespace host {
 namespace {
@@ -79,7 +79,7 @@ TEST_F(FileDialogs, OfAnEarlierHostAreForgotten) {
     answerNextFileDialog(Files{"/a"});
     dialog->showOpen();
     answerNextFileDialog(Files{"/b"});
-    startHost({});
+    startHost();
 
     EXPECT_EQ(fileDialogs().size(), 0U);
     EXPECT_EQ(ui()->createFileDialog()->showOpen(), DialogCancel);

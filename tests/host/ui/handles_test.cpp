@@ -28,7 +28,28 @@ TEST_F(Handles, OfAnEndedHostAreNotValidAndReturnNothing) {
     EXPECT_FALSE(panel->deleteMe());
     EXPECT_FALSE(definition->execute());
     EXPECT_FALSE(control->commandDefinition());
+}
+
+TEST_F(Handles, OfAnEndedHostAreReportedByTheNext) {
+    const Ptr<Workspace> workspace = ui()->activeWorkspace();
+    startHost();
+
+    EXPECT_EQ(workspace->id(), "");
+
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
+    EXPECT_EQ(misuses().size(), 1U);
+}
+
+TEST_F(Handles, OfDialogsShowNothingOnceTheirHostHasEnded) {
+    const Ptr<FileDialog> files = ui()->createFileDialog();
+    const Ptr<ProgressDialog> progress = ui()->createProgressDialog();
+
+    endHost();
+
+    EXPECT_EQ(files->showOpen(), DialogCancel);
+    EXPECT_TRUE(progress->show("", "", 0, 1, 0));
+    startHost();
+    EXPECT_EQ(progressDialog(), std::nullopt);
 }
 
 TEST_F(Handles, OfOneHostAreOfNoUseInTheNext) {
@@ -81,7 +102,7 @@ TEST_F(Handles, OfEventsEndWithWhatFiresThem) {
     definition->deleteMe();
     EXPECT_FALSE(ofTheDefinition->remove(&onCreated));
     EXPECT_TRUE(ofTheHost->add(&onApplication));
-    endHost();
+    startHost();
     EXPECT_FALSE(ofTheHost->add(&onApplication));
 
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "host/application/application.h"
+#include "host/application/running_host.h"
 #include "host/base/dispatcher.h"
+#include "host/session/dialog_answers.h"
 #include "host/session/user_actions.h"
 
 #include <Core/CoreAll.h>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -47,11 +49,14 @@ class HostTest : public testing::Test {
 protected:
     using Build = std::function<void(const Ptr<adsk::core::Command>&)>;
 
-    explicit HostTest(const HostSetup& setup = {}) {
-        startHost(setup);
-        clearUncaughtExceptions();
+    explicit HostTest(const HostSetup& setup = {}) { startHost(setup); }
+
+    /// Ends the host that runs, and starts another one.
+    void startHost(const HostSetup& setup = {}) {
+        host_.reset();
+        host_.emplace(setup);
     }
-    ~HostTest() override { endHost(); }
+    void endHost() { host_.reset(); }
 
     static Ptr<adsk::core::UserInterface> ui() {
         return adsk::core::Application::get()->userInterface();
@@ -90,6 +95,7 @@ protected:
 private:
     std::vector<std::shared_ptr<adsk::core::EventHandler>> handlers_;
     std::vector<std::string> notes_;
+    std::optional<RunningHost> host_;  // goes first: handlers are notified of its end
 };
 
 /// The number that a termination reason stands for, as a text.

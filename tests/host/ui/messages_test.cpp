@@ -73,7 +73,6 @@ TEST_F(Messages, WhatAPostedActionThrowsDoesNotReachTheModule) {
 }
 
 TEST_F(Messages, AutoTerminateIsRemembered) {
-    resetAutoTerminate();
     EXPECT_TRUE(adsk::autoTerminate());
 
     adsk::autoTerminate(false);

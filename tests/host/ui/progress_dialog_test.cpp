@@ -1,7 +1,7 @@
 #include "tests/host/ui/host_test.h"
 
 #include "host/base/clock.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/session/dialog_answers.h"
 
 namespace host {
 namespace {

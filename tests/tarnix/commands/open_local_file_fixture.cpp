@@ -5,7 +5,7 @@
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
-#include "host/ui/dialogs/file_dialog.h"
+#include "host/session/dialog_answers.h"
 
 #include <clocale>
 #include <locale>

@@ -2,7 +2,7 @@
 
 #include "host/base/gate.h"
 #include "host/base/last_error.h"
-#include "host/ui/dialogs/file_dialog.h"
+#include "host/session/dialog_answers.h"
 
 #include <gtest/gtest.h>
 

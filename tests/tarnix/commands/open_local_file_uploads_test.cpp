@@ -3,8 +3,7 @@
 #include "host/application/main_queue.h"
 #include "host/base/clock.h"
 #include "host/base/gate.h"
-#include "host/ui/dialogs/file_dialog.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/session/dialog_answers.h"
 
 #include <gtest/gtest.h>
 

@@ -84,7 +84,7 @@ TEST_F(UnitsConversion, SecondExecutionMovesThePaletteAlongAndRestoresItsSize) {
     first->dockingOption(PaletteDockOptionsToVerticalOnly);
     host::SystemOverrides moved;
     moved.windows = std::vector<host::WindowShown>{{"Autodesk Fusion 360", {0, 0, 1920, 1000}}};
-    host::system_overrides::start(moved);
+    host::system_overrides::set(moved);
 
     session->press(kCommand);
 

@@ -1,6 +1,6 @@
 #include "tarnix/properties/property_store.h"
 
-#include "host/base/gate.h"
+#include "host/base/host_state.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
 #include "tests/support/outline.h"
@@ -37,6 +37,7 @@ protected:
     Ptr<Component> component;
 
 private:
+    host::HostState host_;
     Ptr<Document> document_;
 };
 

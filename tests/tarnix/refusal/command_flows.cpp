@@ -7,8 +7,7 @@
 #include "host/cloud/storage_pace.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
-#include "host/ui/dialogs/file_dialog.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/session/dialog_answers.h"
 
 #include <gtest/gtest.h>
 
@@ -53,7 +52,7 @@ void startAtScreen(Session& session) {
     start(session);
     host::SystemOverrides screen;
     screen.windows = std::vector<host::WindowShown>{{"Autodesk Fusion 360", {0, 0, 800, 600}}};
-    host::system_overrides::start(screen);
+    host::system_overrides::set(screen);
 }
 
 /// A file to import and one to upload lie in the session's folder; what would wait for ever is

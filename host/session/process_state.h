@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/session/folder_lock.h"
+#include "host/session/loaded_module.h"
+
+#include <filesystem>
+#include <map>
+#include <memory>
+
+namespace host {
+
+/// A folder of this process, in which its sessions have theirs. Its lock shows that the process
+/// lives.
+struct ProcessFolder {
+    std::filesystem::path path;
+    std::unique_ptr<FolderLock> lock;
+    int made = 0;     ///< sessions so far
+    int present = 0;  ///< those whose folders still exist
+};
+
+/// What belongs to the process and outlives each of its sessions.
+struct ProcessState {
+    /// By the folder in which they lie.
+    std::map<std::filesystem::path, ProcessFolder> folders;
+
+    /// Modules of kept homes that sessions left loaded, by their files.
+    std::map<std::filesystem::path, LoadedModule> leftModules;
+};
+
+/// It is never destroyed: locks and modules end with the process.
+ProcessState& processState();
+
+}  // namespace host
