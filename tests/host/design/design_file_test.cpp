@@ -299,12 +299,12 @@ TEST_F(DesignFile, TextThatMayTakeMoreMemoryThanAskedForIsRefused) {
     // A megabyte is for 32768 bytes.
     const std::string design = with(R"([{"name":"D","partNumber":""}])");
     write(path, design + std::string(32768 - design.size(), ' '));
-    EXPECT_EQ(complaint({}, {1, 10}), "none");
+    EXPECT_EQ(complaint({}, {.megabytes = 1, .occurrences = 10}), "none");
 
     write(path, design + std::string(32769 - design.size(), ' '));
 
     EXPECT_EQ(
-        complaint({}, {1, 10}),
+        complaint({}, {.megabytes = 1, .occurrences = 10}),
         "may take more than 1 megabytes of memory; open a smaller design, or increase the limit");
 }
 
