@@ -32,8 +32,8 @@ core::Ptr<ApplicationObject> ApplicationObject::current() {
 
 core::Ptr<core::Product> ApplicationObject::activeProduct() const {
     if (closed<"Application::activeProduct">(*this)) return {};
-    const core::Ptr<ui::WorkspaceObject>& workspace = ui_->spaces().active();
-    return workspace && workspace->product() != kDesignType ? otherProduct_ : product_;
+    const core::Ptr<ui::WorkspaceObject>& workspace = ui_->state().workspaces->active();
+    return workspace && workspace->state().productType != kDesignType ? otherProduct_ : product_;
 }
 
 core::Ptr<core::Base> ApplicationObject::activeEditObject() const {
@@ -63,7 +63,7 @@ void ApplicationObject::setActiveDocument(const core::Ptr<core::Document>& docum
         ui_->runner().end(core::SessionEndingTerminationReason);
     }
     documents_->add(document);
-    ui_->selections().list.clear();
+    ui_->state().selections->list.clear();
     const gate::Outside outside;
     const core::Ptr<fusion::Design> design = designOf(document);
     document_ = document;

@@ -7,8 +7,8 @@
 #include "host/ui/active_model.h"
 #include "host/ui/dialogs/messages.h"
 #include "host/ui/host_setup.h"
-#include "host/ui/preferences.h"
-#include "host/ui/user_interface.h"
+#include "host/ui/preferences_object.h"
+#include "host/ui/user_interface_object.h"
 
 #include <Core/Application.h>
 #include <Core/Data.h>

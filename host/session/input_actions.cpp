@@ -1,21 +1,38 @@
+#include "host/session/input_actions.h"
+
 #include "host/session/user_action.h"
 #include "host/session/user_actions.h"
-#include "host/ui/inputs/container_inputs.h"
-#include "host/ui/inputs/field_inputs.h"
-#include "host/ui/inputs/item_list.h"
+#include "host/ui/inputs/bool_value_command_input_object.h"
+#include "host/ui/inputs/group_command_input_object.h"
+#include "host/ui/inputs/list_state.h"
 #include "host/ui/inputs/reachability.h"
-#include "host/ui/inputs/selection_input.h"
-#include "host/ui/inputs/table_input.h"
+#include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/inputs/string_value_command_input_object.h"
+#include "host/ui/inputs/table_command_input_object.h"
+#include "host/ui/inputs/text_box_command_input_object.h"
 
 #include <algorithm>
 
 namespace host {
 namespace {
 
-namespace core = adsk::core;
 using core::Ptr;
 using ui::InputKind;
 using ui::InputState;
+
+/// The state of an input that the user can use now; throws a `MisuseError` that begins with
+/// `action` where there is none.
+InputState& usable(const Ptr<core::CommandInput>& input, const std::string& action) {
+    InputState* state = InputState::of(input);
+    if (state == nullptr) {
+        throw MisuseError("cannot " + action + ": no such input");
+    }
+    const std::string why = whyUnusable(input);
+    if (!why.empty()) {
+        throw MisuseError("cannot " + action + " " + ui::describe(*state) + ": " + why);
+    }
+    return *state;
+}
 
 /// An action on a cell selects its row.
 void selectRowOf(const InputState& input) {
@@ -24,7 +41,8 @@ void selectRowOf(const InputState& input) {
     }
 }
 
-/// The string after each typed character; none of them ends inside of a character.
+/// The string after each typed character: all its starts that end with a whole UTF-8 character; one
+/// empty string for an empty one.
 std::vector<std::string> prefixes(const std::string& text) {
     std::vector<std::string> all;
     for (std::size_t end = 1; end <= text.size(); ++end) {
@@ -42,12 +60,12 @@ std::vector<std::string> prefixes(const std::string& text) {
 
 bool isReadOnly(const InputState& input) {
     if (input.kind == InputKind::String) {
-        return static_cast<const ui::StringValueCommandInputObject&>(input).readOnly();
+        return static_cast<const ui::StringValueCommandInputObject&>(input).state().readOnly;
     }
-    return static_cast<const ui::TextBoxCommandInputObject&>(input).readOnly();
+    return static_cast<const ui::TextBoxCommandInputObject&>(input).state().readOnly;
 }
 
-/// An input for text that the user can write into.
+/// A text that the user can change.
 InputState& writable(const Ptr<core::CommandInput>& input) {
     InputState& state = usable(input, "type into");
     if (state.kind != InputKind::String && state.kind != InputKind::TextBox) {
@@ -90,7 +108,7 @@ std::string itemNames(const ui::ListState& list) {
 
 void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
     selectRowOf(list);
-    const bool unselects = list.several() && list.entries()[index].selected;
+    const bool unselects = list.isMultiSelect() && list.entries()[index].selected;
     if (list.select(index, !unselects)) {
         acting.runner().changed(list);
     }
@@ -106,7 +124,7 @@ void showTab(UserAction& acting, InputState& tab) {
     acting.finish();
 }
 
-/// What a click does beside selecting a row; true where it has to be reported.
+/// What a click does besides selecting a row; true where it has to be reported.
 bool clicked(InputState& input) {
     switch (input.kind) {
         case InputKind::Bool:
@@ -136,12 +154,11 @@ ui::SelectionCommandInputObject& pickTarget(const ui::CommandObject& dialog) {
     return static_cast<ui::SelectionCommandInputObject&>(*focus);
 }
 
-/// The next selection that has room gets the focus once one is full.
+/// Once a selection is full, the next one that is not gets the focus.
 void passFocus(ui::CommandObject& dialog, const ui::SelectionCommandInputObject& full) {
     if (!full.isFull()) return;
     for (InputState* each : dialog.inputs().ofKind(InputKind::Selection)) {
-        if (!static_cast<ui::SelectionCommandInputObject*>(each)->isFull() &&
-            ui::whyUnreachable(*each).empty()) {
+        if (!ui::selectionOf(each).isFull() && ui::whyUnreachable(*each).empty()) {
             dialog.focus(each);
             return;
         }
@@ -156,7 +173,7 @@ void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity) {
     } else {
         if (!target.accepts(entity)) {
             throw MisuseError("cannot pick for " + ui::describe(target) +
-                              ": its filters refuse the entity");
+                              ": its filters exclude the entity");
         }
         if (target.isFull() && target.maximum() > 1) {
             throw MisuseError("cannot pick for " + ui::describe(target) + ": it takes " +
@@ -258,13 +275,13 @@ void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
 void pick(const Ptr<core::Base>& entity) {
     UserAction acting;
     if (!entity || !entity->isValid()) {
-        throw MisuseError("cannot pick: there is no such entity");
+        throw MisuseError("cannot pick: no such entity");
     }
     if (openDialog()) {
         pickInDialog(acting, entity);
     } else {
-        acting.ui().selections().list.clear();
-        acting.ui().selections().list.add(entity);
+        acting.ui().state().selections->list.clear();
+        acting.ui().state().selections->list.add(entity);
     }
     acting.finish();
 }
@@ -274,10 +291,10 @@ void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
     if (openDialog()) {
         throw MisuseError("cannot select in the model: a dialog is open, pick for it");
     }
-    acting.ui().selections().list.clear();
+    acting.ui().state().selections->list.clear();
     for (const Ptr<core::Base>& each : entities) {
         if (each && each->isValid()) {
-            acting.ui().selections().list.add(each);
+            acting.ui().state().selections->list.add(each);
         }
     }
 }
@@ -318,6 +335,13 @@ std::vector<Ptr<core::CommandInput>> toolbarOf(const Ptr<core::TableCommandInput
         inputs.emplace_back(each->api());
     }
     return inputs;
+}
+
+std::string whyUnusable(const Ptr<core::CommandInput>& input) {
+    const InputState* state = InputState::of(input);
+    if (state == nullptr) return "no such input";
+    const std::string why = ui::whyUnreachable(*state);
+    return why.empty() && !state->enabled ? "it is not enabled" : why;
 }
 
 }  // namespace host

@@ -7,6 +7,7 @@
 #include "host/design/unmeasured.h"
 #include "host/import/read_design.h"
 #include "host/session/addin_copy.h"
+#include "host/session/input_actions.h"
 #include "host/session/loaded_module.h"
 #include "host/session/process_sandbox.h"
 #include "host/session/session_error.h"

@@ -1,6 +1,6 @@
 #include "host/session/table_view.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <cstddef>
 

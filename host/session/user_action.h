@@ -2,20 +2,18 @@
 
 #include "host/application/application.h"
 
-#include <string>
-
-/// How every user action begins and ends.
+/// What every action of the user begins and ends with.
 namespace host {
 
-/// The application at which the user acts; throws a `MisuseError` where no host runs.
+/// The running host; throws a `MisuseError` where none runs.
 ApplicationObject& runningApplication();
 
 /// The open dialog; throws a `MisuseError` where none is open.
 ui::CommandObject& shownDialog();
 
-/// One action of the user: from here on commands may start again as often as allowed, and those
-/// that were requested during the action start at its end. Throws a `MisuseError` while a command
-/// is at work.
+/// One action of the user: the count of commands that start each other begins again, and the
+/// commands that are requested during the action start at its end. Throws a `MisuseError` while a
+/// command is at work.
 class UserAction {
 public:
     UserAction();
@@ -25,16 +23,11 @@ public:
     [[nodiscard]] ui::UserInterfaceObject& ui() const { return application_->ui(); }
     [[nodiscard]] ui::CommandRunner& runner() const { return ui().runner(); }
 
-    /// Starts what was requested: the last step of each action.
+    /// Starts the requested commands: the last step of each action.
     void finish() { runner().drainRequests(); }
 
 private:
-    adsk::core::Ptr<ApplicationObject> application_;
+    core::Ptr<ApplicationObject> application_;
 };
-
-/// The state of an input that the user can use now; throws a `MisuseError` that begins with
-/// `action` where there is none.
-ui::InputState& usable(const adsk::core::Ptr<adsk::core::CommandInput>& input,
-                       const std::string& action);
 
 }  // namespace host

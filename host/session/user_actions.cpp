@@ -1,22 +1,20 @@
 #include "host/session/user_actions.h"
 
 #include "host/session/user_action.h"
-#include "host/ui/inputs/selection_input.h"
 
 #include <algorithm>
 
 namespace host {
 namespace {
 
-namespace core = adsk::core;
 using core::Ptr;
 
 std::vector<Ptr<ui::CommandControlObject>> controlsOf(const ui::CommandDefinitionObject& definition,
                                                       const ui::WorkspaceObject& workspace) {
     std::vector<Ptr<ui::CommandControlObject>> found;
     for (const Ptr<ui::ToolbarPanelObject>& panel : workspace.panels()) {
-        for (const Ptr<ui::CommandControlObject>& each : panel->buttons().all()) {
-            if (each->definition().get() == &definition) {
+        for (const Ptr<ui::CommandControlObject>& each : panel->state().controls->all()) {
+            if (each->state().definition.get() == &definition) {
                 found.push_back(each);
             }
         }
@@ -25,14 +23,14 @@ std::vector<Ptr<ui::CommandControlObject>> controlsOf(const ui::CommandDefinitio
 }
 
 void press(UserAction& acting, const Ptr<ui::CommandDefinitionObject>& definition) {
-    const Ptr<ui::WorkspaceObject>& workspace = acting.ui().spaces().active();
+    const Ptr<ui::WorkspaceObject>& workspace = acting.ui().state().workspaces->active();
     if (workspace) {
         const auto controls = controlsOf(*definition, *workspace);
         const bool hidden = std::none_of(controls.begin(), controls.end(),
-                                         [](const auto& each) { return each->shown(); });
+                                         [](const auto& each) { return each->state().visible; });
         if (!controls.empty() && hidden) {
-            throw MisuseError("cannot press " + definition->identifier() +
-                              ": its button is not visible in " + workspace->identifier());
+            throw MisuseError("cannot press " + definition->state().id +
+                              ": its button is not visible in " + workspace->state().id);
         }
     }
     acting.runner().request(definition);
@@ -42,7 +40,7 @@ void press(UserAction& acting, const Ptr<ui::CommandDefinitionObject>& definitio
 std::string knownIds(const ui::CommandDefinitionsObject& definitions) {
     std::string ids;
     for (const Ptr<ui::CommandDefinitionObject>& each : definitions.all()) {
-        ids += (ids.empty() ? "" : ", ") + each->identifier();
+        ids += (ids.empty() ? "" : ", ") + each->state().id;
     }
     return ids.empty() ? "there are none" : ids;
 }
@@ -54,39 +52,39 @@ void pressCommand(const Ptr<core::CommandDefinition>& definition) {
     const Ptr<ui::CommandDefinitionObject> known = definition;
     if (!known || !known->isValid()) {
         throw MisuseError("cannot press a command that does not exist: the definitions are " +
-                          knownIds(acting.ui().definitions()));
+                          knownIds(*acting.ui().state().definitions));
     }
     press(acting, known);
 }
 
 void pressCommand(const std::string& id) {
     UserAction acting;
-    const Ptr<ui::CommandDefinitionObject> known = acting.ui().definitions().find(id);
+    const Ptr<ui::CommandDefinitionObject> known = acting.ui().state().definitions->find(id);
     if (!known) {
         throw MisuseError("cannot press " + id + ", which does not exist: the definitions are " +
-                          knownIds(acting.ui().definitions()));
+                          knownIds(*acting.ui().state().definitions));
     }
     press(acting, known);
 }
 
 Ptr<core::Command> openDialog() {
     const Ptr<ui::CommandObject>& active = runningApplication().ui().runner().active();
-    return active && active->isShown() ? active : nullptr;
+    return active && active->state().shown ? active : nullptr;
 }
 
 ui::DialogSize dialogSize() {
     const ui::CommandObject& dialog = shownDialog();
     const auto& remembered = runningApplication().ui().rememberedSizes;
-    const auto found = remembered.find(dialog.definition()->identifier());
-    ui::DialogSize size = found == remembered.end() ? dialog.initialSize() : found->second;
-    size.width = std::max(size.width, dialog.minimumSize().width);
-    size.height = std::max(size.height, dialog.minimumSize().height);
+    const auto found = remembered.find(dialog.definition()->state().id);
+    ui::DialogSize size = found == remembered.end() ? dialog.state().initialSize : found->second;
+    size.width = std::max(size.width, dialog.state().minimumSize.width);
+    size.height = std::max(size.height, dialog.state().minimumSize.height);
     return size;
 }
 
 void resizeDialog(int width, int height) {
     const UserAction acting;
-    acting.ui().rememberedSizes[shownDialog().definition()->identifier()] = {width, height};
+    acting.ui().rememberedSizes[shownDialog().definition()->state().id] = {width, height};
 }
 
 void pressOk() {
@@ -119,23 +117,23 @@ void drainRequests() { runningApplication().ui().runner().drainRequests(); }
 
 void closePalette(const std::string& id) {
     const UserAction acting;
-    const Ptr<ui::PaletteObject> palette = acting.ui().allPalettes().find(id);
-    if (!palette || !palette->state.visible || !palette->state.closeButton) {
+    const Ptr<ui::PaletteObject> palette = acting.ui().state().palettes->find(id);
+    if (!palette || !palette->state().visible || !palette->state().closeButton) {
         throw MisuseError("cannot close the palette " + id + ": " +
-                          (!palette                  ? "there is none of this id"
-                           : !palette->state.visible ? "it is not visible"
-                                                     : "it has no close button"));
+                          (!palette                    ? "no palette has this id"
+                           : !palette->state().visible ? "it is not visible"
+                                                       : "it has no close button"));
     }
-    palette->state.visible = false;
+    palette->close();
 }
 
 void activateWorkspace(const std::string& id) {
     UserAction acting;
-    const Ptr<ui::WorkspaceObject> workspace = acting.ui().spaces().find(id);
+    const Ptr<ui::WorkspaceObject> workspace = acting.ui().state().workspaces->find(id);
     if (!workspace) {
-        throw MisuseError("cannot show the workspace " + id + ": there is none of this id");
+        throw MisuseError("cannot show the workspace " + id + ": no workspace has this id");
     }
-    acting.ui().spaces().activate(workspace);
+    acting.ui().state().workspaces->activate(workspace);
     acting.finish();
 }
 
@@ -144,16 +142,16 @@ std::vector<std::string> showMarkingMenu() {
     const Ptr<ui::MarkingMenuEventObject>& event = acting.ui().menuEvent;
     const Ptr<ui::LinearMarkingMenuObject> linear = make<ui::LinearMarkingMenuObject>();
     const Ptr<ui::RadialMarkingMenuObject> radial = make<ui::RadialMarkingMenuObject>();
-    event->fire(make<ui::MarkingMenuEventArgsObject>(event, linear, radial,
-                                                     acting.ui().selections().list.entities()));
+    event->fire(make<ui::MarkingMenuEventArgsObject>(
+        event, linear, radial, acting.ui().state().selections->list.entities()));
     std::vector<std::string> shown;
-    for (const Ptr<ui::CommandControlObject>& each : linear->entries().all()) {
-        if (each->shown() && each->definition()->isValid()) {
-            shown.push_back(each->identifier());
+    for (const Ptr<ui::CommandControlObject>& each : linear->state().controls->all()) {
+        if (each->state().visible && each->state().definition->isValid()) {
+            shown.push_back(each->state().id);
         }
     }
     linear->dispose();
-    radial->invalidate();
+    radial->dispose();
     acting.finish();
     return shown;
 }

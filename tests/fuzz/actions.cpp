@@ -2,7 +2,7 @@
 
 #include "tests/support/addin_test.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <array>
 #include <cstddef>

@@ -6,7 +6,7 @@
 #include "workbench/dialogs/properties_dialog.h"
 #include "workbench/output/display_text.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <algorithm>
 #include <iostream>

@@ -4,11 +4,11 @@ namespace host::ui {
 
 bool ApplicationCommandEventArgsObject::isCanceled(bool value) {
     constexpr const char* kOperation = "ApplicationCommandEventArgs::isCanceled";
-    if (refused<"ApplicationCommandEventArgs::isCanceled">()) return {};
-    if (!cancellable_) {
-        return misuse(kOperation, "only a command that is about to start can be kept from it");
+    if (closed<"ApplicationCommandEventArgs::isCanceled">(*this)) return {};
+    if (!state_.cancellable) {
+        return misuse(kOperation, "only a command that is about to start can be cancelled");
     }
-    cancelled_ = value;
+    state_.cancelled = value;
     return true;
 }
 

@@ -26,6 +26,13 @@ private:
     core::Ptr<core::Command> command_;
 };
 
+/// What handlers of a command's event answered.
+struct CommandEventState {
+    bool failed = false;
+    std::string failedMessage;
+    bool validResult = false;  ///< a preview that can take the place of the execution
+};
+
 class CommandEventArgsObject final : public Arguments<core::CommandEventArgs> {
 public:
     CommandEventArgsObject(core::Ptr<core::Event> event, core::Ptr<core::Command> command,
@@ -36,36 +43,33 @@ public:
         return get<"CommandEventArgs::command">(command_);
     }
     [[nodiscard]] bool executeFailed() const override {
-        return get<"CommandEventArgs::executeFailed">(failed_);
+        return get<"CommandEventArgs::executeFailed">(state_.failed);
     }
     bool executeFailed(bool value) override {
-        return set<"CommandEventArgs::executeFailed">(failed_, value);
+        return set<"CommandEventArgs::executeFailed">(state_.failed, value);
     }
     [[nodiscard]] std::string executeFailedMessage() const override {
-        return get<"CommandEventArgs::executeFailedMessage">(message_);
+        return get<"CommandEventArgs::executeFailedMessage">(state_.failedMessage);
     }
     bool executeFailedMessage(const std::string& value) override {
-        return set<"CommandEventArgs::executeFailedMessage">(message_, value);
+        return set<"CommandEventArgs::executeFailedMessage">(state_.failedMessage, value);
     }
     [[nodiscard]] bool isValidResult() const override {
-        return get<"CommandEventArgs::isValidResult">(validResult_);
+        return get<"CommandEventArgs::isValidResult">(state_.validResult);
     }
     bool isValidResult(bool value) override {
-        return set<"CommandEventArgs::isValidResult">(validResult_, value);
+        return set<"CommandEventArgs::isValidResult">(state_.validResult, value);
     }
     [[nodiscard]] core::CommandTerminationReason terminationReason() const override {
         return get<"CommandEventArgs::terminationReason">(reason_);
     }
 
-    [[nodiscard]] bool failed() const { return failed_; }
-    [[nodiscard]] bool standsForExecution() const { return validResult_; }
+    [[nodiscard]] const CommandEventState& state() const { return state_; }
 
 private:
     core::Ptr<core::Command> command_;
     core::CommandTerminationReason reason_;
-    bool failed_ = false;
-    bool validResult_ = false;
-    std::string message_;
+    CommandEventState state_;
 };
 
 class InputChangedEventArgsObject final : public Arguments<core::InputChangedEventArgs> {
@@ -86,6 +90,10 @@ private:
     core::Ptr<core::CommandInputs> inputs_;
 };
 
+struct ValidateInputsState {
+    bool valid = true;
+};
+
 class ValidateInputsEventArgsObject final : public Arguments<core::ValidateInputsEventArgs> {
 public:
     ValidateInputsEventArgsObject(core::Ptr<core::Event> event,
@@ -93,58 +101,55 @@ public:
         : Arguments(std::move(event)), inputs_(std::move(inputs)) {}
 
     [[nodiscard]] bool areInputsValid() const override {
-        return get<"ValidateInputsEventArgs::areInputsValid">(valid_);
+        return get<"ValidateInputsEventArgs::areInputsValid">(state_.valid);
     }
     bool areInputsValid(bool value) override {
-        return set<"ValidateInputsEventArgs::areInputsValid">(valid_, value);
+        return set<"ValidateInputsEventArgs::areInputsValid">(state_.valid, value);
     }
     [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override {
         return get<"ValidateInputsEventArgs::inputs">(inputs_);
     }
 
-    [[nodiscard]] bool valid() const { return valid_; }
+    [[nodiscard]] const ValidateInputsState& state() const { return state_; }
 
 private:
     core::Ptr<core::CommandInputs> inputs_;
-    bool valid_ = true;
+    ValidateInputsState state_;
+};
+
+/// What an event about a command says.
+struct ApplicationCommandState {
+    std::string commandId;
+    core::Ptr<core::CommandDefinition> definition;
+    bool cancellable = false;  ///< only the event before a command starts
+    core::CommandTerminationReason reason = core::UnknownTerminationReason;
+    bool cancelled = false;
 };
 
 class ApplicationCommandEventArgsObject final
     : public Arguments<core::ApplicationCommandEventArgs> {
 public:
-    /// `cancellable` for the event before a command starts.
-    ApplicationCommandEventArgsObject(
-        core::Ptr<core::Event> event, std::string commandId,
-        core::Ptr<core::CommandDefinition> definition, bool cancellable,
-        core::CommandTerminationReason reason = core::UnknownTerminationReason)
-        : Arguments(std::move(event)),
-          commandId_(std::move(commandId)),
-          definition_(std::move(definition)),
-          reason_(reason),
-          cancellable_(cancellable) {}
+    ApplicationCommandEventArgsObject(core::Ptr<core::Event> event, ApplicationCommandState state)
+        : Arguments(std::move(event)), state_(std::move(state)) {}
 
     [[nodiscard]] std::string commandId() const override {
-        return get<"ApplicationCommandEventArgs::commandId">(commandId_);
+        return get<"ApplicationCommandEventArgs::commandId">(state_.commandId);
     }
     [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override {
-        return get<"ApplicationCommandEventArgs::commandDefinition">(definition_);
+        return get<"ApplicationCommandEventArgs::commandDefinition">(state_.definition);
     }
     [[nodiscard]] core::CommandTerminationReason terminationReason() const override {
-        return get<"ApplicationCommandEventArgs::terminationReason">(reason_);
+        return get<"ApplicationCommandEventArgs::terminationReason">(state_.reason);
     }
     [[nodiscard]] bool isCanceled() const override {
-        return get<"ApplicationCommandEventArgs::isCanceled">(cancelled_);
+        return get<"ApplicationCommandEventArgs::isCanceled">(state_.cancelled);
     }
     bool isCanceled(bool value) override;
 
-    [[nodiscard]] bool cancelled() const { return cancelled_; }
+    [[nodiscard]] const ApplicationCommandState& state() const { return state_; }
 
 private:
-    std::string commandId_;
-    core::Ptr<core::CommandDefinition> definition_;
-    core::CommandTerminationReason reason_;
-    bool cancellable_;
-    bool cancelled_ = false;
+    ApplicationCommandState state_;
 };
 
 using CommandCreatedEventObject = TypedEvent<core::CommandCreatedEvent>;

@@ -1,9 +1,8 @@
 #include "host/ui/commands/command_runner.h"
 
 #include "host/base/last_error.h"
-#include "host/ui/commands/scoped_increment.h"
-#include "host/ui/inputs/selection_input.h"
-#include "host/ui/user_interface.h"
+#include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/user_interface_object.h"
 
 #include <algorithm>
 #include <tuple>
@@ -12,16 +11,16 @@
 namespace host::ui {
 namespace {
 
-// A command that starts itself over and over would hang the session.
+// A command that keeps starting itself would hang the session.
 constexpr int kMostStarts = 10;
 
-/// While it lives, a command that waits is out of the way: nothing is at work, and if it is the one
-/// that runs, none runs.
+/// While it lives, a command that waits is suspended: nothing is at work, and if it is the one that
+/// runs, none runs.
 class SuspendedCommand {
 public:
-    SuspendedCommand(core::Ptr<CommandObject>& active, bool standsBack, int& busy, int& notifying)
+    SuspendedCommand(core::Ptr<CommandObject>& active, bool suspends, int& busy, int& notifying)
         : active_(active),
-          waiting_(standsBack ? std::exchange(active, nullptr) : nullptr),
+          waiting_(suspends ? std::exchange(active, nullptr) : nullptr),
           busy_(busy),
           notifying_(notifying),
           before_(std::exchange(busy, 0), std::exchange(notifying, 0)) {}
@@ -61,7 +60,7 @@ void CommandRunner::drainRequests() {
     } while (!requested_.empty());
 }
 
-// Nothing can keep the host from falling idle: a handler that objects is not heard.
+// The idle command cannot be cancelled: what handlers answer is ignored.
 void CommandRunner::enterIdle() {
     if (!idle_ || active_ || std::exchange(isIdle_, true)) return;
     const ScopedIncrement busy(busy_);
@@ -72,12 +71,12 @@ void CommandRunner::countStart(const std::string& id) {
     if (++starts_[id] <= kMostStarts) return;
     requested_.clear();
     throw MisuseError("the command " + id + " was started " + std::to_string(kMostStarts) +
-                      " times without an action of a person in between: it starts itself for ever");
+                      " times without an action of the user in between: it keeps starting itself");
 }
 
 void CommandRunner::start(const core::Ptr<CommandDefinitionObject>& definition) {
     if (!definition->isValid()) return;
-    countStart(definition->identifier());
+    countStart(definition->state().id);
     const ScopedIncrement busy(busy_);
     if (!announce(definition)) return;
     if (active_) {
@@ -91,31 +90,32 @@ void CommandRunner::start(const core::Ptr<CommandDefinitionObject>& definition) 
 bool CommandRunner::announce(const core::Ptr<CommandDefinitionObject>& definition) {
     const ScopedIncrement notifying(notifying_);
     const auto arguments = make<ApplicationCommandEventArgsObject>(
-        ui_->startingEvent, definition->identifier(), definition,
-        /*cancellable=*/true);
+        ui_->startingEvent,
+        ApplicationCommandState{
+            .commandId = definition->state().id, .definition = definition, .cancellable = true});
     ui_->startingEvent->fire(arguments);
-    return !arguments->cancelled();
+    return !arguments->state().cancelled;
 }
 
 void CommandRunner::create(const core::Ptr<CommandDefinitionObject>& definition) {
     const core::Ptr<CommandObject> command = make<CommandObject>(definition, this);
     active_ = command;
-    valid_ = true;
-    previewStands_ = false;
+    inputs_.begin();
     bool quiet = true;
     {
         const ScopedIncrement notifying(notifying_);
         quiet = definition->createdEvent->fire(
             make<CommandCreatedEventArgsObject>(definition->createdEvent, command));
         ui_->createdEvent->fire(make<ApplicationCommandEventArgsObject>(
-            ui_->createdEvent, definition->identifier(), definition, /*cancellable=*/false));
+            ui_->createdEvent, ApplicationCommandState{.commandId = definition->state().id,
+                                                       .definition = definition}));
     }
     if (active_ != command) return;
-    if (command->inputs().size() > 0 || (quiet && command->isDressed())) {
+    if (command->inputs().size() > 0 || (quiet && command->state().customized)) {
         show();
     } else if (!quiet) {
         end(core::AbortedTerminationReason);
-    } else if (command->executesByItself()) {
+    } else if (command->state().autoExecute) {
         const bool executed = execute();
         end(command, executed ? core::CompletedTerminationReason : core::AbortedTerminationReason);
     }
@@ -125,18 +125,38 @@ void CommandRunner::show() {
     const core::Ptr<CommandObject> command = active_;
     command->show();
     fireCommand(command, command->activateEvent);
-    takeCurrentSelections();
+    inputs_.takeCurrentSelections();
     if (active_ == command) {
-        validate();
-        preview();
+        inputs_.validateAndPreview();
         runDeferredRequests();
     }
 }
 
+void CommandRunner::changed(InputState& input) {
+    const ScopedIncrement busy(busy_);
+    const core::Ptr<CommandObject> command = active_;
+    inputs_.notifyChanged(input);
+    if (active_ == command) {
+        inputs_.validateAndPreview();
+        runDeferredRequests();
+    }
+}
+
+void CommandRunner::tabChanged() {
+    const ScopedIncrement busy(busy_);
+    inputs_.notifyChanged(active_->tabBar());
+    runDeferredRequests();
+}
+
+std::string CommandRunner::whyOkRefused() {
+    if (!active_ || !active_->state().shown) return "no dialog is open";
+    if (!active_->state().okVisible) return "the dialog has no such button";
+    return inputs_.whyInvalid();
+}
+
 void CommandRunner::accept() {
     const ScopedIncrement busy(busy_);
-    if (previewStands_) {
-        previewed_ = false;
+    if (inputs_.acceptPreview()) {
         end(core::CompletedTerminationReason);
         return;
     }
@@ -147,7 +167,7 @@ void CommandRunner::accept() {
 
 bool CommandRunner::execute() {
     const core::Ptr<CommandObject> command = active_;
-    takeBackPreview();
+    inputs_.takeBackPreview();
     const std::uint64_t edits = ui_->editsOfModel();
     if (ui_->history.mark) {
         ui_->history.mark();
@@ -159,7 +179,7 @@ bool CommandRunner::execute() {
         command->executeEvent->fire(arguments);
         executing_.pop_back();
     }
-    if (arguments->failed()) {
+    if (arguments->state().failed) {
         if (ui_->history.takeBack) {
             ui_->history.takeBack();
         } else {
@@ -167,24 +187,24 @@ bool CommandRunner::execute() {
         }
     }
     if (ui_->editsOfModel() != edits) {
-        ui_->selections().list.clear();
+        ui_->state().selections->list.clear();
     }
-    return !arguments->failed();
+    return !arguments->state().failed;
 }
 
 bool CommandRunner::executeByCode(bool terminate) {
-    if (!active_ || !active_->isShown() || !refusalByInputs().empty()) {
+    if (!active_ || !active_->state().shown || !inputs_.whyInvalid().empty()) {
         return fail(core::OperationFailed, "Command::doExecute: the dialog cannot be accepted");
     }
-    asked_ = terminate ? Asked::ExecuteAndEnd : Asked::Execute;
+    deferred_ = terminate ? Deferred::ExecuteAndEnd : Deferred::Execute;
     return true;
 }
 
-// Does what a handler asked for while it ran.
+// Does what a handler requested while it ran.
 void CommandRunner::runDeferredRequests() {
-    const Asked asked = std::exchange(asked_, Asked::Nothing);
-    if (!active_ || asked == Asked::Nothing) return;
-    if (asked == Asked::ExecuteAndEnd) {
+    const Deferred deferred = std::exchange(deferred_, Deferred::Nothing);
+    if (!active_ || deferred == Deferred::Nothing) return;
+    if (deferred == Deferred::ExecuteAndEnd) {
         accept();
     } else {
         execute();
@@ -192,7 +212,8 @@ void CommandRunner::runDeferredRequests() {
 }
 
 void CommandRunner::preEmpt() {
-    if (active_->isShown() && active_->executesWhenPreEmpted() && refusalByInputs().empty()) {
+    if (active_->state().shown && active_->state().executedWhenPreEmpted &&
+        inputs_.whyInvalid().empty()) {
         execute();
     }
     end(core::PreEmptedTerminationReason);
@@ -218,7 +239,7 @@ void CommandRunner::end(core::CommandTerminationReason reason) {
 void CommandRunner::end(const core::Ptr<CommandObject>& command,
                         core::CommandTerminationReason reason) {
     const ScopedIncrement busy(busy_);
-    takeBackPreview();
+    inputs_.takeBackPreview();
     fireCommand(command, command->deactivateEvent);
     {
         const ScopedIncrement notifying(notifying_);
@@ -228,19 +249,20 @@ void CommandRunner::end(const core::Ptr<CommandObject>& command,
     for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
         selectionOf(each).dropAll();
     }
-    // Another one stands there where it was started while this one waited.
+    // Another command can have been started while this one waited.
     if (active_ == command) {
         active_ = nullptr;
-        codeChanged_.clear();
-        asked_ = Asked::Nothing;
+        inputs_.end();
+        deferred_ = Deferred::Nothing;
     }
     isIdle_ = false;
     const core::Ptr<CommandDefinitionObject> definition = command->definition();
     command->dispose();
     const ScopedIncrement notifying(notifying_);
     ui_->terminatedEvent->fire(make<ApplicationCommandEventArgsObject>(
-        ui_->terminatedEvent, definition->identifier(), definition,
-        /*cancellable=*/false, reason));
+        ui_->terminatedEvent,
+        ApplicationCommandState{
+            .commandId = definition->state().id, .definition = definition, .reason = reason}));
 }
 
 void CommandRunner::dispose() {

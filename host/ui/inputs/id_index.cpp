@@ -1,6 +1,6 @@
 #include "host/ui/inputs/id_index.h"
 
-#include "host/ui/inputs/input.h"
+#include "host/ui/inputs/input_state.h"
 
 #include <cstdint>
 #include <functional>
@@ -73,7 +73,8 @@ void IdIndex::remove(InputState& input) {
     input.previousSameId = nullptr;
 }
 
-// Moves up what stands behind a place that becomes free, as far as it was kept from its own one.
+// Moves up the entries after a place that becomes free, as far as they were kept from their own
+// one.
 void IdIndex::vacate(std::size_t place) {
     const std::size_t mask = places_.size() - 1;
     --used_;

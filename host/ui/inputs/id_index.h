@@ -11,12 +11,12 @@ class InputState;
 
 /// Finds the inputs of one collection by their ids.
 ///
-/// Ids may repeat: inputs of one id hang on a chain in the order they were added, and the first one
+/// Ids may repeat: inputs of one id form a chain in the order they were added, and the first one
 /// is found. Adding, removing and finding take constant time. The places hold the hashes as well:
-/// an input lies anywhere in memory, and one of another id is passed without a look at it.
+/// an input lies anywhere in memory, and one of another id is skipped without reading it.
 class IdIndex {
 public:
-    /// Adds an input behind the others of its id.
+    /// Adds an input after the others of its id.
     void add(InputState& input);
 
     void remove(InputState& input);

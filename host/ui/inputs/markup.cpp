@@ -19,7 +19,7 @@ constexpr std::size_t kLongestEntity = 8;
 
 bool isLetter(char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0; }
 
-/// The length of the tag that begins at the front of `text`, 0 where none does.
+/// The length of the tag that begins at the start of `text`, 0 where none does.
 std::size_t tagLength(std::string_view text) {
     if (text.substr(0, 4) == "<!--") {
         const std::size_t end = text.find("-->", 4);
@@ -63,7 +63,8 @@ bool appendNumbered(std::string& out, std::string_view name) {
     return true;
 }
 
-/// Appends what the entity at the front of `text` stands for; its length, 0 where none is there.
+/// Appends what the entity at the start of `text` stands for; returns its length, 0 where there is
+/// none.
 std::size_t appendEntity(std::string& out, std::string_view text) {
     const std::size_t end = text.substr(0, kLongestEntity + 2).find(';');
     if (end == std::string_view::npos) return 0;

@@ -1,26 +1,26 @@
 #include "host/ui/inputs/reachability.h"
 
-#include "host/ui/commands/command.h"
-#include "host/ui/inputs/container_inputs.h"
-#include "host/ui/inputs/table_input.h"
+#include "host/ui/commands/command_object.h"
+#include "host/ui/inputs/group_command_input_object.h"
+#include "host/ui/inputs/table_command_input_object.h"
 
 #include <algorithm>
 
 namespace host::ui {
 namespace {
 
-std::string refusalByHolder(const InputState& holder) {
+std::string whyHiddenBy(const InputState& holder) {
     if (holder.kind == InputKind::Tab && holder.command()->activeTab() != &holder) {
-        return "its tab " + describe(holder) + " does not show: activate it first";
+        return "its tab " + describe(holder) + " is not active: activate it first";
     }
     if (holder.kind == InputKind::Group &&
-        !static_cast<const GroupCommandInputObject&>(holder).expanded()) {
-        return "its group " + describe(holder) + " is folded: click it first";
+        !static_cast<const GroupCommandInputObject&>(holder).state().expanded) {
+        return "its group " + describe(holder) + " is collapsed: click it first";
     }
     return {};
 }
 
-std::string refusalByTable(const InputState& input) {
+std::string whyHiddenInTable(const InputState& input) {
     const TableCommandInputObject& table = *input.inLine->table;
     if (table.isToolbar(*input.inLine)) return {};
     const std::vector<int> shown = table.shownColumns();
@@ -46,9 +46,9 @@ std::string whyUnreachable(const InputState& input) {
         if (!each->visible) {
             return each == &input ? "it is not visible" : describe(*each) + " is not visible";
         }
-        std::string why = each->inLine != nullptr ? refusalByTable(*each)
+        std::string why = each->inLine != nullptr ? whyHiddenInTable(*each)
                           : each == &input        ? ""
-                                                  : refusalByHolder(*each);
+                                                  : whyHiddenBy(*each);
         if (!why.empty()) return why;
     }
     return {};

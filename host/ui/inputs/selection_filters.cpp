@@ -1,6 +1,6 @@
 #include "host/ui/inputs/selection_filters.h"
 
-#include "host/ui/user_interface.h"
+#include "host/ui/user_interface_object.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@ namespace {
 
 struct Filter {
     std::string_view name;
-    std::string_view type;  ///< the class it lets through; empty: none that the stand-in has
+    std::string_view type;  ///< the class that passes; empty: none that the stand-in has
 };
 
 constexpr std::array<Filter, 38> kFilters = {{

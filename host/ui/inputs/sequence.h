@@ -8,18 +8,18 @@
 
 namespace host::ui {
 
-/// A list that is appended to and taken from, with both its order and its places at hand.
+/// A list that is appended to and removed from, with fast access by index and by slot.
 ///
-/// An entry is put into a slot, which stays its own until `tidy` says otherwise; its index is its
-/// place among the entries that are left. Appending and removing cost logarithmic time at most, and
-/// so do index and slot of each other; as long as nothing was removed they are the same number. `T`
-/// is a handle or pointer, and a null one marks a slot that is free.
+/// An entry is put into a slot, which stays its own until `tidy` moves it; its index is its place
+/// among the entries that are left. Appending and removing cost logarithmic time at most, and
+/// so does finding index from slot or slot from index; as long as nothing was removed they are the
+/// same number. `T` is a handle or pointer, and a null one marks a slot that is free.
 template <class T>
 class Sequence {
 public:
     [[nodiscard]] std::size_t count() const { return count_; }
 
-    /// Adds an entry behind the others; returns its slot.
+    /// Adds an entry after the others; returns its slot.
     std::size_t append(T value) {
         slots_.push_back(std::move(value));
         ++count_;
@@ -37,7 +37,7 @@ public:
     /// The entry in a slot, null for a free one.
     [[nodiscard]] const T& inSlot(std::size_t slot) const { return slots_[slot]; }
 
-    /// The number of entries in front of the one in `slot`.
+    /// The number of entries before the one in `slot`.
     [[nodiscard]] std::size_t indexOf(std::size_t slot) const {
         if (sums_.empty()) return slot;
         std::size_t sum = 0;
@@ -47,7 +47,7 @@ public:
         return sum;
     }
 
-    /// Takes the entry out of its slot.
+    /// Removes the entry from its slot and returns it.
     T remove(std::size_t slot) {
         if (sums_.empty()) {
             buildSums();
@@ -59,8 +59,8 @@ public:
         return std::exchange(slots_[slot], T());
     }
 
-    /// Closes the gaps once they are more than the entries; `moved(entry, slot)` is told each slot
-    /// that an entry has from then on.
+    /// Closes the gaps once they are more than the entries, and then calls `moved(entry, slot)`
+    /// with the new slot of each entry.
     template <class Moved>
     void tidy(const Moved& moved) {
         if (slots_.size() < 2 * count_ + kTidyFrom) return;
@@ -93,7 +93,7 @@ public:
 private:
     static constexpr std::size_t kTidyFrom = 64;
 
-    /// Counts of entries in the manner of Fenwick: node n sums as many slots as its lowest bit
+    /// Counts of entries as a Fenwick tree: node n sums as many slots as its lowest bit
     /// says, up to slot n - 1.
     void buildSums() {
         sums_.assign(slots_.size() + 1, 0);

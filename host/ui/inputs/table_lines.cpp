@@ -1,6 +1,6 @@
 #include "host/ui/inputs/table_lines.h"
 
-#include "host/ui/inputs/input.h"
+#include "host/ui/inputs/input_state.h"
 
 namespace host::ui {
 

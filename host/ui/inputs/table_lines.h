@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-/// The rows behind a table.
+/// The rows of a table.
 namespace host::ui {
 
 class InputState;
@@ -15,16 +15,17 @@ class TableCommandInputObject;
 /// One row of a table, or its toolbar.
 struct TableLine {
     TableCommandInputObject* table = nullptr;
-    std::size_t slot = 0;            ///< among the lines; unused for the toolbar
-    int counted = 0;                 ///< cells in the table's own columns
-    std::vector<InputState*> cells;  ///< by column, null where none is; of the toolbar: in order
+    std::size_t slot = 0;  ///< among the lines; unused for the toolbar
+    int counted = 0;       ///< cells in the table's own columns
+    std::vector<InputState*>
+        cells;  ///< by column, null for an empty place; of the toolbar: in order
 };
 
 /// Inputs in rows and columns, without regard to what they are.
 ///
-/// A line counts as a row while it holds a cell in the table's own columns, and is closed up when
-/// the last of these goes: what it holds beyond them then leaves the table. Placing, taking and
-/// finding cost at most logarithmic time, so rows can be moved one by one.
+/// A line counts as a row while it holds a cell in the table's own columns, and is removed with the
+/// last of these: what it holds beyond them then leaves the table. Placing, taking and finding cost
+/// at most logarithmic time, so rows can be moved one by one.
 class TableLines {
 public:
     /// `lastColumn` is the last one of the table's own columns.
@@ -34,7 +35,7 @@ public:
     /// The number of lines that count as rows.
     [[nodiscard]] std::size_t rows() const { return rows_; }
 
-    /// The number of lines, with those that nothing was put into.
+    /// The number of lines, empty ones included.
     [[nodiscard]] std::size_t count() const { return lines_.count(); }
 
     [[nodiscard]] TableLine& at(std::size_t row) const { return *lines_.at(row); }
@@ -42,19 +43,19 @@ public:
         return lines_.indexOf(line.slot);
     }
 
-    /// The input at a place, null where none is.
+    /// The input at a place, null for an empty one.
     [[nodiscard]] InputState* cell(std::size_t row, std::size_t column) const;
 
-    /// Puts an input, which stands nowhere in the table, at a place; what stood there leaves.
+    /// Puts an input that is not in the table at a place; the one that was there leaves the table.
     void place(InputState& input, std::size_t row, std::size_t column);
 
-    /// Takes the cell at `column` out of `line` and closes the line up if no row is left in it.
+    /// Removes the cell at `column` from `line`, and the line if it no longer counts as a row.
     void take(TableLine& line, std::size_t column);
 
-    /// Takes a line out; its cells leave the table.
+    /// Removes a line; its cells leave the table.
     void erase(TableLine& line);
 
-    /// The line that is selected, null for none; it is none once it was taken out.
+    /// The selected line, null for none; removing it leaves none selected.
     [[nodiscard]] const TableLine* selected() const { return selected_; }
     void select(const TableLine* line) { selected_ = line; }
 

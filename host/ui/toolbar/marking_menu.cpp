@@ -3,7 +3,7 @@
 namespace host::ui {
 
 void LinearMarkingMenuObject::dispose() {
-    controls_->dispose();
+    state_.controls->dispose();
     invalidate();
 }
 

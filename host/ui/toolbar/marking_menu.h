@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/base/events.h"
-#include "host/ui/toolbar/toolbar_controls.h"
+#include "host/ui/toolbar/toolbar_controls_object.h"
 
 #include <Core/Toolbars.h>
 
@@ -11,24 +11,31 @@
 /// The context menu, made again for each showing.
 namespace host::ui {
 
+struct LinearMarkingMenuState {
+    core::Ptr<ToolbarControlsObject> controls;
+};
+
 class LinearMarkingMenuObject final : public Object<core::LinearMarkingMenu> {
 public:
-    LinearMarkingMenuObject() : controls_(make<ToolbarControlsObject>(this, /*inPanel=*/false)) {}
+    LinearMarkingMenuObject()
+        : state_{.controls = make<ToolbarControlsObject>(this, /*inPanel=*/false)} {}
 
     [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
-        return get<"LinearMarkingMenu::controls">(controls_);
+        return get<"LinearMarkingMenu::controls">(state_.controls);
     }
 
-    [[nodiscard]] const ToolbarControlsObject& entries() const { return *controls_; }
+    [[nodiscard]] const LinearMarkingMenuState& state() const { return state_; }
     void dispose();
 
 private:
-    core::Ptr<ToolbarControlsObject> controls_;
+    LinearMarkingMenuState state_;
 };
 
 class RadialMarkingMenuObject final : public Object<core::RadialMarkingMenu> {
 public:
     RadialMarkingMenuObject() = default;
+
+    void dispose() { invalidate(); }
 };
 
 class MarkingMenuEventArgsObject final : public Arguments<core::MarkingMenuEventArgs> {

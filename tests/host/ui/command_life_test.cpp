@@ -226,13 +226,13 @@ TEST_F(CommandLife, AnExecuteFromTerminatedStartsANewCommandAfterAllNotification
     EXPECT_TRUE(openDialog());
 }
 
-TEST_F(CommandLife, ACommandThatRestartsItselfForEverIsStoppedAfterTenStarts) {
+TEST_F(CommandLife, ACommandThatKeepsRestartingItselfIsStoppedAfterTenStarts) {
     const Ptr<CommandDefinition> button = defineButton("Button");
     on<OnApplication>(ui()->commandTerminated(), [button](const auto&) { button->execute(); });
 
     EXPECT_EQ(misuseOf([] { pressCommand("Button"); }),
-              "the command Button was started 10 times without an action of a person in between: "
-              "it starts itself for ever");
+              "the command Button was started 10 times without an action of the user in between: "
+              "it keeps starting itself");
 
     EXPECT_FALSE(openDialog());
     EXPECT_EQ(ui()->activeCommand(), "");
@@ -359,7 +359,7 @@ TEST_F(CommandLife, APreviewWithoutAWayBackIsRefusedByName) {
 
     EXPECT_EQ(noted(), "");
     EXPECT_EQ(misuses(), (std::vector<Misuse>{{"Command::executePreview",
-                                               "nothing takes previews back in this host"}}));
+                                               "this host cannot undo previews"}}));
 }
 
 TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {

@@ -66,7 +66,7 @@ TEST_F(CommandDialog, TakesNoInitialSizeOnceItShows) {
 
     EXPECT_FALSE(dialog->setDialogInitialSize(10, 10));
     EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"Command::setDialogInitialSize", "the dialog shows already"}}));
+              (std::vector<Misuse>{{"Command::setDialogInitialSize", "the dialog is already open"}}));
 }
 
 TEST_F(CommandDialog, KnowsItsDefinition) {
@@ -94,14 +94,14 @@ TEST_F(CommandDialog, OkIsRefusedWhereAHandlerFindsTheInputsNotValid) {
     });
 
     EXPECT_EQ(misuseOf(pressOk),
-              "cannot press OK: a handler of the dialog finds the inputs not valid");
+              "cannot press OK: a handler of the dialog finds the inputs invalid");
     EXPECT_TRUE(openDialog());
 }
 
 TEST_F(CommandDialog, OkIsRefusedWhereTheButtonDoesNotShow) {
     openBox([](const Ptr<Command>& command) { command->isOKButtonVisible(false); });
 
-    EXPECT_EQ(misuseOf(pressOk), "cannot press OK: the dialog shows no such button");
+    EXPECT_EQ(misuseOf(pressOk), "cannot press OK: the dialog has no such button");
 }
 
 TEST_F(CommandDialog, OkAndCancelNeedADialog) {

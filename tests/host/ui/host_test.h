@@ -3,6 +3,7 @@
 #include "host/application/running_host.h"
 #include "host/base/dispatcher.h"
 #include "host/session/dialog_answers.h"
+#include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
 
 #include <Core/CoreAll.h>

@@ -1,6 +1,6 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/dialogs/palettes.h"
+#include "host/ui/dialogs/palettes_object.h"
 
 namespace host {
 namespace {
@@ -34,7 +34,7 @@ TEST_F(PaletteTest, KeepsItsBrowserAndHowItsWindowBehaves) {
     ui()->palettes()->add("new", "New", "http://page.example/", true, false, true, 1, 1, true);
 
     const auto state = [](const char* id) {
-        return host::ApplicationObject::current()->ui().allPalettes().find(id)->state;
+        return host::ApplicationObject::current()->ui().state().palettes->find(id)->state();
     };
     EXPECT_FALSE(state("old").newWebBrowser);
     EXPECT_TRUE(state("old").closeButton);

@@ -1,8 +1,8 @@
 #include "tests/host/ui/host_test.h"
 
-#include "host/ui/inputs/container_inputs.h"
-#include "host/ui/inputs/drop_down.h"
-#include "host/ui/inputs/field_inputs.h"
+#include "host/ui/inputs/bool_value_command_input_object.h"
+#include "host/ui/inputs/drop_down_command_input_object.h"
+#include "host/ui/inputs/string_value_command_input_object.h"
 
 #include <random>
 

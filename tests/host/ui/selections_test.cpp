@@ -136,7 +136,7 @@ TEST_F(SelectionTest, OccurrencesAreNoRootComponents) {
     openPicker({"RootComponents"}, 1, 1);
 
     EXPECT_EQ(misuseOf([this] { pick(part(0)); }),
-              "cannot pick for \"pick\": its filters refuse the entity");
+              "cannot pick for \"pick\": its filters exclude the entity");
     EXPECT_EQ(misuseOf([this] { pick(root); }), "");
 }
 
@@ -145,7 +145,7 @@ TEST_F(SelectionTest, AnotherComponentIsNoRootComponent) {
     const Ptr<adsk::fusion::Occurrence> occurrence = part(0);
 
     EXPECT_EQ(misuseOf([&] { pick(occurrence->component()); }),
-              "cannot pick for \"pick\": its filters refuse the entity");
+              "cannot pick for \"pick\": its filters exclude the entity");
 }
 
 TEST_F(SelectionTest, AnUnknownFilterIsRefused) {
@@ -284,7 +284,7 @@ TEST_F(SelectionTest, CodeCanSelectFromInsideInputChanged) {
 
 TEST_F(SelectionTest, NothingCannotBeSelected) {
     EXPECT_FALSE(ui()->activeSelections()->add(nullptr));
-    EXPECT_EQ(misuseOf([] { pick(nullptr); }), "cannot pick: there is no such entity");
+    EXPECT_EQ(misuseOf([] { pick(nullptr); }), "cannot pick: no such entity");
 }
 
 TEST_F(SelectionTest, APickWithoutADialogIsAllThatIsSelected) {

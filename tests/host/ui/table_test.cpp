@@ -318,7 +318,7 @@ TEST_F(Table, TakesNoSelectionsButtonRowsTabsGroupsOrTables) {
     EXPECT_FALSE(table->addCommandInput(nullptr, 0, 0));
     EXPECT_EQ(misuses().front(),
               (Misuse{.operation = "TableCommandInput::addCommandInput",
-                      .text = "an input like \"pick\" cannot stand in a table"}));
+                      .text = "an input like \"pick\" cannot be in a table"}));
 }
 
 TEST_F(Table, TakesNoCellOverSeveralRowsAndNoPlaceThatIsNone) {

@@ -73,19 +73,19 @@ TEST_F(Visibility, AReadOnlyTextCannotBeTypedInto) {
 
 TEST_F(Visibility, AnInputOfAnotherTabCannotBeUsed) {
     EXPECT_EQ(misuseOf([this] { typeText(all->itemById("far"), "x"); }),
-              "cannot type into \"far\": its tab \"other\" does not show: activate it first");
+              "cannot type into \"far\": its tab \"other\" is not active: activate it first");
 
     activateTab(all->itemById("other"));
     EXPECT_EQ(misuseOf([this] { typeText(all->itemById("far"), "x"); }), "");
     EXPECT_EQ(misuseOf([this] { click(all->itemById("cell")); }),
-              "cannot click \"cell\": its tab \"tab\" does not show: activate it first");
+              "cannot click \"cell\": its tab \"tab\" is not active: activate it first");
 }
 
 TEST_F(Visibility, AnInputInAFoldedGroupCannotBeUsedUntilItIsUnfolded) {
     const Ptr<GroupCommandInput> group = all->itemById("group");
     group->isExpanded(false);
     EXPECT_EQ(misuseOf([this] { click(all->itemById("in")); }),
-              "cannot click \"in\": its group \"group\" is folded: click it first");
+              "cannot click \"in\": its group \"group\" is collapsed: click it first");
 
     click(group);
 
@@ -111,7 +111,7 @@ TEST_F(Visibility, AnInputThatIsGoneCannotBeUsed) {
 
     EXPECT_EQ(misuseOf([&] { click(text); }),
               "cannot click \"text\": it is not part of the open dialog");
-    EXPECT_EQ(misuseOf([&] { click(nullptr); }), "cannot click: there is no such input");
+    EXPECT_EQ(misuseOf([&] { click(nullptr); }), "cannot click: no such input");
 }
 
 TEST_F(Visibility, OnlyTextsCanBeTypedIntoAndOnlyListsChosenFrom) {

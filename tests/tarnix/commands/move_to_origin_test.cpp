@@ -1,6 +1,7 @@
 #include "tests/support/addin_test.h"
 
 #include "host/base/gate.h"
+#include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
 
 #include <gtest/gtest.h>

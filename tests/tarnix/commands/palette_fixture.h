@@ -3,7 +3,7 @@
 #include "tests/support/addin_test.h"
 
 #include "host/application/application.h"
-#include "host/ui/dialogs/palettes.h"
+#include "host/ui/dialogs/palettes_object.h"
 
 #include <optional>
 #include <string>
@@ -31,7 +31,7 @@ protected:
 
     /// What was set on a palette, with what its API does not return.
     static host::ui::PaletteState stateOf(const std::string& id) {
-        return host::ApplicationObject::current()->ui().allPalettes().find(id)->state;
+        return host::ApplicationObject::current()->ui().state().palettes->find(id)->state();
     }
 
     /// Left, top, width and height.

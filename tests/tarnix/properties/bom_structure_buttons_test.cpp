@@ -1,6 +1,6 @@
 #include "tests/tarnix/properties/properties_fixture.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <filesystem>
 #include <string>

@@ -2,7 +2,7 @@
 #include "tests/support/real_files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <vector>
 

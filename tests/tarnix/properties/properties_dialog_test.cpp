@@ -1,6 +1,7 @@
 #include "tests/support/files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
+#include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
 
 namespace tarnix {

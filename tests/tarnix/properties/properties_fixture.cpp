@@ -6,7 +6,7 @@
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/session/browser_tree.h"
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include "tests/support/unwritable_file.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 namespace tarnix {
 namespace {

@@ -3,6 +3,7 @@
 #include "tests/tarnix/refusal/known_exceptions.h"
 #include "tests/tarnix/refusal/refused_flow.h"
 
+#include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 
-#include "host/session/user_actions.h"
+#include "host/session/input_actions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 #include "tests/tarnix/bom/tabs/bom_tabs_test.h"
 
+#include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
 
 #include <gtest/gtest.h>

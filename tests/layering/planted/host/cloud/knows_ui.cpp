@@ -1,2 +1,2 @@
 // Planted: the storage knows the screen.
-#include "host/ui/user_interface.h"
+#include "host/ui/user_interface_object.h"

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "host/ui/commands/command_events.h"
+
+#include <Core/CommandDefinitions.h>
+
+#include <string>
+
+namespace host::ui {
+
+class CommandDefinitionsObject;
+
+struct CommandDefinitionState {
+    std::string id;
+    std::string name;
+    std::string tooltip;
+    std::string resourceFolder;
+    bool native = false;  ///< the host's own, which cannot be deleted
+};
+
+class CommandDefinitionObject final : public Object<core::CommandDefinition> {
+public:
+    CommandDefinitionObject(CommandDefinitionsObject* owner, CommandDefinitionState state);
+
+    [[nodiscard]] std::string id() const override {
+        return get<"CommandDefinition::id">(state_.id);
+    }
+    [[nodiscard]] std::string name() const override {
+        return get<"CommandDefinition::name">(state_.name);
+    }
+    bool name(const std::string& value) override {
+        return set<"CommandDefinition::name">(state_.name, value);
+    }
+    [[nodiscard]] std::string tooltip() const override {
+        return get<"CommandDefinition::tooltip">(state_.tooltip);
+    }
+    bool tooltip(const std::string& value) override {
+        return set<"CommandDefinition::tooltip">(state_.tooltip, value);
+    }
+    [[nodiscard]] std::string resourceFolder() const override {
+        return get<"CommandDefinition::resourceFolder">(state_.resourceFolder);
+    }
+    bool resourceFolder(const std::string& value) override {
+        return set<"CommandDefinition::resourceFolder">(state_.resourceFolder, value);
+    }
+    [[nodiscard]] core::Ptr<core::CommandCreatedEvent> commandCreated() const override {
+        return get<"CommandDefinition::commandCreated">(createdEvent);
+    }
+    bool execute(const core::Ptr<core::NamedValues>& input) override;
+    bool deleteMe() override;
+
+    [[nodiscard]] const CommandDefinitionState& state() const { return state_; }
+    void dispose();
+
+    const core::Ptr<CommandCreatedEventObject> createdEvent;
+
+private:
+    CommandDefinitionsObject* owner_;
+    CommandDefinitionState state_;
+};
+
+}  // namespace host::ui

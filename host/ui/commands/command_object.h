@@ -1,0 +1,163 @@
+#pragma once
+
+#include "host/ui/commands/command_definition_object.h"
+#include "host/ui/commands/command_events.h"
+#include "host/ui/commands/dialog_size.h"
+#include "host/ui/inputs/command_inputs_object.h"
+#include "host/ui/inputs/string_pool.h"
+#include "host/ui/inputs/tab_bar.h"
+
+#include <cstdint>
+#include <string>
+
+namespace host::ui {
+
+class CommandRunner;
+class UserInterfaceObject;
+
+/// What handlers made of a command and its dialog.
+struct CommandState {
+    std::string okText = "OK";
+    std::string cancelText = "Cancel";
+    bool okVisible = true;
+    bool autoExecute = true;
+    bool executedWhenPreEmpted = true;
+    bool repeatable = true;
+    DialogSize initialSize;
+    DialogSize minimumSize;
+    bool customized = false;  ///< has a size or a button text, and so shows even without inputs
+    bool shown = false;       ///< the dialog is on the screen
+};
+
+/// One run of a command definition: what the module sees of it, and what its dialog shows.
+///
+/// `CommandRunner` takes it through its life.
+class CommandObject final : public Object<core::Command> {
+public:
+    CommandObject(core::Ptr<CommandDefinitionObject> definition, CommandRunner* runner);
+
+    [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override {
+        return get<"Command::commandInputs">(inputs_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandDefinition> parentCommandDefinition() const override {
+        return get<"Command::parentCommandDefinition">(definition_);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> execute() const override {
+        return get<"Command::execute">(executeEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> executePreview() const override {
+        return get<"Command::executePreview">(previewEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> activate() const override {
+        return get<"Command::activate">(activateEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> deactivate() const override {
+        return get<"Command::deactivate">(deactivateEvent);
+    }
+    [[nodiscard]] core::Ptr<core::CommandEvent> destroy() const override {
+        return get<"Command::destroy">(destroyEvent);
+    }
+    [[nodiscard]] core::Ptr<core::InputChangedEvent> inputChanged() const override {
+        return get<"Command::inputChanged">(changedEvent);
+    }
+    [[nodiscard]] core::Ptr<core::ValidateInputsEvent> validateInputs() const override {
+        return get<"Command::validateInputs">(validateEvent);
+    }
+    [[nodiscard]] std::string okButtonText() const override {
+        return get<"Command::okButtonText">(state_.okText);
+    }
+    bool okButtonText(const std::string& value) override;
+    [[nodiscard]] std::string cancelButtonText() const override {
+        return get<"Command::cancelButtonText">(state_.cancelText);
+    }
+    bool cancelButtonText(const std::string& value) override;
+    [[nodiscard]] bool isOKButtonVisible() const override {
+        return get<"Command::isOKButtonVisible">(state_.okVisible);
+    }
+    bool isOKButtonVisible(bool value) override {
+        return set<"Command::isOKButtonVisible">(state_.okVisible, value);
+    }
+    [[nodiscard]] bool isAutoExecute() const override {
+        return get<"Command::isAutoExecute">(state_.autoExecute);
+    }
+    bool isAutoExecute(bool value) override {
+        return set<"Command::isAutoExecute">(state_.autoExecute, value);
+    }
+    [[nodiscard]] bool isExecutedWhenPreEmpted() const override {
+        return get<"Command::isExecutedWhenPreEmpted">(state_.executedWhenPreEmpted);
+    }
+    bool isExecutedWhenPreEmpted(bool value) override {
+        return set<"Command::isExecutedWhenPreEmpted">(state_.executedWhenPreEmpted, value);
+    }
+    [[nodiscard]] bool isRepeatable() const override {
+        return get<"Command::isRepeatable">(state_.repeatable);
+    }
+    bool isRepeatable(bool value) override {
+        return set<"Command::isRepeatable">(state_.repeatable, value);
+    }
+    bool setDialogInitialSize(int width, int height) override;
+    bool setDialogMinimumSize(int width, int height) override;
+    bool doExecute(bool terminate) override;
+
+    /// @name For the host itself
+    /// @{
+
+    /// The user interface in which it runs; only until `dispose`.
+    [[nodiscard]] UserInterfaceObject& ui() const;
+
+    [[nodiscard]] const CommandState& state() const { return state_; }
+    void show() { state_.shown = true; }
+
+    /// Whether it is the command that runs and its dialog is on the screen.
+    [[nodiscard]] bool isOpen() const;
+
+    [[nodiscard]] StringPool& strings() { return strings_; }
+    [[nodiscard]] std::uint32_t nextSerial() { return ++newestSerial_; }
+    [[nodiscard]] std::uint32_t newestSerial() const { return newestSerial_; }
+    [[nodiscard]] CommandInputsObject& inputs() const { return *inputs_; }
+    [[nodiscard]] const core::Ptr<CommandDefinitionObject>& definition() const {
+        return definition_;
+    }
+
+    /// The tab that shows: the one that was activated, else the first; null without any.
+    [[nodiscard]] InputState* activeTab() const;
+    void activeTab(InputState* tab) { activeTab_ = tab; }
+
+    [[nodiscard]] InputState& tabBar();
+
+    /// The selection that picks go to: the one that was focused, else the first; null without any.
+    [[nodiscard]] InputState* focus() const;
+    void focus(InputState* selection);
+
+    /// An input is being disposed of: it is no longer the active tab or the focused selection.
+    void forget(const InputState& input);
+
+    /// Reports that code changed the value of an input, or selected an item of its list.
+    void changedByCode(InputState& input, CodeChange what);
+
+    /// Ends the command, its inputs and its events.
+    void dispose();
+
+    const core::Ptr<CommandEventObject> executeEvent;
+    const core::Ptr<CommandEventObject> previewEvent;
+    const core::Ptr<CommandEventObject> activateEvent;
+    const core::Ptr<CommandEventObject> deactivateEvent;
+    const core::Ptr<CommandEventObject> destroyEvent;
+    const core::Ptr<InputChangedEventObject> changedEvent;
+    const core::Ptr<ValidateInputsEventObject> validateEvent;
+    /// @}
+
+private:
+    core::Ptr<CommandDefinitionObject> definition_;
+    CommandRunner* runner_;
+    StringPool strings_;
+    std::uint32_t newestSerial_ = 0;
+    core::Ptr<CommandInputsObject> inputs_;
+    core::Ptr<TabBar> tabBar_;
+    InputState* activeTab_ = nullptr;
+    InputState* focus_ = nullptr;
+    bool focusChosen_ = false;
+    CommandState state_;
+};
+
+}  // namespace host::ui

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/ui/commands/selection_object.h"
+
+#include <cstddef>
+#include <unordered_set>
+#include <vector>
+
+namespace host::ui {
+
+/// Entities in the order they were selected, each once.
+class SelectionList {
+public:
+    [[nodiscard]] std::size_t count() const { return selections_.size(); }
+    [[nodiscard]] bool holds(const core::Ptr<core::Base>& entity) const;
+
+    /// The selection at an index, null outside the list.
+    [[nodiscard]] core::Ptr<core::Selection> at(std::size_t index) const;
+
+    /// False for an entity that is there already.
+    bool add(const core::Ptr<core::Base>& entity);
+    void remove(const core::Ptr<core::Base>& entity);
+
+    /// Empties the list and disposes of the selections.
+    void clear();
+
+    [[nodiscard]] std::vector<core::Ptr<core::Base>> entities() const;
+
+private:
+    std::vector<core::Ptr<SelectionObject>> selections_;
+    std::unordered_set<const core::Base*> held_;
+};
+
+}  // namespace host::ui

@@ -1,0 +1,68 @@
+#include "host/ui/dialogs/palette_object.h"
+
+#include "host/ui/dialogs/palettes_object.h"
+
+namespace host::ui {
+
+bool PaletteObject::left(int value) {
+    if (closed<"Palette::left">(*this)) return {};
+    return move(value, state_.top);
+}
+
+bool PaletteObject::top(int value) {
+    if (closed<"Palette::top">(*this)) return {};
+    return move(state_.left, value);
+}
+
+bool PaletteObject::width(int value) {
+    if (closed<"Palette::width">(*this)) return {};
+    return resize(value, state_.height);
+}
+
+bool PaletteObject::height(int value) {
+    if (closed<"Palette::height">(*this)) return {};
+    return resize(state_.width, value);
+}
+
+bool PaletteObject::setPosition(int left, int top) {
+    if (closed<"Palette::setPosition">(*this)) return {};
+    return move(left, top);
+}
+
+bool PaletteObject::setSize(int width, int height) {
+    if (closed<"Palette::setSize">(*this)) return {};
+    return resize(width, height);
+}
+
+// A docked palette that is moved floats.
+bool PaletteObject::move(int left, int top) {
+    state_.left = left;
+    state_.top = top;
+    state_.dockingState = core::PaletteDockStateFloating;
+    return true;
+}
+
+// Docked to a side it is as high as the window, docked to the top or bottom as wide.
+bool PaletteObject::resize(int width, int height) {
+    const core::PaletteDockingStates docked = state_.dockingState;
+    if (docked != core::PaletteDockStateTop && docked != core::PaletteDockStateBottom) {
+        state_.width = width;
+    }
+    if (docked != core::PaletteDockStateLeft && docked != core::PaletteDockStateRight) {
+        state_.height = height;
+    }
+    return true;
+}
+
+bool PaletteObject::deleteMe() {
+    if (closed<"Palette::deleteMe">(*this)) return {};
+    owner_->remove(*this);
+    return true;
+}
+
+void PaletteObject::dispose() {
+    owner_ = nullptr;
+    invalidate();
+}
+
+}  // namespace host::ui

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "host/base/object.h"
+
+#include <Core/Palettes.h>
+
+#include <string>
+#include <utility>
+
+namespace host::ui {
+
+class PalettesObject;
+
+/// What a palette shows and where it is, in pixels.
+struct PaletteState {
+    std::string id;
+    std::string name;
+    std::string htmlFileURL;
+    bool visible = true;
+    bool closeButton = true;
+    bool resizable = true;
+    bool newWebBrowser = false;  ///< which of the host's browsers shows the page
+    core::PaletteDockingStates dockingState = core::PaletteDockStateFloating;
+    core::PaletteDockingOptions dockingOption = core::PaletteDockOptionsToVerticalAndHorizontal;
+    int left = 0;
+    int top = 0;
+    int width = 200;
+    int height = 200;
+};
+
+class PaletteObject final : public Object<core::Palette> {
+public:
+    PaletteObject(PalettesObject* owner, PaletteState state)
+        : owner_(owner), state_(std::move(state)) {}
+
+    [[nodiscard]] std::string id() const override { return get<"Palette::id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"Palette::name">(state_.name); }
+    bool name(const std::string& value) override {
+        return set<"Palette::name">(state_.name, value);
+    }
+    [[nodiscard]] std::string htmlFileURL() const override {
+        return get<"Palette::htmlFileURL">(state_.htmlFileURL);
+    }
+    bool htmlFileURL(const std::string& value) override {
+        return set<"Palette::htmlFileURL">(state_.htmlFileURL, value);
+    }
+    [[nodiscard]] bool isVisible() const override {
+        return get<"Palette::isVisible">(state_.visible);
+    }
+    bool isVisible(bool value) override { return set<"Palette::isVisible">(state_.visible, value); }
+    [[nodiscard]] core::PaletteDockingStates dockingState() const override {
+        return get<"Palette::dockingState">(state_.dockingState);
+    }
+    bool dockingState(core::PaletteDockingStates value) override {
+        return set<"Palette::dockingState">(state_.dockingState, value);
+    }
+    [[nodiscard]] core::PaletteDockingOptions dockingOption() const override {
+        return get<"Palette::dockingOption">(state_.dockingOption);
+    }
+    bool dockingOption(core::PaletteDockingOptions value) override {
+        return set<"Palette::dockingOption">(state_.dockingOption, value);
+    }
+    [[nodiscard]] int left() const override { return get<"Palette::left">(state_.left); }
+    bool left(int value) override;
+    [[nodiscard]] int top() const override { return get<"Palette::top">(state_.top); }
+    bool top(int value) override;
+    [[nodiscard]] int width() const override { return get<"Palette::width">(state_.width); }
+    bool width(int value) override;
+    [[nodiscard]] int height() const override { return get<"Palette::height">(state_.height); }
+    bool height(int value) override;
+    bool setPosition(int left, int top) override;
+    bool setSize(int width, int height) override;
+    bool deleteMe() override;
+
+    [[nodiscard]] const PaletteState& state() const { return state_; }
+
+    /// Hides it with the button in its corner, as the user does.
+    void close() { state_.visible = false; }
+    void dispose();
+
+private:
+    bool move(int left, int top);
+    bool resize(int width, int height);
+
+    PalettesObject* owner_;
+    PaletteState state_;
+};
+
+}  // namespace host::ui

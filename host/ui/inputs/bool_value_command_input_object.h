@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/ui/inputs/command_input_object.h"
+
+#include <string>
+
+namespace host::ui {
+
+/// A button or a check box.
+class BoolValueCommandInputObject final : public CommandInputObject<core::BoolValueCommandInput> {
+public:
+    BoolValueCommandInputObject(const InputOrigin& origin, bool checkBox,
+                                const std::string& resourceFolder, bool value)
+        : CommandInputObject(origin, InputKind::Bool),
+          checkBox_(checkBox),
+          value_(value),
+          resourceFolder_(shared(resourceFolder)),
+          text_(shared("")) {}
+
+    [[nodiscard]] bool value() const override {
+        return get<"BoolValueCommandInput::value">(value_);
+    }
+    bool value(bool value) override;
+    [[nodiscard]] std::string resourceFolder() const override;
+    bool resourceFolder(const std::string& value) override;
+    [[nodiscard]] bool isCheckBox() const override {
+        return get<"BoolValueCommandInput::isCheckBox">(checkBox_);
+    }
+    [[nodiscard]] std::string text() const override;
+    bool text(const std::string& value) override;
+
+    /// Clicks it, as the user does.
+    void toggle() { value_ = !value_; }
+
+private:
+    bool checkBox_;
+    bool value_;
+    const std::string* resourceFolder_;  ///< of the command's pool
+    const std::string* text_;            ///< of the command's pool
+};
+
+}  // namespace host::ui

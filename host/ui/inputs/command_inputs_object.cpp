@@ -1,0 +1,187 @@
+#include "host/ui/inputs/command_inputs_object.h"
+
+#include "host/ui/commands/command_object.h"
+#include "host/ui/inputs/bool_value_command_input_object.h"
+#include "host/ui/inputs/button_row_command_input_object.h"
+#include "host/ui/inputs/drop_down_command_input_object.h"
+#include "host/ui/inputs/group_command_input_object.h"
+#include "host/ui/inputs/image_command_input_object.h"
+#include "host/ui/inputs/radio_button_group_command_input_object.h"
+#include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/inputs/string_value_command_input_object.h"
+#include "host/ui/inputs/tab_command_input_object.h"
+#include "host/ui/inputs/table_command_input_object.h"
+#include "host/ui/inputs/text_box_command_input_object.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace host::ui {
+namespace {
+
+bool isLandmark(InputKind kind) {
+    return kind == InputKind::Tab || kind == InputKind::Group || kind == InputKind::Selection;
+}
+
+}  // namespace
+
+template <class T, class... Arguments>
+core::Ptr<T> CommandInputsObject::append(const std::string& id, const std::string& name,
+                                         const Arguments&... arguments) {
+    const InputOrigin origin{this, &id, command_->strings().share(name)};
+    core::Ptr<T> input = make<T>(origin, arguments...);
+    input->slot = static_cast<std::uint32_t>(members_.append(input));
+    index_.add(*input);
+    if (isLandmark(input->kind)) {
+        landmarks_.push_back(input.get());
+    }
+    return input;
+}
+
+std::size_t CommandInputsObject::count() const {
+    if (closed<"CommandInputs::count">(*this)) return {};
+    return members_.count();
+}
+
+core::Ptr<core::CommandInput> CommandInputsObject::item(std::size_t index) const {
+    if (closed<"CommandInputs::item">(*this)) return {};
+    return index < members_.count() ? members_.at(index) : nullptr;
+}
+
+core::Ptr<core::CommandInput> CommandInputsObject::itemById(const std::string& id) const {
+    if (closed<"CommandInputs::itemById">(*this)) return {};
+    InputState* found = find(id);
+    return found == nullptr ? nullptr : found->api();
+}
+
+core::Ptr<core::Command> CommandInputsObject::command() const {
+    if (closed<"CommandInputs::command">(*this)) return {};
+    return core::Ptr<core::Command>(command_);
+}
+
+core::Ptr<core::BoolValueCommandInput> CommandInputsObject::addBoolValueInput(
+    const std::string& id, const std::string& name, bool isCheckBox,
+    const std::string& resourceFolder, bool initialValue) {
+    if (closed<"CommandInputs::addBoolValueInput">(*this)) return {};
+    return append<BoolValueCommandInputObject>(id, name, isCheckBox, resourceFolder, initialValue);
+}
+
+core::Ptr<core::StringValueCommandInput> CommandInputsObject::addStringValueInput(
+    const std::string& id, const std::string& name, const std::string& initialValue) {
+    if (closed<"CommandInputs::addStringValueInput">(*this)) return {};
+    return append<StringValueCommandInputObject>(id, name, initialValue);
+}
+
+core::Ptr<core::DropDownCommandInput> CommandInputsObject::addDropDownCommandInput(
+    const std::string& id, const std::string& name, core::DropDownStyles dropDownStyle) {
+    if (closed<"CommandInputs::addDropDownCommandInput">(*this)) return {};
+    return append<DropDownCommandInputObject>(id, name, dropDownStyle);
+}
+
+core::Ptr<core::TableCommandInput> CommandInputsObject::addTableCommandInput(
+    const std::string& id, const std::string& name, int numberOfColumns,
+    const std::string& columnRatio) {
+    if (closed<"CommandInputs::addTableCommandInput">(*this)) return {};
+    return append<TableCommandInputObject>(id, name, numberOfColumns, columnRatio);
+}
+
+core::Ptr<core::TabCommandInput> CommandInputsObject::addTabCommandInput(
+    const std::string& id, const std::string& name, const std::string& resourceFolder) {
+    constexpr const char* kOperation = "CommandInputs::addTabCommandInput";
+    if (closed<"CommandInputs::addTabCommandInput">(*this)) return {};
+    if (parent_ != nullptr) {
+        misuse(kOperation, "a tab cannot be inside \"" + parent_->id() + "\"");
+        return {};
+    }
+    if (find(id) != nullptr) {
+        misuse(kOperation, "the id \"" + id + "\" is in use");
+        return {};
+    }
+    return append<TabCommandInputObject>(id, name, resourceFolder);
+}
+
+core::Ptr<core::GroupCommandInput> CommandInputsObject::addGroupCommandInput(
+    const std::string& id, const std::string& name) {
+    if (closed<"CommandInputs::addGroupCommandInput">(*this)) return {};
+    return append<GroupCommandInputObject>(id, name);
+}
+
+core::Ptr<core::ButtonRowCommandInput> CommandInputsObject::addButtonRowCommandInput(
+    const std::string& id, const std::string& name, bool isMultiSelectEnabled) {
+    if (closed<"CommandInputs::addButtonRowCommandInput">(*this)) return {};
+    return append<ButtonRowCommandInputObject>(id, name, isMultiSelectEnabled);
+}
+
+core::Ptr<core::RadioButtonGroupCommandInput> CommandInputsObject::addRadioButtonGroupCommandInput(
+    const std::string& id, const std::string& name) {
+    if (closed<"CommandInputs::addRadioButtonGroupCommandInput">(*this)) return {};
+    return append<RadioButtonGroupCommandInputObject>(id, name);
+}
+
+core::Ptr<core::TextBoxCommandInput> CommandInputsObject::addTextBoxCommandInput(
+    const std::string& id, const std::string& name, const std::string& formattedText, int numRows,
+    bool isReadOnly) {
+    if (closed<"CommandInputs::addTextBoxCommandInput">(*this)) return {};
+    return append<TextBoxCommandInputObject>(id, name, formattedText, numRows, isReadOnly);
+}
+
+core::Ptr<core::ImageCommandInput> CommandInputsObject::addImageCommandInput(
+    const std::string& id, const std::string& name, const std::string& imageFile) {
+    if (closed<"CommandInputs::addImageCommandInput">(*this)) return {};
+    return append<ImageCommandInputObject>(id, name, imageFile);
+}
+
+core::Ptr<core::SelectionCommandInput> CommandInputsObject::addSelectionInput(
+    const std::string& id, const std::string& name, const std::string& commandPrompt) {
+    if (closed<"CommandInputs::addSelectionInput">(*this)) return {};
+    return append<SelectionCommandInputObject>(id, name, commandPrompt);
+}
+
+InputState* CommandInputsObject::find(const std::string& id) const {
+    if (InputState* own = index_.find(id)) return own;
+    for (const InputState* each : landmarks_) {
+        const CommandInputsObject* inside = each->inside();
+        InputState* found = inside == nullptr ? nullptr : inside->find(id);
+        if (found != nullptr) return found;
+    }
+    return nullptr;
+}
+
+void CommandInputsObject::remove(InputState& input) {
+    index_.remove(input);
+    if (isLandmark(input.kind)) {
+        std::erase(landmarks_, &input);
+    }
+    const core::Ptr<core::CommandInput> kept = members_.remove(input.slot);
+    input.dispose();
+    members_.tidy([](const core::Ptr<core::CommandInput>& member, std::size_t slot) {
+        InputState::of(member)->slot = static_cast<std::uint32_t>(slot);
+    });
+}
+
+void CommandInputsObject::dispose() {
+    members_.each(
+        [](const core::Ptr<core::CommandInput>& each) { InputState::of(each)->dispose(); });
+    members_.clear();
+    index_.clear();
+    landmarks_.clear();
+    command_ = nullptr;
+    parent_ = nullptr;
+    invalidate();
+}
+
+std::vector<InputState*> CommandInputsObject::ofKind(InputKind kind) const {
+    std::vector<InputState*> found;
+    for (InputState* each : landmarks_) {
+        if (each->kind == kind) {
+            found.push_back(each);
+        }
+        if (const CommandInputsObject* inside = each->inside()) {
+            const std::vector<InputState*> deeper = inside->ofKind(kind);
+            found.insert(found.end(), deeper.begin(), deeper.end());
+        }
+    }
+    return found;
+}
+
+}  // namespace host::ui

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "host/ui/inputs/id_index.h"
+#include "host/ui/inputs/input_state.h"
+#include "host/ui/inputs/sequence.h"
+
+#include <Core/CommandInputs.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace host::ui {
+
+/// The inputs of a command, a tab or a group; owns them.
+class CommandInputsObject final : public Object<core::CommandInputs> {
+public:
+    /// `parent` is the tab or group, null for the command's own collection.
+    CommandInputsObject(CommandObject* command, InputState* parent)
+        : command_(command), parent_(parent) {}
+
+    [[nodiscard]] std::size_t count() const override;
+    [[nodiscard]] core::Ptr<core::CommandInput> item(std::size_t index) const override;
+    [[nodiscard]] core::Ptr<core::CommandInput> itemById(const std::string& id) const override;
+    [[nodiscard]] core::Ptr<core::Command> command() const override;
+
+    core::Ptr<core::BoolValueCommandInput> addBoolValueInput(const std::string& id,
+                                                             const std::string& name,
+                                                             bool isCheckBox,
+                                                             const std::string& resourceFolder,
+                                                             bool initialValue) override;
+    core::Ptr<core::StringValueCommandInput> addStringValueInput(
+        const std::string& id, const std::string& name, const std::string& initialValue) override;
+    core::Ptr<core::DropDownCommandInput> addDropDownCommandInput(
+        const std::string& id, const std::string& name,
+        core::DropDownStyles dropDownStyle) override;
+    core::Ptr<core::TableCommandInput> addTableCommandInput(
+        const std::string& id, const std::string& name, int numberOfColumns,
+        const std::string& columnRatio) override;
+    core::Ptr<core::TabCommandInput> addTabCommandInput(const std::string& id,
+                                                        const std::string& name,
+                                                        const std::string& resourceFolder) override;
+    core::Ptr<core::GroupCommandInput> addGroupCommandInput(const std::string& id,
+                                                            const std::string& name) override;
+    core::Ptr<core::ButtonRowCommandInput> addButtonRowCommandInput(
+        const std::string& id, const std::string& name, bool isMultiSelectEnabled) override;
+    core::Ptr<core::RadioButtonGroupCommandInput> addRadioButtonGroupCommandInput(
+        const std::string& id, const std::string& name) override;
+    core::Ptr<core::TextBoxCommandInput> addTextBoxCommandInput(const std::string& id,
+                                                                const std::string& name,
+                                                                const std::string& formattedText,
+                                                                int numRows,
+                                                                bool isReadOnly) override;
+    core::Ptr<core::ImageCommandInput> addImageCommandInput(const std::string& id,
+                                                            const std::string& name,
+                                                            const std::string& imageFile) override;
+    core::Ptr<core::SelectionCommandInput> addSelectionInput(
+        const std::string& id, const std::string& name, const std::string& commandPrompt) override;
+
+    /// @name For the host itself
+    /// @{
+
+    [[nodiscard]] CommandObject* owningCommand() const { return command_; }
+    [[nodiscard]] InputState* parent() const { return parent_; }
+    [[nodiscard]] std::size_t size() const { return members_.count(); }
+
+    /// What `itemById` finds.
+    [[nodiscard]] InputState* find(const std::string& id) const;
+
+    /// Takes a member out and disposes of it.
+    void remove(InputState& input);
+
+    /// Disposes of all members, and of the collection with them.
+    void dispose();
+
+    /// The selections, tabs or groups in here and in all tabs and groups inside, in the order of
+    /// the dialog.
+    [[nodiscard]] std::vector<InputState*> ofKind(InputKind kind) const;
+    /// @}
+
+private:
+    template <class T, class... Arguments>
+    core::Ptr<T> append(const std::string& id, const std::string& name,
+                        const Arguments&... arguments);
+
+    CommandObject* command_;
+    InputState* parent_;
+    Sequence<core::Ptr<core::CommandInput>> members_;
+    IdIndex index_;
+    std::vector<InputState*> landmarks_;  ///< the selections, tabs and groups among the members
+};
+
+}  // namespace host::ui

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/ui/inputs/command_input_object.h"
+#include "host/ui/inputs/container_state.h"
+
+namespace host::ui {
+
+/// How a group looks.
+struct GroupState {
+    bool expanded = true;
+    bool checkBoxDisplayed = false;
+    bool checkBoxChecked = true;
+};
+
+class GroupCommandInputObject final
+    : public CommandInputObject<core::GroupCommandInput, ContainerState> {
+public:
+    explicit GroupCommandInputObject(const InputOrigin& origin)
+        : CommandInputObject(origin, InputKind::Group) {}
+
+    [[nodiscard]] core::Ptr<core::CommandInputs> children() const override {
+        return get<"GroupCommandInput::children">(insideApi());
+    }
+    [[nodiscard]] bool isExpanded() const override {
+        return get<"GroupCommandInput::isExpanded">(state_.expanded);
+    }
+    bool isExpanded(bool value) override {
+        return set<"GroupCommandInput::isExpanded">(state_.expanded, value);
+    }
+    [[nodiscard]] bool isEnabledCheckBoxDisplayed() const override {
+        return get<"GroupCommandInput::isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed);
+    }
+    bool isEnabledCheckBoxDisplayed(bool value) override {
+        return set<"GroupCommandInput::isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed,
+                                                                    value);
+    }
+    [[nodiscard]] bool isEnabledCheckBoxChecked() const override {
+        return get<"GroupCommandInput::isEnabledCheckBoxChecked">(state_.checkBoxChecked);
+    }
+    bool isEnabledCheckBoxChecked(bool value) override {
+        return set<"GroupCommandInput::isEnabledCheckBoxChecked">(state_.checkBoxChecked, value);
+    }
+
+    [[nodiscard]] const GroupState& state() const { return state_; }
+
+    /// Clicks its heading, as the user does.
+    void toggle() { state_.expanded = !state_.expanded; }
+
+private:
+    GroupState state_;
+};
+
+}  // namespace host::ui

@@ -1,0 +1,63 @@
+#include "host/ui/inputs/list_item_object.h"
+
+#include "host/base/last_error.h"
+
+namespace host::ui {
+
+ListItemObject::~ListItemObject() {
+    if (isValid()) {
+        list_->entries_[index_].item = nullptr;
+    }
+}
+
+std::string ListItemObject::name() const {
+    if (closed<"ListItem::name">(*this)) return {};
+    return *entry().name;
+}
+
+bool ListItemObject::name(const std::string& value) {
+    if (closed<"ListItem::name">(*this)) return {};
+    list_->rename(index_, value);
+    return true;
+}
+
+bool ListItemObject::isSelected() const {
+    if (closed<"ListItem::isSelected">(*this)) return {};
+    return entry().selected;
+}
+
+bool ListItemObject::isSelected(bool value) {
+    if (closed<"ListItem::isSelected">(*this)) return {};
+    if (list_->select(index_, value)) {
+        list_->changedByCode(value ? CodeChange::Selected : CodeChange::Value);
+    }
+    return true;
+}
+
+int ListItemObject::index() const {
+    if (closed<"ListItem::index">(*this)) return {};
+    return static_cast<int>(index_);
+}
+
+std::string ListItemObject::icon() const {
+    if (closed<"ListItem::icon">(*this)) return {};
+    return *entry().icon;
+}
+
+bool ListItemObject::icon(const std::string& value) {
+    if (closed<"ListItem::icon">(*this)) return {};
+    list_->changeIcon(index_, value);
+    return true;
+}
+
+bool ListItemObject::deleteMe() {
+    if (closed<"ListItem::deleteMe">(*this)) return {};
+    if (list_->kind == InputKind::DropDown && entry().selected && !list_->isMultiSelect()) {
+        return fail(core::OperationFailed,
+                    "ListItem::deleteMe: the selected item of a drop-down stays");
+    }
+    list_->remove(index_);
+    return true;
+}
+
+}  // namespace host::ui

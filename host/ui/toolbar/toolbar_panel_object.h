@@ -1,0 +1,47 @@
+#pragma once
+
+#include "host/ui/toolbar/toolbar_controls_object.h"
+
+#include <Core/Toolbars.h>
+
+#include <string>
+
+namespace host::ui {
+
+class ToolbarTabObject;
+
+struct ToolbarPanelState {
+    std::string id;
+    std::string name;
+    bool native = false;  ///< the host's own, which cannot be deleted
+    core::Ptr<ToolbarControlsObject> controls;
+};
+
+class ToolbarPanelObject final : public Object<core::ToolbarPanel> {
+public:
+    ToolbarPanelObject(ToolbarTabObject* owner, const std::string& id, const std::string& name,
+                       bool native)
+        : owner_(owner),
+          state_{.id = id,
+                 .name = name,
+                 .native = native,
+                 .controls = make<ToolbarControlsObject>(this, /*inPanel=*/true)} {}
+
+    [[nodiscard]] std::string id() const override { return get<"ToolbarPanel::id">(state_.id); }
+    [[nodiscard]] std::string name() const override {
+        return get<"ToolbarPanel::name">(state_.name);
+    }
+    [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
+        return get<"ToolbarPanel::controls">(state_.controls);
+    }
+    bool deleteMe() override;
+
+    [[nodiscard]] const ToolbarPanelState& state() const { return state_; }
+    void dispose();
+
+private:
+    ToolbarTabObject* owner_;
+    ToolbarPanelState state_;
+};
+
+}  // namespace host::ui

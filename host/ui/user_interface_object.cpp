@@ -1,0 +1,125 @@
+#include "host/ui/user_interface_object.h"
+
+#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/messages.h"
+#include "host/ui/dialogs/progress_dialog.h"
+
+#include <Core/Dialogs.h>
+
+#include <algorithm>
+
+namespace host::ui {
+
+// The events' names are those that records show for what a handler threw.
+UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveModel& model)
+    : startingEvent(make<ApplicationCommandEventObject>("OnCommandStarting", this)),
+      createdEvent(make<ApplicationCommandEventObject>("OnApplicationCommandCreated", this)),
+      terminatedEvent(make<ApplicationCommandEventObject>("OnCommandTerminated", this)),
+      preActivateEvent(make<WorkspaceEventObject>("OnWorkspacePreActivate", this)),
+      activatedEvent(make<WorkspaceEventObject>("OnWorkspaceActivated", this)),
+      preDeactivateEvent(make<WorkspaceEventObject>("OnWorkspacePreDeactivate", this)),
+      deactivatedEvent(make<WorkspaceEventObject>("OnWorkspaceDeactivated", this)),
+      menuEvent(make<MarkingMenuEventObject>("OnMarkingMenuDisplaying", this)),
+      model_(&model),
+      runner_(this, setup.codeChanges),
+      state_{.definitions = make<CommandDefinitionsObject>(&runner_),
+             .workspaces = make<WorkspacesObject>(this, setup.workspaces),
+             .panels = make<ToolbarPanelListObject>(state_.workspaces.get()),
+             .palettes = make<PalettesObject>(),
+             .selections = make<SelectionsObject>()} {
+    createDefaultLayout(setup);
+}
+
+// What the toolbars hold before any module is loaded.
+void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
+    if (setup.selectCommand) {
+        runner_.setIdleCommand(state_.definitions->addNative("SelectCommand", "Select"));
+    }
+    if (!state_.workspaces->active()) return;
+    const core::Ptr<ToolbarPanelObject> panel = state_.workspaces->active()->toolsTab().add(
+        "SolidScriptsAddinsPanel", "Add-Ins", /*native=*/true, /*place=*/0);
+    if (setup.repeatControl) {
+        panel->state().controls->append(state_.definitions->addNative("RepeatCommand", "Repeat"));
+    }
+}
+
+core::Ptr<core::Workspace> UserInterfaceObject::activeWorkspace() const {
+    if (closed<"UserInterface::activeWorkspace">(*this)) return {};
+    return state_.workspaces->active();
+}
+
+core::Ptr<core::ToolbarTabList> UserInterfaceObject::toolbarTabsByProductType(
+    const std::string& productType) const {
+    if (closed<"UserInterface::toolbarTabsByProductType">(*this)) return {};
+    const auto found = std::find_if(tabLists_.begin(), tabLists_.end(), [&](const auto& each) {
+        return each->productType() == productType;
+    });
+    if (found != tabLists_.end()) return *found;
+    tabLists_.push_back(make<ToolbarTabListObject>(state_.workspaces.get(), productType));
+    return tabLists_.back();
+}
+
+core::DialogResults UserInterfaceObject::messageBox(const std::string& text,
+                                                    const std::string& title,
+                                                    core::MessageBoxButtonTypes buttons,
+                                                    core::MessageBoxIconTypes icon) {
+    if (closed<"UserInterface::messageBox">(*this)) return {};
+    return showMessage({.text = text, .title = title, .buttons = buttons, .icon = icon});
+}
+
+core::Ptr<core::FileDialog> UserInterfaceObject::createFileDialog() {
+    if (closed<"UserInterface::createFileDialog">(*this)) return {};
+    return make<FileDialogObject>();
+}
+
+core::Ptr<core::ProgressDialog> UserInterfaceObject::createProgressDialog() {
+    if (closed<"UserInterface::createProgressDialog">(*this)) return {};
+    return make<ProgressDialogObject>();
+}
+
+bool UserInterfaceObject::terminateActiveCommand() {
+    if (closed<"UserInterface::terminateActiveCommand">(*this)) return {};
+    return runner_.terminate();
+}
+
+std::string UserInterfaceObject::activeCommand() const {
+    if (closed<"UserInterface::activeCommand">(*this)) return {};
+    return runner_.active() ? runner_.active()->definition()->state().id : "";
+}
+
+bool UserInterfaceObject::isRootComponent(const core::Ptr<core::Base>& entity) const {
+    return model_ != nullptr && model_->isRootComponent(entity);
+}
+
+std::uint64_t UserInterfaceObject::editsOfModel() const {
+    return model_ != nullptr ? model_->editsOfModel() : 0;
+}
+
+void UserInterfaceObject::leaveWorkspace() {
+    if (runner_.active()) {
+        runner_.end(core::CancelledTerminationReason);
+    }
+}
+
+void UserInterfaceObject::dispose() {
+    runner_.dispose();
+    for (const core::Ptr<ApplicationCommandEventObject>& each :
+         {startingEvent, createdEvent, terminatedEvent}) {
+        each->dispose();
+    }
+    for (const core::Ptr<WorkspaceEventObject>& each :
+         {preActivateEvent, activatedEvent, preDeactivateEvent, deactivatedEvent}) {
+        each->dispose();
+    }
+    menuEvent->dispose();
+    state_.definitions->dispose();
+    state_.panels->dispose();
+    disposeEntries(tabLists_);
+    state_.workspaces->dispose();
+    state_.palettes->dispose();
+    state_.selections->dispose();
+    model_ = nullptr;
+    invalidate();
+}
+
+}  // namespace host::ui
