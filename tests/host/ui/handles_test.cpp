@@ -7,7 +7,7 @@ namespace {
 
 using namespace adsk::core;
 
-/// What a module holds for longer than the host holds it.
+/// Handles that a module keeps longer than the host keeps their objects.
 class Handles : public HostTest {};
 
 TEST_F(Handles, OfAnEndedHostAreNotValidAndReturnNothing) {
@@ -63,17 +63,17 @@ TEST_F(Handles, OfOneHostAreOfNoUseInTheNext) {
 }
 
 TEST_F(Handles, ACallOnADeletedObjectIsReported) {
-    const Ptr<CommandDefinition> gone = define("Cmd", [](const Ptr<Command>&) {});
-    gone->deleteMe();
+    const Ptr<CommandDefinition> deleted = define("Cmd", [](const Ptr<Command>&) {});
+    deleted->deleteMe();
 
-    EXPECT_EQ(gone->name(), "");
+    EXPECT_EQ(deleted->name(), "");
 
     EXPECT_EQ(misuses(),
               (std::vector<Misuse>{{"CommandDefinition::name",
                                     "called on a deleted adsk::core::CommandDefinition"}}));
 }
 
-TEST_F(Handles, EventsOfAnEndedHostForgetTheirHandlersGoingEither) {
+TEST_F(Handles, EventsOfAnEndedHostAllowHandlersToBeDestroyed) {
     const Ptr<ApplicationCommandEvent> event = ui()->commandStarting();
     auto handler = std::make_unique<OnApplication>([](const auto&) {});
     event->add(handler.get());
@@ -84,7 +84,7 @@ TEST_F(Handles, EventsOfAnEndedHostForgetTheirHandlersGoingEither) {
     EXPECT_FALSE(event->sender());
 }
 
-TEST_F(Handles, OfEventsEndWithWhatFiresThem) {
+TEST_F(Handles, OfEventsEndWithTheirSender) {
     const Ptr<CommandDefinition> definition = define("Cmd", [](const Ptr<Command>& command) {
         command->commandInputs()->addBoolValueInput("box", "", true);
     });
@@ -110,7 +110,7 @@ TEST_F(Handles, OfEventsEndWithWhatFiresThem) {
               "Event::add: the adsk::core::ApplicationCommandEvent was deleted or closed");
 }
 
-TEST_F(Handles, AHandlerThatGoesIsCalledNoMore) {
+TEST_F(Handles, ADestroyedHandlerIsNotCalled) {
     define("Cmd", [](const Ptr<Command>&) {});
     {
         OnApplication handler([this](const auto&) { note("starting"); });

@@ -74,10 +74,10 @@ protected:
     /// Makes a definition whose commands are built by `build`.
     Ptr<adsk::core::CommandDefinition> define(const std::string& id, const Build& build);
 
-    /// Opens the dialog of a command built by `build`; its inputs.
+    /// Opens the dialog of a command built by `build` and returns its inputs.
     Ptr<adsk::core::CommandInputs> open(const Build& build);
 
-    /// The same, with the command's inputs at hand.
+    /// The same; `build` gets the command's inputs, and changes are noted.
     Ptr<adsk::core::CommandInputs> openWith(
         const std::function<void(const Ptr<adsk::core::CommandInputs>&)>& build);
 
@@ -88,7 +88,7 @@ protected:
     void traceLife(const Ptr<adsk::core::Command>& command);
     void traceHost();
 
-    /// What was noted, one after the other, and forgotten with it.
+    /// What was noted since the last call, separated by spaces.
     std::string noted();
 
     void note(const std::string& what) { notes_.push_back(what); }
@@ -99,7 +99,7 @@ private:
     std::optional<RunningHost> host_;  // goes first: handlers are notified of its end
 };
 
-/// The number that a termination reason stands for, as a text.
+/// The number of a termination reason, as "=1".
 std::string reasonText(adsk::core::CommandTerminationReason reason);
 
 /// What the action throws as a `MisuseError`, empty where it throws none.

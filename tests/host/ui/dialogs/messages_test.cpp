@@ -20,12 +20,12 @@ TEST_F(Messages, AreKeptWithWhatWasPressed) {
                               {"Done", "", OKButtonType, NoIconIconType, DialogOK}}));
 }
 
-TEST_F(Messages, AreAnsweredByTheFirstButtonWhereNobodyAnswers) {
+TEST_F(Messages, AreAnsweredByTheFirstButtonByDefault) {
     EXPECT_EQ(ui()->messageBox("?", "", YesNoCancelButtonType), DialogYes);
     EXPECT_EQ(ui()->messageBox("?", "", OKCancelButtonType), DialogOK);
 }
 
-TEST_F(Messages, AreAnsweredByWhoeverIsAsked) {
+TEST_F(Messages, AreAnsweredByTheCallback) {
     askForAnswers(
         [](const Message& message) { return message.text == "Stop?" ? DialogCancel : DialogOK; });
 
@@ -43,7 +43,7 @@ TEST_F(Messages, AnAnswerWithoutAButtonIsReported) {
                                     "the message \"Done\" has no button for the answer 2"}}));
 }
 
-TEST_F(Messages, DoEventsDoesWhatWasPostedAndOnlyThat) {
+TEST_F(Messages, DoEventsRunsWhatWasPostedAndOnlyThat) {
     post([this] { note("posted"); });
     post([this] { post([this] { note("later"); }); });
 
@@ -54,7 +54,7 @@ TEST_F(Messages, DoEventsDoesWhatWasPostedAndOnlyThat) {
     EXPECT_EQ(noted(), "later");
 }
 
-TEST_F(Messages, WhatIsPostedCountsAsNoCallOfTheModule) {
+TEST_F(Messages, PostedWorkCountsAsNoCallOfTheModule) {
     gate::reset();
     post([] { (void)ui(); });
 
@@ -63,7 +63,7 @@ TEST_F(Messages, WhatIsPostedCountsAsNoCallOfTheModule) {
     EXPECT_EQ(gate::counts(), (std::map<std::string, std::uint64_t>{{"adsk::doEvents", 1}}));
 }
 
-TEST_F(Messages, WhatAPostedActionThrowsDoesNotReachTheModule) {
+TEST_F(Messages, AnExceptionOfPostedWorkDoesNotReachTheModule) {
     post([] { pressOk(); });
 
     EXPECT_TRUE(enterModule("run", "", [] { adsk::doEvents(); }));

@@ -29,7 +29,7 @@ protected:
     Ptr<Document> document;
 };
 
-TEST_F(WorkspaceTest, TheFirstOneIsActiveAtFirst) {
+TEST_F(WorkspaceTest, TheFirstOneIsActiveByDefault) {
     EXPECT_EQ(ui()->activeWorkspace()->id(), "FusionSolidEnvironment");
     EXPECT_TRUE(ui()->activeWorkspace()->isActive());
     EXPECT_EQ(ui()->workspaces()->count(), 4U);
@@ -37,7 +37,7 @@ TEST_F(WorkspaceTest, TheFirstOneIsActiveAtFirst) {
     EXPECT_FALSE(ui()->workspaces()->itemById("Nowhere"));
 }
 
-TEST_F(WorkspaceTest, ActivationIsToldAtItsEndWithTheNewWorkspace) {
+TEST_F(WorkspaceTest, ActivationIsReportedAtItsEndWithTheNewWorkspace) {
     on<OnWorkspace>(ui()->workspacePreDeactivate(),
                     [this](const auto& args) { note("preDeactivate:" + args->workspace()->id()); });
     on<OnWorkspace>(ui()->workspaceActivated(), [this](const auto& args) {
@@ -86,7 +86,7 @@ TEST_F(WorkspaceTest, ForDesignsTheActiveProductIsTheDesign) {
     EXPECT_EQ(design->parentDocument(), document);
 }
 
-TEST_F(WorkspaceTest, ForManufactureTheActiveProductIsNoDesign) {
+TEST_F(WorkspaceTest, ForManufactureTheActiveProductIsNotADesign) {
     activateWorkspace("CAMEnvironment");
 
     EXPECT_TRUE(app()->activeProduct());
@@ -109,23 +109,6 @@ TEST_F(WorkspaceTest, ADocumentCanBeShownWithAnotherProduct) {
 
     EXPECT_FALSE(Ptr<adsk::fusion::Design>(app()->activeProduct()));
     EXPECT_TRUE(app()->activeProduct());
-}
-
-TEST_F(WorkspaceTest, WhatIsNotBuiltRefusesByName) {
-    ui()->activeSelections()->add(designOf(document)->rootComponent());
-    EXPECT_FALSE(ui()->activeSelections()->item(0)->point());
-
-    std::string text;
-    app()->getLastError(&text);
-    EXPECT_EQ(text, "Selection::point is not part of the stand-in host");
-}
-
-TEST_F(WorkspaceTest, TheLanguageIsEnglishUntilItIsSet) {
-    const Ptr<GeneralPreferences> preferences = app()->preferences()->generalPreferences();
-    EXPECT_EQ(preferences->userLanguage(), EnglishLanguage);
-
-    EXPECT_TRUE(preferences->userLanguage(CzechLanguage));
-    EXPECT_EQ(app()->preferences()->generalPreferences()->userLanguage(), CzechLanguage);
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ protected:
     Ptr<adsk::fusion::Component> root;
 };
 
-TEST_F(SelectionTest, APickUpdatesInputAndActiveSelectionsAndIsThenTold) {
+TEST_F(SelectionTest, APickUpdatesInputAndActiveSelectionsBeforeItIsReported) {
     open([this](const Ptr<Command>& command) {
         command->commandInputs()->addSelectionInput("pick", "", "");
         on<OnChanged>(command->inputChanged(), [this](const auto& args) {
@@ -80,7 +80,7 @@ TEST_F(SelectionTest, ABadIndexReturnsNull) {
     EXPECT_FALSE(ui()->activeSelections()->item(0));
 }
 
-TEST_F(SelectionTest, AtFirstExactlyOneEntityIsAskedFor) {
+TEST_F(SelectionTest, ExactlyOneEntityIsNeededByDefault) {
     openWith([](const Ptr<CommandInputs>& inputs) { inputs->addSelectionInput("pick", "", ""); });
     EXPECT_EQ(misuseOf(pressOk), "cannot press OK: the selection \"pick\" needs 1, and has 0");
 
@@ -93,7 +93,7 @@ TEST_F(SelectionTest, AtFirstExactlyOneEntityIsAskedFor) {
     EXPECT_EQ(misuseOf(pressOk), "");
 }
 
-TEST_F(SelectionTest, AMaximumOfZeroIsNone) {
+TEST_F(SelectionTest, AMaximumOfZeroMeansNoLimit) {
     const Ptr<SelectionCommandInput> input = openPicker({}, 1, 0);
 
     pick(part(0));
@@ -112,7 +112,7 @@ TEST_F(SelectionTest, NoMoreThanTheMaximumCanBePicked) {
     EXPECT_EQ(misuseOf([this] { pick(part(2)); }), "cannot pick for \"pick\": it takes 2 at most");
 }
 
-TEST_F(SelectionTest, APickedEntityIsTakenOutByAnotherPick) {
+TEST_F(SelectionTest, APickedEntityIsRemovedByAnotherPick) {
     const Ptr<SelectionCommandInput> input = openPicker({}, 1, 0);
     pick(part(0));
     pick(part(1));
@@ -123,7 +123,7 @@ TEST_F(SelectionTest, APickedEntityIsTakenOutByAnotherPick) {
     EXPECT_EQ(activeCount(), 1U);
 }
 
-TEST_F(SelectionTest, FiltersOrTogether) {
+TEST_F(SelectionTest, AnyOfSeveralFiltersSuffices) {
     const Ptr<SelectionCommandInput> input = openPicker({"Occurrences", "RootComponents"}, 1, 0);
 
     pick(part(0));
@@ -132,7 +132,7 @@ TEST_F(SelectionTest, FiltersOrTogether) {
     EXPECT_EQ(input->selectionCount(), 2U);
 }
 
-TEST_F(SelectionTest, OccurrencesAreNoRootComponents) {
+TEST_F(SelectionTest, OccurrencesAreNotRootComponents) {
     openPicker({"RootComponents"}, 1, 1);
 
     EXPECT_EQ(misuseOf([this] { pick(part(0)); }),
@@ -140,7 +140,7 @@ TEST_F(SelectionTest, OccurrencesAreNoRootComponents) {
     EXPECT_EQ(misuseOf([this] { pick(root); }), "");
 }
 
-TEST_F(SelectionTest, AnotherComponentIsNoRootComponent) {
+TEST_F(SelectionTest, AnotherComponentIsNotARootComponent) {
     openPicker({"RootComponents"}, 1, 1);
     const Ptr<adsk::fusion::Occurrence> occurrence = part(0);
 
@@ -155,7 +155,7 @@ TEST_F(SelectionTest, AnUnknownFilterIsRefused) {
     EXPECT_TRUE(input->addSelectionFilter("JointOrigins"));
 }
 
-TEST_F(SelectionTest, WhatWasSelectedBeforeGoesIntoTheDialogAndIsTold) {
+TEST_F(SelectionTest, WhatWasSelectedBeforeGoesIntoTheDialogAndIsReported) {
     selectInModel({part(0), part(1)});
 
     const Ptr<SelectionCommandInput> input = openPicker({"Occurrences"}, 1, 0);
@@ -190,7 +190,7 @@ TEST_F(SelectionTest, MoreThanTheLimitSelectedBeforeIsNotTakenAndStaysSelected) 
     EXPECT_EQ(noted(), "");
 }
 
-TEST_F(SelectionTest, WhatTheFiltersRefuseIsNotTaken) {
+TEST_F(SelectionTest, WhatTheFiltersExcludeIsNotTaken) {
     selectInModel({part(0), root});
 
     const Ptr<SelectionCommandInput> input = openPicker({"RootComponents"}, 1, 1);
@@ -251,7 +251,7 @@ TEST_F(SelectionTest, TheFocusOfADeletedInputGoesToTheFirst) {
     EXPECT_TRUE(Ptr<SelectionCommandInput>(inputs->itemById("first"))->hasFocus());
 }
 
-TEST_F(SelectionTest, TheFocusGoesOnWhenAnInputIsFull) {
+TEST_F(SelectionTest, TheFocusMovesOnWhenAnInputIsFull) {
     openWith([](const Ptr<CommandInputs>& inputs) {
         inputs->addSelectionInput("first", "", "");
         inputs->addSelectionInput("second", "", "");
@@ -282,7 +282,7 @@ TEST_F(SelectionTest, CodeCanSelectFromInsideInputChanged) {
     EXPECT_EQ(ui()->activeSelections()->item(1)->entity(), part(2));
 }
 
-TEST_F(SelectionTest, NothingCannotBeSelected) {
+TEST_F(SelectionTest, ANullEntityCannotBeSelected) {
     EXPECT_FALSE(ui()->activeSelections()->add(nullptr));
     EXPECT_EQ(misuseOf([] { pick(nullptr); }), "cannot pick: no such entity");
 }
@@ -295,7 +295,7 @@ TEST_F(SelectionTest, APickWithoutADialogIsAllThatIsSelected) {
     EXPECT_EQ(ui()->activeSelections()->item(0)->entity(), part(1));
 }
 
-TEST_F(SelectionTest, ThePicksOfADialogGoWithIt) {
+TEST_F(SelectionTest, ThePicksOfADialogEndWithIt) {
     openPicker({}, 1, 0);
     pick(part(0));
 
@@ -316,6 +316,15 @@ TEST_F(SelectionTest, AnExecutionThatEditsTheModelClearsTheSelections) {
 
     pressCommand("Edit");
     EXPECT_EQ(activeCount(), 0U);
+}
+
+TEST_F(SelectionTest, WhatIsNotImplementedRefusesByName) {
+    ui()->activeSelections()->add(root);
+    EXPECT_FALSE(ui()->activeSelections()->item(0)->point());
+
+    std::string text;
+    adsk::core::Application::get()->getLastError(&text);
+    EXPECT_EQ(text, "Selection::point is not part of the stand-in host");
 }
 
 }  // namespace

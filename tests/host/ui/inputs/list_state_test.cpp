@@ -37,7 +37,7 @@ protected:
     Ptr<DropDownCommandInput> one;
 };
 
-TEST_F(Lists, HaveNothingSelectedUntilSomethingIs) {
+TEST_F(Lists, HaveNothingSelectedAtFirst) {
     EXPECT_FALSE(one->selectedItem());
     EXPECT_EQ(text(one->listItems()), "Produce Buy AsPart");
 }
@@ -125,7 +125,7 @@ TEST_F(Lists, ClearEmptiesTheList) {
     EXPECT_EQ(item->name(), "");
 }
 
-TEST_F(Lists, ItemsCanBePutBeforeOthers) {
+TEST_F(Lists, ItemsCanBeAddedBeforeOthers) {
     const Ptr<ListItem> buy = one->listItems()->item(1);
     buy->isSelected(true);
 
@@ -146,7 +146,7 @@ TEST_F(Lists, TheSelectedItemOfADropDownCannotBeDeleted) {
     EXPECT_EQ(one->selectedItem()->index(), 0);
 }
 
-TEST_F(Lists, HandOutOneObjectForOneItem) {
+TEST_F(Lists, ReturnOneObjectForOneItem) {
     const Ptr<ListItem> item = one->listItems()->item(1);
 
     EXPECT_EQ(one->listItems()->item(1), item);
@@ -166,7 +166,7 @@ TEST_F(Lists, ItemsOfADeletedListAreNotValid) {
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
 }
 
-TEST_F(Lists, AChosenItemMustBeThere) {
+TEST_F(Lists, OnlyAnItemOfTheListCanBeChosen) {
     EXPECT_EQ(misuseOf([this] { chooseItem(one, "Sell"); }),
               "cannot choose \"Sell\" from \"list\": it has \"Produce\", \"Buy\", \"AsPart\"");
     EXPECT_EQ(misuseOf([this] { chooseItem(one, 3); }),

@@ -5,10 +5,10 @@ namespace {
 
 using namespace adsk::core;
 
-/// A dialog with a tab that shows, one that does not, and a group and a table in the first.
-class Visibility : public HostTest {
+/// A dialog with an active tab that holds a group and a table, and another tab.
+class Reachability : public HostTest {
 protected:
-    Visibility() {
+    Reachability() {
         all = openWith([](const Ptr<CommandInputs>& inputs) {
             const Ptr<CommandInputs> tab = inputs->addTabCommandInput("tab", "")->children();
             tab->addStringValueInput("text", "", "kept");
@@ -23,7 +23,7 @@ protected:
     Ptr<CommandInputs> all;
 };
 
-TEST_F(Visibility, IsTheInputsOwnFlagWhateverHidesItFromView) {
+TEST_F(Reachability, IsTheInputsOwnFlagWhateverHidesItFromView) {
     EXPECT_TRUE(all->itemById("far")->isVisible());
     EXPECT_TRUE(all->itemById("narrow")->isVisible());
     all->itemById("tab")->isVisible(false);
@@ -32,7 +32,7 @@ TEST_F(Visibility, IsTheInputsOwnFlagWhateverHidesItFromView) {
     EXPECT_FALSE(all->itemById("tab")->isVisible());
 }
 
-TEST_F(Visibility, HiddenAndDisabledInputsKeepTheirValues) {
+TEST_F(Reachability, HiddenAndDisabledInputsKeepTheirValues) {
     all->itemById("text")->isVisible(false);
     all->itemById("text")->isEnabled(false);
 
@@ -40,7 +40,7 @@ TEST_F(Visibility, HiddenAndDisabledInputsKeepTheirValues) {
     EXPECT_FALSE(all->itemById("text")->isEnabled());
 }
 
-TEST_F(Visibility, FullWidthCanBeSetOnTabsAndGroupsToo) {
+TEST_F(Reachability, FullWidthCanBeSetOnTabsAndGroupsToo) {
     EXPECT_FALSE(all->itemById("text")->isFullWidth());
 
     EXPECT_TRUE(all->itemById("tab")->isFullWidth(true));
@@ -50,28 +50,28 @@ TEST_F(Visibility, FullWidthCanBeSetOnTabsAndGroupsToo) {
     EXPECT_TRUE(all->itemById("text")->isFullWidth());
 }
 
-TEST_F(Visibility, AHiddenInputCannotBeUsed) {
+TEST_F(Reachability, AHiddenInputCannotBeUsed) {
     all->itemById("text")->isVisible(false);
 
     EXPECT_EQ(misuseOf([this] { typeText(all->itemById("text"), "x"); }),
               "cannot type into \"text\": it is not visible");
 }
 
-TEST_F(Visibility, ADisabledInputCannotBeUsed) {
+TEST_F(Reachability, ADisabledInputCannotBeUsed) {
     all->itemById("text")->isEnabled(false);
 
     EXPECT_EQ(misuseOf([this] { pasteText(all->itemById("text"), "x"); }),
               "cannot type into \"text\": it is not enabled");
 }
 
-TEST_F(Visibility, AReadOnlyTextCannotBeTypedInto) {
+TEST_F(Reachability, AReadOnlyTextCannotBeTypedInto) {
     Ptr<StringValueCommandInput>(all->itemById("text"))->isReadOnly(true);
 
     EXPECT_EQ(misuseOf([this] { typeText(all->itemById("text"), "x"); }),
               "cannot type into \"text\": it is read-only");
 }
 
-TEST_F(Visibility, AnInputOfAnotherTabCannotBeUsed) {
+TEST_F(Reachability, AnInputOfAnotherTabCannotBeUsed) {
     EXPECT_EQ(misuseOf([this] { typeText(all->itemById("far"), "x"); }),
               "cannot type into \"far\": its tab \"other\" is not active: activate it first");
 
@@ -81,7 +81,7 @@ TEST_F(Visibility, AnInputOfAnotherTabCannotBeUsed) {
               "cannot click \"cell\": its tab \"tab\" is not active: activate it first");
 }
 
-TEST_F(Visibility, AnInputInAFoldedGroupCannotBeUsedUntilItIsUnfolded) {
+TEST_F(Reachability, AnInputInACollapsedGroupCannotBeUsedUntilItIsExpanded) {
     const Ptr<GroupCommandInput> group = all->itemById("group");
     group->isExpanded(false);
     EXPECT_EQ(misuseOf([this] { click(all->itemById("in")); }),
@@ -93,19 +93,19 @@ TEST_F(Visibility, AnInputInAFoldedGroupCannotBeUsedUntilItIsUnfolded) {
     EXPECT_EQ(misuseOf([this] { click(all->itemById("in")); }), "");
 }
 
-TEST_F(Visibility, ACellInAColumnWithoutAWidthCannotBeUsed) {
+TEST_F(Reachability, ACellInAColumnWithoutAWidthCannotBeUsed) {
     EXPECT_EQ(misuseOf([this] { click(all->itemById("narrow")); }),
               "cannot click \"narrow\": its column 1 of the table \"table\" has no width");
 }
 
-TEST_F(Visibility, ACellOfAHiddenTableCannotBeUsed) {
+TEST_F(Reachability, ACellOfAHiddenTableCannotBeUsed) {
     all->itemById("table")->isVisible(false);
 
     EXPECT_EQ(misuseOf([this] { click(all->itemById("cell")); }),
               "cannot click \"cell\": \"table\" is not visible");
 }
 
-TEST_F(Visibility, AnInputThatIsGoneCannotBeUsed) {
+TEST_F(Reachability, ADeletedInputCannotBeUsed) {
     const Ptr<CommandInput> text = all->itemById("text");
     text->deleteMe();
 
@@ -114,14 +114,14 @@ TEST_F(Visibility, AnInputThatIsGoneCannotBeUsed) {
     EXPECT_EQ(misuseOf([&] { click(nullptr); }), "cannot click: no such input");
 }
 
-TEST_F(Visibility, OnlyTextsCanBeTypedIntoAndOnlyListsChosenFrom) {
+TEST_F(Reachability, OnlyTextInputsCanBeTypedIntoAndOnlyListsChosenFrom) {
     EXPECT_EQ(misuseOf([this] { typeText(all->itemById("in"), "x"); }),
               "cannot type into \"in\": it holds no text");
     EXPECT_EQ(misuseOf([this] { chooseItem(all->itemById("text"), 0); }),
               "cannot choose from \"text\": it has no items");
 }
 
-TEST_F(Visibility, AHiddenTabCannotBeShown) {
+TEST_F(Reachability, AHiddenTabCannotBeShown) {
     all->itemById("other")->isVisible(false);
 
     EXPECT_EQ(misuseOf([this] { activateTab(all->itemById("other")); }),

@@ -25,7 +25,7 @@ TEST_F(Definitions, KeepWhatTheyWereMadeWith) {
     EXPECT_EQ(all()->itemById("My_Command1"), made);
 }
 
-TEST_F(Definitions, AnIdInUseReturnsNullAndALastError) {
+TEST_F(Definitions, AnIdInUseReturnsNullAndSetsTheLastError) {
     add("Command");
 
     EXPECT_FALSE(add("Command"));
@@ -42,7 +42,7 @@ TEST_F(Definitions, AnIdHoldsLettersDigitsAndUnderscoresOnly) {
     EXPECT_TRUE(add("_9aZ"));
 }
 
-TEST_F(Definitions, ADeletedOneIsFoundNoMoreAndItsIdIsFreeAgain) {
+TEST_F(Definitions, ADeletedOneIsNotFoundAndItsIdIsFreeAgain) {
     const Ptr<CommandDefinition> made = add("Command");
 
     EXPECT_TRUE(made->deleteMe());
@@ -87,7 +87,7 @@ TEST_F(Definitions, AHandlerAddedTwiceIsCalledOnce) {
     EXPECT_EQ(noted(), "created");
 }
 
-TEST_F(Definitions, APressNeedsOneThatIsThere) {
+TEST_F(Definitions, OnlyAnExistingOneCanBePressed) {
     add("There");
 
     EXPECT_EQ(misuseOf([] { pressCommand("Gone"); }),

@@ -62,7 +62,7 @@ TEST_F(PaletteTest, FloatsOnceItIsMoved) {
     EXPECT_EQ(made->top(), 500);
 }
 
-TEST_F(PaletteTest, DockedToASideItKeepsItsHeightAndSaysTrue) {
+TEST_F(PaletteTest, DockedToASideItKeepsItsHeightAndReturnsTrue) {
     const Ptr<Palette> made = add("palette");
     made->dockingState(PaletteDockStateRight);
 
@@ -94,7 +94,7 @@ TEST_F(PaletteTest, TheCloseButtonOnlyHidesIt) {
               "cannot close the palette palette: it is not visible");
 }
 
-TEST_F(PaletteTest, ADeletedOneIsGone) {
+TEST_F(PaletteTest, ADeletedOneIsNotFound) {
     const Ptr<Palette> made = add("palette");
 
     EXPECT_TRUE(made->deleteMe());

@@ -30,7 +30,7 @@ TEST_F(TextBox, ShowsFormattedTextWithoutItsTags) {
     EXPECT_TRUE(box->isReadOnly());
 }
 
-TEST_F(TextBox, GivesBackATextWithoutMarkupUnchanged) {
+TEST_F(TextBox, ReturnsATextWithoutMarkupUnchanged) {
     const Ptr<TextBoxCommandInput> box = add("https://support.example/");
 
     EXPECT_EQ(box->text(), "https://support.example/");
@@ -52,28 +52,6 @@ TEST_F(TextBox, TakesFormattedTextAgain) {
     box->formattedText("a<br/>b");
 
     EXPECT_EQ(box->text(), "a\nb");
-}
-
-TEST(Markup, EntitiesBecomeTheirCharacters) {
-    EXPECT_EQ(ui::plainText("a &amp; b &lt;c&gt; &quot;d&quot; &#233; &#x20AC;"),
-              "a & b <c> \"d\" \xC3\xA9 \xE2\x82\xAC");
-}
-
-TEST(Markup, AnAmpersandThatBeginsNoKnownEntityStays) {
-    EXPECT_EQ(ui::plainText("a?x=1&y=2&copy;&;&#0;& b&"), "a?x=1&y=2&copy;&;&#0;& b&");
-}
-
-TEST(Markup, ALessThanThatBeginsNoTagStays) {
-    EXPECT_EQ(ui::plainText("1 < 2, <3>, a<b"), "1 < 2, <3>, a<b");
-}
-
-TEST(Markup, ATagEndsBehindItsQuotedValues) {
-    EXPECT_EQ(ui::plainText("<a title='x > y'>link</a><!-- <b> -->!"), "link!");
-}
-
-TEST(Markup, LiteralTextStaysItselfWhereItReadsBackEqual) {
-    EXPECT_EQ(ui::literalMarkup("a & b < c"), "a & b < c");
-    EXPECT_EQ(ui::literalMarkup("<b>"), "&lt;b&gt;");
 }
 
 }  // namespace

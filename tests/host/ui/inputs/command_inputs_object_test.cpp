@@ -129,7 +129,7 @@ TEST_F(Inputs, OfSeveralWithOneIdTheFirstOwnOneIsFoundBeforeThoseInside) {
     EXPECT_EQ(all->itemById("same")->name(), "In tab");
 }
 
-TEST_F(Inputs, ADeletedOneIsGoneFromItsCollectionAndItsTable) {
+TEST_F(Inputs, ADeletedOneLeavesItsCollectionAndItsTable) {
     const Ptr<TableCommandInput> table = all->itemById("table");
     const Ptr<CommandInput> cell = all->itemById("cell");
 
@@ -142,7 +142,7 @@ TEST_F(Inputs, ADeletedOneIsGoneFromItsCollectionAndItsTable) {
     EXPECT_EQ(childrenOf("tab")->item(3)->id(), "tool");
 }
 
-TEST_F(Inputs, ADeletedTabTakesItsChildrenAlong) {
+TEST_F(Inputs, ADeletedTabDeletesItsChildren) {
     const Ptr<CommandInput> deep = all->itemById("deep");
     const Ptr<CommandInputs> children = childrenOf("tab");
 
@@ -154,7 +154,7 @@ TEST_F(Inputs, ADeletedTabTakesItsChildrenAlong) {
     EXPECT_TRUE(all->addTabCommandInput("tab", "Anew"));
 }
 
-TEST_F(Inputs, AnotherTabShowsWhereTheOneThatShowedIsDeleted) {
+TEST_F(Inputs, AnotherTabShowsWhenTheActiveOneIsDeleted) {
     const Ptr<TabCommandInput> other = all->itemById("other");
     const Ptr<TabCommandInput> tab = all->itemById("tab");
     other->activate();

@@ -11,7 +11,7 @@ namespace {
 
 using namespace adsk::core;
 
-/// Dialogs of a hundred thousand rows: what grows with the square of them does not end here.
+/// Dialogs of a hundred thousand rows: an operation of quadratic cost would not end.
 class Scale : public HostTest {
 protected:
     static constexpr int kRows = 100000;

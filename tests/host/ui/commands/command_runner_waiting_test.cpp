@@ -10,7 +10,7 @@ namespace {
 
 using namespace adsk::core;
 
-/// A command without a dialog that lets the host deliver events in the midst of its execution.
+/// A command without a dialog that lets the host deliver events during its execution.
 class Waiting : public HostTest {
 protected:
     Waiting() {
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_F(Waiting, APersonCanStartACommandMeanwhile) {
+TEST_F(Waiting, TheUserCanStartACommandMeanwhile) {
     define("Quick", [this](const Ptr<Command>& command) {
         on<OnCommand>(command->execute(), [this](const auto&) { note("quick"); });
     });
@@ -83,7 +83,7 @@ TEST_F(Waiting, TheSameCommandCanBeStartedAgainMeanwhile) {
     EXPECT_EQ(noted(), "waits waits waits goes_on goes_on goes_on");
 }
 
-TEST_F(Waiting, WhatAPersonCannotDoMeanwhileIsReported) {
+TEST_F(Waiting, WhatTheUserCannotDoMeanwhileIsReported) {
     post(pressOk);
 
     pressCommand("Wait");
@@ -111,7 +111,7 @@ TEST_F(Waiting, InsideAnotherEventNothingElseCanStart) {
                                                "answered"}}));
 }
 
-TEST_F(Waiting, WhatTheClockHasPlannedHappensMeanwhile) {
+TEST_F(Waiting, WhatTheClockHasScheduledHappensMeanwhile) {
     clock::schedule(0, [this] { note("due"); });
 
     pressCommand("Wait");

@@ -7,7 +7,7 @@ using namespace adsk::core;
 
 class CommandLife : public HostTest {
 protected:
-    /// A command with one check box, whose life is noted.
+    /// A command with one check box, whose events are noted.
     void defineDialog(const std::string& id) {
         define(id, [this](const Ptr<Command>& command) {
             note("commandCreated");
@@ -16,9 +16,26 @@ protected:
         });
     }
 
-    /// A command without inputs, whose life is noted.
+    /// A command without inputs, whose events are noted.
     Ptr<CommandDefinition> defineButton(const std::string& id) {
         return define(id, [this](const Ptr<Command>& command) { traceLife(command); });
+    }
+
+    /// What is noted when another command is started over the dialog that `build` makes.
+    std::string notedWhenPreEmpted(const Build& build) {
+        define("Dialog", build);
+        define("Button", [](const Ptr<Command>&) {});
+        pressCommand("Dialog");
+        noted();
+        pressCommand("Button");
+        return noted();
+    }
+
+    /// Gives the host a history of the model, whose use is noted.
+    void traceHistory() {
+        ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
+        history.mark = [this] { note("mark"); };
+        history.takeBack = [this] { note("back"); };
     }
 };
 
@@ -101,7 +118,7 @@ TEST_F(CommandLife, WithoutInputsButWithAButtonTextShowsAnEmptyDialogAndWaits) {
     EXPECT_TRUE(openDialog());
 }
 
-TEST_F(CommandLife, WhoseCreatedHandlerThrownAndThatHasNoInputsIsAborted) {
+TEST_F(CommandLife, WithoutInputsIsAbortedWhenItsCreatedHandlerThrows) {
     traceHost();
     define("Broken", [this](const Ptr<Command>& command) {
         traceLife(command);
@@ -118,7 +135,7 @@ TEST_F(CommandLife, WhoseCreatedHandlerThrownAndThatHasNoInputsIsAborted) {
                                                                      .text = "cannot"}}));
 }
 
-TEST_F(CommandLife, WhoseCreatedHandlerThrownBehindItsInputsShowsThem) {
+TEST_F(CommandLife, ShowsTheInputsAddedBeforeItsCreatedHandlerThrows) {
     define("Broken", [](const Ptr<Command>& command) {
         command->commandInputs()->addBoolValueInput("box", "Box", true);
         throw std::exception();
@@ -129,7 +146,7 @@ TEST_F(CommandLife, WhoseCreatedHandlerThrownBehindItsInputsShowsThem) {
     EXPECT_EQ(openDialog()->commandInputs()->count(), 1U);
 }
 
-TEST_F(CommandLife, ARaiseInExecuteEndsWithCompleted) {
+TEST_F(CommandLife, AnExceptionInExecuteEndsWithCompleted) {
     traceHost();
     define("Button", [this](const Ptr<Command>& command) {
         on<OnCommand>(command->execute(), [](const auto&) { throw std::exception(); });
@@ -178,33 +195,21 @@ TEST_F(CommandLife, AnotherCommandExecutesAValidDialogAndEndsItPreEmpted) {
               "created execute deactivate destroy=1 terminated:Button=1");
 }
 
-TEST_F(CommandLife, APreEmptedCommandThatDoesNotWantToIsNotExecuted) {
-    define("Dialog", [this](const Ptr<Command>& command) {
-        command->isExecutedWhenPreEmpted(false);
-        command->commandInputs()->addBoolValueInput("box", "Box", true);
-        traceLife(command);
-    });
-    define("Button", [](const Ptr<Command>&) {});
-    pressCommand("Dialog");
-    noted();
-
-    pressCommand("Button");
-
-    EXPECT_EQ(noted(), "deactivate destroy=4");
+TEST_F(CommandLife, APreEmptedCommandThatOptsOutIsNotExecuted) {
+    EXPECT_EQ(notedWhenPreEmpted([this](const Ptr<Command>& command) {
+                  command->isExecutedWhenPreEmpted(false);
+                  command->commandInputs()->addBoolValueInput("box", "Box", true);
+                  traceLife(command);
+              }),
+              "deactivate destroy=4");
 }
 
 TEST_F(CommandLife, APreEmptedCommandWithInvalidInputsIsNotExecuted) {
-    define("Dialog", [this](const Ptr<Command>& command) {
-        command->commandInputs()->addSelectionInput("pick", "Pick", "Pick one");
-        traceLife(command);
-    });
-    define("Button", [](const Ptr<Command>&) {});
-    pressCommand("Dialog");
-    noted();
-
-    pressCommand("Button");
-
-    EXPECT_EQ(noted(), "deactivate destroy=4");
+    EXPECT_EQ(notedWhenPreEmpted([this](const Ptr<Command>& command) {
+                  command->commandInputs()->addSelectionInput("pick", "Pick", "Pick one");
+                  traceLife(command);
+              }),
+              "deactivate destroy=4");
 }
 
 TEST_F(CommandLife, AnExecuteFromTerminatedStartsANewCommandAfterAllNotifications) {
@@ -238,7 +243,7 @@ TEST_F(CommandLife, ACommandThatKeepsRestartingItselfIsStoppedAfterTenStarts) {
     EXPECT_EQ(ui()->activeCommand(), "");
 }
 
-TEST_F(CommandLife, RestartsBetweenActionsOfAPersonGoOnWithoutEnd) {
+TEST_F(CommandLife, RestartsBetweenUserActionsAreNotLimited) {
     traceHost();
     defineDialog("Dialog");
     on<OnApplication>(ui()->commandTerminated(),
@@ -300,7 +305,7 @@ TEST_F(CommandLife, TerminateActiveCommandElsewhereCancelsTheDialog) {
     EXPECT_EQ(noted(), "deactivate destroy=2");
 }
 
-TEST_F(CommandLife, AnExecuteAskedForByAModuleStartsWhenThePersonIsBack) {
+TEST_F(CommandLife, AnExecuteRequestedByAModuleStartsAtTheNextDrain) {
     const Ptr<CommandDefinition> button = defineButton("Button");
 
     enterModule("run", "", [&] { button->execute(); });
@@ -310,7 +315,7 @@ TEST_F(CommandLife, AnExecuteAskedForByAModuleStartsWhenThePersonIsBack) {
     EXPECT_EQ(noted(), "execute deactivate destroy=1");
 }
 
-TEST_F(CommandLife, ADefinitionDeletedInTheMeantimeIsNotStarted) {
+TEST_F(CommandLife, ADefinitionDeletedMeanwhileIsNotStarted) {
     const Ptr<CommandDefinition> button = defineButton("Button");
 
     enterModule("run", "", [&] {
@@ -351,21 +356,19 @@ TEST_F(CommandLife, DoExecuteCanLeaveTheDialogOpen) {
     EXPECT_TRUE(openDialog());
 }
 
-TEST_F(CommandLife, APreviewWithoutAWayBackIsRefusedByName) {
+TEST_F(CommandLife, APreviewThatCannotBeUndoneIsReported) {
     open([this](const Ptr<Command>& command) {
         command->commandInputs()->addBoolValueInput("box", "Box", true);
         on<OnCommand>(command->executePreview(), [this](const auto&) { note("preview"); });
     });
 
     EXPECT_EQ(noted(), "");
-    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"Command::executePreview",
-                                               "this host cannot undo previews"}}));
+    EXPECT_EQ(misuses(),
+              (std::vector<Misuse>{{"Command::executePreview", "this host cannot undo previews"}}));
 }
 
 TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {
-    ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
-    history.mark = [this] { note("mark"); };
-    history.takeBack = [this] { note("back"); };
+    traceHistory();
     open([this](const Ptr<Command>& command) {
         command->commandInputs()->addBoolValueInput("box", "Box", true);
         on<OnCommand>(command->executePreview(), [this](const auto&) { note("preview"); });
@@ -380,10 +383,8 @@ TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {
     EXPECT_EQ(noted(), "back mark execute");
 }
 
-TEST_F(CommandLife, APreviewThatIsAValidResultStandsForTheExecution) {
-    ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
-    history.mark = [this] { note("mark"); };
-    history.takeBack = [this] { note("back"); };
+TEST_F(CommandLife, APreviewThatIsAValidResultReplacesTheExecution) {
+    traceHistory();
     open([this](const Ptr<Command>& command) {
         command->commandInputs()->addBoolValueInput("box", "Box", true);
         on<OnCommand>(command->executePreview(),
@@ -398,9 +399,7 @@ TEST_F(CommandLife, APreviewThatIsAValidResultStandsForTheExecution) {
 }
 
 TEST_F(CommandLife, AFailedExecutionIsTakenBack) {
-    ui::ModelHistory& history = host::ApplicationObject::current()->ui().history;
-    history.mark = [this] { note("mark"); };
-    history.takeBack = [this] { note("back"); };
+    traceHistory();
     define("Button", [this](const Ptr<Command>& command) {
         on<OnCommand>(command->execute(), [](const auto& args) { args->executeFailed(true); });
     });
@@ -410,19 +409,19 @@ TEST_F(CommandLife, AFailedExecutionIsTakenBack) {
     EXPECT_EQ(noted(), "mark back");
 }
 
-/// A host that tells of its own command for selecting, too.
+/// A host that also announces its own command for selecting.
 class IdleCommand : public HostTest {
 protected:
-    IdleCommand() : HostTest(telling()) { traceHost(); }
+    IdleCommand() : HostTest(setup()) { traceHost(); }
 
-    static HostSetup telling() {
+    static HostSetup setup() {
         HostSetup setup;
         setup.selectCommand = true;
         return setup;
     }
 };
 
-TEST_F(IdleCommand, StartsBehindEachCommand) {
+TEST_F(IdleCommand, StartsAfterEachCommand) {
     define("Button", [](const Ptr<Command>&) {});
 
     pressCommand("Button");
@@ -445,20 +444,21 @@ TEST_F(IdleCommand, WaitsForTheEndOfADialog) {
     EXPECT_EQ(noted(), "terminated:Dialog=2 starting:SelectCommand");
 }
 
-TEST_F(IdleCommand, StartsOnceWhileNothingElseDoes) {
+TEST_F(IdleCommand, StartsOnceUntilAnotherCommandRuns) {
     drainRequests();
     drainRequests();
 
     EXPECT_EQ(noted(), "starting:SelectCommand");
 }
 
-TEST_F(IdleCommand, MakesRoomForWhatItsHandlersStart) {
+TEST_F(IdleCommand, GivesWayToTheCommandsThatItsHandlersStart) {
     const Ptr<CommandDefinition> button = define("Button", [](const Ptr<Command>&) {});
-    on<OnApplication>(ui()->commandStarting(), [&, asked = false](const auto& arguments) mutable {
-        if (arguments->commandId() == "SelectCommand" && !std::exchange(asked, true)) {
-            button->execute();
-        }
-    });
+    on<OnApplication>(
+        ui()->commandStarting(), [&, requested = false](const auto& arguments) mutable {
+            if (arguments->commandId() == "SelectCommand" && !std::exchange(requested, true)) {
+                button->execute();
+            }
+        });
 
     drainRequests();
 

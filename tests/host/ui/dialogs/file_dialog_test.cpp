@@ -13,7 +13,7 @@ protected:
     Ptr<FileDialog> dialog = ui()->createFileDialog();
 };
 
-TEST_F(FileDialogs, KeepsWhatItWasToldToShow) {
+TEST_F(FileDialogs, KeepsItsSettings) {
     dialog->title("Open");
     dialog->filter("Text (*.txt)");
     dialog->filterIndex(2);
@@ -25,13 +25,13 @@ TEST_F(FileDialogs, KeepsWhatItWasToldToShow) {
     EXPECT_TRUE(dialog->isMultiSelectEnabled());
 }
 
-TEST_F(FileDialogs, IsClosedWithoutAFileWhereNobodyAnswers) {
+TEST_F(FileDialogs, IsClosedWithoutAFileWhenUnanswered) {
     EXPECT_EQ(dialog->showOpen(), DialogCancel);
     EXPECT_EQ(dialog->filenames(), Files());
     EXPECT_EQ(dialog->filename(), "");
 }
 
-TEST_F(FileDialogs, GivesTheFilesThatAPersonPicks) {
+TEST_F(FileDialogs, ReturnsTheFilesThatTheUserPicks) {
     dialog->isMultiSelectEnabled(true);
     answerNextFileDialog(Files{"/a", "/b"});
 
@@ -40,7 +40,7 @@ TEST_F(FileDialogs, GivesTheFilesThatAPersonPicks) {
     EXPECT_EQ(dialog->filename(), "/a");
 }
 
-TEST_F(FileDialogs, AreAnsweredInTheirOrderAndThenByWhoeverIsAsked) {
+TEST_F(FileDialogs, AreAnsweredInOrderAndThenByTheCallback) {
     answerNextFileDialog(Files{"/first"});
     answerNextFileDialog(std::nullopt);
     askForFiles([](const FileDialogShown& shown) { return Files{"/" + shown.title}; });

@@ -46,7 +46,7 @@ protected:
     }
 };
 
-TEST_F(Toolbars, APanelAddedToAWorkspaceStandsInItsToolsTab) {
+TEST_F(Toolbars, APanelAddedToAWorkspaceIsInItsToolsTab) {
     const Ptr<ToolbarPanel> added = panels("CAMEnvironment")->add("Mine", "My Panel");
 
     const Ptr<ToolbarTabs> tabs = ui()->workspaces()->itemById("CAMEnvironment")->toolbarTabs();
@@ -73,7 +73,7 @@ TEST_F(Toolbars, AllPanelsAreFoundInOneList) {
     EXPECT_EQ(ui()->allToolbarPanels()->count(), 3U);
 }
 
-TEST_F(Toolbars, PanelsCanStandBeforeAndBehindOthers) {
+TEST_F(Toolbars, PanelsCanBeAddedBeforeAndAfterOthers) {
     panels()->add("Middle", "");
 
     panels()->add("Before", "", "Middle", true);
@@ -120,7 +120,7 @@ TEST_F(Toolbars, AnUnknownPositionAppends) {
     EXPECT_EQ(text(panel), "C A B");
 }
 
-TEST_F(Toolbars, NoDefinitionReturnsNoControl) {
+TEST_F(Toolbars, ANullDefinitionReturnsNoControl) {
     const Ptr<ToolbarPanel> panel = panels()->add("Mine", "");
 
     EXPECT_FALSE(panel->controls()->addCommand(nullptr));
@@ -141,7 +141,7 @@ TEST_F(Toolbars, AControlOutlivesItsDefinition) {
     EXPECT_EQ(panel->controls()->count(), 0U);
 }
 
-TEST_F(Toolbars, ADeletedPanelTakesItsControlsAlong) {
+TEST_F(Toolbars, ADeletedPanelDeletesItsControls) {
     const Ptr<ToolbarPanel> panel = panels()->add("Mine", "");
     const Ptr<CommandControl> control = panel->controls()->addCommand(command("Cmd"));
 

@@ -50,7 +50,7 @@ TEST_F(ProgressDialogs, ShowWhetherTheyAreTranslucent) {
     EXPECT_EQ(progressDialog(), (Progress{"", 0, "", false, true}));
 }
 
-TEST_F(ProgressDialogs, AreCancelledByAPerson) {
+TEST_F(ProgressDialogs, AreCancelledByTheUser) {
     dialog->isCancelButtonShown(true);
     dialog->cancelButtonText("Stop");
 
@@ -60,13 +60,13 @@ TEST_F(ProgressDialogs, AreCancelledByAPerson) {
     EXPECT_EQ(progressDialog(), (Progress{"", 0, "Stop", true}));
 }
 
-TEST_F(ProgressDialogs, WithoutAButtonCannotBeCancelledByAPerson) {
+TEST_F(ProgressDialogs, WithoutAButtonCannotBeCancelledByTheUser) {
     EXPECT_EQ(misuseOf(cancelProgress), "what is in progress has no button to cancel it");
     dialog->hide();
     EXPECT_EQ(misuseOf(cancelProgress), "nothing is in progress that could be cancelled");
 }
 
-TEST_F(ProgressDialogs, TheNewestThatIsNotHiddenIsTheOneThatIsSeen) {
+TEST_F(ProgressDialogs, TheNewestVisibleOneIsSeen) {
     const Ptr<ProgressDialog> newer = ui()->createProgressDialog();
     newer->message("newer");
     EXPECT_EQ(progressDialog()->text, "newer");
@@ -77,7 +77,7 @@ TEST_F(ProgressDialogs, TheNewestThatIsNotHiddenIsTheOneThatIsSeen) {
     EXPECT_EQ(progressDialog()->text, "older");
 }
 
-TEST_F(ProgressDialogs, GoWithTheLastHandleOnThem) {
+TEST_F(ProgressDialogs, EndWithTheirLastHandle) {
     dialog = nullptr;
 
     EXPECT_EQ(progressDialog(), std::nullopt);

@@ -54,7 +54,7 @@ protected:
     Ptr<TableCommandInput> table;
 };
 
-TEST_F(Table, GrowsToWhereAnInputIsPut) {
+TEST_F(Table, GrowsToThePlaceOfAnInput) {
     EXPECT_EQ(table->rowCount(), 0);
 
     EXPECT_TRUE(place("a", 0, 0));
@@ -100,7 +100,7 @@ TEST_F(Table, ReadsBackItsRatioAndLimits) {
     EXPECT_EQ(table->maximumVisibleRows(), 1000);
 }
 
-TEST_F(Table, ShowsTheColumnsOfAWidthFromZeroToItsNumberOfColumns) {
+TEST_F(Table, ShowsTheColumnsWithAWidthFromZeroToItsNumberOfColumns) {
     table->columnRatio("2:0:8");
     EXPECT_EQ(shownColumns(table), (std::vector<int>{0, 2, 3}));
 
@@ -108,7 +108,7 @@ TEST_F(Table, ShowsTheColumnsOfAWidthFromZeroToItsNumberOfColumns) {
     EXPECT_EQ(shownColumns(table), (std::vector<int>{1, 3}));
 }
 
-TEST_F(Table, ShowsARowWithAVisibleCellInAColumnOfAWidth) {
+TEST_F(Table, ShowsARowWithAVisibleCellInAShownColumn) {
     fill();
     table->columnRatio("1:0:1:1");
 
@@ -119,7 +119,7 @@ TEST_F(Table, ShowsARowWithAVisibleCellInAColumnOfAWidth) {
     EXPECT_EQ(shownRows(table), (std::vector<int>{0, 1, 2}));
 }
 
-TEST_F(Table, ACellBehindTheLastColumnShowsNoRow) {
+TEST_F(Table, ACellAfterTheLastColumnShowsNoRow) {
     fill();
     place("slot", 0, 4);
     table->getInputAtPosition(0, 0)->isVisible(false);
@@ -128,7 +128,7 @@ TEST_F(Table, ACellBehindTheLastColumnShowsNoRow) {
     EXPECT_EQ(shownRows(table), (std::vector<int>{1, 2}));
 }
 
-TEST_F(Table, AnInputThatIsPutElsewhereMoves) {
+TEST_F(Table, AnInputThatIsAddedAtAnotherPlaceMoves) {
     fill();
 
     place("a0", 0, 3);
@@ -136,7 +136,7 @@ TEST_F(Table, AnInputThatIsPutElsewhereMoves) {
     EXPECT_EQ(text(4), "- a1 - a0|b0 b1 - -|c0 c1 - -");
 }
 
-TEST_F(Table, ARowThatLosesItsLastCellIsClosedUp) {
+TEST_F(Table, ARowThatLosesItsLastCellIsRemoved) {
     fill();
 
     place("a0", 3, 0);
@@ -146,7 +146,7 @@ TEST_F(Table, ARowThatLosesItsLastCellIsClosedUp) {
     EXPECT_EQ(text(), "b0 b1|c0 c1|a0 a1");
 }
 
-TEST_F(Table, ALastRowCanBeMovedBehindItself) {
+TEST_F(Table, ALastRowCanBeMovedAfterItself) {
     fill();
 
     place("c0", 3, 0);
@@ -155,7 +155,7 @@ TEST_F(Table, ALastRowCanBeMovedBehindItself) {
     EXPECT_EQ(text(), "a0 a1|b0 b1|c0 c1");
 }
 
-TEST_F(Table, WhatStandsBehindTheLastColumnLeavesTheTableWithItsRow) {
+TEST_F(Table, CellsAfterTheLastColumnLeaveTheTableWithTheirRow) {
     fill();
     place("slot", 0, 4);
 
@@ -168,14 +168,14 @@ TEST_F(Table, WhatStandsBehindTheLastColumnLeavesTheTableWithItsRow) {
     EXPECT_EQ(slot->parentCommandInput()->id(), "tab");
 }
 
-TEST_F(Table, ACellBehindTheLastColumnMakesNoRow) {
+TEST_F(Table, ACellAfterTheLastColumnMakesNoRow) {
     place("slot", 0, 4);
 
     EXPECT_EQ(table->rowCount(), 0);
     EXPECT_TRUE(table->getInputAtPosition(0, 4));
 }
 
-TEST_F(Table, WhatStoodAtAPlaceLeavesTheTable) {
+TEST_F(Table, AReplacedCellLeavesTheTable) {
     fill();
 
     place("new", 0, 0);
@@ -184,7 +184,7 @@ TEST_F(Table, WhatStoodAtAPlaceLeavesTheTable) {
     EXPECT_TRUE(table->commandInputs()->itemById("a0"));
 }
 
-TEST_F(Table, AnInputPutWhereItStandsStays) {
+TEST_F(Table, AnInputAddedAtItsOwnPlaceStays) {
     fill();
 
     EXPECT_TRUE(place("b0", 1, 0));
@@ -192,7 +192,7 @@ TEST_F(Table, AnInputPutWhereItStandsStays) {
     EXPECT_EQ(text(), "a0 a1|b0 b1|c0 c1");
 }
 
-TEST_F(Table, TellsWhereAnInputStands) {
+TEST_F(Table, ReturnsThePositionOfAnInput) {
     fill();
     table->addCommandInput(make("wide"), 2, 2, 0, 1);
     int row = -1;
@@ -229,7 +229,7 @@ TEST_F(Table, DeletingARowDeletesItsInputsAndMovesUpTheRest) {
     EXPECT_FALSE(table->commandInputs()->itemById("b1"));
 }
 
-TEST_F(Table, DeletingARowBehindTheLastDeletesTheLast) {
+TEST_F(Table, DeletingARowAfterTheLastDeletesTheLast) {
     fill();
 
     EXPECT_TRUE(table->deleteRow(99));
@@ -269,7 +269,7 @@ TEST_F(Table, AClickOnACellSelectsItsRow) {
     EXPECT_EQ(table->selectedRow(), 1);
 }
 
-TEST_F(Table, TheSelectionGoesWithItsRow) {
+TEST_F(Table, TheSelectionEndsWithItsRow) {
     fill();
     table->selectedRow(2);
 
@@ -280,7 +280,7 @@ TEST_F(Table, TheSelectionGoesWithItsRow) {
     EXPECT_EQ(table->selectedRow(), -1);
 }
 
-TEST_F(Table, ARowThatIsNotThereCannotBeSelected) {
+TEST_F(Table, ARowThatDoesNotExistCannotBeSelected) {
     fill();
 
     EXPECT_FALSE(table->selectedRow(3));
@@ -289,7 +289,7 @@ TEST_F(Table, ARowThatIsNotThereCannotBeSelected) {
     EXPECT_TRUE(table->selectedRow(-1));
 }
 
-TEST_F(Table, ToolbarInputsStandBelowItInOrder) {
+TEST_F(Table, ToolbarInputsAreBelowItInOrder) {
     table->addToolbarCommandInput(make("first"));
     table->addToolbarCommandInput(make("second"));
 
@@ -299,7 +299,7 @@ TEST_F(Table, ToolbarInputsStandBelowItInOrder) {
     EXPECT_EQ(table->rowCount(), 0);
 }
 
-TEST_F(Table, AToolbarInputThatIsPutIntoACellLeavesTheToolbar) {
+TEST_F(Table, AToolbarInputThatIsAddedAsACellLeavesTheToolbar) {
     table->addToolbarCommandInput(make("tool"));
 
     place("tool", 0, 0);
@@ -321,7 +321,7 @@ TEST_F(Table, TakesNoSelectionsButtonRowsTabsGroupsOrTables) {
                       .text = "an input like \"pick\" cannot be in a table"}));
 }
 
-TEST_F(Table, TakesNoCellOverSeveralRowsAndNoPlaceThatIsNone) {
+TEST_F(Table, TakesNoCellOverSeveralRowsAndNoInvalidPlace) {
     EXPECT_FALSE(table->addCommandInput(make("tall"), 0, 0, 1, 0));
     EXPECT_FALSE(place("left", 0, -1));
     EXPECT_FALSE(place("above", -1, 0));

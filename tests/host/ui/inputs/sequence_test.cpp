@@ -16,7 +16,7 @@ struct Entry {
     std::size_t slot = 0;
 };
 
-/// A sequence beside the plain list that it has to equal.
+/// A sequence and the plain list that it has to equal.
 class SequenceTest : public testing::Test {
 protected:
     void append() {
@@ -64,7 +64,7 @@ protected:
 
 TEST_F(SequenceTest, EqualsAPlainListWhileItGrows) { EXPECT_TRUE(agreesFor(1, 2000, 3)); }
 
-TEST_F(SequenceTest, EqualsAPlainListWhileItStays) { EXPECT_TRUE(agreesFor(2, 4000, 5)); }
+TEST_F(SequenceTest, EqualsAPlainListAtAConstantSize) { EXPECT_TRUE(agreesFor(2, 4000, 5)); }
 
 TEST_F(SequenceTest, EqualsAPlainListWhileItShrinksAgain) {
     EXPECT_TRUE(agreesFor(3, 600, 0));

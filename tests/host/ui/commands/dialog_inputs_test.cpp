@@ -5,7 +5,7 @@ namespace {
 
 using namespace adsk::core;
 
-/// A dialog with everything that a person can change, and a tab of each kind of place.
+/// A dialog with everything that the user can change, in each kind of place.
 class InputChanged : public HostTest {
 protected:
     explicit InputChanged(const HostSetup& setup = {}) : HostTest(setup) {}
@@ -32,7 +32,7 @@ protected:
         items->add("two", false);
     }
 
-    /// Runs `react` in each notification of the dialog that is opened with it.
+    /// Opens a dialog whose handler of the input "go" is `react`.
     void openReacting(const std::function<void(const Ptr<CommandInputs>&)>& build,
                       const std::function<void(const Ptr<CommandInputs>&)>& react) {
         all = open([&](const Ptr<Command>& command) {
@@ -44,6 +44,29 @@ protected:
                 }
             });
         });
+    }
+
+    /// The changes that are reported when "go" is pressed: its handler is `react`, in a dialog of
+    /// "go" and what `build` adds.
+    std::string changesAfterGo(const std::function<void(const Ptr<CommandInputs>&)>& build,
+                               const std::function<void(const Ptr<CommandInputs>&)>& react) {
+        openReacting(
+            [&](const Ptr<CommandInputs>& inputs) {
+                inputs->addBoolValueInput("go", "", false);
+                build(inputs);
+            },
+            react);
+        click(all->itemById("go"));
+        return noted();
+    }
+
+    static Ptr<DropDownCommandInput> addList(const Ptr<CommandInputs>& inputs,
+                                             const std::string& id) {
+        return inputs->addDropDownCommandInput(id, "", TextListDropDownStyle);
+    }
+
+    static Ptr<ListItems> itemsOfList(const Ptr<CommandInputs>& inputs) {
+        return Ptr<DropDownCommandInput>(inputs->itemById("list"))->listItems();
     }
 
     Ptr<CommandInputs> all;
@@ -63,20 +86,15 @@ protected:
     /// Presses "go", whose handler changes a drop-down, a text, a button and a button row.
     std::string changesOf(CodeChanges changes) {
         restart(changes);
-        openReacting(
+        return changesAfterGo(
             [](const Ptr<CommandInputs>& inputs) {
-                inputs->addBoolValueInput("go", "", false);
-                fill(inputs->addDropDownCommandInput("list", "", TextListDropDownStyle)
-                         ->listItems());
+                fill(addList(inputs, "list")->listItems());
                 inputs->addStringValueInput("text", "");
                 inputs->addBoolValueInput("button", "", false);
                 fill(inputs->addButtonRowCommandInput("row", "", false)->listItems());
             },
             [](const Ptr<CommandInputs>& inputs) {
-                Ptr<DropDownCommandInput>(inputs->itemById("list"))
-                    ->listItems()
-                    ->item(1)
-                    ->isSelected(true);
+                itemsOfList(inputs)->item(1)->isSelected(true);
                 Ptr<StringValueCommandInput>(inputs->itemById("text"))->value("new");
                 Ptr<BoolValueCommandInput>(inputs->itemById("button"))->value(true);
                 Ptr<ButtonRowCommandInput>(inputs->itemById("row"))
@@ -85,12 +103,10 @@ protected:
                     ->isSelected(true);
                 inputs->itemById("text")->isVisible(false);
             });
-        click(all->itemById("go"));
-        return noted();
     }
 };
 
-TEST_F(InputChanged, IsFiredForEachChangeOfAPerson) {
+TEST_F(InputChanged, IsFiredForEachChangeByTheUser) {
     openDialogOfFields();
 
     click(all->itemById("button"));
@@ -114,7 +130,7 @@ TEST_F(InputChanged, AClickOnAButtonTogglesItsValue) {
     EXPECT_FALSE(button->value());
 }
 
-TEST_F(InputChanged, ATypedTextIsToldForEachCharacterInThePlaceOfTheOldText) {
+TEST_F(InputChanged, ATypedStringReplacesTheOldOneAndIsReportedForEachCharacter) {
     open([this](const Ptr<Command>& command) {
         command->commandInputs()->addStringValueInput("text", "", "old");
         on<OnChanged>(command->inputChanged(), [this](const auto& args) {
@@ -127,7 +143,7 @@ TEST_F(InputChanged, ATypedTextIsToldForEachCharacterInThePlaceOfTheOldText) {
     EXPECT_EQ(noted(), "a a\xC3\xA9 a\xC3\xA9z");
 }
 
-TEST_F(InputChanged, AnEmptyTextTypedIsToldOnce) {
+TEST_F(InputChanged, AnEmptyTypedStringIsReportedOnce) {
     openDialogOfFields();
 
     typeText(all->itemById("box"), "");
@@ -136,7 +152,7 @@ TEST_F(InputChanged, AnEmptyTextTypedIsToldOnce) {
     EXPECT_EQ(Ptr<TextBoxCommandInput>(all->itemById("box"))->text(), "");
 }
 
-TEST_F(InputChanged, TheItemThatIsChosenAlreadyChangesNothing) {
+TEST_F(InputChanged, ChoosingTheChosenItemChangesNothing) {
     openDialogOfFields();
     chooseItem(all->itemById("list"), "two");
     noted();
@@ -187,7 +203,7 @@ TEST_F(InputChanged, AChangeOfTabComesAsTheTabBarWithTheCommandsInputs) {
     EXPECT_EQ(noted(), "APITabBar+");
 }
 
-TEST_F(InputChanged, TheTabThatShowsAlreadyIsNotTold) {
+TEST_F(InputChanged, ActivatingTheActiveTabIsNotReported) {
     openDialogOfFields();
     const Ptr<TabCommandInput> first = all->itemById("first");
     EXPECT_TRUE(first->isActive());
@@ -200,7 +216,7 @@ TEST_F(InputChanged, TheTabThatShowsAlreadyIsNotTold) {
     EXPECT_FALSE(first->isActive());
 }
 
-TEST_F(InputChanged, SelectingARowIsNotTold) {
+TEST_F(InputChanged, SelectingARowIsNotReported) {
     openDialogOfFields();
     const Ptr<TableCommandInput> table = all->itemById("table");
 
@@ -210,13 +226,13 @@ TEST_F(InputChanged, SelectingARowIsNotTold) {
     EXPECT_EQ(table->selectedRow(), 0);
 }
 
-TEST_F(InputChanged, NothingIsToldWhileTheCommandIsCreated) {
+TEST_F(InputChanged, NothingIsReportedWhileTheCommandIsCreated) {
     openDialogOfFields();
 
     EXPECT_EQ(noted(), "");
 }
 
-TEST_F(InputChanged, CanBeReportedForAnInputThatNobodyCouldChange) {
+TEST_F(InputChanged, CanBeForcedForAnInputThatTheUserCannotChange) {
     openDialogOfFields();
     all->itemById("cell")->isVisible(false);
 
@@ -225,17 +241,19 @@ TEST_F(InputChanged, CanBeReportedForAnInputThatNobodyCouldChange) {
     EXPECT_EQ(noted(), "cell");
 }
 
-TEST_F(ChangedByCode, WithNoneNothingIsToldAgain) { EXPECT_EQ(changesOf(CodeChanges::None), "go"); }
+TEST_F(ChangedByCode, WithNoneNothingElseIsReported) {
+    EXPECT_EQ(changesOf(CodeChanges::None), "go");
+}
 
-TEST_F(ChangedByCode, WithListsASelectedItemOfADropDownIsTold) {
+TEST_F(ChangedByCode, WithListsASelectedItemOfADropDownIsReported) {
     EXPECT_EQ(changesOf(CodeChanges::Lists), "go list");
 }
 
-TEST_F(ChangedByCode, WithAllEachChangedValueIsTold) {
+TEST_F(ChangedByCode, WithAllEachChangedValueIsReported) {
     EXPECT_EQ(changesOf(CodeChanges::All), "go list text button row");
 }
 
-TEST_F(ChangedByCode, IsToldWhenTheRunningHandlersHaveReturned) {
+TEST_F(ChangedByCode, IsReportedWhenTheRunningHandlersHaveReturned) {
     open([this](const Ptr<Command>& command) {
         const Ptr<CommandInputs> inputs = command->commandInputs();
         inputs->addBoolValueInput("go", "", false);
@@ -257,71 +275,43 @@ TEST_F(ChangedByCode, IsToldWhenTheRunningHandlersHaveReturned) {
     EXPECT_EQ(noted(), "go( ) list( ) validate");
 }
 
-TEST_F(ChangedByCode, IsNotToldForAListMadeInTheSameNotification) {
-    openReacting(
-        [](const Ptr<CommandInputs>& inputs) { inputs->addBoolValueInput("go", "", false); },
-        [](const Ptr<CommandInputs>& inputs) {
-            const Ptr<DropDownCommandInput> made =
-                inputs->addDropDownCommandInput("made", "", TextListDropDownStyle);
-            fill(made->listItems());
-            made->listItems()->item(0)->isSelected(true);
-        });
-
-    click(all->itemById("go"));
-
-    EXPECT_EQ(noted(), "go");
+TEST_F(ChangedByCode, IsNotReportedForAListMadeInTheSameNotification) {
+    EXPECT_EQ(changesAfterGo([](const Ptr<CommandInputs>&) {},
+                             [](const Ptr<CommandInputs>& inputs) {
+                                 const Ptr<ListItems> made = addList(inputs, "made")->listItems();
+                                 fill(made);
+                                 made->item(0)->isSelected(true);
+                             }),
+              "go");
 }
 
-TEST_F(ChangedByCode, IsNotToldForAnItemAddedAsSelected) {
-    openReacting(
-        [](const Ptr<CommandInputs>& inputs) {
-            inputs->addBoolValueInput("go", "", false);
-            inputs->addDropDownCommandInput("list", "", TextListDropDownStyle);
-        },
-        [](const Ptr<CommandInputs>& inputs) {
-            Ptr<DropDownCommandInput>(inputs->itemById("list"))->listItems()->add("new", true);
-        });
-
-    click(all->itemById("go"));
-
-    EXPECT_EQ(noted(), "go");
+TEST_F(ChangedByCode, IsNotReportedForAnItemAddedAsSelected) {
+    EXPECT_EQ(changesAfterGo(
+                  [](const Ptr<CommandInputs>& inputs) { addList(inputs, "list"); },
+                  [](const Ptr<CommandInputs>& inputs) { itemsOfList(inputs)->add("new", true); }),
+              "go");
 }
 
-TEST_F(ChangedByCode, IsNotToldForTheItemThatIsSelectedAlready) {
-    openReacting(
-        [](const Ptr<CommandInputs>& inputs) {
-            inputs->addBoolValueInput("go", "", false);
-            inputs->addDropDownCommandInput("list", "", TextListDropDownStyle)
-                ->listItems()
-                ->add("one", true);
-        },
-        [](const Ptr<CommandInputs>& inputs) {
-            Ptr<DropDownCommandInput>(inputs->itemById("list"))
-                ->listItems()
-                ->item(0)
-                ->isSelected(true);
-        });
-
-    click(all->itemById("go"));
-
-    EXPECT_EQ(noted(), "go");
+TEST_F(ChangedByCode, IsNotReportedForTheItemThatIsAlreadySelected) {
+    EXPECT_EQ(changesAfterGo(
+                  [](const Ptr<CommandInputs>& inputs) {
+                      addList(inputs, "list")->listItems()->add("one", true);
+                  },
+                  [](const Ptr<CommandInputs>& inputs) {
+                      itemsOfList(inputs)->item(0)->isSelected(true);
+                  }),
+              "go");
 }
 
-TEST_F(ChangedByCode, IsNotToldForAListDeletedInTheMeantime) {
-    openReacting(
-        [](const Ptr<CommandInputs>& inputs) {
-            inputs->addBoolValueInput("go", "", false);
-            fill(inputs->addDropDownCommandInput("list", "", TextListDropDownStyle)->listItems());
-        },
-        [](const Ptr<CommandInputs>& inputs) {
-            const Ptr<DropDownCommandInput> list = inputs->itemById("list");
-            list->listItems()->item(0)->isSelected(true);
-            list->deleteMe();
-        });
-
-    click(all->itemById("go"));
-
-    EXPECT_EQ(noted(), "go");
+TEST_F(ChangedByCode, IsNotReportedForAListDeletedMeanwhile) {
+    EXPECT_EQ(
+        changesAfterGo(
+            [](const Ptr<CommandInputs>& inputs) { fill(addList(inputs, "list")->listItems()); },
+            [](const Ptr<CommandInputs>& inputs) {
+                itemsOfList(inputs)->item(0)->isSelected(true);
+                inputs->itemById("list")->deleteMe();
+            }),
+        "go");
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ protected:
     }
 };
 
-TEST_F(CommandDialog, NamesItsButtonsOkAndCancelAtFirst) {
+TEST_F(CommandDialog, HasTheButtonsOkAndCancelByDefault) {
     const Ptr<Command> dialog = openBox();
 
     EXPECT_EQ(dialog->okButtonText(), "OK");
@@ -51,7 +51,7 @@ TEST_F(CommandDialog, IsNotSmallerThanItsMinimumSize) {
     EXPECT_EQ(dialogSize(), (ui::DialogSize{800, 300}));
 }
 
-TEST_F(CommandDialog, RemembersTheSizeThatAPersonGaveIt) {
+TEST_F(CommandDialog, RemembersTheSizeThatTheUserGaveIt) {
     openBox([](const Ptr<Command>& command) { command->setDialogInitialSize(800, 600); });
     resizeDialog(1000, 700);
     pressCancel();
@@ -65,8 +65,9 @@ TEST_F(CommandDialog, TakesNoInitialSizeOnceItShows) {
     const Ptr<Command> dialog = openBox();
 
     EXPECT_FALSE(dialog->setDialogInitialSize(10, 10));
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"Command::setDialogInitialSize", "the dialog is already open"}}));
+    EXPECT_EQ(
+        misuses(),
+        (std::vector<Misuse>{{"Command::setDialogInitialSize", "the dialog is already open"}}));
 }
 
 TEST_F(CommandDialog, KnowsItsDefinition) {
@@ -76,7 +77,7 @@ TEST_F(CommandDialog, KnowsItsDefinition) {
     EXPECT_EQ(ui()->activeCommand(), "Dialog");
 }
 
-TEST_F(CommandDialog, HandsOutTheSameEventAtEachFetch) {
+TEST_F(CommandDialog, ReturnsTheSameEventEachTime) {
     const Ptr<Command> dialog = openBox();
 
     EXPECT_EQ(dialog->execute(), dialog->execute());
@@ -84,7 +85,7 @@ TEST_F(CommandDialog, HandsOutTheSameEventAtEachFetch) {
     EXPECT_EQ(dialog->execute()->sender(), dialog);
 }
 
-TEST_F(CommandDialog, OkIsRefusedWhereAHandlerFindsTheInputsNotValid) {
+TEST_F(CommandDialog, OkIsRefusedWhenAHandlerFindsTheInputsInvalid) {
     openBox([this](const Ptr<Command>& command) {
         on<OnValidate>(command->validateInputs(), [](const auto& args) {
             EXPECT_TRUE(args->areInputsValid());
@@ -98,7 +99,7 @@ TEST_F(CommandDialog, OkIsRefusedWhereAHandlerFindsTheInputsNotValid) {
     EXPECT_TRUE(openDialog());
 }
 
-TEST_F(CommandDialog, OkIsRefusedWhereTheButtonDoesNotShow) {
+TEST_F(CommandDialog, OkIsRefusedWhenTheButtonIsNotVisible) {
     openBox([](const Ptr<Command>& command) { command->isOKButtonVisible(false); });
 
     EXPECT_EQ(misuseOf(pressOk), "cannot press OK: the dialog has no such button");
@@ -109,7 +110,7 @@ TEST_F(CommandDialog, OkAndCancelNeedADialog) {
     EXPECT_EQ(misuseOf(pressCancel), "cannot press Cancel: no command runs");
 }
 
-TEST_F(CommandDialog, ARaiseInInputChangedLeavesItOpenAndUsable) {
+TEST_F(CommandDialog, AnExceptionInInputChangedLeavesItOpenAndUsable) {
     openBox([this](const Ptr<Command>& command) {
         on<OnChanged>(command->inputChanged(),
                       [](const auto&) { throw std::invalid_argument("invalid stoi argument"); });
@@ -138,7 +139,7 @@ TEST_F(CommandDialog, NothingCanBePressedWhileACommandIsAtWork) {
     EXPECT_TRUE(openDialog());
 }
 
-TEST_F(CommandDialog, ItsInputsAreGoneWhenItIsOver) {
+TEST_F(CommandDialog, ItsInputsEndWithIt) {
     const Ptr<Command> dialog = openBox();
     const Ptr<CommandInput> box = dialog->commandInputs()->itemById("box");
     const Ptr<CommandInputs> inputs = dialog->commandInputs();
