@@ -20,14 +20,24 @@ public:
     [[nodiscard]] bool value() const override {
         return get<"BoolValueCommandInput::value">(value_);
     }
-    bool value(bool value) override;
-    [[nodiscard]] std::string resourceFolder() const override;
-    bool resourceFolder(const std::string& value) override;
+    bool value(bool value) override {
+        return change<"BoolValueCommandInput::value">(value_, value);
+    }
+    [[nodiscard]] std::string resourceFolder() const override {
+        return getShared<"BoolValueCommandInput::resourceFolder">(resourceFolder_);
+    }
+    bool resourceFolder(const std::string& value) override {
+        return setShared<"BoolValueCommandInput::resourceFolder">(resourceFolder_, value);
+    }
     [[nodiscard]] bool isCheckBox() const override {
         return get<"BoolValueCommandInput::isCheckBox">(checkBox_);
     }
-    [[nodiscard]] std::string text() const override;
-    bool text(const std::string& value) override;
+    [[nodiscard]] std::string text() const override {
+        return getShared<"BoolValueCommandInput::text">(text_);
+    }
+    bool text(const std::string& value) override {
+        return setShared<"BoolValueCommandInput::text">(text_, value);
+    }
 
     /// Clicks it, as the user does.
     void toggle() { value_ = !value_; }

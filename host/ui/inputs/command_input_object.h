@@ -109,6 +109,33 @@ public:
         removeFromOwner(*this);
         return true;
     }
+
+protected:
+    /// Sets a value as the operation `Name`, and reports that code changed it.
+    template <CallName Name, class T>
+    bool change(T& member, const T& value) {
+        if (closed<Name>(*this)) return false;
+        if (member != value) {
+            member = value;
+            this->changedByCode();
+        }
+        return true;
+    }
+
+    /// Reads a string of the command's pool as the operation `Name`.
+    template <CallName Name>
+    [[nodiscard]] std::string getShared(const std::string* const& member) const {
+        if (closed<Name>(*this)) return {};
+        return *member;
+    }
+
+    /// Sets a string of the command's pool as the operation `Name`.
+    template <CallName Name>
+    bool setShared(const std::string*& member, const std::string& value) {
+        if (closed<Name>(*this)) return false;
+        member = this->shared(value);
+        return true;
+    }
 };
 
 }  // namespace host::ui

@@ -11,8 +11,12 @@ public:
     ImageCommandInputObject(const InputOrigin& origin, const std::string& imageFile)
         : CommandInputObject(origin, InputKind::Image), imageFile_(shared(imageFile)) {}
 
-    [[nodiscard]] std::string imageFile() const override;
-    bool imageFile(const std::string& value) override;
+    [[nodiscard]] std::string imageFile() const override {
+        return getShared<"ImageCommandInput::imageFile">(imageFile_);
+    }
+    bool imageFile(const std::string& value) override {
+        return setShared<"ImageCommandInput::imageFile">(imageFile_, value);
+    }
 
 private:
     const std::string* imageFile_;  ///< of the command's pool

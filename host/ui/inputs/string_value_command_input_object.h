@@ -21,7 +21,9 @@ public:
     [[nodiscard]] std::string value() const override {
         return get<"StringValueCommandInput::value">(state_.value);
     }
-    bool value(const std::string& value) override;
+    bool value(const std::string& value) override {
+        return change<"StringValueCommandInput::value">(state_.value, value);
+    }
     [[nodiscard]] bool isReadOnly() const override {
         return get<"StringValueCommandInput::isReadOnly">(state_.readOnly);
     }
