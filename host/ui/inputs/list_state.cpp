@@ -47,8 +47,9 @@ std::size_t ListState::add(const std::string& name, bool selected, const std::st
     const std::size_t end = entries_.size();
     const bool inside = before >= 0 && static_cast<std::size_t>(before) < end;
     const std::size_t index = inside ? static_cast<std::size_t>(before) : end;
-    entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(index),
-                    {shared(name), shared(icon), nullptr, false});
+    entries_.insert(
+        entries_.begin() + static_cast<std::ptrdiff_t>(index),
+        {.name = shared(name), .icon = shared(icon), .item = nullptr, .selected = false});
     if (inside) {
         renumber(index + 1);
     }

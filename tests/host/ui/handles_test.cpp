@@ -69,8 +69,8 @@ TEST_F(Handles, ACallOnADeletedObjectIsReported) {
     EXPECT_EQ(deleted->name(), "");
 
     EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"CommandDefinition::name",
-                                    "called on a deleted adsk::core::CommandDefinition"}}));
+              (std::vector<Misuse>{{.operation = "CommandDefinition::name",
+                                    .text = "called on a deleted adsk::core::CommandDefinition"}}));
 }
 
 TEST_F(Handles, EventsOfAnEndedHostAllowHandlersToBeDestroyed) {

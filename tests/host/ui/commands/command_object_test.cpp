@@ -65,9 +65,8 @@ TEST_F(CommandDialog, TakesNoInitialSizeOnceItShows) {
     const Ptr<Command> dialog = openBox();
 
     EXPECT_FALSE(dialog->setDialogInitialSize(10, 10));
-    EXPECT_EQ(
-        misuses(),
-        (std::vector<Misuse>{{"Command::setDialogInitialSize", "the dialog is already open"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "Command::setDialogInitialSize",
+                                               .text = "the dialog is already open"}}));
 }
 
 TEST_F(CommandDialog, KnowsItsDefinition) {

@@ -291,8 +291,8 @@ TEST_F(CommandLife, TerminateActiveCommandInsideACommandEventFailsAndIsReported)
     pressCommand("Button");
 
     EXPECT_EQ(noted(), "refused");
-    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"UserInterface::terminateActiveCommand",
-                                               "called inside an event of a command"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "UserInterface::terminateActiveCommand",
+                                               .text = "called inside an event of a command"}}));
 }
 
 TEST_F(CommandLife, TerminateActiveCommandElsewhereCancelsTheDialog) {
@@ -363,8 +363,8 @@ TEST_F(CommandLife, APreviewThatCannotBeUndoneIsReported) {
     });
 
     EXPECT_EQ(noted(), "");
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"Command::executePreview", "this host cannot undo previews"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "Command::executePreview",
+                                               .text = "this host cannot undo previews"}}));
 }
 
 TEST_F(CommandLife, APreviewIsTakenBackBeforeTheNextOneAndBeforeExecute) {

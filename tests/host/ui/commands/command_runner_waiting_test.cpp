@@ -89,8 +89,8 @@ TEST_F(Waiting, WhatTheUserCannotDoMeanwhileIsReported) {
     pressCommand("Wait");
 
     EXPECT_EQ(noted(), "waits goes_on");
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"adsk::doEvents", "cannot press OK: no dialog is open"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "adsk::doEvents",
+                                               .text = "cannot press OK: no dialog is open"}}));
 }
 
 TEST_F(Waiting, InsideAnotherEventNothingElseCanStart) {
@@ -106,9 +106,9 @@ TEST_F(Waiting, InsideAnotherEventNothingElseCanStart) {
     click(openDialog()->commandInputs()->itemById("button"));
 
     EXPECT_EQ(noted(), "changes");
-    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"adsk::doEvents",
-                                               "a command is at work: wait until it has "
-                                               "answered"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "adsk::doEvents",
+                                               .text = "a command is at work: wait until it has "
+                                                       "answered"}}));
 }
 
 TEST_F(Waiting, WhatTheClockHasScheduledHappensMeanwhile) {

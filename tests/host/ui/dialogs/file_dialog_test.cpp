@@ -70,9 +70,10 @@ TEST_F(FileDialogs, SeveralFilesForADialogThatTakesOneAreReported) {
     dialog->showOpen();
 
     EXPECT_EQ(dialog->filenames(), Files{"/a"});
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"FileDialog::showOpen",
-                                    "several files were picked in a dialog that takes one"}}));
+    EXPECT_EQ(
+        misuses(),
+        (std::vector<Misuse>{{.operation = "FileDialog::showOpen",
+                              .text = "several files were picked in a dialog that takes one"}}));
 }
 
 TEST_F(FileDialogs, OfAnEarlierHostAreForgotten) {

@@ -38,9 +38,10 @@ TEST_F(Messages, AnAnswerWithoutAButtonIsReported) {
 
     EXPECT_EQ(ui()->messageBox("Done"), DialogOK);
 
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"UserInterface::messageBox",
-                                    "the message \"Done\" has no button for the answer 2"}}));
+    EXPECT_EQ(
+        misuses(),
+        (std::vector<Misuse>{{.operation = "UserInterface::messageBox",
+                              .text = "the message \"Done\" has no button for the answer 2"}}));
 }
 
 TEST_F(Messages, DoEventsRunsWhatWasPostedAndOnlyThat) {
@@ -68,8 +69,8 @@ TEST_F(Messages, AnExceptionOfPostedWorkDoesNotReachTheModule) {
 
     EXPECT_TRUE(enterModule("run", "", [] { adsk::doEvents(); }));
 
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"adsk::doEvents", "cannot press OK: no dialog is open"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "adsk::doEvents",
+                                               .text = "cannot press OK: no dialog is open"}}));
 }
 
 TEST_F(Messages, AutoTerminateIsRemembered) {

@@ -48,7 +48,8 @@ TEST_F(PaletteTest, AnIdInUseReturnsNull) {
     add("palette");
 
     EXPECT_FALSE(add("palette"));
-    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"Palettes::add", "the id \"palette\" is in use"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "Palettes::add",
+                                               .text = "the id \"palette\" is in use"}}));
 }
 
 TEST_F(PaletteTest, FloatsOnceItIsMoved) {

@@ -174,10 +174,10 @@ TEST_F(SelectionTest, WhatWasSelectedBeforeIsNotThereWhileTheCommandIsCreated) {
         EXPECT_FALSE(pick->addSelection(part(1)));
     });
 
-    EXPECT_EQ(
-        misuses(),
-        (std::vector<Misuse>{{"SelectionCommandInput::addSelection",
-                              "nothing can be selected while the command is being created"}}));
+    EXPECT_EQ(misuses(),
+              (std::vector<Misuse>{
+                  {.operation = "SelectionCommandInput::addSelection",
+                   .text = "nothing can be selected while the command is being created"}}));
 }
 
 TEST_F(SelectionTest, MoreThanTheLimitSelectedBeforeIsNotTakenAndStaysSelected) {

@@ -60,8 +60,8 @@ TEST_F(Toolbars, TheIdOfAPanelIsUniqueOverAllWorkspaces) {
     panels()->add("Mine", "My Panel");
 
     EXPECT_FALSE(panels("CAMEnvironment")->add("Mine", "Again"));
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{{"ToolbarPanels::add", "the id \"Mine\" is in use"}}));
+    EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "ToolbarPanels::add",
+                                               .text = "the id \"Mine\" is in use"}}));
 }
 
 TEST_F(Toolbars, AllPanelsAreFoundInOneList) {
