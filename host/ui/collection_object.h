@@ -41,8 +41,8 @@ std::size_t placeOf(const std::vector<core::Ptr<Element>>& list, const std::stri
     return static_cast<std::size_t>(found - list.begin());
 }
 
-/// The index at which a new entry stands before or after the one of id `positionId`; the end of the
-/// list where there is none.
+/// The index for a new entry before or after the one of id `positionId`; the end of the list where
+/// there is none.
 template <class Element>
 std::size_t newPlaceIn(const std::vector<core::Ptr<Element>>& list, const std::string& positionId,
                        bool isBefore) {

@@ -6,8 +6,8 @@
 #include "workbench/dialogs/uncaught.h"
 #include "workbench/output/display_text.h"
 
+#include "host/session/input_actions.h"
 #include "host/session/table_view.h"
-#include "host/session/user_actions.h"
 
 #include <algorithm>
 

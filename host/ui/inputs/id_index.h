@@ -13,7 +13,7 @@ class InputState;
 ///
 /// Ids may repeat: inputs of one id form a chain in the order they were added, and the first one
 /// is found. Adding, removing and finding take constant time. The places hold the hashes as well:
-/// an input lies anywhere in memory, and one of another id is skipped without reading it.
+/// an input is anywhere in memory, and one of another id is skipped without reading it.
 class IdIndex {
 public:
     /// Adds an input after the others of its id.

@@ -98,7 +98,7 @@ void ListState::changeIcon(std::size_t index, const std::string& icon) {
     entries_[index].icon = shared(icon);
 }
 
-// The API's getters are const and hand out what can be changed: so does a list here.
+// The API's getters are const and return objects that can be changed: so does a list here.
 core::Ptr<core::ListItems> ListState::itemsApi() const {
     if (items_ != nullptr) return core::Ptr<core::ListItems>(items_);
     core::Ptr<ListItemsObject> made = make<ListItemsObject>(const_cast<ListState*>(this));
