@@ -7,8 +7,9 @@
 
 namespace test_support {
 
-/// The folder of STEP files that real systems wrote: it stands beside the project, if at all, or
-/// where the environment's TARNIX_TEST_DATA says.
+/// The folder of STEP files written by other systems: the one that the environment's
+/// TARNIX_TEST_DATA names, else one beside the project. Origins and licences of the files are in
+/// tests/real_files.md.
 inline std::filesystem::path realFiles() {
     const char* const chosen = std::getenv("TARNIX_TEST_DATA");
     return chosen != nullptr ? chosen : TEST_DATA_FOLDER;
