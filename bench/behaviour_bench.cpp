@@ -1,4 +1,4 @@
-// Time and host calls of what a person does in the open BOM dialog, for designs of 1,000 to 100,000
+// Time and host calls of what the user does in the open BOM dialog, for designs of 1,000 to 100,000
 // rows: a sort, a click that unfolds and one that folds the top assembly, saving the columns, the
 // write-back, and saving the design. A row of the output is one design; its time is that of the
 // action the benchmark is named after, and the counters hold the others beside it.

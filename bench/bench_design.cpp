@@ -62,7 +62,7 @@ void addAssemblies(DesignData& design, std::size_t parent, std::size_t count) {
     for (std::size_t i = 0; i < assemblies; ++i) {
         use(design.components[parent], assembly, static_cast<int>(1 + i));
     }
-    // The rest stands as single parts, so that the design has exactly the asked size.
+    // The rest are single parts, so that the design has exactly the asked size.
     for (std::size_t i = assemblies * (kPartsBelow + 1); i < count; ++i) {
         use(design.components[parent], assembly + 1 + i % kPartsBelow, static_cast<int>(2 + i));
     }

@@ -62,7 +62,7 @@ void measureDialog(benchmark::State& state, Shape shape) {
     }
 }
 
-/// Gives the BOM six columns, as a person would have saved them.
+/// Writes settings with six BOM columns, as the Configuration tab saves them.
 void configureColumns(const Session& session) {
     std::ofstream settings(session.addin().folder / "Tarnix_configuration.xml");
     settings << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"

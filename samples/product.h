@@ -20,7 +20,7 @@ struct Use {
 
 /// A product: a part with a solid, or an assembly with uses of others.
 struct Product {
-    std::string key;  ///< tells products apart in the generator; does not reach the file
+    std::string key;  ///< the name of the product in the generator; not written to the file
     std::string id;
     std::string name;
     std::string description;

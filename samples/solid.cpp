@@ -105,7 +105,7 @@ std::string addWallSurface(StepText& text, const Contour& contour, std::size_t a
     return text.add("PLANE(''," + place + ")") + ",.T.";
 }
 
-/// The walls over a contour; `outside` when the body lies inside of it, and not around.
+/// The walls over a contour; `outside` when the body is inside of it, not around it.
 void addWalls(StepText& text, const Contour& contour, double low, double high, bool outside,
               std::vector<std::string>& faces) {
     const std::vector<std::string> bottom = addEdges(text, contour, low);

@@ -31,8 +31,8 @@ struct Layer {
     double height = 0;
 };
 
-/// A body of prisms that stand on each other along z, the first on z = 0, with holes through all.
-/// Of two outlines that meet, one lies inside the other.
+/// A body of prisms on top of each other along z, the first on z = 0, with holes through all.
+/// Of two outlines that meet, one is inside the other.
 struct Solid {
     std::vector<Layer> layers;
     std::vector<Contour> holes;

@@ -6,7 +6,7 @@
 
 #include <Core/CoreAll.h>
 
-/// What a person who chooses by chance does in a dialog.
+/// What a user who acts at random does in a dialog.
 namespace fuzz {
 
 /// The table of the tab that the BOM dialog shows; null where none does.

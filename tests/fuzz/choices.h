@@ -6,7 +6,7 @@
 
 namespace fuzz {
 
-/// Decisions taken out of bytes, one after the other. The same bytes give the same decisions
+/// Decisions taken from bytes, one after the other. The same bytes give the same decisions
 /// everywhere; when they are used up, the first of each choice is taken.
 class Choices {
 public:

@@ -44,7 +44,7 @@ host::DesignData chosenDesign(Choices& choices) {
         design.components.push_back(chosenComponent(choices, i));
     }
     std::map<std::size_t, int> uses;
-    // Children come from behind, so that no assembly contains itself.
+    // Children come later in the list, so that no assembly contains itself.
     for (std::size_t parent = 0; parent < count; ++parent) {
         const std::size_t children = choices.below(4) + (parent == 0 ? 1 : 0);
         for (std::size_t i = 0; i < children; ++i) {

@@ -31,7 +31,7 @@ std::vector<std::uint8_t> bytesOf(const File& file) {
     return {text.begin(), text.end()};
 }
 
-/// Bytes that the same number gives again.
+/// Bytes that depend on the number alone.
 std::vector<std::uint8_t> madeUp(unsigned seed) {
     constexpr std::size_t kBytes = 240;
     std::mt19937 random(seed);
@@ -60,8 +60,8 @@ std::vector<std::uint8_t> mutated(std::vector<std::uint8_t> bytes, unsigned seed
     return bytes;
 }
 
-void replayDialogs(host::CodeChanges told) {
-    FuzzedSession session(told);
+void replayDialogs(host::CodeChanges reported) {
+    FuzzedSession session(reported);
     for (const File& file : corpus("dialog")) {
         EXPECT_EQ(session.useDialog(bytesOf(file)), "") << file;
     }
