@@ -25,7 +25,7 @@ public:
 /// context).
 std::string step(const std::string& entities);
 
-/// A product without geometry whose definition is `#number`; takes the two numbers behind it too.
+/// A product without geometry whose definition is `#number`; takes the two numbers after it too.
 std::string product(int number, const std::string& id, const std::string& name);
 
 /// A use of one product definition below another, without a placement.

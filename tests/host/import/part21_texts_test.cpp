@@ -24,38 +24,34 @@ TEST(Part21Texts, AnOmittedDescriptionIsEmpty) {
     EXPECT_EQ(Part21Texts("#7=PRODUCT('a','b',$,(#8));").text(7, 2), "");
 }
 
-TEST(Part21Texts, TheUnicodeEscapeIsRead) {
-    EXPECT_EQ(nameIn("\\X2\\92FC\\X0\\ a\\X2\\0159\\X0\\"), "鋼 ař");
-}
+struct Literal {
+    const char* rule;  ///< names the test
+    const char* written;
+    const char* read;
+};
 
-TEST(Part21Texts, SurrogatePairsAndTheLongEscapeAreRead) {
-    EXPECT_EQ(nameIn("\\X2\\D83DDD29\\X0\\"), "🔩");
-    EXPECT_EQ(nameIn("\\X4\\0001F529\\X0\\"), "🔩");
-}
+class Part21Literal : public testing::TestWithParam<Literal> {};
 
-TEST(Part21Texts, EscapesOfCodesThatAreNoCharactersAreReplaced) {
-    EXPECT_EQ(nameIn("\\X4\\00033726\\X0\\\\X4\\7FFFFFFF\\X0\\"), "\U00033726\uFFFD");
-    EXPECT_EQ(nameIn("\\X2\\D83D\\X0\\x"), "\uFFFDx");
-}
+TEST_P(Part21Literal, IsRead) { EXPECT_EQ(nameIn(GetParam().written), GetParam().read); }
 
-TEST(Part21Texts, TheByteEscapeIsLatin) { EXPECT_EQ(nameIn("Gr\\X\\F6\\X\\DFe"), "Größe"); }
+constexpr Literal kLiterals[] = {
+    {"UnicodeEscape", "\\X2\\92FC\\X0\\ a\\X2\\0159\\X0\\", "鋼 ař"},
+    {"SurrogatePair", "\\X2\\D83DDD29\\X0\\", "🔩"},
+    {"LongUnicodeEscape", "\\X4\\0001F529\\X0\\", "🔩"},
+    {"CodesBeyondUnicodeAreReplaced", "\\X4\\00033726\\X0\\\\X4\\7FFFFFFF\\X0\\",
+     "\U00033726\uFFFD"},
+    {"HalfASurrogatePairIsReplaced", "\\X2\\D83D\\X0\\x", "\uFFFDx"},
+    {"ByteEscapeIsLatin", "Gr\\X\\F6\\X\\DFe", "Größe"},
+    {"ByteEscapesOfChineseCharacters", "SOP8_\\X\\CB\\X\\DC\\X\\CC\\X\\E5", "SOP8_塑体"},
+    {"PageEscape", "\\S\\|ber", "über"},
+    {"PageEscapeOfAnotherPage", "\\PB\\\\S\\x", "ř"},
+    {"DoubledQuotesAndBackslashesAreSingle", "5'' C:\\\\x", "5' C:\\x"},
+    {"ABrokenEscapeIsKept", "a\\X\\G1", "a\\X\\G1"},
+    {"ALiteralRunsOverTheEndOfALine", "Ab\r\ncd", "Abcd"},
+};
 
-TEST(Part21Texts, ByteEscapesOfChineseCharactersAreRead) {
-    EXPECT_EQ(nameIn("SOP8_\\X\\CB\\X\\DC\\X\\CC\\X\\E5"), "SOP8_塑体");
-}
-
-TEST(Part21Texts, ThePageEscapeIsRead) {
-    EXPECT_EQ(nameIn("\\S\\|ber"), "über");
-    EXPECT_EQ(nameIn("\\PB\\\\S\\x"), "ř");
-}
-
-TEST(Part21Texts, DoubledQuotesAndBackslashesAreSingle) {
-    EXPECT_EQ(nameIn("5'' C:\\\\x"), "5' C:\\x");
-}
-
-TEST(Part21Texts, ABrokenEscapeStaysAsItStands) { EXPECT_EQ(nameIn("a\\X\\G1"), "a\\X\\G1"); }
-
-TEST(Part21Texts, ALiteralRunsOverTheEndOfALine) { EXPECT_EQ(nameIn("Ab\r\ncd"), "Abcd"); }
+INSTANTIATE_TEST_SUITE_P(Part21, Part21Literal, testing::ValuesIn(kLiterals),
+                         [](const auto& each) { return std::string(each.param.rule); });
 
 TEST(Part21Texts, Utf8StaysBesideOtherBytes) {
     const Part21Texts texts("#1=PRODUCT('Dět','','',());#2=PRODUCT('\xC4\xE5\xF2\x31','','',());");

@@ -43,7 +43,7 @@ Counted countFrom(const DesignData& design, std::size_t component) {
 
 Counted count(const DesignData& design) { return countFrom(design, 0); }
 
-/// How often each part stands in the opened tree, by the names of the parts.
+/// How often each part is in the opened tree, by the names of the parts.
 void countUses(const DesignData& design, std::size_t component, std::map<std::string, int>& uses) {
     for (const host::OccurrenceData& child : design.components[component].children) {
         ++uses[design.components[child.component].name];
@@ -149,7 +149,7 @@ TEST_F(RealFiles, TheClassicAssemblyHasItsParts) {
                                                 {"rod-assembly", 1}}));
 }
 
-TEST_F(RealFiles, TheClassicAssemblyHasTheVolumesThatTheFileTells) {
+TEST_F(RealFiles, TheClassicAssemblyHasTheVolumesThatTheFileDeclares) {
     const DesignData design = import("as1-oc-214.stp");
 
     EXPECT_NEAR(volumeFrom(design, 0), 764.52, 0.001);
@@ -173,7 +173,7 @@ TEST_F(RealFiles, PartsWithConstructionBesideTheirBodyAreParts) {
 
     EXPECT_EQ(count(design), (Counted{28, 18, 4}));
     EXPECT_EQ(design.unit, "in");
-    // The file tells 5.305752176936E5 cubic inches for the plate.
+    // The file declares 5.305752176936E5 cubic inches for the plate.
     EXPECT_NEAR(find(design, "PLATE").geometry->volume(), 530575.2176936 * 16.387064, 0.1);
 }
 

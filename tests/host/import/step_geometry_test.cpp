@@ -10,7 +10,7 @@ namespace {
 using host::ReaderProcess;
 using host::StepGeometry;
 
-/// A reader that gives prepared answers to whatever it is asked.
+/// A reader that returns prepared answers.
 StepGeometry answering(const std::string& script) {
     return {std::make_shared<ReaderProcess>("/bin/sh", std::vector<std::string>{"-c", script},
                                             host::ReadingLimits{.seconds = 30, .megabytes = 1000}),

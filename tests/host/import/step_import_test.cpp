@@ -304,7 +304,7 @@ TEST_F(StepImport, TheBoxOfATurnedShapeIsExact) {
                                             .material = {},
                                             .solid = Solid{{{samples::circle(10), 4}}, {}},
                                             .uses = {}}}));
-    // A quarter turn around x and 5 cm along x: the disc stands upright.
+    // A quarter turn around x and 5 cm along x: the disc is upright.
     const host::Transform upright = {{1, 0, 0, 5, 0, 0, -1, 0, 0, 1, 0, 0, 0, 0, 0, 1}};
 
     const host::Box box = design.components[0].geometry->box(upright).value();

@@ -99,7 +99,7 @@ TEST_F(StepRefusal, AFileThatIsCutOff) {
 }
 
 TEST_F(StepRefusal, AFileThatIsDamagedInTheMiddle) {
-    // The lines behind are fine again; the parser goes on there.
+    // The lines after it are fine again; the parser goes on there.
     EXPECT_EQ(reason(step(product(10, "P", "Bar") + "#20=POINT Dje((1.));\n" + "#30=POINT)1.);\n" +
                           product(40, "P", "Rod"))),
               "is cut off or damaged (2 syntax errors, line 14: unexpected TYPE, expecting '('); "

@@ -13,7 +13,7 @@ using host::ProcessSandbox;
 
 namespace {
 
-class SurroundingsOfAModule : public testing::Test {
+class ProcessSandboxTest : public testing::Test {
 protected:
     test_support::TemporaryFolder folder;
 };
@@ -25,54 +25,54 @@ std::optional<host::environment::Text> temporaryFolderVariable() {
 
 }  // namespace
 
-TEST_F(SurroundingsOfAModule, TheWorkingDirectoryIsPrivateAndEmpty) {
-    const ProcessSandbox surroundings(folder.path());
+TEST_F(ProcessSandboxTest, TheWorkingDirectoryIsPrivateAndEmpty) {
+    const ProcessSandbox sandbox(folder.path());
 
     EXPECT_TRUE(fs::equivalent(fs::current_path(), folder.path() / "work"));
     EXPECT_TRUE(fs::is_empty(fs::current_path()));
 }
 
-TEST_F(SurroundingsOfAModule, TemporaryFilesGoIntoThePrivateFolder) {
-    const ProcessSandbox surroundings(folder.path());
+TEST_F(ProcessSandboxTest, TemporaryFilesGoIntoThePrivateFolder) {
+    const ProcessSandbox sandbox(folder.path());
 
-    // Windows tells the folder with a backslash at its end, which is no name of a file there.
+    // Windows returns the folder with a backslash at its end, which is no name of a file there.
     const fs::path temporary = (fs::temp_directory_path() / "").parent_path();
     EXPECT_TRUE(fs::equivalent(temporary, folder.path() / "temp")) << temporary;
 }
 
-TEST_F(SurroundingsOfAModule, WhatARunBeforeLeftInTheWorkingDirectoryGoes) {
+TEST_F(ProcessSandboxTest, WhatARunBeforeLeftInTheWorkingDirectoryGoes) {
     fs::create_directories(folder.path() / "work" / "sub");
     test_support::writeFile(folder.path() / "work" / "left", "text");
 
-    const ProcessSandbox surroundings(folder.path());
+    const ProcessSandbox sandbox(folder.path());
 
     EXPECT_TRUE(fs::is_empty(fs::current_path()));
 }
 
-TEST_F(SurroundingsOfAModule, TemporaryFilesOfARunBeforeStay) {
+TEST_F(ProcessSandboxTest, TemporaryFilesOfARunBeforeStay) {
     fs::create_directories(folder.path() / "temp");
     test_support::writeFile(folder.path() / "temp" / "screen", "picture");
 
-    const ProcessSandbox surroundings(folder.path());
+    const ProcessSandbox sandbox(folder.path());
 
     EXPECT_TRUE(fs::exists(folder.path() / "temp" / "screen"));
 }
 
-TEST_F(SurroundingsOfAModule, AllIsAsItWasInTheEnd) {
+TEST_F(ProcessSandboxTest, AllIsAsItWasInTheEnd) {
     const fs::path before = fs::current_path();
     const auto variable = temporaryFolderVariable();
 
-    { const ProcessSandbox surroundings(folder.path()); }
+    { const ProcessSandbox sandbox(folder.path()); }
 
     EXPECT_EQ(fs::current_path(), before);
     EXPECT_EQ(temporaryFolderVariable(), variable);
     EXPECT_FALSE(fs::exists(folder.path() / "work"));
 }
 
-TEST_F(SurroundingsOfAModule, KnowsWhereTheProcessStood) {
+TEST_F(ProcessSandboxTest, KnowsWhereTheProcessStood) {
     const fs::path before = fs::current_path();
 
-    const ProcessSandbox surroundings(folder.path());
+    const ProcessSandbox sandbox(folder.path());
 
-    EXPECT_EQ(surroundings.startedIn(), before);
+    EXPECT_EQ(sandbox.startedIn(), before);
 }

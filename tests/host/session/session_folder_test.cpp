@@ -75,13 +75,13 @@ TEST_F(SessionFolders, WhatAnotherUsesIsNotRemoved) {
 }
 
 TEST_F(SessionFolders, OthersFoldersAreNotRemoved) {
-    fs::create_directories(place.path() / "standin-of-somebody");
+    fs::create_directories(place.path() / "standin-of-another");
     fs::create_directories(place.path() / "other");
     test_support::writeFile(place.path() / "other" / "lock", "");
 
     SessionFolder::makeFresh(place.path());
 
-    EXPECT_TRUE(fs::exists(place.path() / "standin-of-somebody"));
+    EXPECT_TRUE(fs::exists(place.path() / "standin-of-another"));
     EXPECT_TRUE(fs::exists(place.path() / "other" / "lock"));
 }
 

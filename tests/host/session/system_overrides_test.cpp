@@ -12,19 +12,19 @@
 #include <string>
 #include <vector>
 
-namespace answers = host::system_overrides;
+namespace overrides = host::system_overrides;
 using host::SystemOverrides;
 
 namespace {
 
-class AnswersForTheSystem : public testing::Test {
+class SystemOverridesTest : public testing::Test {
 protected:
     std::optional<host::HostState> host{std::in_place};
 };
 
 }  // namespace
 
-TEST_F(AnswersForTheSystem, WithoutASessionAreTheSystems) {
+TEST_F(SystemOverridesTest, WithoutASessionAreTheSystems) {
     host.reset();
     StandInArea area = {};
     std::array<unsigned, 4> registers = {};
@@ -36,28 +36,28 @@ TEST_F(AnswersForTheSystem, WithoutASessionAreTheSystems) {
     EXPECT_EQ(standin_cpuid(0, registers.data()), StandInAnswer::NotHandled);
 }
 
-TEST_F(AnswersForTheSystem, UntilTheyAreSetAreTheSystems) {
+TEST_F(SystemOverridesTest, UntilTheyAreSetAreTheSystems) {
     EXPECT_EQ(standin_sleep(1), StandInAnswer::NotHandled);
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
-    EXPECT_TRUE(answers::sleeps().empty());
-    EXPECT_EQ(answers::consoleHidings(), 0);
+    EXPECT_TRUE(overrides::sleeps().empty());
+    EXPECT_EQ(overrides::consoleHidings(), 0);
 }
 
-TEST_F(AnswersForTheSystem, WaitAtOnceByDefault) {
-    answers::set({});
+TEST_F(SystemOverridesTest, WaitAtOnceByDefault) {
+    overrides::set({});
     EXPECT_EQ(standin_sleep(250), StandInAnswer::Done);
     EXPECT_EQ(standin_sleep(1000), StandInAnswer::Done);
-    EXPECT_EQ(answers::sleeps(), (std::vector<int>{250, 1000}));
+    EXPECT_EQ(overrides::sleeps(), (std::vector<int>{250, 1000}));
 
     SystemOverrides inTime;
     inTime.sleepTakesTime = true;
-    answers::set(inTime);
+    overrides::set(inTime);
     EXPECT_EQ(standin_sleep(250), StandInAnswer::NotHandled);
-    EXPECT_EQ(answers::sleeps(), (std::vector<int>{250, 1000, 250}));
+    EXPECT_EQ(overrides::sleeps(), (std::vector<int>{250, 1000, 250}));
 }
 
-TEST_F(AnswersForTheSystem, KeepAMessageWithItsIcon) {
-    answers::set({});
+TEST_F(SystemOverridesTest, KeepAMessageWithItsIcon) {
+    overrides::set({});
     EXPECT_EQ(standin_messageBox("one", "first", 64), StandInAnswer::Done);
     EXPECT_EQ(standin_messageBox("two", "second", 16), StandInAnswer::Done);
     ASSERT_EQ(host::messages().size(), 2U);
@@ -67,23 +67,23 @@ TEST_F(AnswersForTheSystem, KeepAMessageWithItsIcon) {
     EXPECT_EQ(host::messages()[1].icon, adsk::core::CriticalIconType);
 }
 
-TEST_F(AnswersForTheSystem, LeaveTheConsoleAloneByDefault) {
-    answers::set({});
+TEST_F(SystemOverridesTest, LeaveTheConsoleAloneByDefault) {
+    overrides::set({});
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::Done);
-    EXPECT_EQ(answers::consoleHidings(), 1);
+    EXPECT_EQ(overrides::consoleHidings(), 1);
 
     SystemOverrides hiding;
     hiding.consoleMayHide = true;
-    answers::set(hiding);
+    overrides::set(hiding);
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
-    EXPECT_EQ(answers::consoleHidings(), 2);
+    EXPECT_EQ(overrides::consoleHidings(), 2);
 }
 
-TEST_F(AnswersForTheSystem, NameTheScreenAndItsWindows) {
+TEST_F(SystemOverridesTest, NameTheScreenAndItsWindows) {
     SystemOverrides screen;
     screen.screen = host::ScreenRectangle{.left = -640, .top = 0, .right = 800, .bottom = 600};
     screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
-    answers::set(screen);
+    overrides::set(screen);
     StandInArea area = {};
     EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::Done);
     EXPECT_EQ(area.left, -640);
@@ -105,20 +105,20 @@ int lookAtTwo(void* context, const char* title, const StandInArea* inside) {
 
 }  // namespace
 
-TEST_F(AnswersForTheSystem, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
+TEST_F(SystemOverridesTest, ShowTheWindowsFromTheForemostOnUntilItIsEnough) {
     std::vector<std::string> seen;
     EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::NotHandled);
     SystemOverrides screen;
     screen.windows = std::vector<host::WindowShown>{{"b", {5, 0, 9, 9}}, {"a", {6, 0, 9, 9}}, {}};
-    answers::set(screen);
+    overrides::set(screen);
     EXPECT_EQ(standin_visitWindows(&lookAtTwo, &seen), StandInAnswer::Done);
     EXPECT_EQ(seen, (std::vector<std::string>{"b5", "a6"}));
 }
 
-TEST_F(AnswersForTheSystem, SpeakForAnotherProcessor) {
+TEST_F(SystemOverridesTest, SpeakForAnotherProcessor) {
     SystemOverrides other;
     other.processor = [](unsigned leaf) { return std::array<unsigned, 4>{leaf, 1, 2, 3}; };
-    answers::set(other);
+    overrides::set(other);
     std::array<unsigned, 4> registers = {};
     EXPECT_EQ(standin_cpuid(0x80000000U, registers.data()), StandInAnswer::Done);
     EXPECT_EQ(registers, (std::array<unsigned, 4>{0x80000000U, 1, 2, 3}));
