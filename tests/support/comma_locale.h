@@ -7,7 +7,7 @@
 namespace test_support {
 
 /// The whole process writes 1234567.5 as 1.234.567,5 for as long as this lives: the C++ library by
-/// a locale of our own, the C library by the system's Czech one.
+/// a locale of its own, the C library by the system's Czech one.
 class CommaLocale {
 public:
     CommaLocale() : before_(std::locale::global(std::locale(std::locale::classic(), new Comma))) {

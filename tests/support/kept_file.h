@@ -5,7 +5,7 @@
 
 namespace test_support {
 
-/// A file that cannot be deleted, but be written behind, for as long as this lives.
+/// A file that cannot be deleted, but appended to, for as long as this lives.
 class KeptFile {
 public:
     explicit KeptFile(const std::filesystem::path& file);
@@ -13,7 +13,7 @@ public:
     KeptFile& operator=(const KeptFile&) = delete;
     ~KeptFile();
 
-    /// False where the file system, or the user's rights, do not allow it.
+    /// False where the file system or the user's rights do not allow that.
     [[nodiscard]] bool isKept() const;
 
 private:

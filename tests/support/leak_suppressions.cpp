@@ -1,7 +1,7 @@
-// What the leak checker is told, in each program that loads the add-in.
+// Options of the leak checker, in each program that loads the add-in.
 //
-// The one leak that is meant: the object of Open local file is kept in no variable, and nothing
-// ever destroys it. Nothing else is left out, and nothing is said about it at the end.
+// The one intended leak: the object of Open local file is kept in no variable, and nothing ever
+// destroys it. Nothing else is suppressed, and the suppression is not printed at the end.
 
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_options();       // NOLINT(bugprone-reserved-identifier)

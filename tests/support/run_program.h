@@ -13,11 +13,12 @@ struct ProgramResult {
     std::string errors;
 };
 
-/// Runs a program of the build by its name, without a terminal, and waits for its end. Arguments
+/// Runs a program of the build by its name, without a terminal, and waits until it ends. Arguments
 /// are UTF-8; environment and working directory are those of the caller.
 ProgramResult runProgram(const std::string& name, const std::vector<std::string>& arguments);
 
-/// Runs a program with its two streams going into files; returns its exit status. For `runProgram`.
+/// Runs a program with its two streams redirected to files; returns its exit status. For
+/// `runProgram`.
 int runRedirected(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                   const std::filesystem::path& output, const std::filesystem::path& errors);
 

@@ -1,27 +1,18 @@
 #include "tests/support/settings.h"
 
+#include <map>
+
 namespace test_support {
 namespace {
+
+const std::map<char, std::string> kEntities = {
+    {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}};
 
 std::string escaped(const std::string& text) {
     std::string result;
     for (const char c : text) {
-        switch (c) {
-            case '&':
-                result += "&amp;";
-                break;
-            case '<':
-                result += "&lt;";
-                break;
-            case '>':
-                result += "&gt;";
-                break;
-            case '"':
-                result += "&quot;";
-                break;
-            default:
-                result += c;
-        }
+        const auto entity = kEntities.find(c);
+        result += entity == kEntities.end() ? std::string(1, c) : entity->second;
     }
     return result;
 }

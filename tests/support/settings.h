@@ -5,8 +5,8 @@
 
 namespace test_support {
 
-/// The settings of an add-in that was never used, from the root's beginning to its end. The line
-/// ends around them are the system's.
+/// The settings of an add-in that was never used: the root element. The line ends around it are
+/// the system's.
 inline constexpr const char* kDefaultSettings =
     "<configuration nameOfApplication=\"Tarnix\">"
     "<category name=\"httpHelpdesk\"><www>http://helpdesk.tarnix.example/</www></category>"
@@ -15,7 +15,7 @@ inline constexpr const char* kDefaultSettings =
     "</configuration>";
 
 /// A settings document as the add-in writes it, with these columns in its category "bomItems": key
-/// and caption of each, parted by the first semicolon.
+/// and caption of each, separated by the first semicolon.
 std::string settingsDocument(const std::vector<std::string>& bomItems);
 
 }  // namespace test_support

@@ -6,7 +6,7 @@
 
 namespace test_support {
 
-/// A fresh folder that goes with the test.
+/// A fresh folder, deleted with this object.
 class TemporaryFolder {
 public:
     TemporaryFolder() : folder_(host::SessionFolder::makeFresh({})) {}

@@ -5,9 +5,9 @@
 
 namespace test_support {
 
-/// A raw string as it is meant: without the line break it begins with, without the margin that all
-/// its lines share, and without the blank line before its closing quote. Lines end in a line feed,
-/// the last one in none.
+/// A raw string without its layout: the line break at its start, the margin that all its lines
+/// share, and the blank line before its closing quote are removed. Lines are separated by a line
+/// feed.
 std::string text(std::string_view raw);
 
 }  // namespace test_support

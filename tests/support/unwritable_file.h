@@ -5,7 +5,7 @@
 
 namespace test_support {
 
-/// A file that can be read but not be written again for as long as this lives, whoever the user is.
+/// A file that can be read but not written for as long as this lives, by the superuser either.
 class UnwritableFile {
 public:
     explicit UnwritableFile(const std::filesystem::path& file);
