@@ -5,7 +5,7 @@
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
 #include "tests/support/settings.h"
-#include "tests/support/written_texts.h"
+#include "tests/support/written_strings.h"
 
 #include <algorithm>
 #include <array>
@@ -21,9 +21,9 @@ using host::Session;
 constexpr const char* kBom = "QM_TX_BOM";
 constexpr const char* kSaveColumns = "QEMA_btnSaveConfigBom";
 
-host::SessionOptions optionsFor(host::CodeChanges told) {
+host::SessionOptions optionsFor(host::CodeChanges reported) {
     host::SessionOptions options = test_support::addinOptions();
-    options.host.codeChanges = told;
+    options.host.codeChanges = reported;
     return options;
 }
 
@@ -71,7 +71,7 @@ host::DesignData twoParts() {
 
 }  // namespace
 
-FuzzedSession::FuzzedSession(host::CodeChanges told) : session_(optionsFor(told)) {
+FuzzedSession::FuzzedSession(host::CodeChanges reported) : session_(optionsFor(reported)) {
     session_.run();
 }
 
@@ -87,12 +87,12 @@ std::string FuzzedSession::end() {
     return unknown;
 }
 
-/// Accepts the dialog. Returns a text that the design then holds and nobody wrote.
+/// Accepts the dialog. Returns a string that the design then holds and that was never written.
 std::string FuzzedSession::accept() {
-    test_support::WrittenTexts written(session_.design());
+    test_support::WrittenStrings written(session_.design());
     if (const auto table = shownTable(session_)) written.addTable(table);
     session_.ok();
-    return written.findStranger(session_.design());
+    return written.findUnexpected(session_.design());
 }
 
 std::string FuzzedSession::step(Choices& choices) {
@@ -122,7 +122,7 @@ std::string FuzzedSession::useDialog(Bytes bytes) {
     std::string stranger;
     while (!choices.isOver() && stranger.empty()) stranger = step(choices);
     const std::string unknown = end();
-    return stranger.empty() ? unknown : "nobody wrote \"" + stranger + "\"";
+    return stranger.empty() ? unknown : "never written: \"" + stranger + "\"";
 }
 
 /// Saves the columns where the dialog came so far as to offer it. Returns that the second save

@@ -10,7 +10,7 @@
 #include <string>
 
 /// Runs of the dialogs that are made of bytes. Each looks at what came of it and returns what it
-/// found wrong, empty for nothing; a crash or a sanitizer's report is found by whoever runs it.
+/// found wrong, empty for nothing; a crash or a sanitizer's report ends the program.
 namespace fuzz {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -21,9 +21,9 @@ using Bytes = std::span<const std::uint8_t>;
 /// for a person.
 class FuzzedSession {
 public:
-    explicit FuzzedSession(host::CodeChanges told = host::CodeChanges::All);
+    explicit FuzzedSession(host::CodeChanges reported = host::CodeChanges::All);
 
-    /// A design and a person who does in its dialog whatever the screen offers, until the bytes are
+    /// A design and a user who does in its dialog whatever the screen offers, until the bytes are
     /// used up.
     std::string useDialog(Bytes bytes);
 

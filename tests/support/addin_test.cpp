@@ -41,11 +41,16 @@ void AddinTest::SetUp() {
     }
 }
 
-void AddinTest::TearDown() { session.reset(); }
+void AddinTest::TearDown() { endSession(); }
 
 void AddinTest::restart(host::SessionOptions with) {
-    session.reset();
+    endSession();
     session = std::make_unique<host::Session>(std::move(with));
+}
+
+void AddinTest::endSession() {
+    if (session) faults.verify();
+    session.reset();
 }
 
 void AddinTest::open(const std::string& outline) { session->openOutline(addinOutline(outline)); }
@@ -75,8 +80,8 @@ void AddinTest::exportBom() {
     const bool wasQuiet = session->uncaughtExceptions().empty();
     session->click(kExportButton);
     if (wasQuiet && session->uncaughtExceptions().size() == 1 &&
-        endsExport(session->uncaughtExceptions().front())) {
-        session->clearUncaughtExceptions();
+        endsExport(faults.exceptions().front())) {
+        faults.forgetExceptions();
     }
 }
 
@@ -97,14 +102,9 @@ std::string AddinTest::shownTable() const { return tableText(shownTableInput());
 
 std::string AddinTest::csv() const { return readFile(csvFile()); }
 
-std::string AddinTest::uncaughtExceptions() const {
-    std::string result;
-    for (const host::UncaughtException& each : session->uncaughtExceptions()) {
-        result += (result.empty() ? "" : "\n") + each.type + ": " + each.text + " in " + each.event;
-        result += each.inputId.empty() ? "" : " of " + each.inputId;
-    }
-    return result;
-}
+std::string AddinTest::uncaughtExceptions() { return describe(faults.exceptions()); }
+
+std::string AddinTest::misuses() { return describe(faults.misuses()); }
 
 std::filesystem::path AddinTest::moduleFolder() const { return session->addin().folder; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/fault_watch.h"
 #include "tests/support/text.h"
 
 #include "host/session/session.h"
@@ -27,12 +28,12 @@ host::SessionOptions addinOptions();
 /// The same with the add-in's icons, which take time to copy.
 host::SessionOptions addinWithIconsOptions();
 
-/// A test that uses the add-in through its loaded module, as a person at the host does.
+/// A test that uses the add-in through its loaded module, as the user at the host does.
 ///
 /// Each test has a fresh session: private folders, default settings, statics as after loading.
-/// `run` is called before the test's body, except in a fixture that overrides `runsAtStart`. What
-/// the module throws is in `session->uncaughtExceptions()`; a test that expects nothing there says
-/// so.
+/// `run` is called before the test's body, except in a fixture that overrides `runsAtStart`. At the
+/// session's end the test fails on every uncaught exception and every misuse that it did not name;
+/// see `FaultWatch`.
 class AddinTest : public testing::Test {
 protected:
     void SetUp() override;
@@ -44,13 +45,16 @@ protected:
     /// What the session is started with; the default is `addinOptions`.
     [[nodiscard]] virtual host::SessionOptions options() const { return addinOptions(); }
 
+    /// Ends the session; what the host reported by then has to be named.
+    void endSession();
+
     /// Starts over with another session, as after the host's end and a new start of it.
     void restart(host::SessionOptions with);
 
     /// @name Steps
     /// @{
 
-    /// Opens a design drawn as an outline, in which `structure=` and `property=` may stand.
+    /// Opens a design drawn as an outline, which may hold `structure=` and `property=`.
     void open(const std::string& outline);
 
     /// Makes these the columns of the BOM tables: key and caption of each, as in "QEMA_Mass;Mass".
@@ -68,7 +72,7 @@ protected:
     void showModel();
     void showConfiguration();
 
-    /// Presses the export button of the tab that is shown. The exception that always follows is
+    /// Presses the export button of the shown tab. The exception that always follows is named and
     /// forgotten where it is the only one.
     void exportBom();
     /// @}
@@ -77,11 +81,11 @@ protected:
     /// @{
 
     /// The shown rows of the shown tab's table, without the captions: position, picture and part
-    /// number, then the shown configured columns, with " | " between them and the columns aligned.
+    /// number, then the shown configured columns, separated by " | " and aligned.
     [[nodiscard]] std::string table() const;
 
     /// All that the shown tab's table shows, captions and hidden positions included: a line for
-    /// each shown row, a text for each shown column.
+    /// each shown row, a string for each shown column.
     [[nodiscard]] std::string shownTable() const;
 
     /// The table of the shown tab.
@@ -90,8 +94,11 @@ protected:
     /// The bytes of the exported file; empty if there is none.
     [[nodiscard]] std::string csv() const;
 
-    /// What was thrown, a line for each: class, text, event and input.
-    [[nodiscard]] std::string uncaughtExceptions() const;
+    /// What was thrown, a line for each: class, string, event and input. Reading names it.
+    [[nodiscard]] std::string uncaughtExceptions();
+
+    /// The calls that the module should not have made, a line for each. Reading names them.
+    [[nodiscard]] std::string misuses();
 
     /// The session's copy of the add-in.
     [[nodiscard]] std::filesystem::path moduleFolder() const;
@@ -100,6 +107,9 @@ protected:
     /// @}
 
     std::unique_ptr<host::Session> session;
+
+    /// What the host reports against the module, and which of it the test expects.
+    FaultWatch faults{FaultWatch::KnownFaults::Excused};
 };
 
 }  // namespace test_support

@@ -1,6 +1,7 @@
 #include "host/base/events.h"
 
 #include "host/base/host_state.h"
+#include "tests/support/fault_watch.h"
 
 #include <gtest/gtest.h>
 
@@ -43,7 +44,10 @@ private:
 
 class EventDispatch : public ::testing::Test {
 protected:
+    ~EventDispatch() override { faults.verify(); }
+
     HostState host;
+    test_support::FaultWatch faults;
     Ptr<PingEvent> event = make<PingEvent>("ping", nullptr);
 };
 
@@ -81,15 +85,21 @@ TEST_F(EventDispatch, DestroyedHandlerLeavesItsEvents) {
 }
 
 TEST_F(EventDispatch, HandlerOutlivesItsEvent) {
-    Counting handler;
-    event->add(&handler);
+    const auto other = make<PingEvent>("pong", nullptr);
+    {
+        Counting handler;
+        event->add(&handler);
+        other->add(&handler);
 
-    event = nullptr;
+        event = nullptr;
+        other->fire(nullptr);
 
-    EXPECT_EQ(handler.calls, 0);
+        EXPECT_EQ(handler.calls, 1);
+    }
+    EXPECT_FALSE(other->hasHandlers());
 }
 
-TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndSaysSo) {
+TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndReportsTheCall) {
     Counting handler;
 
     event->dispose();
@@ -99,7 +109,10 @@ TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndSaysSo) {
     EXPECT_FALSE(event->remove(&handler));
     EXPECT_EQ(event->name(), "");
     EXPECT_EQ(lastError().code, 4);  // UnderlyingObjectDeletedError
-    EXPECT_EQ(misuses().size(), 3U);
+    const std::string text = "called on a deleted " + std::string(event->objectType());
+    EXPECT_EQ(faults.misuses(),
+              (std::vector<Misuse>{
+                  {"Event::add", text}, {"Event::remove", text}, {"Event::name", text}}));
 }
 
 TEST_F(EventDispatch, ThrowingHandlerIsRecordedAndTheNextIsCalled) {
@@ -111,7 +124,7 @@ TEST_F(EventDispatch, ThrowingHandlerIsRecordedAndTheNextIsCalled) {
     EXPECT_FALSE(event->fire(nullptr, "button"));
 
     EXPECT_EQ(counting.calls, 1);
-    EXPECT_EQ(uncaughtExceptions(),
+    EXPECT_EQ(faults.exceptions(),
               (std::vector<UncaughtException>{
                   {"ping", "button", "std::invalid_argument", "invalid stoi argument"}}));
 }
@@ -122,7 +135,7 @@ TEST_F(EventDispatch, PlainExceptionIsRecordedWithoutText) {
 
     event->fire(nullptr);
 
-    EXPECT_EQ(uncaughtExceptions(),
+    EXPECT_EQ(faults.exceptions(),
               (std::vector<UncaughtException>{{"ping", "", "std::exception", ""}}));
 }
 
@@ -132,7 +145,7 @@ TEST_F(EventDispatch, WhatIsNoExceptionClassIsRecordedByItsType) {
 
     event->fire(nullptr);
 
-    EXPECT_EQ(uncaughtExceptions(), (std::vector<UncaughtException>{{"ping", "", "int", ""}}));
+    EXPECT_EQ(faults.exceptions(), (std::vector<UncaughtException>{{"ping", "", "int", ""}}));
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ protected:
 
     Ptr<Attributes> attributes() { return component("Bolt:1")->attributes(); }
 
-    Texts valuesOf(const std::string& group) {
-        Texts values;
+    Strings valuesOf(const std::string& group) {
+        Strings values;
         for (const Ptr<Attribute>& each : attributes()->itemsByGroup(group)) {
             values.push_back(each->name() + "=" + each->value());
         }
@@ -29,11 +29,11 @@ TEST_F(AttributesOfComponent, ComeInTheOrderTheyWereMade) {
     attributes()->add("Other", "m", "3");
     attributes()->add("G", "b", "4");
 
-    EXPECT_EQ(valuesOf("G"), (Texts{"z=1", "a=2", "b=4"}));
+    EXPECT_EQ(valuesOf("G"), (Strings{"z=1", "a=2", "b=4"}));
     EXPECT_EQ(attributes()->count(), 4u);
     EXPECT_EQ(attributes()->item(2)->name(), "m");
     EXPECT_EQ(attributes()->item(4), nullptr);
-    EXPECT_EQ(attributes()->groupNames(), (Texts{"G", "Other"}));
+    EXPECT_EQ(attributes()->groupNames(), (Strings{"G", "Other"}));
 }
 
 TEST_F(AttributesOfComponent, AddingOneThatIsThereSetsItsValueAndReturnsIt) {
@@ -43,7 +43,7 @@ TEST_F(AttributesOfComponent, AddingOneThatIsThereSetsItsValueAndReturnsIt) {
     const Ptr<Attribute> second = attributes()->add("G", "a", "3");
 
     EXPECT_EQ(second, first);
-    EXPECT_EQ(valuesOf("G"), (Texts{"a=3", "b=2"}));
+    EXPECT_EQ(valuesOf("G"), (Strings{"a=3", "b=2"}));
 }
 
 TEST_F(AttributesOfComponent, NamesThatDifferInCaseAreTwo) {
@@ -51,14 +51,14 @@ TEST_F(AttributesOfComponent, NamesThatDifferInCaseAreTwo) {
     attributes()->add("G", "buy", "0");
     attributes()->add("g", "Buy", "");
 
-    EXPECT_EQ(valuesOf("G"), (Texts{"Buy=1", "buy=0"}));
-    EXPECT_EQ(valuesOf("g"), (Texts{"Buy="}));
+    EXPECT_EQ(valuesOf("G"), (Strings{"Buy=1", "buy=0"}));
+    EXPECT_EQ(valuesOf("g"), (Strings{"Buy="}));
 }
 
 TEST_F(AttributesOfComponent, UnknownGroupAndNameReturnNothing) {
     attributes()->add("G", "a", "1");
 
-    EXPECT_EQ(valuesOf("H"), Texts());
+    EXPECT_EQ(valuesOf("H"), Strings());
     EXPECT_EQ(attributes()->itemByName("G", "b"), nullptr);
     EXPECT_EQ(attributes()->itemByName("H", "a"), nullptr);
     EXPECT_EQ(attributes()->itemByName("G", "a")->value(), "1");
@@ -103,7 +103,8 @@ TEST_F(AttributesOfComponent, DeletedOneIsGoneAndItsHandleInvalid) {
     EXPECT_FALSE(deleted->value("3"));
     EXPECT_FALSE(deleted->deleteMe());
     EXPECT_EQ(lastError().code, adsk::core::UnderlyingObjectDeletedError);
-    EXPECT_EQ(valuesOf("G"), (Texts{"b=2"}));
+    EXPECT_EQ(valuesOf("G"), (Strings{"b=2"}));
+    EXPECT_EQ(misused(), "Attribute::value Attribute::value Attribute::deleteMe");
 }
 
 TEST_F(AttributesOfComponent, ManyAreFoundByNameAlsoAfterMostAreDeleted) {
@@ -115,7 +116,7 @@ TEST_F(AttributesOfComponent, ManyAreFoundByNameAlsoAfterMostAreDeleted) {
     }
     attributes()->add("G", "n5", "again");
 
-    EXPECT_EQ(valuesOf("G"), (Texts{"n97=97", "n98=98", "n99=99", "n5=again"}));
+    EXPECT_EQ(valuesOf("G"), (Strings{"n97=97", "n98=98", "n99=99", "n5=again"}));
     EXPECT_EQ(attributes()->itemByName("G", "n5")->value(), "again");
     EXPECT_EQ(attributes()->itemByName("G", "n98")->value(), "98");
     EXPECT_EQ(attributes()->itemByName("G", "n6"), nullptr);

@@ -19,10 +19,10 @@ TEST_F(ComponentTest, RenamingRenamesAllItsOccurrences) {
 
     EXPECT_TRUE(component("Frame:1")->name("Rack"));
 
-    EXPECT_EQ(paths(), (Texts{"Rack:1", "Rack:1+Bolt:1", "Bolt:2"}));
+    EXPECT_EQ(paths(), (Strings{"Rack:1", "Rack:1+Bolt:1", "Bolt:2"}));
 }
 
-TEST_F(ComponentTest, TakenNameGetsANumberBehindIt) {
+TEST_F(ComponentTest, TakenNameGetsANumberAfterIt) {
     open(R"(
         Bolt
         Nut
@@ -51,7 +51,7 @@ TEST_F(ComponentTest, SettingItsOwnNameKeepsIt) {
     EXPECT_EQ(nut->name(), "Bolt (1)");
 }
 
-TEST_F(ComponentTest, NameThatWasGivenUpIsFree) {
+TEST_F(ComponentTest, ReleasedNameIsFree) {
     open(R"(
         Bolt
         Nut)");
@@ -97,7 +97,7 @@ TEST_F(ComponentTest, PartNumberIsTheNameAndFollowsItUntilItIsSet) {
     EXPECT_EQ(bolt->partNumber(), "M8");
 }
 
-TEST_F(ComponentTest, PartNumberThatWasSetToTheNameStaysBehind) {
+TEST_F(ComponentTest, PartNumberThatWasSetToTheNameDoesNotFollowIt) {
     open("Bolt");
     const Ptr<Component> bolt = component("Bolt:1");
     bolt->partNumber("Bolt");
@@ -127,7 +127,7 @@ TEST_F(ComponentTest, DescriptionIsEmptyUntilItIsSet) {
     EXPECT_EQ(component("Bolt:1")->description(), "DIN 933");
 }
 
-TEST_F(ComponentTest, MaterialIsTheDefaultWhereNothingIsToldAndMayBeMissing) {
+TEST_F(ComponentTest, MaterialIsTheDefaultWhereNoneIsDeclaredAndMayBeMissing) {
     open(R"(
         Bolt
         Plate  material=Aluminium:0.0027
@@ -175,7 +175,7 @@ TEST_F(ComponentTest, MaterialOfAnotherDocumentBecomesItsOwn) {
     EXPECT_EQ(component("Bolt:1")->material()->name(), "Zinc");
 }
 
-TEST_F(ComponentTest, TypesAreTellingTheirClass) {
+TEST_F(ComponentTest, ObjectsKnowTheirClass) {
     open("Bolt");
 
     EXPECT_EQ(root()->objectType(), Component::classType());

@@ -27,7 +27,10 @@ std::vector<Ptr<Occurrence>> below(const Ptr<Component>& component) {
 
 }  // namespace
 
-DesignTest::~DesignTest() { endDocument(document); }
+DesignTest::~DesignTest() {
+    faults.verify();
+    endDocument(document);
+}
 
 void DesignTest::open(const std::string& outline) { open(parseOutline(outline)); }
 

@@ -4,6 +4,8 @@
 #include "host/design/document.h"
 #include "host/design/outline.h"
 
+#include "tests/support/fault_watch.h"
+
 #include <Core/CoreAll.h>
 #include <Fusion/FusionAll.h>
 
@@ -21,7 +23,7 @@ class DesignTest : public testing::Test {
 protected:
     ~DesignTest() override;
 
-    /// Opens the design that an outline tells of.
+    /// Opens the design that an outline draws.
     void open(const std::string& outline);
     void open(DesignData data);
 
@@ -37,9 +39,18 @@ protected:
     /// The full path names of all occurrences, each before what is in it.
     [[nodiscard]] std::vector<std::string> paths() const;
 
+    /// What was misused so far. The test names it by asking.
+    [[nodiscard]] std::vector<Misuse> misuses() { return faults.misuses(); }
+
+    /// The operations that were misused so far, in one line. The test names them by asking.
+    [[nodiscard]] std::string misused() { return test_support::operationsOf(faults.misuses()); }
+
     adsk::core::Ptr<adsk::core::Document> document;
+
+    /// What the host reports against the test, and which of it the test expects.
+    test_support::FaultWatch faults;
 };
 
-using Texts = std::vector<std::string>;
+using Strings = std::vector<std::string>;
 
 }  // namespace host

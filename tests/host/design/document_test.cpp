@@ -82,9 +82,9 @@ TEST_F(DocumentTest, UnnamedDesignIsCalledLikeItsRootComponentOrUntitled) {
     open(std::move(data));
     EXPECT_EQ(document->name(), "Gearbox");
 
-    DesignData blank;
-    blank.components.resize(1);
-    open(std::move(blank));
+    DesignData empty;
+    empty.components.resize(1);
+    open(std::move(empty));
     EXPECT_EQ(document->name(), "Untitled");
     EXPECT_EQ(root()->name(), "Untitled");
 }
@@ -95,7 +95,7 @@ TEST_F(DocumentTest, ComponentsOfOneNameAreToldApart) {
         Two  name=Bolt
         Three  name=Bolt number=M8)");
 
-    EXPECT_EQ(paths(), (Texts{"Bolt:1", "Bolt (1):1", "Bolt (2):1"}));
+    EXPECT_EQ(paths(), (Strings{"Bolt:1", "Bolt (1):1", "Bolt (2):1"}));
     EXPECT_EQ(component("Bolt (1):1")->partNumber(), "Bolt (1)");
     EXPECT_EQ(component("Bolt (2):1")->partNumber(), "M8");
 }
@@ -133,7 +133,7 @@ TEST_F(DocumentTest, SnapshotOpensAsTheSameDesign) {
         Bolt
         (absent))");
 
-    const Texts before = paths();
+    const Strings before = paths();
     DesignData data = snapshot(document);
     open(std::move(data));
 
@@ -147,7 +147,7 @@ TEST_F(DocumentTest, EditsAreCounted) {
 
     component("Bolt:1")->description("x");
     component("Bolt:1")->attributes()->add("G", "a", "1");
-    EXPECT_EQ(paths(), Texts{"Bolt:1"});
+    EXPECT_EQ(paths(), Strings{"Bolt:1"});
 
     EXPECT_EQ(editCount(document), 2u);
 }
@@ -197,6 +197,13 @@ TEST_F(DocumentTest, HandlesOutliveTheDocumentAndReturnNothing) {
     EXPECT_EQ(lastError().code, adsk::core::UnderlyingObjectDeletedError);
     EXPECT_EQ(lastError().description,
               "Sketch::sketchCurves: the adsk::fusion::Sketch was deleted or closed");
+    EXPECT_EQ(misused(),
+              "Document::name Document::name Design::rootComponent Product::parentDocument "
+              "Component::occurrences Component::physicalProperties Component::boundingBox "
+              "Component::transformOccurrences Occurrences::count OccurrenceList::item "
+              "Occurrence::fullPathName OccurrenceList::count Occurrence::component "
+              "Occurrence::isGrounded Occurrence::isReferencedComponent OccurrenceList::count "
+              "Attributes::add Attribute::value Material::name Sketch::sketchCurves");
 }
 
 TEST_F(DocumentTest, CallOnAnObjectOfAClosedDocumentIsListedAsMisuse) {
@@ -268,6 +275,7 @@ TEST_F(DocumentTest, ReferencedDocumentsEndWithTheOneThatRefersToThem) {
 
     EXPECT_FALSE(references[0]->isValid());
     EXPECT_EQ(references[1]->name(), "");
+    EXPECT_EQ(misused(), "Document::name");
 }
 
 TEST_F(DocumentTest, UnfitDesignIsNotOpened) {

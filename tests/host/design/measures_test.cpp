@@ -86,7 +86,7 @@ TEST_F(MeasuresTest, BoxOfAnAssemblyHoldsItsPlacedParts) {
 }
 
 TEST_F(MeasuresTest, BoxOfAnAskewPartIsItsOwnAndNotTheBoxAroundABox) {
-    // Turned by 45 degrees and turned back inside: the part lies along the axes again.
+    // Turned by 45 degrees and turned back inside: the part is along the axes again.
     const double h = std::sqrt(0.5);
     DesignData data = parseOutline(R"(
         Outer

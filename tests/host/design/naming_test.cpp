@@ -5,47 +5,50 @@
 namespace host {
 namespace {
 
-using Texts = std::vector<std::string>;
+using Strings = std::vector<std::string>;
+
+/// What each of the wanted names becomes, one after the other.
+Strings claimAll(ComponentNames& names, const Strings& wanted) {
+    Strings claimed;
+    for (const std::string& name : wanted) {
+        claimed.push_back(names.claim(name));
+    }
+    return claimed;
+}
 
 TEST(ComponentNames, FreeNameIsTakenAsItIs) {
     ComponentNames names;
 
-    EXPECT_EQ(names.claim("Bolt"), "Bolt");
-    EXPECT_EQ(names.claim("bolt"), "bolt");
+    EXPECT_EQ(claimAll(names, {"Bolt", "bolt"}), (Strings{"Bolt", "bolt"}));
 }
 
 TEST(ComponentNames, TakenNameGetsTheLowestFreeNumber) {
     ComponentNames names;
-    names.claim("Bolt");
-    names.claim("Bolt (2)");
+    claimAll(names, {"Bolt", "Bolt (2)"});
 
-    EXPECT_EQ(names.claim("Bolt"), "Bolt (1)");
-    EXPECT_EQ(names.claim("Bolt"), "Bolt (3)");
-    EXPECT_EQ(names.claim("Bolt (2)"), "Bolt (2) (1)");
+    EXPECT_EQ(claimAll(names, {"Bolt", "Bolt", "Bolt (2)"}),
+              (Strings{"Bolt (1)", "Bolt (3)", "Bolt (2) (1)"}));
 }
 
 TEST(ComponentNames, ReleasedNumberIsTheLowestFreeOneAgain) {
     ComponentNames names;
-    names.claim("Bolt");
-    names.claim("Bolt");
-    names.claim("Bolt");
-    names.claim("Bolt");
+    claimAll(names, {"Bolt", "Bolt", "Bolt", "Bolt"});
+
     names.release("Bolt (2)");
 
-    EXPECT_EQ(names.claim("Bolt"), "Bolt (2)");
-    EXPECT_EQ(names.claim("Bolt"), "Bolt (4)");
+    EXPECT_EQ(claimAll(names, {"Bolt", "Bolt"}), (Strings{"Bolt (2)", "Bolt (4)"}));
 }
 
 TEST(ComponentNames, ReleasedNameIsFreeWithoutANumber) {
     ComponentNames names;
-    names.claim("Bolt");
-    names.claim("Bolt");
+    claimAll(names, {"Bolt", "Bolt"});
+
     names.release("Bolt");
 
     EXPECT_EQ(names.claim("Bolt"), "Bolt");
 }
 
-DesignData withNames(const Texts& names) {
+DesignData withNames(const Strings& names) {
     DesignData data;
     for (const std::string& name : names) {
         ComponentData& component = data.components.emplace_back();
@@ -55,8 +58,8 @@ DesignData withNames(const Texts& names) {
     return data;
 }
 
-Texts namesOf(const DesignData& data) {
-    Texts names;
+Strings namesOf(const DesignData& data) {
+    Strings names;
     for (const ComponentData& component : data.components) {
         names.push_back(component.name);
     }
@@ -68,7 +71,8 @@ TEST(MakeNamesUnique, FirstKeepsItsNameAndLaterOnesAreNumbered) {
 
     makeNamesUnique(data);
 
-    EXPECT_EQ(namesOf(data), (Texts{"Design", "Document", "Document (1)", "Bolt", "Document (2)"}));
+    EXPECT_EQ(namesOf(data),
+              (Strings{"Design", "Document", "Document (1)", "Bolt", "Document (2)"}));
 }
 
 TEST(MakeNamesUnique, RootComponentTakesNoPart) {
@@ -76,7 +80,7 @@ TEST(MakeNamesUnique, RootComponentTakesNoPart) {
 
     makeNamesUnique(data);
 
-    EXPECT_EQ(namesOf(data), (Texts{"Bolt", "Bolt"}));
+    EXPECT_EQ(namesOf(data), (Strings{"Bolt", "Bolt"}));
 }
 
 TEST(MakeNamesUnique, CarriesAnUntouchedPartNumberAlongAndNoOther) {

@@ -17,7 +17,8 @@ TEST_F(OccurrenceTest, PathJoinsTheNamesFromTheTop) {
             Part
           Part)");
 
-    EXPECT_EQ(paths(), (Texts{"Sub1:1", "Sub1:1+Sub2:1", "Sub1:1+Sub2:1+Part:1", "Sub1:1+Part:2"}));
+    EXPECT_EQ(paths(),
+              (Strings{"Sub1:1", "Sub1:1+Sub2:1", "Sub1:1+Sub2:1+Part:1", "Sub1:1+Part:2"}));
     EXPECT_EQ(occurrence("Sub1:1+Sub2:1+Part:1")->name(), "Part:1");
 }
 
@@ -30,7 +31,7 @@ TEST_F(OccurrenceTest, InstanceNumbersCountTheUsesOverTheWholeDesign) {
         Bolt)");
 
     EXPECT_EQ(paths(),
-              (Texts{"Axle:1", "Axle:1+Bolt:1", "Bolt:2", "Axle:2", "Axle:2+Bolt:1", "Bolt:3"}));
+              (Strings{"Axle:1", "Axle:1+Bolt:1", "Bolt:2", "Axle:2", "Axle:2+Bolt:1", "Bolt:3"}));
 }
 
 TEST_F(OccurrenceTest, TwoUsesOfAnAssemblyHaveDistinctChildrenOfOneComponent) {

@@ -72,17 +72,17 @@ TEST(Outline, EmptyPartNumberCanBeTold) {
 TEST(Outline, BoxAndMeasuresAreItsGeometry) {
     const DesignData data = parseOutline(R"(
         Box   box=1x2x3.5
-        Told  measures=10:2.5
+        Declared  measures=10:2.5
         Both  measures=10:2.5 box=4x5x6)");
 
     Geometry& box = *data.components[1].geometry;
     EXPECT_DOUBLE_EQ(box.area(), 25);
     EXPECT_DOUBLE_EQ(box.volume(), 7);
     EXPECT_EQ(box.box({}), (Box{{0, 0, 0}, {1, 2, 3.5}}));
-    Geometry& told = *data.components[2].geometry;
-    EXPECT_EQ(told.area(), 10);
-    EXPECT_EQ(told.volume(), 2.5);
-    EXPECT_EQ(told.box({}), std::nullopt);
+    Geometry& declared = *data.components[2].geometry;
+    EXPECT_EQ(declared.area(), 10);
+    EXPECT_EQ(declared.volume(), 2.5);
+    EXPECT_EQ(declared.box({}), std::nullopt);
     EXPECT_EQ(data.components[3].geometry->box({}), (Box{{0, 0, 0}, {4, 5, 6}}));
 }
 

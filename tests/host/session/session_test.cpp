@@ -77,7 +77,7 @@ TEST_F(SessionWithAddin, AnotherSessionHasFreshStatics) {
 
 TEST_F(SessionWithAddin, ARelativePathStartsWhereTheProcessStood) {
     const fs::path place = session->folder().parent_path();
-    session.reset();
+    endSession();
     const fs::path before = fs::current_path();
     fs::current_path(place);
     restart(addinOptions());
@@ -87,7 +87,7 @@ TEST_F(SessionWithAddin, ARelativePathStartsWhereTheProcessStood) {
 
     EXPECT_TRUE(fs::exists(place / "relative.design.json"));
     fs::remove(place / "relative.design.json");
-    session.reset();
+    endSession();
     fs::current_path(before);
 }
 
@@ -154,7 +154,7 @@ TEST_F(SessionWithAddin, DesignsThatTheModuleOpensAreNotThoseOfThePerson) {
     EXPECT_EQ(session->design().name, "Opened");
 }
 
-/// A shape that nobody can measure.
+/// A shape that cannot be measured.
 class NoSize final : public host::Geometry {
 public:
     double area() override { throw std::runtime_error("the shell is open"); }
@@ -220,7 +220,7 @@ TEST_F(SessionWithAddin, AnUnknownCommandIsRefused) {
 }
 
 TEST_F(SessionWithAddin, AFolderWithoutAddinIsRefused) {
-    session.reset();
+    endSession();
     SessionOptions options = addinOptions();
     options.addin = options.addin.parent_path();
 
@@ -228,7 +228,7 @@ TEST_F(SessionWithAddin, AFolderWithoutAddinIsRefused) {
 }
 
 TEST_F(SessionWithAddin, AModuleThatIsNoneIsRefusedAndLeavesNothing) {
-    session.reset();
+    endSession();
     const test_support::TemporaryFolder folder;
     const fs::path before = fs::current_path();
     SessionOptions options = addinOptions();

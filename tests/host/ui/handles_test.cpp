@@ -37,7 +37,7 @@ TEST_F(Handles, OfAnEndedHostAreReportedByTheNext) {
     EXPECT_EQ(workspace->id(), "");
 
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
-    EXPECT_EQ(misuses().size(), 1U);
+    EXPECT_EQ(misused(), "Workspace::id");
 }
 
 TEST_F(Handles, OfDialogsShowNothingOnceTheirHostHasEnded) {
@@ -102,12 +102,14 @@ TEST_F(Handles, OfEventsEndWithTheirSender) {
     definition->deleteMe();
     EXPECT_FALSE(ofTheDefinition->remove(&onCreated));
     EXPECT_TRUE(ofTheHost->add(&onApplication));
+    EXPECT_EQ(misused(), "Event::add Event::remove");
     startHost();
     EXPECT_FALSE(ofTheHost->add(&onApplication));
 
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
     EXPECT_EQ(lastError().description,
               "Event::add: the adsk::core::ApplicationCommandEvent was deleted or closed");
+    EXPECT_EQ(misused(), "Event::add");
 }
 
 TEST_F(Handles, ADestroyedHandlerIsNotCalled) {
@@ -147,6 +149,10 @@ TEST_F(Handles, OfAChildSurviveTheirDialog) {
     EXPECT_FALSE(cell->commandInputs());
     EXPECT_EQ(item->name(), "");
     EXPECT_FALSE(cell->deleteMe());
+    EXPECT_EQ(misused(),
+              "TableCommandInput::getInputAtPosition TableCommandInput::rowCount "
+              "TableCommandInput::addCommandInput CommandInput::parentCommandInput "
+              "CommandInput::commandInputs ListItem::name CommandInput::deleteMe");
 }
 
 TEST_F(Handles, CallsOfAModuleAreCountedOnceUnderTheClassThatDeclaresThem) {

@@ -6,6 +6,8 @@
 #include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
 
+#include "tests/support/fault_watch.h"
+
 #include <Core/CoreAll.h>
 
 #include <gtest/gtest.h>
@@ -51,13 +53,19 @@ protected:
     using Build = std::function<void(const Ptr<adsk::core::Command>&)>;
 
     explicit HostTest(const HostSetup& setup = {}) { startHost(setup); }
+    ~HostTest() override { endHost(); }
 
     /// Ends the host that runs, and starts another one.
     void startHost(const HostSetup& setup = {}) {
-        host_.reset();
+        endHost();
         host_.emplace(setup);
     }
-    void endHost() { host_.reset(); }
+
+    /// Ends the host; what it reported by then has to be named.
+    void endHost() {
+        if (host_) faults.verify();
+        host_.reset();
+    }
 
     static Ptr<adsk::core::UserInterface> ui() {
         return adsk::core::Application::get()->userInterface();
@@ -92,6 +100,18 @@ protected:
     std::string noted();
 
     void note(const std::string& what) { notes_.push_back(what); }
+
+    /// What was thrown and what was misused so far. The test names it by asking.
+    [[nodiscard]] const std::vector<UncaughtException>& uncaughtExceptions() {
+        return faults.exceptions();
+    }
+    [[nodiscard]] std::vector<Misuse> misuses() { return faults.misuses(); }
+
+    /// The operations that were misused so far, in one line. The test names them by asking.
+    [[nodiscard]] std::string misused() { return test_support::operationsOf(faults.misuses()); }
+
+    /// What the host reports against the test's side, and which of it the test expects.
+    test_support::FaultWatch faults;
 
 private:
     std::vector<std::shared_ptr<adsk::core::EventHandler>> handlers_;

@@ -63,6 +63,8 @@ TEST_F(AddinCommand, IsDefinedOnce) {
 }
 
 TEST_F(AddinCommand, HasNoDefinitionForAnIdInUse) {
+    faults.expectMisuse("CommandDefinitions::addButtonDefinition",
+                        "the id \"TestCommand\" is in use");
     const auto first = makeCommand();
 
     const auto second = makeCommand();

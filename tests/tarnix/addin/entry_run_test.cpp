@@ -156,6 +156,7 @@ TEST_F(RunWithoutManufacture, LeavesToStopWhatIsThere) {
     EXPECT_FALSE(run());
 
     stop();
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 
     EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
 }

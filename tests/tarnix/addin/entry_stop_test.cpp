@@ -15,6 +15,7 @@ class Stop : public AddinUiTest {};
 
 TEST_F(Stop, LeavesOpenLocalFileAlone) {
     stop();
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 
     EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
 }
@@ -31,6 +32,7 @@ TEST_F(Stop, DeletesThePalettesThatAreThere) {
     ASSERT_TRUE(palettes->add("onLineModels", "Models", "", true, true, true));
 
     stop();
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 
     EXPECT_FALSE(palettes->itemById("unitsConversion"));
     EXPECT_FALSE(palettes->itemById("onLineModels"));
@@ -41,6 +43,7 @@ TEST_F(Stop, LeavesOtherPalettesAlone) {
     ASSERT_TRUE(palettes->add("somebodyElses", "Other", "", true, true, true));
 
     stop();
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 
     EXPECT_TRUE(palettes->itemById("somebodyElses"));
 }

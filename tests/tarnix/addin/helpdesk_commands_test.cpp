@@ -61,6 +61,8 @@ TEST_F(HelpdeskCommands, RunWithoutADialog) {
 class RefusedHelpdeskCommand : public RegistrationTest {};
 
 TEST_F(RefusedHelpdeskCommand, ShowsTheUserWhyTheHostRefusedIt) {
+    faults.expectMisuse("CommandDefinitions::addButtonDefinition",
+                        "the id \"QM_HD_captureScreen\" is in use");
     ui()->commandDefinitions()->addButtonDefinition("QM_HD_captureScreen", "Another's", "");
     const host::gate::Module asModule;
     // It does not find the other one, and may not add its own.

@@ -70,6 +70,8 @@ TEST_F(MainCommandsWithIcons, NameFoldersThatTheAddinBrings) {
 class RefusedMainCommand : public UnstartedAddinTest {};
 
 TEST_F(RefusedMainCommand, IsNotReported) {
+    faults.expectMisuse("CommandDefinitions::addButtonDefinition",
+                        "the id \"QM_TX_onLineLibrary\" is in use");
     // The host holds the id already, so it refuses the add-in's.
     ASSERT_TRUE(ui()->commandDefinitions()->addButtonDefinition("QM_TX_onLineLibrary", "Mine", ""));
 

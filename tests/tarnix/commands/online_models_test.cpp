@@ -93,6 +93,7 @@ TEST_F(OnLineModels, StopRemovesThePalette) {
     stop();
 
     EXPECT_EQ(palettes()->count(), 0U);
+    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 }
 
 }  // namespace

@@ -181,6 +181,7 @@ TEST_F(OpenLocalFile, ThrowsWhereTheHostHasNoImportManager) {
 }
 
 TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsSkipped) {
+    faults.expectMisuse("ImportManager::importToNewDocument", "needs options that name a file");
     host::gate::refuse("ImportManager::createFusionArchiveImportOptions", 1);
 
     pick({design("part.f3d"), design("other.f3d")});

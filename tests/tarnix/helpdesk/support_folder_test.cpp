@@ -114,12 +114,12 @@ TEST_F(SupportFolder, OfAnotherSessionIsNotRemembered) {
 /// The support folder below a folder for temporary files with this name.
 class SupportFolderBelow : public HelpdeskTest {
 protected:
-    ~SupportFolderBelow() override { session.reset(); }
+    ~SupportFolderBelow() override { endSession(); }
 
     /// Starts over, two levels below the test's folder: what the low bytes of a name
     /// spell may be another folder.
     void restartBelow(const std::u8string& name) {
-        session.reset();
+        endSession();
         below = root.path() / "1" / "2" / fs::path(name);
         fs::create_directories(below);
         for (const auto& variable : host::environment::temporaryFolderNames()) {

@@ -79,7 +79,7 @@ void DialogBefore::expectCellsAsBefore(const Session& session, const char* table
 }
 
 void DialogBefore::expectNothingStrange(const Session& session) const {
-    EXPECT_EQ(written_.findStranger(session.design()), "");
+    EXPECT_EQ(written_.findUnexpected(session.design()), "");
 }
 
 void showDialog(Session& session, const char* outline, const Texts& columns, const char* tab) {

@@ -2,7 +2,7 @@
 
 #include "tests/support/addin_test.h"
 #include "tests/support/refusal.h"
-#include "tests/support/written_texts.h"
+#include "tests/support/written_strings.h"
 
 #include "host/session/session.h"
 
@@ -38,7 +38,7 @@ private:
     std::string design_;
     std::string settings_;
     Texts cells_;
-    test_support::WrittenTexts written_;
+    test_support::WrittenStrings written_;
 };
 
 /// Opens the dialog on a design with columns of that key and caption, and shows a tab.

@@ -33,6 +33,7 @@ TEST_F(Definitions, AnIdInUseReturnsNullAndSetsTheLastError) {
     std::string text;
     EXPECT_EQ(adsk::core::Application::get()->getLastError(&text), BadApiCallError);
     EXPECT_EQ(text, "CommandDefinitions::addButtonDefinition: the id \"Command\" is in use");
+    EXPECT_EQ(misused(), "CommandDefinitions::addButtonDefinition");
 }
 
 TEST_F(Definitions, AnIdHoldsLettersDigitsAndUnderscoresOnly) {
@@ -40,6 +41,9 @@ TEST_F(Definitions, AnIdHoldsLettersDigitsAndUnderscoresOnly) {
     EXPECT_FALSE(add("caf\xC3\xA9"));
     EXPECT_FALSE(add(""));
     EXPECT_TRUE(add("_9aZ"));
+    EXPECT_EQ(misused(),
+              "CommandDefinitions::addButtonDefinition CommandDefinitions::addButtonDefinition "
+              "CommandDefinitions::addButtonDefinition");
 }
 
 TEST_F(Definitions, ADeletedOneIsNotFoundAndItsIdIsFreeAgain) {
@@ -51,6 +55,7 @@ TEST_F(Definitions, ADeletedOneIsNotFoundAndItsIdIsFreeAgain) {
     EXPECT_FALSE(all()->itemById("Command"));
     EXPECT_TRUE(add("Command"));
     EXPECT_FALSE(made->deleteMe());
+    EXPECT_EQ(misused(), "CommandDefinition::deleteMe");
 }
 
 TEST_F(Definitions, AreCountedInOrderOfCreation) {

@@ -150,6 +150,7 @@ TEST_F(CommandDialog, ItsInputsEndWithIt) {
     EXPECT_EQ(inputs->count(), 0U);
     EXPECT_EQ(box->id(), "");
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
+    EXPECT_EQ(misused(), "CommandInputs::count CommandInput::id");
 }
 
 }  // namespace

@@ -144,6 +144,8 @@ TEST_F(CommandLife, ShowsTheInputsAddedBeforeItsCreatedHandlerThrows) {
     pressCommand("Broken");
 
     EXPECT_EQ(openDialog()->commandInputs()->count(), 1U);
+    EXPECT_EQ(uncaughtExceptions(),
+              (std::vector<UncaughtException>{{"OnCommandCreated", "", "std::exception", ""}}));
 }
 
 TEST_F(CommandLife, AnExceptionInExecuteEndsWithCompleted) {

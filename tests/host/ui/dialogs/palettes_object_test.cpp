@@ -104,6 +104,7 @@ TEST_F(PaletteTest, ADeletedOneIsNotFound) {
     EXPECT_FALSE(made->deleteMe());
     EXPECT_FALSE(ui()->palettes()->itemById("palette"));
     EXPECT_TRUE(add("palette"));
+    EXPECT_EQ(misused(), "Palette::deleteMe");
 }
 
 }  // namespace

@@ -106,6 +106,7 @@ TEST_F(Inputs, ATabWithAnIdInUseIsRefusedAndReported) {
 
 TEST_F(Inputs, ATabInsideATabIsRefused) {
     EXPECT_FALSE(childrenOf("tab")->addTabCommandInput("inner", "Inner"));
+    EXPECT_EQ(misused(), "CommandInputs::addTabCommandInput");
 }
 
 TEST_F(Inputs, EverythingElseMayShareAnId) {

@@ -123,6 +123,7 @@ TEST_F(Lists, ClearEmptiesTheList) {
     EXPECT_FALSE(one->selectedItem());
     EXPECT_FALSE(item->isValid());
     EXPECT_EQ(item->name(), "");
+    EXPECT_EQ(misused(), "ListItem::name");
 }
 
 TEST_F(Lists, ItemsCanBeAddedBeforeOthers) {
@@ -164,6 +165,7 @@ TEST_F(Lists, ItemsOfADeletedListAreNotValid) {
     EXPECT_FALSE(item->isSelected(true));
     EXPECT_EQ(items->count(), 0U);
     EXPECT_EQ(lastError().code, static_cast<int>(UnderlyingObjectDeletedError));
+    EXPECT_EQ(misused(), "ListItem::isSelected ListItems::count");
 }
 
 TEST_F(Lists, OnlyAnItemOfTheListCanBeChosen) {

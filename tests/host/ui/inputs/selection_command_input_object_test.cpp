@@ -153,6 +153,7 @@ TEST_F(SelectionTest, AnUnknownFilterIsRefused) {
 
     EXPECT_FALSE(input->addSelectionFilter("Elephants"));
     EXPECT_TRUE(input->addSelectionFilter("JointOrigins"));
+    EXPECT_EQ(misused(), "SelectionCommandInput::addSelectionFilter");
 }
 
 TEST_F(SelectionTest, WhatWasSelectedBeforeGoesIntoTheDialogAndIsReported) {

@@ -327,6 +327,9 @@ TEST_F(Table, TakesNoCellOverSeveralRowsAndNoInvalidPlace) {
     EXPECT_FALSE(place("above", -1, 0));
     EXPECT_FALSE(place("lost", 2000000000, 0));
     EXPECT_EQ(table->rowCount(), 0);
+    EXPECT_EQ(misused(),
+              "TableCommandInput::addCommandInput TableCommandInput::addCommandInput "
+              "TableCommandInput::addCommandInput TableCommandInput::addCommandInput");
 }
 
 }  // namespace

@@ -139,6 +139,7 @@ TEST_F(Toolbars, AControlOutlivesItsDefinition) {
     EXPECT_FALSE(panel->controls()->addCommand(definition));
     EXPECT_TRUE(control->deleteMe());
     EXPECT_EQ(panel->controls()->count(), 0U);
+    EXPECT_EQ(misused(), "ToolbarControls::addCommand");
 }
 
 TEST_F(Toolbars, ADeletedPanelDeletesItsControls) {
@@ -151,6 +152,7 @@ TEST_F(Toolbars, ADeletedPanelDeletesItsControls) {
     EXPECT_FALSE(control->deleteMe());
     EXPECT_FALSE(ui()->allToolbarPanels()->itemById("Mine"));
     EXPECT_TRUE(ui()->commandDefinitions()->itemById("Cmd"));
+    EXPECT_EQ(misused(), "ToolbarControl::deleteMe");
 }
 
 TEST_F(Toolbars, PromotionHasNoEffectOutsidePanels) {

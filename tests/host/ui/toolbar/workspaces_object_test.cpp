@@ -76,6 +76,7 @@ TEST_F(WorkspaceTest, AModuleCannotChangeItInsideAnEventOfACommand) {
     pressCommand("Button");
 
     EXPECT_EQ(ui()->activeWorkspace()->id(), "FusionSolidEnvironment");
+    EXPECT_EQ(misused(), "Workspace::activate");
 }
 
 TEST_F(WorkspaceTest, ForDesignsTheActiveProductIsTheDesign) {

@@ -59,8 +59,8 @@ TEST_F(FolderBeyondTheCodePage, FailsTheSettingsAndCreatesNone) {
 
     openBom();
 
-    ASSERT_EQ(session->uncaughtExceptions().size(), 1U) << uncaughtExceptions();
-    EXPECT_EQ(session->uncaughtExceptions().front().type, "_com_error");
+    ASSERT_EQ(faults.exceptions().size(), 1U) << uncaughtExceptions();
+    EXPECT_EQ(faults.exceptions().front().type, "_com_error");
     EXPECT_FALSE(std::filesystem::exists(settingsFile()));
 }
 

@@ -18,12 +18,12 @@ protected:
 
     void save() {
         // A caption's id has no number, so typing one has thrown as well.
-        session->clearUncaughtExceptions();
+        faults.forgetExceptions();
         session->click("QEMA_btnSaveConfigBom");
         EXPECT_EQ(uncaughtExceptions(),
                   "std::invalid_argument: invalid stoi argument in OnInputChanged of "
                   "QEMA_btnSaveConfigBom");
-        session->clearUncaughtExceptions();
+        faults.forgetExceptions();
     }
 
     /// What the settings document holds of the columns.

@@ -13,7 +13,7 @@ class StructureSort : public BomDialogTest {
 protected:
     void sortBy(const std::string& headerId, const std::string& order) {
         session->choose("QEMA_droDown_AscDesc", order);
-        session->clearUncaughtExceptions();
+        faults.forgetExceptions();
         session->click(headerId);
     }
 };
@@ -198,7 +198,7 @@ TEST_F(StructureSort, OfTheGraphColumnMovesNothing) {
     showStructure();
     // All cells of the column are empty; a sort by their ids alone would turn the rows round.
     session->choose("QEMA_droDown_AscDesc", "Descending");
-    session->clearUncaughtExceptions();
+    faults.forgetExceptions();
 
     // The user cannot click there: the column has no width.
     host::reportChange(session->input("graphPositionOcc_0"));
@@ -266,7 +266,7 @@ TEST_F(StructureSort, LeavesTheModelTableAlone) {
         A  measures=10:100)");
     showStructure();
     session->choose("QEMA_droDown_AscDesc", "Ascending");
-    session->clearUncaughtExceptions();
+    faults.forgetExceptions();
     showModel();
 
     session->click("QEMA_Mass_0");

@@ -91,10 +91,10 @@ void WrittenDesign::unfold(int atMost) {
 }
 
 std::string WrittenDesign::accept() {
-    session->clearUncaughtExceptions();
+    faults.forgetExceptions();
     session->ok();
-    const std::vector<host::UncaughtException> thrown = session->uncaughtExceptions();
-    session->clearUncaughtExceptions();
+    const std::vector<host::UncaughtException> thrown = faults.exceptions();
+    faults.forgetExceptions();
     return thrown.empty() ? "" : "thrown: " + thrown.front().text;
 }
 

@@ -147,8 +147,8 @@ TEST_F(BomConfigurationTab, WithMoreThanSixItemsThrowsAfterTheSixth) {
                "QEMA_Height;6", "QEMA_Density;7"});
     open("Bolt");
     openBom();
-    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
-    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid vector subscript");
+    ASSERT_EQ(faults.exceptions().size(), 1U);
+    EXPECT_EQ(faults.exceptions().at(0).text, "invalid vector subscript");
     EXPECT_EQ(freeColumn(5), "used | 6 | Height");
 }
 

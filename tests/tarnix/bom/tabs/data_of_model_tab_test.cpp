@@ -155,8 +155,8 @@ TEST_F(SevenItems, OfAFlatDesignHaveSevenHeadersAndSixCells) {
               " modelBomStructure_1 QEMA_Mass_1 QEMA_Area_1 QEMA_Volume_1 QEMA_Length_1"
               " QEMA_Width_1 QEMA_Height_1");
     EXPECT_EQ(ratio(kModelTable), "2:0:8:12:8:8:8:8:8:8:8:8");
-    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
-    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid vector subscript");
+    ASSERT_EQ(faults.exceptions().size(), 1U);
+    EXPECT_EQ(faults.exceptions().at(0).text, "invalid vector subscript");
 }
 
 TEST_F(SevenItems, OfANestedDesignEndTheDialogInAPlainException) {
@@ -164,8 +164,8 @@ TEST_F(SevenItems, OfANestedDesignEndTheDialogInAPlainException) {
         Asm
           Bolt)");
     openBom();
-    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
-    EXPECT_EQ(session->uncaughtExceptions().at(0).type, "std::exception");
+    ASSERT_EQ(faults.exceptions().size(), 1U);
+    EXPECT_EQ(faults.exceptions().at(0).type, "std::exception");
     EXPECT_EQ(tabs(), "QEMA_tab_models_BOM \"Data of Model\"");
 }
 
@@ -207,8 +207,8 @@ TEST_F(DataOfModelTab, ThrowsForAColumnWhoseKeyIsShorterThanThePrefix) {
     configure({"Mass;Mass"});
     open("Bolt");
     openBom();
-    ASSERT_EQ(session->uncaughtExceptions().size(), 1U);
-    EXPECT_EQ(session->uncaughtExceptions().at(0).text, "invalid string position");
+    ASSERT_EQ(faults.exceptions().size(), 1U);
+    EXPECT_EQ(faults.exceptions().at(0).text, "invalid string position");
 }
 
 TEST_F(DataOfModelTab, SelectsNothingWhereACustomPropertyHoldsOne) {

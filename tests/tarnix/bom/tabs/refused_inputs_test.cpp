@@ -57,9 +57,9 @@ protected:
     }
 
     /// Type and text of what was thrown; empty if nothing.
-    [[nodiscard]] std::string thrown() const {
+    [[nodiscard]] std::string thrown() {
         std::string all;
-        for (const host::UncaughtException& each : session->uncaughtExceptions()) {
+        for (const host::UncaughtException& each : faults.exceptions()) {
             all += each.type + ": " + each.text;
         }
         return all;

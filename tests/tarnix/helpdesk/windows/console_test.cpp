@@ -58,7 +58,7 @@ TEST_F(ConsoleWindow, IsHiddenByACaptureAndShownAgainWhenTheSessionEnds) {
     ASSERT_TRUE(run());
     press("captureScreen");
     ASSERT_TRUE(comesToBe(console, FALSE));
-    session.reset();
+    endSession();
     EXPECT_TRUE(comesToBe(console, TRUE));
 }
 

@@ -1,4 +1,4 @@
-#include "tests/support/written_texts.h"
+#include "tests/support/written_strings.h"
 
 #include "host/session/table_view.h"
 
@@ -12,26 +12,26 @@ const std::string kMarker = "***different***";
 
 }  // namespace
 
-WrittenTexts::WrittenTexts(const host::DesignData& before) {
+WrittenStrings::WrittenStrings(const host::DesignData& before) {
     for (const host::ComponentData& component : before.components) {
-        texts_.insert({component.name, component.partNumber, component.description});
+        known_.insert({component.name, component.partNumber, component.description});
         for (const host::AttributeData& attribute : component.attributes) {
-            texts_.insert(attribute.value);
+            known_.insert(attribute.value);
         }
     }
 }
 
-void WrittenTexts::addTable(const adsk::core::Ptr<adsk::core::TableCommandInput>& table) {
+void WrittenStrings::addTable(const adsk::core::Ptr<adsk::core::TableCommandInput>& table) {
     const int rows = table->rowCount();
     const int columns = table->numberOfColumns();
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column <= columns; ++column) {
-            texts_.insert(host::readCell(table, row, column).text);
+            known_.insert(host::readCell(table, row, column).text);
         }
     }
 }
 
-std::string WrittenTexts::findStranger(const host::DesignData& after) const {
+std::string WrittenStrings::findUnexpected(const host::DesignData& after) const {
     for (const host::ComponentData& component : after.components) {
         if (!isName(component.name)) return component.name;
         if (!isName(component.partNumber)) return component.partNumber;
@@ -44,18 +44,18 @@ std::string WrittenTexts::findStranger(const host::DesignData& after) const {
 }
 
 /// A name that another component has already gets a number from the host, and a part number that
-/// was never set goes along.
-bool WrittenTexts::isName(const std::string& text) const {
+/// was never set follows it.
+bool WrittenStrings::isName(const std::string& text) const {
     const std::size_t number = text.ends_with(')') ? text.rfind(" (") : std::string::npos;
     return isKnown(text) || (number != std::string::npos && isName(text.substr(0, number)));
 }
 
-/// The merge puts the marker in front of a description, and the row of a merged item takes its
-/// length away again, once for each time that it stands in the list.
-bool WrittenTexts::isDescription(std::string text) const {
+/// The merge puts the marker before a description, and the row of a merged item removes its length
+/// again, once for each time that the item is in the list.
+bool WrittenStrings::isDescription(std::string text) const {
     if (isKnown(text)) return true;
     if (text.starts_with(kMarker)) text.erase(0, kMarker.size());
-    return std::ranges::any_of(texts_, [&](const std::string& known) {
+    return std::ranges::any_of(known_, [&](const std::string& known) {
         const std::string marked = kMarker + known;
         return marked.ends_with(text) && (marked.size() - text.size()) % kMarker.size() == 0;
     });

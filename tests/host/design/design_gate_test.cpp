@@ -32,14 +32,15 @@ TEST_F(RefusalTest, EachCallCountsOnceUnderTheClassThatDeclaresIt) {
     EXPECT_EQ(frame->component()->boundingBox()->maxPoint()->x(), 1);
     EXPECT_EQ(designOf(document)->parentDocument(), document);
 
-    EXPECT_EQ(gate::recorded(),
-              (Texts{"Design::rootComponent", "Component::occurrences", "Occurrences::asList",
-                     "OccurrenceList::item", "Occurrence::component", "Component::attributes",
-                     "Attributes::itemsByGroup", "Attribute::value", "Occurrence::childOccurrences",
-                     "OccurrenceList::count", "Occurrence::fullPathName", "Occurrence::component",
-                     "Component::getPhysicalProperties", "PhysicalProperties::mass",
-                     "Occurrence::component", "Component::boundingBox", "BoundingBox3D::maxPoint",
-                     "Point3D::x", "Product::parentDocument"}));
+    EXPECT_EQ(
+        gate::recorded(),
+        (Strings{"Design::rootComponent", "Component::occurrences", "Occurrences::asList",
+                 "OccurrenceList::item", "Occurrence::component", "Component::attributes",
+                 "Attributes::itemsByGroup", "Attribute::value", "Occurrence::childOccurrences",
+                 "OccurrenceList::count", "Occurrence::fullPathName", "Occurrence::component",
+                 "Component::getPhysicalProperties", "PhysicalProperties::mass",
+                 "Occurrence::component", "Component::boundingBox", "BoundingBox3D::maxPoint",
+                 "Point3D::x", "Product::parentDocument"}));
 }
 
 TEST_F(RefusalTest, RefusedGetterReturnsNothingOnce) {
