@@ -203,7 +203,7 @@ void StringReader::consider(std::string_view literal) {
     }
 }
 
-void StringReader::drainRequests() {
+void StringReader::decideEncodings() {
     rawEncoding_ = guessEncoding(raw_);
     escapedEncoding_ = guessEscapedEncoding(escaped_);
     raw_.clear();

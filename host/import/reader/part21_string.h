@@ -19,8 +19,8 @@ public:
     /// The literal as UTF-8, as spelt in the file; use `cleaned` for what is shown.
     [[nodiscard]] std::string read(std::string_view literal) const;
 
-    /// Settles the encodings by what was considered.
-    void drainRequests();
+    /// Decides on the encodings, by all strings considered so far.
+    void decideEncodings();
 
 private:
     std::vector<std::string> raw_;

@@ -143,7 +143,7 @@ Part21Texts::Part21Texts(std::string_view file) {
             strings.consider(literal);
         }
     }
-    strings.drainRequests();
+    strings.decideEncodings();
     for (auto& [label, parameters] : instances_) {
         for (std::string& text : parameters) {
             text = cleaned(strings.read(text));

@@ -70,8 +70,8 @@ InputState* CommandObject::activeTab() const {
 InputState& CommandObject::tabBar() {
     if (!tabBar_) {
         const std::string id = "APITabBar";
-        tabBar_ =
-            make<TabBar>(InputOrigin{.owner = inputs_.get(), .id = &id, .name = strings_.share("")});
+        tabBar_ = make<TabBar>(
+            InputOrigin{.owner = inputs_.get(), .id = &id, .name = strings_.share("")});
     }
     return *tabBar_;
 }

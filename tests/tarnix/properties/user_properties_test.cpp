@@ -274,8 +274,7 @@ TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsAreNotXml) {
     showList();
     test_support::writeFile(settingsFile(), "<configuration");
     session->click(kSave);
-    EXPECT_EQ(uncaughtExceptions(),
-              "_com_error:  in OnInputChanged of QEMA_btnSaveUserIProperty");
+    EXPECT_EQ(uncaughtExceptions(), "_com_error:  in OnInputChanged of QEMA_btnSaveUserIProperty");
     EXPECT_EQ(settings(), "<configuration");
     EXPECT_TRUE(session->dialogOpen());
 }
@@ -289,8 +288,7 @@ TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsCannotBeWritten) {
         const test_support::UnwritableFile unwritable(settingsFile());
         session->click(kSave);
     }
-    EXPECT_EQ(uncaughtExceptions(),
-              "_com_error:  in OnInputChanged of QEMA_btnSaveUserIProperty");
+    EXPECT_EQ(uncaughtExceptions(), "_com_error:  in OnInputChanged of QEMA_btnSaveUserIProperty");
     EXPECT_EQ(settings(), before);
     EXPECT_TRUE(session->dialogOpen());
     session->click(kSave);

@@ -78,9 +78,9 @@ TEST_F(BadInput, AssembliesThatContainEachOther) {
 }
 
 TEST_F(BadInput, ATreeBeyondTheLimit) {
-    EXPECT_EQ(
-        reason(file(nine()), {"--max-occurrences", "8"}),
-        "would become more than 8 occurrences; open a part of the assembly, or increase the limit\n");
+    EXPECT_EQ(reason(file(nine()), {"--max-occurrences", "8"}),
+              "would become more than 8 occurrences; open a part of the assembly, or increase the "
+              "limit\n");
     EXPECT_EQ(run({"info", file(nine()), "--max-occurrences", "9"}).status, 0);
 }
 
@@ -90,9 +90,9 @@ TEST_F(BadInput, ADesignFileBeyondTheLimit) {
           Bolt
           Bolt)");
 
-    EXPECT_EQ(
-        reason(large, {"--max-occurrences", "2"}),
-        "would become more than 2 occurrences; open a part of the assembly, or increase the limit\n");
+    EXPECT_EQ(reason(large, {"--max-occurrences", "2"}),
+              "would become more than 2 occurrences; open a part of the assembly, or increase the "
+              "limit\n");
     EXPECT_EQ(run({"info", large, "--max-occurrences", "3"}).status, 0);
 }
 

@@ -316,9 +316,8 @@ TEST_F(Table, TakesNoSelectionsButtonRowsTabsGroupsOrTables) {
     EXPECT_FALSE(table->addCommandInput(inputs->addGroupCommandInput("group", ""), 0, 0));
     EXPECT_FALSE(table->addCommandInput(table, 0, 0));
     EXPECT_FALSE(table->addCommandInput(nullptr, 0, 0));
-    EXPECT_EQ(misuses().front(),
-              (Misuse{.operation = "TableCommandInput::addCommandInput",
-                      .text = "an input like \"pick\" cannot be in a table"}));
+    EXPECT_EQ(misuses().front(), (Misuse{.operation = "TableCommandInput::addCommandInput",
+                                         .text = "an input like \"pick\" cannot be in a table"}));
 }
 
 TEST_F(Table, TakesNoCellOverSeveralRowsAndNoInvalidPlace) {
