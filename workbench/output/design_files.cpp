@@ -68,7 +68,7 @@ std::string fileName(std::string name) {
 
 fs::path saveTarget(const std::string& file, const std::string& named) {
     const fs::path input = host::fromUtf8(file);
-    const fs::path target = host::fromUtf8(named);
+    fs::path target = host::fromUtf8(named);
     if (!target.empty() && !isDesignFile(target)) {
         refuse("--save " + named + ": the name of a design file must end in .json");
     }
