@@ -9,6 +9,19 @@
 #include <algorithm>
 
 namespace host::ui {
+namespace {
+
+UserInterfaceState makeState(UserInterfaceObject& ui, CommandRunner& runner,
+                             const HostSetup& setup) {
+    const auto workspaces = make<WorkspacesObject>(&ui, setup.workspaces);
+    return {.definitions = make<CommandDefinitionsObject>(&runner),
+            .workspaces = workspaces,
+            .panels = make<ToolbarPanelListObject>(workspaces.get()),
+            .palettes = make<PalettesObject>(),
+            .selections = make<SelectionsObject>()};
+}
+
+}  // namespace
 
 // The events' names are those that records show for what a handler threw.
 UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveModel& model)
@@ -22,11 +35,7 @@ UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveMod
       menuEvent(make<MarkingMenuEventObject>("OnMarkingMenuDisplaying", this)),
       model_(&model),
       runner_(this, setup.codeChanges),
-      state_{.definitions = make<CommandDefinitionsObject>(&runner_),
-             .workspaces = make<WorkspacesObject>(this, setup.workspaces),
-             .panels = make<ToolbarPanelListObject>(state_.workspaces.get()),
-             .palettes = make<PalettesObject>(),
-             .selections = make<SelectionsObject>()} {
+      state_(makeState(*this, runner_, setup)) {
     createDefaultLayout(setup);
 }
 
