@@ -16,11 +16,11 @@
 /// runs, that is inside a `gate::Module`: what the host and a session do among themselves is not a
 /// call. Without a host all calls pass uncounted.
 ///
-/// An operation of the API begins with
+/// A function of the API that is called on no object begins with
 ///
-///     if (refused<"CommandInput::id">()) return {};
+///     if (refused<"Point3D::create">()) return {};
 ///
-/// and costs an addition while no refusal is due and nothing is recorded.
+/// and costs an addition while nothing is refused or recorded. For objects see object.h.
 namespace host {
 
 /// A name that is known while compiling.

@@ -22,8 +22,7 @@
 ///   name with others are not identified by them; their part numbers are their component names.
 /// - A product without material is of the host's default material, one without density as dense.
 /// - An IGES file, recognised by its first line, is one component with all its bodies, named like
-/// the
-///   file.
+///   the file.
 /// - Instance numbers count the uses of a component from the top of the opened tree to its end.
 namespace host {
 

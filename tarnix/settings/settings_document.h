@@ -65,10 +65,9 @@ enum class MissingCategory { Create, LeaveOut };
 
 /// Replaces the items of a category in the stored document: opens it, removes what the category
 /// holds, adds an element "item_" + `categoryName` for each string of `readItems`, split at its
-/// first
-/// ";" into key and value, and saves. Categories of the same name all get the items. `readItems` is
-/// asked when a category has been emptied, and not where there is none. When anything throws, the
-/// file stays as it was; one that was missing has been made by then.
+/// first ";" into key and value, and saves. Categories of the same name all get the items.
+/// `readItems` is asked when a category has been emptied, and not where there is none. When
+/// anything throws, the file stays as it was; one that was missing has been made by then.
 void replaceCategoryItems(const std::string& categoryName,
                           const std::function<std::vector<std::string>()>& readItems,
                           MissingCategory missing = MissingCategory::Create);

@@ -15,8 +15,7 @@
 ///   them, none touches an ASCII letter, no small letter is followed by a capital, and at least two
 ///   letters are together;
 /// - else GBK when the bytes above 127 are in whole Chinese characters everywhere, at least two
-/// of
-///   them together;
+///   of them together;
 /// - else ISO 8859-1, which reads any byte, so that different texts stay different.
 namespace step {
 
