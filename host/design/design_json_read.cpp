@@ -80,7 +80,7 @@ ComponentData readComponent(const JsonNode& node) {
     ComponentData component;
     component.name = node.member("name").text();
     component.partNumber = node.member("partNumber").text();
-    component.hasExplicitPartNumber = node.flagOr("hasExplicitPartNumber", false);
+    component.hasExplicitPartNumber = node.flagOr("numberIsOwn", false);
     component.description = node.textOr("description", "");
     component.document = node.textOr("document", "");
     node.ifMember("material",

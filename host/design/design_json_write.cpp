@@ -50,7 +50,7 @@ Json geometryToJson(Geometry& geometry, bool hasSource) {
 
 Json componentToJson(const ComponentData& component, bool hasSource) {
     Json json = {{"name", component.name}, {"partNumber", component.partNumber}};
-    if (component.hasExplicitPartNumber) json["hasExplicitPartNumber"] = true;
+    if (component.hasExplicitPartNumber) json["numberIsOwn"] = true;
     if (!component.description.empty()) json["description"] = component.description;
     if (!component.document.empty()) json["document"] = component.document;
     if (component.material) {

@@ -144,6 +144,17 @@ TEST_F(DesignFile, ReadsWhatSomebodyWroteByHand) {
     EXPECT_EQ(data.components[1].geometry->box({}), (Box{{0, 0, 0}, {1, 1, 1}}));
 }
 
+TEST_F(DesignFile, NamesItsMembersAsFilesThatExistDo) {
+    const std::string text =
+        with(R"([{"name":"D","partNumber":"D-1","numberIsOwn":true,"children":[]}])");
+    write(path, text);
+
+    const DesignData data = loadDesignFile(path);
+    EXPECT_TRUE(data.components.at(0).hasExplicitPartNumber);
+    saveDesignFile(path, data);
+    EXPECT_NE(read(path).find("\"numberIsOwn\": true"), std::string::npos) << read(path);
+}
+
 TEST_F(DesignFile, NumbersHaveAPointWhateverTheLocale) {
     const test_support::CommaLocale locale;
     ASSERT_TRUE(locale.isSystems()) << "there is no Czech locale";
