@@ -57,7 +57,7 @@ private:
                     const ComponentProperties& properties);
 
     /// Caption of the button that is on, empty for none. The host reports only that the row
-    /// changed, and the button that was on before has to be told from the new one.
+    /// changed, and the button that was on before has to be distinguished from the new one.
     std::string selectedBomStructure_;
 };
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// A design whose occurrences can be told by where they are.
+/// A design whose occurrences are distinguished by where they are.
 namespace test_support {
 
 inline constexpr const char* kPlaced = R"(

@@ -30,7 +30,7 @@ void writeBomTable(adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences,
                    std::string partNumberPrefix, std::string bomStructurePrefix);
 
 /// Whether a cell's id names a custom property: what is between its first and its last "_" is
-/// none of the thirteen built-in names.
+/// no built-in name.
 bool isCustomPropertyId(std::string id);
 
 }  // namespace tarnix
