@@ -15,10 +15,11 @@ TEST_F(ModulePath, HasBackslashesBetweenFolders) {
 }
 
 TEST_F(ModulePath, IsCutOffAtTheLimitOf260WideCharacters) {
-    const std::filesystem::path deep =
-        folder.path() / std::string(150, 'a') / std::string(150, 'b');
+    const std::filesystem::path inner =
+        std::filesystem::path(std::string(150, 'a')) / std::string(150, 'b');
+    const std::filesystem::path deep = folder.path() / inner;
     std::filesystem::create_directories(test::longPath(deep));
-    const std::string whole = folder.windows(std::string(150, 'a') + "/" + std::string(150, 'b'));
+    const std::string whole = folder.windows(inner.generic_string());
 
     EXPECT_EQ(pathOfProbeAt(test::longPath(deep / "Probe.dll")), whole.substr(0, 259));
 }
