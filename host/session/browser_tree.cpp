@@ -10,10 +10,7 @@
 namespace host {
 
 using namespace adsk::core;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::fusion;
 
 namespace {
 

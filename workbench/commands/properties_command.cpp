@@ -21,8 +21,7 @@ namespace workbench {
 namespace {
 
 using namespace adsk::core;
-using adsk::fusion::Component;
-using adsk::fusion::Occurrence;
+using namespace adsk::fusion;
 
 struct PropertyEdit {
     std::string name;

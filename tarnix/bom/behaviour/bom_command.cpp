@@ -21,20 +21,8 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::Command;
-using adsk::core::CommandCreatedEventArgs;
-using adsk::core::CommandEventArgs;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::ListItem;
-using adsk::core::Product;
-using adsk::core::Ptr;
-using adsk::core::Selections;
-using adsk::core::TableCommandInput;
-using adsk::fusion::Component;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace {
 

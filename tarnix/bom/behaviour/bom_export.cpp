@@ -11,16 +11,7 @@
 
 namespace tarnix {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::ListItem;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 namespace {
 

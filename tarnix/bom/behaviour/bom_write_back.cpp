@@ -17,22 +17,8 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::Attributes;
-using adsk::core::Command;
-using adsk::core::CommandEventArgs;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::ImageCommandInput;
-using adsk::core::ListItem;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::fusion::Component;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace {
 

@@ -13,16 +13,7 @@
 
 namespace tarnix {
 
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::ListItem;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 
 namespace {
 

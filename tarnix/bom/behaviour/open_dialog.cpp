@@ -7,18 +7,8 @@
 
 namespace tarnix {
 
-using adsk::core::Application;
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::ListItem;
-using adsk::core::ListItems;
-using adsk::core::Product;
-using adsk::core::Ptr;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 Ptr<Component> activeRootComponent() {
     const Ptr<Application> application = Application::get();

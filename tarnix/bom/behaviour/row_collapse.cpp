@@ -16,12 +16,7 @@
 
 namespace tarnix {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 
 namespace {
 

@@ -10,9 +10,7 @@
 
 namespace tarnix {
 
-using adsk::core::Ptr;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 namespace {
 

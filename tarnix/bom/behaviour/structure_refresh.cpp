@@ -16,16 +16,8 @@
 
 namespace tarnix {
 
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::ListItem;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::fusion::Component;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace {
 

@@ -13,12 +13,7 @@
 
 namespace tarnix {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInput;
-using adsk::core::DropDownCommandInput;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 
 namespace {
 

@@ -11,12 +11,8 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::BoundingBox3D;
-using adsk::core::Material;
-using adsk::core::Point3D;
-using adsk::core::Ptr;
-using adsk::fusion::LowCalculationAccuracy;
-using adsk::fusion::PhysicalProperties;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 std::string quantityText(const BomRow& row) { return decimal(row.quantity); }
 

@@ -13,9 +13,8 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Ptr;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 std::string relativePosition(int level, std::size_t index) {
     return level < 2 ? std::string() : "." + std::to_string(index + 1);

@@ -12,15 +12,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::ListItem;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::core::TextListDropDownStyle;
+using namespace adsk::core;
 
 constexpr const char* kNotice =
     R"(<div style="background-color:#fefa50" align="center">The changes in the layout of BOM )"

@@ -9,11 +9,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 
 /// A read-only field, whose value is passed at creation and set once more.
 Ptr<StringValueCommandInput> addShownField(const Ptr<CommandInputs>& inputs, const std::string& id,

@@ -7,15 +7,7 @@
 
 namespace tarnix {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::core::TextListDropDownStyle;
+using namespace adsk::core;
 
 namespace {
 

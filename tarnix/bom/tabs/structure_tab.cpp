@@ -7,15 +7,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::ListItems;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TabCommandInput;
-using adsk::core::TableCommandInput;
-using adsk::core::TextListDropDownStyle;
+using namespace adsk::core;
 
 /// False where the host refused the drop-down or its items.
 bool addSortOrder(const Ptr<CommandInputs>& inputs) {

@@ -10,7 +10,7 @@
 namespace host {
 namespace {
 
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 /// An event of the tests' own, as the public API would declare it.
 class PingArgs : public adsk::core::EventArgs {};

@@ -1,9 +1,7 @@
 #include "host/base/last_error.h"
 #include "tests/host/design/design_fixture.h"
 
-using adsk::core::Attribute;
-using adsk::core::Attributes;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 namespace host {
 namespace {

@@ -2,9 +2,8 @@
 #include "host/design/geometry.h"
 #include "tests/host/design/design_fixture.h"
 
-using adsk::core::Material;
-using adsk::core::Ptr;
-using adsk::fusion::Component;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

@@ -2,10 +2,8 @@
 
 #include <utility>
 
-using adsk::core::Ptr;
-using adsk::fusion::Component;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

@@ -1,10 +1,7 @@
 #include "host/base/gate.h"
 #include "tests/host/design/design_fixture.h"
 
-using adsk::core::BoundingBox3D;
-using adsk::core::Matrix3D;
-using adsk::core::Point3D;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 namespace host {
 namespace {

@@ -6,19 +6,8 @@
 
 #include <utility>
 
-using adsk::core::Attribute;
-using adsk::core::Attributes;
-using adsk::core::Document;
-using adsk::core::Material;
-using adsk::core::Matrix3D;
-using adsk::core::Product;
-using adsk::core::Ptr;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
-using adsk::fusion::Occurrences;
-using adsk::fusion::Sketch;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

@@ -7,10 +7,8 @@
 #include <memory>
 #include <stdexcept>
 
-using adsk::core::BoundingBox3D;
-using adsk::core::Matrix3D;
-using adsk::core::Ptr;
-using adsk::fusion::PhysicalProperties;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

@@ -1,9 +1,7 @@
 #include "tests/host/design/design_fixture.h"
 
-using adsk::core::Ptr;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
-using adsk::fusion::Occurrences;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

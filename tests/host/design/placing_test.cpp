@@ -3,9 +3,8 @@
 #include "host/design/transform.h"
 #include "tests/host/design/design_fixture.h"
 
-using adsk::core::Matrix3D;
-using adsk::core::Ptr;
-using adsk::fusion::Occurrence;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

@@ -1,8 +1,7 @@
 #include "tests/host/design/design_fixture.h"
 
-using adsk::core::Ptr;
-using adsk::fusion::Sketch;
-using adsk::fusion::SketchCurve;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 namespace host {
 namespace {

@@ -21,7 +21,7 @@
 
 namespace host {
 
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 /// A handler whose notification is a function.
 template <class Handler, class Arguments>

@@ -11,11 +11,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::Application;
-using adsk::core::CommandCreatedEventArgs;
-using adsk::core::CommandCreatedEventHandler;
-using adsk::core::CommandDefinition;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 class CountingHandler final : public CommandCreatedEventHandler {
 public:

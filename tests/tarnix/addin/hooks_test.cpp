@@ -11,8 +11,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::Ptr;
-using adsk::core::ToolbarControl;
+using namespace adsk::core;
 
 class WorkspaceHook : public AddinUiTest {};
 

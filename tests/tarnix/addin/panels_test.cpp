@@ -7,7 +7,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 class HelpdeskPanel : public RegistrationTest {};
 

@@ -14,8 +14,7 @@
 namespace {
 
 using namespace adsk::core;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
+using namespace adsk::fusion;
 
 constexpr const char* kCommand = "QM_TX_moveComponentToOrigin";
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-using adsk::core::Ptr;
+using namespace adsk::core;
 using host::SketchCurveData;
 
 constexpr const char* kCommand = "QM_TX_projectedEntitiesAsConstruction";

@@ -6,8 +6,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Ptr;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 /// A test with the user's data: a project "Alfa", whose folders each test fills.
 class FullPath : public PropertiesTest {

@@ -7,9 +7,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Ptr;
-using adsk::core::SelectionCommandInput;
-using adsk::core::TabCommandInput;
+using namespace adsk::core;
 
 class PropertiesDialog : public PropertiesTest {
 protected:

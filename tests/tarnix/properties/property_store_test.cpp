@@ -14,9 +14,8 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Document;
-using adsk::core::Ptr;
-using adsk::fusion::Component;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 using Entries = std::vector<PropertyEntry>;
 

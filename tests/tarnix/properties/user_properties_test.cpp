@@ -7,9 +7,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::Ptr;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 class UserProperties : public PropertiesTest {
 protected:

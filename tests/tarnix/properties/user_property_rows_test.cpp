@@ -6,10 +6,7 @@
 namespace tarnix {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 
 /// The table of the custom properties alone, in the test's dialog.
 class UserPropertyRows : public host::HostTest {

@@ -13,9 +13,7 @@
 
 namespace refusal {
 
-using adsk::core::Ptr;
-using adsk::core::StringValueCommandInput;
-using adsk::core::TableCommandInput;
+using namespace adsk::core;
 using host::Session;
 
 namespace {

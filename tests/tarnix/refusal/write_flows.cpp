@@ -11,7 +11,7 @@
 namespace refusal {
 namespace {
 
-using adsk::core::Application;
+using namespace adsk::core;
 using host::Session;
 using test_support::kModelTab;
 using test_support::kModelTable;

@@ -10,8 +10,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 class InputRouting : public BomDialogTest {};
 

@@ -5,9 +5,7 @@
 namespace test_support {
 
 using namespace adsk::core;
-using adsk::fusion::Component;
-using adsk::fusion::Design;
-using adsk::fusion::Occurrence;
+using namespace adsk::fusion;
 
 std::string BomDialogTest::selected() const {
     const Ptr<Selections> selections = Application::get()->userInterface()->activeSelections();

@@ -5,9 +5,8 @@
 namespace test_support {
 namespace {
 
-using adsk::core::Attribute;
-using adsk::core::Ptr;
-using adsk::fusion::Component;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 constexpr const char* kGroup = "QEMA_PropertiesAttributesGroup";
 

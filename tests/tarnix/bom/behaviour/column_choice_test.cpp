@@ -5,10 +5,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::Command;
-using adsk::core::DropDownCommandInput;
-using adsk::core::InputChangedEventArgs;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 /// The inputs of a dialog that were reported to its handlers while this lives.
 class ChangedInputs final : public adsk::core::InputChangedEventHandler {

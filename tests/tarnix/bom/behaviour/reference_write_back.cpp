@@ -14,9 +14,7 @@
 namespace reference {
 
 using namespace adsk::core;
-using adsk::fusion::Component;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::fusion;
 using tarnix::BomRow;
 
 namespace {

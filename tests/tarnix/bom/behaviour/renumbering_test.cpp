@@ -15,10 +15,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
-using adsk::core::TableCommandInput;
-using adsk::core::TextBoxCommandInput;
+using namespace adsk::core;
 
 /// A table whose second column holds text boxes.
 class Renumbering : public AddinTest {

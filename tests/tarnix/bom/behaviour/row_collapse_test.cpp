@@ -7,8 +7,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::Ptr;
+using namespace adsk::core;
 
 /// Row 2 is a frame with a leg assembly and a foot; rows 20 and 21 begin with the same digit.
 constexpr const char* kFrames = R"(

@@ -8,9 +8,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::BoolValueCommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
+using namespace adsk::core;
 using tarnix::collapseRows;
 
 /// A table of the model table's id, in which row 0 has rows below it like any other.

@@ -8,9 +8,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::CommandInput;
-using adsk::core::CommandInputs;
-using adsk::core::Ptr;
+using namespace adsk::core;
 using tarnix::sortStructureTable;
 
 class SyntheticSorting : public SyntheticTable {

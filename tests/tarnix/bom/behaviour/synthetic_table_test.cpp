@@ -10,10 +10,7 @@
 namespace test_support {
 namespace {
 
-using adsk::core::CommandInputs;
-using adsk::core::DropDownCommandInput;
-using adsk::core::Ptr;
-using adsk::core::TextListDropDownStyle;
+using namespace adsk::core;
 
 TEST_F(SyntheticTable, IsExportedWithTheUnderscoresOfItsTextBoxesAsSpaces) {
     show("synthetic", 1, [&](const Ptr<CommandInputs>& inputs) {

@@ -8,9 +8,8 @@
 
 #include <stdexcept>
 
-using adsk::core::Ptr;
-using adsk::fusion::Component;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::core;
+using namespace adsk::fusion;
 
 OpenDesign::OpenDesign(const host::DesignData& data) : document_(host::makeDocument(data)) {}
 

@@ -6,9 +6,8 @@
 namespace reference {
 namespace {
 
-using adsk::core::Ptr;
-using adsk::fusion::Occurrence;
-using adsk::fusion::OccurrenceList;
+using namespace adsk::core;
+using namespace adsk::fusion;
 using tarnix::BomModel;
 using tarnix::BomRow;
 using tarnix::PropertyEntry;
