@@ -1,11 +1,11 @@
 #include "tarnix/commands/online_models.h"
 
+#include "tarnix/settings/web_addresses.h"
+
 namespace tarnix {
 namespace {
 
 using namespace adsk::core;
-
-constexpr const char* kPage = "http://www.tarnix.example/download/CAM/f360/fusion_pruvodce.htm";
 
 /// The host's palettes, null where anything on the way is missing.
 Ptr<Palettes> hostPalettes() {
@@ -16,10 +16,10 @@ Ptr<Palettes> hostPalettes() {
 }
 
 void addPalette(const Ptr<Palettes>& palettes) {
-    const Ptr<Palette> palette =
-        palettes->add(kOnlineModelsPaletteId, "On-Line models", kPage, /*isVisible=*/true,
-                      /*showCloseButton=*/true, /*isResizable=*/true, /*width=*/350, /*height=*/300,
-                      /*useNewWebBrowser=*/false);
+    const Ptr<Palette> palette = palettes->add(
+        kOnlineModelsPaletteId, "On-Line models", onlineModelsPage, /*isVisible=*/true,
+        /*showCloseButton=*/true, /*isResizable=*/true, /*width=*/350, /*height=*/300,
+        /*useNewWebBrowser=*/false);
     palette->dockingState(PaletteDockStateLeft);
 }
 

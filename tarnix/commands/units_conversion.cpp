@@ -1,6 +1,7 @@
 #include "tarnix/commands/units_conversion.h"
 
 #include "tarnix/platform/top_windows.h"
+#include "tarnix/settings/web_addresses.h"
 
 #include <string>
 
@@ -11,7 +12,6 @@ using namespace adsk::core;
 using platform::TopWindow;
 
 constexpr const char* kHostTitle = "Autodesk Fusion 360";
-constexpr const char* kPage = "http://www.tarnix.example/units/units-cmd.asp?app=Inventor";
 constexpr int kWidth = 260;
 constexpr int kHeight = 400;
 
@@ -27,10 +27,10 @@ Ptr<Palette> shownPalette(const Ptr<Palettes>& palettes) {
         palette->isVisible(true);
         return palette;
     }
-    palette =
-        palettes->add(kUnitsConversionPaletteId, "Units Conversion", kPage, /*isVisible=*/true,
-                      /*showCloseButton=*/true, /*isResizable=*/true, kWidth, kHeight,
-                      /*useNewWebBrowser=*/false);
+    palette = palettes->add(kUnitsConversionPaletteId, "Units Conversion", unitsConversionPage,
+                            /*isVisible=*/true,
+                            /*showCloseButton=*/true, /*isResizable=*/true, kWidth, kHeight,
+                            /*useNewWebBrowser=*/false);
     if (palette) {
         palette->dockingState(PaletteDockStateFloating);
     }

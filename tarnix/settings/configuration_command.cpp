@@ -1,6 +1,7 @@
 #include "tarnix/settings/configuration_command.h"
 
 #include "tarnix/settings/settings_document.h"
+#include "tarnix/settings/web_addresses.h"
 
 #include <string>
 
@@ -17,9 +18,6 @@ constexpr const char* kProviderAddress = "helpdeskOther";
 // Places in the list of providers.
 constexpr int kDefaultProvider = 0;
 constexpr int kOtherProvider = 1;
-
-constexpr const char* kDescription =
-    "Enter the URL of your support provider e.g. http://support.fusion.example/";
 
 Ptr<ListItems> addChoice(const Ptr<CommandInputs>& inputs) {
     const Ptr<RadioButtonGroupCommandInput> choice =
@@ -44,7 +42,10 @@ void showAddress(const Ptr<TextBoxCommandInput>& address) {
 void buildConfigurationDialog(const Ptr<Command>& command) {
     const Ptr<CommandInputs> inputs = command->commandInputs();
     const Ptr<ListItems> providers = addChoice(inputs);
-    inputs->addTextBoxCommandInput(kProviderDescription, "", kDescription, 2, /*isReadOnly=*/true);
+    inputs->addTextBoxCommandInput(
+        kProviderDescription, "",
+        std::string("Enter the URL of your support provider e.g. ") + exampleHelpdeskUrl, 2,
+        /*isReadOnly=*/true);
     const std::string url = readHelpdeskUrl();
     const Ptr<TextBoxCommandInput> address =
         inputs->addTextBoxCommandInput(kProviderAddress, "", url, 2, /*isReadOnly=*/false);

@@ -3,6 +3,7 @@
 #include "tarnix/platform/com.h"
 #include "tarnix/platform/files.h"
 #include "tarnix/platform/module_path.h"
+#include "tarnix/settings/web_addresses.h"
 #include "tarnix/text/checked.h"
 
 #include <exception>

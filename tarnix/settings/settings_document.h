@@ -17,9 +17,6 @@
 /// is not XML is not repaired: what needs its root throws `E_POINTER`.
 namespace tarnix {
 
-/// The web address of the default support provider's helpdesk.
-inline constexpr const char* defaultHelpdeskUrl = "http://helpdesk.tarnix.example/";
-
 /// Path of the settings document: the module's own, with the first ".dll" in it replaced by
 /// "_configuration.xml". Throws `std::out_of_range` when the module's path has no ".dll".
 std::string settingsFilePath();

@@ -72,7 +72,7 @@ TEST_F(Configuration, DescribesTheAddressInABoxThatIsAlwaysVisible) {
     EXPECT_EQ(box->id(), "helpdeskOtherDecription");
     EXPECT_EQ(box->name(), "");
     EXPECT_EQ(box->text(),
-              "Enter the URL of your support provider e.g. http://support.fusion.example/");
+              "Enter the URL of your support provider e.g. http://www.autodesk.com/support");
     EXPECT_EQ(box->numRows(), 2);
     EXPECT_TRUE(box->isReadOnly());
     EXPECT_TRUE(box->isVisible());

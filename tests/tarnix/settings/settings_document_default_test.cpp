@@ -1,5 +1,6 @@
 #include "tests/tarnix/settings/settings_fixture.h"
 
+#include "tarnix/settings/web_addresses.h"
 #include "tests/support/settings.h"
 
 namespace tarnix {
