@@ -4,6 +4,7 @@
 #include "host/application/import_manager.h"
 #include "host/base/object.h"
 #include "host/design/design_data.h"
+#include "host/design/reading_warning.h"
 #include "host/ui/active_model.h"
 #include "host/ui/dialogs/messages.h"
 #include "host/ui/host_setup.h"
@@ -69,7 +70,7 @@ public:
     }
 
     /// What the user should know of files that modules opened, one line each, oldest first.
-    std::vector<std::string> importWarnings;
+    std::vector<ReadingWarning> importWarnings;
 
     /// Sets the user's projects; null for none.
     void setData(const core::Ptr<core::Data>& data);

@@ -43,6 +43,9 @@ public:
     /// Volume, in cm3.
     virtual double volume() = 0;
 
+    /// How many bodies: solids, shells and faces that belong to no solid.
+    virtual std::size_t bodies() { return 1; }
+
     /// The box around the bodies when they are placed by `placement`; none when there is no body.
     virtual std::optional<Box> box(const Transform& placement) = 0;
 };
@@ -50,6 +53,11 @@ public:
 struct MaterialData {
     std::string name;
     double density = 0;  ///< kg/cm3
+
+    /// The source names none: the name is that of the host's default material.
+    bool nameAssumed = false;
+    /// The source has none that is understood: it is that of the host's default material.
+    bool densityAssumed = false;
 
     bool operator==(const MaterialData&) const = default;
 };

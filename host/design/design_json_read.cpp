@@ -69,11 +69,19 @@ std::shared_ptr<Geometry> readGeometry(const JsonNode& node) {
     node.ifMember("min", [&](const JsonNode& min) {
         box = Box{.min = readNumbers<3>(min), .max = readNumbers<3>(node.member("max"))};
     });
-    return fixedGeometry(readSize(node.member("area")), readSize(node.member("volume")), box);
+    std::size_t bodies = 1;
+    node.ifMember("bodies", [&](const JsonNode& count) {
+        bodies = count.whole(std::numeric_limits<int>::max());
+    });
+    return fixedGeometry(readSize(node.member("area")), readSize(node.member("volume")), box,
+                         bodies);
 }
 
 MaterialData readMaterial(const JsonNode& node) {
-    return {node.member("name").text(), readSize(node.member("density"))};
+    return {.name = node.member("name").text(),
+            .density = readSize(node.member("density")),
+            .nameAssumed = node.flagOr("nameAssumed", false),
+            .densityAssumed = node.flagOr("densityAssumed", false)};
 }
 
 ComponentData readComponent(const JsonNode& node) {

@@ -45,6 +45,16 @@ Json geometryToJson(Geometry& geometry, bool hasSource) {
         json["min"] = box->min;
         json["max"] = box->max;
     }
+    if (const std::size_t bodies = geometry.bodies(); bodies != 1) {
+        json["bodies"] = bodies;
+    }
+    return json;
+}
+
+Json materialToJson(const MaterialData& material) {
+    Json json = {{"name", material.name}, {"density", material.density}};
+    if (material.nameAssumed) json["nameAssumed"] = true;
+    if (material.densityAssumed) json["densityAssumed"] = true;
     return json;
 }
 
@@ -54,8 +64,7 @@ Json componentToJson(const ComponentData& component, bool hasSource) {
     if (!component.description.empty()) json["description"] = component.description;
     if (!component.document.empty()) json["document"] = component.document;
     if (component.material) {
-        json["material"] = {{"name", component.material->name},
-                            {"density", component.material->density}};
+        json["material"] = materialToJson(*component.material);
     }
     if (!component.attributes.empty()) {
         json["attributes"] = attributesToJson(component.attributes);

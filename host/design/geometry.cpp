@@ -4,12 +4,14 @@
 
 namespace host {
 
-FixedGeometry::FixedGeometry(double area, double volume, std::optional<Box> box)
-    : area_(area), volume_(volume), box_(box) {}
+FixedGeometry::FixedGeometry(double area, double volume, std::optional<Box> box, std::size_t bodies)
+    : area_(area), volume_(volume), box_(box), bodies_(bodies) {}
 
 double FixedGeometry::area() { return area_; }
 
 double FixedGeometry::volume() { return volume_; }
+
+std::size_t FixedGeometry::bodies() { return bodies_; }
 
 std::optional<Box> FixedGeometry::box(const Transform& placement) {
     if (!box_) {
@@ -23,8 +25,9 @@ std::shared_ptr<Geometry> boxGeometry(double dx, double dy, double dz) {
     return fixedGeometry(area, dx * dy * dz, Box{.min = {0, 0, 0}, .max = {dx, dy, dz}});
 }
 
-std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box) {
-    return std::make_shared<FixedGeometry>(area, volume, box);
+std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box,
+                                        std::size_t bodies) {
+    return std::make_shared<FixedGeometry>(area, volume, box, bodies);
 }
 
 }  // namespace host

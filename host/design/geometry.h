@@ -12,22 +12,25 @@ namespace host {
 /// When it is placed askew, its box is the one around the placed box.
 class FixedGeometry final : public Geometry {
 public:
-    FixedGeometry(double area, double volume, std::optional<Box> box);
+    FixedGeometry(double area, double volume, std::optional<Box> box, std::size_t bodies = 1);
 
     double area() override;
     double volume() override;
+    std::size_t bodies() override;
     std::optional<Box> box(const Transform& placement) override;
 
 private:
     double area_;
     double volume_;
     std::optional<Box> box_;
+    std::size_t bodies_;
 };
 
 /// A box between the origin and the corner (dx, dy, dz), in cm.
 std::shared_ptr<Geometry> boxGeometry(double dx, double dy, double dz);
 
-/// Measures as declared: cm2, cm3, and the box of the body as it is modelled, if it has any.
-std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box);
+/// Measures as declared: cm2, cm3, and the box of the bodies as they are modelled, if there is any.
+std::shared_ptr<Geometry> fixedGeometry(double area, double volume, std::optional<Box> box,
+                                        std::size_t bodies = 1);
 
 }  // namespace host

@@ -25,7 +25,7 @@ bool looksLikeDesignFile(const std::filesystem::path& file) {
 }  // namespace
 
 DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,
-                      const ImportProgress& progress, std::vector<std::string>& warnings) {
+                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
     if (!looksLikeDesignFile(file)) {
         return importStep(toUtf8(file), limits, progress, warnings);
     }

@@ -12,10 +12,10 @@ namespace host {
 
 /// Reads a design out of a file: STEP, or a design file of this host, recognised by its content.
 ///
-/// What the user should know although the design could be read is appended to `warnings`, one line
-/// each. Throws an `ImportError` or a `DesignError`, one line that names the file, for one that
-/// cannot be read. It needs no session, and a relative path starts in the working directory.
+/// What the user should know although the design could be read is appended to `warnings`. Throws an
+/// `ImportError` or a `DesignError`, one line that names the file, for one that cannot be read. It
+/// needs no session, and a relative path starts in the working directory.
 DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,
-                      const ImportProgress& progress, std::vector<std::string>& warnings);
+                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings);
 
 }  // namespace host

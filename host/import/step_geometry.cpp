@@ -41,8 +41,9 @@ void append(std::string& text, double value) {
 
 }  // namespace
 
-StepGeometry::StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file)
-    : reader_(std::move(reader)), shape_(shape), file_(std::move(file)) {}
+StepGeometry::StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file,
+                           std::size_t bodies)
+    : reader_(std::move(reader)), shape_(shape), file_(std::move(file)), bodies_(bodies) {}
 
 double StepGeometry::area() {
     measure();

@@ -14,11 +14,14 @@ namespace host {
 /// question, and where it crashed or was ended for every later one.
 class StepGeometry final : public Geometry {
 public:
-    /// The number of the shape is the reader's; `file` names the source in the text of a failure.
-    StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file);
+    /// The number of the shape is the reader's, which counted its bodies; `file` names the source
+    /// in the text of a failure.
+    StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file,
+                 std::size_t bodies = 1);
 
     double area() override;
     double volume() override;
+    std::size_t bodies() override { return bodies_; }
     std::optional<Box> box(const Transform& placement) override;
 
 private:
@@ -27,6 +30,7 @@ private:
     std::shared_ptr<ReaderProcess> reader_;
     int shape_;
     std::string file_;
+    std::size_t bodies_;
     bool measured_ = false;
     std::string failure_;  ///< why it could not be measured; empty when it could
     double area_ = 0;

@@ -23,7 +23,7 @@ using nlohmann::json;
 class ResponseReader {
 public:
     ResponseReader(ReaderProcess& reader, const std::string& path, const ImportProgress& progress,
-                   std::vector<std::string>& warnings)
+                   std::vector<ReadingWarning>& warnings)
         : reader_(reader), path_(path), progress_(progress), warnings_(warnings) {}
 
     json design() {
@@ -51,7 +51,7 @@ private:
             throw ImportError(path_ + ": " + line["error"].get<std::string>());
         }
         if (line.contains("warning")) {
-            warnings_.push_back(path_ + ": " + line["warning"].get<std::string>());
+            warnings_.push_back(warningOf(line["warning"]));
         }
         faults_ = line.value("faults", faults_);
         if (line.contains("progress")) {
@@ -62,10 +62,23 @@ private:
         }
     }
 
+    [[nodiscard]] ReadingWarning warningOf(const json& from) const {
+        ReadingWarning warning{.code = from.at("code"),
+                               .file = path_,
+                               .text = from.at("text"),
+                               .component = from.value("component", ""),
+                               .value = {},
+                               .unit = from.value("unit", "")};
+        if (from.contains("value")) {
+            warning.value = from["value"].get<double>();
+        }
+        return warning;
+    }
+
     ReaderProcess& reader_;
     const std::string& path_;
     const ImportProgress& progress_;
-    std::vector<std::string>& warnings_;
+    std::vector<ReadingWarning>& warnings_;
     std::string stage_ = "Starting";
     std::string faults_;
 };
@@ -104,7 +117,7 @@ public:
         if (const int shape = from.at("shape"); shape >= 0) {
             std::shared_ptr<Geometry>& geometry = geometries_[shape];
             if (geometry == nullptr) {
-                geometry = std::make_shared<StepGeometry>(reader_, shape, path_);
+                geometry = std::make_shared<StepGeometry>(reader_, shape, path_, from.at("bodies"));
             }
             component.data.geometry = geometry;
         }
@@ -116,8 +129,12 @@ private:
         MaterialData material = defaultMaterial();
         if (const std::string name = from.value("material", ""); !name.empty()) {
             material.name = name;
+            material.nameAssumed = false;
         }
-        material.density = from.value("density", material.density);
+        if (from.contains("density")) {
+            material.density = from["density"];
+            material.densityAssumed = false;
+        }
         return material;
     }
 
@@ -167,10 +184,12 @@ DesignData designFrom(const json& read, const fs::path& given, const fs::path& f
 
 }  // namespace
 
-MaterialData defaultMaterial() { return {"Steel", 0.00785}; }
+MaterialData defaultMaterial() {
+    return {.name = "Steel", .density = 0.00785, .nameAssumed = true, .densityAssumed = true};
+}
 
 DesignData importStep(const std::string& path, const ReadingLimits& limits,
-                      const ImportProgress& progress, std::vector<std::string>& warnings) {
+                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
     const fs::path file = checkStepFile(path);
     std::shared_ptr<ReaderProcess> reader;
     try {

@@ -2,6 +2,7 @@
 
 #include "host/design/design_data.h"
 #include "host/design/reading_limits.h"
+#include "host/design/reading_warning.h"
 
 #include <functional>
 #include <stdexcept>
@@ -23,6 +24,7 @@
 /// - A product without material is of the host's default material, one without density as dense.
 /// - An IGES file, recognised by its first line, is one component with all its bodies, named like
 ///   the file.
+/// - What the file does not say is marked in `MaterialData`.
 /// - Instance numbers count the uses of a component from the top of the opened tree to its end.
 namespace host {
 
@@ -35,16 +37,20 @@ public:
 /// Reports how far an import is: a stage ("Reading", "Building") and the part of it that is done.
 using ImportProgress = std::function<void(const std::string& stage, double fraction)>;
 
-/// The material of components that have none of their own.
+/// The material of components that have none of their own; both its members are marked as assumed.
 MaterialData defaultMaterial();
 
 /// Reads a STEP file. The path may be relative; an empty `progress` is not called. What the user
-/// should know although the design could be read is appended to `warnings`, one line each. Throws
-/// `ImportError`.
+/// should know although the design could be read is appended to `warnings`. Throws `ImportError`.
+///
+/// The codes of warnings: "missing-reference" (to an entity of the file), "faulty-entity",
+/// "missing-product", "missing-file", "unreadable-file", "no-placement", "incomplete-body",
+/// "no-body", "density-unit" (what is stated is no density; the default one is taken),
+/// "density-range" (it is no material's, and taken all the same).
 ///
 /// A measurement that fails later (the reader crashed, or took more than the limits allow) throws a
 /// `std::runtime_error`. A reader that crashed or was ended measures nothing any more.
 DesignData importStep(const std::string& path, const ReadingLimits& limits,
-                      const ImportProgress& progress, std::vector<std::string>& warnings);
+                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings);
 
 }  // namespace host

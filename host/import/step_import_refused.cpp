@@ -2,10 +2,13 @@
 
 namespace host {
 
-MaterialData defaultMaterial() { return {"Steel", 0.00785}; }
+MaterialData defaultMaterial() {
+    return {.name = "Steel", .density = 0.00785, .nameAssumed = true, .densityAssumed = true};
+}
 
 DesignData importStep(const std::string& path, const ReadingLimits& /*limits*/,
-                      const ImportProgress& /*progress*/, std::vector<std::string>& /*warnings*/) {
+                      const ImportProgress& /*progress*/,
+                      std::vector<ReadingWarning>& /*warnings*/) {
     throw ImportError(path +
                       ": STEP files cannot be read on Windows, for want of Open CASCADE; "
                       "open a design file (.json) instead");

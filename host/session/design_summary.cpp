@@ -9,10 +9,16 @@ namespace {
 
 void countMaterial(std::vector<MaterialUse>& uses, const MaterialData& material) {
     const auto known = std::find_if(uses.begin(), uses.end(), [&](const MaterialUse& use) {
-        return use.name == material.name && use.density == material.density;
+        return use.name == material.name && use.density == material.density &&
+               use.nameAssumed == material.nameAssumed &&
+               use.densityAssumed == material.densityAssumed;
     });
     if (known == uses.end()) {
-        uses.push_back({.name = material.name, .density = material.density, .components = 1});
+        uses.push_back({.name = material.name,
+                        .density = material.density,
+                        .components = 1,
+                        .nameAssumed = material.nameAssumed,
+                        .densityAssumed = material.densityAssumed});
     } else {
         ++known->components;
     }
@@ -34,6 +40,7 @@ DesignSummary summarize(const DesignData& design) {
         ++summary.bodies;
         if (component.material) {
             countMaterial(summary.materials, *component.material);
+            summary.withoutMaterial += component.material->nameAssumed ? 1 : 0;
         }
     }
     return summary;

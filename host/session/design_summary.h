@@ -13,6 +13,8 @@ struct MaterialUse {
     std::string name;
     double density = 0;  ///< kg/cm3
     std::size_t components = 0;
+    bool nameAssumed = false;     ///< the source names none
+    bool densityAssumed = false;  ///< the source has none that is understood
 
     bool operator==(const MaterialUse&) const = default;
 };
@@ -26,6 +28,7 @@ struct DesignSummary {
         0;                   ///< every use of every component, those in sub-assemblies repeated
     std::size_t levels = 0;  ///< how deep assemblies are nested; 0 without occurrences
     std::size_t bodies = 0;  ///< components that have a shape of their own
+    std::size_t withoutMaterial = 0;     ///< components with a shape whose material is assumed
     std::vector<MaterialUse> materials;  ///< in the order in which components name them
 };
 

@@ -120,10 +120,10 @@ void Session::show(const Ptr<Document>& document, const Ptr<Product>& product) {
     endDocument(before);
 }
 
-std::vector<std::string> Session::open(const std::filesystem::path& file,
-                                       const ReadingLimits& limits,
-                                       const ImportProgress& progress) {
-    std::vector<std::string> warnings;
+std::vector<ReadingWarning> Session::open(const std::filesystem::path& file,
+                                          const ReadingLimits& limits,
+                                          const ImportProgress& progress) {
+    std::vector<ReadingWarning> warnings;
     openDesign(readDesign(absolute(file), limits, progress, warnings), file);
     return warnings;
 }
@@ -249,7 +249,7 @@ const std::vector<UncaughtException>& Session::uncaughtExceptions() const {
 
 void Session::clearUncaughtExceptions() { host::clearUncaughtExceptions(); }
 
-const std::vector<std::string>& Session::importWarnings() const {
+const std::vector<ReadingWarning>& Session::importWarnings() const {
     return ApplicationObject::current()->importWarnings;
 }
 

@@ -106,9 +106,9 @@ public:
     /// Opens a file, which replaces the document that is open: STEP or a design file, by its
     /// content. A relative path starts in the working directory before the session. Returns the
     /// warnings of the reader; throws what it cannot read, with the earlier document still open.
-    std::vector<std::string> open(const std::filesystem::path& file,
-                                  const ReadingLimits& limits = {},
-                                  const ImportProgress& progress = {});
+    std::vector<ReadingWarning> open(const std::filesystem::path& file,
+                                     const ReadingLimits& limits = {},
+                                     const ImportProgress& progress = {});
 
     /// Opens a design drawn as an outline; throws a `DesignError` for one that cannot be read.
     void openOutline(const std::string& outline);
@@ -209,7 +209,7 @@ public:
 
     /// The warnings of the reader about files that the module opened, as `open` returns them for
     /// others.
-    [[nodiscard]] const std::vector<std::string>& importWarnings() const;
+    [[nodiscard]] const std::vector<ReadingWarning>& importWarnings() const;
 
     /// The components of the open design that were asked for their size and could not be measured:
     /// each counts as nothing in every sum.

@@ -13,7 +13,7 @@
 namespace workbench {
 
 host::DesignData readDesign(const std::string& file, const host::ReadingLimits& limits) {
-    std::vector<std::string> warnings;
+    std::vector<host::ReadingWarning> warnings;
     try {
         ProgressLine line;
         constexpr double kPercent = 100;

@@ -26,9 +26,9 @@ void reportMessages(const std::vector<host::Message>& messages, std::size_t sinc
     }
 }
 
-void reportWarnings(const std::vector<std::string>& warnings) {
-    for (const std::string& warning : warnings) {
-        std::cerr << "warning: " << printable(warning) << "\n";
+void reportWarnings(const std::vector<host::ReadingWarning>& warnings) {
+    for (const host::ReadingWarning& warning : warnings) {
+        std::cerr << "warning: " << printable(warning.line()) << "\n";
     }
 }
 

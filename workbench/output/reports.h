@@ -22,6 +22,6 @@ void reportShellRequests(std::ostream& stream, const std::vector<std::string>& t
 void reportMessages(const std::vector<host::Message>& messages, std::size_t since = 0);
 
 /// What a reader had to say; on stderr.
-void reportWarnings(const std::vector<std::string>& warnings);
+void reportWarnings(const std::vector<host::ReadingWarning>& warnings);
 
 }  // namespace workbench

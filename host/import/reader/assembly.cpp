@@ -26,7 +26,7 @@ public:
             return known->second;
         }
         auto file = std::make_unique<StepFile>(path);
-        for (const std::string& warning : file->warnings) {
+        for (const Warning& warning : file->warnings) {
             warn(path, warning);
         }
         assembly_.files.push_back(std::move(file));
@@ -44,9 +44,11 @@ public:
     }
 
 private:
-    void warn(const fs::path& path, const std::string& text) {
-        const bool other = !assembly_.files.empty() && path != assembly_.files.front()->path;
-        assembly_.warnings.push_back((other ? path.filename().string() + " " : "") + text);
+    void warn(const fs::path& path, Warning warning) {
+        if (!assembly_.files.empty() && path != assembly_.files.front()->path) {
+            warning.text.insert(0, path.filename().string() + " ");
+        }
+        assembly_.warnings.push_back(std::move(warning));
     }
 
     void fillFromOthers(std::size_t number, std::size_t first) {
@@ -67,16 +69,21 @@ private:
     void fill(std::size_t index, const fs::path& referring, const std::string& name) {
         const auto found = findReferenced(referring, name);
         if (!found) {
-            warn(referring, "refers to the file \"" + name + "\", which is missing; \"" +
-                                assembly_.components[index].name + "\" stays empty");
+            const std::string& component = assembly_.components[index].name;
+            warn(referring, {.code = "missing-file",
+                             .text = "refers to the file \"" + name + "\", which is missing; \"" +
+                                     component + "\" stays empty",
+                             .component = component});
             return;
         }
         try {
             const std::vector<std::size_t> roots = read(*found);
             put(roots, index);
         } catch (const ReadError& error) {
-            warn(*found, std::string(error.what()) + "; \"" + assembly_.components[index].name +
-                             "\" stays empty");
+            const std::string& component = assembly_.components[index].name;
+            warn(*found, {.code = "unreadable-file",
+                          .text = std::string(error.what()) + "; \"" + component + "\" stays empty",
+                          .component = component});
         }
     }
 

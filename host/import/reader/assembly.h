@@ -42,6 +42,7 @@ struct Component {
     bool described = false;  ///< whether the file gives it a shape representation
     std::vector<Handle(StepRepr_RepresentationItem)> bodies;  ///< what is declared there as bodies
     int shape = -1;                      ///< its bodies, once shapes are built; -1 without any
+    std::size_t bodyCount = 0;           ///< how many these are
     std::optional<std::size_t> content;  ///< the component of another file that fills it
 };
 
@@ -49,7 +50,7 @@ struct Assembly {
     std::vector<Component> components;
     std::vector<std::size_t> roots;
     std::vector<std::unique_ptr<StepFile>> files;  ///< the first is the one that was asked for
-    std::vector<std::string> warnings;
+    std::vector<Warning> warnings;
 };
 
 /// Reads a file and the files it refers to, without building shapes. Throws `ReadError` for a file

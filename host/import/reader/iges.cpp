@@ -49,12 +49,13 @@ json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& sha
     }
     reader.TransferRoots();
     const TopoDS_Shape whole = reader.OneShape();
-    const TopoDS_Shape bodies = whole.IsNull() ? whole : bodiesOf(whole);
+    const Bodies bodies = whole.IsNull() ? Bodies() : bodiesOf(whole);
     const json component = {{"id", ""},
                             {"name", file.stem().string()},
                             {"description", ""},
                             {"uses", json::array()},
-                            {"shape", bodies.IsNull() ? -1 : shapes.Add(bodies) - 1}};
+                            {"shape", bodies.shape.IsNull() ? -1 : shapes.Add(bodies.shape) - 1},
+                            {"bodies", bodies.count}};
     return {{"unit", unitOf(reader)},
             {"files", {file.string()}},
             {"roots", {0}},

@@ -40,7 +40,7 @@ void runIges(const std::string& file) {
     TopTools_IndexedMapOfShape shapes;
     const nlohmann::json design = step::readIges(file, shapes);
     if (shapes.IsEmpty()) {
-        step::sendLine({{"warning", "holds no body that can be built"}});
+        step::sendWarning({.code = "no-body", .text = "holds no body that can be built"});
     }
     step::sendLine({{"design", design}});
     step::answerRequests(std::cin, shapes);
@@ -59,8 +59,8 @@ void run(const std::string& file, const host::ReadingLimits& limits) {
     const Handle(Progress) progress = new Progress;
     const TopTools_IndexedMapOfShape shapes = step::buildShapes(assembly, progress->Start());
     step::sendLine({{"progress", {{"stage", "Building"}, {"fraction", 1}}}});
-    for (const std::string& warning : assembly.warnings) {
-        step::sendLine({{"warning", warning}});
+    for (const step::Warning& warning : assembly.warnings) {
+        step::sendWarning(warning);
     }
     step::sendLine({{"design", step::designOf(assembly)}});
     step::answerRequests(std::cin, shapes);

@@ -79,8 +79,10 @@ std::unordered_set<std::size_t> addUses(Assembly& assembly, const Index& index) 
         const auto parent = index.find(usage->RelatingProductDefinition().get());
         const auto child = index.find(usage->RelatedProductDefinition().get());
         if (parent == index.end() || child == index.end()) {
-            assembly.warnings.push_back("places a product that is missing (#" +
-                                        std::to_string(file.label(usage)) + "); it is left out");
+            assembly.warnings.push_back({.code = "missing-product",
+                                         .text = "places a product that is missing (#" +
+                                                 std::to_string(file.label(usage)) +
+                                                 "); it is left out"});
             continue;
         }
         assembly.components[parent->second].uses.push_back({child->second, usage, {}});

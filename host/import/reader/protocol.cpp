@@ -73,11 +73,9 @@ json jsonOf(const Component& component, const std::unordered_map<std::size_t, st
         uses.push_back(
             {{"component", index.at(use.component)}, {"placement", cellsOf(use.placement)}});
     }
-    json result = {{"id", component.id},
-                   {"name", component.name},
-                   {"description", component.description},
-                   {"uses", uses},
-                   {"shape", component.shape}};
+    json result = {
+        {"id", component.id}, {"name", component.name},   {"description", component.description},
+        {"uses", uses},       {"shape", component.shape}, {"bodies", component.bodyCount}};
     if (component.material) {
         result["material"] = component.material->name;
         if (component.material->density) {
@@ -111,6 +109,18 @@ json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes
 void sendLine(const json& line) {
     // A file's name may be no UTF-8; a text that cannot be shown must not end the answer.
     std::cout << line.dump(-1, ' ', false, json::error_handler_t::replace) << '\n' << std::flush;
+}
+
+void sendWarning(const Warning& warning) {
+    json members = {{"code", warning.code}, {"text", warning.text}};
+    if (!warning.component.empty()) {
+        members["component"] = warning.component;
+    }
+    if (warning.value) {
+        members["value"] = *warning.value;
+        members["unit"] = warning.unit;
+    }
+    sendLine({{"warning", members}});
 }
 
 json designOf(const Assembly& assembly) {

@@ -12,7 +12,7 @@
 ///
 ///     {"progress": {"stage": "Reading", "fraction": 0}}      any number of times
 ///     {"faults": "..."}                                      what may explain a crash from here on
-///     {"warning": "..."}                                     any number of times
+///     {"warning": {"code": "...", "text": "...", ...}}       any number of times
 ///     {"error": "..."}   and it ends, or
 ///     {"design": {...}}  and it responds to requests until its input ends:
 ///
@@ -26,6 +26,9 @@ namespace step {
 
 /// Sends one line to the process that started the program.
 void sendLine(const nlohmann::json& line);
+
+/// Sends a warning; members without a value are left out.
+void sendWarning(const Warning& warning);
 
 /// The tree with the components that its roots lead to.
 nlohmann::json designOf(const Assembly& assembly);

@@ -4,19 +4,63 @@
 
 #include <BRep_Builder.hxx>
 #include <Message_ProgressScope.hxx>
+#include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_MapOfShape.hxx>
 #include <TopoDS_Compound.hxx>
 #include <TopoDS_Iterator.hxx>
 
+#include <algorithm>
+
 namespace step {
 namespace {
 
-void addAll(TopoDS_Compound& bodies, TopExp_Explorer explorer) {
-    for (; explorer.More(); explorer.Next()) {
-        BRep_Builder().Add(bodies, explorer.Current());
+/// Gathers the bodies of a shape.
+class BodyCollector {
+public:
+    explicit BodyCollector(const TopoDS_Shape& shape) {
+        BRep_Builder().MakeCompound(all_);
+        for (TopExp_Explorer solids(shape, TopAbs_SOLID); solids.More(); solids.Next()) {
+            BRep_Builder().Add(all_, solids.Current());
+            TopExp::MapShapes(solids.Current(), TopAbs_FACE, inSolids_);
+            ++count_;
+        }
+        for (TopExp_Explorer shells(shape, TopAbs_SHELL, TopAbs_SOLID); shells.More();
+             shells.Next()) {
+            addFaces(TopExp_Explorer(shells.Current(), TopAbs_FACE), /*asOne=*/true);
+        }
+        // What a shell holds is avoided with it, what a solid holds is in its shells.
+        addFaces(TopExp_Explorer(shape, TopAbs_FACE, TopAbs_SHELL), /*asOne=*/false);
     }
-}
+
+    /// A single one comes without a compound around it.
+    [[nodiscard]] Bodies bodies() const {
+        TopoDS_Iterator inside(all_);
+        if (!inside.More()) {
+            return {};
+        }
+        const TopoDS_Shape first = inside.Value();
+        inside.Next();
+        return {.shape = inside.More() ? all_ : first, .count = count_};
+    }
+
+private:
+    void addFaces(TopExp_Explorer faces, bool asOne) {
+        std::size_t added = 0;
+        for (; faces.More(); faces.Next()) {
+            // A surface that a file gives once more beside the solid is no second one.
+            if (!inSolids_.Contains(faces.Current())) {
+                BRep_Builder().Add(all_, faces.Current());
+                ++added;
+            }
+        }
+        count_ += asOne ? std::min<std::size_t>(added, 1) : added;
+    }
+
+    TopoDS_Compound all_;
+    TopTools_IndexedMapOfShape inSolids_;
+    std::size_t count_ = 0;
+};
 
 class ShapeBuilder {
 public:
@@ -25,23 +69,26 @@ public:
     TopTools_IndexedMapOfShape build(const Message_ProgressRange& progress) {
         transfer(progress);
         for (Component& component : assembly_.components) {
-            const TopoDS_Shape bodies =
-                place(component, fileOf(component).shapeOf(component.definition));
-            component.shape = bodies.IsNull() ? -1 : shapes_.Add(bodies) - 1;
+            const Bodies bodies = place(component, fileOf(component).shapeOf(component.definition));
+            component.shape = bodies.shape.IsNull() ? -1 : shapes_.Add(bodies.shape) - 1;
+            component.bodyCount = bodies.count;
         }
         for (Component& component : assembly_.components) {
             for (auto from = component.content; from && component.shape < 0;
                  from = assembly_.components[*from].content) {
                 component.shape = assembly_.components[*from].shape;
+                component.bodyCount = assembly_.components[*from].bodyCount;
             }
         }
         if (unplaced_ > 0) {
-            assembly_.warnings.push_back("has no placement for " + std::to_string(unplaced_) +
-                                         (unplaced_ == 1 ? " usage; it is" : " usages; they are") +
-                                         " at the origin");
+            assembly_.warnings.push_back(
+                {.code = "no-placement",
+                 .text = "has no placement for " + std::to_string(unplaced_) +
+                         (unplaced_ == 1 ? " usage; it is" : " usages; they are") +
+                         " at the origin"});
         }
         if (const std::string complaint = complaintAboutBodies(assembly_); !complaint.empty()) {
-            assembly_.warnings.push_back(complaint);
+            assembly_.warnings.push_back({.code = "incomplete-body", .text = complaint});
         }
         return shapes_;
     }
@@ -63,7 +110,7 @@ private:
     }
 
     /// Notes the placements of what hangs below the component; returns its own bodies.
-    TopoDS_Shape place(Component& component, const TopoDS_Shape& whole) {
+    Bodies place(Component& component, const TopoDS_Shape& whole) {
         TopTools_MapOfShape below;
         for (Use& use : component.uses) {
             if (use.usage.IsNull()) {
@@ -80,7 +127,7 @@ private:
             const TopLoc_Location own = plain.IsNull() ? TopLoc_Location() : plain.Location();
             use.placement = (used.Location() * own.Inverted()).Transformation();
         }
-        return whole.IsNull() ? whole : bodiesOf(without(whole, below));
+        return whole.IsNull() ? Bodies() : bodiesOf(without(whole, below));
     }
 
     static TopoDS_Shape without(const TopoDS_Shape& whole, const TopTools_MapOfShape& below) {
@@ -106,22 +153,7 @@ private:
 
 }  // namespace
 
-TopoDS_Shape bodiesOf(const TopoDS_Shape& shape) {
-    TopoDS_Compound bodies;
-    BRep_Builder().MakeCompound(bodies);
-    if (TopExp_Explorer(shape, TopAbs_SOLID).More()) {
-        addAll(bodies, TopExp_Explorer(shape, TopAbs_SOLID));
-    } else {
-        addAll(bodies, TopExp_Explorer(shape, TopAbs_FACE));
-    }
-    TopoDS_Iterator inside(bodies);
-    if (!inside.More()) {
-        return {};
-    }
-    const TopoDS_Shape first = inside.Value();
-    inside.Next();
-    return inside.More() ? bodies : first;
-}
+Bodies bodiesOf(const TopoDS_Shape& shape) { return BodyCollector(shape).bodies(); }
 
 TopTools_IndexedMapOfShape buildShapes(Assembly& assembly, const Message_ProgressRange& progress) {
     return ShapeBuilder(assembly).build(progress);

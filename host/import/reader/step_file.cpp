@@ -144,8 +144,9 @@ StepFile::StepFile(const std::filesystem::path& file) : path(file), texts(conten
         throw ReadError("cannot be read as STEP; export it again");
     }
     if (const std::size_t missing = listening.listener->unresolved; missing > 0) {
-        warnings.push_back(count(missing, "reference leads", "references lead") +
-                           " to an entity that is missing; what needs it is left out");
+        warnings.push_back({.code = "missing-reference",
+                            .text = count(missing, "reference leads", "references lead") +
+                                    " to an entity that is missing; what needs it is left out"});
     }
     checkEntities();
 }
@@ -167,7 +168,8 @@ void StepFile::checkEntities() {
     }
     faults = all.text();
     if (const std::string text = mattering.text(); !text.empty()) {
-        warnings.push_back("has " + text + "; what needs them may be missing or wrong");
+        warnings.push_back({.code = "faulty-entity",
+                            .text = "has " + text + "; what needs them may be missing or wrong"});
     }
 }
 

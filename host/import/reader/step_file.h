@@ -7,6 +7,7 @@
 #include <TopoDS_Shape.hxx>
 
 #include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -17,6 +18,15 @@ namespace step {
 class ReadError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+};
+
+/// What the user should know although a file can be read.
+struct Warning {
+    std::string code;                  ///< one word; step_import.h has the list
+    std::string text;                  ///< words that follow the file's name
+    std::string component = {};        ///< what it is about, empty for the whole file
+    std::optional<double> value = {};  ///< a number in doubt, as the file has it
+    std::string unit = {};             ///< its unit, in the file's words
 };
 
 /// One STEP file, read and not yet turned into shapes.
@@ -41,7 +51,7 @@ public:
     Handle(StepData_StepModel) model;
     Part21Texts texts;
     std::string faults;  ///< entities that are not as their schema wants them, empty if none
-    std::vector<std::string> warnings;  ///< what the user should know
+    std::vector<Warning> warnings;
 
 private:
     void checkEntities();

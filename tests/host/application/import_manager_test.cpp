@@ -48,9 +48,14 @@ TEST_F(ImportManagerTest, KeepsWhatTheReaderHadToSay) {
 
     manager()->importToNewDocument(manager()->createSTEPImportOptions(file));
 
-    EXPECT_EQ(
-        host::ApplicationObject::current()->importWarnings,
-        (std::vector<std::string>{file + ": has no placement for 1 usage; it is at the origin"}));
+    EXPECT_EQ(host::ApplicationObject::current()->importWarnings,
+              (std::vector<host::ReadingWarning>{
+                  {.code = "no-placement",
+                   .file = file,
+                   .text = "has no placement for 1 usage; it is at the origin",
+                   .component = "",
+                   .value = {},
+                   .unit = ""}}));
 }
 
 TEST_F(ImportManagerTest, OpensDesignFilesInThePlaceOfArchives) {

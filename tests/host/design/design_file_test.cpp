@@ -115,6 +115,17 @@ TEST_F(DesignFile, KeepsMeasuresAndBoxesOfADesignWithoutSource) {
     EXPECT_EQ(loaded.components[3].geometry, nullptr);
 }
 
+TEST_F(DesignFile, KeepsWhatIsAssumedOfAMaterialAndHowManyBodiesThereAre) {
+    DesignData design = parseOutline("Pair  material=Steel:0.00785");
+    design.components[1].material->nameAssumed = true;
+    design.components[1].material->densityAssumed = true;
+    design.components[1].geometry = fixedGeometry(2, 1, std::nullopt, /*bodies=*/2);
+    const DesignData read = saveAndLoad(design);
+
+    EXPECT_EQ(read.components[1].material, design.components[1].material);
+    EXPECT_EQ(read.components[1].geometry->bodies(), 2U);
+}
+
 TEST_F(DesignFile, SavingAgainGivesTheSameBytes) {
     saveDesignFile(path, parseOutline(R"(
         Frame  at=0.1,0.2,0.3

@@ -87,13 +87,22 @@ std::string tree(const host::DesignData& design) {
     return text;
 }
 
+std::vector<std::string> lines(const std::vector<host::ReadingWarning>& warnings) {
+    std::vector<std::string> all;
+    all.reserve(warnings.size());
+    for (const host::ReadingWarning& warning : warnings) {
+        all.push_back(warning.line());
+    }
+    return all;
+}
+
 host::DesignData import(const std::string& path) {
-    std::vector<std::string> warnings;
+    std::vector<host::ReadingWarning> warnings;
     return host::importStep(path, {}, {}, warnings);
 }
 
 std::string refusal(const std::string& path, const host::ReadingLimits& limits) {
-    std::vector<std::string> warnings;
+    std::vector<host::ReadingWarning> warnings;
     try {
         host::importStep(path, limits, {}, warnings);
     } catch (const host::ImportError& error) {

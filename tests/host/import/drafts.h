@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 /// STEP files for tests, written into a folder that goes with the test.
 namespace drafts {
@@ -37,6 +38,9 @@ std::string reference(int number, int definition, const std::string& file);
 
 /// The design as a tree of names, each occurrence on a line of its own.
 std::string tree(const host::DesignData& design);
+
+/// The warnings as the user sees them.
+std::vector<std::string> lines(const std::vector<host::ReadingWarning>& warnings);
 
 /// Reads with default limits; what is warned of is dropped.
 host::DesignData import(const std::string& path);

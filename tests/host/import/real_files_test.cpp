@@ -95,7 +95,7 @@ protected:
         return line.substr(std::min(line.size(), path(name).size()));
     }
 
-    std::vector<std::string> warnings;
+    std::vector<host::ReadingWarning> warnings;
 };
 
 TEST_F(RealFiles, TheClassicAssemblyHasItsTree) {
@@ -132,7 +132,7 @@ TEST_F(RealFiles, TheClassicAssemblyHasItsTree) {
 )");
     EXPECT_EQ(count(design), (Counted{28, 18, 4}));
     EXPECT_EQ(design.unit, "mm");
-    EXPECT_EQ(warnings, std::vector<std::string>());
+    EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());
 }
 
 TEST_F(RealFiles, TheClassicAssemblyHasItsParts) {
@@ -208,7 +208,7 @@ TEST_F(RealFiles, PartsInOtherFilesAreFound) {
     FOOT_BACK_000:1
 )");
     EXPECT_EQ(countIf(design, isShapeless), 0);
-    EXPECT_EQ(warnings, std::vector<std::string>());
+    EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());
 }
 
 TEST_F(RealFiles, PartsInOtherFilesAreFoundFromARelativePath) {
@@ -226,9 +226,10 @@ TEST_F(RealFiles, AMissingFileOfAPartIsNamed) {
 
     EXPECT_EQ(count(design), (Counted{6, 5, 2}));
     ASSERT_EQ(warnings.size(), 4U);
-    EXPECT_EQ(warnings[0], copy +
-                               ": refers to the file \"TAIL.stp\", which is missing; \"TAIL\" "
-                               "stays empty");
+    EXPECT_EQ(warnings[0].line(),
+              copy +
+                  ": refers to the file \"TAIL.stp\", which is missing; \"TAIL\" "
+                  "stays empty");
 }
 
 TEST_F(RealFiles, ASinglePartOfManyPiecesIsOnePart) {

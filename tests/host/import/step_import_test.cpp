@@ -49,7 +49,7 @@ protected:
     }
 
     drafts::Folder folder;
-    std::vector<std::string> warnings;
+    std::vector<host::ReadingWarning> warnings;
 };
 
 TEST_F(StepImport, ASingleRootProductIsTheRootComponent) {
@@ -139,7 +139,7 @@ TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
     EXPECT_EQ(tree(design), "Top\n  Bar:1\n");
     const std::string path = folder.path.string() + "/Design.step: ";
     EXPECT_EQ(
-        warnings,
+        drafts::lines(warnings),
         (std::vector<std::string>{
             path + "1 reference leads to an entity that is missing; what needs it is left out",
             path + "has 1 faulty entity, first Parameter n0.5 (product_definition_relationship."
@@ -164,7 +164,7 @@ TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {
 
     EXPECT_EQ(design.components[0].geometry, nullptr);
     const std::string path = folder.path.string() + "/Design.step: ";
-    EXPECT_EQ(warnings,
+    EXPECT_EQ(drafts::lines(warnings),
               (std::vector<std::string>{
                   path + "has 1 faulty entity, first Parameter n0.2 (outer) not an Entity (" +
                       body + "); what needs them may be missing or wrong",
@@ -187,11 +187,11 @@ TEST_F(StepImport, ABodyThatLacksAFaceIsWarnedOf) {
 
     EXPECT_NE(design.components[0].geometry, nullptr);
     ASSERT_EQ(warnings.size(), 2U);
-    EXPECT_NE(warnings[0].find("has 1 faulty entity, first Parameter n0.3 (face_geometry)"),
+    EXPECT_NE(warnings[0].line().find("has 1 faulty entity, first Parameter n0.3 (face_geometry)"),
               std::string::npos)
-        << warnings[0];
-    EXPECT_NE(warnings[0].find("(" + face + ")"), std::string::npos) << warnings[0];
-    EXPECT_EQ(warnings[1].substr(warnings[1].find(": ")),
+        << warnings[0].line();
+    EXPECT_NE(warnings[0].line().find("(" + face + ")"), std::string::npos) << warnings[0].line();
+    EXPECT_EQ(warnings[1].line().substr(warnings[1].line().find(": ")),
               ": has 1 body that cannot be built whole, first " +
                   labelOf(text, "MANIFOLD_SOLID_BREP") +
                   " of \"Plate\"; areas and masses are without them");
@@ -210,8 +210,8 @@ TEST_F(StepImport, ABodyWithoutAnyFaceIsWarnedOf) {
     importText(text);
 
     ASSERT_EQ(warnings.size(), 1U);
-    EXPECT_NE(warnings[0].find("has 1 body that cannot be built whole"), std::string::npos)
-        << warnings[0];
+    EXPECT_NE(warnings[0].line().find("has 1 body that cannot be built whole"), std::string::npos)
+        << warnings[0].line();
 }
 
 TEST_F(StepImport, BodiesOfOtherPartsAreThereBesideOneThatCannotBeBuilt) {
@@ -255,7 +255,7 @@ TEST_F(StepImport, AnEntityWithoutItsNameIsNoFault) {
     damage(text, "MANIFOLD_SOLID_BREP(''", ",", "MANIFOLD_SOLID_BREP($,");
 
     EXPECT_NE(importText(text).components[0].geometry, nullptr);
-    EXPECT_EQ(warnings, std::vector<std::string>());
+    EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());
 }
 
 TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {
@@ -375,7 +375,34 @@ TEST_F(StepImport, MaterialsComeWithTheirDensity) {
 
 TEST_F(StepImport, WithoutAMaterialItIsSteel) {
     EXPECT_EQ(importText(step(product(10, "P", "Bar"))).components[0].material,
-              (host::MaterialData{"Steel", 0.00785}));
+              (host::MaterialData{"Steel", 0.00785, true, true}));
+}
+
+TEST_F(StepImport, WhatTheFileSaysOfAMaterialIsNotAssumed) {
+    const DesignData design =
+        importText(samples::stepFile("x", {{.key = "x",
+                                            .id = "P",
+                                            .name = "Plate",
+                                            .description = "",
+                                            .material = samples::Material{"Steel", 7850},
+                                            .solid = kPlate,
+                                            .uses = {}}}));
+
+    EXPECT_EQ(design.components[0].material, (host::MaterialData{"Steel", 0.00785, false, false}));
+}
+
+TEST_F(StepImport, AWarningNamesItsKindItsFileAndItsComponent) {
+    importText(step(product(10, "A", "Top") + drafts::reference(20, 10, "gone.stp")));
+
+    const std::string path = folder.path.string() + "/Design.step";
+    EXPECT_EQ(warnings, (std::vector<host::ReadingWarning>{
+                            {.code = "missing-file",
+                             .file = path,
+                             .text = "refers to the file \"gone.stp\", which is missing; \"Top\" "
+                                     "stays empty",
+                             .component = "Top",
+                             .value = {},
+                             .unit = ""}}));
 }
 
 TEST_F(StepImport, ADensityInGramPerCubicCentimetreIsConverted) {

@@ -32,6 +32,22 @@ TEST(DesignSummary, CountsTheComponentsOfEachMaterialThatHaveAShape) {
               (std::vector<MaterialUse>{{"Brass", 0.0085, 2}, {"Steel", 0.008, 1}}));
 }
 
+TEST(DesignSummary, CountsTheComponentsWhoseMaterialIsAssumed) {
+    host::DesignData design = host::parseOutline(
+        "A  material=Steel:0.00785 box=1x1x1\n"
+        "B  material=Steel:0.00785 box=1x1x1\n"
+        "C  material=Steel:0.00785\n");
+    design.components[2].material->nameAssumed = true;
+    design.components[3].material->nameAssumed = true;
+
+    const host::DesignSummary summary = host::summarize(design);
+
+    EXPECT_EQ(summary.withoutMaterial, 1U);
+    EXPECT_EQ(summary.materials,
+              (std::vector<MaterialUse>{{"Steel", 0.00785, 1},
+                                        {"Steel", 0.00785, 1, /*nameAssumed=*/true}}));
+}
+
 TEST(DesignSummary, ADesignWithoutOccurrencesHasNoLevels) {
     const host::DesignSummary summary = host::summarize(host::parseOutline(""));
 

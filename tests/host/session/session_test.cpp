@@ -100,7 +100,7 @@ TEST_F(SessionWithAddin, ADesignFileComesBackAsItWasSaved) {
     session->save(file);
     session->newDesign();
 
-    const std::vector<std::string> warnings = session->open(file);
+    const std::vector<host::ReadingWarning> warnings = session->open(file);
 
     EXPECT_TRUE(warnings.empty());
     const host::DesignData design = session->design();
