@@ -1,6 +1,6 @@
 #include "host/application/main_queue.h"
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 #include "host/base/clock.h"
 #include "host/base/gate.h"
 #include "host/base/host_state.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 #include "host/base/host_state.h"
 #include "host/ui/host_setup.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 
 /// What every action of the user begins and ends with.
 namespace host {

@@ -1,7 +1,7 @@
 #include "tests/tarnix/addin/addin_ui_fixture.h"
 #include "tests/tarnix/bom/behaviour/synthetic_dialog.h"
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 #include "host/base/gate.h"
 #include "host/design/document.h"
 #include "host/session/user_actions.h"

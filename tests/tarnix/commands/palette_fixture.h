@@ -2,7 +2,7 @@
 
 #include "tests/support/addin_test.h"
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 #include "host/ui/dialogs/palettes_object.h"
 
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "tests/support/files.h"
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/session/browser_tree.h"

@@ -1,2 +1,2 @@
 // Planted: an import knows where its file is stored.
-#include "host/cloud/data_file.h"
+#include "host/cloud/data_file_object.h"

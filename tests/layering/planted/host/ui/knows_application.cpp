@@ -1,2 +1,2 @@
 // Planted: the user interface knows the application.
-#include "host/application/application.h"
+#include "host/application/application_object.h"

@@ -1,10 +1,10 @@
-#include "host/cloud/data_folder.h"
+#include "host/cloud/data_folder_object.h"
 
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
-#include "host/cloud/data_lists.h"
-#include "host/cloud/data_project.h"
-#include "host/cloud/upload.h"
+#include "host/cloud/data_file_future_object.h"
+#include "host/cloud/data_list_object.h"
+#include "host/cloud/data_project_object.h"
 
 #include <set>
 #include <system_error>

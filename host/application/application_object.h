@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/application/documents.h"
-#include "host/application/import_manager.h"
+#include "host/application/documents_object.h"
+#include "host/application/import_manager_object.h"
 #include "host/base/object.h"
 #include "host/design/design_data.h"
 #include "host/design/reading_warning.h"

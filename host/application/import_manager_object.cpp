@@ -1,6 +1,6 @@
-#include "host/application/import_manager.h"
+#include "host/application/import_manager_object.h"
 
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"

@@ -1,9 +1,9 @@
-#include "host/cloud/data_file.h"
+#include "host/cloud/data_file_object.h"
 
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
-#include "host/cloud/data_folder.h"
-#include "host/cloud/data_project.h"
+#include "host/cloud/data_folder_object.h"
+#include "host/cloud/data_project_object.h"
 #include "host/design/document.h"
 
 #include <utility>

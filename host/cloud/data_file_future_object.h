@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/base/object.h"
-#include "host/cloud/data_file.h"
-#include "host/cloud/data_folder.h"
+#include "host/cloud/data_file_object.h"
+#include "host/cloud/data_folder_object.h"
 
 #include <Core/Data.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/base/object.h"
-#include "host/cloud/data_folder.h"
+#include "host/cloud/data_folder_object.h"
 
 #include <Core/Data.h>
 

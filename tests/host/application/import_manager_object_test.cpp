@@ -1,4 +1,4 @@
-#include "host/application/import_manager.h"
+#include "host/application/import_manager_object.h"
 
 #include "host/application/running_host.h"
 #include "host/base/last_error.h"

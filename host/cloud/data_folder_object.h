@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/base/object.h"
-#include "host/cloud/data_file.h"
+#include "host/cloud/data_file_object.h"
 
 #include <Core/Data.h>
 

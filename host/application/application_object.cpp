@@ -1,4 +1,4 @@
-#include "host/application/application.h"
+#include "host/application/application_object.h"
 
 #include "host/application/running_host.h"
 #include "host/base/host_state.h"

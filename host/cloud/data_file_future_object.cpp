@@ -1,4 +1,4 @@
-#include "host/cloud/upload.h"
+#include "host/cloud/data_file_future_object.h"
 
 #include "host/base/clock.h"
 #include "host/base/host_state.h"

@@ -1,4 +1,4 @@
-#include "host/cloud/data_project.h"
+#include "host/cloud/data_project_object.h"
 
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
