@@ -31,18 +31,18 @@ core::Ptr<ApplicationObject> ApplicationObject::current() {
 }
 
 core::Ptr<core::Product> ApplicationObject::activeProduct() const {
-    if (closed<"Application::activeProduct">(*this)) return {};
+    if (closed<"activeProduct">(*this)) return {};
     const core::Ptr<ui::WorkspaceObject>& workspace = ui_->state().workspaces->active();
     return workspace && workspace->state().productType != kDesignType ? otherProduct_ : product_;
 }
 
 core::Ptr<core::Base> ApplicationObject::activeEditObject() const {
-    if (closed<"Application::activeEditObject">(*this)) return {};
+    if (closed<"activeEditObject">(*this)) return {};
     return editObject_ ? editObject_ : root_;
 }
 
 core::Ptr<core::Data> ApplicationObject::data() const {
-    if (closed<"Application::data">(*this)) return {};
+    if (closed<"data">(*this)) return {};
     if (!data_) {
         fail(core::OperationFailed, "Application::data: no folder stands in for the user's data");
     }
@@ -50,7 +50,7 @@ core::Ptr<core::Data> ApplicationObject::data() const {
 }
 
 int ApplicationObject::getLastError(std::string* description) const {
-    if (closed<"Application::getLastError">(*this)) return {};
+    if (closed<"getLastError">(*this)) return {};
     if (description != nullptr) {
         *description = lastError().description;
     }

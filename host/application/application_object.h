@@ -32,22 +32,22 @@ public:
     static core::Ptr<ApplicationObject> current();
 
     [[nodiscard]] core::Ptr<core::UserInterface> userInterface() const override {
-        return get<"Application::userInterface">(ui_);
+        return get<"userInterface">(ui_);
     }
     [[nodiscard]] core::Ptr<core::Document> activeDocument() const override {
-        return get<"Application::activeDocument">(document_);
+        return get<"activeDocument">(document_);
     }
     [[nodiscard]] core::Ptr<core::Product> activeProduct() const override;
     [[nodiscard]] core::Ptr<core::Base> activeEditObject() const override;
     [[nodiscard]] core::Ptr<core::Data> data() const override;
     [[nodiscard]] core::Ptr<core::Documents> documents() const override {
-        return get<"Application::documents">(documents_);
+        return get<"documents">(documents_);
     }
     [[nodiscard]] core::Ptr<core::ImportManager> importManager() const override {
-        return get<"Application::importManager">(importManager_);
+        return get<"importManager">(importManager_);
     }
     [[nodiscard]] core::Ptr<core::Preferences> preferences() const override {
-        return get<"Application::preferences">(preferences_);
+        return get<"preferences">(preferences_);
     }
     int getLastError(std::string* description) const override;
 

@@ -43,19 +43,19 @@ DesignData convertedDesign(const DataFileObject& file) {
 }  // namespace
 
 std::size_t DocumentsObject::count() const {
-    if (closed<"Documents::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return open().size();
 }
 
 core::Ptr<core::Document> DocumentsObject::item(std::size_t index) const {
-    if (closed<"Documents::item">(*this)) return {};
+    if (closed<"item">(*this)) return {};
     const std::vector<core::Ptr<core::Document>> all = open();
     return index < all.size() ? all[index] : nullptr;
 }
 
 core::Ptr<core::Document> DocumentsObject::open(const core::Ptr<core::DataFile>& dataFile,
                                                 bool /*visible*/) {
-    if (closed<"Documents::open">(*this)) return {};
+    if (closed<"open">(*this)) return {};
     if (takeOne(storagePace().conversionsThrowing)) {
         throw std::runtime_error("the conversion failed");
     }

@@ -48,39 +48,9 @@ DesignData readAs(const core::Ptr<core::ImportOptions>& options) {
 
 }  // namespace
 
-core::Ptr<core::IGESImportOptions> ImportManagerObject::createIGESImportOptions(
-    const std::string& filename) {
-    if (closed<"ImportManager::createIGESImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<core::IGESImportOptions>>(filename);
-}
-
-core::Ptr<core::FusionArchiveImportOptions> ImportManagerObject::createFusionArchiveImportOptions(
-    const std::string& filename) {
-    if (closed<"ImportManager::createFusionArchiveImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<core::FusionArchiveImportOptions>>(filename);
-}
-
-core::Ptr<core::SATImportOptions> ImportManagerObject::createSATImportOptions(
-    const std::string& filename) {
-    if (closed<"ImportManager::createSATImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<core::SATImportOptions>>(filename);
-}
-
-core::Ptr<core::SMTImportOptions> ImportManagerObject::createSMTImportOptions(
-    const std::string& filename) {
-    if (closed<"ImportManager::createSMTImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<core::SMTImportOptions>>(filename);
-}
-
-core::Ptr<core::STEPImportOptions> ImportManagerObject::createSTEPImportOptions(
-    const std::string& filename) {
-    if (closed<"ImportManager::createSTEPImportOptions">(*this)) return {};
-    return make<ImportOptionsObject<core::STEPImportOptions>>(filename);
-}
-
 core::Ptr<core::Document> ImportManagerObject::importToNewDocument(
     const core::Ptr<core::ImportOptions>& importOptions) {
-    if (closed<"ImportManager::importToNewDocument">(*this)) return {};
+    if (closed<"importToNewDocument">(*this)) return {};
     const core::Ptr<ApplicationObject> application = ApplicationObject::current();
     if (!importOptions || !application) {
         misuse("ImportManager::importToNewDocument", "needs options that name a file");

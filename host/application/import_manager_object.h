@@ -40,15 +40,33 @@ private:
 class ImportManagerObject final : public Object<core::ImportManager> {
 public:
     core::Ptr<core::IGESImportOptions> createIGESImportOptions(
-        const std::string& filename) override;
+        const std::string& filename) override {
+        return create<"createIGESImportOptions", core::IGESImportOptions>(filename);
+    }
     core::Ptr<core::FusionArchiveImportOptions> createFusionArchiveImportOptions(
-        const std::string& filename) override;
-    core::Ptr<core::SATImportOptions> createSATImportOptions(const std::string& filename) override;
-    core::Ptr<core::SMTImportOptions> createSMTImportOptions(const std::string& filename) override;
+        const std::string& filename) override {
+        return create<"createFusionArchiveImportOptions", core::FusionArchiveImportOptions>(
+            filename);
+    }
+    core::Ptr<core::SATImportOptions> createSATImportOptions(const std::string& filename) override {
+        return create<"createSATImportOptions", core::SATImportOptions>(filename);
+    }
+    core::Ptr<core::SMTImportOptions> createSMTImportOptions(const std::string& filename) override {
+        return create<"createSMTImportOptions", core::SMTImportOptions>(filename);
+    }
     core::Ptr<core::STEPImportOptions> createSTEPImportOptions(
-        const std::string& filename) override;
+        const std::string& filename) override {
+        return create<"createSTEPImportOptions", core::STEPImportOptions>(filename);
+    }
     core::Ptr<core::Document> importToNewDocument(
         const core::Ptr<core::ImportOptions>& importOptions) override;
+
+private:
+    template <CallName Name, class Options>
+    core::Ptr<Options> create(const std::string& filename) {
+        if (closed<Name>(*this)) return {};
+        return make<ImportOptionsObject<Options>>(filename);
+    }
 };
 
 }  // namespace host

@@ -114,4 +114,10 @@ private:
     std::shared_ptr<core::EventLink> link_ = std::make_shared<core::EventLink>();
 };
 
+/// Deletes events with what fires them, in this order.
+template <class... Interfaces>
+void disposeEvents(const core::Ptr<TypedEvent<Interfaces>>&... events) {
+    (events->dispose(), ...);
+}
+
 }  // namespace host

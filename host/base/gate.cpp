@@ -9,12 +9,12 @@ namespace {
 
 /// The names of all operations. Of the process and not of a host: it is filled while libraries are
 /// loaded, and never changes afterwards.
-std::vector<const char*>& catalogue() {
-    static std::vector<const char*> names;
+std::vector<std::string>& catalogue() {
+    static std::vector<std::string> names;
     return names;
 }
 
-std::size_t addToCatalogue(const char* name) {
+std::size_t addToCatalogue(const std::string& name) {
     catalogue().push_back(name);
     if (State* const living = state()) {
         living->counts.resize(catalogue().size());
@@ -22,11 +22,19 @@ std::size_t addToCatalogue(const char* name) {
     return catalogue().size() - 1;
 }
 
+/// "Sketch", of "adsk::core::Sketch".
+std::string shortName(const std::string& fullClassName) {
+    return fullClassName.substr(fullClassName.rfind(':') + 1);
+}
+
 void updateArmed(State& state) { state.armed = state.refuseIn > 0 || state.recording; }
 
 }  // namespace
 
-Call::Call(const char* callName) : name(callName), index(addToCatalogue(callName)) {}
+Call::Call(const char* callName) : name(callName), index(addToCatalogue(name)) {}
+
+Call::Call(const char* fullClassName, const char* operation)
+    : name(shortName(fullClassName) + "::" + operation), index(addToCatalogue(name)) {}
 
 State::State() : counts(catalogue().size()) {}
 

@@ -38,12 +38,19 @@ namespace gate {
 struct Call {
     explicit Call(const char* callName);
 
-    const char* name;
+    /// The operation of a class, of which the full name is known, such as "adsk::core::Sketch".
+    Call(const char* fullClassName, const char* operation);
+
+    std::string name;   ///< such as "Sketch::name"
     std::size_t index;  ///< of the call in the catalogue
 };
 
 template <CallName Name>
 inline const Call call{Name.text};
+
+/// The operation `Name` of an interface of the API.
+template <class Interface, CallName Name>
+inline const Call callOf{Interface::classType(), Name.text};
 
 /// The gate of one host.
 struct State {
@@ -134,15 +141,24 @@ std::vector<std::string> recorded();
 
 }  // namespace gate
 
+namespace gate {
+
 /// Passes the gate; true when the call is refused and has to return nothing.
-template <CallName Name>
-bool refused() {
-    gate::State* state = gate::state();
-    if (state == nullptr || state->modules == 0) {
+inline bool refuses(const Call& passing) {
+    State* const living = state();
+    if (living == nullptr || living->modules == 0) {
         return false;
     }
-    ++state->counts[gate::call<Name>.index];
-    return state->armed && gate::onArmedCall(*state, gate::call<Name>);
+    ++living->counts[passing.index];
+    return living->armed && onArmedCall(*living, passing);
+}
+
+}  // namespace gate
+
+/// Passes the gate with a call on no object; true when it is refused and has to return nothing.
+template <CallName Name>
+bool refused() {
+    return gate::refuses(gate::call<Name>);
 }
 
 }  // namespace host

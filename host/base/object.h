@@ -6,6 +6,7 @@
 
 #include <Core/Base.h>
 
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -14,17 +15,19 @@
 /// `XObject` implements the interface `X`: it derives from `Object<X>`, is made with `make`, and is
 /// held through `core::Ptr`. `core` and `fusion` are the API's namespaces.
 ///
-/// Every operation first passes the gate under the name of the interface that declares it. Where it
-/// only reads or sets a value, that is one line of the header:
+/// Every operation first passes the gate under its name and that of the interface that declares it,
+/// such as "Sketch::name". Where it only reads or sets a value, that is one line of the header:
 ///
-///     [[nodiscard]] std::string name() const override { return get<"Sketch::name">(name_); }
-///     bool name(const std::string& value) override { return set<"Sketch::name">(name_, value); }
+///     [[nodiscard]] std::string name() const override { return get<"name">(name_); }
+///     bool name(const std::string& value) override { return set<"name">(name_, value); }
 ///
 /// Where it does more, it begins with
 ///
-///     if (closed<"Sketch::deleteMe">(*this)) return {};
+///     if (closed<"deleteMe">(*this)) return {};
 ///
-/// and returns nothing when the call is refused, or when the object was deleted, which is listed as
+/// The class is that of `Object<X>`. An operation that `X` inherits is named in full:
+/// `get<"ToolbarControl::isVisible">` in the object of a `CommandControl`. Either kind of operation
+/// returns nothing when the call is refused, or when the object was deleted, which is listed as
 /// a misuse. Objects of a closed document count as deleted. `refused` is for functions that are
 /// called on no object, such as `Point3D::create`.
 ///
@@ -37,12 +40,24 @@ namespace host {
 template <class Interface>
 class Object;
 
+/// An operation that an object implements: of `Interface`, unless `Name` says of which class.
+template <class Interface, CallName Name>
+const gate::Call& callOn() {
+    if constexpr (std::string_view(Name.text).find(':') == std::string_view::npos) {
+        return gate::callOf<Interface, Name>;
+    } else {
+        return gate::call<Name>;
+    }
+}
+
 /// Passes the gate and looks whether the object is valid. True when the operation has to return
 /// nothing: the call is refused, or the object was deleted.
 template <CallName Name, class Interface>
 bool closed(const Object<Interface>& object) {
-    if (refused<Name>()) return true;
-    return !object.Object<Interface>::isValid() && misuseOfDeleted(Name.text, object.objectType());
+    const gate::Call& call = callOn<Interface, Name>();
+    if (gate::refuses(call)) return true;
+    return !object.Object<Interface>::isValid() &&
+           misuseOfDeleted(call.name.c_str(), object.objectType());
 }
 
 /// What every class of the stand-in derives from: an interface of the public API with its counted

@@ -19,10 +19,10 @@ public:
     explicit DataFileFutureObject(const core::Ptr<DataFolderObject>& folder) : folder_(folder) {}
 
     [[nodiscard]] core::UploadStates uploadState() const override {
-        return get<"DataFileFuture::uploadState">(state_);
+        return get<"uploadState">(state_);
     }
     [[nodiscard]] core::Ptr<core::DataFile> dataFile() const override {
-        return get<"DataFileFuture::dataFile">(file_);
+        return get<"dataFile">(file_);
     }
 
     /// @name For the host itself

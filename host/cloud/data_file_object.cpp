@@ -26,17 +26,17 @@ DataFileObject::DataFileObject(DataFolderObject& folder, const std::filesystem::
     : state_{.folder = &folder, .path = path, .name = titleOf(path), .id = std::move(id)} {}
 
 bool DataFileObject::name(const std::string& /*value*/) {
-    if (closed<"DataFile::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     return notImplemented("DataFile::name: to rename a file");
 }
 
 core::Ptr<core::DataFolder> DataFileObject::parentFolder() const {
-    if (closed<"DataFile::parentFolder">(*this)) return {};
+    if (closed<"parentFolder">(*this)) return {};
     return core::Ptr<core::DataFolder>(state_.folder);
 }
 
 core::Ptr<core::DataProject> DataFileObject::parentProject() const {
-    if (closed<"DataFile::parentProject">(*this)) return {};
+    if (closed<"parentProject">(*this)) return {};
     return core::Ptr<core::DataProject>(&state_.folder->project());
 }
 

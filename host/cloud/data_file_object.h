@@ -18,8 +18,8 @@ class DataFileObject final : public Object<core::DataFile> {
 public:
     DataFileObject(DataFolderObject& folder, const std::filesystem::path& path, std::string id);
 
-    [[nodiscard]] std::string id() const override { return get<"DataFile::id">(state_.id); }
-    [[nodiscard]] std::string name() const override { return get<"DataFile::name">(state_.name); }
+    [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
     bool name(const std::string& value) override;
     [[nodiscard]] core::Ptr<core::DataFolder> parentFolder() const override;
     [[nodiscard]] core::Ptr<core::DataProject> parentProject() const override;

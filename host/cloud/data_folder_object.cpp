@@ -70,34 +70,34 @@ DataFolderObject::DataFolderObject(DataProjectObject& project, DataFolderObject*
     : project_(&project), parent_(parent), path_(std::move(path)) {}
 
 std::string DataFolderObject::name() const {
-    if (closed<"DataFolder::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     return toUtf8(path_.filename());
 }
 
 bool DataFolderObject::name(const std::string& /*value*/) {
-    if (closed<"DataFolder::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     return notImplemented("DataFolder::name: to rename a folder");
 }
 
 bool DataFolderObject::isRoot() const {
-    if (closed<"DataFolder::isRoot">(*this)) return {};
+    if (closed<"isRoot">(*this)) return {};
     return parent_ == nullptr;
 }
 
 core::Ptr<core::DataFolder> DataFolderObject::parentFolder() const {
-    if (closed<"DataFolder::parentFolder">(*this)) return {};
+    if (closed<"parentFolder">(*this)) return {};
     return core::Ptr<core::DataFolder>(parent_);
 }
 
 // The API's getters are const, and the disk is looked at all the same.
 core::Ptr<core::DataFolders> DataFolderObject::dataFolders() const {
-    if (closed<"DataFolder::dataFolders">(*this)) return {};
+    if (closed<"dataFolders">(*this)) return {};
     const_cast<DataFolderObject*>(this)->refresh();
     return make<DataFoldersObject>(valuesOf<core::DataFolder>(folders_));
 }
 
 core::Ptr<core::DataFiles> DataFolderObject::dataFiles() const {
-    if (closed<"DataFolder::dataFiles">(*this)) return {};
+    if (closed<"dataFiles">(*this)) return {};
     const_cast<DataFolderObject*>(this)->refresh();
     isListed_ = true;
     for (const auto& [name, each] : files_) {
@@ -107,7 +107,7 @@ core::Ptr<core::DataFiles> DataFolderObject::dataFiles() const {
 }
 
 core::Ptr<core::DataFileFuture> DataFolderObject::uploadFile(const std::string& filename) {
-    if (closed<"DataFolder::uploadFile">(*this)) return {};
+    if (closed<"uploadFile">(*this)) return {};
     return beginUpload(core::Ptr<DataFolderObject>(this), filename);
 }
 

@@ -10,18 +10,18 @@
 
 namespace host {
 
-/// What a folder held when the list was asked for. `Count` and `At` name its operations.
-template <class Interface, class Item, CallName Count, CallName At>
+/// What a folder held when the list was asked for.
+template <class Interface, class Item>
 class DataListObject final : public Object<Interface> {
 public:
     explicit DataListObject(std::vector<core::Ptr<Item>> items) : items_(std::move(items)) {}
 
     [[nodiscard]] std::size_t count() const override {
-        return this->template get<Count>(items_.size());
+        return this->template get<"count">(items_.size());
     }
 
     [[nodiscard]] core::Ptr<Item> item(std::size_t index) const override {
-        if (closed<At>(*this)) return {};
+        if (closed<"item">(*this)) return {};
         return index < items_.size() ? items_[index] : nullptr;
     }
 
@@ -29,9 +29,7 @@ private:
     std::vector<core::Ptr<Item>> items_;
 };
 
-using DataFoldersObject =
-    DataListObject<core::DataFolders, core::DataFolder, "DataFolders::count", "DataFolders::item">;
-using DataFilesObject =
-    DataListObject<core::DataFiles, core::DataFile, "DataFiles::count", "DataFiles::item">;
+using DataFoldersObject = DataListObject<core::DataFolders, core::DataFolder>;
+using DataFilesObject = DataListObject<core::DataFiles, core::DataFile>;
 
 }  // namespace host

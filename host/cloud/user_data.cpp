@@ -1,7 +1,7 @@
 #include "host/cloud/user_data.h"
 
 #include "host/base/utf8_path.h"
-#include "host/cloud/data_project_object.h"
+#include "host/cloud/data_object.h"
 #include "host/design/document.h"
 
 #include <algorithm>

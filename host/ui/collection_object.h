@@ -8,19 +8,6 @@
 #include <utility>
 #include <vector>
 
-namespace host {
-
-/// Joins two names while compiling.
-template <std::size_t A, std::size_t B>
-consteval CallName<A + B - 1> operator+(const CallName<A>& first, const CallName<B>& second) {
-    char joined[A + B - 1] = {};
-    std::copy_n(first.text, A - 1, joined);
-    std::copy_n(second.text, B, joined + A - 1);
-    return CallName<A + B - 1>(joined);
-}
-
-}  // namespace host
-
 /// The host's short lists of definitions, controls, panels, tabs, workspaces and palettes, and the
 /// collections of the API over them.
 namespace host::ui {
@@ -67,27 +54,26 @@ void disposeEntries(std::vector<core::Ptr<Element>>& list) {
     list.clear();
 }
 
-/// A collection of the API over a list of the host. Its operations pass the gate under `Name`, the
-/// name of its class.
-template <class Interface, class Element, CallName Name>
+/// A collection of the API over a list of the host.
+template <class Interface, class Element>
 class CollectionObject : public Object<Interface> {
 public:
     using Item = decltype(std::declval<const Interface&>().item(0));
     using List = std::vector<core::Ptr<Element>>;
 
     [[nodiscard]] std::size_t count() const override {
-        if (closed<Name + CallName("::count")>(*this)) return {};
+        if (closed<"count">(*this)) return {};
         return all().size();
     }
 
     [[nodiscard]] Item item(std::size_t index) const override {
-        if (closed<Name + CallName("::item")>(*this)) return {};
+        if (closed<"item">(*this)) return {};
         const List list = all();
         return index < list.size() ? list[index] : nullptr;
     }
 
     [[nodiscard]] Item itemById(const std::string& id) const override {
-        if (closed<Name + CallName("::itemById")>(*this)) return {};
+        if (closed<"itemById">(*this)) return {};
         return find(id);
     }
 

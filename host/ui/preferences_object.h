@@ -11,10 +11,10 @@ public:
     GeneralPreferencesObject() = default;
 
     [[nodiscard]] core::UserLanguages userLanguage() const override {
-        return get<"GeneralPreferences::userLanguage">(language_);
+        return get<"userLanguage">(language_);
     }
     bool userLanguage(core::UserLanguages value) override {
-        return set<"GeneralPreferences::userLanguage">(language_, value);
+        return set<"userLanguage">(language_, value);
     }
 
     void dispose() { invalidate(); }
@@ -28,7 +28,7 @@ public:
     PreferencesObject() : general_(make<GeneralPreferencesObject>()) {}
 
     [[nodiscard]] core::Ptr<core::GeneralPreferences> generalPreferences() const override {
-        return get<"Preferences::generalPreferences">(general_);
+        return get<"generalPreferences">(general_);
     }
     void dispose();
 

@@ -23,19 +23,8 @@ UserInterfaceState makeState(UserInterfaceObject& ui, CommandRunner& runner,
 
 }  // namespace
 
-// The events' names are those that records show for what a handler threw.
 UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveModel& model)
-    : startingEvent(make<ApplicationCommandEventObject>("OnCommandStarting", this)),
-      createdEvent(make<ApplicationCommandEventObject>("OnApplicationCommandCreated", this)),
-      terminatedEvent(make<ApplicationCommandEventObject>("OnCommandTerminated", this)),
-      preActivateEvent(make<WorkspaceEventObject>("OnWorkspacePreActivate", this)),
-      activatedEvent(make<WorkspaceEventObject>("OnWorkspaceActivated", this)),
-      preDeactivateEvent(make<WorkspaceEventObject>("OnWorkspacePreDeactivate", this)),
-      deactivatedEvent(make<WorkspaceEventObject>("OnWorkspaceDeactivated", this)),
-      menuEvent(make<MarkingMenuEventObject>("OnMarkingMenuDisplaying", this)),
-      model_(&model),
-      runner_(this, setup.codeChanges),
-      state_(makeState(*this, runner_, setup)) {
+    : model_(&model), runner_(this, setup.codeChanges), state_(makeState(*this, runner_, setup)) {
     createDefaultLayout(setup);
 }
 
@@ -53,13 +42,13 @@ void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
 }
 
 core::Ptr<core::Workspace> UserInterfaceObject::activeWorkspace() const {
-    if (closed<"UserInterface::activeWorkspace">(*this)) return {};
+    if (closed<"activeWorkspace">(*this)) return {};
     return state_.workspaces->active();
 }
 
 core::Ptr<core::ToolbarTabList> UserInterfaceObject::toolbarTabsByProductType(
     const std::string& productType) const {
-    if (closed<"UserInterface::toolbarTabsByProductType">(*this)) return {};
+    if (closed<"toolbarTabsByProductType">(*this)) return {};
     const auto found = std::find_if(tabLists_.begin(), tabLists_.end(), [&](const auto& each) {
         return each->productType() == productType;
     });
@@ -72,27 +61,27 @@ core::DialogResults UserInterfaceObject::messageBox(const std::string& text,
                                                     const std::string& title,
                                                     core::MessageBoxButtonTypes buttons,
                                                     core::MessageBoxIconTypes icon) {
-    if (closed<"UserInterface::messageBox">(*this)) return {};
+    if (closed<"messageBox">(*this)) return {};
     return showMessage({.text = text, .title = title, .buttons = buttons, .icon = icon});
 }
 
 core::Ptr<core::FileDialog> UserInterfaceObject::createFileDialog() {
-    if (closed<"UserInterface::createFileDialog">(*this)) return {};
+    if (closed<"createFileDialog">(*this)) return {};
     return make<FileDialogObject>();
 }
 
 core::Ptr<core::ProgressDialog> UserInterfaceObject::createProgressDialog() {
-    if (closed<"UserInterface::createProgressDialog">(*this)) return {};
+    if (closed<"createProgressDialog">(*this)) return {};
     return make<ProgressDialogObject>();
 }
 
 bool UserInterfaceObject::terminateActiveCommand() {
-    if (closed<"UserInterface::terminateActiveCommand">(*this)) return {};
+    if (closed<"terminateActiveCommand">(*this)) return {};
     return runner_.terminate();
 }
 
 std::string UserInterfaceObject::activeCommand() const {
-    if (closed<"UserInterface::activeCommand">(*this)) return {};
+    if (closed<"activeCommand">(*this)) return {};
     return runner_.active() ? runner_.active()->definition()->state().id : "";
 }
 
@@ -112,15 +101,8 @@ void UserInterfaceObject::leaveWorkspace() {
 
 void UserInterfaceObject::dispose() {
     runner_.dispose();
-    for (const core::Ptr<ApplicationCommandEventObject>& each :
-         {startingEvent, createdEvent, terminatedEvent}) {
-        each->dispose();
-    }
-    for (const core::Ptr<WorkspaceEventObject>& each :
-         {preActivateEvent, activatedEvent, preDeactivateEvent, deactivatedEvent}) {
-        each->dispose();
-    }
-    menuEvent->dispose();
+    disposeEvents(startingEvent, createdEvent, terminatedEvent, preActivateEvent, activatedEvent,
+                  preDeactivateEvent, deactivatedEvent, menuEvent);
     state_.definitions->dispose();
     state_.panels->dispose();
     disposeEntries(tabLists_);

@@ -41,46 +41,46 @@ public:
     UserInterfaceObject(const HostSetup& setup, const ActiveModel& model);
 
     [[nodiscard]] core::Ptr<core::Workspaces> workspaces() const override {
-        return get<"UserInterface::workspaces">(state_.workspaces);
+        return get<"workspaces">(state_.workspaces);
     }
     [[nodiscard]] core::Ptr<core::Workspace> activeWorkspace() const override;
     [[nodiscard]] core::Ptr<core::ToolbarPanelList> allToolbarPanels() const override {
-        return get<"UserInterface::allToolbarPanels">(state_.panels);
+        return get<"allToolbarPanels">(state_.panels);
     }
     [[nodiscard]] core::Ptr<core::ToolbarTabList> toolbarTabsByProductType(
         const std::string& productType) const override;
     [[nodiscard]] core::Ptr<core::Palettes> palettes() const override {
-        return get<"UserInterface::palettes">(state_.palettes);
+        return get<"palettes">(state_.palettes);
     }
     [[nodiscard]] core::Ptr<core::CommandDefinitions> commandDefinitions() const override {
-        return get<"UserInterface::commandDefinitions">(state_.definitions);
+        return get<"commandDefinitions">(state_.definitions);
     }
     [[nodiscard]] core::Ptr<core::Selections> activeSelections() const override {
-        return get<"UserInterface::activeSelections">(state_.selections);
+        return get<"activeSelections">(state_.selections);
     }
     [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandStarting() const override {
-        return get<"UserInterface::commandStarting">(startingEvent);
+        return get<"commandStarting">(startingEvent);
     }
     [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandCreated() const override {
-        return get<"UserInterface::commandCreated">(createdEvent);
+        return get<"commandCreated">(createdEvent);
     }
     [[nodiscard]] core::Ptr<core::ApplicationCommandEvent> commandTerminated() const override {
-        return get<"UserInterface::commandTerminated">(terminatedEvent);
+        return get<"commandTerminated">(terminatedEvent);
     }
     [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreActivate() const override {
-        return get<"UserInterface::workspacePreActivate">(preActivateEvent);
+        return get<"workspacePreActivate">(preActivateEvent);
     }
     [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceActivated() const override {
-        return get<"UserInterface::workspaceActivated">(activatedEvent);
+        return get<"workspaceActivated">(activatedEvent);
     }
     [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspacePreDeactivate() const override {
-        return get<"UserInterface::workspacePreDeactivate">(preDeactivateEvent);
+        return get<"workspacePreDeactivate">(preDeactivateEvent);
     }
     [[nodiscard]] core::Ptr<core::WorkspaceEvent> workspaceDeactivated() const override {
-        return get<"UserInterface::workspaceDeactivated">(deactivatedEvent);
+        return get<"workspaceDeactivated">(deactivatedEvent);
     }
     [[nodiscard]] core::Ptr<core::MarkingMenuEvent> markingMenuDisplaying() const override {
-        return get<"UserInterface::markingMenuDisplaying">(menuEvent);
+        return get<"markingMenuDisplaying">(menuEvent);
     }
     core::DialogResults messageBox(const std::string& text, const std::string& title,
                                    core::MessageBoxButtonTypes buttons,
@@ -111,14 +111,26 @@ public:
     /// The sizes that the user gave to dialogs, by the ids of their commands.
     std::map<std::string, DialogSize> rememberedSizes;
 
-    const core::Ptr<ApplicationCommandEventObject> startingEvent;
-    const core::Ptr<ApplicationCommandEventObject> createdEvent;
-    const core::Ptr<ApplicationCommandEventObject> terminatedEvent;
-    const core::Ptr<WorkspaceEventObject> preActivateEvent;
-    const core::Ptr<WorkspaceEventObject> activatedEvent;
-    const core::Ptr<WorkspaceEventObject> preDeactivateEvent;
-    const core::Ptr<WorkspaceEventObject> deactivatedEvent;
-    const core::Ptr<MarkingMenuEventObject> menuEvent;
+    /// @}
+
+    /// @name The events, with the names that records show for what a handler threw
+    /// @{
+    const core::Ptr<ApplicationCommandEventObject> startingEvent =
+        make<ApplicationCommandEventObject>("OnCommandStarting", this);
+    const core::Ptr<ApplicationCommandEventObject> createdEvent =
+        make<ApplicationCommandEventObject>("OnApplicationCommandCreated", this);
+    const core::Ptr<ApplicationCommandEventObject> terminatedEvent =
+        make<ApplicationCommandEventObject>("OnCommandTerminated", this);
+    const core::Ptr<WorkspaceEventObject> preActivateEvent =
+        make<WorkspaceEventObject>("OnWorkspacePreActivate", this);
+    const core::Ptr<WorkspaceEventObject> activatedEvent =
+        make<WorkspaceEventObject>("OnWorkspaceActivated", this);
+    const core::Ptr<WorkspaceEventObject> preDeactivateEvent =
+        make<WorkspaceEventObject>("OnWorkspacePreDeactivate", this);
+    const core::Ptr<WorkspaceEventObject> deactivatedEvent =
+        make<WorkspaceEventObject>("OnWorkspaceDeactivated", this);
+    const core::Ptr<MarkingMenuEventObject> menuEvent =
+        make<MarkingMenuEventObject>("OnMarkingMenuDisplaying", this);
     /// @}
 
 private:

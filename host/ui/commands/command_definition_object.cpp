@@ -16,13 +16,13 @@ CommandDefinitionObject::CommandDefinitionObject(CommandDefinitionsObject* owner
       state_(std::move(state)) {}
 
 bool CommandDefinitionObject::execute(const core::Ptr<core::NamedValues>& /*input*/) {
-    if (closed<"CommandDefinition::execute">(*this)) return {};
+    if (closed<"execute">(*this)) return {};
     owner_->runner().request(core::Ptr<CommandDefinitionObject>(this));
     return true;
 }
 
 bool CommandDefinitionObject::deleteMe() {
-    if (closed<"CommandDefinition::deleteMe">(*this)) return {};
+    if (closed<"deleteMe">(*this)) return {};
     if (state_.native) {
         return fail(core::OperationFailed,
                     "CommandDefinition::deleteMe: " + state_.id + " is the host's own");

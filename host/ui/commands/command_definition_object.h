@@ -22,29 +22,21 @@ class CommandDefinitionObject final : public Object<core::CommandDefinition> {
 public:
     CommandDefinitionObject(CommandDefinitionsObject* owner, CommandDefinitionState state);
 
-    [[nodiscard]] std::string id() const override {
-        return get<"CommandDefinition::id">(state_.id);
-    }
-    [[nodiscard]] std::string name() const override {
-        return get<"CommandDefinition::name">(state_.name);
-    }
-    bool name(const std::string& value) override {
-        return set<"CommandDefinition::name">(state_.name, value);
-    }
-    [[nodiscard]] std::string tooltip() const override {
-        return get<"CommandDefinition::tooltip">(state_.tooltip);
-    }
+    [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
+    bool name(const std::string& value) override { return set<"name">(state_.name, value); }
+    [[nodiscard]] std::string tooltip() const override { return get<"tooltip">(state_.tooltip); }
     bool tooltip(const std::string& value) override {
-        return set<"CommandDefinition::tooltip">(state_.tooltip, value);
+        return set<"tooltip">(state_.tooltip, value);
     }
     [[nodiscard]] std::string resourceFolder() const override {
-        return get<"CommandDefinition::resourceFolder">(state_.resourceFolder);
+        return get<"resourceFolder">(state_.resourceFolder);
     }
     bool resourceFolder(const std::string& value) override {
-        return set<"CommandDefinition::resourceFolder">(state_.resourceFolder, value);
+        return set<"resourceFolder">(state_.resourceFolder, value);
     }
     [[nodiscard]] core::Ptr<core::CommandCreatedEvent> commandCreated() const override {
-        return get<"CommandDefinition::commandCreated">(createdEvent);
+        return get<"commandCreated">(createdEvent);
     }
     bool execute(const core::Ptr<core::NamedValues>& input) override;
     bool deleteMe() override;

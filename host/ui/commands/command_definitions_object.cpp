@@ -19,7 +19,7 @@ core::Ptr<core::CommandDefinition> CommandDefinitionsObject::addButtonDefinition
     const std::string& id, const std::string& name, const std::string& tooltip,
     const std::string& resourceFolder) {
     constexpr const char* kOperation = "CommandDefinitions::addButtonDefinition";
-    if (closed<"CommandDefinitions::addButtonDefinition">(*this)) return {};
+    if (closed<"addButtonDefinition">(*this)) return {};
     if (!isId(id)) {
         misuse(kOperation, "\"" + id + "\" is not an id: only A-Z a-z 0-9 _ are allowed");
         return {};

@@ -12,8 +12,7 @@ class CommandRunner;
 
 /// All command definitions; owns them.
 class CommandDefinitionsObject final
-    : public CollectionObject<core::CommandDefinitions, CommandDefinitionObject,
-                              "CommandDefinitions"> {
+    : public CollectionObject<core::CommandDefinitions, CommandDefinitionObject> {
 public:
     explicit CommandDefinitionsObject(CommandRunner* runner) : runner_(runner) {}
 

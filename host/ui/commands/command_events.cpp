@@ -4,7 +4,7 @@ namespace host::ui {
 
 bool ApplicationCommandEventArgsObject::isCanceled(bool value) {
     constexpr const char* kOperation = "ApplicationCommandEventArgs::isCanceled";
-    if (closed<"ApplicationCommandEventArgs::isCanceled">(*this)) return {};
+    if (closed<"isCanceled">(*this)) return {};
     if (!state_.cancellable) {
         return misuse(kOperation, "only a command that is about to start can be cancelled");
     }

@@ -19,7 +19,7 @@ public:
         : Arguments(std::move(event)), command_(std::move(command)) {}
 
     [[nodiscard]] core::Ptr<core::Command> command() const override {
-        return get<"CommandCreatedEventArgs::command">(command_);
+        return get<"command">(command_);
     }
 
 private:
@@ -40,28 +40,26 @@ public:
         : Arguments(std::move(event)), command_(std::move(command)), reason_(reason) {}
 
     [[nodiscard]] core::Ptr<core::Command> command() const override {
-        return get<"CommandEventArgs::command">(command_);
+        return get<"command">(command_);
     }
     [[nodiscard]] bool executeFailed() const override {
-        return get<"CommandEventArgs::executeFailed">(state_.failed);
+        return get<"executeFailed">(state_.failed);
     }
-    bool executeFailed(bool value) override {
-        return set<"CommandEventArgs::executeFailed">(state_.failed, value);
-    }
+    bool executeFailed(bool value) override { return set<"executeFailed">(state_.failed, value); }
     [[nodiscard]] std::string executeFailedMessage() const override {
-        return get<"CommandEventArgs::executeFailedMessage">(state_.failedMessage);
+        return get<"executeFailedMessage">(state_.failedMessage);
     }
     bool executeFailedMessage(const std::string& value) override {
-        return set<"CommandEventArgs::executeFailedMessage">(state_.failedMessage, value);
+        return set<"executeFailedMessage">(state_.failedMessage, value);
     }
     [[nodiscard]] bool isValidResult() const override {
-        return get<"CommandEventArgs::isValidResult">(state_.validResult);
+        return get<"isValidResult">(state_.validResult);
     }
     bool isValidResult(bool value) override {
-        return set<"CommandEventArgs::isValidResult">(state_.validResult, value);
+        return set<"isValidResult">(state_.validResult, value);
     }
     [[nodiscard]] core::CommandTerminationReason terminationReason() const override {
-        return get<"CommandEventArgs::terminationReason">(reason_);
+        return get<"terminationReason">(reason_);
     }
 
     [[nodiscard]] const CommandEventState& state() const { return state_; }
@@ -79,10 +77,10 @@ public:
         : Arguments(std::move(event)), input_(std::move(input)), inputs_(std::move(inputs)) {}
 
     [[nodiscard]] core::Ptr<core::CommandInput> input() const override {
-        return get<"InputChangedEventArgs::input">(input_);
+        return get<"input">(input_);
     }
     [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override {
-        return get<"InputChangedEventArgs::inputs">(inputs_);
+        return get<"inputs">(inputs_);
     }
 
 private:
@@ -101,13 +99,11 @@ public:
         : Arguments(std::move(event)), inputs_(std::move(inputs)) {}
 
     [[nodiscard]] bool areInputsValid() const override {
-        return get<"ValidateInputsEventArgs::areInputsValid">(state_.valid);
+        return get<"areInputsValid">(state_.valid);
     }
-    bool areInputsValid(bool value) override {
-        return set<"ValidateInputsEventArgs::areInputsValid">(state_.valid, value);
-    }
+    bool areInputsValid(bool value) override { return set<"areInputsValid">(state_.valid, value); }
     [[nodiscard]] core::Ptr<core::CommandInputs> inputs() const override {
-        return get<"ValidateInputsEventArgs::inputs">(inputs_);
+        return get<"inputs">(inputs_);
     }
 
     [[nodiscard]] const ValidateInputsState& state() const { return state_; }
@@ -133,17 +129,15 @@ public:
         : Arguments(std::move(event)), state_(std::move(state)) {}
 
     [[nodiscard]] std::string commandId() const override {
-        return get<"ApplicationCommandEventArgs::commandId">(state_.commandId);
+        return get<"commandId">(state_.commandId);
     }
     [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override {
-        return get<"ApplicationCommandEventArgs::commandDefinition">(state_.definition);
+        return get<"commandDefinition">(state_.definition);
     }
     [[nodiscard]] core::CommandTerminationReason terminationReason() const override {
-        return get<"ApplicationCommandEventArgs::terminationReason">(state_.reason);
+        return get<"terminationReason">(state_.reason);
     }
-    [[nodiscard]] bool isCanceled() const override {
-        return get<"ApplicationCommandEventArgs::isCanceled">(state_.cancelled);
-    }
+    [[nodiscard]] bool isCanceled() const override { return get<"isCanceled">(state_.cancelled); }
     bool isCanceled(bool value) override;
 
     [[nodiscard]] const ApplicationCommandState& state() const { return state_; }

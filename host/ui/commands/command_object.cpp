@@ -6,35 +6,27 @@
 
 namespace host::ui {
 
-// The events' names are those that records show for what a handler threw.
 CommandObject::CommandObject(core::Ptr<CommandDefinitionObject> definition, CommandRunner* runner)
-    : executeEvent(make<CommandEventObject>("OnExecute", this)),
-      previewEvent(make<CommandEventObject>("OnExecutePreview", this)),
-      activateEvent(make<CommandEventObject>("OnActivate", this)),
-      deactivateEvent(make<CommandEventObject>("OnDeactivate", this)),
-      destroyEvent(make<CommandEventObject>("OnDestroy", this)),
-      changedEvent(make<InputChangedEventObject>("OnInputChanged", this)),
-      validateEvent(make<ValidateInputsEventObject>("OnValidateInputs", this)),
-      definition_(std::move(definition)),
+    : definition_(std::move(definition)),
       runner_(runner),
       inputs_(make<CommandInputsObject>(this, nullptr)) {}
 
 bool CommandObject::okButtonText(const std::string& value) {
-    if (closed<"Command::okButtonText">(*this)) return {};
+    if (closed<"okButtonText">(*this)) return {};
     state_.okText = value;
     state_.customized = true;
     return true;
 }
 
 bool CommandObject::cancelButtonText(const std::string& value) {
-    if (closed<"Command::cancelButtonText">(*this)) return {};
+    if (closed<"cancelButtonText">(*this)) return {};
     state_.cancelText = value;
     state_.customized = true;
     return true;
 }
 
 bool CommandObject::setDialogInitialSize(int width, int height) {
-    if (closed<"Command::setDialogInitialSize">(*this)) return {};
+    if (closed<"setDialogInitialSize">(*this)) return {};
     if (state_.shown) {
         return misuse("Command::setDialogInitialSize", "the dialog is already open");
     }
@@ -44,14 +36,14 @@ bool CommandObject::setDialogInitialSize(int width, int height) {
 }
 
 bool CommandObject::setDialogMinimumSize(int width, int height) {
-    if (closed<"Command::setDialogMinimumSize">(*this)) return {};
+    if (closed<"setDialogMinimumSize">(*this)) return {};
     state_.minimumSize = {width, height};
     state_.customized = true;
     return true;
 }
 
 bool CommandObject::doExecute(bool terminate) {
-    if (closed<"Command::doExecute">(*this)) return {};
+    if (closed<"doExecute">(*this)) return {};
     return runner_->executeByCode(terminate);
 }
 
@@ -109,12 +101,8 @@ void CommandObject::dispose() {
         tabBar_->dispose();
     }
     inputs_->dispose();
-    for (const core::Ptr<CommandEventObject>& each :
-         {executeEvent, previewEvent, activateEvent, deactivateEvent, destroyEvent}) {
-        each->dispose();
-    }
-    changedEvent->dispose();
-    validateEvent->dispose();
+    disposeEvents(executeEvent, previewEvent, activateEvent, deactivateEvent, destroyEvent,
+                  changedEvent, validateEvent);
     invalidate();
 }
 

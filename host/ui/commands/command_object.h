@@ -37,64 +37,62 @@ public:
     CommandObject(core::Ptr<CommandDefinitionObject> definition, CommandRunner* runner);
 
     [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override {
-        return get<"Command::commandInputs">(inputs_);
+        return get<"commandInputs">(inputs_);
     }
     [[nodiscard]] core::Ptr<core::CommandDefinition> parentCommandDefinition() const override {
-        return get<"Command::parentCommandDefinition">(definition_);
+        return get<"parentCommandDefinition">(definition_);
     }
     [[nodiscard]] core::Ptr<core::CommandEvent> execute() const override {
-        return get<"Command::execute">(executeEvent);
+        return get<"execute">(executeEvent);
     }
     [[nodiscard]] core::Ptr<core::CommandEvent> executePreview() const override {
-        return get<"Command::executePreview">(previewEvent);
+        return get<"executePreview">(previewEvent);
     }
     [[nodiscard]] core::Ptr<core::CommandEvent> activate() const override {
-        return get<"Command::activate">(activateEvent);
+        return get<"activate">(activateEvent);
     }
     [[nodiscard]] core::Ptr<core::CommandEvent> deactivate() const override {
-        return get<"Command::deactivate">(deactivateEvent);
+        return get<"deactivate">(deactivateEvent);
     }
     [[nodiscard]] core::Ptr<core::CommandEvent> destroy() const override {
-        return get<"Command::destroy">(destroyEvent);
+        return get<"destroy">(destroyEvent);
     }
     [[nodiscard]] core::Ptr<core::InputChangedEvent> inputChanged() const override {
-        return get<"Command::inputChanged">(changedEvent);
+        return get<"inputChanged">(changedEvent);
     }
     [[nodiscard]] core::Ptr<core::ValidateInputsEvent> validateInputs() const override {
-        return get<"Command::validateInputs">(validateEvent);
+        return get<"validateInputs">(validateEvent);
     }
     [[nodiscard]] std::string okButtonText() const override {
-        return get<"Command::okButtonText">(state_.okText);
+        return get<"okButtonText">(state_.okText);
     }
     bool okButtonText(const std::string& value) override;
     [[nodiscard]] std::string cancelButtonText() const override {
-        return get<"Command::cancelButtonText">(state_.cancelText);
+        return get<"cancelButtonText">(state_.cancelText);
     }
     bool cancelButtonText(const std::string& value) override;
     [[nodiscard]] bool isOKButtonVisible() const override {
-        return get<"Command::isOKButtonVisible">(state_.okVisible);
+        return get<"isOKButtonVisible">(state_.okVisible);
     }
     bool isOKButtonVisible(bool value) override {
-        return set<"Command::isOKButtonVisible">(state_.okVisible, value);
+        return set<"isOKButtonVisible">(state_.okVisible, value);
     }
     [[nodiscard]] bool isAutoExecute() const override {
-        return get<"Command::isAutoExecute">(state_.autoExecute);
+        return get<"isAutoExecute">(state_.autoExecute);
     }
     bool isAutoExecute(bool value) override {
-        return set<"Command::isAutoExecute">(state_.autoExecute, value);
+        return set<"isAutoExecute">(state_.autoExecute, value);
     }
     [[nodiscard]] bool isExecutedWhenPreEmpted() const override {
-        return get<"Command::isExecutedWhenPreEmpted">(state_.executedWhenPreEmpted);
+        return get<"isExecutedWhenPreEmpted">(state_.executedWhenPreEmpted);
     }
     bool isExecutedWhenPreEmpted(bool value) override {
-        return set<"Command::isExecutedWhenPreEmpted">(state_.executedWhenPreEmpted, value);
+        return set<"isExecutedWhenPreEmpted">(state_.executedWhenPreEmpted, value);
     }
     [[nodiscard]] bool isRepeatable() const override {
-        return get<"Command::isRepeatable">(state_.repeatable);
+        return get<"isRepeatable">(state_.repeatable);
     }
-    bool isRepeatable(bool value) override {
-        return set<"Command::isRepeatable">(state_.repeatable, value);
-    }
+    bool isRepeatable(bool value) override { return set<"isRepeatable">(state_.repeatable, value); }
     bool setDialogInitialSize(int width, int height) override;
     bool setDialogMinimumSize(int width, int height) override;
     bool doExecute(bool terminate) override;
@@ -138,13 +136,22 @@ public:
     /// Ends the command, its inputs and its events.
     void dispose();
 
-    const core::Ptr<CommandEventObject> executeEvent;
-    const core::Ptr<CommandEventObject> previewEvent;
-    const core::Ptr<CommandEventObject> activateEvent;
-    const core::Ptr<CommandEventObject> deactivateEvent;
-    const core::Ptr<CommandEventObject> destroyEvent;
-    const core::Ptr<InputChangedEventObject> changedEvent;
-    const core::Ptr<ValidateInputsEventObject> validateEvent;
+    /// @}
+
+    /// @name The events, with the names that records show for what a handler threw
+    /// @{
+    const core::Ptr<CommandEventObject> executeEvent = make<CommandEventObject>("OnExecute", this);
+    const core::Ptr<CommandEventObject> previewEvent =
+        make<CommandEventObject>("OnExecutePreview", this);
+    const core::Ptr<CommandEventObject> activateEvent =
+        make<CommandEventObject>("OnActivate", this);
+    const core::Ptr<CommandEventObject> deactivateEvent =
+        make<CommandEventObject>("OnDeactivate", this);
+    const core::Ptr<CommandEventObject> destroyEvent = make<CommandEventObject>("OnDestroy", this);
+    const core::Ptr<InputChangedEventObject> changedEvent =
+        make<InputChangedEventObject>("OnInputChanged", this);
+    const core::Ptr<ValidateInputsEventObject> validateEvent =
+        make<ValidateInputsEventObject>("OnValidateInputs", this);
     /// @}
 
 private:

@@ -7,7 +7,7 @@
 namespace host::ui {
 
 core::Ptr<core::Point3D> SelectionObject::point() const {
-    if (closed<"Selection::point">(*this)) return {};
+    if (closed<"point">(*this)) return {};
     notImplemented("Selection::point");
     return {};
 }

@@ -17,7 +17,7 @@ public:
     explicit SelectionObject(core::Ptr<core::Base> entity) : state_{std::move(entity)} {}
 
     [[nodiscard]] core::Ptr<core::Base> entity() const override {
-        return get<"Selection::entity">(state_.entity);
+        return get<"entity">(state_.entity);
     }
     [[nodiscard]] core::Ptr<core::Point3D> point() const override;
 

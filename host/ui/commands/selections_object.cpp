@@ -7,17 +7,17 @@
 namespace host::ui {
 
 std::size_t SelectionsObject::count() const {
-    if (closed<"Selections::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return list.count();
 }
 
 core::Ptr<core::Selection> SelectionsObject::item(std::size_t index) const {
-    if (closed<"Selections::item">(*this)) return {};
+    if (closed<"item">(*this)) return {};
     return list.at(index);
 }
 
 bool SelectionsObject::add(const core::Ptr<core::Base>& entity) {
-    if (closed<"Selections::add">(*this)) return {};
+    if (closed<"add">(*this)) return {};
     if (!entity) {
         return fail(core::BadApiCallError, "Selections::add: the entity is null");
     }
@@ -26,7 +26,7 @@ bool SelectionsObject::add(const core::Ptr<core::Base>& entity) {
 }
 
 bool SelectionsObject::clear() {
-    if (closed<"Selections::clear">(*this)) return {};
+    if (closed<"clear">(*this)) return {};
     list.clear();
     return true;
 }

@@ -20,7 +20,7 @@ PickedFiles answerOf(const FileDialogShown& dialog, FileDialogLog& log) {
 }  // namespace
 
 core::DialogResults FileDialogObject::showOpen() {
-    if (closed<"FileDialog::showOpen">(*this)) return {};
+    if (closed<"showOpen">(*this)) return {};
     auto* log = HostState::currentPart<FileDialogLog>();
     if (log == nullptr) return core::DialogCancel;
     state_.picked = answerOf(state_, *log);
@@ -33,12 +33,12 @@ core::DialogResults FileDialogObject::showOpen() {
 }
 
 std::vector<std::string> FileDialogObject::filenames() const {
-    if (closed<"FileDialog::filenames">(*this)) return {};
+    if (closed<"filenames">(*this)) return {};
     return state_.picked.value_or(std::vector<std::string>());
 }
 
 std::string FileDialogObject::filename() const {
-    if (closed<"FileDialog::filename">(*this)) return {};
+    if (closed<"filename">(*this)) return {};
     return state_.picked && !state_.picked->empty() ? state_.picked->front() : "";
 }
 

@@ -42,29 +42,19 @@ struct FileDialogLog {
 class FileDialogObject final : public Object<core::FileDialog> {
 public:
     [[nodiscard]] bool isMultiSelectEnabled() const override {
-        return get<"FileDialog::isMultiSelectEnabled">(state_.multiSelect);
+        return get<"isMultiSelectEnabled">(state_.multiSelect);
     }
     bool isMultiSelectEnabled(bool value) override {
-        return set<"FileDialog::isMultiSelectEnabled">(state_.multiSelect, value);
+        return set<"isMultiSelectEnabled">(state_.multiSelect, value);
     }
-    [[nodiscard]] std::string title() const override {
-        return get<"FileDialog::title">(state_.title);
-    }
-    bool title(const std::string& value) override {
-        return set<"FileDialog::title">(state_.title, value);
-    }
-    [[nodiscard]] std::string filter() const override {
-        return get<"FileDialog::filter">(state_.filter);
-    }
-    bool filter(const std::string& value) override {
-        return set<"FileDialog::filter">(state_.filter, value);
-    }
+    [[nodiscard]] std::string title() const override { return get<"title">(state_.title); }
+    bool title(const std::string& value) override { return set<"title">(state_.title, value); }
+    [[nodiscard]] std::string filter() const override { return get<"filter">(state_.filter); }
+    bool filter(const std::string& value) override { return set<"filter">(state_.filter, value); }
     [[nodiscard]] int filterIndex() const override {
-        return get<"FileDialog::filterIndex">(state_.filterIndex);
+        return get<"filterIndex">(state_.filterIndex);
     }
-    bool filterIndex(int value) override {
-        return set<"FileDialog::filterIndex">(state_.filterIndex, value);
-    }
+    bool filterIndex(int value) override { return set<"filterIndex">(state_.filterIndex, value); }
     core::DialogResults showOpen() override;
     [[nodiscard]] std::vector<std::string> filenames() const override;
     [[nodiscard]] std::string filename() const override;

@@ -5,32 +5,32 @@
 namespace host::ui {
 
 bool PaletteObject::left(int value) {
-    if (closed<"Palette::left">(*this)) return {};
+    if (closed<"left">(*this)) return {};
     return move(value, state_.top);
 }
 
 bool PaletteObject::top(int value) {
-    if (closed<"Palette::top">(*this)) return {};
+    if (closed<"top">(*this)) return {};
     return move(state_.left, value);
 }
 
 bool PaletteObject::width(int value) {
-    if (closed<"Palette::width">(*this)) return {};
+    if (closed<"width">(*this)) return {};
     return resize(value, state_.height);
 }
 
 bool PaletteObject::height(int value) {
-    if (closed<"Palette::height">(*this)) return {};
+    if (closed<"height">(*this)) return {};
     return resize(state_.width, value);
 }
 
 bool PaletteObject::setPosition(int left, int top) {
-    if (closed<"Palette::setPosition">(*this)) return {};
+    if (closed<"setPosition">(*this)) return {};
     return move(left, top);
 }
 
 bool PaletteObject::setSize(int width, int height) {
-    if (closed<"Palette::setSize">(*this)) return {};
+    if (closed<"setSize">(*this)) return {};
     return resize(width, height);
 }
 
@@ -55,7 +55,7 @@ bool PaletteObject::resize(int width, int height) {
 }
 
 bool PaletteObject::deleteMe() {
-    if (closed<"Palette::deleteMe">(*this)) return {};
+    if (closed<"deleteMe">(*this)) return {};
     owner_->remove(*this);
     return true;
 }

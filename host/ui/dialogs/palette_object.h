@@ -33,40 +33,36 @@ public:
     PaletteObject(PalettesObject* owner, PaletteState state)
         : owner_(owner), state_(std::move(state)) {}
 
-    [[nodiscard]] std::string id() const override { return get<"Palette::id">(state_.id); }
-    [[nodiscard]] std::string name() const override { return get<"Palette::name">(state_.name); }
-    bool name(const std::string& value) override {
-        return set<"Palette::name">(state_.name, value);
-    }
+    [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
+    bool name(const std::string& value) override { return set<"name">(state_.name, value); }
     [[nodiscard]] std::string htmlFileURL() const override {
-        return get<"Palette::htmlFileURL">(state_.htmlFileURL);
+        return get<"htmlFileURL">(state_.htmlFileURL);
     }
     bool htmlFileURL(const std::string& value) override {
-        return set<"Palette::htmlFileURL">(state_.htmlFileURL, value);
+        return set<"htmlFileURL">(state_.htmlFileURL, value);
     }
-    [[nodiscard]] bool isVisible() const override {
-        return get<"Palette::isVisible">(state_.visible);
-    }
-    bool isVisible(bool value) override { return set<"Palette::isVisible">(state_.visible, value); }
+    [[nodiscard]] bool isVisible() const override { return get<"isVisible">(state_.visible); }
+    bool isVisible(bool value) override { return set<"isVisible">(state_.visible, value); }
     [[nodiscard]] core::PaletteDockingStates dockingState() const override {
-        return get<"Palette::dockingState">(state_.dockingState);
+        return get<"dockingState">(state_.dockingState);
     }
     bool dockingState(core::PaletteDockingStates value) override {
-        return set<"Palette::dockingState">(state_.dockingState, value);
+        return set<"dockingState">(state_.dockingState, value);
     }
     [[nodiscard]] core::PaletteDockingOptions dockingOption() const override {
-        return get<"Palette::dockingOption">(state_.dockingOption);
+        return get<"dockingOption">(state_.dockingOption);
     }
     bool dockingOption(core::PaletteDockingOptions value) override {
-        return set<"Palette::dockingOption">(state_.dockingOption, value);
+        return set<"dockingOption">(state_.dockingOption, value);
     }
-    [[nodiscard]] int left() const override { return get<"Palette::left">(state_.left); }
+    [[nodiscard]] int left() const override { return get<"left">(state_.left); }
     bool left(int value) override;
-    [[nodiscard]] int top() const override { return get<"Palette::top">(state_.top); }
+    [[nodiscard]] int top() const override { return get<"top">(state_.top); }
     bool top(int value) override;
-    [[nodiscard]] int width() const override { return get<"Palette::width">(state_.width); }
+    [[nodiscard]] int width() const override { return get<"width">(state_.width); }
     bool width(int value) override;
-    [[nodiscard]] int height() const override { return get<"Palette::height">(state_.height); }
+    [[nodiscard]] int height() const override { return get<"height">(state_.height); }
     bool height(int value) override;
     bool setPosition(int left, int top) override;
     bool setSize(int width, int height) override;

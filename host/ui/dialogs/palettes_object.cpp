@@ -7,7 +7,7 @@ core::Ptr<core::Palette> PalettesObject::add(const std::string& id, const std::s
                                              bool showCloseButton, bool isResizable, int width,
                                              int height, bool useNewWebBrowser) {
     constexpr const char* kOperation = "Palettes::add";
-    if (closed<"Palettes::add">(*this)) return {};
+    if (closed<"add">(*this)) return {};
     if (id.empty() || find(id)) {
         misuse(kOperation,
                id.empty() ? "a palette needs an id" : "the id \"" + id + "\" is in use");

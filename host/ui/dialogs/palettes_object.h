@@ -8,7 +8,7 @@
 namespace host::ui {
 
 /// All palettes; owns them.
-class PalettesObject final : public CollectionObject<core::Palettes, PaletteObject, "Palettes"> {
+class PalettesObject final : public CollectionObject<core::Palettes, PaletteObject> {
 public:
     PalettesObject() = default;
 

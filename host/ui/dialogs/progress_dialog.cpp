@@ -68,14 +68,14 @@ Progress ProgressDialogObject::seen() const {
 }
 
 bool ProgressDialogObject::hide() {
-    if (closed<"ProgressDialog::hide">(*this)) return {};
+    if (closed<"hide">(*this)) return {};
     hidden_ = true;
     return true;
 }
 
 bool ProgressDialogObject::show(const std::string& /*title*/, const std::string& message,
                                 int minimumValue, int maximumValue, int /*delay*/) {
-    if (closed<"ProgressDialog::show">(*this)) return {};
+    if (closed<"show">(*this)) return {};
     message_ = message;
     minimum_ = minimumValue;
     maximum_ = maximumValue;

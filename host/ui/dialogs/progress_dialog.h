@@ -47,38 +47,28 @@ public:
     ~ProgressDialogObject() override;
 
     [[nodiscard]] std::string cancelButtonText() const override {
-        return get<"ProgressDialog::cancelButtonText">(cancelButtonText_);
+        return get<"cancelButtonText">(cancelButtonText_);
     }
     bool cancelButtonText(const std::string& value) override {
-        return set<"ProgressDialog::cancelButtonText">(cancelButtonText_, value);
+        return set<"cancelButtonText">(cancelButtonText_, value);
     }
     [[nodiscard]] bool isBackgroundTranslucent() const override {
-        return get<"ProgressDialog::isBackgroundTranslucent">(translucent_);
+        return get<"isBackgroundTranslucent">(translucent_);
     }
     bool isBackgroundTranslucent(bool value) override {
-        return set<"ProgressDialog::isBackgroundTranslucent">(translucent_, value);
+        return set<"isBackgroundTranslucent">(translucent_, value);
     }
     [[nodiscard]] bool isCancelButtonShown() const override {
-        return get<"ProgressDialog::isCancelButtonShown">(cancelButtonShown_);
+        return get<"isCancelButtonShown">(cancelButtonShown_);
     }
     bool isCancelButtonShown(bool value) override {
-        return set<"ProgressDialog::isCancelButtonShown">(cancelButtonShown_, value);
+        return set<"isCancelButtonShown">(cancelButtonShown_, value);
     }
-    [[nodiscard]] std::string message() const override {
-        return get<"ProgressDialog::message">(message_);
-    }
-    bool message(const std::string& value) override {
-        return set<"ProgressDialog::message">(message_, value);
-    }
-    [[nodiscard]] int progressValue() const override {
-        return get<"ProgressDialog::progressValue">(value_);
-    }
-    bool progressValue(int value) override {
-        return set<"ProgressDialog::progressValue">(value_, value);
-    }
-    [[nodiscard]] bool wasCancelled() const override {
-        return get<"ProgressDialog::wasCancelled">(cancelled_);
-    }
+    [[nodiscard]] std::string message() const override { return get<"message">(message_); }
+    bool message(const std::string& value) override { return set<"message">(message_, value); }
+    [[nodiscard]] int progressValue() const override { return get<"progressValue">(value_); }
+    bool progressValue(int value) override { return set<"progressValue">(value_, value); }
+    [[nodiscard]] bool wasCancelled() const override { return get<"wasCancelled">(cancelled_); }
     bool hide() override;
     bool show(const std::string& title, const std::string& message, int minimumValue,
               int maximumValue, int delay) override;

@@ -17,27 +17,17 @@ public:
           resourceFolder_(shared(resourceFolder)),
           text_(shared("")) {}
 
-    [[nodiscard]] bool value() const override {
-        return get<"BoolValueCommandInput::value">(value_);
-    }
-    bool value(bool value) override {
-        return change<"BoolValueCommandInput::value">(value_, value);
-    }
+    [[nodiscard]] bool value() const override { return get<"value">(value_); }
+    bool value(bool value) override { return change<"value">(value_, value); }
     [[nodiscard]] std::string resourceFolder() const override {
-        return getShared<"BoolValueCommandInput::resourceFolder">(resourceFolder_);
+        return getShared<"resourceFolder">(resourceFolder_);
     }
     bool resourceFolder(const std::string& value) override {
-        return setShared<"BoolValueCommandInput::resourceFolder">(resourceFolder_, value);
+        return setShared<"resourceFolder">(resourceFolder_, value);
     }
-    [[nodiscard]] bool isCheckBox() const override {
-        return get<"BoolValueCommandInput::isCheckBox">(checkBox_);
-    }
-    [[nodiscard]] std::string text() const override {
-        return getShared<"BoolValueCommandInput::text">(text_);
-    }
-    bool text(const std::string& value) override {
-        return setShared<"BoolValueCommandInput::text">(text_, value);
-    }
+    [[nodiscard]] bool isCheckBox() const override { return get<"isCheckBox">(checkBox_); }
+    [[nodiscard]] std::string text() const override { return getShared<"text">(text_); }
+    bool text(const std::string& value) override { return setShared<"text">(text_, value); }
 
     /// Clicks it, as the user does.
     void toggle() { value_ = !value_; }

@@ -4,15 +4,13 @@
 
 namespace host::ui {
 
-class ButtonRowCommandInputObject final
-    : public ListInputObject<core::ButtonRowCommandInput, "ButtonRowCommandInput::listItems",
-                             "ButtonRowCommandInput::selectedItem"> {
+class ButtonRowCommandInputObject final : public ListInputObject<core::ButtonRowCommandInput> {
 public:
     ButtonRowCommandInputObject(const InputOrigin& origin, bool multiSelect)
         : ListInputObject(origin, InputKind::ButtonRow, multiSelect) {}
 
     [[nodiscard]] bool isMultiSelectEnabled() const override {
-        return get<"ButtonRowCommandInput::isMultiSelectEnabled">(isMultiSelect());
+        return get<"isMultiSelectEnabled">(isMultiSelect());
     }
 };
 

@@ -20,13 +20,11 @@ public:
     }
 
     [[nodiscard]] std::string id() const override {
-        if (closed<"CommandInput::id">(*this)) return {};
-        return State::id();
+        return this->template get<"CommandInput::id">(State::id());
     }
 
     [[nodiscard]] std::string name() const override {
-        if (closed<"CommandInput::name">(*this)) return {};
-        return State::name();
+        return this->template get<"CommandInput::name">(State::name());
     }
 
     [[nodiscard]] bool isVisible() const override {
@@ -61,9 +59,7 @@ public:
     }
 
     bool tooltip(const std::string& value) override {
-        if (closed<"CommandInput::tooltip">(*this)) return {};
-        this->changeExtras().tooltip = value;
-        return true;
+        return this->template set<"CommandInput::tooltip">(this->changeExtras().tooltip, value);
     }
 
     [[nodiscard]] std::string tooltipDescription() const override {
@@ -72,9 +68,8 @@ public:
     }
 
     bool tooltipDescription(const std::string& value) override {
-        if (closed<"CommandInput::tooltipDescription">(*this)) return {};
-        this->changeExtras().tooltipDescription = value;
-        return true;
+        return this->template set<"CommandInput::tooltipDescription">(
+            this->changeExtras().tooltipDescription, value);
     }
 
     [[nodiscard]] std::string toolClipFilename() const override {
@@ -83,9 +78,8 @@ public:
     }
 
     bool toolClipFilename(const std::string& value) override {
-        if (closed<"CommandInput::toolClipFilename">(*this)) return {};
-        this->changeExtras().toolClipFilename = value;
-        return true;
+        return this->template set<"CommandInput::toolClipFilename">(
+            this->changeExtras().toolClipFilename, value);
     }
 
     [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override {

@@ -39,56 +39,56 @@ core::Ptr<T> CommandInputsObject::append(const std::string& id, const std::strin
 }
 
 std::size_t CommandInputsObject::count() const {
-    if (closed<"CommandInputs::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return members_.count();
 }
 
 core::Ptr<core::CommandInput> CommandInputsObject::item(std::size_t index) const {
-    if (closed<"CommandInputs::item">(*this)) return {};
+    if (closed<"item">(*this)) return {};
     return index < members_.count() ? members_.at(index) : nullptr;
 }
 
 core::Ptr<core::CommandInput> CommandInputsObject::itemById(const std::string& id) const {
-    if (closed<"CommandInputs::itemById">(*this)) return {};
+    if (closed<"itemById">(*this)) return {};
     InputState* found = find(id);
     return found == nullptr ? nullptr : found->api();
 }
 
 core::Ptr<core::Command> CommandInputsObject::command() const {
-    if (closed<"CommandInputs::command">(*this)) return {};
+    if (closed<"command">(*this)) return {};
     return core::Ptr<core::Command>(command_);
 }
 
 core::Ptr<core::BoolValueCommandInput> CommandInputsObject::addBoolValueInput(
     const std::string& id, const std::string& name, bool isCheckBox,
     const std::string& resourceFolder, bool initialValue) {
-    if (closed<"CommandInputs::addBoolValueInput">(*this)) return {};
+    if (closed<"addBoolValueInput">(*this)) return {};
     return append<BoolValueCommandInputObject>(id, name, isCheckBox, resourceFolder, initialValue);
 }
 
 core::Ptr<core::StringValueCommandInput> CommandInputsObject::addStringValueInput(
     const std::string& id, const std::string& name, const std::string& initialValue) {
-    if (closed<"CommandInputs::addStringValueInput">(*this)) return {};
+    if (closed<"addStringValueInput">(*this)) return {};
     return append<StringValueCommandInputObject>(id, name, initialValue);
 }
 
 core::Ptr<core::DropDownCommandInput> CommandInputsObject::addDropDownCommandInput(
     const std::string& id, const std::string& name, core::DropDownStyles dropDownStyle) {
-    if (closed<"CommandInputs::addDropDownCommandInput">(*this)) return {};
+    if (closed<"addDropDownCommandInput">(*this)) return {};
     return append<DropDownCommandInputObject>(id, name, dropDownStyle);
 }
 
 core::Ptr<core::TableCommandInput> CommandInputsObject::addTableCommandInput(
     const std::string& id, const std::string& name, int numberOfColumns,
     const std::string& columnRatio) {
-    if (closed<"CommandInputs::addTableCommandInput">(*this)) return {};
+    if (closed<"addTableCommandInput">(*this)) return {};
     return append<TableCommandInputObject>(id, name, numberOfColumns, columnRatio);
 }
 
 core::Ptr<core::TabCommandInput> CommandInputsObject::addTabCommandInput(
     const std::string& id, const std::string& name, const std::string& resourceFolder) {
     constexpr const char* kOperation = "CommandInputs::addTabCommandInput";
-    if (closed<"CommandInputs::addTabCommandInput">(*this)) return {};
+    if (closed<"addTabCommandInput">(*this)) return {};
     if (parent_ != nullptr) {
         misuse(kOperation, "a tab cannot be inside \"" + parent_->id() + "\"");
         return {};
@@ -102,38 +102,38 @@ core::Ptr<core::TabCommandInput> CommandInputsObject::addTabCommandInput(
 
 core::Ptr<core::GroupCommandInput> CommandInputsObject::addGroupCommandInput(
     const std::string& id, const std::string& name) {
-    if (closed<"CommandInputs::addGroupCommandInput">(*this)) return {};
+    if (closed<"addGroupCommandInput">(*this)) return {};
     return append<GroupCommandInputObject>(id, name);
 }
 
 core::Ptr<core::ButtonRowCommandInput> CommandInputsObject::addButtonRowCommandInput(
     const std::string& id, const std::string& name, bool isMultiSelectEnabled) {
-    if (closed<"CommandInputs::addButtonRowCommandInput">(*this)) return {};
+    if (closed<"addButtonRowCommandInput">(*this)) return {};
     return append<ButtonRowCommandInputObject>(id, name, isMultiSelectEnabled);
 }
 
 core::Ptr<core::RadioButtonGroupCommandInput> CommandInputsObject::addRadioButtonGroupCommandInput(
     const std::string& id, const std::string& name) {
-    if (closed<"CommandInputs::addRadioButtonGroupCommandInput">(*this)) return {};
+    if (closed<"addRadioButtonGroupCommandInput">(*this)) return {};
     return append<RadioButtonGroupCommandInputObject>(id, name);
 }
 
 core::Ptr<core::TextBoxCommandInput> CommandInputsObject::addTextBoxCommandInput(
     const std::string& id, const std::string& name, const std::string& formattedText, int numRows,
     bool isReadOnly) {
-    if (closed<"CommandInputs::addTextBoxCommandInput">(*this)) return {};
+    if (closed<"addTextBoxCommandInput">(*this)) return {};
     return append<TextBoxCommandInputObject>(id, name, formattedText, numRows, isReadOnly);
 }
 
 core::Ptr<core::ImageCommandInput> CommandInputsObject::addImageCommandInput(
     const std::string& id, const std::string& name, const std::string& imageFile) {
-    if (closed<"CommandInputs::addImageCommandInput">(*this)) return {};
+    if (closed<"addImageCommandInput">(*this)) return {};
     return append<ImageCommandInputObject>(id, name, imageFile);
 }
 
 core::Ptr<core::SelectionCommandInput> CommandInputsObject::addSelectionInput(
     const std::string& id, const std::string& name, const std::string& commandPrompt) {
-    if (closed<"CommandInputs::addSelectionInput">(*this)) return {};
+    if (closed<"addSelectionInput">(*this)) return {};
     return append<SelectionCommandInputObject>(id, name, commandPrompt);
 }
 

@@ -4,22 +4,20 @@
 
 namespace host::ui {
 
-class DropDownCommandInputObject final
-    : public ListInputObject<core::DropDownCommandInput, "DropDownCommandInput::listItems",
-                             "DropDownCommandInput::selectedItem"> {
+class DropDownCommandInputObject final : public ListInputObject<core::DropDownCommandInput> {
 public:
     DropDownCommandInputObject(const InputOrigin& origin, core::DropDownStyles style)
         : ListInputObject(origin, InputKind::DropDown, style == core::CheckBoxDropDownStyle),
           style_(style) {}
 
     [[nodiscard]] int maxVisibleItems() const override {
-        return get<"DropDownCommandInput::maxVisibleItems">(maxVisibleItems_);
+        return get<"maxVisibleItems">(maxVisibleItems_);
     }
     bool maxVisibleItems(int value) override {
-        return set<"DropDownCommandInput::maxVisibleItems">(maxVisibleItems_, value);
+        return set<"maxVisibleItems">(maxVisibleItems_, value);
     }
     [[nodiscard]] core::DropDownStyles dropDownStyle() const override {
-        return get<"DropDownCommandInput::dropDownStyle">(style_);
+        return get<"dropDownStyle">(style_);
     }
 
 private:

@@ -19,26 +19,21 @@ public:
         : CommandInputObject(origin, InputKind::Group) {}
 
     [[nodiscard]] core::Ptr<core::CommandInputs> children() const override {
-        return get<"GroupCommandInput::children">(insideApi());
+        return get<"children">(insideApi());
     }
-    [[nodiscard]] bool isExpanded() const override {
-        return get<"GroupCommandInput::isExpanded">(state_.expanded);
-    }
-    bool isExpanded(bool value) override {
-        return set<"GroupCommandInput::isExpanded">(state_.expanded, value);
-    }
+    [[nodiscard]] bool isExpanded() const override { return get<"isExpanded">(state_.expanded); }
+    bool isExpanded(bool value) override { return set<"isExpanded">(state_.expanded, value); }
     [[nodiscard]] bool isEnabledCheckBoxDisplayed() const override {
-        return get<"GroupCommandInput::isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed);
+        return get<"isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed);
     }
     bool isEnabledCheckBoxDisplayed(bool value) override {
-        return set<"GroupCommandInput::isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed,
-                                                                    value);
+        return set<"isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed, value);
     }
     [[nodiscard]] bool isEnabledCheckBoxChecked() const override {
-        return get<"GroupCommandInput::isEnabledCheckBoxChecked">(state_.checkBoxChecked);
+        return get<"isEnabledCheckBoxChecked">(state_.checkBoxChecked);
     }
     bool isEnabledCheckBoxChecked(bool value) override {
-        return set<"GroupCommandInput::isEnabledCheckBoxChecked">(state_.checkBoxChecked, value);
+        return set<"isEnabledCheckBoxChecked">(state_.checkBoxChecked, value);
     }
 
     [[nodiscard]] const GroupState& state() const { return state_; }

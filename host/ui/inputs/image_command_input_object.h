@@ -12,10 +12,10 @@ public:
         : CommandInputObject(origin, InputKind::Image), imageFile_(shared(imageFile)) {}
 
     [[nodiscard]] std::string imageFile() const override {
-        return getShared<"ImageCommandInput::imageFile">(imageFile_);
+        return getShared<"imageFile">(imageFile_);
     }
     bool imageFile(const std::string& value) override {
-        return setShared<"ImageCommandInput::imageFile">(imageFile_, value);
+        return setShared<"imageFile">(imageFile_, value);
     }
 
 private:

@@ -5,20 +5,19 @@
 
 namespace host::ui {
 
-/// An input of the API that offers items, with the operations that all of them have. `ListItems`
-/// and `SelectedItem` are the names under which its class passes the gate.
-template <class Interface, CallName ListItems, CallName SelectedItem>
+/// An input of the API that offers items, with the operations that all of them have.
+template <class Interface>
 class ListInputObject : public CommandInputObject<Interface, ListState> {
 public:
     using CommandInputObject<Interface, ListState>::CommandInputObject;
 
     [[nodiscard]] core::Ptr<core::ListItems> listItems() const override {
-        if (closed<ListItems>(*this)) return {};
+        if (closed<"listItems">(*this)) return {};
         return this->itemsApi();
     }
 
     [[nodiscard]] core::Ptr<core::ListItem> selectedItem() const override {
-        if (closed<SelectedItem>(*this)) return {};
+        if (closed<"selectedItem">(*this)) return {};
         return this->selectedItemApi();
     }
 };

@@ -11,23 +11,23 @@ ListItemObject::~ListItemObject() {
 }
 
 std::string ListItemObject::name() const {
-    if (closed<"ListItem::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     return *entry().name;
 }
 
 bool ListItemObject::name(const std::string& value) {
-    if (closed<"ListItem::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     list_->rename(index_, value);
     return true;
 }
 
 bool ListItemObject::isSelected() const {
-    if (closed<"ListItem::isSelected">(*this)) return {};
+    if (closed<"isSelected">(*this)) return {};
     return entry().selected;
 }
 
 bool ListItemObject::isSelected(bool value) {
-    if (closed<"ListItem::isSelected">(*this)) return {};
+    if (closed<"isSelected">(*this)) return {};
     if (list_->select(index_, value)) {
         list_->changedByCode(value ? CodeChange::Selected : CodeChange::Value);
     }
@@ -35,23 +35,23 @@ bool ListItemObject::isSelected(bool value) {
 }
 
 int ListItemObject::index() const {
-    if (closed<"ListItem::index">(*this)) return {};
+    if (closed<"index">(*this)) return {};
     return static_cast<int>(index_);
 }
 
 std::string ListItemObject::icon() const {
-    if (closed<"ListItem::icon">(*this)) return {};
+    if (closed<"icon">(*this)) return {};
     return *entry().icon;
 }
 
 bool ListItemObject::icon(const std::string& value) {
-    if (closed<"ListItem::icon">(*this)) return {};
+    if (closed<"icon">(*this)) return {};
     list_->changeIcon(index_, value);
     return true;
 }
 
 bool ListItemObject::deleteMe() {
-    if (closed<"ListItem::deleteMe">(*this)) return {};
+    if (closed<"deleteMe">(*this)) return {};
     if (list_->kind == InputKind::DropDown && entry().selected && !list_->isMultiSelect()) {
         return fail(core::OperationFailed,
                     "ListItem::deleteMe: the selected item of a drop-down stays");

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] int index() const override;
     [[nodiscard]] std::string icon() const override;
     bool icon(const std::string& value) override;
-    [[nodiscard]] bool isSeparator() const override { return get<"ListItem::isSeparator">(false); }
+    [[nodiscard]] bool isSeparator() const override { return get<"isSeparator">(false); }
     bool deleteMe() override;
 
     void dispose() { invalidate(); }

@@ -5,9 +5,7 @@
 namespace host::ui {
 
 class RadioButtonGroupCommandInputObject final
-    : public ListInputObject<core::RadioButtonGroupCommandInput,
-                             "RadioButtonGroupCommandInput::listItems",
-                             "RadioButtonGroupCommandInput::selectedItem"> {
+    : public ListInputObject<core::RadioButtonGroupCommandInput> {
 public:
     explicit RadioButtonGroupCommandInputObject(const InputOrigin& origin)
         : ListInputObject(origin, InputKind::RadioGroup, /*multiSelect=*/false) {}

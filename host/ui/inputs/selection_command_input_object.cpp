@@ -11,18 +11,18 @@
 namespace host::ui {
 
 std::size_t SelectionCommandInputObject::selectionCount() const {
-    if (closed<"SelectionCommandInput::selectionCount">(*this)) return {};
+    if (closed<"selectionCount">(*this)) return {};
     return picks_.count();
 }
 
 core::Ptr<core::Selection> SelectionCommandInputObject::selection(std::size_t index) const {
-    if (closed<"SelectionCommandInput::selection">(*this)) return {};
+    if (closed<"selection">(*this)) return {};
     return picks_.at(index);
 }
 
 bool SelectionCommandInputObject::addSelection(const core::Ptr<core::Base>& selection) {
     constexpr const char* kOperation = "SelectionCommandInput::addSelection";
-    if (closed<"SelectionCommandInput::addSelection">(*this)) return {};
+    if (closed<"addSelection">(*this)) return {};
     if (!command()->state().shown) {
         return misuse(kOperation, "nothing can be selected while the command is being created");
     }
@@ -41,7 +41,7 @@ bool SelectionCommandInputObject::addSelection(const core::Ptr<core::Base>& sele
 }
 
 bool SelectionCommandInputObject::clearSelection() {
-    if (closed<"SelectionCommandInput::clearSelection">(*this)) return {};
+    if (closed<"clearSelection">(*this)) return {};
     if (picks_.count() > 0) {
         dropAll();
         changedByCode();
@@ -50,7 +50,7 @@ bool SelectionCommandInputObject::clearSelection() {
 }
 
 bool SelectionCommandInputObject::addSelectionFilter(const std::string& filter) {
-    if (closed<"SelectionCommandInput::addSelectionFilter">(*this)) return {};
+    if (closed<"addSelectionFilter">(*this)) return {};
     if (!isSelectionFilter(filter)) {
         return misuse("SelectionCommandInput::addSelectionFilter",
                       "unknown filter \"" + filter + "\"");
@@ -60,13 +60,13 @@ bool SelectionCommandInputObject::addSelectionFilter(const std::string& filter) 
 }
 
 bool SelectionCommandInputObject::clearSelectionFilter() {
-    if (closed<"SelectionCommandInput::clearSelectionFilter">(*this)) return {};
+    if (closed<"clearSelectionFilter">(*this)) return {};
     state_.filters.clear();
     return true;
 }
 
 bool SelectionCommandInputObject::setSelectionLimits(std::size_t minimum, std::size_t maximum) {
-    if (closed<"SelectionCommandInput::setSelectionLimits">(*this)) return {};
+    if (closed<"setSelectionLimits">(*this)) return {};
     if (maximum != 0 && maximum < minimum) {
         return misuse("SelectionCommandInput::setSelectionLimits",
                       "the maximum is less than the minimum");
@@ -77,12 +77,12 @@ bool SelectionCommandInputObject::setSelectionLimits(std::size_t minimum, std::s
 }
 
 bool SelectionCommandInputObject::hasFocus() const {
-    if (closed<"SelectionCommandInput::hasFocus">(*this)) return {};
+    if (closed<"hasFocus">(*this)) return {};
     return isFocused();
 }
 
 bool SelectionCommandInputObject::hasFocus(bool value) {
-    if (closed<"SelectionCommandInput::hasFocus">(*this)) return {};
+    if (closed<"hasFocus">(*this)) return {};
     changeFocus(value);
     return true;
 }

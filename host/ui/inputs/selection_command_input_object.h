@@ -33,19 +33,18 @@ public:
     bool clearSelectionFilter() override;
     bool setSelectionLimits(std::size_t minimum, std::size_t maximum) override;
     [[nodiscard]] std::string commandPrompt() const override {
-        return get<"SelectionCommandInput::commandPrompt">(state_.prompt);
+        return get<"commandPrompt">(state_.prompt);
     }
     bool commandPrompt(const std::string& value) override {
-        return set<"SelectionCommandInput::commandPrompt">(state_.prompt, value);
+        return set<"commandPrompt">(state_.prompt, value);
     }
     [[nodiscard]] bool hasFocus() const override;
     bool hasFocus(bool value) override;
     [[nodiscard]] bool isUseCurrentSelections() const override {
-        return get<"SelectionCommandInput::isUseCurrentSelections">(state_.usesCurrentSelections);
+        return get<"isUseCurrentSelections">(state_.usesCurrentSelections);
     }
     bool isUseCurrentSelections(bool value) override {
-        return set<"SelectionCommandInput::isUseCurrentSelections">(state_.usesCurrentSelections,
-                                                                    value);
+        return set<"isUseCurrentSelections">(state_.usesCurrentSelections, value);
     }
 
     /// A selection is enabled while it has the focus, and enabling it gives it the focus.

@@ -18,18 +18,10 @@ public:
     StringValueCommandInputObject(const InputOrigin& origin, const std::string& value)
         : CommandInputObject(origin, InputKind::String), state_{.value = value} {}
 
-    [[nodiscard]] std::string value() const override {
-        return get<"StringValueCommandInput::value">(state_.value);
-    }
-    bool value(const std::string& value) override {
-        return change<"StringValueCommandInput::value">(state_.value, value);
-    }
-    [[nodiscard]] bool isReadOnly() const override {
-        return get<"StringValueCommandInput::isReadOnly">(state_.readOnly);
-    }
-    bool isReadOnly(bool value) override {
-        return set<"StringValueCommandInput::isReadOnly">(state_.readOnly, value);
-    }
+    [[nodiscard]] std::string value() const override { return get<"value">(state_.value); }
+    bool value(const std::string& value) override { return change<"value">(state_.value, value); }
+    [[nodiscard]] bool isReadOnly() const override { return get<"isReadOnly">(state_.readOnly); }
+    bool isReadOnly(bool value) override { return set<"isReadOnly">(state_.readOnly, value); }
 
     [[nodiscard]] const StringValueState& state() const { return state_; }
 

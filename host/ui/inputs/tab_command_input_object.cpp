@@ -5,12 +5,12 @@
 namespace host::ui {
 
 bool TabCommandInputObject::isActive() const {
-    if (closed<"TabCommandInput::isActive">(*this)) return {};
+    if (closed<"isActive">(*this)) return {};
     return command()->activeTab() == this;
 }
 
 bool TabCommandInputObject::activate() {
-    if (closed<"TabCommandInput::activate">(*this)) return {};
+    if (closed<"activate">(*this)) return {};
     command()->activeTab(this);
     return true;
 }

@@ -14,12 +14,12 @@ public:
         : CommandInputObject(origin, InputKind::Tab), resourceFolder_(resourceFolder) {}
 
     [[nodiscard]] core::Ptr<core::CommandInputs> children() const override {
-        return get<"TabCommandInput::children">(insideApi());
+        return get<"children">(insideApi());
     }
     [[nodiscard]] bool isActive() const override;
     bool activate() override;
     [[nodiscard]] std::string resourceFolder() const override {
-        return get<"TabCommandInput::resourceFolder">(resourceFolder_);
+        return get<"resourceFolder">(resourceFolder_);
     }
 
 private:

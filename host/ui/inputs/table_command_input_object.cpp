@@ -73,7 +73,7 @@ InputState* TableCommandInputObject::acceptable(const core::Ptr<core::CommandInp
 bool TableCommandInputObject::addCommandInput(const core::Ptr<core::CommandInput>& input, int row,
                                               int column, int rowSpan, int columnSpan) {
     constexpr const char* kOperation = "TableCommandInput::addCommandInput";
-    if (closed<"TableCommandInput::addCommandInput">(*this)) return {};
+    if (closed<"addCommandInput">(*this)) return {};
     InputState* state = acceptable(input, kOperation);
     if (state == nullptr) return false;
     const auto lines = static_cast<int>(lines_.count());
@@ -104,7 +104,7 @@ bool TableCommandInputObject::addCommandInput(const core::Ptr<core::CommandInput
 
 bool TableCommandInputObject::addToolbarCommandInput(const core::Ptr<core::CommandInput>& input) {
     constexpr const char* kOperation = "TableCommandInput::addToolbarCommandInput";
-    if (closed<"TableCommandInput::addToolbarCommandInput">(*this)) return {};
+    if (closed<"addToolbarCommandInput">(*this)) return {};
     InputState* state = acceptable(input, kOperation);
     if (state == nullptr) return false;
     if (state->inLine != nullptr) {
@@ -117,7 +117,7 @@ bool TableCommandInputObject::addToolbarCommandInput(const core::Ptr<core::Comma
 
 core::Ptr<core::CommandInput> TableCommandInputObject::getInputAtPosition(int row,
                                                                           int column) const {
-    if (closed<"TableCommandInput::getInputAtPosition">(*this)) return {};
+    if (closed<"getInputAtPosition">(*this)) return {};
     if (row < 0 || column < 0) return nullptr;
     InputState* found =
         lines_.cell(static_cast<std::size_t>(row), static_cast<std::size_t>(column));
@@ -126,7 +126,7 @@ core::Ptr<core::CommandInput> TableCommandInputObject::getInputAtPosition(int ro
 
 bool TableCommandInputObject::getPosition(const core::Ptr<core::CommandInput>& input, int& row,
                                           int& column, int& rowSpan, int& columnSpan) const {
-    if (closed<"TableCommandInput::getPosition">(*this)) return {};
+    if (closed<"getPosition">(*this)) return {};
     const InputState* state = InputState::of(input);
     if (state == nullptr || state->inLine == nullptr || state->inLine->table != this ||
         state->inLine == &toolbar_) {
@@ -141,7 +141,7 @@ bool TableCommandInputObject::getPosition(const core::Ptr<core::CommandInput>& i
 }
 
 bool TableCommandInputObject::removeInput(int row, int column) {
-    if (closed<"TableCommandInput::removeInput">(*this)) return {};
+    if (closed<"removeInput">(*this)) return {};
     InputState* found = row < 0 || column < 0 ? nullptr
                                               : lines_.cell(static_cast<std::size_t>(row),
                                                             static_cast<std::size_t>(column));
@@ -163,7 +163,7 @@ void TableCommandInputObject::remove(InputState& input) {
 }
 
 bool TableCommandInputObject::deleteRow(int row) {
-    if (closed<"TableCommandInput::deleteRow">(*this)) return {};
+    if (closed<"deleteRow">(*this)) return {};
     if (row < 0 || lines_.count() == 0) {
         return fail(core::OperationFailed,
                     "TableCommandInput::deleteRow: row " + std::to_string(row) + " does not exist");
@@ -174,7 +174,7 @@ bool TableCommandInputObject::deleteRow(int row) {
 }
 
 bool TableCommandInputObject::clear() {
-    if (closed<"TableCommandInput::clear">(*this)) return {};
+    if (closed<"clear">(*this)) return {};
     while (lines_.count() > 0) {
         eraseWithInputs(lines_.at(lines_.count() - 1));
     }
@@ -203,23 +203,23 @@ void TableCommandInputObject::dispose() {
 }
 
 int TableCommandInputObject::rowCount() const {
-    if (closed<"TableCommandInput::rowCount">(*this)) return {};
+    if (closed<"rowCount">(*this)) return {};
     return static_cast<int>(lines_.rows());
 }
 
 bool TableCommandInputObject::numberOfColumns(int /*value*/) {
-    if (closed<"TableCommandInput::numberOfColumns">(*this)) return {};
+    if (closed<"numberOfColumns">(*this)) return {};
     return true;
 }
 
 int TableCommandInputObject::selectedRow() const {
-    if (closed<"TableCommandInput::selectedRow">(*this)) return -1;
+    if (closed<"selectedRow">(*this)) return -1;
     const TableLine* selected = lines_.selected();
     return selected == nullptr ? -1 : static_cast<int>(lines_.indexOf(*selected));
 }
 
 bool TableCommandInputObject::selectedRow(int value) {
-    if (closed<"TableCommandInput::selectedRow">(*this)) return {};
+    if (closed<"selectedRow">(*this)) return {};
     if (value < -1 || value >= static_cast<int>(lines_.count())) {
         return fail(core::OperationFailed, "TableCommandInput::selectedRow: row " +
                                                std::to_string(value) + " does not exist");

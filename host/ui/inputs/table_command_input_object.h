@@ -25,35 +25,31 @@ public:
     bool deleteRow(int row) override;
     bool clear() override;
     [[nodiscard]] int rowCount() const override;
-    [[nodiscard]] int numberOfColumns() const override {
-        return get<"TableCommandInput::numberOfColumns">(columns_);
-    }
+    [[nodiscard]] int numberOfColumns() const override { return get<"numberOfColumns">(columns_); }
     bool numberOfColumns(int value) override;  ///< without effect: a table keeps its columns
-    [[nodiscard]] std::string columnRatio() const override {
-        return get<"TableCommandInput::columnRatio">(ratio_);
-    }
+    [[nodiscard]] std::string columnRatio() const override { return get<"columnRatio">(ratio_); }
     bool columnRatio(const std::string& value) override {
-        return set<"TableCommandInput::columnRatio">(ratio_, value);
+        return set<"columnRatio">(ratio_, value);
     }
     [[nodiscard]] int maximumVisibleRows() const override {
-        return get<"TableCommandInput::maximumVisibleRows">(maximumVisibleRows_);
+        return get<"maximumVisibleRows">(maximumVisibleRows_);
     }
     bool maximumVisibleRows(int value) override {
-        return set<"TableCommandInput::maximumVisibleRows">(maximumVisibleRows_, value);
+        return set<"maximumVisibleRows">(maximumVisibleRows_, value);
     }
     [[nodiscard]] int minimumVisibleRows() const override {
-        return get<"TableCommandInput::minimumVisibleRows">(minimumVisibleRows_);
+        return get<"minimumVisibleRows">(minimumVisibleRows_);
     }
     bool minimumVisibleRows(int value) override {
-        return set<"TableCommandInput::minimumVisibleRows">(minimumVisibleRows_, value);
+        return set<"minimumVisibleRows">(minimumVisibleRows_, value);
     }
     [[nodiscard]] int selectedRow() const override;
     bool selectedRow(int value) override;
     [[nodiscard]] core::TablePresentationStyles tablePresentationStyle() const override {
-        return get<"TableCommandInput::tablePresentationStyle">(style_);
+        return get<"tablePresentationStyle">(style_);
     }
     bool tablePresentationStyle(core::TablePresentationStyles value) override {
-        return set<"TableCommandInput::tablePresentationStyle">(style_, value);
+        return set<"tablePresentationStyle">(style_, value);
     }
 
     void dispose() override;

@@ -14,7 +14,7 @@ TextBoxCommandInputObject::TextBoxCommandInputObject(const InputOrigin& origin,
              .readOnly = readOnly} {}
 
 bool TextBoxCommandInputObject::text(const std::string& value) {
-    if (closed<"TextBoxCommandInput::text">(*this)) return {};
+    if (closed<"text">(*this)) return {};
     const bool changed = state_.text != value;
     enter(value);
     if (changed) {
@@ -24,7 +24,7 @@ bool TextBoxCommandInputObject::text(const std::string& value) {
 }
 
 bool TextBoxCommandInputObject::formattedText(const std::string& value) {
-    if (closed<"TextBoxCommandInput::formattedText">(*this)) return {};
+    if (closed<"formattedText">(*this)) return {};
     const bool changed = state_.formatted != value;
     state_.text = plainText(value);
     state_.formatted = value;

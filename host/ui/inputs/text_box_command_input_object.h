@@ -19,26 +19,16 @@ public:
     TextBoxCommandInputObject(const InputOrigin& origin, const std::string& formattedText, int rows,
                               bool readOnly);
 
-    [[nodiscard]] std::string text() const override {
-        return get<"TextBoxCommandInput::text">(state_.text);
-    }
+    [[nodiscard]] std::string text() const override { return get<"text">(state_.text); }
     bool text(const std::string& value) override;
     [[nodiscard]] std::string formattedText() const override {
-        return get<"TextBoxCommandInput::formattedText">(state_.formatted);
+        return get<"formattedText">(state_.formatted);
     }
     bool formattedText(const std::string& value) override;
-    [[nodiscard]] int numRows() const override {
-        return get<"TextBoxCommandInput::numRows">(state_.rows);
-    }
-    bool numRows(int value) override {
-        return set<"TextBoxCommandInput::numRows">(state_.rows, value);
-    }
-    [[nodiscard]] bool isReadOnly() const override {
-        return get<"TextBoxCommandInput::isReadOnly">(state_.readOnly);
-    }
-    bool isReadOnly(bool value) override {
-        return set<"TextBoxCommandInput::isReadOnly">(state_.readOnly, value);
-    }
+    [[nodiscard]] int numRows() const override { return get<"numRows">(state_.rows); }
+    bool numRows(int value) override { return set<"numRows">(state_.rows, value); }
+    [[nodiscard]] bool isReadOnly() const override { return get<"isReadOnly">(state_.readOnly); }
+    bool isReadOnly(bool value) override { return set<"isReadOnly">(state_.readOnly, value); }
 
     [[nodiscard]] const TextBoxState& state() const { return state_; }
 

@@ -26,13 +26,13 @@ bool CommandControlObject::deleteMe() {
 }
 
 core::Ptr<core::CommandDefinition> CommandControlObject::commandDefinition() const {
-    if (closed<"CommandControl::commandDefinition">(*this)) return {};
+    if (closed<"commandDefinition">(*this)) return {};
     if (!state_.definition->isValid()) return nullptr;
     return state_.definition;
 }
 
 bool CommandControlObject::isPromoted(bool value) {
-    if (closed<"CommandControl::isPromoted">(*this)) return {};
+    if (closed<"isPromoted">(*this)) return {};
     state_.promoted = value && owner_->inPanel();
     return true;
 }

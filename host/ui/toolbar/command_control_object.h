@@ -35,9 +35,7 @@ public:
     [[nodiscard]] std::size_t index() const override;
     bool deleteMe() override;
     [[nodiscard]] core::Ptr<core::CommandDefinition> commandDefinition() const override;
-    [[nodiscard]] bool isPromoted() const override {
-        return get<"CommandControl::isPromoted">(state_.promoted);
-    }
+    [[nodiscard]] bool isPromoted() const override { return get<"isPromoted">(state_.promoted); }
     bool isPromoted(bool value) override;
 
     [[nodiscard]] const CommandControlState& state() const { return state_; }

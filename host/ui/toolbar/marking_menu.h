@@ -21,7 +21,7 @@ public:
         : state_{.controls = make<ToolbarControlsObject>(this, /*inPanel=*/false)} {}
 
     [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
-        return get<"LinearMarkingMenu::controls">(state_.controls);
+        return get<"controls">(state_.controls);
     }
 
     [[nodiscard]] const LinearMarkingMenuState& state() const { return state_; }
@@ -50,13 +50,13 @@ public:
           selected_(std::move(selected)) {}
 
     [[nodiscard]] core::Ptr<core::LinearMarkingMenu> linearMarkingMenu() const override {
-        return get<"MarkingMenuEventArgs::linearMarkingMenu">(linear_);
+        return get<"linearMarkingMenu">(linear_);
     }
     [[nodiscard]] core::Ptr<core::RadialMarkingMenu> radialMarkingMenu() const override {
-        return get<"MarkingMenuEventArgs::radialMarkingMenu">(radial_);
+        return get<"radialMarkingMenu">(radial_);
     }
     [[nodiscard]] std::vector<core::Ptr<core::Base>> selectedEntities() const override {
-        return get<"MarkingMenuEventArgs::selectedEntities">(selected_);
+        return get<"selectedEntities">(selected_);
     }
 
 private:

@@ -8,7 +8,7 @@ core::Ptr<core::CommandControl> ToolbarControlsObject::addCommand(
     const core::Ptr<core::CommandDefinition>& commandDefinition, const std::string& positionID,
     bool isBefore) {
     constexpr const char* kOperation = "ToolbarControls::addCommand";
-    if (closed<"ToolbarControls::addCommand">(*this)) return {};
+    if (closed<"addCommand">(*this)) return {};
     const core::Ptr<CommandDefinitionObject> definition = commandDefinition;
     if (!definition) {
         fail(core::BadApiCallError, std::string(kOperation) + ": the definition is null");

@@ -9,7 +9,7 @@ namespace host::ui {
 
 /// The controls of a panel or of a menu; owns them.
 class ToolbarControlsObject final
-    : public CollectionObject<core::ToolbarControls, CommandControlObject, "ToolbarControls"> {
+    : public CollectionObject<core::ToolbarControls, CommandControlObject> {
 public:
     /// `parent` is the panel or menu; in a panel controls can be promoted.
     ToolbarControlsObject(core::Base* parent, bool inPanel) : parent_(parent), inPanel_(inPanel) {}

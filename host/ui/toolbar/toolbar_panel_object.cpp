@@ -6,7 +6,7 @@
 namespace host::ui {
 
 bool ToolbarPanelObject::deleteMe() {
-    if (closed<"ToolbarPanel::deleteMe">(*this)) return {};
+    if (closed<"deleteMe">(*this)) return {};
     if (state_.native) {
         return fail(core::OperationFailed,
                     "ToolbarPanel::deleteMe: " + state_.id + " is the host's own");

@@ -27,12 +27,10 @@ public:
                  .native = native,
                  .controls = make<ToolbarControlsObject>(this, /*inPanel=*/true)} {}
 
-    [[nodiscard]] std::string id() const override { return get<"ToolbarPanel::id">(state_.id); }
-    [[nodiscard]] std::string name() const override {
-        return get<"ToolbarPanel::name">(state_.name);
-    }
+    [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
     [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
-        return get<"ToolbarPanel::controls">(state_.controls);
+        return get<"controls">(state_.controls);
     }
     bool deleteMe() override;
 

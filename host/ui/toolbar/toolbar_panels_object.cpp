@@ -13,7 +13,7 @@ core::Ptr<core::ToolbarPanel> ToolbarPanelsObject::add(const std::string& id,
                                                        const std::string& positionID,
                                                        bool isBefore) {
     constexpr const char* kOperation = "ToolbarPanels::add";
-    if (closed<"ToolbarPanels::add">(*this)) return {};
+    if (closed<"add">(*this)) return {};
     if (id.empty() || workspace_->owner().panel(id)) {
         misuse(kOperation, id.empty() ? "a panel needs an id" : "the id \"" + id + "\" is in use");
         return {};

@@ -12,8 +12,7 @@ class WorkspaceObject;
 class WorkspacesObject;
 
 /// The panels of a tab, or of a workspace over all of its tabs.
-class ToolbarPanelsObject final
-    : public CollectionObject<core::ToolbarPanels, ToolbarPanelObject, "ToolbarPanels"> {
+class ToolbarPanelsObject final : public CollectionObject<core::ToolbarPanels, ToolbarPanelObject> {
 public:
     /// `tab` is null for the panels of the workspace.
     ToolbarPanelsObject(WorkspaceObject* workspace, ToolbarTabObject* tab)
@@ -32,7 +31,7 @@ private:
 
 /// The panels of all workspaces.
 class ToolbarPanelListObject final
-    : public CollectionObject<core::ToolbarPanelList, ToolbarPanelObject, "ToolbarPanelList"> {
+    : public CollectionObject<core::ToolbarPanelList, ToolbarPanelObject> {
 public:
     explicit ToolbarPanelListObject(WorkspacesObject* workspaces) : workspaces_(workspaces) {}
 

@@ -23,10 +23,10 @@ public:
     ToolbarTabObject(WorkspaceObject* workspace, const std::string& id, const std::string& name)
         : state_{.id = id, .name = name}, api_(make<ToolbarPanelsObject>(workspace, this)) {}
 
-    [[nodiscard]] std::string id() const override { return get<"ToolbarTab::id">(state_.id); }
-    [[nodiscard]] std::string name() const override { return get<"ToolbarTab::name">(state_.name); }
+    [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
     [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override {
-        return get<"ToolbarTab::toolbarPanels">(api_);
+        return get<"toolbarPanels">(api_);
     }
 
     [[nodiscard]] const ToolbarTabState& state() const { return state_; }

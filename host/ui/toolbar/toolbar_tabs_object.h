@@ -12,8 +12,7 @@ namespace host::ui {
 using TabList = std::vector<core::Ptr<ToolbarTabObject>>;
 
 /// The tabs of one workspace.
-class ToolbarTabsObject final
-    : public CollectionObject<core::ToolbarTabs, ToolbarTabObject, "ToolbarTabs"> {
+class ToolbarTabsObject final : public CollectionObject<core::ToolbarTabs, ToolbarTabObject> {
 public:
     explicit ToolbarTabsObject(WorkspaceObject* workspace) : workspace_(workspace) {}
 
@@ -25,8 +24,7 @@ private:
 };
 
 /// The tabs of all workspaces of one type of product.
-class ToolbarTabListObject final
-    : public CollectionObject<core::ToolbarTabList, ToolbarTabObject, "ToolbarTabList"> {
+class ToolbarTabListObject final : public CollectionObject<core::ToolbarTabList, ToolbarTabObject> {
 public:
     ToolbarTabListObject(WorkspacesObject* workspaces, std::string productType)
         : workspaces_(workspaces), productType_(std::move(productType)) {}

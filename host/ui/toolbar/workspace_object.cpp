@@ -18,12 +18,12 @@ WorkspaceObject::WorkspaceObject(WorkspacesObject* owner, WorkspaceSetup setup)
       tabsApi_(make<ToolbarTabsObject>(this)) {}
 
 bool WorkspaceObject::isActive() const {
-    if (closed<"Workspace::isActive">(*this)) return {};
+    if (closed<"isActive">(*this)) return {};
     return owner_->active().get() == this;
 }
 
 bool WorkspaceObject::activate() {
-    if (closed<"Workspace::activate">(*this)) return {};
+    if (closed<"activate">(*this)) return {};
     if (owner_->active().get() != this && owner_->inCommandEvent()) {
         return misuse("Workspace::activate", "called inside an event of a command");
     }

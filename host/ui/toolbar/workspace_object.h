@@ -16,16 +16,16 @@ class WorkspaceObject final : public Object<core::Workspace> {
 public:
     WorkspaceObject(WorkspacesObject* owner, WorkspaceSetup setup);
 
-    [[nodiscard]] std::string id() const override { return get<"Workspace::id">(state_.id); }
-    [[nodiscard]] std::string name() const override { return get<"Workspace::name">(state_.name); }
+    [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
+    [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
     [[nodiscard]] std::string productType() const override {
-        return get<"Workspace::productType">(state_.productType);
+        return get<"productType">(state_.productType);
     }
     [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override {
-        return get<"Workspace::toolbarPanels">(panelsApi_);
+        return get<"toolbarPanels">(panelsApi_);
     }
     [[nodiscard]] core::Ptr<core::ToolbarTabs> toolbarTabs() const override {
-        return get<"Workspace::toolbarTabs">(tabsApi_);
+        return get<"toolbarTabs">(tabsApi_);
     }
     [[nodiscard]] bool isActive() const override;
     bool activate() override;

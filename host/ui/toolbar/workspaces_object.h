@@ -15,8 +15,7 @@ namespace host::ui {
 class UserInterfaceObject;
 
 /// All workspaces; one of them is active.
-class WorkspacesObject final
-    : public CollectionObject<core::Workspaces, WorkspaceObject, "Workspaces"> {
+class WorkspacesObject final : public CollectionObject<core::Workspaces, WorkspaceObject> {
 public:
     WorkspacesObject(UserInterfaceObject* ui, const std::vector<WorkspaceSetup>& setups);
 
@@ -47,7 +46,7 @@ public:
         : Arguments(std::move(event)), workspace_(std::move(workspace)) {}
 
     [[nodiscard]] core::Ptr<core::Workspace> workspace() const override {
-        return get<"WorkspaceEventArgs::workspace">(workspace_);
+        return get<"workspace">(workspace_);
     }
 
 private:
