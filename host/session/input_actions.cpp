@@ -210,12 +210,7 @@ void click(const Ptr<core::CommandInput>& input) {
 
 void typeText(const Ptr<core::CommandInput>& input, const std::string& text) {
     for (const std::string& grown : prefixes(text)) {
-        UserAction acting;
-        InputState& state = writable(input);
-        selectRowOf(state);
-        enter(state, grown);
-        acting.runner().changed(state);
-        acting.finish();
+        pasteText(input, grown);
     }
 }
 
