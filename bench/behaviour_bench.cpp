@@ -3,35 +3,30 @@
 // write-back, and saving the design. A row of the output is one design; its time is that of the
 // action the benchmark is named after, and the counters hold the others beside it.
 
-#include "bench/bench_design.h"
+#include "bench/bench_session.h"
 #include "bench/measure.h"
-#include "host/session/session.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstddef>
 #include <functional>
 
 namespace {
 
+using bench::kConfiguration;
+using bench::kModel;
+using bench::kStructure;
 using bench::measure;
 using bench::Shape;
 using host::Session;
 
-constexpr const char* kStructure = "QEMA_tab_structure_BOM";
-constexpr const char* kModel = "QEMA_tab_models_BOM";
-constexpr const char* kConfiguration = "QEMA_tab_config_BOM";
 constexpr double kMillisecondsASecond = 1000;
 
 /// Opens the dialog on a design, does something in it once, and notes the seconds it took.
 void inDialog(benchmark::State& state, Shape shape, const std::function<double(Session&)>& act) {
     for (auto iteration : state) {
         (void)iteration;
-        host::SessionOptions options;
-        options.addin = ADDIN_FOLDER;
-        Session session(options);
-        session.openDesign(bench::makeDesign(shape, static_cast<std::size_t>(state.range(0))));
-        session.run();
+        Session session(bench::addinOptions());
+        bench::start(session, shape, state);
         session.press("QM_TX_BOM");
         state.SetIterationTime(act(session) / kMillisecondsASecond);
     }

@@ -4,9 +4,8 @@
 // "Structure" for the first time; the counters hold each action, as milliseconds and as calls of
 // the host's API. Counts are stable; times are those of the machine.
 
-#include "bench/bench_design.h"
+#include "bench/bench_session.h"
 #include "bench/measure.h"
-#include "host/session/session.h"
 
 #include <benchmark/benchmark.h>
 
@@ -19,13 +18,12 @@
 
 namespace {
 
+using bench::kConfiguration;
+using bench::kModel;
+using bench::kStructure;
 using bench::measure;
 using bench::Shape;
 using host::Session;
-
-constexpr const char* kStructure = "QEMA_tab_structure_BOM";
-constexpr const char* kModel = "QEMA_tab_models_BOM";
-constexpr const char* kConfiguration = "QEMA_tab_config_BOM";
 
 /// Peak resident memory of this process so far, in MB.
 double peakMegabytes() {
@@ -44,11 +42,8 @@ constexpr const char* kCell = "modelPartNumberOcc_1";
 void measureDialog(benchmark::State& state, Shape shape) {
     for (auto iteration : state) {
         (void)iteration;
-        host::SessionOptions options;
-        options.addin = ADDIN_FOLDER;
-        Session session(options);
-        session.openDesign(bench::makeDesign(shape, static_cast<std::size_t>(state.range(0))));
-        session.run();
+        Session session(bench::addinOptions());
+        bench::start(session, shape, state);
 
         double first = measure(state, "open", [&] { session.press("QM_TX_BOM"); });
         measure(state, "key", [&] { session.paste(kCell, "P-1"); });
@@ -86,13 +81,9 @@ double medianOfFive(const std::function<double()>& figure) {
 void measureExport(benchmark::State& state) {
     for (auto iteration : state) {
         (void)iteration;
-        host::SessionOptions options;
-        options.addin = ADDIN_FOLDER;
-        Session session(options);
+        Session session(bench::addinOptions());
         configureColumns(session);
-        session.openDesign(
-            bench::makeDesign(Shape::FlatDifferent, static_cast<std::size_t>(state.range(0))));
-        session.run();
+        bench::start(session, Shape::FlatDifferent, state);
         session.press("QM_TX_BOM");
         // A click also walks the design; what remains is the writing.
         const double walkMs = medianOfFive(
