@@ -51,6 +51,10 @@ std::vector<Use> onCircleUses(const std::string& key, int count, double radius, 
     return uses;
 }
 
+void append(std::vector<Use>& uses, const std::vector<Use>& more) {
+    uses.insert(uses.end(), more.begin(), more.end());
+}
+
 std::vector<Product> parts() {
     const Solid screw = {{{circle(2.75), 3}, {circle(1.5), 10}}, {}};
     return {
@@ -59,99 +63,78 @@ std::vector<Product> parts() {
          .name = "Vstupní příruba",
          .description = "NEMA 17",
          .material = kAluminium,
-         .solid = Solid{{{rectangle(42, 42), 6}}, holesOnCircle(1.6, 18.5, 4, 11)},
-         .uses = {}},
+         .solid = Solid{{{rectangle(42, 42), 6}}, holesOnCircle(1.6, 18.5, 4, 11)}},
         {.key = "ring",
          .id = "PG42-102",
          .name = "Ozubený věnec",
          .description = "z 27, m 1.25",
          .material = kSteel,
-         .solid = Solid{{{circle(21), 24}}, {teeth(kRingTeeth, kModule, -1)}},
-         .uses = {}},
+         .solid = Solid{{{circle(21), 24}}, {teeth(kRingTeeth, kModule, -1)}}},
         {.key = "cover",
          .id = "PG42-103",
          .name = "Výstupní příruba",
-         .description = "",
          .material = kAluminium,
-         .solid = Solid{{{circle(21), 4}, {circle(14), 5}}, {circle(8)}},
-         .uses = {}},
+         .solid = Solid{{{circle(21), 4}, {circle(14), 5}}, {circle(8)}}},
         {.key = "screw",
          .id = "ISO 4762 M3x10",
          .name = "Socket head screw M3x10",
          .description = "A2-70",
          .material = kSteel,
-         .solid = screw,
-         .uses = {}},
+         .solid = screw},
         {.key = "šroub",
          .id = "ISO 4762 M3x10",
          .name = "Šroub s válcovou hlavou M3x10",
          .description = "A2-70",
          .material = kSteel,
-         .solid = screw,
-         .uses = {}},
+         .solid = screw},
         {.key = "carrier",
          .id = "PG42-201",
          .name = "Unašeč",
-         .description = "",
          .material = kSteel,
-         .solid = Solid{{{circle(15.5), 3}}, {circle(3)}},
-         .uses = {}},
+         .solid = Solid{{{circle(15.5), 3}}, {circle(3)}}},
         {.key = "planet",
          .id = "PG42-211",
          .name = "Planet gear",
          .description = "z 9, m 1.25",
          .material = kSteel,
-         .solid = Solid{{{teeth(kPlanetTeeth, kModule), 8}}, {circle(2.5)}},
-         .uses = {}},
+         .solid = Solid{{{teeth(kPlanetTeeth, kModule), 8}}, {circle(2.5)}}},
         {.key = "pin",
          .id = "PG42-212",
          .name = "Čep planety",
          .description = "h6, kaleno",
          .material = kBearingSteel,
-         .solid = Solid{{{circle(1.5), 11}}, {}},
-         .uses = {}},
+         .solid = Solid{{{circle(1.5), 11}}, {}}},
         {.key = "needles",
          .id = "K3x5x7",
          .name = "針状ころ軸受 K3x5x7",
-         .description = "",
          .material = kBearingSteel,
-         .solid = Solid{{{circle(2.5), 7}}, {circle(1.5)}},
-         .uses = {}},
+         .solid = Solid{{{circle(2.5), 7}}, {circle(1.5)}}},
         {.key = "sun",
          .id = "PG42-220",
          .name = "Centrální kolo",
          .description = "z 9, m 1.25",
          .material = kSteel,
-         .solid = Solid{{{teeth(kPlanetTeeth, kModule), 8}}, {circle(2.5)}},
-         .uses = {}},
+         .solid = Solid{{{teeth(kPlanetTeeth, kModule), 8}}, {circle(2.5)}}},
         {.key = "shaft",
          .id = "PG42-301",
          .name = "Výstupní hřídel",
-         .description = "",
          .material = kSteel,
-         .solid = Solid{{{circle(4), 12}, {circle(3.5), 20}}, {}},
-         .uses = {}},
+         .solid = Solid{{{circle(4), 12}, {circle(3.5), 20}}, {}}},
         {.key = "bearing",
          .id = "688-2Z",
          .name = "玉軸受 688-2Z",
          .description = "8x16x5",
          .material = kBearingSteel,
-         .solid = Solid{{{circle(8), 5}}, {circle(4)}},
-         .uses = {}},
+         .solid = Solid{{{circle(8), 5}}, {circle(4)}}},
         {.key = "spacer",
          .id = "PG42-302",
          .name = "Distanční kroužek",
-         .description = "",
          .material = kBrass,
-         .solid = Solid{{{circle(5), 2}}, {circle(4)}},
-         .uses = {}},
+         .solid = Solid{{{circle(5), 2}}, {circle(4)}}},
         {.key = "retainer",
          .id = "DIN 471-8",
          .name = "Retaining ring 8x0.8",
-         .description = "",
-         .material = std::nullopt,
-         .solid = Solid{{{circle(5.2), 0.8}}, {circle(3.8)}},
-         .uses = {}},
+         .solid = Solid{{{circle(5.2), 0.8}}, {circle(3.8)}}},
     };
 }
 
@@ -159,27 +142,16 @@ Product housing() {
     Product product{.key = "housing",
                     .id = "PG42-100",
                     .name = "Skříň",
-                    .description = "",
-                    .material = {},
-                    .solid = {},
-                    .uses = {}};
-    product.uses = {{"flange", {}}, {"ring", at(0, 0, 6)}, {"cover", at(0, 0, 30)}};
-    for (const Use& use : onCircleUses("screw", 4, 18.5, 45, 3)) {
-        product.uses.push_back(use);
-    }
+                    .uses = {{"flange", {}}, {"ring", at(0, 0, 6)}, {"cover", at(0, 0, 30)}}};
+    append(product.uses, onCircleUses("screw", 4, 18.5, 45, 3));
     return product;
 }
 
 Product planet() {
-    Product product{.key = "planetAssembly",
-                    .id = "PG42-210",
-                    .name = "Planet",
-                    .description = "",
-                    .material = {},
-                    .solid = {},
-                    .uses = {}};
-    product.uses = {{"planet", {}}, {"pin", at(0, 0, -3)}, {"needles", at(0, 0, 0.5)}};
-    return product;
+    return {.key = "planetAssembly",
+            .id = "PG42-210",
+            .name = "Planet",
+            .uses = {{"planet", {}}, {"pin", at(0, 0, -3)}, {"needles", at(0, 0, 0.5)}}};
 }
 
 Product stage() {
@@ -187,45 +159,34 @@ Product stage() {
                     .id = "PG42-200",
                     .name = "Planetový stupeň",
                     .description = "i = 4",
-                    .material = {},
-                    .solid = {},
-                    .uses = {}};
-    product.uses = {{"carrier", {}}, {"sun", at(0, 0, 3)}};
-    for (const Use& use : onCircleUses("planetAssembly", 3, kPlanetDistance, 0, 3)) {
-        product.uses.push_back(use);
-    }
+                    .uses = {{"carrier", {}}, {"sun", at(0, 0, 3)}}};
+    append(product.uses, onCircleUses("planetAssembly", 3, kPlanetDistance, 0, 3));
     return product;
 }
 
 Product output() {
-    Product product{.key = "output",
-                    .id = "PG42-300",
-                    .name = "Výstup",
-                    .description = "",
-                    .material = {},
-                    .solid = {},
-                    .uses = {}};
-    product.uses = {{"shaft", {}},
-                    {"bearing", {}},
-                    {"spacer", at(0, 0, 5)},
-                    {"bearing", at(0, 0, 7)},
-                    {"retainer", at(0, 0, 12)},
-                    {"screw", {{0, 0, 34}, {0, 0, -1}, {1, 0, 0}}}};
-    return product;
+    return {.key = "output",
+            .id = "PG42-300",
+            .name = "Výstup",
+            .uses = {{"shaft", {}},
+                     {"bearing", {}},
+                     {"spacer", at(0, 0, 5)},
+                     {"bearing", at(0, 0, 7)},
+                     {"retainer", at(0, 0, 12)},
+                     {"screw", {{0, 0, 34}, {0, 0, -1}, {1, 0, 0}}}}};
 }
 
 Product gearbox() {
-    Product product{.key = "gearbox",
-                    .id = "PG42-000",
-                    .name = "Planetary gearbox PG-42",
-                    .description = "i = 16",
-                    .material = {},
-                    .solid = {},
-                    .uses = {}};
-    product.uses = {
-        {"housing", {}},          {"stage", at(0, 0, 7)},      {"stage", at(0, 0, 19)},
-        {"output", at(0, 0, 30)}, {"screw", at(-18.5, 0, 34)}, {"šroub", at(18.5, 0, 34)}};
-    return product;
+    return {.key = "gearbox",
+            .id = "PG42-000",
+            .name = "Planetary gearbox PG-42",
+            .description = "i = 16",
+            .uses = {{"housing", {}},
+                     {"stage", at(0, 0, 7)},
+                     {"stage", at(0, 0, 19)},
+                     {"output", at(0, 0, 30)},
+                     {"screw", at(-18.5, 0, 34)},
+                     {"šroub", at(18.5, 0, 34)}}};
 }
 
 }  // namespace

@@ -23,10 +23,10 @@ struct Product {
     std::string key;  ///< the name of the product in the generator; not written to the file
     std::string id;
     std::string name;
-    std::string description;
-    std::optional<Material> material;
-    std::optional<Solid> solid;
-    std::vector<Use> uses;
+    std::string description = {};
+    std::optional<Material> material = {};
+    std::optional<Solid> solid = {};
+    std::vector<Use> uses = {};
 };
 
 /// Writes products as a STEP file, parts before the assemblies that use them. A use of a product
