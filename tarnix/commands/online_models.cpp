@@ -37,8 +37,4 @@ void OnLineLibraryExecuteHandler::notify(const Ptr<CommandEventArgs>& /*eventArg
     }
 }
 
-void OnLineLibraryCreateEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
-    eventArgs->command()->execute()->add(&executeHandler_);
-}
-
 }  // namespace tarnix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tarnix/commands/command_without_dialog.h"
 #include "tarnix/text/command_texts.h"
 
 #include <Core/CoreAll.h>
@@ -23,12 +24,7 @@ public:
 };
 
 /// Answers the start of the command for models from the web, which has no dialog.
-class OnLineLibraryCreateEventHandler final : public adsk::core::CommandCreatedEventHandler {
-public:
-    void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
-
-private:
-    OnLineLibraryExecuteHandler executeHandler_;
-};
+class OnLineLibraryCreateEventHandler final
+    : public CommandWithoutDialog<OnLineLibraryExecuteHandler> {};
 
 }  // namespace tarnix

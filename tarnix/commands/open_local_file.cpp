@@ -132,8 +132,4 @@ void OpenLocalFileCmdExecuteHandler::openWhenConverted(const Ptr<DataFile>& file
     progress->hide();
 }
 
-void OpenLocalFileCmdCreateHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
-    eventArgs->command()->execute()->add(&executeHandler_);
-}
-
 }  // namespace tarnix

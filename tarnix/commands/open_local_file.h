@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tarnix/commands/command_without_dialog.h"
 #include "tarnix/text/command_texts.h"
 
 #include <Core/CoreAll.h>
@@ -56,12 +57,7 @@ private:
 };
 
 /// Answers the start of the command "Open local file", which has no dialog of its own.
-class OpenLocalFileCmdCreateHandler final : public adsk::core::CommandCreatedEventHandler {
-public:
-    void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
-
-private:
-    OpenLocalFileCmdExecuteHandler executeHandler_;
-};
+class OpenLocalFileCmdCreateHandler final
+    : public CommandWithoutDialog<OpenLocalFileCmdExecuteHandler> {};
 
 }  // namespace tarnix

@@ -63,8 +63,4 @@ void UnitsConversionCmdExecuteHandler::notify(const Ptr<CommandEventArgs>& /*eve
         [](const TopWindow& window) { return findHostWindow(window, kHostTitle); });
 }
 
-void UnitsConversionCmdCreateEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventArgs) {
-    eventArgs->command()->execute()->add(&executeHandler_);
-}
-
 }  // namespace tarnix

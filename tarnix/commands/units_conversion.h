@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tarnix/commands/command_without_dialog.h"
 #include "tarnix/text/command_texts.h"
 
 #include <Core/CoreAll.h>
@@ -30,12 +31,7 @@ public:
 };
 
 /// Answers the start of the command "Units Conversion", which has no dialog.
-class UnitsConversionCmdCreateEventHandler final : public adsk::core::CommandCreatedEventHandler {
-public:
-    void notify(const adsk::core::Ptr<adsk::core::CommandCreatedEventArgs>& eventArgs) override;
-
-private:
-    UnitsConversionCmdExecuteHandler executeHandler_;
-};
+class UnitsConversionCmdCreateEventHandler final
+    : public CommandWithoutDialog<UnitsConversionCmdExecuteHandler> {};
 
 }  // namespace tarnix
