@@ -1,12 +1,7 @@
 #include "tarnix/addin/helpdesk_commands.h"
 
 #include "tarnix/addin/state.h"
-#include "tarnix/helpdesk/folder_packing.h"
 #include "tarnix/helpdesk/one_click_commands.h"
-#include "tarnix/helpdesk/screen_capture.h"
-#include "tarnix/helpdesk/support_folder.h"
-#include "tarnix/helpdesk/support_provider.h"
-#include "tarnix/helpdesk/system_information.h"
 
 #include <cstddef>
 #include <span>
@@ -19,11 +14,6 @@ using namespace adsk::core;
 std::vector<Ptr<CommandDefinition>> helpdeskCommandDefinitions;
 
 namespace {
-
-/// In the order of their buttons.
-constexpr CommandTexts kHelpdeskCommands[] = {
-    kOpenHelpdeskCommand,   kCaptureScreenCommand, kCaptureFusionCommand, kSystemInfoCommand,
-    kCompressFolderCommand, kOpenFolderCommand,    kClearFolderCommand,   kOpenHelpCommand};
 
 /// Where the definitions of this run begin; before it are the deleted ones of earlier runs.
 std::size_t firstOfThisRun = 0;
@@ -50,8 +40,8 @@ bool createHelpdeskCommands() {
     if (!definitions) {
         return false;
     }
-    for (const CommandTexts& texts : kHelpdeskCommands) {
-        const Ptr<CommandDefinition> definition = findOrAddDefinition(definitions, texts);
+    for (const OneClickCommand& command : oneClickCommands()) {
+        const Ptr<CommandDefinition> definition = findOrAddDefinition(definitions, command.texts);
         if (!checkReturn(definition)) {
             return false;
         }
@@ -71,7 +61,7 @@ void addHelpdeskControls(const Ptr<ToolbarControls>& controls) {
         // The position is the command's own id. No control of the panel has it yet, so each goes
         // after the others.
         const Ptr<CommandControl> control =
-            controls->addCommand(definitions[i], kHelpdeskCommands[i].id, /*isBefore=*/true);
+            controls->addCommand(definitions[i], oneClickCommands()[i].texts.id, /*isBefore=*/true);
         if (i == 0 || i + 1 == definitions.size()) {
             control->isPromoted(true);
         }

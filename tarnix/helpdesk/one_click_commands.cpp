@@ -6,6 +6,7 @@
 #include "tarnix/helpdesk/support_provider.h"
 #include "tarnix/helpdesk/system_information.h"
 
+#include <algorithm>
 #include <string>
 
 namespace tarnix {
@@ -15,24 +16,26 @@ using namespace adsk::core;
 OnExecuteEventHandler onExecuteEventHandler;
 CommandCreatedEventHandler commandCreatedEventHandler;
 
+std::span<const OneClickCommand> oneClickCommands() {
+    static constexpr OneClickCommand kCommands[] = {
+        {.texts = kOpenHelpdeskCommand, .execute = openSupportProvider},
+        {.texts = kCaptureScreenCommand, .execute = captureWholeScreen},
+        {.texts = kCaptureFusionCommand, .execute = captureFusionWindow},
+        {.texts = kSystemInfoCommand, .execute = writeSystemInfo},
+        {.texts = kCompressFolderCommand, .execute = compressHelpdeskFolder},
+        {.texts = kOpenFolderCommand, .execute = openHelpdeskFolder},
+        {.texts = kClearFolderCommand, .execute = clearHelpdeskFolder},
+        {.texts = kOpenHelpCommand, .execute = openUserGuide}};
+    return kCommands;
+}
+
 void OnExecuteEventHandler::notify(const Ptr<CommandEventArgs>& eventArgs) {
     const std::string id = eventArgs->command()->parentCommandDefinition()->id();
-    if (id == kCaptureScreenCommand.id) {
-        captureWholeScreen();
-    } else if (id == kCaptureFusionCommand.id) {
-        captureFusionWindow();
-    } else if (id == kOpenHelpdeskCommand.id) {
-        openSupportProvider();
-    } else if (id == kSystemInfoCommand.id) {
-        writeSystemInfo();
-    } else if (id == kCompressFolderCommand.id) {
-        compressHelpdeskFolder();
-    } else if (id == kOpenFolderCommand.id) {
-        openHelpdeskFolder();
-    } else if (id == kClearFolderCommand.id) {
-        clearHelpdeskFolder();
-    } else if (id == kOpenHelpCommand.id) {
-        openUserGuide();
+    const auto commands = oneClickCommands();
+    const auto found =
+        std::ranges::find_if(commands, [&](const auto& each) { return id == each.texts.id; });
+    if (found != commands.end()) {
+        found->execute();
     }
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "tarnix/text/command_texts.h"
+
 #include <Core/CoreAll.h>
 
+#include <span>
 #include <string>
 
 /// What the eight helpdesk commands have in common: they have no dialog, and a press of the button
@@ -10,6 +13,15 @@
 /// The headers beside this one declare the commands and their operations, one header for each kind
 /// of help. Two handlers serve all eight, one object of each for the life of the process.
 namespace tarnix {
+
+/// A command and what a press of its button does.
+struct OneClickCommand {
+    CommandTexts texts;
+    void (*execute)() = nullptr;
+};
+
+/// The eight commands in the order of their buttons.
+std::span<const OneClickCommand> oneClickCommands();
 
 /// Executes the command whose definition's id the event carries; nothing for any other.
 class OnExecuteEventHandler final : public adsk::core::CommandEventHandler {
