@@ -170,30 +170,32 @@ MapPtr attributesOf(const NodePtr& node) {
     return map;
 }
 
+template <class Collection>
+long lengthOf(const Collection& collection) {
+    long length = 0;
+    check(collection->get_length(&length));
+    return length;
+}
+
+template <class Collection>
+XmlNode itemOf(const Collection& collection, long index) {
+    NodePtr node;
+    check(collection->get_item(index, &node));
+    return handle(node);
+}
+
 }  // namespace
 
-long XmlNodeList::length() const {
-    long length = 0;
-    check(childrenOf(parent_.body().node)->get_length(&length));
-    return length;
-}
+long XmlNodeList::length() const { return lengthOf(childrenOf(parent_.body().node)); }
 
 XmlNode XmlNodeList::item(long index) const {
-    NodePtr node;
-    check(childrenOf(parent_.body().node)->get_item(index, &node));
-    return handle(node);
+    return itemOf(childrenOf(parent_.body().node), index);
 }
 
-long XmlAttributeMap::length() const {
-    long length = 0;
-    check(attributesOf(element_.body().node)->get_length(&length));
-    return length;
-}
+long XmlAttributeMap::length() const { return lengthOf(attributesOf(element_.body().node)); }
 
 XmlNode XmlAttributeMap::item(long index) const {
-    NodePtr node;
-    check(attributesOf(element_.body().node)->get_item(index, &node));
-    return handle(node);
+    return itemOf(attributesOf(element_.body().node), index);
 }
 
 XmlNode XmlAttributeMap::setNamedItem(const XmlNode& attribute) {
