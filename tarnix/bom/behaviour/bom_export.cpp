@@ -5,6 +5,7 @@
 #include "tarnix/platform/files.h"
 #include "tarnix/platform/module_path.h"
 #include "tarnix/platform/shell.h"
+#include "tarnix/platform/text_file.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -92,7 +93,8 @@ bool exportBom(Ptr<InputChangedEventArgs> eventArgs) {
 }
 
 void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
-    platform::AppendingTextFile file(path);
+    platform::TextFile file;
+    file.openToAppend(path);
     const int rowCount = table->rowCount();
     const int lastColumn = table->numberOfColumns();
     std::string line;

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace tarnix::platform {
 
@@ -16,21 +17,5 @@ bool canRead(const std::string& path) {
 }
 
 bool deleteFile(const std::string& path) { return ::unlink(nativePath(path).c_str()) == 0; }
-
-AppendingTextFile::AppendingTextFile(const std::string& path)
-    : stream_(nativePath(path), std::ios::out | std::ios::app | std::ios::binary) {}
-
-void AppendingTextFile::write(std::string_view text) {
-    for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
-        stream_ << text.substr(0, end) << "\r\n";
-        text.remove_prefix(end + 1);
-    }
-    stream_ << text;
-}
-
-void AppendingTextFile::endLine() {
-    write("\n");
-    stream_.flush();
-}
 
 }  // namespace tarnix::platform

@@ -1,6 +1,8 @@
 #include "tarnix/platform/text_file.h"
 
+#include "tarnix/platform/files.h"
 #include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/tarnix/platform/test_system.h"
 
 #include <gtest/gtest.h>
 
@@ -44,6 +46,77 @@ TEST_F(NewText, IsWrittenAgainAfterAFileThatDidNotOpen) {
     file.write("line\n");
     file.close();
     EXPECT_EQ(folder.read("info.txt"), "line\r\n");
+}
+
+class AppendingText : public testing::Test {
+protected:
+    ScratchFolder folder;
+    TextFile file;
+};
+
+TEST_F(AppendingText, LinesEndInCarriageReturnAndLineFeed) {
+    file.openToAppend(folder.windows("list.csv"));
+    file.write("Part;");
+    file.write("Count;");
+    file.endLine();
+    file.endLine();
+    file.write("end");
+    file.close();
+    EXPECT_EQ(folder.read("list.csv"), "Part;Count;\r\n\r\nend");
+}
+
+TEST_F(AppendingText, LineEndsInsideAStringGetACarriageReturnToo) {
+    file.openToAppend(folder.windows("list.csv"));
+    file.write("a\nb\r\nc\n\n");
+    file.close();
+    EXPECT_EQ(folder.read("list.csv"), "a\r\nb\r\r\nc\r\n\r\n");
+}
+
+TEST_F(AppendingText, OtherBytesGoOutAsTheyAre) {
+    const std::string bytes("\xC3\xB6 \xFF \x1A \0 \t", 10);
+    file.openToAppend(folder.windows("list.csv"));
+    file.write(bytes);
+    file.close();
+    EXPECT_EQ(folder.read("list.csv"), bytes);
+}
+
+TEST_F(AppendingText, NewTextFollowsTheOld) {
+    folder.write("list.csv", "old\r\n");
+    file.openToAppend(folder.windows("list.csv"));
+    file.write("new");
+    file.endLine();
+    file.close();
+    EXPECT_EQ(folder.read("list.csv"), "old\r\nnew\r\n");
+}
+
+TEST_F(AppendingText, FileThatCouldNotBeDeletedGetsTheNewTextAfterTheOld) {
+    folder.write("list.csv", "old\r\n");
+    {
+        const test::Undeletable kept(folder.path() / "list.csv");
+        if (!kept.isEffective()) {
+            GTEST_SKIP() << "the system deletes the file all the same";
+        }
+        EXPECT_FALSE(deleteFile(folder.windows("list.csv")));
+        file.openToAppend(folder.windows("list.csv"));
+        file.write("new");
+        file.endLine();
+    }
+    EXPECT_EQ(folder.read("list.csv"), "old\r\nnew\r\n");
+}
+
+TEST_F(AppendingText, EndedLineIsInTheFileWhileItIsOpen) {
+    file.openToAppend(folder.windows("list.csv"));
+    file.write("line");
+    file.endLine();
+    EXPECT_EQ(folder.read("list.csv"), "line\r\n");
+}
+
+TEST_F(AppendingText, FileThatDoesNotOpenDiscardsWhatIsWritten) {
+    file.openToAppend(folder.windows("missing/list.csv"));
+    EXPECT_NO_THROW(file.write("line"));
+    EXPECT_NO_THROW(file.endLine());
+    file.close();
+    EXPECT_EQ(folder.count(), 0);
 }
 
 }  // namespace
