@@ -1,7 +1,7 @@
 #include "tarnix/bom/tabs/structure_tab.h"
 
+#include "tarnix/bom/model/structure_filter.h"
 #include "tarnix/bom/tabs/row_cells.h"
-#include "tarnix/bom/tabs/structure_filter.h"
 #include "tarnix/text/numbers.h"
 
 namespace tarnix {

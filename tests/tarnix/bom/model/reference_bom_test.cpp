@@ -1,7 +1,7 @@
 #include "tests/tarnix/bom/model/reference_bom.h"
 #include "tarnix/bom/model/identity.h"
+#include "tarnix/bom/model/structure_filter.h"
 #include "tarnix/bom/model/walk.h"
-#include "tarnix/bom/tabs/structure_filter.h"
 #include "tests/tarnix/bom/model/open_design.h"
 #include "tests/tarnix/bom/model/random_design.h"
 

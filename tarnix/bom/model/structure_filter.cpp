@@ -1,4 +1,4 @@
-#include "tarnix/bom/tabs/structure_filter.h"
+#include "tarnix/bom/model/structure_filter.h"
 
 #include "tarnix/bom/model/bom_row.h"
 
