@@ -1,13 +1,14 @@
 #include "host/application/import_manager_object.h"
 
+#include <Core/CoreAll.h>
 #include "host/application/running_host.h"
 #include "host/base/last_error.h"
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
 #include "tests/host/import/drafts.h"
-
-#include <Core/CoreAll.h>
+#include "tests/support/fault_watch.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -23,10 +24,15 @@ using drafts::tree;
 
 class ImportManagerTest : public testing::Test {
 protected:
+    ~ImportManagerTest() override { faults.verify(); }
+
     static Ptr<ImportManager> manager() { return adsk::core::Application::get()->importManager(); }
 
-    drafts::Folder folder;
+    test_support::TemporaryFolder folder;
     RunningHost host_;
+
+    /// What the host reports against the test, and which of it the test expects.
+    test_support::FaultWatch faults;
 };
 
 TEST_F(ImportManagerTest, OpensStepFilesAsNewDocuments) {
@@ -59,7 +65,7 @@ TEST_F(ImportManagerTest, KeepsWhatTheReaderHadToSay) {
 }
 
 TEST_F(ImportManagerTest, OpensDesignFilesInThePlaceOfArchives) {
-    const std::string file = (folder.path / "Drive.f3d").string();
+    const std::string file = (folder.path() / "Drive.f3d").string();
     saveDesignFile(file, parseOutline("Bolt"));
 
     const Ptr<Document> document =
@@ -96,8 +102,8 @@ TEST_F(ImportManagerTest, RefusesWhatIsNotThereByName) {
 TEST_F(ImportManagerTest, ReportsMissingOptions) {
     EXPECT_FALSE(manager()->importToNewDocument(nullptr));
 
-    EXPECT_EQ(misuses(), (std::vector<Misuse>{{"ImportManager::importToNewDocument",
-                                               "needs options that name a file"}}));
+    EXPECT_EQ(faults.misuses(), (std::vector<Misuse>{{"ImportManager::importToNewDocument",
+                                                      "needs options that name a file"}}));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "host/design/design_file.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
+#include "tests/support/fault_watch.h"
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 
@@ -35,6 +36,7 @@ protected:
                                                      .references = ReferencedFiles::KnownAtOnce});
         host::ApplicationObject::current()->setData(data->api());
     }
+    ~Uploads() override { faults.verify(); }
 
     [[nodiscard]] std::filesystem::path project() const {
         return folder.path() / "data" / "Workshop";
@@ -63,9 +65,12 @@ protected:
     test_support::TemporaryFolder folder;
     std::unique_ptr<UserData> data;
     RunningHost host_;
+
+    /// What the host reports against the test, and which of it the test expects.
+    test_support::FaultWatch faults;
 };
 
-TEST_F(Uploads, AreUnderWayUntilTheirTimeHasCome) {
+TEST_F(Uploads, ArePendingUntilTheirTimeIsOver) {
     storagePace().uploadSeconds = 5;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
 
@@ -81,7 +86,7 @@ TEST_F(Uploads, AreUnderWayUntilTheirTimeHasCome) {
               test_support::readFile(fromUtf8(disk("frame.ipt"))));
 }
 
-TEST_F(Uploads, GoOnWhenNobodyHoldsThemAnyMore) {
+TEST_F(Uploads, ContinueWithoutAHandle) {
     storagePace().uploadSeconds = 5;
     upload(design("frame.ipt"));
 
@@ -90,7 +95,7 @@ TEST_F(Uploads, GoOnWhenNobodyHoldsThemAnyMore) {
     EXPECT_TRUE(std::filesystem::exists(project() / "frame.ipt"));
 }
 
-TEST_F(Uploads, PutAFileInThePlaceOfOneOfItsName) {
+TEST_F(Uploads, ReplaceAFileOfTheSameName) {
     test_support::writeFile(project() / "frame.ipt", "old");
 
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
@@ -100,7 +105,7 @@ TEST_F(Uploads, PutAFileInThePlaceOfOneOfItsName) {
     EXPECT_NE(test_support::readFile(project() / "frame.ipt"), "old");
 }
 
-TEST_F(Uploads, FailAtTheEndOfTheirTimeWhereTheStorageFails) {
+TEST_F(Uploads, FailAtTheEndOfTheirTimeIfTheStorageFails) {
     storagePace().uploadSeconds = 2;
     storagePace().uploadFails = true;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
@@ -114,7 +119,7 @@ TEST_F(Uploads, FailAtTheEndOfTheirTimeWhereTheStorageFails) {
     EXPECT_FALSE(std::filesystem::exists(project() / "frame.ipt"));
 }
 
-TEST_F(Uploads, OfAMissingFileFailByName) {
+TEST_F(Uploads, OfAMissingFileFailAndNameIt) {
     const Ptr<DataFileFuture> future = upload(disk("missing.ipt"));
     wait(0s);
 
@@ -123,7 +128,7 @@ TEST_F(Uploads, OfAMissingFileFailByName) {
               "DataFolder::uploadFile: " + disk("missing.ipt") + ": no such file");
 }
 
-TEST_F(Uploads, OfAFileThatGoesMeanwhileFail) {
+TEST_F(Uploads, OfAFileDeletedMeanwhileFail) {
     storagePace().uploadSeconds = 2;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
 
@@ -140,7 +145,7 @@ TEST_F(Uploads, OfAFolderFail) {
     EXPECT_EQ(future->uploadState(), UploadFailed);
 }
 
-TEST_F(Uploads, IntoAFolderThatIsGoneFail) {
+TEST_F(Uploads, IntoADeletedFolderFail) {
     storagePace().uploadSeconds = 2;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
 
@@ -164,7 +169,7 @@ TEST_F(Uploads, CanBeOpenedOnceTheyAreConverted) {
     EXPECT_TRUE(adsk::core::Application::get()->activeDocument() == document);
 }
 
-TEST_F(Uploads, RaiseAndReturnNothingAsOftenAsTheStorageIsTold) {
+TEST_F(Uploads, FailToOpenAsOftenAsTheStorageIsSetTo) {
     storagePace().conversionsThrowing = 1;
     storagePace().conversionsReturningNothing = 1;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));
@@ -175,7 +180,7 @@ TEST_F(Uploads, RaiseAndReturnNothingAsOftenAsTheStorageIsTold) {
     EXPECT_TRUE(documents()->open(future->dataFile()));
 }
 
-TEST_F(Uploads, OfWhatIsNoDesignAreNeverOpened) {
+TEST_F(Uploads, OfOtherFilesThanDesignsAreNeverOpened) {
     test_support::writeFile(fromUtf8(disk("frame.ipt")), "nothing");
     const Ptr<DataFileFuture> future = upload(disk("frame.ipt"));
     wait(0s);

@@ -1,9 +1,10 @@
 #include "host/cloud/user_data.h"
 
 #include "host/base/gate.h"
+#include "host/base/host_state.h"
 #include "host/design/document.h"
 #include "host/design/outline.h"
-#include "tests/support/files.h"
+#include "tests/support/fault_watch.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -17,14 +18,18 @@ namespace {
 using namespace adsk::core;
 
 class UserDataTest : public testing::Test {
+    HostState host_;
+
 protected:
-    ~UserDataTest() override { endDocument(document); }
+    ~UserDataTest() override {
+        faults.verify();
+        endDocument(document);
+    }
 
     /// Puts files on the disk, by their paths below the user's data.
     void store(const std::vector<std::string>& files) const {
         for (const std::string& file : files) {
-            std::filesystem::create_directories((folder.path() / file).parent_path());
-            test_support::writeFile(folder.path() / file, "x");
+            folder.write(file, "x");
         }
     }
 
@@ -40,6 +45,12 @@ protected:
 
     [[nodiscard]] Ptr<DataFile> fileAt(const std::string& path) const {
         return data->fileAt(folder.path() / path);
+    }
+
+    /// Opens a design, and ties it to the file "Gearbox.step" of the project "Alfa".
+    void tieGearbox(const std::string& outline) {
+        document = makeDocument(parseOutline(outline));
+        data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
     }
 
     /// The names below a folder: "Bought(Engine) Gearbox".
@@ -58,6 +69,9 @@ protected:
     test_support::TemporaryFolder folder;
     std::unique_ptr<UserData> data;
     Ptr<Document> document;
+
+    /// What the host reports against the test, and which of it the test expects.
+    test_support::FaultWatch faults;
 };
 
 TEST_F(UserDataTest, ShowsEachFolderAsAProject) {
@@ -76,7 +90,7 @@ TEST_F(UserDataTest, ShowsFoldersAndFilesInOrderWithoutTheirEndings) {
     EXPECT_EQ(tree(root()), "Designs(Motors(Gearbox) b) a.b");
 }
 
-TEST_F(UserDataTest, FindsWhatIsPutThereLaterAndLosesWhatGoes) {
+TEST_F(UserDataTest, FollowsAddedAndDeletedFiles) {
     store({"Alfa/a.step", "Alfa/b.step"});
     open();
     const Ptr<DataFile> gone = fileAt("Alfa/a.step");
@@ -101,7 +115,7 @@ TEST_F(UserDataTest, AFileKnowsItsFolderAndProject) {
     EXPECT_EQ(file->parentFolder()->parentFolder()->parentFolder(), nullptr);
 }
 
-TEST_F(UserDataTest, HandsOutOneObjectForAFile) {
+TEST_F(UserDataTest, ReturnsTheSameObjectForAFile) {
     store({"Alfa/a.step"});
     open();
     EXPECT_EQ(fileAt("Alfa/a.step"), root()->dataFiles()->item(0));
@@ -125,19 +139,19 @@ TEST_F(UserDataTest, HasNoFileOutsideItsProjects) {
     EXPECT_TRUE(fileAt("Beta/../Alfa/a.step"));
 }
 
-TEST_F(UserDataTest, RefusesWhatIsNoFolderOrNoProject) {
+TEST_F(UserDataTest, RefusesAMissingFolderAndAMissingProject) {
     store({"Alfa/a.step"});
     EXPECT_THROW(UserData({folder.path() / "missing", "", {}}), std::invalid_argument);
     EXPECT_THROW(UserData({folder.path() / "Alfa" / "a.step", "", {}}), std::invalid_argument);
     EXPECT_THROW(UserData({folder.path(), "Gamma", {}}), std::invalid_argument);
 }
 
-TEST_F(UserDataTest, WithoutAProjectHasNoActiveOne) {
+TEST_F(UserDataTest, WithoutProjectsHasNoActiveProject) {
     open();
     EXPECT_EQ(data->api()->activeProject(), nullptr);
 }
 
-TEST_F(UserDataTest, TiesADocumentToItsFile) {
+TEST_F(UserDataTest, AssociatesADocumentWithItsFile) {
     store({"Alfa/Gearbox.step"});
     open();
     document = makeDocument(parseOutline("Bolt"));
@@ -147,11 +161,10 @@ TEST_F(UserDataTest, TiesADocumentToItsFile) {
     EXPECT_TRUE(document->isSaved());
 }
 
-TEST_F(UserDataTest, TiesReferencedDocumentsByTheirNames) {
+TEST_F(UserDataTest, AssociatesReferencedDocumentsByName) {
     store({"Alfa/Gearbox.step", "Alfa/Bought/Engine.step", "Alfa/Engine.step"});
     open();
-    document = makeDocument(parseOutline("Motor  document=Engine\nBelt  document=Missing"));
-    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    tieGearbox("Motor  document=Engine\nBelt  document=Missing");
     EXPECT_EQ(referencesOf(document)[0]->dataFile(), fileAt("Alfa/Bought/Engine.step"));
     EXPECT_EQ(referencesOf(document)[1]->dataFile(), nullptr);
 }
@@ -159,8 +172,7 @@ TEST_F(UserDataTest, TiesReferencedDocumentsByTheirNames) {
 TEST_F(UserDataTest, AReferencedFileCanStayUnknownUntilItsFolderIsListed) {
     store({"Alfa/Gearbox.step", "Alfa/Bought/Engine.step"});
     open("", ReferencedFiles::KnownWhenListed);
-    document = makeDocument(parseOutline("Motor  document=Engine"));
-    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    tieGearbox("Motor  document=Engine");
     const Ptr<Document> engine = referencesOf(document)[0];
     EXPECT_EQ(engine->dataFile(), nullptr);
     static_cast<void>(root()->dataFiles());
@@ -173,16 +185,14 @@ TEST_F(UserDataTest, AReferencedFileInAListedFolderIsKnownAtOnce) {
     store({"Alfa/Gearbox.step", "Alfa/Engine.step"});
     open("", ReferencedFiles::KnownWhenListed);
     static_cast<void>(root()->dataFiles());
-    document = makeDocument(parseOutline("Motor  document=Engine"));
-    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    tieGearbox("Motor  document=Engine");
     EXPECT_EQ(referencesOf(document)[0]->dataFile(), fileAt("Alfa/Engine.step"));
 }
 
-TEST_F(UserDataTest, ADocumentThatWasClosedMeanwhileLearnsNothing) {
+TEST_F(UserDataTest, AClosedDocumentIsNotAssociatedLater) {
     store({"Alfa/Gearbox.step", "Alfa/Engine.step"});
     open("", ReferencedFiles::KnownWhenListed);
-    document = makeDocument(parseOutline("Motor  document=Engine"));
-    data->tie(document, folder.path() / "Alfa" / "Gearbox.step");
+    tieGearbox("Motor  document=Engine");
     const Ptr<Document> engine = referencesOf(document)[0];
     endDocument(document);
     static_cast<void>(root()->dataFiles());
@@ -190,7 +200,7 @@ TEST_F(UserDataTest, ADocumentThatWasClosedMeanwhileLearnsNothing) {
     EXPECT_EQ(engine->dataFile(), nullptr);
 }
 
-TEST_F(UserDataTest, AfterItsEndNothingOfItIsValid) {
+TEST_F(UserDataTest, ItsObjectsAreInvalidAfterItsEnd) {
     store({"Alfa/Designs/a.step"});
     open();
     const Ptr<Data> api = data->api();

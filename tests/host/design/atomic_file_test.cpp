@@ -1,5 +1,7 @@
 #include "host/design/atomic_file.h"
-#include "tests/host/design/file_fixture.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 #include <system_error>
 
@@ -8,79 +10,83 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-using AtomicFile = FileTest;
 
-TEST_F(AtomicFile, IsMadeWithItsContent) {
+class AtomicFile : public testing::Test {
+protected:
+    test_support::TemporaryFolder folder;
+};
+
+TEST_F(AtomicFile, IsCreatedWithItsContent) {
     const std::string content = std::string("a\r\n\0b\n", 6);
 
-    writeFileAtomically(folder / "new", content);
+    writeFileAtomically(folder.path() / "new", content);
 
-    EXPECT_EQ(read(folder / "new"), content);
-    EXPECT_EQ(names(), Names{"new"});
+    EXPECT_EQ(folder.read("new"), content);
+    EXPECT_EQ(folder.names(), Names{"new"});
 }
 
 TEST_F(AtomicFile, ReplacesTheOldContentAsAWhole) {
-    write(folder / "file", "a long old content");
+    folder.write("file", "a long old content");
 
-    writeFileAtomically(folder / "file", "new");
+    writeFileAtomically(folder.path() / "file", "new");
 
-    EXPECT_EQ(read(folder / "file"), "new");
-    EXPECT_EQ(names(), Names{"file"});
+    EXPECT_EQ(folder.read("file"), "new");
+    EXPECT_EQ(folder.names(), Names{"file"});
 }
 
 TEST_F(AtomicFile, NameMayBeAnyText) {
-    const fs::path path = folder / fs::path(u8"P\u0159evodovka \u6f22.json");
+    const fs::path path = folder.path() / fs::path(u8"P\u0159evodovka \u6f22.json");
 
     writeFileAtomically(path, "x");
 
-    EXPECT_EQ(read(path), "x");
+    EXPECT_EQ(folder.read(path), "x");
 }
 
-TEST_F(AtomicFile, FolderThatIsNotThereIsAnError) {
-    EXPECT_THROW(writeFileAtomically(folder / "none" / "file", "x"), std::system_error);
+TEST_F(AtomicFile, MissingFolderIsAnError) {
+    EXPECT_THROW(writeFileAtomically(folder.path() / "none" / "file", "x"), std::system_error);
 
-    EXPECT_EQ(names(), Names());
+    EXPECT_EQ(folder.names(), Names());
 }
 
-TEST_F(AtomicFile, FolderOfThatNameStandsAndNothingIsLeftBeside) {
-    fs::create_directory(folder / "taken");
+TEST_F(AtomicFile, FolderOfTheSameNameIsKeptAndNothingIsLeftBesideIt) {
+    fs::create_directory(folder.path() / "taken");
 
-    EXPECT_THROW(writeFileAtomically(folder / "taken", "x"), std::system_error);
+    EXPECT_THROW(writeFileAtomically(folder.path() / "taken", "x"), std::system_error);
 
-    EXPECT_EQ(names(), Names{"taken"});
-    EXPECT_TRUE(fs::is_directory(folder / "taken"));
+    EXPECT_EQ(folder.names(), Names{"taken"});
+    EXPECT_TRUE(fs::is_directory(folder.path() / "taken"));
 }
 
 TEST_F(AtomicFile, LeftoverOfAnotherWriterIsNotTouched) {
-    write(folder / "file.new-1-0", "theirs");
+    folder.write("file.new-1-0", "theirs");
 
-    writeFileAtomically(folder / "file", "ours");
+    writeFileAtomically(folder.path() / "file", "ours");
 
-    EXPECT_EQ(read(folder / "file.new-1-0"), "theirs");
-    EXPECT_EQ(names(), (Names{"file", "file.new-1-0"}));
+    EXPECT_EQ(folder.read("file.new-1-0"), "theirs");
+    EXPECT_EQ(folder.names(), (Names{"file", "file.new-1-0"}));
 }
 
 TEST_F(AtomicFile, LinkIsFollowed) {
-    write(folder / "real", "old");
+    folder.write("real", "old");
     std::error_code error;
-    fs::create_symlink("real", folder / "link", error);
+    fs::create_symlink("real", folder.path() / "link", error);
     if (error) GTEST_SKIP() << "no links here";
 
-    writeFileAtomically(folder / "link", "new");
+    writeFileAtomically(folder.path() / "link", "new");
 
-    EXPECT_TRUE(fs::is_symlink(folder / "link"));
-    EXPECT_EQ(read(folder / "real"), "new");
+    EXPECT_TRUE(fs::is_symlink(folder.path() / "link"));
+    EXPECT_EQ(folder.read("real"), "new");
 }
 
-TEST_F(AtomicFile, PermissionsOfAReplacedFileStay) {
-    write(folder / "file", "old");
+TEST_F(AtomicFile, PermissionsOfAReplacedFileAreKept) {
+    folder.write("file", "old");
     const fs::perms ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
-    fs::permissions(folder / "file", ownerOnly);
-    const fs::perms before = fs::status(folder / "file").permissions();
+    fs::permissions(folder.path() / "file", ownerOnly);
+    const fs::perms before = fs::status(folder.path() / "file").permissions();
 
-    writeFileAtomically(folder / "file", "new");
+    writeFileAtomically(folder.path() / "file", "new");
 
-    EXPECT_EQ(fs::status(folder / "file").permissions(), before);
+    EXPECT_EQ(fs::status(folder.path() / "file").permissions(), before);
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ TEST_F(AttributesOfComponent, ComeInTheOrderTheyWereMade) {
     EXPECT_EQ(attributes()->groupNames(), (Strings{"G", "Other"}));
 }
 
-TEST_F(AttributesOfComponent, AddingOneThatIsThereSetsItsValueAndReturnsIt) {
+TEST_F(AttributesOfComponent, AddingAnExistingOneSetsItsValueAndReturnsIt) {
     const Ptr<Attribute> first = attributes()->add("G", "a", "1");
     attributes()->add("G", "b", "2");
 
@@ -44,7 +44,7 @@ TEST_F(AttributesOfComponent, AddingOneThatIsThereSetsItsValueAndReturnsIt) {
     EXPECT_EQ(valuesOf("G"), (Strings{"a=3", "b=2"}));
 }
 
-TEST_F(AttributesOfComponent, NamesThatDifferInCaseAreTwo) {
+TEST_F(AttributesOfComponent, NamesThatDifferInCaseAreDistinct) {
     attributes()->add("G", "Buy", "1");
     attributes()->add("G", "buy", "0");
     attributes()->add("g", "Buy", "");
@@ -62,7 +62,7 @@ TEST_F(AttributesOfComponent, UnknownGroupAndNameReturnNothing) {
     EXPECT_EQ(attributes()->itemByName("G", "a")->value(), "1");
 }
 
-TEST_F(AttributesOfComponent, GroupAndNameAreNotRunTogether) {
+TEST_F(AttributesOfComponent, GroupAndNameAreComparedSeparately) {
     attributes()->add("G", "aa", "1");
     attributes()->add("Ga", "a", "2");
 
@@ -120,7 +120,7 @@ TEST_F(AttributesOfComponent, ManyAreFoundByNameAlsoAfterMostAreDeleted) {
     EXPECT_EQ(attributes()->itemByName("G", "n6"), nullptr);
 }
 
-TEST_F(AttributesOfComponent, StandOnTheComponentWhoseUsesShareThem) {
+TEST_F(AttributesOfComponent, AreSharedByTheUsesOfTheComponent) {
     open(R"(
         Bolt
         Bolt)");

@@ -71,7 +71,7 @@ TEST_F(ComponentTest, EmptyNameIsRefused) {
     EXPECT_EQ(lastError().code, adsk::core::BadApiCallError);
 }
 
-TEST_F(ComponentTest, RootIsCalledLikeTheDocumentAndResistsNaming) {
+TEST_F(ComponentTest, RootIsNamedAfterTheDocumentAndCannotBeRenamed) {
     open("Bolt");
 
     EXPECT_EQ(root()->name(), "Design");

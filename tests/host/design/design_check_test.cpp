@@ -26,7 +26,7 @@ std::string complaint(const std::function<void(DesignData&)>& spoil) {
     return "none";
 }
 
-TEST(CheckDesign, SoundDesignPasses) {
+TEST(CheckDesign, ValidDesignPasses) {
     EXPECT_EQ(complaint([](DesignData&) {}), "none");
 }
 
@@ -77,7 +77,7 @@ TEST(CheckDesign, AbsentPlaceNeedsNoComponent) {
               "none");
 }
 
-TEST(CheckDesign, CycleThatTheRootDoesNotLeadToIsOneToo) {
+TEST(CheckDesign, CycleOutOfTheRootsReachIsRefused) {
     EXPECT_EQ(complaint([](DesignData& data) {
                   data.components.push_back(data.components[2]);
                   data.components[3].children = {{.component = 3}};
@@ -113,11 +113,11 @@ TEST(CheckDesign, MoreThanAMillionOccurrencesAreRefused) {
     EXPECT_THROW(checkDesign(tower(1, 1'000'001)), DesignError);
 }
 
-TEST(CheckDesign, ExpansionBeyondAllNumbersIsRefused) {
+TEST(CheckDesign, ExpansionThatOverflowsIsRefused) {
     EXPECT_THROW(checkDesign(tower(400, 10)), DesignError);
 }
 
-TEST(CheckDesign, DepthHasALimitWhichCostsNoStack) {
+TEST(CheckDesign, DepthIsLimitedWithoutRecursion) {
     checkDesign(tower(500, 1));
     EXPECT_THROW(checkDesign(tower(501, 1)), DesignError);
     EXPECT_THROW(checkDesign(tower(200'000, 1)), DesignError);

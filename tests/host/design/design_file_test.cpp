@@ -4,8 +4,10 @@
 #include "host/design/naming.h"
 #include "host/design/outline.h"
 #include "host/design/transform.h"
-#include "tests/host/design/file_fixture.h"
 #include "tests/support/comma_locale.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 #include <memory>
 #include <sstream>
@@ -17,10 +19,10 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
-class DesignFile : public FileTest {
-protected:
-    DesignFile() : path(folder / "gearbox.design.json") {}
+constexpr const char* kFile = "gearbox.design.json";
 
+class DesignFile : public testing::Test {
+protected:
     DesignData saveAndLoad(const DesignData& data) {
         saveDesignFile(path, data);
         return loadDesignFile(path);
@@ -28,7 +30,7 @@ protected:
 
     /// What is wrong with a file of that content, without the file's name.
     std::string complaint(const std::string& content) {
-        write(path, content);
+        folder.write(kFile, content);
         return complaint();
     }
 
@@ -50,7 +52,8 @@ protected:
                components + "}";
     }
 
-    fs::path path;
+    test_support::TemporaryFolder folder;
+    const fs::path path = folder.path() / kFile;
 };
 
 void expectSame(const OccurrenceData& left, const OccurrenceData& right) {
@@ -126,20 +129,20 @@ TEST_F(DesignFile, KeepsWhatIsAssumedOfAMaterialAndHowManyBodiesThereAre) {
     EXPECT_EQ(read.components[1].geometry->bodies(), 2U);
 }
 
-TEST_F(DesignFile, SavingAgainGivesTheSameBytes) {
+TEST_F(DesignFile, SavingAgainWritesTheSameBytes) {
     saveDesignFile(path, parseOutline(R"(
         Frame  at=0.1,0.2,0.3
           Bolt  box=1x2x3)"));
-    const std::string first = read(path);
+    const std::string first = folder.read(kFile);
 
     saveDesignFile(path, loadDesignFile(path));
 
-    EXPECT_EQ(read(path), first);
-    EXPECT_EQ(names(), Names{"gearbox.design.json"});
+    EXPECT_EQ(folder.read(kFile), first);
+    EXPECT_EQ(folder.names(), Names{kFile});
 }
 
-TEST_F(DesignFile, ReadsWhatSomebodyWroteByHand) {
-    write(path, with(R"([
+TEST_F(DesignFile, ReadsAHandWrittenFile) {
+    folder.write(kFile, with(R"([
         {"name": "D", "partNumber": "D", "children": [
             {"component": 1, "instance": 1},
             {"component": 1, "instance": 2,
@@ -155,15 +158,16 @@ TEST_F(DesignFile, ReadsWhatSomebodyWroteByHand) {
     EXPECT_EQ(data.components[1].geometry->box({}), (Box{{0, 0, 0}, {1, 1, 1}}));
 }
 
-TEST_F(DesignFile, NamesItsMembersAsFilesThatExistDo) {
+TEST_F(DesignFile, MemberNamesMatchExistingFiles) {
     const std::string text =
         with(R"([{"name":"D","partNumber":"D-1","numberIsOwn":true,"children":[]}])");
-    write(path, text);
+    folder.write(kFile, text);
 
     const DesignData data = loadDesignFile(path);
     EXPECT_TRUE(data.components.at(0).hasExplicitPartNumber);
     saveDesignFile(path, data);
-    EXPECT_NE(read(path).find("\"numberIsOwn\": true"), std::string::npos) << read(path);
+    EXPECT_NE(folder.read(kFile).find("\"numberIsOwn\": true"), std::string::npos)
+        << folder.read(kFile);
 }
 
 TEST_F(DesignFile, NumbersHaveAPointWhateverTheLocale) {
@@ -176,30 +180,30 @@ TEST_F(DesignFile, NumbersHaveAPointWhateverTheLocale) {
     EXPECT_EQ(loaded.components[0].children[0].transform, translation(12345.5, 0.25, 0));
     EXPECT_EQ(loaded.components[1].geometry->volume(), 2500);
     EXPECT_EQ(outline.components[0].children[0].transform, translation(1.5, 0, 0));
-    EXPECT_NE(read(path).find("12345.5"), std::string::npos);
+    EXPECT_NE(folder.read(kFile).find("12345.5"), std::string::npos);
 }
 
-TEST_F(DesignFile, BytesThatAreNoUtf8AreReplacedAndTheFileCanBeRead) {
+TEST_F(DesignFile, InvalidUtf8IsReplacedAndTheFileCanBeRead) {
     DesignData data = parseOutline("Bolt");
     data.components[1].description = "caf\xe9";
 
     EXPECT_EQ(saveAndLoad(data).components[1].description, "caf\xef\xbf\xbd");
 }
 
-TEST_F(DesignFile, UnfitDesignIsNotSavedAndTheOldFileStands) {
-    write(path, "old");
+TEST_F(DesignFile, InvalidDesignIsNotSavedAndTheOldFileIsKept) {
+    folder.write(kFile, "old");
     DesignData data = parseOutline("Bolt");
     data.components[0].children[0].component = 7;
 
     EXPECT_THROW(saveDesignFile(path, data), DesignError);
 
-    EXPECT_EQ(read(path), "old");
-    EXPECT_EQ(names(), Names{"gearbox.design.json"});
+    EXPECT_EQ(folder.read(kFile), "old");
+    EXPECT_EQ(folder.names(), Names{kFile});
 }
 
-TEST_F(DesignFile, PlaceThatCannotBeWrittenIsNamed) {
+TEST_F(DesignFile, UnwritablePlaceIsNamed) {
     try {
-        saveDesignFile(folder / "none" / "x.design.json", parseOutline("Bolt"));
+        saveDesignFile(folder.path() / "none" / "x.design.json", parseOutline("Bolt"));
         FAIL();
     } catch (const DesignError& error) {
         EXPECT_NE(std::string(error.what()).find("x.design.json: cannot be created"),
@@ -215,7 +219,7 @@ TEST_F(DesignFile, MissingFileFolderAndEmptyFileAreRefused) {
     EXPECT_EQ(complaint(), "is no file");
 }
 
-TEST_F(DesignFile, WhatIsNoJsonIsRefused) {
+TEST_F(DesignFile, InvalidJsonIsRefused) {
     EXPECT_TRUE(complaint("ISO-10303-21;")
                     .starts_with("is no design file: parse error at line 1, column 1"));
     EXPECT_TRUE(complaint("{\"format\":").starts_with("is no design file: parse error at line 1"));
@@ -223,7 +227,7 @@ TEST_F(DesignFile, WhatIsNoJsonIsRefused) {
     EXPECT_TRUE(complaint("{\"a\": \"\xff\"}").starts_with("is no design file: parse error"));
 }
 
-TEST_F(DesignFile, BracketsThatStandInEachOtherForEverAreRefused) {
+TEST_F(DesignFile, EndlesslyNestedBracketsAreRefused) {
     const std::string reason = "is not a design file: brackets are nested too deep";
 
     EXPECT_EQ(complaint(std::string(101, '[')), reason);
@@ -232,7 +236,7 @@ TEST_F(DesignFile, BracketsThatStandInEachOtherForEverAreRefused) {
               "the whole: should be an object");
 }
 
-TEST_F(DesignFile, BracketsInATextStandInNothing) {
+TEST_F(DesignFile, BracketsInAStringAreNotNested) {
     EXPECT_EQ(
         complaint(with("[{\"name\":\"D\",\"partNumber\":\"\\\"" + std::string(200, '[') + "\"}]")),
         "none");
@@ -302,7 +306,7 @@ TEST_F(DesignFile, ExpansionBeyondTheLimitIsRefused) {
               "can be opened");
 }
 
-TEST_F(DesignFile, MoreOccurrencesThanAskedForAreRefused) {
+TEST_F(DesignFile, MoreOccurrencesThanTheLimitAreRefused) {
     // Two frames with three bolts each: eight occurrences.
     saveDesignFile(path, parseOutline(R"(
         Frame
@@ -317,13 +321,13 @@ TEST_F(DesignFile, MoreOccurrencesThanAskedForAreRefused) {
         "would become more than 7 occurrences; open a part of the assembly, or increase the limit");
 }
 
-TEST_F(DesignFile, TextThatMayTakeMoreMemoryThanAskedForIsRefused) {
+TEST_F(DesignFile, FileThatMayExceedTheMemoryLimitIsRefused) {
     // A megabyte is for 32768 bytes.
     const std::string design = with(R"([{"name":"D","partNumber":""}])");
-    write(path, design + std::string(32768 - design.size(), ' '));
+    folder.write(kFile, design + std::string(32768 - design.size(), ' '));
     EXPECT_EQ(complaint({}, {.megabytes = 1, .occurrences = 10}), "none");
 
-    write(path, design + std::string(32769 - design.size(), ' '));
+    folder.write(kFile, design + std::string(32769 - design.size(), ' '));
 
     EXPECT_EQ(
         complaint({}, {.megabytes = 1, .occurrences = 10}),
@@ -340,8 +344,7 @@ public:
 
 class DesignFileWithSource : public DesignFile {
 protected:
-    DesignFileWithSource() : stepPath(folder / "gearbox.stp") {
-        write(stepPath, "ISO-10303-21;");
+    DesignFileWithSource() : stepPath(folder.write("gearbox.stp", "ISO-10303-21;")) {
         saveDesignFile(path, edited());
     }
 
@@ -352,7 +355,7 @@ protected:
             Nut)");
         data.components[1].geometry = bolt;
         const std::u8string text = stepPath.u8string();
-        data.source = SourceFile{{text.begin(), text.end()}, "f1"};
+        data.source = SourceFile{.path = {text.begin(), text.end()}, .fingerprint = "f1"};
         return data;
     }
 
@@ -387,7 +390,7 @@ TEST_F(DesignFileWithSource, KeepsTheEditsAndTakesBodiesFromTheSource) {
 }
 
 TEST_F(DesignFileWithSource, FindsASourceThatMovedAlongWithIt) {
-    const fs::path other = folder / "moved";
+    const fs::path other = folder.path() / "moved";
     fs::create_directory(other);
     fs::rename(stepPath, other / "gearbox.stp");
     fs::rename(path, other / "gearbox.design.json");
@@ -416,12 +419,12 @@ TEST_F(DesignFileWithSource, ChangedSourceIsRefused) {
               changed);
 }
 
-TEST_F(DesignFileWithSource, SourceThatNobodyCanReadIsNamed) {
+TEST_F(DesignFileWithSource, UnreadableSourceIsNamed) {
     EXPECT_EQ(complaint(),
               "its bodies are in " + original().source->path + ", which cannot be read here");
 }
 
-TEST_F(DesignFileWithSource, IsNotAskedForWhereNoBodyIsInIt) {
+TEST_F(DesignFileWithSource, IsNotReadWhereNoBodyIsInIt) {
     DesignData data = original();
     data.components[1].geometry = nullptr;
     saveDesignFile(path, data);

@@ -24,7 +24,7 @@ TEST_F(DocumentTest, DesignIsItsProductForModelling) {
     EXPECT_EQ(Ptr<Design>(Ptr<Product>(design)), design);
 }
 
-TEST_F(DocumentTest, OtherProductIsNoDesign) {
+TEST_F(DocumentTest, OtherProductIsNotADesign) {
     open("Bolt");
     const Ptr<Product> other = otherProductOf(document);
 
@@ -64,7 +64,7 @@ TEST_F(DocumentTest, IsSavedOnceItHasAFile) {
     EXPECT_EQ(component("Motor:1")->parentDesign()->parentDocument()->dataFile(), file);
 }
 
-TEST_F(DocumentTest, UnnamedDesignIsCalledLikeItsRootComponentOrUntitled) {
+TEST_F(DocumentTest, UnnamedDesignTakesItsRootComponentsNameOrUntitled) {
     DesignData data = parseOutline("Bolt");
     data.name = "";
     data.components[0].name = "Gearbox";
@@ -78,7 +78,7 @@ TEST_F(DocumentTest, UnnamedDesignIsCalledLikeItsRootComponentOrUntitled) {
     EXPECT_EQ(root()->name(), "Untitled");
 }
 
-TEST_F(DocumentTest, ComponentsOfOneNameAreToldApart) {
+TEST_F(DocumentTest, ComponentsOfTheSameNameAreRenamed) {
     open(R"(
         One  name=Bolt
         Two  name=Bolt
@@ -195,7 +195,7 @@ TEST_F(DocumentTest, HandlesOutliveTheDocumentAndReturnNothing) {
               "Attributes::add Attribute::value Material::name Sketch::sketchCurves");
 }
 
-TEST_F(DocumentTest, CallOnAnObjectOfAClosedDocumentIsListedAsMisuse) {
+TEST_F(DocumentTest, CallOnAnObjectOfAClosedDocumentIsReportedAsMisuse) {
     open("Bolt");
     const Ptr<Component> component = designOf(document)->rootComponent();
     endDocument(document);
@@ -208,7 +208,7 @@ TEST_F(DocumentTest, CallOnAnObjectOfAClosedDocumentIsListedAsMisuse) {
                                     .text = "called on a deleted adsk::fusion::Component"}}));
 }
 
-TEST_F(DocumentTest, CallOnADeletedAttributeIsListedAsMisuse) {
+TEST_F(DocumentTest, CallOnADeletedAttributeIsReportedAsMisuse) {
     open("Bolt");
     const Ptr<Attribute> attribute =
         designOf(document)->rootComponent()->attributes()->add("G", "a", "1");
@@ -267,7 +267,7 @@ TEST_F(DocumentTest, ReferencedDocumentsEndWithTheOneThatRefersToThem) {
     EXPECT_EQ(misused(), "Document::name");
 }
 
-TEST_F(DocumentTest, UnfitDesignIsNotOpened) {
+TEST_F(DocumentTest, InvalidDesignIsNotOpened) {
     EXPECT_THROW(makeDocument(DesignData()), DesignError);
 }
 

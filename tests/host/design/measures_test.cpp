@@ -83,7 +83,7 @@ TEST_F(MeasuresTest, BoxOfAnAssemblyHoldsItsPlacedParts) {
     EXPECT_EQ(cornersOf(root()->boundingBox()), (Corners{98, -3, 0, 110, 1, 6}));
 }
 
-TEST_F(MeasuresTest, BoxOfAnAskewPartIsItsOwnAndNotTheBoxAroundABox) {
+TEST_F(MeasuresTest, BoxOfARotatedPartIsExactAndNotTheBoxAroundABox) {
     // Turned by 45 degrees and turned back inside: the part is along the axes again.
     const double h = std::sqrt(0.5);
     DesignData data = parseOutline(R"(
@@ -123,7 +123,7 @@ TEST_F(MeasuresTest, MassOfAnAssemblyFollowsAMaterial) {
     EXPECT_DOUBLE_EQ(root()->physicalProperties()->mass(), 0.0027);
 }
 
-TEST_F(MeasuresTest, PropertiesAreThoseOfTheMomentOfAsking) {
+TEST_F(MeasuresTest, PropertiesAreASnapshot) {
     open(R"(
         Bolt  box=1x1x1
         Plate  material=Aluminium:0.0027)");
@@ -191,7 +191,7 @@ TEST_F(MeasuresTest, ShapeThatCannotBeMeasuredCountsAsNoneAndIsNoted) {
     EXPECT_EQ(cornersOf(root()->boundingBox()), Corners());
 }
 
-TEST_F(MeasuresTest, WhatCouldNotBeMeasuredIsToldOnceForEachComponent) {
+TEST_F(MeasuresTest, MeasuringFailureIsReportedOnceForEachComponent) {
     DesignData data = parseOutline(R"(
         Bolt
         Nut

@@ -58,7 +58,7 @@ TEST_F(OccurrenceTest, TheSamePlaceIsAlwaysTheSameObject) {
     EXPECT_EQ(designOf(document)->rootComponent(), root());
 }
 
-TEST_F(OccurrenceTest, ComponentsOwnOccurrencesAreSeenFromIt) {
+TEST_F(OccurrenceTest, ComponentsOwnOccurrencesHaveItAsTheirContext) {
     open(R"(
         Axle
           Hub

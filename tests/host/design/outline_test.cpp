@@ -41,17 +41,17 @@ TEST(Outline, EmptyTextIsADesignWithoutOccurrences) {
     EXPECT_TRUE(data.components[0].children.empty());
 }
 
-TEST(Outline, ComponentOfWhichNothingIsToldIsSteelAndNumberedLikeItsName) {
+TEST(Outline, ComponentWithoutKeysIsSteelAndNumberedAfterItsName) {
     const DesignData data = parseOutline("Bolt");
 
     EXPECT_EQ(data.components[1].partNumber, "Bolt");
     EXPECT_EQ(data.components[1].description, "");
-    EXPECT_EQ(data.components[1].material, (MaterialData{"Steel", 0.00785}));
+    EXPECT_EQ(data.components[1].material, (MaterialData{.name = "Steel", .density = 0.00785}));
     EXPECT_EQ(data.components[1].geometry, nullptr);
     EXPECT_TRUE(data.components[1].children.empty());
 }
 
-TEST(Outline, KeysTellOfTheComponent) {
+TEST(Outline, KeysDescribeTheComponent) {
     const DesignData data = parseOutline(
         R"(Key  name=Bolt number="M 8" description="say \"hi\" \\" material=Zinc:0.007 attribute="G/QEMA_Part Type/a/b" attribute=G/n/ document=Other)");
 
@@ -59,13 +59,13 @@ TEST(Outline, KeysTellOfTheComponent) {
     EXPECT_EQ(bolt.name, "Bolt");
     EXPECT_EQ(bolt.partNumber, "M 8");
     EXPECT_EQ(bolt.description, "say \"hi\" \\");
-    EXPECT_EQ(bolt.material, (MaterialData{"Zinc", 0.007}));
+    EXPECT_EQ(bolt.material, (MaterialData{.name = "Zinc", .density = 0.007}));
     EXPECT_EQ(bolt.attributes,
               (std::vector<AttributeData>{{"G", "QEMA_Part Type", "a/b"}, {"G", "n", ""}}));
     EXPECT_EQ(bolt.document, "Other");
 }
 
-TEST(Outline, EmptyPartNumberCanBeTold) {
+TEST(Outline, PartNumberMayBeEmpty) {
     EXPECT_EQ(parseOutline("Bolt  number=").components[1].partNumber, "");
 }
 
@@ -86,7 +86,7 @@ TEST(Outline, BoxAndMeasuresAreItsGeometry) {
     EXPECT_EQ(data.components[3].geometry->box({}), (Box{{0, 0, 0}, {4, 5, 6}}));
 }
 
-TEST(Outline, PlaceAndGroundingAreOfTheUse) {
+TEST(Outline, PlaceAndGroundingDescribeTheUse) {
     const DesignData data = parseOutline(R"(
         Bolt  at=1,-2.5,3e1 grounded
         Bolt)");
@@ -100,7 +100,7 @@ TEST(Outline, PlaceAndGroundingAreOfTheUse) {
     EXPECT_FALSE(uses[1].grounded);
 }
 
-TEST(Outline, TheSameNameIsTheSameComponentWithItsChildrenToldOnce) {
+TEST(Outline, TheSameNameIsTheSameComponentWithItsChildrenGivenOnce) {
     const DesignData data = parseOutline(R"(
         Axle
         Axle  number=7
@@ -149,7 +149,7 @@ TEST(Outline, ErrorsNameLineAndReason) {
     EXPECT_EQ(complaint("A\tB"), "line 1: tabs are not understood, only spaces");
 }
 
-TEST(Outline, LinesThatTellDifferentThingsOfOneComponentAreRefused) {
+TEST(Outline, ContradictoryLinesOfOneComponentAreRefused) {
     EXPECT_EQ(complaint("A  number=1\nA  number=2"),
               "line 2: number= differs from what an earlier line gives for \"A\"");
     EXPECT_EQ(complaint("A  attribute=G/n/1\nA  attribute=G/n/2"),

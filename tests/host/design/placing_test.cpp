@@ -55,7 +55,7 @@ TEST_F(PlacingTest, NestedOccurrenceEndsInTheCoordinatesOfTheRoot) {
     EXPECT_EQ(placeOf(1, 0), translation(-10, 0, 0));
 }
 
-TEST_F(PlacingTest, AssemblyGoesBeforeWhatIsInItWhateverTheOrder) {
+TEST_F(PlacingTest, AssemblyIsPlacedBeforeItsChildrenWhateverTheOrder) {
     EXPECT_TRUE(root()->transformOccurrences({occurrence("Frame:1+Bolt:1"), occurrence("Frame:1")},
                                              {Matrix3D::create(), makeMatrix(translation(3, 0, 0))},
                                              true));

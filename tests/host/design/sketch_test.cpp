@@ -17,7 +17,7 @@ protected:
     Ptr<Sketch> sketch() { return sketchOf(document, 1, 0); }
 };
 
-TEST_F(SketchTest, CurvesTellWhatTheyAre) {
+TEST_F(SketchTest, CurvesReportTheirKind) {
     EXPECT_EQ(sketch()->sketchCurves()->count(), 2u);
     EXPECT_FALSE(sketch()->sketchCurves()->item(0)->isReference());
     EXPECT_TRUE(sketch()->sketchCurves()->item(1)->isReference());
@@ -40,7 +40,7 @@ TEST_F(SketchTest, ProjectedCurveBecomesConstruction) {
               (std::vector<SketchData>{{"Profile", {{false, false}, {true, true}}}}));
 }
 
-TEST_F(SketchTest, CurveCanBeCutLooseButNotProjected) {
+TEST_F(SketchTest, CurveCanBeUnlinkedButNotProjected) {
     const Ptr<SketchCurve> drawn = sketch()->sketchCurves()->item(0);
     const Ptr<SketchCurve> projected = sketch()->sketchCurves()->item(1);
 

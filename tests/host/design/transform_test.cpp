@@ -16,18 +16,18 @@ TEST(TransformTest, ProductPlacesTheInnerInTheOuter) {
     EXPECT_EQ(product, (Transform{{0, -1, 0, 8, 1, 0, 0, 21, 0, 0, 1, 33, 0, 0, 0, 1}}));
 }
 
-TEST(TransformTest, InverseTakesBack) {
+TEST(TransformTest, InverseUndoesTheTransform) {
     EXPECT_EQ(*inverse(kQuarter) * kQuarter, Transform());
     EXPECT_EQ(inverse(translation(1, 2, 3)), translation(-1, -2, -3));
     EXPECT_EQ(*inverse(Transform{{2, 0, 0, 6, 0, 4, 0, 8, 0, 0, 8, 8, 0, 0, 0, 1}}),
               (Transform{{0.5, 0, 0, -3, 0, 0.25, 0, -2, 0, 0, 0.125, -1, 0, 0, 0, 1}}));
 }
 
-TEST(TransformTest, WhatFlattensSpaceHasNoInverse) {
+TEST(TransformTest, SingularTransformHasNoInverse) {
     EXPECT_EQ(inverse(Transform{{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}}), std::nullopt);
 }
 
-TEST(TransformTest, AxesAreKeptByQuarterTurnsShiftsAndMirrors) {
+TEST(TransformTest, AxesAreKeptByQuarterTurnsTranslationsAndMirrors) {
     EXPECT_TRUE(keepsAxes({}));
     EXPECT_TRUE(keepsAxes(kQuarter));
     EXPECT_TRUE(keepsAxes({{-1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}}));
@@ -41,7 +41,7 @@ TEST(TransformTest, PlacedBoxIsTheBoxAroundItsCorners) {
     EXPECT_EQ(placed({{0, 0, 0}, {1, 2, 3}}, kQuarter), (Box{{8, 20, 30}, {10, 21, 33}}));
 }
 
-TEST(TransformTest, IncludeGrowsABoxAndStartsFromNone) {
+TEST(TransformTest, IncludeExtendsABoxAndStartsFromNone) {
     std::optional<Box> sum;
     include(sum, std::nullopt);
     EXPECT_EQ(sum, std::nullopt);

@@ -40,7 +40,7 @@ TEST(DesignNaming, WithoutAnIdTheNameIsThePartNumber) {
               "Plate (1) | Plate (1)\n");
 }
 
-TEST(DesignNaming, ASecondNameGetsANumber) {
+TEST(DesignNaming, ARepeatedNameGetsANumber) {
     EXPECT_EQ(outline(assignNamesAndNumbers(
                   {component("1", "A"), component("2", "A"), component("3", "A")})),
               "1 | A\n2 | A (1)\n3 | A (2)\n");
@@ -52,7 +52,7 @@ TEST(DesignNaming, ANumberedNameThatIsTakenIsSkipped) {
               "1 | A (1)\n2 | A\n3 | A (2)\n4 | A (1) (1)\n");
 }
 
-TEST(DesignNaming, ProductsOfOneIdAndNameSayNothingByThem) {
+TEST(DesignNaming, TheSameIdAndNameDoNotMakeProductsOne) {
     EXPECT_EQ(outline(assignNamesAndNumbers({component("Document", "Document"),
                                              component("Document", "Document"),
                                              component("Document", "Other")})),
@@ -66,7 +66,7 @@ TEST(DesignNaming, EqualIdsOfDifferentNamesAreKept) {
               "M3 | Screw\nM3 | Šroub\n");
 }
 
-TEST(DesignNaming, UsesAreCountedFromTheTopOfTheOpenedTreeToItsEnd) {
+TEST(DesignNaming, UsesAreCountedInTreeOrder) {
     EXPECT_EQ(outline(assignNamesAndNumbers({component("", "Root", {1, 2, 1}),
                                              component("", "Sub", {2, 2}), component("", "Part")})),
               "Root | Root | Sub:1 | Part:3 | Sub:2\n"
@@ -74,7 +74,7 @@ TEST(DesignNaming, UsesAreCountedFromTheTopOfTheOpenedTreeToItsEnd) {
               "Part | Part\n");
 }
 
-TEST(DesignNaming, ANumberOfItsOwnIsMarked) {
+TEST(DesignNaming, AnExplicitPartNumberIsMarked) {
     const auto components =
         assignNamesAndNumbers({component("P-1", "Plate"), component("", "Rod")});
 

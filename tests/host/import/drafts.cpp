@@ -1,13 +1,8 @@
 #include "tests/host/import/drafts.h"
 
-#include <unistd.h>
-
-#include <fstream>
 #include <vector>
 
 namespace drafts {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -21,20 +16,6 @@ void addTree(std::string& text, const host::DesignData& design, std::size_t comp
 }
 
 }  // namespace
-
-Folder::Folder() {
-    std::string name = (fs::temp_directory_path() / "import-test-XXXXXX").string();
-    path = ::mkdtemp(name.data());
-}
-
-Folder::~Folder() { fs::remove_all(path); }
-
-std::string Folder::write(const std::string& name, const std::string& bytes) const {
-    const fs::path file = path / name;
-    fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << bytes;
-    return file.string();
-}
 
 std::string step(const std::string& entities) {
     return "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\n"

@@ -2,25 +2,11 @@
 
 #include "host/import/step_import.h"
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
-/// STEP files for tests, written into a folder that goes with the test.
+/// STEP files for tests.
 namespace drafts {
-
-class Folder {
-public:
-    Folder();
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    ~Folder();
-
-    /// Writes a file; returns its path.
-    std::string write(const std::string& name, const std::string& bytes) const;
-
-    std::filesystem::path path;
-};
 
 /// A STEP file around entities that may use #1 (application), #2 (product context), #3 (definition
 /// context).

@@ -2,6 +2,7 @@
 #include "host/design/document.h"
 #include "tests/host/import/drafts.h"
 #include "tests/host/import/iges_drafts.h"
+#include "tests/support/temporary_folder.h"
 
 #include <Core/CoreAll.h>
 
@@ -14,7 +15,7 @@ using drafts::kRectangle;
 
 class IgesImport : public testing::Test {
 protected:
-    drafts::Folder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(IgesImport, IsOneComponentOfTheFilesNameWithItsBodies) {
@@ -36,7 +37,7 @@ TEST_F(IgesImport, ReadsItsUnit) {
     EXPECT_NEAR(design.components.front().geometry->area(), 1290.32, 1e-6);
 }
 
-TEST_F(IgesImport, WithoutBodiesHasNone) {
+TEST_F(IgesImport, WithoutBodiesHasNoGeometry) {
     const host::DesignData design =
         drafts::import(folder.write("line.igs", iges({kRectangle.front()})));
 

@@ -36,7 +36,7 @@ std::ptrdiff_t openFiles() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
 
-TEST(ReaderProcess, LinesGoThereAndBack) {
+TEST(ReaderProcess, LinesGoBothWays) {
     ReaderProcess process("/bin/cat", {}, kEnough);
 
     process.send("one");
@@ -46,34 +46,34 @@ TEST(ReaderProcess, LinesGoThereAndBack) {
     EXPECT_EQ(process.receive(), "two");
 }
 
-TEST(ReaderProcess, ALineThatComesInPiecesIsOneLine) {
+TEST(ReaderProcess, ALineReceivedInPiecesIsOneLine) {
     ReaderProcess process("/bin/sh", {"-c", "printf on; sleep 0.1; printf 'e\\ntwo\\n'"}, kEnough);
 
     EXPECT_EQ(process.receive(), "one");
     EXPECT_EQ(process.receive(), "two");
 }
 
-TEST(ReaderProcess, ACrashIsTold) {
+TEST(ReaderProcess, ACrashIsReported) {
     EXPECT_EQ(failureOf("kill -SEGV $$"), "the reader crashed (Segmentation fault)");
 }
 
-TEST(ReaderProcess, AnEndWithoutAnAnswerIsTold) {
+TEST(ReaderProcess, AnEndWithoutAResponseIsReported) {
     EXPECT_EQ(failureOf("exit 0"), "the reader ended without an answer");
 }
 
-TEST(ReaderProcess, TheLastLineBeforeTheEndIsHeard) {
+TEST(ReaderProcess, TheLastLineBeforeTheEndIsReceived) {
     ReaderProcess process("/bin/sh", {"-c", "echo last"}, kEnough);
 
     EXPECT_EQ(process.receive(), "last");
     EXPECT_EQ(failureOf(process), "the reader ended without an answer");
 }
 
-TEST(ReaderProcess, OneThatTakesTooLongIsEnded) {
+TEST(ReaderProcess, AProcessThatTakesTooLongIsKilled) {
     EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 0.2, .megabytes = 1000}),
               "the reader took longer than 0.2 seconds");
 }
 
-TEST(ReaderProcess, ItsTimeIsToldWithAPointInEveryLocale) {
+TEST(ReaderProcess, TheTimeLimitIsReportedWithAPointInEveryLocale) {
     const test_support::CommaLocale locale;
 
     ASSERT_TRUE(test_support::CommaLocale::isSystems());
@@ -81,24 +81,24 @@ TEST(ReaderProcess, ItsTimeIsToldWithAPointInEveryLocale) {
               "the reader took longer than 0.25 seconds");
 }
 
-TEST(ReaderProcess, WholeSecondsAreToldWithoutAPoint) {
+TEST(ReaderProcess, WholeSecondsAreReportedWithoutAPoint) {
     EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 1, .megabytes = 1000}),
               "the reader took longer than 1 seconds");
 }
 
-TEST(ReaderProcess, OneThatTalksForEverIsEnded) {
+TEST(ReaderProcess, AProcessWithEndlessOutputIsKilled) {
     ReaderProcess process("/bin/sh", {"-c", "while :; do printf x; done"},
                           {.seconds = 0.2, .megabytes = 1000});
 
     EXPECT_EQ(failureOf(process), "the reader took longer than 0.2 seconds");
 }
 
-TEST(ReaderProcess, OneThatGrowsTooLargeIsEnded) {
+TEST(ReaderProcess, AProcessThatUsesTooMuchMemoryIsKilled) {
     EXPECT_EQ(failureOf("exec tail /dev/zero", {.seconds = 30, .megabytes = 60}),
               "the reader needed more than 60 megabytes of memory");
 }
 
-TEST(ReaderProcess, AFailureStays) {
+TEST(ReaderProcess, AFailureIsPermanent) {
     ReaderProcess process("/bin/sh", {"-c", "kill -SEGV $$"}, kEnough);
     failureOf(process);
 
@@ -122,14 +122,14 @@ TEST(ReaderProcess, AProgramThatIsMissingIsNamed) {
         ReaderFailure);
 }
 
-TEST(ReaderProcess, NothingIsInheritedButItsOwnThreeFiles) {
+TEST(ReaderProcess, OnlyTheStandardStreamsAreInherited) {
     // Of a shell that lists its files, 3 is the listing itself.
     ReaderProcess process("/bin/sh", {"-c", "echo $(ls /proc/self/fd)"}, kEnough);
 
     EXPECT_EQ(process.receive(), "0 1 2 3");
 }
 
-TEST(ReaderProcess, NeitherProcessNorFileStaysBehind) {
+TEST(ReaderProcess, NeitherProcessNorFileIsLeftBehind) {
     const std::ptrdiff_t before = openFiles();
     { const ReaderProcess process("/bin/sleep", {"60"}, kEnough); }
 

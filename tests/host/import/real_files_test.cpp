@@ -1,6 +1,7 @@
 #include "tests/host/import/drafts.h"
 
 #include "tests/support/real_files.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -168,7 +169,7 @@ TEST_F(RealFiles, APlacementOfTheClassicAssembly) {
               (std::array<double, 16>{0, 0, 1, -1, 0, 1, 0, 7.5, -1, 0, 0, 6, 0, 0, 0, 1}));
 }
 
-TEST_F(RealFiles, PartsWithConstructionBesideTheirBodyAreParts) {
+TEST_F(RealFiles, PartsWithConstructionGeometryAreParts) {
     const DesignData design = import("as1_pe_203.stp");
 
     EXPECT_EQ(count(design), (Counted{28, 18, 4}));
@@ -177,12 +178,15 @@ TEST_F(RealFiles, PartsWithConstructionBesideTheirBodyAreParts) {
     EXPECT_NEAR(find(design, "PLATE").geometry->volume(), 530575.2176936 * 16.387064, 0.1);
 }
 
-TEST_F(RealFiles, MaterialsComeWithInventedDensities) {
+TEST_F(RealFiles, MaterialsHaveInventedDensities) {
     const DesignData design = import("as1-oc-214-mat.stp");
 
-    EXPECT_EQ(find(design, "plate").material, (host::MaterialData{"BRONZE", 0.86}));
-    EXPECT_EQ(find(design, "l-bracket").material, (host::MaterialData{"ALUMINIUM", 0.1}));
-    EXPECT_EQ(find(design, "bolt").material, (host::MaterialData{"STEEL", 0.235}));
+    EXPECT_EQ(find(design, "plate").material,
+              (host::MaterialData{.name = "BRONZE", .density = 0.86}));
+    EXPECT_EQ(find(design, "l-bracket").material,
+              (host::MaterialData{.name = "ALUMINIUM", .density = 0.1}));
+    EXPECT_EQ(find(design, "bolt").material,
+              (host::MaterialData{.name = "STEEL", .density = 0.235}));
     EXPECT_EQ(find(design, "nut").material, host::defaultMaterial());
 }
 
@@ -218,8 +222,8 @@ TEST_F(RealFiles, PartsInOtherFilesAreFoundFromARelativePath) {
 }
 
 TEST_F(RealFiles, AMissingFileOfAPartIsNamed) {
-    const drafts::Folder folder;
-    const std::string copy = (folder.path / "s1.stp").string();
+    const test_support::TemporaryFolder folder;
+    const std::string copy = (folder.path() / "s1.stp").string();
     std::filesystem::copy_file(path("s1-c5-214/s1-c5-214.stp"), copy);
 
     const DesignData design = host::importStep(copy, {}, {}, warnings);
@@ -232,7 +236,7 @@ TEST_F(RealFiles, AMissingFileOfAPartIsNamed) {
                   "stays empty");
 }
 
-TEST_F(RealFiles, ASinglePartOfManyPiecesIsOnePart) {
+TEST_F(RealFiles, ASinglePartOfManySolidsIsOnePart) {
     const DesignData design = import("nist_ctc_02_asme1_ap242-1.stp");
 
     EXPECT_EQ(count(design), (Counted{1, 1, 1}));
@@ -316,7 +320,7 @@ TEST_F(RealFiles, EightRussianPartsKeepTheirNames) {
     EXPECT_EQ(count(design), (Counted{18, 17, 2}));
 }
 
-TEST_F(RealFiles, ADestroyedTextIsRefused) {
+TEST_F(RealFiles, ACorruptFileIsRefused) {
     EXPECT_EQ(reason("malformed/bug32314_corrupted.stp"),
               ": is cut off or damaged (5 syntax errors, line 12: unexpected "
               "TYPE, expecting '('); export it again");

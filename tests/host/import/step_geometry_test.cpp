@@ -36,7 +36,7 @@ TEST(StepGeometry, AShapeIsMeasuredOnce) {
     EXPECT_EQ(geometry.area(), 6);
 }
 
-TEST(StepGeometry, ThePlacementGoesWithTheQuestionForTheBox) {
+TEST(StepGeometry, ThePlacementIsSentWithTheRequestForTheBox) {
     StepGeometry geometry = answering(
         R"(read line; [ "$line" = "box 3 1 0 0 2.5 0 1 0 -1 0 0 1 1e-07" ] && echo '{"min": [1,2,3], "max": [4,5,6]}')");
     host::Transform placement;
@@ -51,7 +51,7 @@ TEST(StepGeometry, AShapeWithoutExtentHasNoBox) {
     EXPECT_EQ(answering("read line; echo '{}'").box({}), std::nullopt);
 }
 
-TEST(StepGeometry, AReaderThatIsGoneThrowsEachTime) {
+TEST(StepGeometry, AReaderThatHasEndedThrowsEachTime) {
     StepGeometry geometry = answering("read line; kill -SEGV $$");
     const std::string why =
         "a.step: a shape cannot be measured: the reader crashed (Segmentation fault)";
@@ -61,7 +61,7 @@ TEST(StepGeometry, AReaderThatIsGoneThrowsEachTime) {
     EXPECT_EQ(complaint([&] { geometry.box({}); }), why);
 }
 
-TEST(StepGeometry, AFailureInsideTheReaderLeavesItForOtherQuestions) {
+TEST(StepGeometry, AFailureInTheReaderDoesNotAffectOtherRequests) {
     StepGeometry geometry =
         answering(R"(read line; echo '{"error": "no surface"}'; read line; echo '{}')");
     const std::string why = "a.step: a shape cannot be measured: no surface";
@@ -71,7 +71,7 @@ TEST(StepGeometry, AFailureInsideTheReaderLeavesItForOtherQuestions) {
     EXPECT_EQ(complaint([&] { geometry.volume(); }), why);
 }
 
-TEST(StepGeometry, AnAnswerWithoutASizeIsAFailure) {
+TEST(StepGeometry, AResponseWithoutASizeIsAFailure) {
     StepGeometry geometry = answering(R"(read line; echo '{"area": 6}')");
 
     EXPECT_THROW(geometry.area(), std::runtime_error);

@@ -3,6 +3,7 @@
 #include "host/import/reader_program.h"
 #include "samples/product.h"
 #include "tests/host/import/drafts.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>
@@ -42,13 +43,35 @@ void damage(std::string& text, const std::string& begin, const std::string& end,
     text.replace(from, to - from, other);
 }
 
+/// A part that is the plate.
+samples::Product part(const std::string& key, const std::string& id, const std::string& name) {
+    return {.key = key,
+            .id = id,
+            .name = name,
+            .description = "",
+            .material = {},
+            .solid = kPlate,
+            .uses = {}};
+}
+
+samples::Product assembly(const std::string& key, const std::string& id, const std::string& name,
+                          const std::vector<samples::Use>& uses) {
+    samples::Product product = part(key, id, name);
+    product.solid.reset();
+    product.uses = uses;
+    return product;
+}
+
+/// A file of the plate alone.
+std::string plateFile() { return samples::stepFile("x", {part("plate", "P", "Plate")}); }
+
 class StepImport : public testing::Test {
 protected:
     DesignData importText(const std::string& text) {
         return host::importStep(folder.write("Design.step", text), {}, {}, warnings);
     }
 
-    drafts::Folder folder;
+    test_support::TemporaryFolder folder;
     std::vector<host::ReadingWarning> warnings;
 };
 
@@ -65,35 +88,17 @@ TEST_F(StepImport, ASingleRootProductIsTheRootComponent) {
     EXPECT_EQ(design.name, "Design");
 }
 
-TEST_F(StepImport, SeveralRootsStandBelowOneOfTheFilesName) {
-    EXPECT_EQ(tree(importText(samples::stepFile("x", {{.key = "left",
-                                                       .id = "A",
-                                                       .name = "Left",
-                                                       .description = "",
-                                                       .material = {},
-                                                       .solid = kPlate,
-                                                       .uses = {}},
-                                                      {.key = "pin",
-                                                       .id = "C",
-                                                       .name = "Pin",
-                                                       .description = "",
-                                                       .material = {},
-                                                       .solid = kPlate,
-                                                       .uses = {}},
-                                                      {.key = "right",
-                                                       .id = "B",
-                                                       .name = "Right",
-                                                       .description = "",
-                                                       .material = {},
-                                                       .solid = {},
-                                                       .uses = {{"pin", {}}}}}))),
-              "Design\n"
-              "  Left:1\n"
-              "  Right:1\n"
-              "    Pin:1\n");
+TEST_F(StepImport, SeveralRootsArePutBelowARootNamedAfterTheFile) {
+    EXPECT_EQ(
+        tree(importText(samples::stepFile("x", {part("left", "A", "Left"), part("pin", "C", "Pin"),
+                                                assembly("right", "B", "Right", {{"pin", {}}})}))),
+        "Design\n"
+        "  Left:1\n"
+        "  Right:1\n"
+        "    Pin:1\n");
 }
 
-TEST_F(StepImport, AProductThatNobodyUsesAndThatHoldsNothingIsNoRootBesideOthers) {
+TEST_F(StepImport, AnUnusedEmptyProductIsNotARootBesideOthers) {
     // As AP242 files hold their materials.
     EXPECT_EQ(tree(importText(step(product(10, "A", "Frame") + product(20, "P", "Bar") +
                                    product(30, "M", "Steel") + usage(40, 10, 20)))),
@@ -101,7 +106,7 @@ TEST_F(StepImport, AProductThatNobodyUsesAndThatHoldsNothingIsNoRootBesideOthers
               "  Bar:1\n");
 }
 
-TEST_F(StepImport, PartsOfOneNameAreKeptApart) {
+TEST_F(StepImport, PartsOfTheSameNameAreDistinct) {
     const DesignData design =
         importText(step(product(10, "A", "Top") + product(20, "Document", "Document") +
                         product(30, "Document", "Document") + usage(40, 10, 20) +
@@ -125,19 +130,19 @@ TEST_F(StepImport, PartsWithoutGeometryHaveNone) {
     EXPECT_EQ(importText(step(product(10, "P", "Bar"))).components[0].geometry, nullptr);
 }
 
-TEST_F(StepImport, UsesWithoutAPlacementStandAtTheOrigin) {
+TEST_F(StepImport, UsesWithoutAPlacementAreAtTheOrigin) {
     const DesignData design =
         importText(step(product(10, "A", "Top") + product(20, "P", "Bar") + usage(30, 10, 20)));
 
     EXPECT_EQ(design.components[0].children[0].transform, host::Transform());
 }
 
-TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
+TEST_F(StepImport, AUseOfAMissingProductIsSkippedWithAWarning) {
     const DesignData design = importText(step(product(10, "A", "Top") + product(20, "P", "Bar") +
                                               usage(30, 10, 20) + usage(31, 10, 99)));
 
     EXPECT_EQ(tree(design), "Top\n  Bar:1\n");
-    const std::string path = folder.path.string() + "/Design.step: ";
+    const std::string path = folder.path().string() + "/Design.step: ";
     EXPECT_EQ(
         drafts::lines(warnings),
         (std::vector<std::string>{
@@ -149,21 +154,15 @@ TEST_F(StepImport, AUseOfAMissingProductIsLeftOutWithAWarning) {
             path + "has no placement for 1 usage; it is at the origin"}));
 }
 
-TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {
-    std::string text = samples::stepFile("x", {{.key = "plate",
-                                                .id = "P",
-                                                .name = "Plate",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = kPlate,
-                                                .uses = {}}});
+TEST_F(StepImport, ABodyThatCannotBeBuiltIsReported) {
+    std::string text = plateFile();
     const std::string body = labelOf(text, "MANIFOLD_SOLID_BREP");
     damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
 
     const DesignData design = importText(text);
 
     EXPECT_EQ(design.components[0].geometry, nullptr);
-    const std::string path = folder.path.string() + "/Design.step: ";
+    const std::string path = folder.path().string() + "/Design.step: ";
     EXPECT_EQ(drafts::lines(warnings),
               (std::vector<std::string>{
                   path + "has 1 faulty entity, first Parameter n0.2 (outer) not an Entity (" +
@@ -172,14 +171,8 @@ TEST_F(StepImport, ABodyThatCannotBeBuiltIsWarnedOf) {
                       " of \"Plate\"; areas and masses are without them"}));
 }
 
-TEST_F(StepImport, ABodyThatLacksAFaceIsWarnedOf) {
-    std::string text = samples::stepFile("x", {{.key = "plate",
-                                                .id = "P",
-                                                .name = "Plate",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = kPlate,
-                                                .uses = {}}});
+TEST_F(StepImport, ABodyThatLacksAFaceIsReported) {
+    std::string text = plateFile();
     const std::string face = labelOf(text, "ADVANCED_FACE");
     damage(text, "ADVANCED_FACE('',(#", ");", "ADVANCED_FACE('',(),$,.T.);");
 
@@ -197,14 +190,8 @@ TEST_F(StepImport, ABodyThatLacksAFaceIsWarnedOf) {
                   " of \"Plate\"; areas and masses are without them");
 }
 
-TEST_F(StepImport, ABodyWithoutAnyFaceIsWarnedOf) {
-    std::string text = samples::stepFile("x", {{.key = "plate",
-                                                .id = "P",
-                                                .name = "Plate",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = kPlate,
-                                                .uses = {}}});
+TEST_F(StepImport, ABodyWithoutAnyFaceIsReported) {
+    std::string text = plateFile();
     damage(text, "CLOSED_SHELL('',(", ");", "CLOSED_SHELL('',());");
 
     importText(text);
@@ -214,28 +201,10 @@ TEST_F(StepImport, ABodyWithoutAnyFaceIsWarnedOf) {
         << warnings[0].line();
 }
 
-TEST_F(StepImport, BodiesOfOtherPartsAreThereBesideOneThatCannotBeBuilt) {
-    std::string text = samples::stepFile("x", {{.key = "plate",
-                                                .id = "P",
-                                                .name = "Plate",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = kPlate,
-                                                .uses = {}},
-                                               {.key = "bar",
-                                                .id = "B",
-                                                .name = "Bar",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = kPlate,
-                                                .uses = {}},
-                                               {.key = "top",
-                                                .id = "A",
-                                                .name = "Top",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = {},
-                                                .uses = {{"plate", {}}, {"bar", {}}}}});
+TEST_F(StepImport, ABodyThatCannotBeBuiltDoesNotAffectOtherParts) {
+    std::string text =
+        samples::stepFile("x", {part("plate", "P", "Plate"), part("bar", "B", "Bar"),
+                                assembly("top", "A", "Top", {{"plate", {}}, {"bar", {}}})});
     damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
 
     const DesignData design = importText(text);
@@ -244,36 +213,18 @@ TEST_F(StepImport, BodiesOfOtherPartsAreThereBesideOneThatCannotBeBuilt) {
     EXPECT_NEAR(design.components[2].geometry->volume(), 1, 1e-9);
 }
 
-TEST_F(StepImport, AnEntityWithoutItsNameIsNoFault) {
-    std::string text = samples::stepFile("x", {{.key = "plate",
-                                                .id = "P",
-                                                .name = "Plate",
-                                                .description = "",
-                                                .material = {},
-                                                .solid = kPlate,
-                                                .uses = {}}});
+TEST_F(StepImport, AnEntityWithoutANameIsValid) {
+    std::string text = plateFile();
     damage(text, "MANIFOLD_SOLID_BREP(''", ",", "MANIFOLD_SOLID_BREP($,");
 
     EXPECT_NE(importText(text).components[0].geometry, nullptr);
     EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());
 }
 
-TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {
-    const DesignData design = importText(
-        samples::stepFile("x", {{.key = "plate",
-                                 .id = "P",
-                                 .name = "Plate",
-                                 .description = "",
-                                 .material = {},
-                                 .solid = kPlate,
-                                 .uses = {}},
-                                {.key = "top",
-                                 .id = "A",
-                                 .name = "Top",
-                                 .description = "",
-                                 .material = {},
-                                 .solid = {},
-                                 .uses = {{"plate", {{10, 20, 30}, {0, 0, 1}, {0, 1, 0}}}}}}));
+TEST_F(StepImport, PlacementsAreInCentimetresAndRotated) {
+    const DesignData design = importText(samples::stepFile(
+        "x", {part("plate", "P", "Plate"),
+              assembly("top", "A", "Top", {{"plate", {{10, 20, 30}, {0, 0, 1}, {0, 1, 0}}}})}));
 
     // A quarter turn around z: x points whereto y pointed.
     EXPECT_EQ(design.components[0].children[0].transform.cells,
@@ -281,13 +232,7 @@ TEST_F(StepImport, PlacementsAreInCentimetresAndTurned) {
 }
 
 TEST_F(StepImport, SizesAreInCentimetres) {
-    const DesignData design = importText(samples::stepFile("x", {{.key = "plate",
-                                                                  .id = "P",
-                                                                  .name = "Plate",
-                                                                  .description = "",
-                                                                  .material = {},
-                                                                  .solid = kPlate,
-                                                                  .uses = {}}}));
+    const DesignData design = importText(plateFile());
     host::Geometry& plate = *design.components[0].geometry;
 
     EXPECT_NEAR(plate.area(), 7, 1e-9);  // 2 x (1x2 + 1x0.5 + 2x0.5)
@@ -295,7 +240,7 @@ TEST_F(StepImport, SizesAreInCentimetres) {
     EXPECT_EQ(plate.box({}), (host::Box{{-0.5, -1, 0}, {0.5, 1, 0.5}}));
 }
 
-TEST_F(StepImport, TheBoxOfATurnedShapeIsExact) {
+TEST_F(StepImport, TheBoxOfARotatedShapeIsExact) {
     const DesignData design =
         importText(samples::stepFile("x", {{.key = "disc",
                                             .id = "P",
@@ -319,13 +264,7 @@ TEST_F(StepImport, TheBoxOfATurnedShapeIsExact) {
 
 TEST_F(StepImport, AnAssemblyWithABodyOfItsOwnKeepsBoth) {
     const DesignData design =
-        importText(samples::stepFile("x", {{.key = "plate",
-                                            .id = "P",
-                                            .name = "Plate",
-                                            .description = "",
-                                            .material = {},
-                                            .solid = kPlate,
-                                            .uses = {}},
+        importText(samples::stepFile("x", {part("plate", "P", "Plate"),
                                            {.key = "top",
                                             .id = "A",
                                             .name = "Top",
@@ -340,42 +279,32 @@ TEST_F(StepImport, AnAssemblyWithABodyOfItsOwnKeepsBoth) {
 }
 
 TEST_F(StepImport, AnAssemblyOfASinglePartHasNoBodyOfItsOwn) {
-    const DesignData design =
-        importText(samples::stepFile("x", {{.key = "plate",
-                                            .id = "P",
-                                            .name = "Plate",
-                                            .description = "",
-                                            .material = {},
-                                            .solid = kPlate,
-                                            .uses = {}},
-                                           {.key = "top",
-                                            .id = "A",
-                                            .name = "Top",
-                                            .description = "",
-                                            .material = {},
-                                            .solid = {},
-                                            .uses = {{"plate", {{1, 2, 3}}}}}}));
+    const DesignData design = importText(samples::stepFile(
+        "x", {part("plate", "P", "Plate"), assembly("top", "A", "Top", {{"plate", {{1, 2, 3}}}})}));
 
     EXPECT_EQ(design.components[0].geometry, nullptr);
     EXPECT_NE(design.components[1].geometry, nullptr);
 }
 
 TEST_F(StepImport, MaterialsComeWithTheirDensity) {
-    const DesignData design =
-        importText(samples::stepFile("x", {{.key = "plate",
-                                            .id = "P",
-                                            .name = "Plate",
-                                            .description = "",
-                                            .material = samples::Material{"Litina", 7200},
-                                            .solid = kPlate,
-                                            .uses = {}}}));
+    const DesignData design = importText(
+        samples::stepFile("x", {{.key = "plate",
+                                 .id = "P",
+                                 .name = "Plate",
+                                 .description = "",
+                                 .material = samples::Material{.name = "Litina", .density = 7200},
+                                 .solid = kPlate,
+                                 .uses = {}}}));
 
-    EXPECT_EQ(design.components[0].material, (host::MaterialData{"Litina", 0.0072}));
+    EXPECT_EQ(design.components[0].material,
+              (host::MaterialData{.name = "Litina", .density = 0.0072}));
 }
 
-TEST_F(StepImport, WithoutAMaterialItIsSteel) {
-    EXPECT_EQ(importText(step(product(10, "P", "Bar"))).components[0].material,
-              (host::MaterialData{"Steel", 0.00785, true, true}));
+TEST_F(StepImport, AMissingMaterialIsSteel) {
+    EXPECT_EQ(
+        importText(step(product(10, "P", "Bar"))).components[0].material,
+        (host::MaterialData{
+            .name = "Steel", .density = 0.00785, .nameAssumed = true, .densityAssumed = true}));
 }
 
 TEST_F(StepImport, WhatTheFileSaysOfAMaterialIsNotAssumed) {
@@ -388,13 +317,16 @@ TEST_F(StepImport, WhatTheFileSaysOfAMaterialIsNotAssumed) {
                                             .solid = kPlate,
                                             .uses = {}}}));
 
-    EXPECT_EQ(design.components[0].material, (host::MaterialData{"Steel", 0.00785, false, false}));
+    EXPECT_EQ(
+        design.components[0].material,
+        (host::MaterialData{
+            .name = "Steel", .density = 0.00785, .nameAssumed = false, .densityAssumed = false}));
 }
 
 TEST_F(StepImport, AWarningNamesItsKindItsFileAndItsComponent) {
     importText(step(product(10, "A", "Top") + drafts::reference(20, 10, "gone.stp")));
 
-    const std::string path = folder.path.string() + "/Design.step";
+    const std::string path = folder.path().string() + "/Design.step";
     EXPECT_EQ(warnings, (std::vector<host::ReadingWarning>{
                             {.code = "missing-file",
                              .file = path,
@@ -430,24 +362,14 @@ TEST_F(StepImport, AProductTakesItsContentFromAnotherFile) {
     EXPECT_EQ(tree(design), "Cart\n  Wheel:1\n    Spoke:1\n");
 }
 
-TEST_F(StepImport, TheUnitOfTheFileIsTold) {
-    EXPECT_EQ(importText(samples::stepFile("x", {{.key = "plate",
-                                                  .id = "P",
-                                                  .name = "Plate",
-                                                  .description = "",
-                                                  .material = {},
-                                                  .solid = kPlate,
-                                                  .uses = {}}}))
-                  .unit,
-              "mm");
-}
+TEST_F(StepImport, TheUnitOfTheFileIsReported) { EXPECT_EQ(importText(plateFile()).unit, "mm"); }
 
-TEST_F(StepImport, TheSourceTellsWhetherTheFileChanged) {
+TEST_F(StepImport, TheFingerprintDetectsAChangedFile) {
     const DesignData first = importText(step(product(10, "P", "Bar")));
     const DesignData again = importText(step(product(10, "P", "Bar")));
     const DesignData changed = importText(step(product(10, "P", "Rod")));
 
-    EXPECT_EQ(first.source->path, std::filesystem::canonical(folder.path / "Design.step"));
+    EXPECT_EQ(first.source->path, std::filesystem::canonical(folder.path() / "Design.step"));
     EXPECT_EQ(first.source->fingerprint, again.source->fingerprint);
     EXPECT_NE(first.source->fingerprint, changed.source->fingerprint);
 }
@@ -455,21 +377,15 @@ TEST_F(StepImport, TheSourceTellsWhetherTheFileChanged) {
 TEST_F(StepImport, ProgressRunsFromReadingToBuilding) {
     std::vector<std::pair<std::string, double>> heard;
     host::importStep(
-        folder.write("a.step", samples::stepFile("x", {{.key = "plate",
-                                                        .id = "P",
-                                                        .name = "Plate",
-                                                        .description = "",
-                                                        .material = {},
-                                                        .solid = kPlate,
-                                                        .uses = {}}})),
-        {}, [&heard](const std::string& stage, double done) { heard.emplace_back(stage, done); },
+        folder.write("a.step", plateFile()), {},
+        [&heard](const std::string& stage, double done) { heard.emplace_back(stage, done); },
         warnings);
 
     EXPECT_EQ(heard.front(), (std::pair<std::string, double>("Reading", 0)));
     EXPECT_EQ(heard.back(), (std::pair<std::string, double>("Building", 1)));
 }
 
-TEST_F(StepImport, TheReaderEndsWhenItsStarterIsGone) {
+TEST_F(StepImport, TheReaderEndsWhenItsParentIsGone) {
     const std::string file = folder.write("a.step", step(product(10, "P", "Bar")));
     const std::string reader = host::findStepReader().string();
     int ends[2] = {};
@@ -493,13 +409,7 @@ TEST_F(StepImport, TheReaderEndsWhenItsStarterIsGone) {
 }
 
 TEST_F(StepImport, NoProcessOutlivesTheDesign) {
-    importText(samples::stepFile("x", {{.key = "plate",
-                                        .id = "P",
-                                        .name = "Plate",
-                                        .description = "",
-                                        .material = {},
-                                        .solid = kPlate,
-                                        .uses = {}}}));
+    importText(plateFile());
 
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);

@@ -1,4 +1,5 @@
 #include "tests/host/import/drafts.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -28,7 +29,7 @@ protected:
         return line.size() > path.size() + 2 ? line.substr(path.size() + 2) : line;
     }
 
-    drafts::Folder folder;
+    test_support::TemporaryFolder folder;
 };
 
 /// A chain of assemblies of which each uses the next `uses` times.
@@ -44,11 +45,12 @@ std::string chain(int length, int uses) {
 }
 
 TEST_F(StepRefusal, AMissingFile) {
-    EXPECT_EQ(withoutPath((folder.path / "no.step").string()), "no such file");
+    EXPECT_EQ(withoutPath((folder.path() / "no.step").string()), "no such file");
 }
 
 TEST_F(StepRefusal, AFolder) {
-    EXPECT_EQ(withoutPath(folder.path.string()), "is a folder; the path of a STEP file is needed");
+    EXPECT_EQ(withoutPath(folder.path().string()),
+              "is a folder; the path of a STEP file is needed");
 }
 
 /// Ends the process with success when a file is refused with this line. The superuser may read
@@ -61,7 +63,7 @@ TEST_F(StepRefusal, AFolder) {
 
 TEST_F(StepRefusal, AFileThatMayNotBeRead) {
     const std::string path = folder.write("a.step", step(product(10, "P", "Bar")));
-    ::chmod(folder.path.c_str(), 0755);
+    ::chmod(folder.path().c_str(), 0755);
     ::chmod(path.c_str(), 0);
 
     EXPECT_EXIT(endWithRefusalOf(path, path + ": cannot be read (Permission denied); a file that "
@@ -70,7 +72,7 @@ TEST_F(StepRefusal, AFileThatMayNotBeRead) {
 }
 
 TEST_F(StepRefusal, APipe) {
-    const std::string path = (folder.path / "pipe").string();
+    const std::string path = (folder.path() / "pipe").string();
     ::mkfifo(path.c_str(), 0600);
 
     EXPECT_EQ(withoutPath(path), "is no ordinary file; the path of a STEP file is needed");
@@ -87,7 +89,7 @@ TEST_F(StepRefusal, AFileOfAnotherKind) {
               "is no STEP file; such a file begins with \"ISO-10303-21;\"");
 }
 
-TEST_F(StepRefusal, AFileThatIsCutOff) {
+TEST_F(StepRefusal, ATruncatedFile) {
     const std::string text = step(product(10, "P", "Bar"));
 
     EXPECT_EQ(reason(text.substr(0, text.find("FORMATION"))),
@@ -162,10 +164,10 @@ TEST_F(StepRefusal, AFileThatRefersToItself) {
               "refers to a file that refers back to it; such a loop has no end");
 }
 
-TEST_F(StepRefusal, NothingButTheFileIsLeftBehind) {
+TEST_F(StepRefusal, NothingIsLeftBesideTheFile) {
     reason(step("#10=CARTESIAN_POINT('',(0.,0.,0.));\n"));
 
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 1);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
 
 }  // namespace

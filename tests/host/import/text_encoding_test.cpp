@@ -23,7 +23,7 @@ TEST(TextEncoding, HighBytesWithinLatinWordsAreLatin) {
               Encoding::Latin1);
 }
 
-TEST(TextEncoding, OneTextThatFitsNotSpoilsTheGuessForAll) {
+TEST(TextEncoding, OneInvalidStringRulesOutAnEncodingForAll) {
     EXPECT_EQ(guessEncoding({"\xC4\xE5\xF2\x38", "na\xEFve"}), Encoding::Latin1);
 }
 
@@ -39,7 +39,7 @@ TEST(TextEncoding, EscapedBytesOfTwoChineseCharactersAreGbk) {
     EXPECT_EQ(guessEscapedEncoding({"\xCB\xDC\xCC\xE5", "\xBD\xC5"}), Encoding::Gbk);
 }
 
-TEST(TextEncoding, NoTextsAreLatin) { EXPECT_EQ(guessEncoding({}), Encoding::Latin1); }
+TEST(TextEncoding, NoStringsAreLatin) { EXPECT_EQ(guessEncoding({}), Encoding::Latin1); }
 
 TEST(TextEncoding, Windows1251IsRead) {
     EXPECT_EQ(toUtf8("\xC4\xE5\xF2\x38", Encoding::Cyrillic), "Дет8");
@@ -56,7 +56,7 @@ TEST(TextEncoding, BytesThatDoNotFitAreReadAsLatin) {
     EXPECT_EQ(toUtf8("\xCB", Encoding::Utf8), "Ë");
 }
 
-TEST(TextEncoding, OverlongSurrogateAndCutSequencesAreNoUtf8) {
+TEST(TextEncoding, OverlongSurrogateAndTruncatedSequencesAreNotUtf8) {
     EXPECT_TRUE(step::isUtf8("Příruba 軸受 \xF0\x9F\x94\xA9"));
     EXPECT_FALSE(step::isUtf8("\xC0\xAF"));
     EXPECT_FALSE(step::isUtf8("\xED\xA0\x80"));
@@ -64,7 +64,7 @@ TEST(TextEncoding, OverlongSurrogateAndCutSequencesAreNoUtf8) {
     EXPECT_FALSE(step::isUtf8("\xF4\x90\x80\x80"));
 }
 
-TEST(TextEncoding, ControlCharactersBecomeBlanks) {
+TEST(TextEncoding, ControlCharactersBecomeSpaces) {
     EXPECT_EQ(cleaned("a\x01"
                       "b\tc\x7F"
                       "d\xC2\x85"
@@ -76,7 +76,7 @@ TEST(TextEncoding, NonCharactersBecomeTheReplacementCharacter) {
     EXPECT_EQ(cleaned("a\xEF\xBF\xBE\xEF\xB7\x90z"), "a\uFFFD\uFFFDz");
 }
 
-TEST(TextEncoding, BlanksAtBothEndsGo) {
+TEST(TextEncoding, SpacesAtBothEndsAreTrimmed) {
     EXPECT_EQ(cleaned("  a b\r\n"), "a b");
     EXPECT_EQ(cleaned(" "), "");
 }

@@ -1,5 +1,6 @@
 // Units Conversion at real windows, on the test's display of 800 by 600 pixels.
 
+#include "tests/support/test_display.h"
 #include "tests/tarnix/commands/framed_window.h"
 #include "tests/tarnix/commands/palette_fixture.h"
 
@@ -7,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace {
@@ -21,10 +21,8 @@ constexpr const char* kPalette = "unitsConversion";
 class UnitsConversionAtAWindow : public PaletteTest {
 protected:
     void SetUp() override {
-        const char* const display = std::getenv("TEST_DISPLAY");
-        if (display == nullptr) {
-            GTEST_SKIP() << "TEST_DISPLAY names no display";
-        }
+        const char* const display = test_support::testDisplay();
+        if (display == nullptr) return;
         host::environment::setVariable(std::filesystem::path("DISPLAY").native(),
                                        std::filesystem::path(display).native());
         PaletteTest::SetUp();

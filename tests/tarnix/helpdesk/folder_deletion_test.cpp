@@ -1,6 +1,6 @@
 #include "tarnix/helpdesk/folder_deletion.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tarnix/platform/test_system.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ protected:
         return file;
     }
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(FolderDeletion, TakesTheFilesAndTheFolder) {
@@ -93,8 +93,8 @@ TEST_F(FolderDeletion, EndsAtASubfolderWhoseNameAnotherOneBeginsWith) {
 
 TEST_F(FolderDeletion, EndsAtALockedFile) {
     write("screen_001.png");
-    const test::Undeletable locked(path() / "screen_001.png");
-    if (!locked.isEffective()) {
+    const auto locked = test::holdUndeletable(path() / "screen_001.png");
+    if (locked == nullptr) {
         GTEST_SKIP() << "the system deletes the file all the same";
     }
     write("screen_002.png");

@@ -36,6 +36,10 @@ void HelpdeskTest::put(const std::string& name, const std::string& content) cons
 
 bool HelpdeskTest::has(const std::string& name) const { return fs::exists(supportFolder() / name); }
 
+std::string HelpdeskTest::contentOf(const std::string& name) const {
+    return readFile(supportFolder() / name);
+}
+
 std::string HelpdeskTest::shownMessages() const {
     std::string lines;
     for (const host::Message& message : session->messages()) {

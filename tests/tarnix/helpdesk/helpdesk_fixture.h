@@ -32,6 +32,9 @@ protected:
     void put(const std::string& name, const std::string& content = "x") const;
     [[nodiscard]] bool has(const std::string& name) const;
 
+    /// The bytes of a file of the support folder; empty if there is none.
+    [[nodiscard]] std::string contentOf(const std::string& name) const;
+
     /// The messages so far, a line for each: title, icon and text.
     [[nodiscard]] std::string shownMessages() const;
 

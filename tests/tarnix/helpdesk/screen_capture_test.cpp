@@ -1,4 +1,5 @@
 #include "tests/support/files.h"
+#include "tests/support/test_display.h"
 #include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 #include "tests/tarnix/helpdesk/pattern_window.h"
 
@@ -6,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -21,10 +21,8 @@ constexpr const char* kHostTitle = "Autodesk Fusion 360";
 class ScreenCapture : public HelpdeskTest {
 protected:
     void SetUp() override {
-        const char* const display = std::getenv("TEST_DISPLAY");
-        if (display == nullptr) {
-            GTEST_SKIP() << "TEST_DISPLAY names no display";
-        }
+        const char* const display = testDisplay();
+        if (display == nullptr) return;
         host::environment::setVariable(fs::path("DISPLAY").native(), fs::path(display).native());
         HelpdeskTest::SetUp();
     }

@@ -54,37 +54,41 @@ TEST_F(SupportProvider, IsTheOneOfTheSettings) {
     EXPECT_EQ(opened(), std::vector<std::string>{"http://other.example/a?b=c"});
 }
 
-TEST_F(SupportProvider, ThatCannotBeOpenedIsReported) {
-    restartWithShell(host::shell_requests::Policy::RecordFail);
+using Policy = host::shell_requests::Policy;
+
+/// An address that is not opened: the one that is asked for, and what answers.
+struct Unopened {
+    const char* name;
+    Policy policy;
+    const char* address;
+};
+
+class UnopenedSupportProvider : public SupportProvider,
+                                public testing::WithParamInterface<Unopened> {};
+
+TEST_P(UnopenedSupportProvider, IsReported) {
+    restartWithShell(GetParam().policy);
+    choose(GetParam().address);
     press("openHelpdesk");
+    EXPECT_EQ(opened(), std::vector<std::string>{GetParam().address});
     EXPECT_EQ(shownMessages(), kRefused);
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(SupportProvider, WithAnEmptyAddressIsAskedForAsItIs) {
-    restartWithShell(host::shell_requests::Policy::RecordFail);
-    choose("");
-    press("openHelpdesk");
-    EXPECT_EQ(opened(), std::vector<std::string>{""});
-    EXPECT_EQ(shownMessages(), kRefused);
-}
-
-TEST_F(SupportProvider, WithAnEmptyAddressIsRefusedByTheSystemsShellAndReported) {
-    restartWithShell(host::shell_requests::Policy::RecordOpen);
-    choose("");
-    press("openHelpdesk");
-    EXPECT_EQ(shownMessages(), kRefused);
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(SupportProvider, WithAnAddressThatTheSystemCannotOpenIsReported) {
-    restartWithShell(host::shell_requests::Policy::RecordOpen);
-    choose("unheard-of://a.example/");
-    press("openHelpdesk");
-    EXPECT_EQ(opened(), std::vector<std::string>{"unheard-of://a.example/"});
-    EXPECT_EQ(shownMessages(), kRefused);
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
+INSTANTIATE_TEST_SUITE_P(Each, UnopenedSupportProvider,
+                         testing::Values(Unopened{.name = "ThatTheSessionRefuses",
+                                                  .policy = Policy::RecordFail,
+                                                  .address = "http://helpdesk.tarnix.example/"},
+                                         Unopened{.name = "WithAnEmptyAddressThatTheSessionRefuses",
+                                                  .policy = Policy::RecordFail,
+                                                  .address = ""},
+                                         Unopened{.name = "WithAnEmptyAddressThatTheSystemRefuses",
+                                                  .policy = Policy::RecordOpen,
+                                                  .address = ""},
+                                         Unopened{.name = "WithAnAddressThatTheSystemCannotOpen",
+                                                  .policy = Policy::RecordOpen,
+                                                  .address = "unheard-of://a.example/"}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_F(SupportProvider, IsAskedForWithTheAddressUnchanged) {
     choose("http://other.example/$(touch x)`touch y`;\"z\" %20'|&gt;");

@@ -17,7 +17,7 @@ namespace {
 
 class SystemInformation : public HelpdeskTest {
 protected:
-    [[nodiscard]] std::string file() const { return readFile(supportFolder() / "SystemInfo.txt"); }
+    [[nodiscard]] std::string file() const { return contentOf("SystemInfo.txt"); }
 
     /// The line with this number, counted from 1, without its end.
     [[nodiscard]] std::string line(int number) const {

@@ -1,6 +1,6 @@
 #include "tarnix/platform/files.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 class Files : public testing::Test {
 protected:
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(Files, CanReadAFileThatIsThere) {

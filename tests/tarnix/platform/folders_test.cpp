@@ -1,6 +1,6 @@
 #include "tarnix/platform/folders.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +39,7 @@ protected:
         fs::permissions(folder.path() / name, fs::perms::owner_read);
     }
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(Folders, ThatForTemporaryFilesEndsInABackslash) {

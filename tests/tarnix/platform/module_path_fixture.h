@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tarnix/platform/test_system.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ protected:
         return reinterpret_cast<Probe>(test::functionOf(module, "probeModulePath"))();
     }
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 }  // namespace tarnix::platform

@@ -30,19 +30,8 @@ private:
     std::filesystem::path file_;
 };
 
-/// While it lives, a file may be read and written but not deleted. Check `isEffective` where
-/// the system could not be brought to that.
-class Undeletable {
-public:
-    explicit Undeletable(const std::filesystem::path& file);
-    Undeletable(const Undeletable&) = delete;
-    Undeletable& operator=(const Undeletable&) = delete;
-    ~Undeletable();
-
-    [[nodiscard]] bool isEffective() const { return state_ != nullptr; }
-
-private:
-    std::shared_ptr<void> state_;
-};
+/// For as long as what is returned lives, the file may be read and written but not deleted. Null
+/// where the system could not be brought to that.
+[[nodiscard]] std::shared_ptr<void> holdUndeletable(const std::filesystem::path& file);
 
 }  // namespace tarnix::test

@@ -1,7 +1,7 @@
 #include "tarnix/platform/text_file.h"
 
 #include "tarnix/platform/files.h"
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tarnix/platform/test_system.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ namespace {
 
 class NewText : public testing::Test {
 protected:
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
     TextFile file;
 };
 
@@ -50,7 +50,7 @@ TEST_F(NewText, IsWrittenAgainAfterAFileThatDidNotOpen) {
 
 class AppendingText : public testing::Test {
 protected:
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
     TextFile file;
 };
 
@@ -92,8 +92,8 @@ TEST_F(AppendingText, NewTextFollowsTheOld) {
 TEST_F(AppendingText, FileThatCouldNotBeDeletedGetsTheNewTextAfterTheOld) {
     folder.write("list.csv", "old\r\n");
     {
-        const test::Undeletable kept(folder.path() / "list.csv");
-        if (!kept.isEffective()) {
+        const auto kept = test::holdUndeletable(folder.path() / "list.csv");
+        if (kept == nullptr) {
             GTEST_SKIP() << "the system deletes the file all the same";
         }
         EXPECT_FALSE(deleteFile(folder.windows("list.csv")));

@@ -3,7 +3,7 @@
 #include "tarnix/platform/com.h"
 #include "tarnix/platform/com_error.h"
 #include "tarnix/platform/xml.h"
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +63,7 @@ protected:
         return folder.read("saved.xml");
     }
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
     XmlDocument document;
     bool loaded = false;
 };

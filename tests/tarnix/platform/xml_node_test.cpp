@@ -57,7 +57,14 @@ TEST_F(XmlHandle, KeepsItsNodeWhenTheDocumentIsReleased) {
     EXPECT_EQ(child.nodeName() + "=" + child.text(), "a=text");
 }
 
-class XmlNodes : public Xml {};
+class XmlNodes : public Xml {
+protected:
+    void setAttribute(const XmlNode& element, const std::string& name, const std::string& value) {
+        XmlNode attribute = document.createNode(XmlNodeType::Attribute, name);
+        attribute.setNodeValue(value);
+        element.attributes().setNamedItem(attribute);
+    }
+};
 
 TEST_F(XmlNodes, HaveTheNamesOfTheirKinds) {
     const XmlNodeList children = read("<r>t<a/><!--c--><![CDATA[d]]><?i v?></r>").childNodes();
@@ -172,18 +179,14 @@ TEST_F(XmlNodes, RemovingWhatIsNotAChildFails) {
 
 TEST_F(XmlNodes, NewAttributeComesAfterTheOthers) {
     const XmlNode root = read("<r z='1'/>");
-    XmlNode attribute = document.createNode(XmlNodeType::Attribute, "a");
-    attribute.setNodeValue("2");
-    root.attributes().setNamedItem(attribute);
+    setAttribute(root, "a", "2");
     EXPECT_EQ(root.attributes().length(), 2);
     EXPECT_EQ(root.attributes().item(1).nodeValue(), "2");
 }
 
 TEST_F(XmlNodes, AttributeTakesThePlaceOfOneOfItsName) {
     const XmlNode root = read("<r a='1' b='1'/>");
-    XmlNode attribute = document.createNode(XmlNodeType::Attribute, "a");
-    attribute.setNodeValue("2");
-    root.attributes().setNamedItem(attribute);
+    setAttribute(root, "a", "2");
     EXPECT_EQ(root.attributes().length(), 2);
     EXPECT_NE(saved().find("a=\"2\""), std::string::npos);
 }

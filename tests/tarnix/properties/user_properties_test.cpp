@@ -1,5 +1,5 @@
 #include "tests/support/files.h"
-#include "tests/support/unwritable_file.h"
+#include "tests/support/held_files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
 #include "host/session/input_actions.h"
@@ -56,35 +56,34 @@ TEST_F(UserProperties, MayNotHavePointsSlashesOrAccents) {
     EXPECT_TRUE(accepts("Surface finish_2-B"));
 }
 
-TEST_F(UserProperties, WithAFullStopAsSecondCharacterCannotBeSavedFromThereOn) {
+/// What is typed for a new property one after the other, and whether the last can be saved.
+struct TypedNames {
+    const char* name;
+    std::vector<std::string> typed;
+    bool isSavable;
+};
+
+class UserPropertyTyped : public UserProperties, public testing::WithParamInterface<TypedNames> {};
+
+TEST_P(UserPropertyTyped, CanBeSavedWhereTheLastIsValid) {
     showList();
     session->click(kAddRow);
-    nameRow(0, "a");
-    EXPECT_TRUE(isEnabled(kSave));
-    nameRow(0, "a.");
-    EXPECT_FALSE(isEnabled(kSave));
-    EXPECT_EQ(box(kMessage), kIncorrect);
+    for (const std::string& name : GetParam().typed) {
+        nameRow(0, name);
+    }
+    EXPECT_EQ(isEnabled(kSave), GetParam().isSavable);
+    EXPECT_EQ(box(kMessage), GetParam().isSavable ? kNotice : kIncorrect);
     EXPECT_EQ(messageRows(), 5);
 }
 
-TEST_F(UserProperties, ThatBecomeValidAgainCanBeSavedAndRestoreTheText) {
-    showList();
-    session->click(kAddRow);
-    nameRow(0, "a.");
-    nameRow(0, "ab");
-    EXPECT_TRUE(isEnabled(kSave));
-    EXPECT_EQ(box(kMessage), kNotice);
-    EXPECT_EQ(messageRows(), 5);
-}
-
-TEST_F(UserProperties, EmptiedAfterAnInvalidNameStayUnsavable) {
-    showList();
-    session->click(kAddRow);
-    nameRow(0, ".");
-    nameRow(0, "");
-    EXPECT_FALSE(isEnabled(kSave));
-    EXPECT_EQ(box(kMessage), kIncorrect);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Names, UserPropertyTyped,
+    testing::Values(
+        TypedNames{.name = "Valid", .typed = {"a"}, .isSavable = true},
+        TypedNames{.name = "WithAFullStopFromThereOn", .typed = {"a", "a."}, .isSavable = false},
+        TypedNames{.name = "ValidAgain", .typed = {"a.", "ab"}, .isSavable = true},
+        TypedNames{.name = "EmptiedAfterAnInvalidOne", .typed = {".", ""}, .isSavable = false}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(UserProperties, AreAddedAsEmptyRowsWithIdsThatNeverRepeat) {
     showList();
@@ -283,7 +282,7 @@ TEST_F(UserProperties, StayOnTheDiskWhenTheSettingsCannotBeWritten) {
     nameRow(0, "Size");
     const std::string before = settings();
     {
-        const test_support::UnwritableFile unwritable(settingsFile());
+        const auto unwritable = test_support::holdUnwritable(settingsFile());
         session->click(kSave);
     }
     EXPECT_EQ(uncaughtExceptions(), "_com_error:  in OnInputChanged of QEMA_btnSaveUserIProperty");

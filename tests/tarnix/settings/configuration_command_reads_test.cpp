@@ -1,6 +1,6 @@
 #include "tarnix/settings/configuration_command.h"
 #include "tests/host/ui/host_test.h"
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tarnix/settings/fake_module_path.h"
 
 namespace tarnix {
@@ -10,7 +10,7 @@ class ConfigurationReads : public host::HostTest {
 protected:
     ConfigurationReads() { test::modulePath() = folder.windows("Tarnix.dll"); }
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(ConfigurationReads, AreOneForTheAddressAndOneForEachQuestionAboutIt) {

@@ -100,25 +100,31 @@ TEST_F(SettingsItems, SpecialCharactersReadAsThemselves) {
     EXPECT_EQ(bomItems(), Items{"QEMA_A&B\";<\xC4\x8D> a;b"});
 }
 
-TEST_F(SettingsItems, ItemWithoutAFirstChildThrows) {
-    writeSettings("<category name=\"bomItems\"><i id=\"a\"/></category>");
+struct BrokenSettings {
+    const char* name;
+    const char* categories;
+};
+
+class BrokenSettingsItems : public SettingsItems,
+                            public testing::WithParamInterface<BrokenSettings> {};
+
+TEST_P(BrokenSettingsItems, Throw) {
+    writeSettings(GetParam().categories);
     EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
 }
 
-TEST_F(SettingsItems, ItemWithoutAnAttributeThrows) {
-    writeSettings("<category name=\"bomItems\"><i><d>1</d></i></category>");
-    EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
-}
-
-TEST_F(SettingsItems, CommentAmongTheItemsThrows) {
-    writeSettings("<category name=\"bomItems\"><!-- note --></category>");
-    EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
-}
-
-TEST_F(SettingsItems, CategoryWithoutAnAttributeThrows) {
-    writeSettings("<category/><category name=\"bomItems\"/>");
-    EXPECT_EQ(comError([] { bomItems(); }), E_POINTER);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Each, BrokenSettingsItems,
+    testing::Values(
+        BrokenSettings{.name = "ItemWithoutAFirstChild",
+                       .categories = R"(<category name="bomItems"><i id="a"/></category>)"},
+        BrokenSettings{.name = "ItemWithoutAnAttribute",
+                       .categories = R"(<category name="bomItems"><i><d>1</d></i></category>)"},
+        BrokenSettings{.name = "CommentAmongTheItems",
+                       .categories = R"(<category name="bomItems"><!-- note --></category>)"},
+        BrokenSettings{.name = "CategoryWithoutAnAttribute",
+                       .categories = R"(<category/><category name="bomItems"/>)"}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(SettingsItems, FileThatIsNotXmlThrows) {
     folder.write(kFile, "no xml");

@@ -42,7 +42,7 @@ protected:
 
     static constexpr const char* kFile = "Tarnix_configuration.xml";
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 }  // namespace tarnix

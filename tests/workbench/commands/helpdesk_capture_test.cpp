@@ -1,7 +1,6 @@
+#include "tests/support/test_display.h"
 #include "tests/tarnix/helpdesk/pattern_window.h"
 #include "tests/workbench/helpdesk_fixture.h"
-
-#include <cstdlib>
 
 using test_support::PatternWindow;
 using test_support::Picture;
@@ -12,10 +11,8 @@ namespace {
 class HelpdeskCapture : public Helpdesk {
 protected:
     void SetUp() override {
-        const char* const display = std::getenv("TEST_DISPLAY");
-        if (display == nullptr) {
-            GTEST_SKIP() << "TEST_DISPLAY names no display";
-        }
+        const char* const display = test_support::testDisplay();
+        if (display == nullptr) return;
         Helpdesk::SetUp();
         variables.set("DISPLAY", std::filesystem::path(display));
     }

@@ -2,7 +2,7 @@
 
 #include "tests/support/comma_locale.h"
 #include "tests/support/files.h"
-#include "tests/support/kept_file.h"
+#include "tests/support/held_files.h"
 #include "tests/support/temporary_folder.h"
 
 #include "host/base/gate.h"
@@ -217,8 +217,8 @@ TEST_F(BomExport, TwiceInARowLeavesTheLinesOfTheSecond) {
 
 TEST_F(BomExport, ToAFileThatCannotBeDeletedAppends) {
     writeFile(csvFile(), "older\r\n");
-    const KeptFile kept(csvFile());
-    if (!kept.isKept()) {
+    const auto kept = holdUndeletable(csvFile());
+    if (kept == nullptr) {
         GTEST_SKIP() << "this file system cannot keep a file from deletion";
     }
     open("Plate  number=P-1");

@@ -1,6 +1,6 @@
 #include "tarnix/helpdesk/folder_deletion.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -44,7 +44,7 @@ protected:
         ASSERT_EQ(::chown((folder.path() / name).c_str(), kNobody, kNobody), 0);
     }
 
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(FolderDeletionOfPosix, KeepsALockedFileAndWhatComesAfterIt) {

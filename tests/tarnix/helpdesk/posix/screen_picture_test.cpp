@@ -1,13 +1,13 @@
 #include "tarnix/platform/screen.h"
 
 #include "tests/support/temporary_folder.h"
+#include "tests/support/test_display.h"
 #include "tests/tarnix/helpdesk/pattern_window.h"
 
 #include "host/session/environment.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 
 using test_support::blackPicture;
@@ -22,10 +22,8 @@ namespace {
 class ScreenPictureOfX11 : public testing::Test {
 protected:
     void SetUp() override {
-        const char* const display = std::getenv("TEST_DISPLAY");
-        if (display == nullptr) {
-            GTEST_SKIP() << "TEST_DISPLAY names no display";
-        }
+        const char* const display = test_support::testDisplay();
+        if (display == nullptr) return;
         before = host::environment::variable("DISPLAY");
         host::environment::setVariable("DISPLAY", display);
     }

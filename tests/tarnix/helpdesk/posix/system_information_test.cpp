@@ -39,7 +39,7 @@ TEST_F(SystemInformationOfLinux, IsWhatTheSystemsToolsReport) {
         GTEST_SKIP() << "lscpu names no processor";
     }
     press("systemInfo");
-    EXPECT_EQ(readFile(supportFolder() / "SystemInfo.txt"),
+    EXPECT_EQ(contentOf("SystemInfo.txt"),
               "Hardware information: \r\n"
               "  CPU : \r\n"
               "    " +

@@ -1,6 +1,6 @@
 #include "tarnix/helpdesk/folder_deletion.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tarnix/platform/test_system.h"
 
 #include <gtest/gtest.h>
@@ -11,12 +11,12 @@ namespace tarnix {
 namespace {
 
 TEST(FolderDeletionOfWindows, KeepsALockedFileAndWhatComesAfterIt) {
-    const ScratchFolder folder;
+    const test_support::TemporaryFolder folder;
     folder.write("screen_001.png", "x");
     folder.write("screen_002.png", "x");
     folder.write("screen_003.png", "x");
-    const test::Undeletable locked(folder.path() / "screen_002.png");
-    ASSERT_TRUE(locked.isEffective());
+    const auto locked = test::holdUndeletable(folder.path() / "screen_002.png");
+    ASSERT_NE(locked, nullptr);
     const std::string path = folder.windows("");
     EXPECT_FALSE(deleteDirectoryTree({path.begin(), path.end()}));
     EXPECT_FALSE(folder.has("screen_001.png"));

@@ -30,7 +30,7 @@ protected:
     std::string pack() {
         put("screen_001.png", "picture");
         press("compressFolder");
-        return readFile(supportFolder() / "helpdesk.zip");
+        return contentOf("helpdesk.zip");
     }
 };
 

@@ -31,7 +31,7 @@ TEST_F(SystemInformationOfWindows, IsWhatTheSystemBelowWineReports) {
         GTEST_SKIP() << "there is no other system below this one";
     }
     press("systemInfo");
-    EXPECT_EQ(readFile(supportFolder() / "SystemInfo.txt"),
+    EXPECT_EQ(contentOf("SystemInfo.txt"),
               "Hardware information: \r\n"
               "  CPU : \r\n"
               "    " +

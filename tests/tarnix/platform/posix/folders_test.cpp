@@ -1,5 +1,5 @@
 #include "tarnix/platform/folders.h"
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <sys/stat.h>
 
@@ -37,7 +37,7 @@ protected:
     }
 
     const std::string temporary = environment("TMPDIR");
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(PosixFolders, ANameWithABackslashIsNotAPathToAnotherFolder) {
@@ -73,7 +73,7 @@ TEST_F(PosixFolders, ANameBeyondSixteenBitsIsUnderstoodOnTheWayBack) {
 }
 
 TEST_F(PosixFolders, ALinkIsAFileAndItsTargetStays) {
-    const ScratchFolder other;
+    const test_support::TemporaryFolder other;
     other.write("kept", "x");
     fs::create_directory_symlink(other.path(), folder.path() / "link");
     const auto found = onlyEntry();
@@ -85,7 +85,7 @@ TEST_F(PosixFolders, ALinkIsAFileAndItsTargetStays) {
 }
 
 TEST_F(PosixFolders, AFolderReachedThroughALinkIsNotSearched) {
-    const ScratchFolder other;
+    const test_support::TemporaryFolder other;
     other.write("kept", "x");
     fs::create_directory_symlink(other.path(), folder.path() / "link");
     EXPECT_FALSE(FolderSearch(wide(u"link\\*")));

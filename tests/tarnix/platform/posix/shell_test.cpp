@@ -1,6 +1,6 @@
 #include "tests/tarnix/platform/shell_fixture.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -26,7 +26,7 @@ protected:
     }
 
     const std::string path = environment("PATH");
-    ScratchFolder folder;
+    test_support::TemporaryFolder folder;
 };
 
 TEST_F(PosixShell, PathIsOpenedInTheSystemsTerms) {

@@ -69,15 +69,12 @@ struct ForbiddenFolder {
 
 }  // namespace
 
-Undeletable::Undeletable(const std::filesystem::path& file) {
+std::shared_ptr<void> holdUndeletable(const std::filesystem::path& file) {
     ::chmod(file.c_str(), 0666);
     auto folder = std::make_shared<ForbiddenFolder>(file.parent_path());
-    if (::access(file.c_str(), F_OK) == 0 &&
-        ::faccessat(AT_FDCWD, folder->path.c_str(), W_OK, AT_EACCESS) != 0) {
-        state_ = std::move(folder);
-    }
+    const bool isHeld = ::access(file.c_str(), F_OK) == 0 &&
+                        ::faccessat(AT_FDCWD, folder->path.c_str(), W_OK, AT_EACCESS) != 0;
+    return isHeld ? std::move(folder) : nullptr;
 }
-
-Undeletable::~Undeletable() = default;
 
 }  // namespace tarnix::test

@@ -1,6 +1,6 @@
 #include "tests/tarnix/platform/shell_fixture.h"
 
-#include "tests/tarnix/platform/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace {
 using WindowsShell = Shell;
 
 TEST_F(WindowsShell, FailsForAFileThatIsNotThere) {
-    const ScratchFolder folder;
+    const test_support::TemporaryFolder folder;
     EXPECT_FALSE(openWithShell(folder.windows("missing.xlsm")));
 }
 

@@ -49,15 +49,14 @@ bool ReadWatch::wasRead() const {
 }
 
 // A file that someone has open without allowing its deletion.
-Undeletable::Undeletable(const std::filesystem::path& file) {
+std::shared_ptr<void> holdUndeletable(const std::filesystem::path& file) {
     void* const handle =
         ::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle != INVALID_HANDLE_VALUE) {
-        state_ = std::shared_ptr<void>(handle, [](void* open) { ::CloseHandle(open); });
+    if (handle == INVALID_HANDLE_VALUE) {
+        return nullptr;
     }
+    return {handle, [](void* open) { ::CloseHandle(open); }};
 }
-
-Undeletable::~Undeletable() = default;
 
 }  // namespace tarnix::test
