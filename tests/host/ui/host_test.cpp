@@ -1,5 +1,8 @@
 #include "tests/host/ui/host_test.h"
 
+#include "host/design/document.h"
+#include "host/design/outline.h"
+
 namespace host {
 
 using namespace adsk::core;
@@ -57,6 +60,16 @@ std::string HostTest::noted() {
         all += (all.empty() ? "" : " ") + each;
     }
     return all;
+}
+
+HostWithDesign::HostWithDesign(const std::string& outline)
+    : document(makeDocument(parseOutline(outline), adsk::core::Application::get())) {
+    ApplicationObject::current()->setActiveDocument(document);
+}
+
+HostWithDesign::~HostWithDesign() {
+    endHost();
+    endDocument(document);
 }
 
 std::string reasonText(CommandTerminationReason reason) {

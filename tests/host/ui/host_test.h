@@ -119,6 +119,15 @@ private:
     std::optional<RunningHost> host_;  // goes first: handlers are notified of its end
 };
 
+/// A running host in which the design of an outline is open and active.
+class HostWithDesign : public HostTest {
+protected:
+    explicit HostWithDesign(const std::string& outline);
+    ~HostWithDesign() override;
+
+    adsk::core::Ptr<adsk::core::Document> document;
+};
+
 /// The number of a termination reason, as "=1".
 std::string reasonText(adsk::core::CommandTerminationReason reason);
 

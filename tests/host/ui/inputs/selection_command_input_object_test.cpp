@@ -10,29 +10,9 @@ namespace {
 using namespace adsk::core;
 
 /// A design of three parts below the root: A:1, B:1 and C:1.
-class SelectionTest : public HostTest {
+class SelectionTest : public HostWithDesign {
 protected:
-    SelectionTest() {
-        DesignData data;
-        data.name = "Root";
-        data.components.resize(4);
-        data.components[0].name = "Root";
-        int index = 0;
-        for (const char* name : {"A", "B", "C"}) {
-            ++index;
-            data.components[static_cast<std::size_t>(index)].name = name;
-            OccurrenceData occurrence;
-            occurrence.component = static_cast<std::size_t>(index);
-            data.components[0].children.push_back(occurrence);
-        }
-        document = makeDocument(data, adsk::core::Application::get());
-        host::ApplicationObject::current()->setActiveDocument(document);
-        root = designOf(document)->rootComponent();
-    }
-    ~SelectionTest() override {
-        endHost();
-        endDocument(document);
-    }
+    SelectionTest() : HostWithDesign("A\nB\nC") {}
 
     Ptr<Base> part(std::size_t index) { return root->occurrences()->item(index); }
 
@@ -51,8 +31,7 @@ protected:
 
     static std::size_t activeCount() { return ui()->activeSelections()->count(); }
 
-    Ptr<Document> document;
-    Ptr<adsk::fusion::Component> root;
+    Ptr<adsk::fusion::Component> root = designOf(document)->rootComponent();
 };
 
 TEST_F(SelectionTest, APickUpdatesInputAndActiveSelectionsBeforeItIsReported) {

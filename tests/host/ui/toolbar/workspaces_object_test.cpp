@@ -9,24 +9,11 @@ namespace {
 
 using namespace adsk::core;
 
-class WorkspaceTest : public HostTest {
+class WorkspaceTest : public HostWithDesign {
 protected:
-    WorkspaceTest() {
-        DesignData data;
-        data.name = "Untitled";
-        data.components.resize(1);
-        data.components.front().name = "Untitled";
-        document = makeDocument(data, adsk::core::Application::get());
-        host::ApplicationObject::current()->setActiveDocument(document);
-    }
-    ~WorkspaceTest() override {
-        endHost();
-        endDocument(document);
-    }
+    WorkspaceTest() : HostWithDesign("") {}
 
     static Ptr<adsk::core::Application> app() { return adsk::core::Application::get(); }
-
-    Ptr<Document> document;
 };
 
 TEST_F(WorkspaceTest, TheFirstOneIsActiveByDefault) {
