@@ -6,16 +6,6 @@ using namespace adsk::core;
 
 namespace {
 
-constexpr const char* kCommands[] = {
-    "QEMA_EditPropertiesCmd",      "QM_TX_BOM",
-    "QM_TX_moveComponentToOrigin", "QM_TX_projectedEntitiesAsConstruction",
-    "QM_TX_unitsConversion",       "QM_TX_configuration",
-    "QM_TX_onLineLibrary",         "QEMA_OpenLocalCmd_QAT",
-    "QM_HD_openHelpdesk",          "QM_HD_captureScreen",
-    "QM_HD_captureFusion",         "QM_HD_systemInfo",
-    "QM_HD_compressFolder",        "QM_HD_openFolder",
-    "QM_HD_clearFolder",           "QM_HD_openHelp"};
-
 constexpr const char* kPanels[] = {"QM_Tarnix_AlfaFusionSolidEnvironment",
                                    "QM_Tarnix_AlfaCAMEnvironment",
                                    "QM_Tarnix_AlfaFusionRenderEnvironment",
@@ -26,6 +16,10 @@ constexpr const char* kPanels[] = {"QM_Tarnix_AlfaFusionSolidEnvironment",
 
 void addLine(std::string& lines, const std::string& line) {
     lines += (lines.empty() ? "" : "\n") + line;
+}
+
+std::string lineOf(const std::string& id, bool isPromoted) {
+    return id + (isPromoted ? " promoted" : "");
 }
 
 }  // namespace
@@ -49,7 +43,15 @@ std::string AddinUiTest::controls(const std::string& panelId) {
     const Ptr<ToolbarControls> controls = found->controls();
     for (std::size_t i = 0; i < controls->count(); ++i) {
         const Ptr<CommandControl> control = controls->item(i);
-        addLine(lines, control->id() + (control->isPromoted() ? " promoted" : ""));
+        addLine(lines, lineOf(control->id(), control->isPromoted()));
+    }
+    return lines;
+}
+
+std::string AddinUiTest::controlsOf(std::span<const AddinCommandId> commands, Place place) {
+    std::string lines;
+    for (const AddinCommandId& command : commands) {
+        if (command.place == place) addLine(lines, lineOf(command.id, command.isPromoted));
     }
     return lines;
 }
@@ -65,8 +67,11 @@ std::string AddinUiTest::present() {
     for (const char* id : kPanels) {
         if (panel(id)) addLine(lines, id);
     }
-    for (const char* id : kCommands) {
-        if (definition(id)) addLine(lines, id);
+    for (const AddinCommandId& command : kMainCommands) {
+        if (definition(command.id)) addLine(lines, command.id);
+    }
+    for (const AddinCommandId& command : kHelpdeskCommands) {
+        if (definition(command.id)) addLine(lines, command.id);
     }
     return lines;
 }

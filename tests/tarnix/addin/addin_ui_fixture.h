@@ -1,9 +1,11 @@
 #pragma once
 
 #include "tests/support/addin_test.h"
+#include "tests/tarnix/addin/addin_commands.h"
 
 #include <Core/CoreAll.h>
 
+#include <span>
 #include <string>
 
 namespace test_support {
@@ -24,6 +26,10 @@ protected:
 
     /// The controls of a panel, a line for each, the promoted ones marked; "no panel" for none.
     [[nodiscard]] static std::string controls(const std::string& panelId);
+
+    /// The same for those of `commands` that belong in a panel of this kind.
+    [[nodiscard]] static std::string controlsOf(std::span<const AddinCommandId> commands,
+                                                Place place);
 
     /// Caption, tooltip and icon folder of a definition, a line for each; "none" for none.
     [[nodiscard]] static std::string texts(const std::string& id);

@@ -5,20 +5,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace test_support {
 namespace {
 
+/// How often the main commands look for a workspace: in each of two for its panels, and then for
+/// each control.
+constexpr std::size_t kLookedForByMainCommands = 2 * (1 + kMainControlCount);
+
 class Run : public AddinUiTest {};
 
 TEST_F(Run, PlacesTheToolsInBothWorkspacesInTheirOrder) {
-    const std::string tools = text(R"(
-        QEMA_EditPropertiesCmd promoted
-        QM_TX_BOM promoted
-        QM_TX_moveComponentToOrigin
-        QM_TX_projectedEntitiesAsConstruction
-        QM_TX_unitsConversion)");
+    const std::string tools = controlsOf(kMainCommands, Place::Tools);
 
     EXPECT_EQ(controls("QM_Tarnix_AlfaFusionSolidEnvironment"), tools);
     EXPECT_EQ(controls("QM_Tarnix_AlfaCAMEnvironment"), tools);
@@ -27,17 +27,11 @@ TEST_F(Run, PlacesTheToolsInBothWorkspacesInTheirOrder) {
 }
 
 TEST_F(Run, FillsTheHelpdeskPanelOfTheFirstWorkspaceOnce) {
-    EXPECT_EQ(controls("QM_HD_panelFusionSolidEnvironment"), text(R"(
-        QM_TX_configuration
-        QM_HD_openHelpdesk promoted
-        QM_HD_captureScreen
-        QM_HD_captureFusion
-        QM_HD_systemInfo
-        QM_HD_compressFolder
-        QM_HD_openFolder
-        QM_HD_clearFolder
-        QM_HD_openHelp promoted)"));
-    EXPECT_EQ(controls("QM_HD_panelCAMEnvironment"), "QM_TX_configuration");
+    const std::string main = controlsOf(kMainCommands, Place::Helpdesk);
+    const std::string helpdesk = controlsOf(kHelpdeskCommands, Place::Helpdesk);
+
+    EXPECT_EQ(controls("QM_HD_panelFusionSolidEnvironment"), main + "\n" + helpdesk);
+    EXPECT_EQ(controls("QM_HD_panelCAMEnvironment"), main);
 }
 
 TEST_F(Run, CaptionsThePanels) {
@@ -91,18 +85,17 @@ TEST_F(RefusedRun, NeedsThePanelsOfEachWorkspace) {
 }
 
 TEST_F(RefusedRun, NeedsTheHelpdeskCommands) {
-    // Eight main commands come first.
-    EXPECT_FALSE(runsWithout("CommandDefinitions::addButtonDefinition", 9));
+    EXPECT_FALSE(runsWithout("CommandDefinitions::addButtonDefinition", kMainCommandCount + 1));
 }
 
 TEST_F(RefusedRun, FillsTheHelpdeskPanelAtTheSecondCallWhereTheFirstFails) {
-    // The tools of two workspaces, each with six controls, look for their workspace first.
-    EXPECT_TRUE(runsWithout("Workspaces::itemById", 2 * (1 + 6) + 1));
-    EXPECT_EQ(panel("QM_HD_panelFusionSolidEnvironment")->controls()->count(), 9U);
+    EXPECT_TRUE(runsWithout("Workspaces::itemById", kLookedForByMainCommands + 1));
+    EXPECT_EQ(panel("QM_HD_panelFusionSolidEnvironment")->controls()->count(),
+              1 + std::size(kHelpdeskCommands));
 }
 
 TEST_F(RefusedRun, FailsWhereTheSecondCallForTheHelpdeskPanelFails) {
-    EXPECT_FALSE(runsWithout("Workspaces::itemById", 2 * (1 + 6) + 2));
+    EXPECT_FALSE(runsWithout("Workspaces::itemById", kLookedForByMainCommands + 2));
 }
 
 TEST_F(RefusedRun, NeedsTheEventOfEachHook) {
@@ -113,11 +106,11 @@ TEST_F(RefusedRun, NeedsTheEventOfEachHook) {
 }
 
 TEST_F(RefusedRun, NeedsOnlyTheHookOnActivatedWorkspaces) {
-    // After the handlers of eight main commands and of eight of the helpdesk.
-    EXPECT_TRUE(runsWithout("Event::add", 16 + 1));
-    EXPECT_FALSE(runsWithout("Event::add", 16 + 2));
-    EXPECT_TRUE(runsWithout("Event::add", 16 + 3));
-    EXPECT_TRUE(runsWithout("Event::add", 16 + 4));
+    // The handlers of the commands come first.
+    EXPECT_TRUE(runsWithout("Event::add", kCommandCount + 1));
+    EXPECT_FALSE(runsWithout("Event::add", kCommandCount + 2));
+    EXPECT_TRUE(runsWithout("Event::add", kCommandCount + 3));
+    EXPECT_TRUE(runsWithout("Event::add", kCommandCount + 4));
 }
 
 class RunWithoutManufacture : public UnstartedAddinTest {
@@ -158,7 +151,7 @@ TEST_F(RunWithoutManufacture, LeavesToStopWhatIsThere) {
     stop();
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 
-    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), kOpenLocalFile);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ TEST_F(Stop, LeavesOpenLocalFileAlone) {
     stop();
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in stop");
 
-    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), kOpenLocalFile);
 }
 
 TEST_F(Stop, ThrowsAtItsEndWhereTheHostHasNoRepeatControl) {
@@ -79,7 +79,7 @@ TEST_F(StopWithRepeatControl, Succeeds) {
     EXPECT_TRUE(stop());
 
     EXPECT_EQ(uncaughtExceptions(), "");
-    EXPECT_EQ(present(), "QEMA_OpenLocalCmd_QAT");
+    EXPECT_EQ(present(), kOpenLocalFile);
 }
 
 TEST_F(StopWithRepeatControl, LetsTheHostGo) {
@@ -102,7 +102,7 @@ TEST_F(StopWithRepeatControl, LetsRunSucceedAgain) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(StopWithRepeatControl, LetsRunPlaceItsEight) {
+TEST_F(StopWithRepeatControl, LetsRunPlaceTheHelpdeskAgain) {
     const std::string before = controls("QM_HD_panelFusionSolidEnvironment");
     ASSERT_TRUE(stop());
 
@@ -112,16 +112,15 @@ TEST_F(StopWithRepeatControl, LetsRunPlaceItsEight) {
 }
 
 TEST_F(StopWithRepeatControl, LeavesOpenLocalFileWithItsFirstRegistration) {
-    const adsk::core::Ptr<adsk::core::CommandDefinition> first =
-        definition("QEMA_OpenLocalCmd_QAT");
+    const adsk::core::Ptr<adsk::core::CommandDefinition> first = definition(kOpenLocalFile);
     ASSERT_TRUE(stop());
     host::gate::reset();
 
     ASSERT_TRUE(run());
 
-    EXPECT_TRUE(definition("QEMA_OpenLocalCmd_QAT") == first);
-    // Seven main commands and eight of the helpdesk: the new object got no definition to subscribe.
-    EXPECT_EQ(host::gate::count("CommandDefinition::commandCreated"), 15U);
+    EXPECT_TRUE(definition(kOpenLocalFile) == first);
+    // One less than there are: its new object got no definition to subscribe.
+    EXPECT_EQ(host::gate::count("CommandDefinition::commandCreated"), kCommandCount - 1);
 }
 
 class StopWithoutUserInterface : public RegistrationTest {};

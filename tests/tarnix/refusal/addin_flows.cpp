@@ -1,8 +1,10 @@
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
 #include "tests/support/settings.h"
+#include "tests/tarnix/addin/addin_commands.h"
 #include "tests/tarnix/refusal/known_exceptions.h"
 #include "tests/tarnix/refusal/refused_flow.h"
+#include "tests/tarnix/refusal/session_steps.h"
 #include "tests/tarnix/refusal/traces.h"
 
 #include <gtest/gtest.h>
@@ -32,10 +34,10 @@ const Texts kColumns = {"QEMA_Quantity;Qty", "QEMA_Mass;Mass", "QEMA_Length;Leng
                         "QEMA_Physical Material;Material", "QEMA_Colour;Colour"};
 
 /// What is left after `stop` in any case: nothing ever destroys that command.
-constexpr const char* kKnownTrace = "definition QEMA_OpenLocalCmd_QAT";
+const std::string kKnownTrace = std::string("definition ") + test_support::kOpenLocalFile;
 
 void expectSettingsWhole(const Session& session) {
-    EXPECT_EQ(test_support::readFile(session.addin().folder / "Tarnix_configuration.xml"),
+    EXPECT_EQ(test_support::readFile(settingsOf(session)),
               test_support::settingsDocument(kColumns));
 }
 
@@ -49,7 +51,7 @@ Texts traces() {
 /// Settings that were not made before are the default ones, or still missing.
 void checkFirstUse(Session& session, const std::string& call) {
     expectOnlyKnownThrown(session);
-    const auto file = session.addin().folder / "Tarnix_configuration.xml";
+    const auto file = settingsOf(session);
     const std::string settings = test_support::readFile(file);
     EXPECT_TRUE(settings.empty() ||
                 settings.find(test_support::kDefaultSettings) != std::string::npos)
@@ -59,10 +61,7 @@ void checkFirstUse(Session& session, const std::string& call) {
 void checkFlow(Session& session, const std::string& /*call*/) {
     expectOnlyKnownThrown(session);
     expectSettingsWhole(session);
-    if (session.dialogOpen()) {
-        session.cancel();
-    }
-    session.stop();
+    endSession(session);
     EXPECT_EQ(traces(), Texts());
 }
 
@@ -76,9 +75,9 @@ void checkRun(Session& session, const std::string& call) {
     EXPECT_EQ(traces(), left);
 }
 
-/// What there is in the host with both palettes open: seven commands, the helpdesk's eight, two
+/// What there is in the host with both palettes open: the commands but for the known one, two
 /// panels in each of two workspaces, and the palettes.
-constexpr std::size_t kEverything = 7 + 8 + 2 * 2 + 2;
+constexpr std::size_t kEverything = (test_support::kCommandCount - 1) + 2 * 2 + 2;
 
 /// The most that `stop` leaves in the host when one of its calls is refused: what that call itself
 /// would have removed, or led to. Without the host's list of palettes it returns false and has done
@@ -120,8 +119,7 @@ void checkOnlyStop(Session& session, const std::string& call) {
 }
 
 void load(Session& session) {
-    test_support::writeFile(session.addin().folder / "Tarnix_configuration.xml",
-                            test_support::settingsDocument(kColumns));
+    test_support::writeFile(settingsOf(session), test_support::settingsDocument(kColumns));
     session.openOutline(kDesign);
 }
 
@@ -149,33 +147,36 @@ void startWithoutSettings(Session& session) {
 }
 
 RefusalSweep run() {
-    return {load, [](Session& session) { session.run(); }, checkRun};
+    return {.prepare = load, .flow = [](Session& session) { session.run(); }, .check = checkRun};
 }
 
-RefusalSweep openingOfTheBom() { return {start, pressBom, checkFlow}; }
+RefusalSweep openingOfTheBom() { return {.prepare = start, .flow = pressBom, .check = checkFlow}; }
 
 RefusalSweep openingThatMakesTheSettings() {
-    return {startWithoutSettings, pressBom, checkFirstUse};
+    return {.prepare = startWithoutSettings, .flow = pressBom, .check = checkFirstUse};
 }
 
 RefusalSweep firstChangeToStructure() {
-    return {openBom, [](Session& session) { session.activateTab(test_support::kStructureTab); },
-            checkFlow};
+    return {.prepare = openBom,
+            .flow = [](Session& session) { session.activateTab(test_support::kStructureTab); },
+            .check = checkFlow};
 }
 
 RefusalSweep changeBackToTheModel() {
-    return {showStructure, [](Session& session) { session.activateTab(test_support::kModelTab); },
-            checkFlow};
+    return {.prepare = showStructure,
+            .flow = [](Session& session) { session.activateTab(test_support::kModelTab); },
+            .check = checkFlow};
 }
 
 RefusalSweep bomExport() {
-    return {showStructure, [](Session& session) { session.click(test_support::kExportButton); },
-            checkFlow};
+    return {.prepare = showStructure,
+            .flow = [](Session& session) { session.click(test_support::kExportButton); },
+            .check = checkFlow};
 }
 
 void stop(Session& session) { session.stop(); }
 
-RefusalSweep stopOfTheAddin() { return {start, stop, checkStop}; }
+RefusalSweep stopOfTheAddin() { return {.prepare = start, .flow = stop, .check = checkStop}; }
 
 RefusalSweep stopWithOpenPalettes() {
     RefusalSweep sweep;

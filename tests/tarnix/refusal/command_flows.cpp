@@ -104,7 +104,7 @@ constexpr char kOpenLocalFile[] = "QEMA_OpenLocalCmd_QAT";
 /// The sweep of a flow, begun where `prepare` leaves the session.
 template <void (*prepare)(Session&), void (*flow)(Session&)>
 RefusalSweep sweepOf() {
-    return {prepare, flow, checkFlow};
+    return {.prepare = prepare, .flow = flow, .check = checkFlow};
 }
 
 }  // namespace

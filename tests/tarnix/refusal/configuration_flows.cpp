@@ -2,6 +2,7 @@
 #include "tests/support/files.h"
 #include "tests/tarnix/refusal/known_exceptions.h"
 #include "tests/tarnix/refusal/refused_flow.h"
+#include "tests/tarnix/refusal/session_steps.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +16,6 @@ using host::Session;
 using test_support::RefusalSweep;
 
 constexpr const char* kStored = "<www>http://old.example/</www>";
-
-std::filesystem::path settingsOf(const Session& session) {
-    return session.addin().folder / "Tarnix_configuration.xml";
-}
 
 /// What the category of the provider holds, an empty element in its short form; the whole file
 /// where there is no such category.
@@ -40,10 +37,7 @@ std::string stored(const Session& session) {
 void checkFlow(Session& session, const std::string& /*call*/) {
     expectOnlyPlainThrown(session);
     EXPECT_EQ(stored(session), kStored);
-    if (session.dialogOpen()) {
-        session.cancel();
-    }
-    session.stop();
+    endSession(session);
 }
 
 /// The address as it was where something was thrown, else the new one, or what a box that returns
@@ -83,28 +77,33 @@ void openDialog(Session& session) {
 }
 
 RefusalSweep opening() {
-    return {load, [](Session& session) { session.press("QM_TX_configuration"); }, checkFlow};
+    return {.prepare = load,
+            .flow = [](Session& session) { session.press("QM_TX_configuration"); },
+            .check = checkFlow};
 }
 
 RefusalSweep switchedProvider() {
-    return {openDialog,
-            [](Session& session) {
-                session.choose("choiceProvider", "Set Ostrel Works as your support provider");
-                session.choose("choiceProvider", "Set other support provider");
-            },
-            checkFlow};
+    return {.prepare = openDialog,
+            .flow =
+                [](Session& session) {
+                    session.choose("choiceProvider", "Set Ostrel Works as your support provider");
+                    session.choose("choiceProvider", "Set other support provider");
+                },
+            .check = checkFlow};
 }
 
 RefusalSweep acceptance() {
-    return {[](Session& session) {
-                openDialog(session);
-                session.paste("helpdeskOther", "http://new.example/");
-            },
-            [](Session& session) {
-                storeSettings(session);
-                session.ok();
-            },
-            checkAccepted};
+    return {.prepare =
+                [](Session& session) {
+                    openDialog(session);
+                    session.paste("helpdeskOther", "http://new.example/");
+                },
+            .flow =
+                [](Session& session) {
+                    storeSettings(session);
+                    session.ok();
+                },
+            .check = checkAccepted};
 }
 
 }  // namespace

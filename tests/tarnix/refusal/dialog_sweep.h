@@ -13,6 +13,10 @@
 
 namespace refusal {
 
+using test_support::kModelTab;
+using test_support::kModelTable;
+using test_support::kStructureTab;
+using test_support::kStructureTable;
 using Texts = std::vector<std::string>;
 
 /// What the dialog's table, the design and the settings held before a flow of the open BOM dialog.

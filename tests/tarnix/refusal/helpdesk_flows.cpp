@@ -20,8 +20,9 @@ void checkQuiet(Session& session, const std::string& call) {
 
 template <const char* kCommand>
 RefusalSweep press() {
-    return {[](Session& session) { ASSERT_TRUE(session.run()); },
-            [](Session& session) { session.press(kCommand); }, checkQuiet};
+    return {.prepare = [](Session& session) { ASSERT_TRUE(session.run()); },
+            .flow = [](Session& session) { session.press(kCommand); },
+            .check = checkQuiet};
 }
 
 constexpr char kOpenHelpdesk[] = "QM_HD_openHelpdesk";

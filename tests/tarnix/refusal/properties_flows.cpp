@@ -2,6 +2,7 @@
 #include "tests/tarnix/properties/properties_fixture.h"
 #include "tests/tarnix/refusal/known_exceptions.h"
 #include "tests/tarnix/refusal/refused_flow.h"
+#include "tests/tarnix/refusal/session_steps.h"
 
 #include "host/session/input_actions.h"
 #include "host/session/user_actions.h"
@@ -28,10 +29,6 @@ using test_support::RefusalSweep;
 
 const std::vector<std::string> kOffered = {"QEMA_Colour;Colour", "QEMA_Size;Size"};
 
-std::filesystem::path settingsOf(const Session& session) {
-    return session.addin().folder / "Tarnix_configuration.xml";
-}
-
 /// The root element of the stored settings, to its last byte.
 std::string rootOf(const Session& session) {
     const std::string bytes = test_support::readFile(settingsOf(session));
@@ -49,10 +46,7 @@ std::string rootWith(const std::vector<std::string>& properties) {
 void checkFlow(Session& session, const std::string& /*call*/) {
     expectOnlyPlainThrown(session);
     EXPECT_EQ(rootOf(session), rootWith(kOffered));
-    if (session.dialogOpen()) {
-        session.cancel();
-    }
-    session.stop();
+    endSession(session);
 }
 
 /// After a saved list: as it was where something was thrown, else what the rows hold. A table that
@@ -117,57 +111,73 @@ void addNamedRow(Session& session) {
 }
 
 RefusalSweep opening() {
-    return {load, [](Session& session) { session.press("QEMA_EditPropertiesCmd"); }, checkFlow};
+    return {.prepare = load,
+            .flow = [](Session& session) { session.press("QEMA_EditPropertiesCmd"); },
+            .check = checkFlow};
 }
 
 RefusalSweep pickOfAnotherDocument() {
-    return {openDialog, [](Session& session) { session.pick("Motor:1"); }, checkFlow};
+    return {.prepare = openDialog,
+            .flow = [](Session& session) { session.pick("Motor:1"); },
+            .check = checkFlow};
 }
 
 RefusalSweep clearingOfThePick() {
-    return {openAndPick, [](Session& session) { session.pick("Bolt:1"); }, checkFlow};
+    return {.prepare = openAndPick,
+            .flow = [](Session& session) { session.pick("Bolt:1"); },
+            .check = checkFlow};
 }
 
 RefusalSweep structureButton() {
-    return {openAndPick, [](Session& session) { session.choose(kStructure, "Produce"); },
-            checkFlow};
+    return {.prepare = openAndPick,
+            .flow = [](Session& session) { session.choose(kStructure, "Produce"); },
+            .check = checkFlow};
 }
 
 RefusalSweep addedRow() {
-    return {showList, [](Session& session) { session.click(kAddRow); }, checkFlow};
+    return {.prepare = showList,
+            .flow = [](Session& session) { session.click(kAddRow); },
+            .check = checkFlow};
 }
 
 RefusalSweep deletedRow() {
-    return {[](Session& session) {
-                showList(session);
-                session.selectRow(kTable, 0);
-            },
-            [](Session& session) { session.click(kDeleteRow); }, checkFlow};
+    return {.prepare =
+                [](Session& session) {
+                    showList(session);
+                    session.selectRow(kTable, 0);
+                },
+            .flow = [](Session& session) { session.click(kDeleteRow); },
+            .check = checkFlow};
 }
 
 RefusalSweep deletedRowWithoutSelection() {
-    return {showList, [](Session& session) { session.click(kDeleteRow); }, checkFlow};
+    return {.prepare = showList,
+            .flow = [](Session& session) { session.click(kDeleteRow); },
+            .check = checkFlow};
 }
 
 RefusalSweep typedName() {
-    return {showList,
-            [](Session& session) {
-                host::typeText(session.table(kTable)->getInputAtPosition(0, 0), "a.");
-            },
-            checkFlow};
+    return {.prepare = showList,
+            .flow =
+                [](Session& session) {
+                    host::typeText(session.table(kTable)->getInputAtPosition(0, 0), "a.");
+                },
+            .check = checkFlow};
 }
 
 RefusalSweep savedList() {
-    return {addNamedRow,
-            [](Session& session) {
-                storeSettings(session);
-                session.click(kSave);
-            },
-            checkSaved};
+    return {.prepare = addNamedRow,
+            .flow =
+                [](Session& session) {
+                    storeSettings(session);
+                    session.click(kSave);
+                },
+            .check = checkSaved};
 }
 
 RefusalSweep acceptance() {
-    return {openAndPick, [](Session& session) { session.ok(); }, checkFlow};
+    return {
+        .prepare = openAndPick, .flow = [](Session& session) { session.ok(); }, .check = checkFlow};
 }
 
 }  // namespace

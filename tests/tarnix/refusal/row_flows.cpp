@@ -8,10 +8,6 @@ namespace refusal {
 namespace {
 
 using host::Session;
-using test_support::kModelTab;
-using test_support::kModelTable;
-using test_support::kStructureTab;
-using test_support::kStructureTable;
 using test_support::RefusalSweep;
 
 /// An assembly whose parts are handed up, one that is not, equal parts and differing ones.

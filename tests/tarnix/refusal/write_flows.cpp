@@ -13,10 +13,6 @@ namespace {
 
 using namespace adsk::core;
 using host::Session;
-using test_support::kModelTab;
-using test_support::kModelTable;
-using test_support::kStructureTab;
-using test_support::kStructureTable;
 using test_support::RefusalSweep;
 
 /// A row that merges two parts, a part with a property, and a part in two rows.
