@@ -71,11 +71,12 @@ TEST_F(BomEditing, AnUnknownPropertyListsTheKnownOnesAndChangesNothing) {
         run({"bom", design("Frame  property=Supplier/Acme"), "--column", "Weight", "--out", out()});
 
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: --column Weight: no such property; available: \"Quantity\", "
-              "\"Part Name\", \"Description\", \"Area\", \"Density\", \"Mass\", \"Volume\", "
-              "\"Physical Material\", \"Length\", \"Width\", \"Height\", \"Bounding Box\", "
-              "\"Supplier\"\n");
+    EXPECT_TRUE(result.errors.starts_with(
+        "tarnix-workbench: --column Weight: no such property; available: \"Quantity\", "
+        "\"Part Name\", "))
+        << result.errors;
+    EXPECT_TRUE(result.errors.ends_with(", \"Supplier\"\n")) << result.errors;
+    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(readFile(settingsFile()), old);
     EXPECT_FALSE(fs::exists(folder.path() / "out"));

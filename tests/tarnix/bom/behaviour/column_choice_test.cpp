@@ -23,6 +23,12 @@ private:
     std::string ids_;
 };
 
+const std::string kWithoutThePlate = text(R"(
+    1 | Part | Bolt
+    3 | Part | Rod
+    4 | Part | Nut
+    5 | Part | Cap)");
+
 class ColumnChoice : public BomDialogTest {
 protected:
     void SetUp() override {
@@ -118,11 +124,7 @@ TEST_F(ColumnChoice, OfReferenceHidesTheRowOfTheStructureTable) {
 
     session->choose("bomStructure_2", "Reference");
 
-    EXPECT_EQ(table(), text(R"(
-        1 | Part | Bolt
-        3 | Part | Rod
-        4 | Part | Nut
-        5 | Part | Cap)"));
+    EXPECT_EQ(table(), kWithoutThePlate);
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
@@ -141,11 +143,7 @@ TEST_F(ColumnChoice, OfAnotherStructureShowsNothingAgain) {
 
     session->choose("bomStructure_1", "Buy");
 
-    EXPECT_EQ(table(), text(R"(
-        1 | Part | Bolt
-        3 | Part | Rod
-        4 | Part | Nut
-        5 | Part | Cap)"));
+    EXPECT_EQ(table(), kWithoutThePlate);
 }
 
 TEST_F(ColumnChoice, OfReferenceHidesUntilTheDialogOpensAgain) {

@@ -1,5 +1,6 @@
 #include "tests/tarnix/bom/behaviour/reference_write_back.h"
 
+#include "tarnix/bom/model/columns.h"
 #include "tarnix/bom/model/walk.h"
 #include "tarnix/text/checked.h"
 #include "tarnix/text/ids.h"
@@ -9,7 +10,6 @@
 #include <cstddef>
 #include <exception>
 #include <map>
-#include <set>
 
 namespace reference {
 
@@ -59,14 +59,6 @@ const std::string& textOf(const Cell& cell) {
     return cell.text;
 }
 
-bool isBuiltIn(const std::string& name) {
-    static const std::set<std::string> names = {
-        "Quantity",          "Part Name", "Part Number", "Description", "Area",
-        "Density",           "Mass",      "Volume",      "Length",      "Width",
-        "Physical Material", "Height",    "Bounding Box"};
-    return names.count(name) != 0;
-}
-
 std::string nameIn(const std::string& id) {
     const std::size_t first = id.find('_');
     const std::size_t last = id.rfind('_');
@@ -77,7 +69,7 @@ std::string nameIn(const std::string& id) {
 void writeOther(const BomRow& row, const std::string& number, const Cell& cell) {
     for (std::size_t k = 0; k < row.properties.size(); ++k) {
         const std::string& key = row.properties[k].name;
-        if (!isBuiltIn(nameIn(cell.id))) {
+        if (!tarnix::isBuiltInName(nameIn(cell.id))) {
             if (cell.id == key + "_" + number) setAttribute(row.component, key, textOf(cell));
         } else if (k + 1 == row.properties.size()) {
             const std::string name = cell.id.substr(0, cell.id.rfind('_'));

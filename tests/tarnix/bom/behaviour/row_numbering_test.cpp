@@ -1,8 +1,8 @@
 #include "tarnix/bom/behaviour/row_numbering.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/thrown.h"
 
-#include <stdexcept>
+#include <gtest/gtest.h>
 
 namespace test_support {
 namespace {
@@ -25,31 +25,63 @@ RowNumbers afterNested(int count) {
     return numbers;
 }
 
+/// What is thrown for a row below the top.
+std::string thrownAfter(RowNumbers numbers, const RowNumbers::Place& place) {
+    return thrownBy([&] { numbers.nextNested(place); });
+}
+
 TEST(RowNumbers, CountsTheRowsAtTheTop) {
     RowNumbers numbers = afterTop(2);
 
     EXPECT_EQ(numbers.nextTop(), "3");
 }
 
-TEST(RowNumbers, BeginsAtOneBelowARowAtTheTop) {
-    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4", .previousDepth = 0, .nextDepth = 0}),
-              "3.1");
+struct Nested {
+    const char* name;
+    RowNumbers before;
+    RowNumbers::Place row;
+    const char* number;
+};
+
+class NumberOfANestedRow : public testing::TestWithParam<Nested> {};
+
+TEST_P(NumberOfANestedRow, Is) {
+    RowNumbers numbers = GetParam().before;
+
+    EXPECT_EQ(numbers.nextNested(GetParam().row), GetParam().number);
 }
 
-TEST(RowNumbers, CountsLevelsAndNotPlacesWhereTwoOpenAtOnce) {
-    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4.7", .previousDepth = 0, .nextDepth = 0}),
-              "3.2");
-}
-
-TEST(RowNumbers, CountsOnBesideARowOfTheSameDepth) {
-    EXPECT_EQ(afterNested(3).nextNested({.position = "5.4", .previousDepth = 1, .nextDepth = 0}),
-              "3.2");
-}
-
-TEST(RowNumbers, BeginsAtOneBesideARowOfTheSameDepthThatHadANumberOfTheTop) {
-    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4", .previousDepth = 1, .nextDepth = 0}),
-              "3.1");
-}
+INSTANTIATE_TEST_SUITE_P(
+    Each, NumberOfANestedRow,
+    testing::Values(Nested{.name = "BeginsAtOneBelowARowAtTheTop",
+                           .before = afterTop(3),
+                           .row = {.position = "5.4", .previousDepth = 0, .nextDepth = 0},
+                           .number = "3.1"},
+                    Nested{.name = "CountsLevelsAndNotPlacesWhereTwoOpenAtOnce",
+                           .before = afterTop(3),
+                           .row = {.position = "5.4.7", .previousDepth = 0, .nextDepth = 0},
+                           .number = "3.2"},
+                    Nested{.name = "CountsOnBesideARowOfTheSameDepth",
+                           .before = afterNested(3),
+                           .row = {.position = "5.4", .previousDepth = 1, .nextDepth = 0},
+                           .number = "3.2"},
+                    Nested{.name = "BeginsAtOneBesideARowOfTheSameDepthThatHadANumberOfTheTop",
+                           .before = afterTop(3),
+                           .row = {.position = "5.4", .previousDepth = 1, .nextDepth = 0},
+                           .number = "3.1"},
+                    Nested{.name = "BeginsAtOneAfterADeeperRowWithANumberOfOneDigit",
+                           .before = afterTop(3),
+                           .row = {.position = "5.4", .previousDepth = 2, .nextDepth = 2},
+                           .number = "3.1"},
+                    Nested{.name = "IsRepeatedAfterADeeperRowWhereTheNextOneIsAsDeep",
+                           .before = afterNested(3),
+                           .row = {.position = "5.4", .previousDepth = 2, .nextDepth = 1},
+                           .number = "3.1"},
+                    Nested{.name = "IsTheRowsOwnLessOneAfterADeeperRowWhereTheNextOneIsHigher",
+                           .before = afterNested(3),
+                           .row = {.position = "5.4", .previousDepth = 2, .nextDepth = 0},
+                           .number = "5.3"}),
+    [](const auto& test) { return test.param.name; });
 
 TEST(RowNumbers, CountsOnAfterADeeperRowWhereTheNextOneIsDeeper) {
     RowNumbers numbers = afterNested(3);
@@ -60,54 +92,19 @@ TEST(RowNumbers, CountsOnAfterADeeperRowWhereTheNextOneIsDeeper) {
 }
 
 TEST(RowNumbers, TakesTheDotFromTheRowsOwnPosition) {
-    RowNumbers numbers = afterNested(3);
-
     // The dot of 15.4 is at place 2, where the last number, 3.1, has its second digit.
-    EXPECT_THROW(
-        {
-            try {
-                numbers.nextNested({.position = "15.4", .previousDepth = 2, .nextDepth = 2});
-            } catch (const std::invalid_argument& error) {
-                EXPECT_STREQ(error.what(), "invalid stoi argument");
-                throw;
-            }
-        },
-        std::invalid_argument);
+    EXPECT_EQ(thrownAfter(afterNested(3), {.position = "15.4", .previousDepth = 2, .nextDepth = 2}),
+              "invalid_argument: invalid stoi argument");
 }
 
-TEST(RowNumbers, BeginsAtOneAfterADeeperRowWithANumberOfOneDigit) {
-    EXPECT_EQ(afterTop(3).nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 2}),
-              "3.1");
-}
-
-TEST(RowNumbers, CountsOnAfterADeeperRowWithALongerNumberOfTheTop) {
-    RowNumbers numbers = afterTop(12);
-
-    EXPECT_THROW(
-        {
-            try {
-                numbers.nextNested({.position = "12.4", .previousDepth = 2, .nextDepth = 2});
-            } catch (const std::out_of_range& error) {
-                EXPECT_STREQ(error.what(), "invalid string position");
-                throw;
-            }
-        },
-        std::out_of_range);
-}
-
-TEST(RowNumbers, RepeatsTheNumberAfterADeeperRowWhereTheNextOneIsAsDeep) {
-    EXPECT_EQ(afterNested(3).nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 1}),
-              "3.1");
-}
-
-TEST(RowNumbers, TakesOneOffTheRowsOwnNumberAfterADeeperRowWhereTheNextOneIsHigher) {
-    EXPECT_EQ(afterNested(3).nextNested({.position = "5.4", .previousDepth = 2, .nextDepth = 0}),
-              "5.3");
+TEST(RowNumbers, ThrowsAfterADeeperRowWithALongerNumberOfTheTop) {
+    EXPECT_EQ(thrownAfter(afterTop(12), {.position = "12.4", .previousDepth = 2, .nextDepth = 2}),
+              "out_of_range: invalid string position");
 }
 
 TEST(RowNumbers, ThrowsWhereThePositionHoldsNoNumber) {
-    EXPECT_THROW(afterNested(3).nextNested({.position = "5.x", .previousDepth = 2, .nextDepth = 0}),
-                 std::invalid_argument);
+    EXPECT_EQ(thrownAfter(afterNested(3), {.position = "5.x", .previousDepth = 2, .nextDepth = 0}),
+              "invalid_argument: invalid stoi argument");
 }
 
 }  // namespace

@@ -4,22 +4,34 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 /// Sorting by a column that holds kinds of input that have no text to sort by.
 namespace test_support {
 namespace {
 
 using namespace adsk::core;
-using tarnix::sortStructureTable;
+
+enum class Kind { Text, TextBox, Image };
+
+struct Cell {
+    Kind kind;
+    const char* content;
+};
 
 class SyntheticSorting : public SyntheticTable {
 protected:
-    /// Adds a row whose last cell, in the column that is sorted by, is `cell`.
-    void addRow(const Ptr<CommandInputs>& inputs, int column, const Ptr<CommandInput>& cell) {
-        const int row = rows->rowCount();
-        for (int place = 0; place < column; ++place) {
-            rows->addCommandInput(inputs->addStringValueInput("other_1", ""), row, place);
-        }
-        rows->addCommandInput(cell, row, column);
+    /// Shows rows whose last cells are these, "cell_1" and so on, and sorts them by that column.
+    void sortDescending(int column, const std::vector<Cell>& cells) {
+        Ptr<CommandInput> header;
+        show("synthetic", column, [&](const Ptr<CommandInputs>& inputs) {
+            header = inputs->addBoolValueInput("cell_0", "", false);
+            for (const Cell& cell : cells) {
+                addRow(inputs, column, cell);
+            }
+        });
+        tarnix::sortStructureTable(rows, header, "Descending");
     }
 
     /// The ids of a column's cells from the first row to the last, with spaces between.
@@ -30,51 +42,58 @@ protected:
         }
         return all;
     }
+
+private:
+    void addRow(const Ptr<CommandInputs>& inputs, int column, const Cell& cell) {
+        const int row = rows->rowCount();
+        for (int place = 0; place < column; ++place) {
+            rows->addCommandInput(inputs->addStringValueInput("other_1", ""), row, place);
+        }
+        rows->addCommandInput(add(inputs, "cell_" + std::to_string(row + 1), cell), row, column);
+    }
+
+    static Ptr<CommandInput> add(const Ptr<CommandInputs>& inputs, const std::string& id,
+                                 const Cell& cell) {
+        switch (cell.kind) {
+            case Kind::Text:
+                return inputs->addStringValueInput(id, "", cell.content);
+            case Kind::TextBox:
+                return inputs->addTextBoxCommandInput(id, "", cell.content, 1, true);
+            case Kind::Image:
+                return inputs->addImageCommandInput(id, "", cell.content);
+        }
+        return nullptr;
+    }
 };
 
 TEST_F(SyntheticSorting, ByATextLeavesARowWithATextBoxWhereItIs) {
     constexpr int kTextColumn = 3;
-    Ptr<CommandInput> header;
-    show("synthetic", kTextColumn, [&](const Ptr<CommandInputs>& inputs) {
-        header = inputs->addBoolValueInput("part_0", "", false);
-        addRow(inputs, kTextColumn, inputs->addStringValueInput("part_1", "", "c"));
-        addRow(inputs, kTextColumn, inputs->addTextBoxCommandInput("part_2", "", "a", 1, true));
-        addRow(inputs, kTextColumn, inputs->addStringValueInput("part_3", "", "b"));
-    });
 
-    sortStructureTable(rows, header, "Descending");
+    sortDescending(kTextColumn, {{.kind = Kind::Text, .content = "c"},
+                                 {.kind = Kind::TextBox, .content = "a"},
+                                 {.kind = Kind::Text, .content = "b"}});
 
     // The sorted rows went after the one that was dropped from the sort.
-    EXPECT_EQ(ids(kTextColumn), "part_2 part_1 part_3");
+    EXPECT_EQ(ids(kTextColumn), "cell_2 cell_1 cell_3");
 }
 
 TEST_F(SyntheticSorting, ByANumberLeavesARowWithAnImageWhereItIs) {
     constexpr int kNumberColumn = 5;
-    Ptr<CommandInput> header;
-    show("synthetic", kNumberColumn, [&](const Ptr<CommandInputs>& inputs) {
-        header = inputs->addBoolValueInput("size_0", "", false);
-        addRow(inputs, kNumberColumn, inputs->addStringValueInput("size_1", "", "9"));
-        addRow(inputs, kNumberColumn, inputs->addStringValueInput("size_2", "", "10"));
-        addRow(inputs, kNumberColumn, inputs->addImageCommandInput("size_3", "", "10.png"));
-    });
 
-    sortStructureTable(rows, header, "Descending");
+    sortDescending(kNumberColumn, {{.kind = Kind::Text, .content = "9"},
+                                   {.kind = Kind::Text, .content = "10"},
+                                   {.kind = Kind::Image, .content = "10.png"}});
 
-    EXPECT_EQ(ids(kNumberColumn), "size_3 size_2 size_1");
+    EXPECT_EQ(ids(kNumberColumn), "cell_3 cell_2 cell_1");
 }
 
 TEST_F(SyntheticSorting, ByAColumnOfImagesAloneMovesNothing) {
     constexpr int kTextColumn = 4;
-    Ptr<CommandInput> header;
-    show("synthetic", kTextColumn, [&](const Ptr<CommandInputs>& inputs) {
-        header = inputs->addBoolValueInput("part_0", "", false);
-        addRow(inputs, kTextColumn, inputs->addImageCommandInput("part_1", "", "a.png"));
-        addRow(inputs, kTextColumn, inputs->addImageCommandInput("part_2", "", "b.png"));
-    });
 
-    sortStructureTable(rows, header, "Descending");
+    sortDescending(kTextColumn, {{.kind = Kind::Image, .content = "a.png"},
+                                 {.kind = Kind::Image, .content = "b.png"}});
 
-    EXPECT_EQ(ids(kTextColumn), "part_1 part_2");
+    EXPECT_EQ(ids(kTextColumn), "cell_1 cell_2");
 }
 
 }  // namespace

@@ -1,12 +1,12 @@
 #include "tarnix/bom/model/columns.h"
 #include "tarnix/bom/model/walk.h"
 
+#include "tests/support/thrown.h"
 #include "tests/tarnix/bom/model/open_design.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,13 +23,6 @@ TEST(Column, WithoutSemicolonIsItsOwnKeyAndLabel) {
     const Column column = columnOf("QEMA_Mass");
     EXPECT_EQ(column.key, "QEMA_Mass");
     EXPECT_EQ(column.label, "QEMA_Mass");
-}
-
-TEST(Label, HasItsUnitAfterFourWords) {
-    EXPECT_EQ(labelWithUnit("Mass"), "Mass [kg]");
-    EXPECT_EQ(labelWithUnit("Area"), "Area [cm\xC2\xB2]");
-    EXPECT_EQ(labelWithUnit("Density"), "Density [kg/m\xC2\xB3]");
-    EXPECT_EQ(labelWithUnit("Volume"), "Volume [cm\xC2\xB3]");
 }
 
 TEST(Label, IsComparedAsAWholeAndByCase) {
@@ -82,29 +75,41 @@ protected:
     BomRow row_ = walkOccurrences(model_, design_.occurrences(), 1).at(0);
 };
 
-TEST_F(CellTextTest, NamesAndDescribesTheComponent) {
-    EXPECT_EQ(cell("QEMA_Part Name"), "Block");
-    EXPECT_EQ(cell("QEMA_Description"), "big");
-    EXPECT_EQ(cell("QEMA_Physical Material"), "Al");
+/// A built-in column, and its text for the block.
+struct BuiltIn {
+    std::string name;
+    std::string caption;
+    std::string text;
+};
+
+class BuiltInColumn : public CellTextTest, public testing::WithParamInterface<BuiltIn> {};
+
+TEST_P(BuiltInColumn, HasItsCaptionAndItsText) {
+    EXPECT_TRUE(isBuiltInName(GetParam().name));
+    EXPECT_EQ(labelWithUnit(GetParam().name), GetParam().caption);
+    EXPECT_EQ(cell("QEMA_" + GetParam().name), GetParam().text);
 }
+
+// The lengths are in millimetres along the axes.
+INSTANTIATE_TEST_SUITE_P(
+    Each, BuiltInColumn,
+    testing::Values(
+        BuiltIn{.name = "Quantity", .caption = "Quantity", .text = "1"},
+        BuiltIn{.name = "Part Name", .caption = "Part Name", .text = "Block"},
+        BuiltIn{.name = "Description", .caption = "Description", .text = "big"},
+        BuiltIn{.name = "Area", .caption = "Area [cm\xC2\xB2]", .text = "135.72"},
+        BuiltIn{.name = "Density", .caption = "Density [kg/m\xC2\xB3]", .text = "2700.00"},
+        BuiltIn{.name = "Mass", .caption = "Mass [kg]", .text = "0.157"},
+        BuiltIn{.name = "Volume", .caption = "Volume [cm\xC2\xB3]", .text = "58.320"},
+        BuiltIn{.name = "Physical Material", .caption = "Physical Material", .text = "Al"},
+        BuiltIn{.name = "Length", .caption = "Length", .text = "120.0"},
+        BuiltIn{.name = "Width", .caption = "Width", .text = "40.5"},
+        BuiltIn{.name = "Height", .caption = "Height", .text = "12.0"},
+        BuiltIn{.name = "Bounding Box", .caption = "Bounding Box", .text = "120.0 x 40.5 x 12.0"}));
 
 TEST_F(CellTextTest, CountsTheItem) {
     row_.quantity = 12;
     EXPECT_EQ(cell("QEMA_Quantity"), "12");
-}
-
-TEST_F(CellTextTest, MeasuresTheComponent) {
-    EXPECT_EQ(cell("QEMA_Area"), "135.72");
-    EXPECT_EQ(cell("QEMA_Volume"), "58.320");
-    EXPECT_EQ(cell("QEMA_Mass"), "0.157");
-    EXPECT_EQ(cell("QEMA_Density"), "2700.00");
-}
-
-TEST_F(CellTextTest, ShowsTheBoxInMillimetresAlongTheAxes) {
-    EXPECT_EQ(cell("QEMA_Length"), "120.0");
-    EXPECT_EQ(cell("QEMA_Width"), "40.5");
-    EXPECT_EQ(cell("QEMA_Height"), "12.0");
-    EXPECT_EQ(cell("QEMA_Bounding Box"), "120.0 x 40.5 x 12.0");
 }
 
 TEST_F(CellTextTest, FindsWhateverElseTheKeyNamesInTheProperties) {
@@ -126,12 +131,8 @@ TEST_F(CellTextTest, DistinguishesColumnsByWhatFollowsFiveCharacters) {
 }
 
 TEST_F(CellTextTest, ThrowsForAKeyThatIsShorterThanThePrefix) {
-    try {
-        cell("Mass");
-        FAIL() << "nothing was thrown";
-    } catch (const std::out_of_range& thrown) {
-        EXPECT_STREQ(thrown.what(), "invalid string position");
-    }
+    EXPECT_EQ(test_support::thrownBy([this] { cell("Mass"); }),
+              "out_of_range: invalid string position");
 }
 
 TEST_F(CellTextTest, ReadsTheDescriptionAgain) {
