@@ -26,6 +26,9 @@ constexpr const char* kDesign = R"(
     Drive  at=0,0,1
       Bolt  at=2,0,0)";
 
+/// Where the parts and the assembly are as long as nothing moves them.
+constexpr const char* kUnmoved = "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n";
+
 class MoveToOrigin : public test_support::AddinTest {
 protected:
     void SetUp() override {
@@ -167,7 +170,7 @@ TEST_F(MoveToOrigin, WithNoDesignAsTheActiveProductNothingIsMovedAndNoMessageIsS
 
     session->ok();
 
-    EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
+    EXPECT_EQ(places(), kUnmoved);
     EXPECT_TRUE(session->messages().empty());
     EXPECT_EQ(uncaughtExceptions(), "");
 }
@@ -200,7 +203,7 @@ TEST_P(MoveToOriginWithout, ThrowsAndMovesNothing) {
     session->ok();
 
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-    EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
+    EXPECT_EQ(places(), kUnmoved);
 }
 
 INSTANTIATE_TEST_SUITE_P(EachCall, MoveToOriginWithout,
@@ -214,7 +217,7 @@ TEST_F(MoveToOrigin, ThrowsWhereTheHostReturnsNoOccurrenceToGround) {
     session->ok();
 
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-    EXPECT_EQ(places(), "Housing 1 2 3\nShaft 4 5 6\nCover 7 8 9\nDrive 0 0 1\n");
+    EXPECT_EQ(places(), kUnmoved);
 }
 
 }  // namespace

@@ -29,20 +29,13 @@ TEST_F(OnLineModels, OpensAPaletteDockedAtTheLeft) {
 TEST_F(OnLineModels, ShowsThePageOfTheMakersSite) {
     session->press(kCommand);
 
-    const std::string address = palette(kPalette)->htmlFileURL();
-    const std::string path = "/download/CAM/f360/fusion_pruvodce.htm";
-    EXPECT_EQ(address.substr(0, 7), "http://");
-    EXPECT_EQ(address.substr(address.size() - path.size()), path);
+    expectPage(kPalette, "/download/CAM/f360/fusion_pruvodce.htm");
 }
 
 TEST_F(OnLineModels, PaletteCanBeClosedAndResizedAndUsesTheOldBrowser) {
     session->press(kCommand);
 
-    ASSERT_TRUE(palette(kPalette));
-    const host::ui::PaletteState state = stateOf(kPalette);
-    EXPECT_TRUE(state.closeButton);
-    EXPECT_TRUE(state.resizable);
-    EXPECT_FALSE(state.newWebBrowser);
+    expectClosableResizableAndOld(kPalette);
 }
 
 TEST_F(OnLineModels, SecondExecutionCreatesNoSecondPaletteAndMakesTheFirstOneVisibleAgain) {

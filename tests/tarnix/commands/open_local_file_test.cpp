@@ -171,14 +171,38 @@ TEST_F(OpenLocalFile, EmptyNameIsReported) {
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
-TEST_F(OpenLocalFile, ThrowsWhereTheHostHasNoImportManager) {
-    host::gate::refuse("Application::importManager", 1);
+/// A call of the host that returns nothing, and a file that needs it.
+struct MissingCall {
+    const char* name;
+    const char* call;
+    const char* file;
+};
 
-    pick({design("part.f3d"), design("other.f3d")});
+class OpenLocalFileWithout : public OpenLocalFile,
+                             public testing::WithParamInterface<MissingCall> {};
+
+TEST_P(OpenLocalFileWithout, ThrowsBeforeTheNextFile) {
+    host::gate::refuse(GetParam().call, 1);
+
+    pick({design(GetParam().file), design("other.f3d")});
 
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uploaded(), Texts());
     EXPECT_EQ(opened(), Texts());
+    EXPECT_EQ(messages(), Texts());
 }
+
+INSTANTIATE_TEST_SUITE_P(Each, OpenLocalFileWithout,
+                         testing::Values(MissingCall{.name = "AnImportManager",
+                                                     .call = "Application::importManager",
+                                                     .file = "part.f3d"},
+                                         MissingCall{.name = "AProgressDialog",
+                                                     .call = "UserInterface::createProgressDialog",
+                                                     .file = "model.ipt"},
+                                         MissingCall{.name = "AnUploadToWaitFor",
+                                                     .call = "DataFolder::uploadFile",
+                                                     .file = "model.ipt"}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsSkipped) {
     faults.expectMisuse("ImportManager::importToNewDocument", "needs options that name a file");
@@ -191,26 +215,6 @@ TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsSkipped) {
     EXPECT_EQ(opened(), Texts{"other"});
     EXPECT_EQ(messages(), Texts());
     EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(OpenLocalFile, ThrowsWhereTheHostMakesNoProgressDialog) {
-    host::gate::refuse("UserInterface::createProgressDialog", 1);
-
-    pick({design("model.ipt"), design("part.f3d")});
-
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-    EXPECT_EQ(uploaded(), Texts());
-    EXPECT_EQ(opened(), Texts());
-}
-
-TEST_F(OpenLocalFile, ThrowsWhereTheHostReturnsNothingToWaitFor) {
-    host::gate::refuse("DataFolder::uploadFile", 1);
-
-    pick({design("model.ipt"), design("part.f3d")});
-
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
-    EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(messages(), Texts());
 }
 
 TEST_F(OpenLocalFile, WithoutTheUserInterfaceTheEarlierListRunsAgain) {

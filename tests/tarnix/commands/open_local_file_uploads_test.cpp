@@ -157,28 +157,42 @@ TEST_F(OpenLocalFileUploads, UploadThatEndsAtTheLimitIsOpened) {
     EXPECT_EQ(opened(), Texts{"model"});
 }
 
-TEST_F(OpenLocalFileUploads, ConversionThatReturnsNothingIsTriedOnceASecond) {
-    storage().conversionsReturningNothing = 5;
+struct Conversions {
+    const char* name;
+    int host::StoragePace::*failing;
+    int failures;
+    std::size_t tries;
+    int seconds;
+};
+
+class OpenLocalFileConversions : public OpenLocalFileUploads,
+                                 public testing::WithParamInterface<Conversions> {};
+
+TEST_P(OpenLocalFileConversions, AreTriedUntilOneSucceeds) {
+    storage().*GetParam().failing = GetParam().failures;
     host::gate::reset();
 
     pick({design("model.ipt")});
 
-    EXPECT_EQ(host::gate::count("Documents::open"), 6U);
-    EXPECT_EQ(host::clock::now(), 6);
-    EXPECT_EQ(opened(), Texts{"model"});
-}
-
-TEST_F(OpenLocalFileUploads, ConversionThatThrowsIsTriedAgainAtOnce) {
-    storage().conversionsThrowing = 3;
-    host::gate::reset();
-
-    pick({design("model.ipt")});
-
-    EXPECT_EQ(host::gate::count("Documents::open"), 4U);
-    EXPECT_EQ(host::clock::now(), 1);
+    EXPECT_EQ(host::gate::count("Documents::open"), GetParam().tries);
+    EXPECT_EQ(host::clock::now(), GetParam().seconds);
     EXPECT_EQ(opened(), Texts{"model"});
     EXPECT_EQ(uncaughtExceptions(), "");
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    That, OpenLocalFileConversions,
+    testing::Values(Conversions{.name = "ReturnNothingOnceASecond",
+                                .failing = &host::StoragePace::conversionsReturningNothing,
+                                .failures = 5,
+                                .tries = 6,
+                                .seconds = 6},
+                    Conversions{.name = "ThrowAtOnce",
+                                .failing = &host::StoragePace::conversionsThrowing,
+                                .failures = 3,
+                                .tries = 4,
+                                .seconds = 1}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(OpenLocalFileUploads, FileThatCanNeverBeConvertedIsWaitedForUntilTheUserCancels) {
     host::clock::schedule(5000, host::cancelProgress);

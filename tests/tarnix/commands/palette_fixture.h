@@ -34,6 +34,23 @@ protected:
         return host::ApplicationObject::current()->ui().state().palettes->find(id)->state();
     }
 
+    /// Expects that the user can close and resize a palette, and that it shows its page in the old
+    /// browser.
+    static void expectClosableResizableAndOld(const std::string& id) {
+        ASSERT_TRUE(palette(id));
+        const host::ui::PaletteState state = stateOf(id);
+        EXPECT_TRUE(state.closeButton);
+        EXPECT_TRUE(state.resizable);
+        EXPECT_FALSE(state.newWebBrowser);
+    }
+
+    /// Expects that a palette shows a page by http, of that path on whatever site.
+    static void expectPage(const std::string& id, const std::string& path) {
+        const std::string address = palette(id)->htmlFileURL();
+        EXPECT_TRUE(address.starts_with("http://")) << address;
+        EXPECT_TRUE(address.ends_with(path)) << address;
+    }
+
     /// Left, top, width and height.
     static std::vector<int> placeOf(const adsk::core::Ptr<adsk::core::Palette>& palette) {
         return {palette->left(), palette->top(), palette->width(), palette->height()};

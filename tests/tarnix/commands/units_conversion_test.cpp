@@ -42,11 +42,7 @@ TEST_F(UnitsConversion, OpensAFloatingPaletteInTheLowerRightCornerOfTheHostsWind
 TEST_F(UnitsConversion, PaletteCanBeClosedAndResizedAndUsesTheOldBrowser) {
     session->press(kCommand);
 
-    ASSERT_TRUE(palette(kPalette));
-    const host::ui::PaletteState state = stateOf(kPalette);
-    EXPECT_TRUE(state.closeButton);
-    EXPECT_TRUE(state.resizable);
-    EXPECT_FALSE(state.newWebBrowser);
+    expectClosableResizableAndOld(kPalette);
 }
 
 TEST_F(UnitsConversion, SetToFloatOnceWhenItIsMade) {
@@ -62,10 +58,7 @@ TEST_F(UnitsConversion, SetToFloatOnceWhenItIsMade) {
 TEST_F(UnitsConversion, ShowsThePageOfTheConverter) {
     session->press(kCommand);
 
-    const std::string address = palette(kPalette)->htmlFileURL();
-    const std::string file = "/units-cmd.asp?app=Inventor";
-    EXPECT_EQ(address.substr(0, 7), "http://");
-    EXPECT_EQ(address.substr(address.size() - file.size()), file);
+    expectPage(kPalette, "/units-cmd.asp?app=Inventor");
 }
 
 TEST_F(UnitsConversion, AnotherWindowWithTheTextInItsTitleThatComesFirstTakesTheHostsPlace) {

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace tarnix {
 namespace {
@@ -34,6 +35,16 @@ protected:
     }
 };
 
+struct Presses {
+    const char* name;
+    const char* onAtFirst;
+    std::vector<std::string> pressed;
+    const char* onAtLast;
+};
+
+class StructureButtonsPressed : public StructureButtons,
+                                public testing::WithParamInterface<Presses> {};
+
 class StructureButtonsWithIcons : public StructureButtons {
 protected:
     [[nodiscard]] host::SessionOptions options() const override {
@@ -53,20 +64,35 @@ TEST_F(StructureButtonsWithIcons, NameFoldersThatTheAddinBrings) {
     }
 }
 
-TEST_F(StructureButtons, PressingTheOneThatIsOnLeavesNoneOn) {
-    open("Bolt  structure=Buy");
-    openAndPick("Bolt:1");
-    press("Buy");
-    EXPECT_EQ(buttonsOn(), "");
+TEST_P(StructureButtonsPressed, LeaveTheseOn) {
+    pickOneWith(GetParam().onAtFirst);
+    ASSERT_EQ(buttonsOn(), GetParam().onAtFirst);
+    for (const std::string& caption : GetParam().pressed) {
+        press(caption);
+    }
+    EXPECT_EQ(buttonsOn(), GetParam().onAtLast);
 }
 
-TEST_F(StructureButtons, TheNextPressAfterThatMakesAnyTheOnlyOneOn) {
-    open("Bolt  structure=Buy");
-    openAndPick("Bolt:1");
-    press("Buy");
-    press("Reference");
-    EXPECT_EQ(buttonsOn(), "Reference");
-}
+INSTANTIATE_TEST_SUITE_P(Presses, StructureButtonsPressed,
+                         testing::Values(Presses{.name = "TheOneThatIsOnLeavesNoneOn",
+                                                 .onAtFirst = "Buy",
+                                                 .pressed = {"Buy"},
+                                                 .onAtLast = ""},
+                                         Presses{.name = "TheNextAfterThatMakesAnyTheOnlyOneOn",
+                                                 .onAtFirst = "Buy",
+                                                 .pressed = {"Buy", "Reference"},
+                                                 .onAtLast = "Reference"},
+                                         Presses{.name = "ASecondSwitchesALoadedOneOff",
+                                                 .onAtFirst = "AsPart",
+                                                 .pressed = {"Produce"},
+                                                 .onAtLast = "Produce"},
+                                         // The stored one is the last that was on.
+                                         Presses{
+                                             .name = "OfTwoThatAreBothNotTheStoredOneBothStayOn",
+                                             .onAtFirst = "Produce Buy Reference",
+                                             .pressed = {"Reference"},
+                                             .onAtLast = "Produce Buy"}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_F(StructureButtons, PressingASecondSwitchesTheFirstOff) {
     openProperties();
@@ -75,20 +101,6 @@ TEST_F(StructureButtons, PressingASecondSwitchesTheFirstOff) {
     EXPECT_EQ(buttonsOn(), "Divided");
     press("Produce");
     EXPECT_EQ(buttonsOn(), "Produce");
-}
-
-TEST_F(StructureButtons, PressingASecondSwitchesALoadedOneOff) {
-    open("Bolt  structure=AsPart");
-    openAndPick("Bolt:1");
-    press("Produce");
-    EXPECT_EQ(buttonsOn(), "Produce");
-}
-
-TEST_F(StructureButtons, OfTwoThatAreBothNotTheStoredOneBothStayOn) {
-    pickOneWith("Produce Buy Reference");
-    EXPECT_EQ(buttonsOn(), "Produce Buy Reference");
-    press("Reference");  // the stored one, being the last that was on
-    EXPECT_EQ(buttonsOn(), "Produce Buy");
 }
 
 TEST_F(StructureButtons, OfTwoThatBothStayOnTheLaterIsStored) {
@@ -111,8 +123,7 @@ TEST_F(StructureButtons, StoresNothingWhenAComponentWithoutStructureIsLoaded) {
 }
 
 TEST_F(StructureButtons, KeepTheStoredOneInMindWhenItIsSwitchedOff) {
-    open("Bolt  structure=Buy");
-    openAndPick("Bolt:1");
+    pickOneWith("Buy");
     press("Buy");
     ASSERT_EQ(buttonsOn(), "");
     switchOnProduceAndBuyAtOnce();

@@ -91,61 +91,71 @@ private:
     }
 };
 
-/// An assembly of this project.
-class PropertiesOfASample : public PropertiesOfAFile {
+enum class From { ThisProject, AnotherSystem };
+
+/// An assembly, and the part of it that each of the two dialogs edits.
+struct Assembly {
+    const char* name;
+    From from;
+    const char* file;
+    const char* tab;  ///< of the BOM, which shows the first part
+    const char* first;
+    const char* firstNumber;
+    const char* second;
+    const char* secondNumber;
+    const char* secondName;
+};
+
+class PropertiesOf : public PropertiesOfAFile, public testing::WithParamInterface<Assembly> {
 protected:
     void SetUp() override {
         PropertiesOfAFile::SetUp();
-        session->open(std::filesystem::path(SAMPLES_FOLDER) / "camera-slider.step");
+        const bool isReal = GetParam().from == From::AnotherSystem;
+        if (isReal) test_support::needRealFiles();
+        if (IsSkipped()) return;
+        session->open((isReal ? test_support::realFiles() : SAMPLES_FOLDER) / GetParam().file);
     }
 };
 
-/// An assembly that another system wrote, where there is one.
-class PropertiesOfARealFile : public PropertiesOfAFile {
-protected:
-    void SetUp() override {
-        PropertiesOfAFile::SetUp();
-        test_support::needRealFiles();
-        if (!IsSkipped()) {
-            session->open(test_support::realFiles() / "as1-oc-214.stp");
-        }
-    }
-};
+TEST_P(PropertiesOf, EditedInTheDialogAreSeenByTheBom) {
+    editInDialog(GetParam().first, GetParam().firstNumber);
+    openBom();
+    session->activateTab(GetParam().tab);
+
+    EXPECT_EQ(bomRow("X-1"), "X-1 | Buy | Edited | in the dialog | red");
+    EXPECT_EQ(uncaughtExceptions(), "");
+}
+
+TEST_P(PropertiesOf, EditedInTheBomAreSeenByTheDialog) {
+    acceptInDialog(GetParam().second);
+    editInBom(GetParam().secondNumber);
+    openAndPick(GetParam().second);
+
+    EXPECT_EQ(values(),
+              std::string("Divided | Y-2 | ") + GetParam().secondName + " | in the BOM | green");
+    EXPECT_EQ(uncaughtExceptions(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, PropertiesOf,
+                         testing::Values(Assembly{.name = "ASample",
+                                                  .from = From::ThisProject,
+                                                  .file = "camera-slider.step",
+                                                  .tab = test_support::kStructureTab,
+                                                  .first = "Rail 600:1",
+                                                  .firstNumber = "CS-101",
+                                                  .second = "Rail 600:1",
+                                                  .secondNumber = "CS-101",
+                                                  .secondName = "Rail 600"},
+                                         Assembly{.name = "ARealFile",
+                                                  .from = From::AnotherSystem,
+                                                  .file = "as1-oc-214.stp",
+                                                  .tab = test_support::kModelTab,
+                                                  .first = "rod-assembly:1+rod:1",
+                                                  .firstNumber = "rod",
+                                                  .second = "plate:1",
+                                                  .secondNumber = "plate",
+                                                  .secondName = "plate"}),
+                         [](const auto& test) { return test.param.name; });
 
 }  // namespace
-
-TEST_F(PropertiesOfASample, EditedInTheDialogAreSeenByTheBom) {
-    editInDialog("Rail 600:1", "CS-101");
-    showStructure();
-
-    EXPECT_EQ(bomRow("X-1"), "X-1 | Buy | Edited | in the dialog | red");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesOfASample, EditedInTheBomAreSeenByTheDialog) {
-    acceptInDialog("Rail 600:1");
-    editInBom("CS-101");
-    openAndPick("Rail 600:1");
-
-    EXPECT_EQ(values(), "Divided | Y-2 | Rail 600 | in the BOM | green");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesOfARealFile, EditedInTheDialogAreSeenByTheBom) {
-    editInDialog("rod-assembly:1+rod:1", "rod");
-    showModel();
-
-    EXPECT_EQ(bomRow("X-1"), "X-1 | Buy | Edited | in the dialog | red");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
-TEST_F(PropertiesOfARealFile, EditedInTheBomAreSeenByTheDialog) {
-    acceptInDialog("plate:1");
-    editInBom("plate");
-    openAndPick("plate:1");
-
-    EXPECT_EQ(values(), "Divided | Y-2 | plate | in the BOM | green");
-    EXPECT_EQ(uncaughtExceptions(), "");
-}
-
 }  // namespace tarnix

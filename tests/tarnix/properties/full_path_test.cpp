@@ -45,7 +45,16 @@ protected:
         ASSERT_EQ(shown(), "RefDoc: Alfa // Engine");
     }
 
-    /// Picks the motor afresh with one host call refused.
+    /// Picks a bolt of a stored design with one host call refused.
+    void pickBoltWithout(const std::string& call) {
+        store("Alfa/Gearbox", "Bolt");
+        openStored("Alfa/Gearbox");
+        openProperties();
+        host::gate::refuse(call, 1);
+        session->pick("Bolt:1");
+    }
+
+    /// Picks the motor again with one host call refused.
     void pickMotorWithout(const std::string& call) {
         showReferenced();
         session->pick("Bolt:1");
@@ -204,20 +213,12 @@ TEST_F(FullPath, InTheDocumentationWorkspaceIsAlwaysTheActiveDocument) {
 }
 
 TEST_F(FullPath, ThrowsWhenTheProjectOfTheFileIsMissing) {
-    store("Alfa/Gearbox", "Bolt");
-    openStored("Alfa/Gearbox");
-    openProperties();
-    host::gate::refuse("DataFile::parentProject", 1);
-    session->pick("Bolt:1");
+    pickBoltWithout("DataFile::parentProject");
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnInputChanged of QEMA_selectComponent");
 }
 
 TEST_F(FullPath, IsEmptyWhenTheActiveDocumentIsMissing) {
-    store("Alfa/Gearbox", "Bolt");
-    openStored("Alfa/Gearbox");
-    openProperties();
-    host::gate::refuse("Application::activeDocument", 1);
-    session->pick("Bolt:1");
+    pickBoltWithout("Application::activeDocument");
     EXPECT_EQ(box(kFullPath), "");
     EXPECT_EQ(uncaughtExceptions(), "");
 }
@@ -229,11 +230,7 @@ TEST_F(FullPath, OfASelectionWithoutAnEntityIsThisDocument) {
 }
 
 TEST_F(FullPath, OfAFileWithoutAFolderIsASeparator) {
-    store("Alfa/Gearbox", "Bolt");
-    openStored("Alfa/Gearbox");
-    openProperties();
-    host::gate::refuse("DataFile::parentFolder", 1);
-    session->pick("Bolt:1");
+    pickBoltWithout("DataFile::parentFolder");
     EXPECT_EQ(shown(), "ThisDoc: Alfa //  // Gearbox");
 }
 

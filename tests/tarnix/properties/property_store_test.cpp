@@ -33,6 +33,14 @@ protected:
     [[nodiscard]] Entries read() const { return readComponentProperties(component).entries; }
     void write(const Entries& entries) const { writeComponentProperties({entries, component}); }
 
+    /// The same with one host call refused.
+    void writeWithout(const std::string& call, const Entries& entries) const {
+        host::gate::reset();
+        host::gate::refuse(call, 1);
+        const host::gate::Module module;
+        write(entries);
+    }
+
     Ptr<Component> component;
 
 private:
@@ -82,7 +90,7 @@ TEST_F(PropertyStoreTest, AModelKeyInAnotherCaseIsAnOrdinaryAttribute) {
     open("Bolt");
     write({{"QEMA_part number", "B-2"}});
     EXPECT_EQ(component->partNumber(), "Bolt");
-    EXPECT_EQ(read().at(3), (PropertyEntry{"QEMA_part number", "B-2"}));
+    EXPECT_EQ(read().at(3), (PropertyEntry{.name = "QEMA_part number", .value = "B-2"}));
 }
 
 TEST_F(PropertyStoreTest, TheRootComponentHasASetLikeAnyOther) {
@@ -121,7 +129,7 @@ TEST_F(PropertyStoreTest, WritingACustomPropertyTwiceUpdatesIt) {
     write({{"QEMA_Colour", "red"}});
     write({{"QEMA_Colour", "blue"}});
     EXPECT_EQ(read().size(), 4U);
-    EXPECT_EQ(read().at(3), (PropertyEntry{"QEMA_Colour", "blue"}));
+    EXPECT_EQ(read().at(3), (PropertyEntry{.name = "QEMA_Colour", .value = "blue"}));
 }
 
 TEST_F(PropertyStoreTest, WritingLeavesWhatHasNoEntry) {
@@ -135,15 +143,10 @@ TEST_F(PropertyStoreTest, WritingLeavesWhatHasNoEntry) {
 
 TEST_F(PropertyStoreTest, WritingGoesOnAfterARefusedSetter) {
     open("Bolt  number=B-1");
-    host::gate::reset();
-    host::gate::refuse("Component::description", 1);
-    {
-        const host::gate::Module module;
-        write({{"QEMA_Description", "long"}, {"QEMA_Colour", "red"}});
-    }
+    writeWithout("Component::description", {{"QEMA_Description", "long"}, {"QEMA_Colour", "red"}});
     EXPECT_EQ(host::gate::refusedCall(), "Component::description");
     EXPECT_EQ(component->description(), "");
-    EXPECT_EQ(read().at(3), (PropertyEntry{"QEMA_Colour", "red"}));
+    EXPECT_EQ(read().at(3), (PropertyEntry{.name = "QEMA_Colour", .value = "red"}));
 }
 
 TEST_F(PropertyStoreTest, AComponentWithoutAttributeCollectionReadsAsEmpty) {
@@ -156,12 +159,7 @@ TEST_F(PropertyStoreTest, AComponentWithoutAttributeCollectionReadsAsEmpty) {
 
 TEST_F(PropertyStoreTest, AComponentWithoutAttributeCollectionTakesNothing) {
     open("Bolt  number=B-1");
-    host::gate::reset();
-    host::gate::refuse("Component::attributes", 1);
-    {
-        const host::gate::Module module;
-        write({{"QEMA_Part Number", "B-2"}, {"QEMA_Colour", "red"}});
-    }
+    writeWithout("Component::attributes", {{"QEMA_Part Number", "B-2"}, {"QEMA_Colour", "red"}});
     EXPECT_EQ(component->partNumber(), "B-1");
     EXPECT_EQ(read().size(), 3U);
 }

@@ -1,23 +1,18 @@
 #include "tarnix/text/checked.h"
 
+#include "tests/support/thrown.h"
+
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 namespace tarnix {
 namespace {
 
-template <class Action>
-std::string outOfRange(Action action) {
-    try {
-        action();
-    } catch (const std::out_of_range& error) {
-        return error.what();
-    }
-    return "nothing thrown";
-}
+using test_support::thrownBy;
+
+constexpr const char* kInvalidSubscript = "out_of_range: invalid vector subscript";
+constexpr const char* kInvalidPosition = "out_of_range: invalid string position";
 
 TEST(At, ReturnsTheElement) {
     std::vector<int> numbers = {1, 2};
@@ -28,10 +23,9 @@ TEST(At, ReturnsTheElement) {
 TEST(At, ThrowsBeyondTheEnd) {
     std::vector<int> numbers = {1, 2};
     const std::vector<int> none;
-    EXPECT_EQ(outOfRange([&] { at(numbers, 2); }), "invalid vector subscript");
-    EXPECT_EQ(outOfRange([&] { at(none, 0); }), "invalid vector subscript");
-    EXPECT_EQ(outOfRange([&] { at(numbers, static_cast<std::size_t>(-1)); }),
-              "invalid vector subscript");
+    EXPECT_EQ(thrownBy([&] { at(numbers, 2); }), kInvalidSubscript);
+    EXPECT_EQ(thrownBy([&] { at(none, 0); }), kInvalidSubscript);
+    EXPECT_EQ(thrownBy([&] { at(numbers, static_cast<std::size_t>(-1)); }), kInvalidSubscript);
 }
 
 TEST(SubstringFrom, ReturnsTheRest) {
@@ -40,7 +34,7 @@ TEST(SubstringFrom, ReturnsTheRest) {
 }
 
 TEST(SubstringFrom, ThrowsForAStringThatIsTooShort) {
-    EXPECT_EQ(outOfRange([] { substringFrom("QEMA", 5); }), "invalid string position");
+    EXPECT_EQ(thrownBy([] { substringFrom("QEMA", 5); }), kInvalidPosition);
 }
 
 TEST(ReplaceFirst, LeavesTheOthers) {
@@ -48,8 +42,7 @@ TEST(ReplaceFirst, LeavesTheOthers) {
 }
 
 TEST(ReplaceFirst, ThrowsWithNothingToReplace) {
-    EXPECT_EQ(outOfRange([] { replaceFirst("Tarnix.so", ".dll", ".xml"); }),
-              "invalid string position");
+    EXPECT_EQ(thrownBy([] { replaceFirst("Tarnix.so", ".dll", ".xml"); }), kInvalidPosition);
 }
 
 }  // namespace

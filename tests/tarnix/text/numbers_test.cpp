@@ -1,29 +1,18 @@
 #include "tarnix/text/numbers.h"
 
 #include "tests/support/comma_locale.h"
+#include "tests/support/thrown.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-#include <stdexcept>
 #include <string>
 
 namespace tarnix {
 namespace {
 
-/// What is thrown: its class and its message.
-template <class Action>
-std::string thrownBy(Action action) {
-    try {
-        action();
-    } catch (const std::invalid_argument& error) {
-        return std::string("invalid_argument: ") + error.what();
-    } catch (const std::out_of_range& error) {
-        return std::string("out_of_range: ") + error.what();
-    }
-    return "nothing";
-}
+using test_support::thrownBy;
 
 std::string thrownByInt(const std::string& text) {
     return thrownBy([&text] { parseInt(text); });
@@ -56,20 +45,19 @@ TEST(ParseInt, LeavesAloneWhatFollowsTheDigits) {
     EXPECT_EQ(parseInt("3.9"), 3);
 }
 
-TEST(ParseInt, ThrowsWhereNoDigitIsFound) {
-    EXPECT_EQ(thrownByInt(""), kInvalidInt);
-    EXPECT_EQ(thrownByInt("  "), kInvalidInt);
-    EXPECT_EQ(thrownByInt("btnExportXls"), kInvalidInt);
-    EXPECT_EQ(thrownByInt("+"), kInvalidInt);
-    EXPECT_EQ(thrownByInt("+-5"), kInvalidInt);
-    EXPECT_EQ(thrownByInt("- 5"), kInvalidInt);
-}
+class TextWithoutAnInt : public testing::TestWithParam<const char*> {};
 
-TEST(ParseInt, ThrowsBeyondTheRange) {
-    EXPECT_EQ(thrownByInt("2147483648"), kIntOutOfRange);
-    EXPECT_EQ(thrownByInt("-2147483649"), kIntOutOfRange);
-    EXPECT_EQ(thrownByInt("99999999999999999999"), kIntOutOfRange);
-}
+TEST_P(TextWithoutAnInt, Throws) { EXPECT_EQ(thrownByInt(GetParam()), kInvalidInt); }
+
+INSTANTIATE_TEST_SUITE_P(Each, TextWithoutAnInt,
+                         testing::Values("", "  ", "btnExportXls", "+", "+-5", "- 5"));
+
+class IntBeyondTheRange : public testing::TestWithParam<const char*> {};
+
+TEST_P(IntBeyondTheRange, Throws) { EXPECT_EQ(thrownByInt(GetParam()), kIntOutOfRange); }
+
+INSTANTIATE_TEST_SUITE_P(Each, IntBeyondTheRange,
+                         testing::Values("2147483648", "-2147483649", "99999999999999999999"));
 
 TEST(ParseDouble, ReadsDecimalNumbers) {
     EXPECT_EQ(parseDouble("12.5"), 12.5);
@@ -114,22 +102,21 @@ TEST(ParseDouble, ReadsInfinityAndNotANumber) {
     EXPECT_TRUE(std::isnan(parseDouble("nan(1")));
 }
 
-TEST(ParseDouble, ThrowsWhereNoNumberIsFound) {
-    EXPECT_EQ(thrownByDouble(""), kInvalidDouble);
-    EXPECT_EQ(thrownByDouble("M8"), kInvalidDouble);
-    EXPECT_EQ(thrownByDouble("."), kInvalidDouble);
-    EXPECT_EQ(thrownByDouble("--1"), kInvalidDouble);
-    EXPECT_EQ(thrownByDouble("+-1"), kInvalidDouble);
-    EXPECT_EQ(thrownByDouble("-+1"), kInvalidDouble);
-    EXPECT_EQ(thrownByDouble("in"), kInvalidDouble);
-}
+class TextWithoutADouble : public testing::TestWithParam<const char*> {};
 
-TEST(ParseDouble, ThrowsBeyondTheRange) {
-    EXPECT_EQ(thrownByDouble("1e309"), kDoubleOutOfRange);
-    EXPECT_EQ(thrownByDouble("-1e309"), kDoubleOutOfRange);
-    EXPECT_EQ(thrownByDouble("0x1p1024"), kDoubleOutOfRange);
-    EXPECT_EQ(thrownByDouble("1e-400"), kDoubleOutOfRange);
-    EXPECT_EQ(thrownByDouble("1e-310"), kDoubleOutOfRange);
+TEST_P(TextWithoutADouble, Throws) { EXPECT_EQ(thrownByDouble(GetParam()), kInvalidDouble); }
+
+INSTANTIATE_TEST_SUITE_P(Each, TextWithoutADouble,
+                         testing::Values("", "M8", ".", "--1", "+-1", "-+1", "in"));
+
+class DoubleBeyondTheRange : public testing::TestWithParam<const char*> {};
+
+TEST_P(DoubleBeyondTheRange, Throws) { EXPECT_EQ(thrownByDouble(GetParam()), kDoubleOutOfRange); }
+
+INSTANTIATE_TEST_SUITE_P(Each, DoubleBeyondTheRange,
+                         testing::Values("1e309", "-1e309", "0x1p1024", "1e-400", "1e-310"));
+
+TEST(ParseDouble, ReadsTheWholeRange) {
     EXPECT_EQ(parseDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());
     EXPECT_EQ(parseDouble("2.2250738585072014e-308"), std::numeric_limits<double>::min());
 }

@@ -11,13 +11,22 @@ using test_support::readFile;
 using test_support::writeFile;
 using workbench::WrittenFiles;
 
-TEST(WrittenFiles, AFailureGivesAFileItsOldContent) {
+namespace {
+
+void writeWatched(WrittenFiles& written, const std::filesystem::path& file,
+                  const std::string& content) {
+    written.watch(file);
+    writeFile(file, content);
+}
+
+}  // namespace
+
+TEST(WrittenFiles, AFailureRestoresTheOldContentOfAFile) {
     const test_support::TemporaryFolder folder;
     writeFile(folder.path() / "a", "old\r\n");
     {
         WrittenFiles written;
-        written.watch(folder.path() / "a");
-        writeFile(folder.path() / "a", "new");
+        writeWatched(written, folder.path() / "a", "new");
     }
 
     EXPECT_EQ(readFile(folder.path() / "a"), "old\r\n");
@@ -27,8 +36,7 @@ TEST(WrittenFiles, AFailureRemovesANewFile) {
     const test_support::TemporaryFolder folder;
     {
         WrittenFiles written;
-        written.watch(folder.path() / "a");
-        writeFile(folder.path() / "a", "new");
+        writeWatched(written, folder.path() / "a", "new");
     }
 
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "a"));
@@ -39,8 +47,7 @@ TEST(WrittenFiles, WhatIsKeptStaysAsItWasWritten) {
     writeFile(folder.path() / "a", "old");
     {
         WrittenFiles written;
-        written.watch(folder.path() / "a");
-        writeFile(folder.path() / "a", "new");
+        writeWatched(written, folder.path() / "a", "new");
         written.keep();
     }
 
