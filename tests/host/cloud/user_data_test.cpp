@@ -66,6 +66,9 @@ protected:
         return all;
     }
 
+    /// The operations that were misused so far, in one line. The test names them by asking.
+    [[nodiscard]] std::string misused() { return test_support::operationsOf(faults.misuses()); }
+
     test_support::TemporaryFolder folder;
     std::unique_ptr<UserData> data;
     Ptr<Document> document;
@@ -100,6 +103,7 @@ TEST_F(UserDataTest, FollowsAddedAndDeletedFiles) {
     EXPECT_FALSE(gone->isValid());
     EXPECT_EQ(gone->name(), "");
     EXPECT_EQ(gone->parentFolder(), nullptr);
+    EXPECT_EQ(misused(), "DataFile::name DataFile::parentFolder");
 }
 
 TEST_F(UserDataTest, AFileKnowsItsFolderAndProject) {
@@ -198,6 +202,7 @@ TEST_F(UserDataTest, AClosedDocumentIsNotAssociatedLater) {
     static_cast<void>(root()->dataFiles());
     EXPECT_FALSE(engine->isValid());
     EXPECT_EQ(engine->dataFile(), nullptr);
+    EXPECT_EQ(misused(), "Document::dataFile");
 }
 
 TEST_F(UserDataTest, ItsObjectsAreInvalidAfterItsEnd) {
@@ -214,6 +219,9 @@ TEST_F(UserDataTest, ItsObjectsAreInvalidAfterItsEnd) {
     EXPECT_EQ(folders->item(0)->name(), "");
     EXPECT_EQ(file->parentProject(), nullptr);
     EXPECT_EQ(folders->item(1), nullptr);
+    EXPECT_EQ(misused(),
+              "Data::activeProject DataProject::rootFolder DataFolder::name "
+              "DataFile::parentProject");
 }
 
 TEST_F(UserDataTest, ChangesItsActiveProject) {

@@ -85,16 +85,35 @@ TEST_F(ProjectedEntities, CurveThatIsConstructionAlreadyIsSetAgain) {
     EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kDrawn}));
 }
 
-TEST_F(ProjectedEntities, ThrowsWhereTheHostReturnsNoCurves) {
+/// A call of the host that returns nothing, and what is thrown for it.
+struct MissingCall {
+    const char* name;
+    const char* call;
+    const char* thrown;
+};
+
+class ProjectedEntitiesWithout : public ProjectedEntities,
+                                 public testing::WithParamInterface<MissingCall> {};
+
+TEST_P(ProjectedEntitiesWithout, LeaveTheCurvesAlone) {
     openSketch({kProjected});
     edit();
-    host::gate::refuse("Sketch::sketchCurves", 1);
+    host::gate::refuse(GetParam().call, 1);
 
     session->press(kCommand);
 
-    EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
+    EXPECT_EQ(uncaughtExceptions(), GetParam().thrown);
     EXPECT_EQ(curves(), Curves{kProjected});
 }
+
+INSTANTIATE_TEST_SUITE_P(Each, ProjectedEntitiesWithout,
+                         testing::Values(MissingCall{.name = "TheCurves",
+                                                     .call = "Sketch::sketchCurves",
+                                                     .thrown = "std::exception:  in OnExecute"},
+                                         MissingCall{.name = "ACommand",
+                                                     .call = "CommandCreatedEventArgs::command",
+                                                     .thrown = ""}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_F(ProjectedEntities, ThrowsAtACurveThatTheHostDoesNotReturn) {
     openSketch({kProjected, kProjected, kProjected});
@@ -105,17 +124,6 @@ TEST_F(ProjectedEntities, ThrowsAtACurveThatTheHostDoesNotReturn) {
 
     EXPECT_EQ(uncaughtExceptions(), "std::exception:  in OnExecute");
     EXPECT_EQ(curves(), (Curves{kProjectedToHelp, kProjected, kProjected}));
-}
-
-TEST_F(ProjectedEntities, WithoutACommandNothingIsAttached) {
-    openSketch({kProjected});
-    edit();
-    host::gate::refuse("CommandCreatedEventArgs::command", 1);
-
-    session->press(kCommand);
-
-    EXPECT_EQ(uncaughtExceptions(), "");
-    EXPECT_EQ(curves(), Curves{kProjected});
 }
 
 }  // namespace

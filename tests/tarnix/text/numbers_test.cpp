@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <tuple>
 
 namespace tarnix {
 namespace {
@@ -45,19 +46,38 @@ TEST(ParseInt, LeavesAloneWhatFollowsTheDigits) {
     EXPECT_EQ(parseInt("3.9"), 3);
 }
 
-class TextWithoutAnInt : public testing::TestWithParam<const char*> {};
+/// How a text is read, the text, and what is thrown for it.
+using Unreadable = std::tuple<std::string (*)(const std::string&), const char*, const char*>;
 
-TEST_P(TextWithoutAnInt, Throws) { EXPECT_EQ(thrownByInt(GetParam()), kInvalidInt); }
+class UnreadableNumber : public testing::TestWithParam<Unreadable> {};
 
-INSTANTIATE_TEST_SUITE_P(Each, TextWithoutAnInt,
-                         testing::Values("", "  ", "btnExportXls", "+", "+-5", "- 5"));
+TEST_P(UnreadableNumber, Throws) {
+    const auto& [thrownFor, text, thrown] = GetParam();
+    EXPECT_EQ(thrownFor(text), thrown);
+}
 
-class IntBeyondTheRange : public testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(WithoutAnInt, UnreadableNumber,
+                         testing::Combine(testing::Values(thrownByInt),
+                                          testing::Values("", "  ", "btnExportXls", "+", "+-5",
+                                                          "- 5"),
+                                          testing::Values(kInvalidInt)));
 
-TEST_P(IntBeyondTheRange, Throws) { EXPECT_EQ(thrownByInt(GetParam()), kIntOutOfRange); }
+INSTANTIATE_TEST_SUITE_P(BeyondTheRangeOfInt, UnreadableNumber,
+                         testing::Combine(testing::Values(thrownByInt),
+                                          testing::Values("2147483648", "-2147483649",
+                                                          "99999999999999999999"),
+                                          testing::Values(kIntOutOfRange)));
 
-INSTANTIATE_TEST_SUITE_P(Each, IntBeyondTheRange,
-                         testing::Values("2147483648", "-2147483649", "99999999999999999999"));
+INSTANTIATE_TEST_SUITE_P(WithoutADouble, UnreadableNumber,
+                         testing::Combine(testing::Values(thrownByDouble),
+                                          testing::Values("", "M8", ".", "--1", "+-1", "-+1", "in"),
+                                          testing::Values(kInvalidDouble)));
+
+INSTANTIATE_TEST_SUITE_P(BeyondTheRangeOfDouble, UnreadableNumber,
+                         testing::Combine(testing::Values(thrownByDouble),
+                                          testing::Values("1e309", "-1e309", "0x1p1024", "1e-400",
+                                                          "1e-310"),
+                                          testing::Values(kDoubleOutOfRange)));
 
 TEST(ParseDouble, ReadsDecimalNumbers) {
     EXPECT_EQ(parseDouble("12.5"), 12.5);
@@ -101,20 +121,6 @@ TEST(ParseDouble, ReadsInfinityAndNotANumber) {
     EXPECT_TRUE(std::isnan(parseDouble("NaN")));
     EXPECT_TRUE(std::isnan(parseDouble("nan(1")));
 }
-
-class TextWithoutADouble : public testing::TestWithParam<const char*> {};
-
-TEST_P(TextWithoutADouble, Throws) { EXPECT_EQ(thrownByDouble(GetParam()), kInvalidDouble); }
-
-INSTANTIATE_TEST_SUITE_P(Each, TextWithoutADouble,
-                         testing::Values("", "M8", ".", "--1", "+-1", "-+1", "in"));
-
-class DoubleBeyondTheRange : public testing::TestWithParam<const char*> {};
-
-TEST_P(DoubleBeyondTheRange, Throws) { EXPECT_EQ(thrownByDouble(GetParam()), kDoubleOutOfRange); }
-
-INSTANTIATE_TEST_SUITE_P(Each, DoubleBeyondTheRange,
-                         testing::Values("1e309", "-1e309", "0x1p1024", "1e-400", "1e-310"));
 
 TEST(ParseDouble, ReadsTheWholeRange) {
     EXPECT_EQ(parseDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());

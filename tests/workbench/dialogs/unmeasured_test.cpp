@@ -21,6 +21,13 @@ read request
 
 using Measuring = test_support::WorkbenchWithReader;
 
+/// The line with which a file is refused, given what went wrong and which components it concerns.
+std::string unmeasured(const std::string& file, const std::string& reason,
+                       const std::string& components) {
+    return "tarnix-workbench: " + file + ": a shape cannot be measured: " + reason + "; " +
+           components + " would have no mass\n";
+}
+
 }  // namespace
 
 TEST_F(Measuring, ACrashIsNoMassOfZero) {
@@ -30,10 +37,8 @@ TEST_F(Measuring, ACrashIsNoMassOfZero) {
     const ProgramResult result = run({"bom", file, "--out", out()});
 
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: " + file +
-                  ": a shape cannot be measured: the reader crashed (Segmentation fault); "
-                  "\"Bolt\" and 1 other component would have no mass\n");
+    EXPECT_EQ(result.errors, unmeasured(file, "the reader crashed (Segmentation fault)",
+                                        "\"Bolt\" and 1 other component"));
     EXPECT_EQ(result.output, "");
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
     EXPECT_FALSE(fs::exists(addinCopy() / "TarnixBOM.csv"));
@@ -46,10 +51,8 @@ TEST_F(Measuring, AShapeThatTakesTooLongIsNoMassOfZero) {
     const ProgramResult result = run({"bom", file, "--max-seconds", "1"});
 
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: " + file +
-                  ": a shape cannot be measured: the reader took longer than 1 seconds; "
-                  "\"Bolt\" and 1 other component would have no mass\n");
+    EXPECT_EQ(result.errors, unmeasured(file, "the reader took longer than 1 seconds",
+                                        "\"Bolt\" and 1 other component"));
     EXPECT_EQ(result.output, "");
 }
 
@@ -62,10 +65,7 @@ TEST_F(Measuring, OneShapeThatCannotBeMeasuredNamesItsComponent) {
     const ProgramResult result = run({"bom", file});
 
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: " + file +
-                  ": a shape cannot be measured: the shell is open; \"Bolt\" would have no "
-                  "mass\n");
+    EXPECT_EQ(result.errors, unmeasured(file, "the shell is open", "\"Bolt\""));
 }
 
 TEST_F(Measuring, ShapesThatCanBeMeasuredMakeTheTotal) {
