@@ -7,10 +7,6 @@ get_target_property(delivered_files tarnix_module DELIVERED_FILES)
 install(FILES ${PROJECT_BINARY_DIR}/Tarnix/Tarnix.manifest ${delivered_files}
         DESTINATION Tarnix COMPONENT addin)
 install(DIRECTORY ${addin_source}/Resources DESTINATION Tarnix COMPONENT addin)
-# The guides that "Open Help" opens, in the host's two languages.
-install(FILES ${addin_source}/package/guides/Tarnix_UsersGuide.pdf
-              ${addin_source}/package/guides/Tarnix_UzivatelskaPrirucka.pdf
-        DESTINATION Tarnix COMPONENT addin OPTIONAL)
 
 if(TARNIX_FUSION_SDK)
     set(package_host fusion)

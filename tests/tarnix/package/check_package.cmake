@@ -43,6 +43,18 @@ foreach(icon Resources/BOM/Combine.png Resources/Properties/32x32@2x.png Resourc
     endif()
 endforeach()
 
+# The host shows who made the add-in, and offers to edit those that do not say no.
+file(READ "${place}/Tarnix/Tarnix.manifest" manifest)
+foreach(field "autodeskProduct=Fusion360" "type=addin" "author=The Tarnix authors" "editEnabled=OFF" "runOnStartup=ON"
+              "supportedOS=windows")
+    string(REGEX MATCH "^([^=]+)=(.*)$" _ "${field}")
+    set(expected_value "${CMAKE_MATCH_2}")
+    string(JSON value ERROR_VARIABLE fault GET "${manifest}" ${CMAKE_MATCH_1})
+    if(NOT value STREQUAL expected_value)
+        message(FATAL_ERROR "manifest: ${field} expected, got '${value}' ${fault}")
+    endif()
+endforeach()
+
 file(WRITE "${place}/design.design.json" [[
 {"format": "standin-host-design", "version": 1, "name": "Packed", "unit": "mm", "components": [
  {"name": "Packed", "partNumber": "Packed",
@@ -67,6 +79,16 @@ list(LENGTH WORKBENCH words)
 if(words GREATER 1) # an emulator and the program
     message("the package loads from '${NAME}'")
     return()
+endif()
+# "Open Help" opens a file that is there.
+execute_process(COMMAND ${WORKBENCH} helpdesk guide --addin Tarnix WORKING_DIRECTORY "${place}"
+                COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE said ERROR_VARIABLE said)
+if(NOT said MATCHES "asked to open (.*Tarnix_UsersGuide\\.pdf)")
+    message(FATAL_ERROR "helpdesk guide opens no guide: ${said}")
+endif()
+string(REPLACE "\\" "/" guide "${CMAKE_MATCH_1}")
+if(NOT EXISTS "${guide}")
+    message(FATAL_ERROR "the guide that Open Help opens is not there: ${guide}")
 endif()
 file(GLOB_RECURSE kept RELATIVE "${place}/data" "${place}/data/*")
 foreach(file Tarnix.dll Tarnix_configuration.xml TarnixBOM.csv)
