@@ -170,6 +170,12 @@ const quantities = [
 const byId = id => document.getElementById(id);
 const minus = /[\u2212\u2013]/g;
 
+function addElement(parent, kind, text) {
+  const element = document.createElement(kind);
+  element.textContent = text;
+  parent.append(element);
+}
+
 /// The number that a text writes with a decimal comma or point, or null. Spaces group digits, and so does
 /// the one of comma and point that is not the last of the two.
 function parse(text) {
@@ -266,15 +272,16 @@ function update() {
         format(convert(value, unit('from'), unit('to')), decimal) + ' ' + unit('to').symbol;
   }
   const chosen = unit('from') === unit('to') ? [unit('from')] : [unit('from'), unit('to')];
-  byId('definitions').replaceChildren(...chosen.map(each => {
-    const item = document.createElement('li');
-    item.textContent = each.symbol + ': ' + each.meaning + ' (' + sources[each.source][0] + ')';
-    return item;
-  }));
+  byId('definitions').textContent = '';
+  for (const each of chosen) {
+    const text = each.symbol + ': ' + each.meaning + ' (' + sources[each.source][0] + ')';
+    addElement(byId('definitions'), 'li', text);
+  }
 }
 
 function fill(list, entries, selected) {
-  list.replaceChildren(...entries.map(entry => new Option(entry)));
+  list.textContent = '';
+  list.append(...entries.map(entry => new Option(entry)));
   list.selectedIndex = Math.max(0, selected);
 }
 
@@ -294,12 +301,10 @@ function swap() {
 const [lastName, lastFrom, lastTo] = remembered();
 fill(byId('quantity'), quantities.map(each => each.name), quantities.findIndex(each => each.name === lastName));
 choose(lastFrom, lastTo);
-byId('sources').append(...Object.values(sources).flatMap(([name, text]) => {
-  const term = document.createElement('dt'), description = document.createElement('dd');
-  term.textContent = name;
-  description.textContent = text;
-  return [term, description];
-}));
+for (const [name, text] of Object.values(sources)) {
+  addElement(byId('sources'), 'dt', name);
+  addElement(byId('sources'), 'dd', text);
+}
 byId('quantity').addEventListener('change', () => choose());
 byId('swap').addEventListener('click', swap);
 for (const id of ['quantity', 'from', 'to', 'swap']) {

@@ -1,13 +1,13 @@
-// Draws the pictures of the guides from what the workbench printed (see record), and takes the two of the web
-// pages with a real browser.
+// Draws the pictures of the guides from what the workbench printed (see record), and takes those of the web pages
+// with a real browser.
 //
-//   node pictures.js RECORDED FOLDER
+//   node pictures.js RECORDED FOLDER             all
+//   node pictures.js RECORDED FOLDER drawings    without the browser
 'use strict';
 const fs = require('fs');
 const path = require('path');
-const {chromium} = require('playwright-core');
 
-const [recorded, folder] = process.argv.slice(2);
+const [recorded, folder, part] = process.argv.slice(2);
 const root = path.join(__dirname, '../../..');
 const read = name => fs.readFileSync(path.join(recorded, name), 'utf8').replace(/\r/g, '');
 const readJson = name => JSON.parse(read(name));
@@ -233,6 +233,7 @@ function drawText(name, file) {
 }
 
 async function takePages() {
+  const {chromium} = require('playwright-core');
   const browser = await chromium.launch({executablePath: '/usr/bin/chromium', args: process.getuid() === 0 ? ['--no-sandbox'] : []});
   for (const [name, file, width, height] of [['units', 'units/units-cmd.asp', 260, 400],
                                              ['models', 'download/CAM/f360/fusion_pruvodce.htm', 350, 300]]) {
@@ -256,4 +257,6 @@ drawText('export', 'structure.csv');
 drawText('system-info', 'system-info.txt');
 drawProperties();
 drawSettings();
-takePages();
+if (part !== 'drawings') {
+  takePages();
+}
