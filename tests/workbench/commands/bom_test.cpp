@@ -1,3 +1,4 @@
+#include "host/session/folder_lock.h"
 #include "tests/support/text.h"
 #include "tests/workbench/workbench_fixture.h"
 
