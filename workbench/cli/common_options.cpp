@@ -39,6 +39,12 @@ void addAddin(CLI::App& command, std::string& folder) {
     command.add_option("--addin", folder, "Use the add-in in this folder")->type_name("DIR");
 }
 
+void addFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
+    command.add_option("--format", format, "How to print it")
+        ->check(CLI::IsMember(names))
+        ->capture_default_str();
+}
+
 void addSave(CLI::App& command, std::optional<std::string>& file, const std::string& description) {
     command
         .add_option_function<std::string>(

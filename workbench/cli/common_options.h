@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// What the subcommands have in common on the command line. Each option is spelt in one place.
 namespace workbench {
@@ -28,6 +29,9 @@ void addLimits(CLI::App& command, host::ReadingLimits& limits);
 
 /// The folder of the add-in; empty unless it is given, for the one beside the program.
 void addAddin(CLI::App& command, std::string& folder);
+
+/// "--format", one of these names.
+void addFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names);
 
 /// "--save [FILE]": without FILE an empty string is set.
 void addSave(CLI::App& command, std::optional<std::string>& file, const std::string& description);

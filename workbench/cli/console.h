@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,17 @@ void prepare();
 /// The command line in UTF-8, the program's name first.
 std::vector<std::string> arguments(int count, char** values);
 
-/// True when stderr goes to a terminal.
+/// True when stdout or stderr goes to a terminal.
+bool outputIsTerminal();
 bool errorIsTerminal();
+
+/// True when a line on the terminal can be overwritten: not on one that calls itself "dumb".
+bool canOverwrite();
+
+/// The columns of the terminal that stderr goes to; 80 where they are not known.
+std::size_t width();
+
+/// True when the system has a program that opens files and addresses for others.
+bool opensFiles();
 
 }  // namespace workbench::console

@@ -16,6 +16,21 @@ enum class ExitCode : int {
     OutputFailed = 5,  ///< a result cannot be written
 };
 
+/// What an exit status means, in the words of `--help` and of the man page.
+struct ExitMeaning {
+    ExitCode code;
+    const char* meaning;
+};
+
+inline constexpr ExitMeaning kExitMeanings[] = {
+    {ExitCode::Success, "success"},
+    {ExitCode::BadInput, "the file cannot be read as a design or not be measured"},
+    {ExitCode::BadUsage, "wrong usage"},
+    {ExitCode::NoAddin, "the add-in is missing or in use"},
+    {ExitCode::AddinFailed, "the add-in failed"},
+    {ExitCode::OutputFailed, "a result cannot be written"},
+};
+
 /// Ends the program: its text is the line on stderr.
 class Failure : public std::runtime_error {
 public:

@@ -1,23 +1,34 @@
 #include "workbench/cli/console.h"
 #include "workbench/cli/exit_code.h"
+#include "workbench/cli/quiet.h"
+#include "workbench/cli/usage_error.h"
 #include "workbench/commands/commands.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/result_stream.h"
 
 #include <CLI/CLI.hpp>
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace workbench {
 namespace {
 
-constexpr const char* kFooter =
-    "Exit status: 0 success, 1 the file cannot be read as a design or not be measured, 2 wrong\n"
-    "usage, 3 the add-in is missing or in use, 4 the add-in failed, 5 a result cannot be written.\n"
+constexpr const char* kFooterEnd =
     "On failure one line on stderr says why, and no file is written except those that open-local\n"
     "reports.";
+
+std::string footer() {
+    std::string text = "Exit status:\n";
+    for (const ExitMeaning& each : kExitMeanings) {
+        text += "  " + std::to_string(static_cast<int>(each.code)) + "  " + each.meaning + "\n";
+    }
+    return text + kFooterEnd;
+}
 
 /// The line on stderr that goes with an exit status.
 int complain(ExitCode code, const std::string& line) {
@@ -34,27 +45,56 @@ std::vector<const char*> pointersTo(const std::vector<std::string>& arguments) {
     return pointers;
 }
 
+/// A working directory that was deleted makes every relative path fail, with no word about why.
+void checkWorkingDirectory() {
+    std::error_code failure;
+    static_cast<void>(std::filesystem::current_path(failure));
+    if (failure) {
+        refuse("the working directory does not exist any more; change to another one");
+    }
+}
+
+/// Adds "--output" and "--quiet" to each command that has no further ones.
+void addOutput(CLI::App& command, ResultStream& results) {
+    const auto inner = command.get_subcommands([](CLI::App*) { return true; });
+    for (CLI::App* const each : inner) {
+        addOutput(*each, results);
+    }
+    if (inner.empty()) {
+        command
+            .add_option_function<std::string>(
+                "--output", [&results](const std::string& file) { results.writeTo(file); },
+                "Write what is printed into this file instead, which is replaced where it\n"
+                "exists; its folder is created. - prints it")
+            ->type_name("FILE");
+        command.add_flag_callback("--quiet", beQuiet,
+                                  "Print the result and errors alone: no progress, no warnings");
+    }
+}
+
 /// Parses the command line, which runs the subcommand in it.
 int runProgram(const std::vector<std::string>& arguments) {
-    CLI::App program(
-        "Opens a 3D assembly in a stand-in for the CAD host and runs the add-in on it.",
-        "tarnix-workbench");
+    CLI::App program("Opens a 3D assembly in a stand-in for the CAD host and runs the add-in on it",
+                     "tarnix-workbench");
     for (const auto& addCommand : kAddCommand) {
         addCommand(program);
     }
     program.set_version_flag("--version", "tarnix-workbench " TARNIX_VERSION);
     program.require_subcommand(1);
-    program.footer(kFooter);
+    program.footer(footer());
+    ResultStream results;
+    addOutput(program, results);
+    checkFirstWord(program, arguments);
+    checkWorkingDirectory();
     try {
         program.parse(static_cast<int>(arguments.size()), pointersTo(arguments).data());
     } catch (const CLI::ParseError& end) {
         // Asking for help or for the version ends parsing as well.
-        return end.get_exit_code() == 0 ? program.exit(end)
-                                        : complain(ExitCode::BadUsage, end.what());
+        return end.get_exit_code() == 0
+                   ? program.exit(end)
+                   : complain(ExitCode::BadUsage, usageError(program, end, arguments));
     }
-    if (!std::cout.flush()) {
-        throw Failure(ExitCode::OutputFailed, "cannot write to stdout");
-    }
+    results.finish();
     return static_cast<int>(ExitCode::Success);
 }
 

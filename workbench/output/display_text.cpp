@@ -86,6 +86,13 @@ bool isControl(char32_t character) {
            character == 0x2029;
 }
 
+/// Characters that make a terminal show what follows in another order.
+bool changesDirection(char32_t character) {
+    return character == 0x061C || character == 0x200E || character == 0x200F ||
+           (character >= 0x202A && character <= 0x202E) ||
+           (character >= 0x2066 && character <= 0x2069);
+}
+
 bool isSpace(char32_t character) {
     return character == '\t' || character == '\n' || character == '\r';
 }
@@ -98,7 +105,8 @@ std::string printable(std::string_view text) {
         const Decoded next = decode(text);
         if (isSpace(next.character)) {
             result += ' ';
-        } else if (next.character == kNone || isControl(next.character)) {
+        } else if (next.character == kNone || isControl(next.character) ||
+                   changesDirection(next.character)) {
             result += kReplacement;
         } else {
             result += text.substr(0, next.length);
@@ -118,6 +126,38 @@ std::size_t displayWidth(std::string_view text) {
         text.remove_prefix(next.length);
     }
     return width;
+}
+
+std::string fitted(std::string_view text, std::size_t columns) {
+    constexpr std::string_view kCut = "...";
+    if (displayWidth(text) <= columns) {
+        return std::string(text);
+    }
+    if (columns < kCut.size()) {
+        return {};
+    }
+    std::size_t end = 0;
+    while (true) {
+        const std::size_t next = end + decode(text.substr(end)).length;
+        if (displayWidth(text.substr(0, next)) + kCut.size() > columns) {
+            return std::string(text.substr(0, end)) + std::string(kCut);
+        }
+        end = next;
+    }
+}
+
+std::string printableLines(std::string_view text) {
+    std::string result;
+    while (!text.empty()) {
+        const std::size_t end = text.find_first_of("\n\t");
+        result += printable(text.substr(0, end));
+        if (end == std::string_view::npos) {
+            break;
+        }
+        result += text[end];
+        text.remove_prefix(end + 1);
+    }
+    return result;
 }
 
 bool looksLikeNumber(std::string_view text) {

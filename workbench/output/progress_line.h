@@ -5,7 +5,7 @@
 namespace workbench {
 
 /// One line on a terminal that is overwritten again and again, and erased at the end. Where stderr
-/// is not a terminal nothing is written.
+/// is not a terminal, or one that cannot overwrite, and with "--quiet", nothing is written.
 class ProgressLine {
 public:
     ProgressLine();
@@ -13,7 +13,7 @@ public:
     ProgressLine& operator=(const ProgressLine&) = delete;
     ~ProgressLine();
 
-    /// Shows a printable line; an empty one erases it.
+    /// Shows a printable line, as much of it as fits; an empty one erases it.
     void show(const std::string& line);
 
 private:

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 using workbench::displayWidth;
+using workbench::fitted;
 using workbench::looksLikeNumber;
 using workbench::printable;
+using workbench::printableLines;
 
 TEST(Printable, LeavesUtf8AsItIs) {
     EXPECT_EQ(printable("Schraube \xC3\x9C \xE9\x8B\xBC \xF0\x9F\x94\xA9"),
@@ -35,6 +37,30 @@ TEST(Printable, ACharacterCutShortIsReplaced) {
 TEST(Printable, OverlongFormsAndSurrogatesAreReplaced) {
     EXPECT_EQ(printable("\xE0\x80\xAF"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
     EXPECT_EQ(printable("\xED\xA0\x80"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(Printable, CharactersThatChangeTheDirectionAreReplaced) {
+    // Right-to-left override, and the isolate of first strong direction.
+    EXPECT_EQ(printable("a\xE2\x80\xAE"
+                        "b\xE2\x81\xA8"
+                        "c"),
+              "a\xEF\xBF\xBD"
+              "b\xEF\xBF\xBD"
+              "c");
+    // The joiner of characters stays.
+    EXPECT_EQ(printable("a\xE2\x80\x8D"), "a\xE2\x80\x8D");
+}
+
+TEST(PrintableLines, KeepLineEndsAndTabs) {
+    EXPECT_EQ(printableLines("a\x1B\tb\n\nc"), "a\xEF\xBF\xBD\tb\n\nc");
+    EXPECT_EQ(printableLines("a\n"), "a\n");
+}
+
+TEST(Fitted, CutsWhatIsWiderThanTheTerminal) {
+    EXPECT_EQ(fitted("gearbox", 7), "gearbox");
+    EXPECT_EQ(fitted("gearbox", 6), "gea...");
+    EXPECT_EQ(fitted("\xE9\x8B\xBC\xE9\x8B\xBC\xE9\x8B\xBC", 5), "\xE9\x8B\xBC...");
+    EXPECT_EQ(fitted("gearbox", 2), "");
 }
 
 TEST(DisplayWidth, EastAsianCharactersTakeTwoColumns) {

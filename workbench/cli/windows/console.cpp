@@ -40,6 +40,21 @@ std::vector<std::string> arguments(int /*count*/, char** /*values*/) {
     return result;
 }
 
+bool outputIsTerminal() { return ::_isatty(::_fileno(stdout)) != 0; }
+
 bool errorIsTerminal() { return ::_isatty(::_fileno(stderr)) != 0; }
+
+bool canOverwrite() { return true; }
+
+std::size_t width() {
+    constexpr std::size_t kUsual = 80;
+    CONSOLE_SCREEN_BUFFER_INFO info = {};
+    if (::GetConsoleScreenBufferInfo(::GetStdHandle(STD_ERROR_HANDLE), &info) == 0) {
+        return kUsual;
+    }
+    return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
+}
+
+bool opensFiles() { return true; }
 
 }  // namespace workbench::console
