@@ -20,6 +20,8 @@ void addConfigureCommand(CLI::App& program);
 void addMoveToOriginCommand(CLI::App& program);
 void addProjectToConstructionCommand(CLI::App& program);
 void addOpenLocalCommand(CLI::App& program);
+void addCommandsCommand(CLI::App& program);
+void addDialogCommand(CLI::App& program);
 
 /// All of them, in the order of `--help`.
 inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
@@ -30,6 +32,8 @@ inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
                                                              addConfigureCommand,
                                                              addMoveToOriginCommand,
                                                              addProjectToConstructionCommand,
-                                                             addOpenLocalCommand};
+                                                             addOpenLocalCommand,
+                                                             addCommandsCommand,
+                                                             addDialogCommand};
 
 }  // namespace workbench
