@@ -22,6 +22,8 @@ void addProjectToConstructionCommand(CLI::App& program);
 void addOpenLocalCommand(CLI::App& program);
 void addCommandsCommand(CLI::App& program);
 void addDialogCommand(CLI::App& program);
+void addCompletionCommand(CLI::App& program);
+void addManualCommand(CLI::App& program);
 
 /// All of them, in the order of `--help`.
 inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
@@ -34,6 +36,8 @@ inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
                                                              addProjectToConstructionCommand,
                                                              addOpenLocalCommand,
                                                              addCommandsCommand,
-                                                             addDialogCommand};
+                                                             addDialogCommand,
+                                                             addCompletionCommand,
+                                                             addManualCommand};
 
 }  // namespace workbench
