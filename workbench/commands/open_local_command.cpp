@@ -14,10 +14,13 @@
 #include "host/session/dialog_answers.h"
 
 #include <algorithm>
+#include <cctype>
 #include <csignal>
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace workbench {
@@ -89,52 +92,124 @@ Failure explained(const Failure& failure, const host::Session& session) {
                    : failure;
 }
 
-/// Presses the button and picks the files. Returns what went wrong: files that were opened before
-/// are saved all the same.
-std::optional<Failure> open(DialogSession& dialog, const std::vector<std::string>& names) {
+/// What became of one file.
+struct OpenedFile {
+    std::string name;
+    bool opened = false;
+    std::string why;  ///< it was not, as far as that is known
+};
+
+/// Presses the button and picks one file. A failure of the add-in is thrown; what it opened before
+/// stays open.
+void pickAndOpen(DialogSession& dialog, const std::string& name) {
     const InterruptGuard guard;
     const auto line = std::make_shared<ProgressLine>();
     watchWaiting(dialog.session(), line);
     try {
         dialog.act([&](host::Session& session) {
-            host::answerNextFileDialog(names);
+            host::answerNextFileDialog(std::vector<std::string>{name});
             session.press(kOpenLocalCommand);
             line->show("");
         });
-        return std::nullopt;
     } catch (const Failure& failure) {
-        return explained(failure, dialog.session());
+        throw explained(failure, dialog.session());
     }
 }
 
-void refuseUnopened(std::size_t opened, std::size_t wanted) {
-    if (opened < wanted) {
-        std::string why;
-        adsk::core::Application::get()->getLastError(&why);
-        throw Failure(ExitCode::BadInput, "opened " + std::to_string(opened) + " of " +
-                                              std::to_string(wanted) + " files" +
-                                              (why.empty() ? "" : ": " + why));
+std::string lastError() {
+    std::string text;
+    adsk::core::Application::get()->getLastError(&text);
+    return text;
+}
+
+/// The reason without the file's name, which the add-in passes in lower case.
+std::string withoutName(const std::string& why, const std::string& name) {
+    const std::string end = host::toUtf8(host::fromUtf8(name).filename()) + ": ";
+    const auto equal = [](unsigned char one, unsigned char other) {
+        return std::tolower(one) == std::tolower(other);
+    };
+    const auto found = std::search(why.begin(), why.end(), end.begin(), end.end(), equal);
+    return found == why.end() ? why : std::string(found + std::ssize(end), why.end());
+}
+
+/// Opens one file. What the add-in said meanwhile is on stderr already.
+OpenedFile openOne(DialogSession& dialog, const std::string& name) {
+    const std::size_t designsBefore = dialog.session().designsOpenedByModule().size();
+    const std::size_t messagesBefore = dialog.session().messages().size();
+    const std::string errorBefore = lastError();
+    pickAndOpen(dialog, name);
+    OpenedFile file{.name = name, .opened = false, .why = {}};
+    file.opened = dialog.session().designsOpenedByModule().size() > designsBefore;
+    const std::string error = lastError();
+    if (error != errorBefore) {
+        file.why = withoutName(error, name);
+    } else if (dialog.session().messages().size() == messagesBefore) {
+        file.why = "the add-in did not open it";
     }
+    return file;
+}
+
+/// Opens one file after the other, so that each failure has its own reason. Returns what went wrong
+/// with the add-in itself: the files after that are not tried.
+std::optional<Failure> openAll(DialogSession& dialog, const std::vector<std::string>& names,
+                               std::vector<OpenedFile>& files) {
+    try {
+        for (const std::string& name : names) {
+            files.push_back(openOne(dialog, name));
+        }
+        return std::nullopt;
+    } catch (const Failure& failure) {
+        return failure;
+    }
+}
+
+/// Throws a `Failure` where a file was not opened. Of several each has a line of its own before.
+void refuseUnopened(const std::vector<OpenedFile>& files) {
+    std::vector<std::string> lines;
+    for (const OpenedFile& each : files) {
+        if (!each.opened) {
+            lines.push_back(each.name + (each.why.empty() ? "" : ": " + each.why));
+        }
+    }
+    if (lines.empty()) {
+        return;
+    }
+    const std::string summary = "opened " + std::to_string(files.size() - lines.size()) + " of " +
+                                std::to_string(files.size()) + " files";
+    if (lines.size() == 1) {
+        throw Failure(ExitCode::BadInput, summary + ": " + lines.front());
+    }
+    reportFailures(lines);
+    throw Failure(ExitCode::BadInput, summary);
+}
+
+fs::path makeFolder(const std::string& named) {
+    fs::path folder = fs::current_path() / host::fromUtf8(named);
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (!fs::is_directory(folder)) {
+        throw Failure(ExitCode::OutputFailed,
+                      "--out " + named + ": " +
+                          (failure ? failure.message() : std::string("not a directory")));
+    }
+    return folder;
 }
 
 /// Has "Open local file" bring files into the host, and saves each document that it opened. Where
 /// not every file became a document, those that did are saved.
 void runOpenLocal(const OpenLocalOptions& options) {
     const std::vector<std::string> names = absoluteNames(options.files);
-    const fs::path out = fs::current_path() / host::fromUtf8(options.out);
-    if (!fs::is_directory(out)) {
-        throw Failure(ExitCode::OutputFailed, "--out " + options.out + ": not a directory");
-    }
+    const fs::path out = makeFolder(options.out);
     DialogSession dialog(waitingSession(options));
     dialog.act([&](host::Session& session) { useProjects(session, options.data); });
-    const std::optional<Failure> obstacle = open(dialog, names);
+    std::vector<OpenedFile> files;
+    const std::optional<Failure> obstacle = openAll(dialog, names, files);
     reportWarnings(dialog.session().importWarnings());
-    const std::vector<host::DesignData> designs = dialog.session().designsOpenedByModule();
-    saveInFolder(designs, out);
+    saveInFolder(dialog.session().designsOpenedByModule(), out);
     if (obstacle) {
         throw *obstacle;
     }
-    refuseUnopened(designs.size(), names.size());
+    refuseUnopened(files);
 }
 
 }  // namespace
@@ -151,7 +226,8 @@ void addOpenLocalCommand(CLI::App& program) {
         ->required();
     command
         .add_option("--out", options.out,
-                    "Save the design files in this folder, by default the current one")
+                    "Save the design files in this folder, by default the current one; it is\n"
+                    "created if it is missing")
         ->type_name("DIR");
     command
         .add_option("--data", options.data,

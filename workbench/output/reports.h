@@ -8,13 +8,15 @@
 #include <string>
 #include <vector>
 
-/// Lines about what happened, in the same words for all subcommands.
+/// Lines about what happened, in the same words for all subcommands. With "--quiet" only what was
+/// saved and what failed is reported.
 namespace workbench {
 
 /// Where a design was saved.
 void reportSaved(std::ostream& stream, const std::filesystem::path& file);
 
-/// What the add-in asked the shell to open, and how to let it where it may not.
+/// What the add-in asked the shell to open, each once and as this system spells it, and whether it
+/// was opened: where `mayOpen` is false the line says how to let it.
 void reportShellRequests(std::ostream& stream, const std::vector<std::string>& targets,
                          bool mayOpen);
 
@@ -23,5 +25,8 @@ void reportMessages(const std::vector<host::Message>& messages, std::size_t sinc
 
 /// What a reader had to say; on stderr.
 void reportWarnings(const std::vector<host::ReadingWarning>& warnings);
+
+/// Files or steps that failed, a line for each; on stderr.
+void reportFailures(const std::vector<std::string>& lines);
 
 }  // namespace workbench

@@ -35,7 +35,9 @@ TEST_F(BomOpen, OpensTheWorkbook) {
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(readFile(openedList()), host::toUtf8(addinCopy() / "TarnixBOM.xlsm") + "\n");
-    EXPECT_NE(result.output.find("\\TarnixBOM.xlsm\n"), std::string::npos) << result.output;
+    EXPECT_TRUE(
+        result.output.ends_with("\nOpened: " + host::toUtf8(addinCopy() / "TarnixBOM.xlsm") + "\n"))
+        << result.output;
 }
 
 TEST_F(BomOpen, IsNeededToOpenTheWorkbook) {
@@ -44,6 +46,16 @@ TEST_F(BomOpen, IsNeededToOpenTheWorkbook) {
     run({"bom", design(kSmallDesign)});
 
     EXPECT_FALSE(fs::exists(openedList()));
+}
+
+TEST_F(BomOpen, SaysThatTheSystemHasNothingToOpenFilesWith) {
+    variables.set("PATH", folder.path());
+
+    const ProgramResult result = run({"bom", design(kSmallDesign), "--open"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_TRUE(result.output.ends_with("TarnixBOM.xlsm (this system has no xdg-open)\n"))
+        << result.output;
 }
 
 TEST_F(BomOpen, ExportsAlsoWhereTheShellFails) {

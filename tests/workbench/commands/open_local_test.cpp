@@ -81,9 +81,32 @@ TEST_F(OpenLocal, ReportsThatThereIsNoProject) {
     EXPECT_TRUE(test_support::isOneLine(result.errors)) << result.errors;
 }
 
-TEST_F(OpenLocal, RefusesAFolderThatDoesNotExist) {
-    const ProgramResult result = run({"open-local", path("a.f3d"), "--out", path("nowhere")});
+TEST_F(OpenLocal, GivesEachFileThatFailsALineOfItsOwn) {
+    const std::string archive = path("Gearbox.f3d");
+    writeFile(host::fromUtf8(archive), readFile(host::fromUtf8(design(kPlaced, "gearbox"))));
+    writeFile(host::fromUtf8(path("Broken.f3d")), "no archive");
+
+    const ProgramResult result = run({"open-local", path("Missing.f3d"), archive,
+                                      path("Broken.f3d"), "--out", path("new/designs")});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(test_support::firstLines(result.errors, 1),
+              "failed: " + path("Missing.f3d") + ": no such file\n");
+    const std::string rest =
+        result.errors.substr(test_support::firstLines(result.errors, 1).size());
+    EXPECT_EQ(rest.rfind("failed: " + path("Broken.f3d") + ": ", 0), 0U) << rest;
+    EXPECT_EQ(rest.substr(rest.find('\n') + 1), "tarnix-workbench: opened 1 of 3 files\n");
+    EXPECT_EQ(result.output,
+              "Saved: " +
+                  host::toUtf8(host::fromUtf8(path("new/designs")) / "gearbox.design.json") + "\n");
+}
+
+TEST_F(OpenLocal, RefusesAFolderThatIsAFile) {
+    writeFile(host::fromUtf8(path("file")), "");
+
+    const ProgramResult result = run({"open-local", path("a.f3d"), "--out", path("file")});
 
     EXPECT_EQ(result.status, 5);
-    EXPECT_EQ(result.errors, "tarnix-workbench: --out " + path("nowhere") + ": not a directory\n");
+    EXPECT_EQ(result.errors.rfind("tarnix-workbench: --out " + path("file") + ": ", 0), 0U)
+        << result.errors;
 }
