@@ -83,7 +83,7 @@ endif()
 # "Open Help" opens a file that is there.
 execute_process(COMMAND ${WORKBENCH} helpdesk guide --addin Tarnix WORKING_DIRECTORY "${place}"
                 COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE said ERROR_VARIABLE said)
-if(NOT said MATCHES "asked to open (.*Tarnix_UsersGuide\\.pdf)")
+if(NOT said MATCHES "Not opened: (.*Tarnix_UsersGuide\\.pdf)")
     message(FATAL_ERROR "helpdesk guide opens no guide: ${said}")
 endif()
 string(REPLACE "\\" "/" guide "${CMAKE_MATCH_1}")

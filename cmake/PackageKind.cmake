@@ -1,0 +1,10 @@
+# Read by cpack once for each kind of package: the workbench is what a Debian package or an archive holds.
+if(CPACK_GENERATOR MATCHES "^(DEB|TGZ)$")
+    set(CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_WORKBENCH_PROJECTS}")
+    set(CPACK_PACKAGE_NAME ${CPACK_WORKBENCH_NAME})
+    set(CPACK_PACKAGE_FILE_NAME ${CPACK_WORKBENCH_NAME}-${CPACK_PACKAGE_VERSION})
+endif()
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+    set(CPACK_DEBIAN_PACKAGE_NAME ${CPACK_WORKBENCH_NAME})
+endif()
