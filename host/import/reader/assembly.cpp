@@ -1,5 +1,6 @@
 #include "host/import/reader/assembly.h"
 
+#include "host/import/reader/material_warnings.h"
 #include "host/import/reader/products.h"
 #include "host/import/reader/referenced_file.h"
 #include "host/import/reader/tree_check.h"
@@ -59,11 +60,18 @@ private:
             const Handle(StepBasic_ProductDefinition) owner = references.ProdDef(at);
             const char* const name = references.FileName(at);
             for (std::size_t index = first; index < end && name != nullptr; ++index) {
-                if (!owner.IsNull() && assembly_.components[index].definition == owner) {
+                if (!owner.IsNull() && assembly_.components[index].definition == owner &&
+                    isUnfilled(assembly_.components[index]) && *name != '\0') {
                     fill(index, assembly_.files[number]->path, name);
                 }
             }
         }
+    }
+
+    /// Whether what a product consists of may be in another file. Where it is in this one, the
+    /// file that the product refers to is a document: often the native file it was modelled in.
+    static bool isUnfilled(const Component& component) {
+        return component.uses.empty() && component.bodies.empty() && !component.content;
     }
 
     void fill(std::size_t index, const fs::path& referring, const std::string& name) {
@@ -153,6 +161,7 @@ Assembly readAssembly(const fs::path& file, const host::ReadingLimits& limits) {
     Assembly assembly;
     assembly.roots = AssemblyReader(assembly).read(file);
     ContentTaker(assembly).run();
+    warnOfDensities(assembly);
     checkTree(assembly, limits);
     return assembly;
 }

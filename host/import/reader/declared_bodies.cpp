@@ -5,6 +5,7 @@
 #include <Interface_EntityIterator.hxx>
 #include <Interface_Graph.hxx>
 #include <StepRepr_HArray1OfRepresentationItem.hxx>
+#include <StepRepr_RepresentationRelationshipWithTransformation.hxx>
 #include <StepRepr_ShapeRepresentationRelationship.hxx>
 #include <StepShape_ConnectedFaceSet.hxx>
 #include <StepShape_Face.hxx>
@@ -25,6 +26,12 @@ bool isBody(const Item& item) {
     return !item.IsNull() && (item->IsKind(STANDARD_TYPE(StepShape_SolidModel)) ||
                               item->IsKind(STANDARD_TYPE(StepShape_ShellBasedSurfaceModel)) ||
                               item->IsKind(STANDARD_TYPE(StepShape_FaceBasedSurfaceModel)));
+}
+
+/// Whether a link places a part in an assembly. Open CASCADE derives these from the ones that say
+/// that two representations are of the same shape.
+bool places(const Handle(StepRepr_ShapeRepresentationRelationship) & link) {
+    return link->IsKind(STANDARD_TYPE(StepRepr_RepresentationRelationshipWithTransformation));
 }
 
 /// Whether something came of a body and of each face that it leads to.
@@ -60,10 +67,9 @@ private:
 
 DeclaredBodies::DeclaredBodies(const StepFile& file) {
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
-        // The kind with a transformation, which places a part in an assembly, is none of these.
         const auto link =
             Handle(StepRepr_ShapeRepresentationRelationship)::DownCast(file.model->Value(number));
-        if (link.IsNull() || link->Rep1().IsNull() || link->Rep2().IsNull()) {
+        if (link.IsNull() || link->Rep1().IsNull() || link->Rep2().IsNull() || places(link)) {
             continue;
         }
         same_[link->Rep1().get()].push_back(link->Rep2().get());
@@ -91,6 +97,16 @@ std::vector<Item> DeclaredBodies::in(const Handle(StepRepr_Representation) & rep
         }
     }
     return bodies;
+}
+
+void countDeclaredBodies(Assembly& assembly) {
+    for (Component& component : assembly.components) {
+        component.bodyCount = component.bodies.size();
+        for (auto from = component.content; from && component.bodyCount == 0;
+             from = assembly.components[*from].content) {
+            component.bodyCount = assembly.components[*from].bodies.size();
+        }
+    }
 }
 
 std::string complaintAboutBodies(const Assembly& assembly) {

@@ -29,6 +29,9 @@ private:
 
 struct Assembly;
 
+/// Counts the declared bodies of each component into `bodyCount`, where none are to be built.
+void countDeclaredBodies(Assembly& assembly);
+
 /// Reports bodies that were not built, or not with every face; call it once shapes are built. One
 /// line, empty when there are none.
 std::string complaintAboutBodies(const Assembly& assembly);

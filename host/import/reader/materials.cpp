@@ -1,5 +1,7 @@
 #include "host/import/reader/materials.h"
 
+#include "host/import/reader/unit_text.h"
+
 #include <STEPConstruct_UnitContext.hxx>
 #include <StepBasic_ConversionBasedUnit.hxx>
 #include <StepBasic_ConversionBasedUnitAndLengthUnit.hxx>
@@ -7,12 +9,16 @@
 #include <StepBasic_DerivedUnit.hxx>
 #include <StepBasic_DerivedUnitElement.hxx>
 #include <StepBasic_MeasureWithUnit.hxx>
+#include <StepBasic_Product.hxx>
+#include <StepBasic_ProductDefinitionFormation.hxx>
 #include <StepBasic_SiUnit.hxx>
 #include <StepBasic_SiUnitAndLengthUnit.hxx>
 #include <StepBasic_SiUnitAndMassUnit.hxx>
+#include <StepBasic_Unit.hxx>
 #include <StepRepr_CharacterizedDefinition.hxx>
 #include <StepRepr_DescriptiveRepresentationItem.hxx>
 #include <StepRepr_HArray1OfRepresentationItem.hxx>
+#include <StepRepr_MakeFromUsageOption.hxx>
 #include <StepRepr_MeasureRepresentationItem.hxx>
 #include <StepRepr_ProductDefinitionShape.hxx>
 #include <StepRepr_PropertyDefinition.hxx>
@@ -56,9 +62,10 @@ std::optional<double> basicFactor(const Handle(StepBasic_NamedUnit) & unit) {
     return base ? std::optional(*base * measure->ValueComponent()) : std::nullopt;
 }
 
-/// How many of the unit make one kg/cm3.
+/// How many of the unit make one kg/cm3; none for a unit that is no mass by volume.
 std::optional<double> unitsPerDensity(const Handle(StepBasic_DerivedUnit) & unit) {
-    if (unit.IsNull() || unit->Elements().IsNull()) {
+    constexpr double kCubed = 3;
+    if (unit.IsNull() || unit->Elements().IsNull() || unit->NbElements() != 2) {
         return std::nullopt;
     }
     std::optional<double> kilograms;
@@ -67,9 +74,9 @@ std::optional<double> unitsPerDensity(const Handle(StepBasic_DerivedUnit) & unit
         const Handle(StepBasic_DerivedUnitElement) element = unit->ElementsValue(number);
         const std::optional<double> factor =
             element.IsNull() ? std::nullopt : basicFactor(element->Unit());
-        if (factor && isMass(element->Unit())) {
+        if (factor && isMass(element->Unit()) && element->Exponent() == 1) {
             kilograms = *factor / 1000;
-        } else if (factor && isLength(element->Unit())) {
+        } else if (factor && isLength(element->Unit()) && std::abs(element->Exponent()) == kCubed) {
             centimetres = *factor * 100;
         }
     }
@@ -79,20 +86,24 @@ std::optional<double> unitsPerDensity(const Handle(StepBasic_DerivedUnit) & unit
     return std::pow(*centimetres, 3) / *kilograms;
 }
 
-std::optional<double> densityOf(const StepRepr_Representation& representation) {
+void readDensity(const StepRepr_Representation& representation, Material& material) {
     for (int number = 1; number <= representation.NbItems(); ++number) {
         const auto item = as<StepRepr_MeasureRepresentationItem>(representation.ItemsValue(number));
         if (item.IsNull() || item->Measure().IsNull()) {
             continue;
         }
-        const std::optional<double> units =
-            unitsPerDensity(item->Measure()->UnitComponent().DerivedUnit());
-        const double density = item->Measure()->ValueComponent() / units.value_or(0);
-        if (units && std::isfinite(density) && density > 0) {
-            return density;
+        const StepBasic_Unit unit = item->Measure()->UnitComponent();
+        const double value = item->Measure()->ValueComponent();
+        if (!material.stated) {
+            material.stated = StatedDensity{.value = value, .unit = unitText(unit)};
+        }
+        const std::optional<double> units = unitsPerDensity(unit.DerivedUnit());
+        if (units && std::isfinite(value / *units) && value > 0) {
+            material.stated = StatedDensity{.value = value, .unit = unitText(unit)};
+            material.density = value / *units;
+            return;
         }
     }
-    return std::nullopt;
 }
 
 std::string nameOf(const StepRepr_Representation& representation, const StepFile& file) {
@@ -107,6 +118,16 @@ std::string nameOf(const StepRepr_Representation& representation, const StepFile
         return name.empty() ? file.texts.text(label, 1).value_or("") : name;
     }
     return {};
+}
+
+/// The name of a product, or its id where it has none.
+std::string productName(const StepFile& file, const StepBasic_ProductDefinition& definition) {
+    if (definition.Formation().IsNull() || definition.Formation()->OfProduct().IsNull()) {
+        return {};
+    }
+    const int label = file.label(definition.Formation()->OfProduct());
+    const std::string name = file.texts.text(label, 1).value_or("");
+    return name.empty() ? file.texts.text(label, 0).value_or("") : name;
 }
 
 Handle(StepBasic_ProductDefinition)
@@ -126,11 +147,44 @@ Handle(StepBasic_ProductDefinition) productOf(const StepRepr_PropertyDefinition&
     return productOf(owner.ProductDefinitionShape());
 }
 
+using Materials = std::unordered_map<const StepBasic_ProductDefinition*, Material>;
+
+void complete(Material& material, const Material& source) {
+    if (material.name.empty()) {
+        material.name = source.name;
+    }
+    if (!material.density && source.density) {
+        material.density = source.density;
+        material.stated = source.stated;
+    } else if (!material.stated) {
+        material.stated = source.stated;
+    }
+}
+
+/// A product may be made from another that is its material, and says nothing of its own then.
+void takeFromMaterialProducts(const StepFile& file, Materials& materials) {
+    for (int number = 1; number <= file.model->NbEntities(); ++number) {
+        const auto link = as<StepRepr_MakeFromUsageOption>(file.model->Value(number));
+        if (link.IsNull() || link->RelatingProductDefinition().IsNull()) {
+            continue;
+        }
+        const auto source = materials.find(link->RelatedProductDefinition().get());
+        if (source == materials.end()) {
+            continue;
+        }
+        Material found = source->second;
+        if (found.name.empty()) {
+            found.name = productName(file, *link->RelatedProductDefinition());
+        }
+        complete(materials[link->RelatingProductDefinition().get()], found);
+    }
+}
+
 }  // namespace
 
 std::unordered_map<const StepBasic_ProductDefinition*, Material> readMaterials(
     const StepFile& file) {
-    std::unordered_map<const StepBasic_ProductDefinition*, Material> materials;
+    Materials materials;
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
         const auto link = as<StepRepr_PropertyDefinitionRepresentation>(file.model->Value(number));
         if (link.IsNull() || link->Definition().PropertyDefinition().IsNull() ||
@@ -149,9 +203,10 @@ std::unordered_map<const StepBasic_ProductDefinition*, Material> readMaterials(
         if (title.IsEqual("material name") && material.name.empty()) {
             material.name = nameOf(representation, file);
         } else if (title.IsEqual("density") && !material.density) {
-            material.density = densityOf(representation);
+            readDensity(representation, material);
         }
     }
+    takeFromMaterialProducts(file, materials);
     return materials;
 }
 

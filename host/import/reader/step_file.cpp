@@ -1,5 +1,7 @@
 #include "host/import/reader/step_file.h"
 
+#include "host/import/reader/needed_entities.h"
+
 #include <Interface_Check.hxx>
 #include <Message.hxx>
 #include <Message_Messenger.hxx>
@@ -121,9 +123,11 @@ private:
 };
 
 /// Whether a design lacks something where this is wrong with one of its entities. Products, places
-/// and shapes are built from these kinds; a missing name is an empty one.
+/// and shapes are built from these kinds; a missing name is an empty one, and a unit is understood
+/// without its dimensions.
 bool matters(const std::string& complaint, std::string_view kind) {
     return complaint.find("not a quoted String") == std::string::npos &&
+           complaint.find("(dimensions)") == std::string::npos &&
            (kind.starts_with("StepBasic_") || kind.starts_with("StepGeom_") ||
             kind.starts_with("StepRepr_") || kind.starts_with("StepShape_"));
 }
@@ -154,6 +158,7 @@ StepFile::StepFile(const std::filesystem::path& file) : path(file), texts(conten
 void StepFile::checkEntities() {
     Faults all;
     Faults mattering;
+    std::optional<NeededEntities> needed;  // looked for where it makes a difference
     for (int number = 1; number <= model->NbEntities(); ++number) {
         const Handle(Interface_Check)& check = model->Check(number, /*syntactic=*/true);
         if (!check->HasFailed()) {
@@ -162,7 +167,13 @@ void StepFile::checkEntities() {
         const Handle(Standard_Transient) entity = model->Value(number);
         const std::string complaint = check->CFail(1, /*final=*/true);
         all.add(complaint, label(entity));
-        if (matters(complaint, entity->DynamicType()->Name())) {
+        if (!matters(complaint, entity->DynamicType()->Name())) {
+            continue;
+        }
+        if (!needed) {
+            needed.emplace(model, reader.WS()->Graph());
+        }
+        if (needed->contains(number)) {
             mattering.add(complaint, label(entity));
         }
     }

@@ -58,7 +58,7 @@ std::string reference(int number, int definition, const std::string& file) {
            "=CARTESIAN_POINT('',(0.,0.,0.));\n" + at(11) + "=PROPERTY_DEFINITION_REPRESENTATION(" +
            at(7) + "," + at(8) + ");\n" + at(12) + "=SHAPE_DEFINITION_REPRESENTATION(" + at(14) +
            "," + at(8) + ");\n" + at(13) +
-           "=(GEOMETRIC_REPRESENTATION_CONTEXT(3)REPRESENTATION_CONTEXT('',''));\n" + at(14) +
+           "=REPRESENTATION_CONTEXT('','');\n" + at(14) +
            "=PRODUCT_DEFINITION_SHAPE('',''," + product + ");\n";
 }
 

@@ -178,16 +178,34 @@ TEST_F(RealFiles, PartsWithConstructionGeometryAreParts) {
     EXPECT_NEAR(find(design, "PLATE").geometry->volume(), 530575.2176936 * 16.387064, 0.1);
 }
 
-TEST_F(RealFiles, MaterialsHaveInventedDensities) {
+TEST_F(RealFiles, InventedDensitiesAreReportedAndTheNamesKept) {
     const DesignData design = import("as1-oc-214-mat.stp");
 
-    EXPECT_EQ(find(design, "plate").material,
-              (host::MaterialData{.name = "BRONZE", .density = 0.86}));
-    EXPECT_EQ(find(design, "l-bracket").material,
-              (host::MaterialData{.name = "ALUMINIUM", .density = 0.1}));
-    EXPECT_EQ(find(design, "bolt").material,
-              (host::MaterialData{.name = "STEEL", .density = 0.235}));
+    const auto dense = [](const std::string& name) {
+        return host::MaterialData{name, 0.00785, /*nameAssumed=*/false, /*densityAssumed=*/true};
+    };
+    EXPECT_EQ(find(design, "plate").material, dense("BRONZE"));
+    EXPECT_EQ(find(design, "l-bracket").material, dense("ALUMINIUM"));
+    EXPECT_EQ(find(design, "bolt").material, dense("STEEL"));
     EXPECT_EQ(find(design, "nut").material, host::defaultMaterial());
+    ASSERT_EQ(warnings.size(), 3U);
+    EXPECT_EQ(
+        warnings[1].line(),
+        path("as1-oc-214-mat.stp") +
+            ": states 860 g^3 cm^2 as the density of \"plate\", which is no mass by volume; a "
+            "default density is assumed");
+}
+
+TEST_F(RealFiles, ADocumentOfAPartIsNotMissed) {
+    import("as1/trj2_as1-id-203.stp");
+
+    EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());
+}
+
+TEST_F(RealFiles, FaultsOfAnnotationsAreNotReported) {
+    import("nist_ctc_02_asme1_ap242-1.stp");
+
+    EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());
 }
 
 TEST_F(RealFiles, PartsInOtherFilesAreFound) {

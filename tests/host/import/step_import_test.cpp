@@ -3,6 +3,7 @@
 #include "host/import/reader_program.h"
 #include "samples/product.h"
 #include "tests/host/import/drafts.h"
+#include "tests/host/import/step_text_edits.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -18,6 +19,8 @@
 
 namespace {
 
+using drafts::damage;
+using drafts::labelOf;
 using drafts::product;
 using drafts::step;
 using drafts::tree;
@@ -28,20 +31,6 @@ using samples::Solid;
 
 /// A plate of 10 x 20 x 5 mm on the plane z = 0, its middle above the origin.
 const Solid kPlate = {{{rectangle(10, 20), 5}}, {}};
-
-/// The reference of the first entity of this kind.
-std::string labelOf(const std::string& text, const std::string& kind) {
-    const std::size_t end = text.find("=" + kind + "(");
-    return text.substr(text.rfind('#', end), end - text.rfind('#', end));
-}
-
-/// Puts something else in the place of what first begins and then ends like this.
-void damage(std::string& text, const std::string& begin, const std::string& end,
-            const std::string& other) {
-    const std::size_t from = text.find(begin);
-    const std::size_t to = text.find(end, from) + end.size();
-    text.replace(from, to - from, other);
-}
 
 /// A part that is the plate.
 samples::Product part(const std::string& key, const std::string& id, const std::string& name) {
@@ -394,7 +383,8 @@ TEST_F(StepImport, TheReaderEndsWhenItsParentIsGone) {
     if (process == 0) {
         ::dup2(ends[1], STDIN_FILENO);
         ::dup2(ends[1], STDOUT_FILENO);
-        ::execl(reader.c_str(), "step-reader", file.c_str(), "10", "10", "60", "3072", nullptr);
+        ::execl(reader.c_str(), "step-reader", file.c_str(), folder.path().c_str(), "10", "10",
+                "60", "3072", nullptr);
         ::_exit(99);
     }
     ::close(ends[1]);
