@@ -1,3 +1,4 @@
+#include "tests/fuzz/fuzzed_files.h"
 #include "tests/fuzz/fuzzed_session.h"
 #include "tests/support/files.h"
 
@@ -97,6 +98,37 @@ TEST(SettingsRuns, MutatedOnesFindNothing) {
     for (const File& file : corpus("settings")) {
         EXPECT_EQ(session.useSettings(mutated(bytesOf(file), ++seed)), "") << file;
     }
+}
+
+using ReadFile = std::string (*)(Bytes);
+
+void readMadeUp(ReadFile read, unsigned runs) {
+    for (unsigned seed = 1; seed <= runs; ++seed) {
+        std::vector<std::uint8_t> bytes = madeUp(seed);
+        bytes.resize(4 + seed % 20);  // a few changes: with more, little of the file is left
+        EXPECT_EQ(read(bytes), "") << "seed " << seed;
+    }
+}
+
+void readKept(ReadFile read, const std::string& name) {
+    for (const File& file : corpus(name)) {
+        EXPECT_EQ(read(bytesOf(file)), "") << file;
+    }
+}
+
+TEST(DesignFileRuns, FindNothing) {
+    readKept(readDesignFile, "design_file");
+    readMadeUp(readDesignFile, 300);
+}
+
+TEST(StepRuns, FindNothing) {
+    readKept(readStep, "step");
+    readMadeUp(readStep, 24);
+}
+
+TEST(IgesRuns, FindNothing) {
+    readKept(readIges, "iges");
+    readMadeUp(readIges, 24);
 }
 
 }  // namespace
