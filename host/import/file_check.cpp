@@ -63,8 +63,9 @@ bool beginsAsIges(std::string_view text) {
 
 }  // namespace
 
-fs::path checkStepFile(const std::string& path) {
-    const fs::path file = path;
+fs::path checkStepFile(const std::string& path) { return checkStepFile(fs::path(path), path); }
+
+fs::path checkStepFile(const fs::path& file, const std::string& path) {
     std::error_code error;
     const fs::file_status status = fs::status(file, error);
     if (status.type() == fs::file_type::not_found) {

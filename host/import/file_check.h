@@ -14,6 +14,9 @@ namespace host {
 /// Returns the absolute path: files that a STEP file refers to are found from there.
 std::filesystem::path checkStepFile(const std::string& path);
 
+/// The same for a file that messages call otherwise.
+std::filesystem::path checkStepFile(const std::filesystem::path& file, const std::string& shown);
+
 /// Identifies the contents of files by their size and a hash, so that a change can be detected.
 std::string fingerprintOf(const std::vector<std::filesystem::path>& files);
 

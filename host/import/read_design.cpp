@@ -2,6 +2,8 @@
 
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
+#include "host/import/read_tree.h"
+#include "host/import/step_source.h"
 
 #include <fstream>
 #include <string>
@@ -22,19 +24,41 @@ bool looksLikeDesignFile(const std::filesystem::path& file) {
     return first != std::string::npos && start[first] == '{';
 }
 
+/// What a copy is refused for is said of the file that it was made of.
+[[noreturn]] void refuseAs(const ReadableFile& readable, const std::string& line) {
+    const std::string path = toUtf8(readable.path);
+    throw DesignError(line.starts_with(path) ? readable.shown + line.substr(path.size()) : line);
+}
+
+DesignData readAll(const ReadableFile& readable, const ReadingLimits& limits,
+                   const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    if (!looksLikeDesignFile(readable.path)) {
+        return importStepFrom(readable, limits, progress, warnings);
+    }
+    const auto readSource = [&](const SourceFile& source) {
+        return importStepFrom(makeReadable(fromUtf8(source.path), limits), limits, progress,
+                              warnings);
+    };
+    try {
+        return loadDesignFile(readable.path, readSource, limits);
+    } catch (const DesignError& error) {
+        refuseAs(readable, error.what());
+    }
+}
+
 }  // namespace
 
 DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,
                       const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
-    if (!looksLikeDesignFile(file)) {
-        return importStep(toUtf8(file), limits, progress, warnings);
-    }
-    return loadDesignFile(
-        file,
-        [&](const SourceFile& source) {
-            return importStep(source.path, limits, progress, warnings);
-        },
-        limits);
+    return readAll(makeReadable(file, limits), limits, progress, warnings);
+}
+
+DesignData readTree(const std::filesystem::path& file, const ReadingLimits& limits,
+                    const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    const ReadableFile readable = makeReadable(file, limits);
+    return looksLikeDesignFile(readable.path)
+               ? readAll(readable, limits, progress, warnings)
+               : importTreeFrom(readable, limits, progress, warnings);
 }
 
 }  // namespace host

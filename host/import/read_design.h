@@ -11,6 +11,7 @@
 namespace host {
 
 /// Reads a design out of a file: STEP, or a design file of this host, recognised by its content.
+/// The file may be a pipe, "-" for the standard input, or packed by gzip; see readable_file.h.
 ///
 /// What the user should know although the design could be read is appended to `warnings`. Throws an
 /// `ImportError` or a `DesignError`, one line that names the file, for one that cannot be read. It

@@ -6,11 +6,13 @@
 #include "host/import/reader_process.h"
 #include "host/import/reader_program.h"
 #include "host/import/step_geometry.h"
+#include "host/import/step_source.h"
 
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <map>
+#include <stdexcept>
 #include <utility>
 
 namespace host {
@@ -83,12 +85,17 @@ private:
     std::string faults_;
 };
 
-std::vector<std::string> argumentsFor(const fs::path& file, const ReadingLimits& limits) {
+/// Checks the file first.
+std::vector<std::string> argumentsFor(const ReadableFile& source, const ReadingLimits& limits) {
     // The reader limits its own processor time as well; that is spent on measurements too, so it
     // gets some of it for these.
     const auto seconds = static_cast<std::size_t>(limits.seconds) * 10 + 10;
-    return {file.string(), std::to_string(limits.occurrences), std::to_string(limits.levels),
-            std::to_string(seconds), std::to_string(limits.megabytes)};
+    return {checkStepFile(source.path, source.shown).string(),
+            source.folder.string(),
+            std::to_string(limits.occurrences),
+            std::to_string(limits.levels),
+            std::to_string(seconds),
+            std::to_string(limits.megabytes)};
 }
 
 OccurrenceData occurrenceOf(const json& use) {
@@ -100,6 +107,24 @@ OccurrenceData occurrenceOf(const json& use) {
     }
     return occurrence;
 }
+
+/// Bodies of a design of which the tree alone was read.
+class UnbuiltGeometry final : public Geometry {
+public:
+    explicit UnbuiltGeometry(std::size_t bodies) : bodies_(bodies) {}
+
+    double area() override { refuse(); }
+    double volume() override { refuse(); }
+    std::size_t bodies() override { return bodies_; }
+    std::optional<Box> box(const Transform& /*placement*/) override { refuse(); }
+
+private:
+    [[noreturn]] static void refuse() {
+        throw std::runtime_error("the tree of the design was read without its shapes");
+    }
+
+    std::size_t bodies_;
+};
 
 /// Makes the components; the ones that share a shape share its geometry.
 class Components {
@@ -114,17 +139,23 @@ public:
         for (const json& use : from.at("uses")) {
             component.data.children.push_back(occurrenceOf(use));
         }
-        if (const int shape = from.at("shape"); shape >= 0) {
-            std::shared_ptr<Geometry>& geometry = geometries_[shape];
-            if (geometry == nullptr) {
-                geometry = std::make_shared<StepGeometry>(reader_, shape, path_, from.at("bodies"));
-            }
-            component.data.geometry = geometry;
-        }
+        component.data.geometry = geometryOf(from.at("shape"), from);
         return component;
     }
 
 private:
+    std::shared_ptr<Geometry> geometryOf(int shape, const json& from) {
+        const std::size_t bodies = from.value("bodies", std::size_t{0});
+        if (shape < 0) {
+            return bodies == 0 ? nullptr : std::make_shared<UnbuiltGeometry>(bodies);
+        }
+        std::shared_ptr<Geometry>& geometry = geometries_[shape];
+        if (geometry == nullptr) {
+            geometry = std::make_shared<StepGeometry>(reader_, shape, path_, bodies);
+        }
+        return geometry;
+    }
+
     static MaterialData materialOf(const json& from) {
         MaterialData material = defaultMaterial();
         if (const std::string name = from.value("material", ""); !name.empty()) {
@@ -162,12 +193,12 @@ void joinRoots(std::vector<ImportedComponent>& components, const json& roots,
     components.insert(components.begin(), std::move(top));
 }
 
-DesignData designFrom(const json& read, const fs::path& given, const fs::path& file,
+DesignData designFrom(const json& read, const ReadableFile& source,
                       const std::shared_ptr<ReaderProcess>& reader) {
     DesignData design;
-    design.name = given.stem().string();
+    design.name = source.path.stem().string();
     design.unit = read.at("unit");
-    Components maker(reader, given.string());
+    Components maker(reader, source.shown);
     std::vector<ImportedComponent> components;
     for (const json& component : read.at("components")) {
         components.push_back(maker.make(component));
@@ -178,8 +209,29 @@ DesignData designFrom(const json& read, const fs::path& given, const fs::path& f
     for (const json& name : read.at("files")) {
         files.emplace_back(name.get<std::string>());
     }
-    design.source = SourceFile{.path = file.string(), .fingerprint = fingerprintOf(files)};
+    if (!source.again.empty()) {
+        design.source =
+            SourceFile{.path = source.again.string(), .fingerprint = fingerprintOf(files)};
+    }
     return design;
+}
+
+DesignData importWith(const std::vector<std::string>& arguments, const ReadableFile& source,
+                      const ReadingLimits& limits, const ImportProgress& progress,
+                      std::vector<ReadingWarning>& warnings) {
+    std::shared_ptr<ReaderProcess> reader;
+    try {
+        reader = std::make_shared<ReaderProcess>(findStepReader(), arguments, limits);
+    } catch (const ReaderFailure& failure) {
+        throw ImportError(source.shown + ": " + failure.what());
+    }
+    const json read = ResponseReader(*reader, source.shown, progress, warnings).design();
+    try {
+        return designFrom(read, source, reader);
+    } catch (const json::exception&) {
+        throw ImportError(source.shown +
+                          ": the reader's response cannot be understood; export the file again");
+    }
 }
 
 }  // namespace
@@ -191,20 +243,21 @@ MaterialData defaultMaterial() {
 DesignData importStep(const std::string& path, const ReadingLimits& limits,
                       const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
     const fs::path file = checkStepFile(path);
-    std::shared_ptr<ReaderProcess> reader;
-    try {
-        reader =
-            std::make_shared<ReaderProcess>(findStepReader(), argumentsFor(file, limits), limits);
-    } catch (const ReaderFailure& failure) {
-        throw ImportError(path + ": " + failure.what());
-    }
-    const json read = ResponseReader(*reader, path, progress, warnings).design();
-    try {
-        return designFrom(read, fs::path(path), file, reader);
-    } catch (const json::exception&) {
-        throw ImportError(path +
-                          ": the reader's response cannot be understood; export the file again");
-    }
+    return importStepFrom(
+        {.path = path, .shown = path, .again = file, .folder = file.parent_path(), .copy = nullptr},
+        limits, progress, warnings);
+}
+
+DesignData importStepFrom(const ReadableFile& source, const ReadingLimits& limits,
+                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    return importWith(argumentsFor(source, limits), source, limits, progress, warnings);
+}
+
+DesignData importTreeFrom(const ReadableFile& source, const ReadingLimits& limits,
+                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    std::vector<std::string> arguments = argumentsFor(source, limits);
+    arguments.emplace_back("tree");
+    return importWith(arguments, source, limits, progress, warnings);
 }
 
 }  // namespace host

@@ -1,5 +1,7 @@
 #include "host/import/step_import.h"
 
+#include "host/import/step_source.h"
+
 namespace host {
 
 MaterialData defaultMaterial() {
@@ -12,6 +14,16 @@ DesignData importStep(const std::string& path, const ReadingLimits& /*limits*/,
     throw ImportError(path +
                       ": STEP files cannot be read on Windows, for want of Open CASCADE; "
                       "open a design file (.json) instead");
+}
+
+DesignData importStepFrom(const ReadableFile& source, const ReadingLimits& limits,
+                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    return importStep(source.shown, limits, progress, warnings);
+}
+
+DesignData importTreeFrom(const ReadableFile& source, const ReadingLimits& limits,
+                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    return importStep(source.shown, limits, progress, warnings);
 }
 
 }  // namespace host

@@ -19,7 +19,8 @@ namespace fs = std::filesystem;
 /// Reads files one inside the other; each once, however often it is referred to.
 class AssemblyReader {
 public:
-    explicit AssemblyReader(Assembly& assembly) : assembly_(assembly) {}
+    AssemblyReader(Assembly& assembly, fs::path folder)
+        : assembly_(assembly), folder_(std::move(folder)) {}
 
     /// The roots of a file.
     std::vector<std::size_t> read(const fs::path& path) {
@@ -75,7 +76,7 @@ private:
     }
 
     void fill(std::size_t index, const fs::path& referring, const std::string& name) {
-        const auto found = findReferenced(referring, name);
+        const auto found = findReferenced(folderOf(referring), name);
         if (!found) {
             const std::string& component = assembly_.components[index].name;
             warn(referring, {.code = "missing-file",
@@ -95,6 +96,11 @@ private:
         }
     }
 
+    /// The first file may be a copy, which is elsewhere than what it refers to.
+    [[nodiscard]] fs::path folderOf(const fs::path& file) const {
+        return file == assembly_.files.front()->path ? folder_ : file.parent_path();
+    }
+
     /// A single root takes the place of the component; several are below it.
     void put(const std::vector<std::size_t>& roots, std::size_t index) {
         if (roots.size() == 1) {
@@ -107,6 +113,7 @@ private:
     }
 
     Assembly& assembly_;
+    fs::path folder_;  ///< of what the first file refers to
     std::map<fs::path, std::vector<std::size_t>> roots_;
 };
 
@@ -157,9 +164,10 @@ private:
 
 }  // namespace
 
-Assembly readAssembly(const fs::path& file, const host::ReadingLimits& limits) {
+Assembly readAssembly(const fs::path& file, const fs::path& folder,
+                      const host::ReadingLimits& limits) {
     Assembly assembly;
-    assembly.roots = AssemblyReader(assembly).read(file);
+    assembly.roots = AssemblyReader(assembly, folder).read(file);
     ContentTaker(assembly).run();
     warnOfDensities(assembly);
     checkTree(assembly, limits);

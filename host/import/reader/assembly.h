@@ -53,9 +53,11 @@ struct Assembly {
     std::vector<Warning> warnings;
 };
 
-/// Reads a file and the files it refers to, without building shapes. Throws `ReadError` for a file
+/// Reads a file and the files it refers to, which are looked for in `folder`, without building
+/// shapes. Throws `ReadError` for a file
 /// that is damaged or holds no product, a product or file that contains itself, and a tree beyond
 /// the limits. A referenced file that is missing or damaged is a warning; its product stays empty.
-Assembly readAssembly(const std::filesystem::path& file, const host::ReadingLimits& limits);
+Assembly readAssembly(const std::filesystem::path& file, const std::filesystem::path& folder,
+                      const host::ReadingLimits& limits);
 
 }  // namespace step

@@ -1,4 +1,5 @@
 #include "host/import/reader/assembly.h"
+#include "host/import/reader/declared_bodies.h"
 #include "host/import/reader/iges.h"
 #include "host/import/reader/process_limits.h"
 #include "host/import/reader/protocol.h"
@@ -13,11 +14,12 @@
 #include <new>
 #include <string>
 
-/// step-reader FILE OCCURRENCES LEVELS SECONDS MEGABYTES
+/// step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES [tree]
 ///
 /// Reads a STEP file (or an IGES file), sends what it holds, and answers requests about its
-/// shapes; see protocol.h. It is a program of its own so that a file which makes Open CASCADE
-/// crash, hang or grow without end takes down nothing but this.
+/// shapes; see protocol.h. With "tree" it builds shapes of a lone part only. It is a program of its
+/// own so that a file which makes Open CASCADE crash, hang or grow without end takes down nothing
+/// but this.
 namespace {
 
 class Progress final : public Message_ProgressIndicator {
@@ -36,6 +38,13 @@ private:
     double shown_ = 0;
 };
 
+struct Task {
+    std::string file;
+    std::string folder;  ///< where the files are that it refers to
+    host::ReadingLimits limits;
+    bool treeOnly = false;
+};
+
 void runIges(const std::string& file) {
     TopTools_IndexedMapOfShape shapes;
     const nlohmann::json design = step::readIges(file, shapes);
@@ -46,19 +55,30 @@ void runIges(const std::string& file) {
     step::answerRequests(std::cin, shapes);
 }
 
-void run(const std::string& file, const host::ReadingLimits& limits) {
+/// An assembly need not be built to know its tree; a lone part is all that its file holds.
+bool isToBeBuilt(const step::Assembly& assembly, const Task& task) {
+    return !task.treeOnly ||
+           (assembly.roots.size() == 1 && assembly.components[assembly.roots.front()].uses.empty());
+}
+
+void run(const Task& task) {
     step::sendLine({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
-    if (step::looksLikeIges(file)) {
-        runIges(file);
+    if (step::looksLikeIges(task.file)) {
+        runIges(task.file);
         return;
     }
-    step::Assembly assembly = step::readAssembly(file, limits);
+    step::Assembly assembly = step::readAssembly(task.file, task.folder, task.limits);
     if (!assembly.files.front()->faults.empty()) {
         step::sendLine({{"faults", assembly.files.front()->faults}});
     }
-    const Handle(Progress) progress = new Progress;
-    const TopTools_IndexedMapOfShape shapes = step::buildShapes(assembly, progress->Start());
-    step::sendLine({{"progress", {{"stage", "Building"}, {"fraction", 1}}}});
+    TopTools_IndexedMapOfShape shapes;
+    if (isToBeBuilt(assembly, task)) {
+        const Handle(Progress) progress = new Progress;
+        shapes = step::buildShapes(assembly, progress->Start());
+        step::sendLine({{"progress", {{"stage", "Building"}, {"fraction", 1}}}});
+    } else {
+        step::countDeclaredBodies(assembly);
+    }
     for (const step::Warning& warning : assembly.warnings) {
         step::sendWarning(warning);
     }
@@ -66,9 +86,9 @@ void run(const std::string& file, const host::ReadingLimits& limits) {
     step::answerRequests(std::cin, shapes);
 }
 
-int runOrReport(const std::string& file, const host::ReadingLimits& limits) {
+int runOrReport(const Task& task) {
     try {
-        run(file, limits);
+        run(task);
         return EXIT_SUCCESS;
     } catch (const step::ReadError& error) {
         step::sendLine({{"error", error.what()}});
@@ -85,16 +105,17 @@ int runOrReport(const std::string& file, const host::ReadingLimits& limits) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    if (count != 6) {
-        std::cerr << "usage: step-reader FILE OCCURRENCES LEVELS SECONDS MEGABYTES\n";
+    if (count != 7 && count != 8) {
+        std::cerr << "usage: step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES [tree]\n";
         return EXIT_FAILURE;
     }
     std::ios::sync_with_stdio(false);
     step::endWithStarter();
-    const host::ReadingLimits limits = {.seconds = std::stod(arguments[4]),
-                                        .megabytes = std::stoul(arguments[5]),
-                                        .occurrences = std::stoul(arguments[2]),
-                                        .levels = std::stoul(arguments[3])};
+    const host::ReadingLimits limits = {.seconds = std::stod(arguments[5]),
+                                        .megabytes = std::stoul(arguments[6]),
+                                        .occurrences = std::stoul(arguments[3]),
+                                        .levels = std::stoul(arguments[4])};
     step::boundProcess(limits);
-    step::endProcess(runOrReport(arguments[1], limits));
+    step::endProcess(runOrReport(
+        {.file = arguments[1], .folder = arguments[2], .limits = limits, .treeOnly = count == 8}));
 }

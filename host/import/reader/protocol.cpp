@@ -1,10 +1,9 @@
 #include "host/import/reader/protocol.h"
 
-#include "host/import/reader/measure.h"
+#include "host/import/reader/measurements.h"
 
 #include <Standard_Failure.hxx>
 
-#include <cmath>
 #include <exception>
 #include <iostream>
 #include <sstream>
@@ -85,7 +84,8 @@ json jsonOf(const Component& component, const std::unordered_map<std::size_t, st
     return result;
 }
 
-json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes) {
+json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes,
+            Measurements& measurements) {
     std::istringstream words(request);
     std::string verb;
     int shape = -1;
@@ -94,11 +94,11 @@ json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes
         return {{"error", "no such shape"}};
     }
     if (verb == "measure") {
-        const Size size = sizeOf(shapes(shape + 1));
-        if (!std::isfinite(size.area) || !std::isfinite(size.volume)) {
-            return {{"error", "its surfaces enclose nothing that could be measured"}};
+        const Measurement measured = measurements.of(static_cast<std::size_t>(shape));
+        if (!measured.failure.empty()) {
+            return {{"error", measured.failure}};
         }
-        return {{"area", size.area}, {"volume", size.volume}};
+        return {{"area", measured.size.area}, {"volume", measured.size.volume}};
     }
     const std::optional<Bounds> bounds = boundsOf(shapes(shape + 1), placementOf(words));
     return bounds ? json{{"min", bounds->min}, {"max", bounds->max}} : json::object();
@@ -144,9 +144,10 @@ json designOf(const Assembly& assembly) {
 }
 
 void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes) {
+    Measurements measurements(shapes);
     for (std::string request; std::getline(requests, request);) {
         try {
-            sendLine(answer(request, shapes));
+            sendLine(answer(request, shapes, measurements));
         } catch (const Standard_Failure& failure) {
             sendLine({{"error", failure.GetMessageString()}});
         } catch (const std::exception& failure) {

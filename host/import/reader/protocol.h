@@ -20,6 +20,9 @@
 ///     box SHAPE C0 ... C11           {"min": [x, y, z], "max": [x, y, z]} in cm, or {} without
 ///     extent
 ///
+/// A component of the design has the number of its shape, or -1 where it has none, and of its
+/// bodies; bodies without a shape were not built.
+///
 /// C0 to C11 are the first three rows of a placement, translation in cm. A response that cannot be
 /// computed is {"error": "..."}.
 namespace step {

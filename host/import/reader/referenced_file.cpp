@@ -45,10 +45,9 @@ std::optional<fs::path> findIn(const fs::path& folder, const fs::path& name) {
 
 }  // namespace
 
-std::optional<fs::path> findReferenced(const fs::path& referring, const std::string& name) {
+std::optional<fs::path> findReferenced(const fs::path& folder, const std::string& name) {
     std::string slashed = name;
     std::replace(slashed.begin(), slashed.end(), '\\', '/');
-    const fs::path folder = referring.parent_path();
     if (auto found = findIn(folder, slashed)) {
         return found;
     }

@@ -17,6 +17,7 @@
 #include <charconv>
 #include <cstddef>
 #include <fstream>
+#include <future>
 #include <iterator>
 #include <map>
 #include <string_view>
@@ -134,9 +135,13 @@ bool matters(const std::string& complaint, std::string_view kind) {
 
 }  // namespace
 
-StepFile::StepFile(const std::filesystem::path& file) : path(file), texts(contentOf(file)) {
+StepFile::StepFile(const std::filesystem::path& file) : path(file) {
     const MessageCollector listening;
+    // The two have nothing in common but the bytes.
+    std::future<Part21Texts> bytes =
+        std::async(std::launch::async, [&file] { return Part21Texts(contentOf(file)); });
     const IFSelect_ReturnStatus status = reader.ReadFile(path.c_str());
+    texts = bytes.get();
     const std::vector<std::string>& syntax = listening.listener->syntax;
     if (!syntax.empty()) {
         throw ReadError("is cut off or damaged (" +

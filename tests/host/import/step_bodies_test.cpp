@@ -1,13 +1,16 @@
 #include "host/import/step_import.h"
 
 #include "samples/product.h"
+#include "samples/samples.h"
 #include "tests/host/import/drafts.h"
 #include "tests/host/import/step_text_edits.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
 
 #include <memory>
+#include <vector>
 
 /// What counts as the bodies of a part.
 namespace {
@@ -75,6 +78,35 @@ TEST_F(StepBodies, ASurfaceBesideASolidCountsWithItsAreaAndItsBox) {
     EXPECT_NEAR(both->area(), 13, 1e-9);
     EXPECT_NEAR(both->volume(), 1, 1e-9);  // a surface encloses nothing
     EXPECT_NEAR(both->box({})->max[0], 5.5, 1e-7);
+}
+
+/// Areas and volumes of all components that have a shape.
+std::vector<double> measuresOf(const std::string& file) {
+    std::vector<double> all;
+    for (const host::ComponentData& component : drafts::import(file).components) {
+        if (component.geometry != nullptr) {
+            all.push_back(component.geometry->area());
+            all.push_back(component.geometry->volume());
+        }
+    }
+    return all;
+}
+
+TEST_F(StepBodies, AllProcessorsMeasureTheSameAsOne) {
+    const std::string file = folder.write("gearbox.step", samples::planetaryGearbox());
+    cpu_set_t all;
+    ASSERT_EQ(::sched_getaffinity(0, sizeof all, &all), 0);
+    cpu_set_t one;
+    CPU_ZERO(&one);
+    CPU_SET(::sched_getcpu(), &one);
+
+    const std::vector<double> together = measuresOf(file);
+    ASSERT_EQ(::sched_setaffinity(0, sizeof one, &one), 0);
+    const std::vector<double> inSequence = measuresOf(file);
+    ::sched_setaffinity(0, sizeof all, &all);
+
+    EXPECT_EQ(together, inSequence);  // bit for bit
+    EXPECT_EQ(together.size(), 28U);  // of 14 parts
 }
 
 TEST_F(StepBodies, ASinglePartHasOneBody) { EXPECT_EQ(plateIn(plateAndCube())->bodies(), 1U); }
