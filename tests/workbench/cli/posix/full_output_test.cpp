@@ -36,7 +36,10 @@ INSTANTIATE_TEST_SUITE_P(Commands, FullOutput,
                                          std::vector<std::string>{"configure"},
                                          std::vector<std::string>{"helpdesk", "system-info"},
                                          std::vector<std::string>{"move-to-origin", "FILE",
-                                                                  "--save"}),
+                                                                  "--save"},
+                                         std::vector<std::string>{"commands"},
+                                         std::vector<std::string>{"dialog", "QM_TX_BOM", "FILE"},
+                                         std::vector<std::string>{"manual"}),
                          [](const auto& tested) {
                              std::string name = tested.param.front();
                              std::erase(name, '-');
