@@ -130,18 +130,25 @@ void readBodies(const fs::path& path, ReadDesign& design, const ReadSource& read
 
 }  // namespace
 
-void saveDesignFile(const fs::path& path, const DesignData& data) {
+AtomicFile stageDesignFile(const fs::path& path, const DesignData& data) {
     try {
         checkDesign(data);
         nlohmann::ordered_json json = {{"format", kFormat}, {"version", kVersion}};
         json.update(toJson(data));
         // One line for each component would be best to compare; an indent of one comes near.
-        writeFileAtomically(path,
-                            json.dump(/*indent=*/1, /*indent_char=*/' ', /*ensure_ascii=*/false,
-                                      nlohmann::json::error_handler_t::replace) +
-                                "\n");
+        return {path, json.dump(/*indent=*/1, /*indent_char=*/' ', /*ensure_ascii=*/false,
+                                nlohmann::json::error_handler_t::replace) +
+                          "\n"};
     } catch (const DesignError& error) {
         refuse(path, error.what());
+    } catch (const std::system_error& error) {
+        refuse(path, error.what());
+    }
+}
+
+void saveDesignFile(const fs::path& path, const DesignData& data) {
+    try {
+        stageDesignFile(path, data).commit();
     } catch (const std::system_error& error) {
         refuse(path, error.what());
     }

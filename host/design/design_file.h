@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/design/atomic_file.h"
 #include "host/design/design_check.h"
 #include "host/design/design_data.h"
 
@@ -24,6 +25,9 @@ using ReadSource = std::function<DesignData(const SourceFile&)>;
 /// Bytes of a string that are not UTF-8 become U+FFFD. Throws `DesignError` that names the file and
 /// the reason, for a design that does not fulfil `checkDesign` too; the old file is then kept.
 void saveDesignFile(const std::filesystem::path& path, const DesignData& data);
+
+/// The same up to the moment at which the file takes its name, which the caller decides.
+AtomicFile stageDesignFile(const std::filesystem::path& path, const DesignData& data);
 
 /// Reads a design that `saveDesignFile` wrote, or that was written by hand.
 ///

@@ -1,6 +1,7 @@
 #include "host/design/atomic_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,15 +28,22 @@ public:
     ~Descriptor() { close(); }
 
     [[nodiscard]] int number() const { return number_; }
+    int release() { return std::exchange(number_, -1); }
 
-    bool close() {
+    void close() {
         const int number = std::exchange(number_, -1);
-        return number < 0 || ::close(number) == 0;
+        if (number >= 0) {
+            (void)::close(number);
+        }
     }
 
 private:
     int number_;
 };
+
+fs::path folderOf(const fs::path& file) {
+    return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
 
 /// The file that a link leads to; the path itself where there is none yet.
 fs::path target(const fs::path& path) {
@@ -44,20 +52,56 @@ fs::path target(const fs::path& path) {
     return error ? path : real;
 }
 
+constexpr std::string_view kNewMark = ".new-";
+
+/// Whether a name is that of a new file beside `path`: its own, the mark, and two numbers.
+bool isNewFileOf(const fs::path& path, const std::string& name) {
+    const std::string begin = path.filename().string() + std::string(kNewMark);
+    return name.size() > begin.size() && name.starts_with(begin) &&
+           name.find_first_not_of("0123456789-", begin.size()) == std::string::npos;
+}
+
+/// False while the process that wrote a new file still needs it: that holds a lock on it.
+bool isAbandoned(const fs::path& file) {
+    const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    return opened.number() >= 0 && ::flock(opened.number(), LOCK_EX | LOCK_NB) == 0;
+}
+
+/// Removes the new files beside `path` that processes left which were killed.
+void removeAbandoned(const fs::path& path) {
+    std::error_code ignored;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folderOf(path), ignored)) {
+        if (isNewFileOf(path, entry.path().filename().string()) && isAbandoned(entry.path())) {
+            (void)::unlink(entry.path().c_str());
+        }
+    }
+}
+
+/// Takes the lock of a file that was just created; false where a process that removes abandoned
+/// ones was quicker.
+bool hold(int number, const fs::path& created) {
+    struct ::stat there = {};
+    return ::flock(number, LOCK_EX | LOCK_NB) == 0 && ::stat(created.c_str(), &there) == 0;
+}
+
 int createBeside(const fs::path& path, fs::path& created) {
     for (int attempt = 0; attempt < 100; ++attempt) {
         created = path;
-        created += ".new-" + std::to_string(::getpid()) + "-" + std::to_string(attempt);
-        const int number = ::open(created.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (number >= 0 || errno != EEXIST) {
-            return number;
+        created +=
+            std::string(kNewMark) + std::to_string(::getpid()) + "-" + std::to_string(attempt);
+        Descriptor file(::open(created.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file.number() < 0 && errno != EEXIST) {
+            return -1;
+        }
+        if (file.number() >= 0 && hold(file.number(), created)) {
+            return file.release();
         }
     }
     return -1;
 }
 
 /// The error of the first step that fails, 0 when the content has come down to the disk.
-int fill(Descriptor& file, const fs::path& replaced, std::string_view content) {
+int fill(const Descriptor& file, const fs::path& replaced, std::string_view content) {
     struct ::stat before = {};
     if (::stat(replaced.c_str(), &before) == 0 &&
         ::fchmod(file.number(), before.st_mode & 07777) != 0) {
@@ -70,14 +114,13 @@ int fill(Descriptor& file, const fs::path& replaced, std::string_view content) {
         }
         content.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
     }
-    return ::fsync(file.number()) == 0 && file.close() ? 0 : errno;
+    return ::fsync(file.number()) == 0 ? 0 : errno;
 }
 
 /// Makes the new name last. The content is safe already, so a folder that cannot be synced is no
 /// failure.
 void syncFolder(const fs::path& file) {
-    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor opened(::open(folderOf(file).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.number() >= 0) {
         (void)::fsync(opened.number());
     }
@@ -85,22 +128,41 @@ void syncFolder(const fs::path& file) {
 
 }  // namespace
 
-void writeFileAtomically(const fs::path& path, std::string_view content) {
-    const fs::path real = target(path);
-    fs::path created;
-    Descriptor file(createBeside(real, created));
+AtomicFile::AtomicFile(const fs::path& path, std::string_view content) : path_(target(path)) {
+    removeAbandoned(path_);
+    Descriptor file(createBeside(path_, created_));
     if (file.number() < 0) {
         throwSystemError(errno, "cannot be created");
     }
-    int error = fill(file, real, content);
-    if (error == 0 && ::rename(created.c_str(), real.c_str()) != 0) {
-        error = errno;
-    }
-    if (error != 0) {
-        (void)::unlink(created.c_str());
+    if (const int error = fill(file, path_, content); error != 0) {
+        (void)::unlink(created_.c_str());
         throwSystemError(error, "cannot be written");
     }
-    syncFolder(real);
+    hold_ = file.release();
+}
+
+AtomicFile::AtomicFile(AtomicFile&& other) noexcept
+    : path_(std::move(other.path_)),
+      created_(std::exchange(other.created_, {})),
+      hold_(std::exchange(other.hold_, -1)) {}
+
+AtomicFile::~AtomicFile() {
+    if (!created_.empty()) {
+        (void)::unlink(created_.c_str());
+    }
+    const Descriptor closed(static_cast<int>(hold_));
+}
+
+void AtomicFile::commit() {
+    if (::rename(created_.c_str(), path_.c_str()) != 0) {
+        throwSystemError(errno, "cannot be written");
+    }
+    created_.clear();
+    syncFolder(path_);
+}
+
+void writeFileAtomically(const fs::path& path, std::string_view content) {
+    AtomicFile(path, content).commit();
 }
 
 }  // namespace host

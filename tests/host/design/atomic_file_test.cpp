@@ -11,12 +11,12 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
-class AtomicFile : public testing::Test {
+class AtomicFiles : public testing::Test {
 protected:
     test_support::TemporaryFolder folder;
 };
 
-TEST_F(AtomicFile, IsCreatedWithItsContent) {
+TEST_F(AtomicFiles, IsCreatedWithItsContent) {
     const std::string content = std::string("a\r\n\0b\n", 6);
 
     writeFileAtomically(folder.path() / "new", content);
@@ -25,7 +25,7 @@ TEST_F(AtomicFile, IsCreatedWithItsContent) {
     EXPECT_EQ(folder.names(), Names{"new"});
 }
 
-TEST_F(AtomicFile, ReplacesTheOldContentAsAWhole) {
+TEST_F(AtomicFiles, ReplacesTheOldContentAsAWhole) {
     folder.write("file", "a long old content");
 
     writeFileAtomically(folder.path() / "file", "new");
@@ -34,7 +34,7 @@ TEST_F(AtomicFile, ReplacesTheOldContentAsAWhole) {
     EXPECT_EQ(folder.names(), Names{"file"});
 }
 
-TEST_F(AtomicFile, NameMayBeAnyText) {
+TEST_F(AtomicFiles, NameMayBeAnyText) {
     const fs::path path = folder.path() / fs::path(u8"P\u0159evodovka \u6f22.json");
 
     writeFileAtomically(path, "x");
@@ -42,13 +42,13 @@ TEST_F(AtomicFile, NameMayBeAnyText) {
     EXPECT_EQ(folder.read(path), "x");
 }
 
-TEST_F(AtomicFile, MissingFolderIsAnError) {
+TEST_F(AtomicFiles, MissingFolderIsAnError) {
     EXPECT_THROW(writeFileAtomically(folder.path() / "none" / "file", "x"), std::system_error);
 
     EXPECT_EQ(folder.names(), Names());
 }
 
-TEST_F(AtomicFile, FolderOfTheSameNameIsKeptAndNothingIsLeftBesideIt) {
+TEST_F(AtomicFiles, FolderOfTheSameNameIsKeptAndNothingIsLeftBesideIt) {
     fs::create_directory(folder.path() / "taken");
 
     EXPECT_THROW(writeFileAtomically(folder.path() / "taken", "x"), std::system_error);
@@ -57,16 +57,56 @@ TEST_F(AtomicFile, FolderOfTheSameNameIsKeptAndNothingIsLeftBesideIt) {
     EXPECT_TRUE(fs::is_directory(folder.path() / "taken"));
 }
 
-TEST_F(AtomicFile, LeftoverOfAnotherWriterIsNotTouched) {
-    folder.write("file.new-1-0", "theirs");
+TEST_F(AtomicFiles, NothingChangesUntilTheCommit) {
+    folder.write("file", "old");
+
+    AtomicFile staged(folder.path() / "file", "new");
+    EXPECT_EQ(folder.read("file"), "old");
+    staged.commit();
+
+    EXPECT_EQ(folder.read("file"), "new");
+    EXPECT_EQ(folder.names(), Names{"file"});
+}
+
+TEST_F(AtomicFiles, WithoutACommitNothingIsLeft) {
+    folder.write("file", "old");
+
+    { const AtomicFile staged(folder.path() / "file", "new"); }
+
+    EXPECT_EQ(folder.read("file"), "old");
+    EXPECT_EQ(folder.names(), Names{"file"});
+}
+
+TEST_F(AtomicFiles, WhatAKilledProcessLeftBesideIsRemoved) {
+    // No system has a process of this number.
+    folder.write("file.new-4294967294-0", "half");
+
+    writeFileAtomically(folder.path() / "file", "new");
+
+    EXPECT_EQ(folder.names(), Names{"file"});
+}
+
+TEST_F(AtomicFiles, WhatAnotherStillWritesStays) {
+    AtomicFile theirs(folder.path() / "file", "theirs");
+
+    writeFileAtomically(folder.path() / "file", "ours");
+    theirs.commit();
+
+    EXPECT_EQ(folder.read("file"), "theirs");
+}
+
+TEST_F(AtomicFiles, FilesWithSimilarNamesStay) {
+    const Names similar = {"file.new-", "file.new-draft", "my file.new-1-0"};
+    for (const std::string& each : similar) {
+        folder.write(each, "mine");
+    }
 
     writeFileAtomically(folder.path() / "file", "ours");
 
-    EXPECT_EQ(folder.read("file.new-1-0"), "theirs");
-    EXPECT_EQ(folder.names(), (Names{"file", "file.new-1-0"}));
+    EXPECT_EQ(folder.names(), (Names{"file", "file.new-", "file.new-draft", "my file.new-1-0"}));
 }
 
-TEST_F(AtomicFile, LinkIsFollowed) {
+TEST_F(AtomicFiles, LinkIsFollowed) {
     folder.write("real", "old");
     std::error_code error;
     fs::create_symlink("real", folder.path() / "link", error);
@@ -78,7 +118,7 @@ TEST_F(AtomicFile, LinkIsFollowed) {
     EXPECT_EQ(folder.read("real"), "new");
 }
 
-TEST_F(AtomicFile, PermissionsOfAReplacedFileAreKept) {
+TEST_F(AtomicFiles, PermissionsOfAReplacedFileAreKept) {
     folder.write("file", "old");
     const fs::perms ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
     fs::permissions(folder.path() / "file", ownerOnly);
