@@ -19,9 +19,13 @@ namespace {
 
 using namespace adsk::core;
 
-SessionFolder makeFolder(const SessionOptions& options) {
-    return options.home.empty() ? SessionFolder::makeFresh(options.scratchRoot)
-                                : SessionFolder::keep(options.home, options.lockTimeout);
+std::shared_ptr<const SessionFolder> folderFor(const SessionOptions& options) {
+    if (options.folder) {
+        return options.folder;
+    }
+    return std::make_shared<const SessionFolder>(
+        options.home.empty() ? SessionFolder::makeFresh(options.scratchRoot)
+                             : SessionFolder::keep(options.home, options.lockTimeout));
 }
 
 DesignData emptyDesign() {
@@ -54,7 +58,7 @@ SessionOptions onlySession(SessionOptions options) {
 Session::Session(SessionOptions options)
     : options_(onlySession(std::move(options))),
       installed_(findAddin(options_.addin)),
-      folder_(makeFolder(options_)) {
+      folder_(folderFor(options_)) {
     try {
         begin();
     } catch (...) {
@@ -66,10 +70,10 @@ Session::Session(SessionOptions options)
 Session::~Session() { end(); }
 
 void Session::begin() {
-    unloadLeftModule(folder_.path() / fromUtf8(installed_.name) / installed_.module().filename());
-    addin_ = copyAddin(installed_, folder_.path());
-    sandbox_.emplace(folder_.path(), options_.useUserTempDir ? TemporaryFiles::UserTempDir
-                                                             : TemporaryFiles::Private);
+    unloadLeftModule(folder_->path() / fromUtf8(installed_.name) / installed_.module().filename());
+    addin_ = copyAddin(installed_, folder_->path());
+    sandbox_.emplace(folder_->path(), options_.useUserTempDir ? TemporaryFiles::UserTempDir
+                                                              : TemporaryFiles::Private);
     host_.emplace(options_.host);
     shell_requests::setPolicy(options_.shell);
     system_overrides::set(options_.system);
@@ -85,12 +89,14 @@ void Session::end() noexcept {
     data_.reset();
     if (options_.unloadAtEnd) {
         module_.unload();
-    } else if (wasLoaded && !options_.home.empty()) {
+    } else if (wasLoaded && (options_.folder || !options_.home.empty())) {
         processState().leftModules[addin_.module()] = module_;
     }
     sandbox_.reset();
-    const bool stays = wasLoaded && !options_.unloadAtEnd;
-    folder_.discard(stays ? addin_.module() : std::filesystem::path());
+    if (!options_.folder) {
+        const bool stays = wasLoaded && !options_.unloadAtEnd;
+        folder_->discard(stays ? addin_.module() : std::filesystem::path());
+    }
 }
 
 bool Session::call(const char* entry, const char* context) {

@@ -51,6 +51,10 @@ struct SessionOptions {
     /// settings in it, and is locked while the session lives.
     std::filesystem::path home;
 
+    /// A folder that sessions one after another share, in the place of `home`. The caller discards
+    /// it after the last of them.
+    std::shared_ptr<const SessionFolder> folder;
+
     /// Where fresh folders are made; empty: the system's folder for temporary files.
     std::filesystem::path scratchRoot;
 
@@ -97,7 +101,7 @@ public:
     [[nodiscard]] const AddinFiles& addin() const { return addin_; }
 
     /// The folder that holds that copy, the working directory and the temporary folder.
-    [[nodiscard]] const std::filesystem::path& folder() const { return folder_.path(); }
+    [[nodiscard]] const std::filesystem::path& folder() const { return folder_->path(); }
     /// @}
 
     /// @name Documents
@@ -236,7 +240,7 @@ private:
 
     SessionOptions options_;
     AddinFiles installed_;
-    SessionFolder folder_;
+    std::shared_ptr<const SessionFolder> folder_;
     AddinFiles addin_;
     std::optional<ProcessSandbox> sandbox_;
     std::optional<RunningHost> host_;

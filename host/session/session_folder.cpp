@@ -17,19 +17,39 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kPrefix = "standin-";
+constexpr std::size_t kDigits = 9;
 
-/// Removes what processes that no longer live left in `parent`.
+/// Whether a name is one that `makeProcessFolder` gives: folders of others are not touched.
+bool isOfAProcess(const std::string& name) {
+    const std::string prefix = kPrefix;
+    return name.size() == prefix.size() + kDigits && name.starts_with(prefix) &&
+           name.find_first_not_of("0123456789", prefix.size()) == std::string::npos;
+}
+
+/// Removes the folder of a process that no longer lives. One that was killed early left no lock.
+void removeIfAbandoned(const fs::path& folder) {
+    std::error_code ignored;
+    std::unique_ptr<FolderLock> lock = FolderLock::take(folder);
+    if (lock) {
+        // While the lock is held: its owner could be about to take it.
+        fs::remove_all(folder, ignored);
+        lock.reset();
+        // Some systems do not remove a locked file.
+        fs::remove(folder / "lock", ignored);
+        fs::remove(folder, ignored);
+    }
+}
+
 void removeLeftovers(const fs::path& parent) {
     std::error_code ignored;
-    std::vector<fs::path> left;
+    std::vector<fs::path> folders;
     for (const fs::directory_entry& entry : fs::directory_iterator(parent, ignored)) {
-        if (toUtf8(entry.path().filename()).rfind(kPrefix, 0) == 0 &&
-            fs::exists(entry.path() / "lock", ignored) && FolderLock::take(entry.path())) {
-            left.push_back(entry.path());
+        if (isOfAProcess(toUtf8(entry.path().filename())) && entry.is_directory(ignored)) {
+            folders.push_back(entry.path());
         }
     }
-    for (const fs::path& folder : left) {
-        fs::remove_all(folder, ignored);
+    for (const fs::path& folder : folders) {
+        removeIfAbandoned(folder);
     }
 }
 
@@ -47,7 +67,8 @@ ProcessFolder makeProcessFolder(const fs::path& parent) {
         const fs::path folder = parent / (kPrefix + randomDigits());
         if (environment::makePrivateFolder(folder)) {
             // Another process that cleans up may have been quicker than this lock.
-            if (std::unique_ptr<FolderLock> lock = FolderLock::take(folder)) {
+            std::unique_ptr<FolderLock> lock = FolderLock::take(folder);
+            if (lock && fs::exists(folder / "lock")) {
                 return {folder, std::move(lock)};
             }
         }

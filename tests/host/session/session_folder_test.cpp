@@ -64,6 +64,15 @@ TEST_F(SessionFolders, WhatAProcessLeftBehindIsRemoved) {
     EXPECT_FALSE(fs::exists(left));
 }
 
+TEST_F(SessionFolders, WhatAProcessLeftBehindThatWasKilledBeforeItHadALockIsRemoved) {
+    const fs::path left = place.path() / "standin-123456789";
+    fs::create_directories(left);
+
+    SessionFolder::makeFresh(place.path());
+
+    EXPECT_FALSE(fs::exists(left));
+}
+
 TEST_F(SessionFolders, WhatAnotherUsesIsNotRemoved) {
     const fs::path used = place.path() / "standin-123456789";
     fs::create_directories(used / "1");

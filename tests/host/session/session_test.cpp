@@ -249,6 +249,24 @@ TEST_F(SessionWithAddin, ASecondOneInTheProcessIsRefusedAndDoesNotDisturbTheFirs
     EXPECT_TRUE(session->run());
 }
 
+TEST_F(SessionWithAddin, OnesAfterAnotherMayShareAFolder) {
+    const test_support::TemporaryFolder place;
+    SessionOptions options = addinOptions();
+    options.folder =
+        std::make_shared<const host::SessionFolder>(host::SessionFolder::makeFresh(place.path()));
+    restart(options);
+    configure({"QEMA_Mass;Weight"});
+    restart(options);
+    ASSERT_TRUE(session->run());
+    open("Bolt  box=10x10x10");
+
+    showModel();
+
+    EXPECT_EQ(table(), "1 | Part | Bolt | 7.850");
+    endSession();
+    EXPECT_TRUE(fs::exists(options.folder->path() / "Tarnix"));
+}
+
 TEST_F(SessionWithAddin, AHomeKeepsWhatTheAddinWrote) {
     SessionOptions options = addinOptions();
     options.home = session->folder().parent_path() / "home";
