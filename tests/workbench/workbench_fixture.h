@@ -23,7 +23,10 @@ namespace test_support {
 /// The built program, with a user of its own who has not used it yet.
 class Workbench : public testing::Test {
 protected:
-    void SetUp() override { variables.setUserData(folder.path() / "data"); }
+    void SetUp() override {
+        variables.setUserData(folder.path() / "data");
+        variables.set("LC_ALL", "C.UTF-8");
+    }
 
     /// A design file with a drawn design.
     std::string design(const std::string& outline, const std::string& name = "sample") {

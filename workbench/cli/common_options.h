@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/cli/addin_choice.h"
+
 #include "host/import/read_design.h"
 
 #include <CLI/CLI.hpp>
@@ -24,11 +26,18 @@ Options& optionsFor(CLI::App& command, void (*run)(const Options&)) {
 /// The design to open.
 void addFile(CLI::App& command, std::string& file);
 
-/// What reading the design may take.
-void addLimits(CLI::App& command, host::ReadingLimits& limits);
+/// How to read the design.
+struct ReadingOptions {
+    host::ReadingLimits limits;
+    bool strict = false;                         ///< a warning is a failure
+    std::optional<host::MaterialData> material;  ///< of parts for which one would be assumed
+};
 
-/// The folder of the add-in; empty unless it is given, for the one beside the program.
-void addAddin(CLI::App& command, std::string& folder);
+/// What reading the design may take, and what its warnings mean.
+void addReading(CLI::App& command, ReadingOptions& reading);
+
+/// Which add-in to use, and the folder with its settings.
+void addAddin(CLI::App& command, AddinChoice& choice);
 
 /// "--format", one of these names.
 void addFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names);

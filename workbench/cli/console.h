@@ -14,6 +14,12 @@ void prepare();
 /// The command line in UTF-8, the program's name first.
 std::vector<std::string> arguments(int count, char** values);
 
+/// What a terminal of this user can show.
+enum class Charset { Ascii, Utf8 };
+
+/// As the user's locale says.
+Charset charset();
+
 /// True when stdout or stderr goes to a terminal.
 bool outputIsTerminal();
 bool errorIsTerminal();

@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// The exit status of the program. Anything but `Success` comes with one line on stderr, and with
+/// The exit status of the program. Anything but `Success` comes with a line on stderr, and with
 /// no output file written or changed, except by commands that open several files.
 enum class ExitCode : int {
     Success = 0,

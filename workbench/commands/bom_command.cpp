@@ -1,4 +1,5 @@
 #include "workbench/cli/common_options.h"
+#include "workbench/cli/console.h"
 #include "workbench/cli/exit_code.h"
 #include "workbench/commands/bom_request.h"
 #include "workbench/commands/commands.h"
@@ -6,12 +7,12 @@
 #include "workbench/dialogs/uncaught.h"
 #include "workbench/output/design_files.h"
 #include "workbench/output/display_text.h"
-#include "workbench/output/output_file.h"
 #include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <iostream>
 
@@ -22,9 +23,10 @@ namespace fs = std::filesystem;
 
 struct BomOptions {
     std::string file;
-    host::ReadingLimits limits;
+    ReadingOptions reading;
     BomRequest request;
     std::optional<std::string> saveFile;  ///< see `saveTarget`
+    std::string editedList;               ///< file of a list that was edited; empty: none
     std::string out;               ///< folder for the exported file; empty: it stays where it is
     std::string format = "table";  ///< "table", "csv" or "json"
     bool verbose = false;          ///< also reports what the add-in always throws
@@ -41,39 +43,39 @@ void reportThrown(const BomResult& result, bool verbose) {
     refuseUnexpected(result.thrown);
 }
 
-/// The exported file where the user wants it, by default where the add-in put it.
-fs::path deliver(const BomResult& result, const std::string& folder, WrittenFiles& written) {
-    if (folder.empty()) {
+/// The exported file where the user wants it, by default where the add-in put it; none where it
+/// does not stay.
+fs::path deliver(const BomResult& result, const std::string& folder, StagedFiles& files) {
+    if (folder.empty() || result.exported.empty()) {
         return result.exportFile;
     }
-    if (result.exportFile.empty()) {
-        throw Failure(ExitCode::OutputFailed, "the add-in exported nothing: the table has no rows");
-    }
     fs::path file = host::fromUtf8(folder) / kExportFile;
-    written.watch(file);
-    writeWhole(file, result.exported);
+    files.add(file, result.exported);
     return file;
 }
 
-std::string formatted(const BomResult& result, const std::string& format) {
+std::string formatted(const BomResult& result, const std::string& format,
+                      const std::vector<host::ReadingWarning>& warnings) {
     if (format == "csv") {
         return result.exported;
     }
-    return format == "json" ? asJson(result.list) : asTable(result.list);
+    return format == "json" ? asJson(result.list, warnings)
+                            : asTable(result.list, console::charset());
 }
 
-void reportExport(std::ostream& stream, const fs::path& file) {
-    if (file.empty()) {
+void reportExport(std::ostream& stream, const BomResult& result, const fs::path& file) {
+    if (result.exported.empty()) {
         stream << kExportFile << ": not written, the table has no rows\n";
-    } else {
+    } else if (!file.empty()) {
         stream << kExportFile << ": " << printable(host::toUtf8(file)) << "\n";
     }
 }
 
 /// Prints the list, and then where everything is.
-void print(const BomResult& result, const BomOptions& options, const fs::path& exported,
+void print(const BomResult& result, const BomOptions& options,
+           const std::vector<host::ReadingWarning>& warnings, const fs::path& exported,
            const fs::path& design) {
-    std::cout << formatted(result, options.format) << std::flush;
+    std::cout << formatted(result, options.format, warnings) << std::flush;
     // What other programs read stays free of remarks.
     const bool isForPeople = options.format == "table";
     std::ostream& remarks = isForPeople ? std::cout : std::cerr;
@@ -81,28 +83,51 @@ void print(const BomResult& result, const BomOptions& options, const fs::path& e
     if (!design.empty()) {
         reportSaved(remarks, design);
     }
-    reportExport(remarks, exported);
+    if (result.isLonePart) {
+        remarks << "the file is one part; the list shows what is below the root\n";
+    }
+    reportExport(remarks, result, exported);
     reportShellRequests(remarks, result.shell, options.request.open);
+    flushOutput();
 }
 
 /// Opens a design, has the add-in make its parts list and export it, and prints the list. With
-/// "--save" what is printed is the saved design opened again. Where any of this fails, nothing is
-/// printed and nothing written.
+/// "--save" what is printed is the saved design opened again. All is printed before the first file
+/// is written: where that fails, and where anything did before, no file is.
 void runBom(const BomOptions& options) {
     BomRequest request = options.request;
     request.save = options.saveFile.has_value();
-    checkRequest(request);
-    const fs::path design = request.save ? saveTarget(options.file, *options.saveFile) : fs::path();
-    WrittenFiles written;
-    const BomResult result =
-        runBomDialog(readDesign(options.file, options.limits), request, written);
-    reportThrown(result, options.verbose);
-    const fs::path exported = deliver(result, options.out, written);
-    if (result.saved) {
-        saveDesign(*result.saved, design);
+    if (!options.editedList.empty()) {
+        request.edits.list = readEditedList(options.editedList);
     }
-    written.keep();
-    print(result, options, exported, design);
+    checkRequest(request);
+    request.addin.lockTimeout =
+        std::chrono::seconds(static_cast<long>(options.reading.limits.seconds));
+    const SaveTarget design =
+        request.save ? saveTarget(options.file, *options.saveFile) : SaveTarget();
+    BomRun run(request);
+    std::vector<host::ReadingWarning> warnings;
+    const BomResult result = run.make(readDesign(options.file, options.reading, &warnings));
+    reportThrown(result, options.verbose);
+    StagedFiles files;
+    const fs::path exported = deliver(result, options.out, files);
+    if (result.saved) {
+        files.addDesign(design.path, *result.saved, design.before);
+    }
+    run.stageSettings(files);
+    print(result, options, warnings, exported, design.name);
+    files.commit();
+}
+
+void addEditedList(CLI::App& command, BomOptions& options) {
+    command
+        .add_option(
+            "--set-from", options.editedList,
+            "Edit the cells in which this list differs from the one of the tab: an export\n"
+            "that was edited in a spreadsheet. Its lines are found by their column Path, if\n"
+            "it has one, else by their part numbers. Nothing is saved unless all of it can\n"
+            "be applied. Requires --save")
+        ->type_name("FILE.csv");
 }
 
 /// What to print, and where to put the export.
@@ -135,10 +160,15 @@ void addActions(CLI::App& command, BomRequest& request) {
         .add_option_function<Values>(
             "--column",
             [&request](const Values& values) { request.columns = parseColumns(values); },
-            "A column to show: up to six, in this order. The choice is kept. CAPTION is the\n"
-            "caption over the column, by default the name of the property")
+            "A column to show in this run: up to six, in this order. CAPTION is the caption over\n"
+            "the column, by default the name of the property. Without this option the stored\n"
+            "columns show, else Quantity, Part Name, Mass and Physical Material")
         ->type_name("PROPERTY[=CAPTION]")
         ->allow_extra_args(false);
+    command.add_flag("--keep-columns", request.keepColumns,
+                     "Store the columns of this run for later ones");
+    command.add_flag("--no-columns", request.noColumns,
+                     "Show no free columns, and remove the stored ones");
     command
         .add_option_function<std::string>(
             "--sort", [&request](const std::string& value) { request.sort = parseSort(value); },
@@ -152,11 +182,17 @@ void addActions(CLI::App& command, BomRequest& request) {
         ->type_name("all|LEVEL");
     command
         .add_option_function<Values>(
-            "--set", [&request](const Values& values) { request.edits = parseEdits(values); },
+            "--set",
+            [&request](const Values& values) {
+                checkCellNames(values);
+                request.edits.cells = values;
+            },
             "Edit a cell of the tab; may be repeated. CELL is ROW:COLUMN: ROW counts the\n"
-            "printed lines from 1, as they are before any --set; COLUMN is a printed caption,\n"
-            "or the property of a column. Example:\n"
-            "--set '2:Part Number=P-7' --set '2:BOM Structure=Buy'. Requires --save")
+            "printed lines from 1, as they are before any --set, or is the path of an\n"
+            "occurrence, or a part number, which names all rows that have it; COLUMN is a\n"
+            "printed caption, or the property of a column. Example:\n"
+            "--set '2:Part Number=P-7' --set 'P-9:BOM Structure=Buy'. An edit that the design\n"
+            "does not take is an error, and nothing is saved then. Requires --save")
         ->type_name("CELL=VALUE")
         ->allow_extra_args(false);
 }
@@ -171,15 +207,16 @@ void addBomCommand(CLI::App& program) {
     addTab(command, options.request);
     addOutput(command, options);
     addActions(command, options.request);
+    addEditedList(command, options);
     addSave(command, options.saveFile,
             "Press \"Save Changes and Close\", which writes the tab into the design, and save\n"
             "that as a design file: by default the one that was opened, else a new one beside\n"
-            "FILE. Of rows with the same component, the last one wins");
+            "FILE");
     command.add_flag("--open", options.request.open, "Let the add-in open its workbook");
     command.add_flag("--verbose", options.verbose,
                      "Also report the exceptions that the add-in always throws");
     addAddin(command, options.request.addin);
-    addLimits(command, options.limits);
+    addReading(command, options.reading);
 }
 
 }  // namespace workbench

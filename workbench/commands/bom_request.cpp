@@ -28,18 +28,6 @@ ColumnChoice parseColumn(const std::string& value) {
             .caption = mark == std::string::npos ? property : value.substr(mark + 1)};
 }
 
-CellEdit parseEdit(const std::string& value) {
-    const std::size_t colon = value.find(':');
-    const std::size_t mark = colon == std::string::npos ? colon : value.find('=', colon);
-    const int row = positive(std::string_view(value).substr(0, colon));
-    if (mark == std::string::npos || row == 0) {
-        refuse("--set " + value + ": expected ROW:COLUMN=VALUE, with a row from 1");
-    }
-    return {.row = row,
-            .column = value.substr(colon + 1, mark - colon - 1),
-            .value = value.substr(mark + 1)};
-}
-
 }  // namespace
 
 std::vector<ColumnChoice> parseColumns(const std::vector<std::string>& values) {
@@ -85,10 +73,14 @@ std::optional<int> parseLevels(const std::string& value) {
     return levels;
 }
 
-std::vector<CellEdit> parseEdits(const std::vector<std::string>& values) {
-    std::vector<CellEdit> edits(values.size());
-    std::ranges::transform(values, edits.begin(), parseEdit);
-    return edits;
+void checkCellNames(const std::vector<std::string>& values) {
+    for (const std::string& value : values) {
+        const std::size_t mark = value.find('=');
+        const std::size_t colon = value.find(':');
+        if (mark == std::string::npos || colon == 0 || colon > value.rfind('=')) {
+            refuse("--set " + value + ": expected ROW:COLUMN=VALUE");
+        }
+    }
 }
 
 void checkRequest(const BomRequest& request) {
@@ -97,6 +89,15 @@ void checkRequest(const BomRequest& request) {
     }
     if (request.levels && request.tab != &kModelTab) {
         refuse("--expand requires --tab model: the structure tab has no tree");
+    }
+    if (request.keepColumns && request.columns.empty()) {
+        refuse("--keep-columns requires --column: it stores the columns that are given");
+    }
+    if (request.noColumns && !request.columns.empty()) {
+        refuse("--no-columns shows none, but --column is given");
+    }
+    if (request.edits.list && !request.save) {
+        refuse("--set-from requires --save: without it the edits are lost when the dialog closes");
     }
     if (!request.edits.empty() && !request.save) {
         refuse("--set requires --save: without it the edits are lost when the dialog closes");

@@ -19,8 +19,8 @@ std::optional<SortOrder> parseSort(const std::string& value);
 /// "all" or a level from 1; nothing for an empty string.
 std::optional<int> parseLevels(const std::string& value);
 
-/// "ROW:COLUMN=VALUE" each, with rows from 1.
-std::vector<CellEdit> parseEdits(const std::vector<std::string>& values);
+/// Refuses what cannot be "ROW:COLUMN=VALUE"; where each part ends is known with the table.
+void checkCellNames(const std::vector<std::string>& values);
 
 /// Refuses what the chosen tab cannot do, and edits that are not to be saved.
 void checkRequest(const BomRequest& request);

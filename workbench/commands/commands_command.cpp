@@ -11,7 +11,7 @@ namespace {
 
 struct CommandsOptions {
     std::string format = "text";
-    std::string addin;  ///< folder of the add-in; empty: the one beside the program
+    AddinChoice addin;
 };
 
 /// Prints what the toolbars hold once the add-in has started.

@@ -4,6 +4,8 @@
 #include "workbench/dialogs/addin_ids.h"
 #include "workbench/dialogs/dialog_session.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/reports.h"
+#include "workbench/output/staged_files.h"
 
 #include <cstddef>
 #include <iostream>
@@ -19,7 +21,7 @@ constexpr std::size_t kOtherProvider = 1;
 
 struct ConfigureOptions {
     std::optional<std::string> supportUrl;  ///< an address, or "default"; none: only print
-    std::string addin;                      ///< folder of the add-in; empty: beside the program
+    AddinChoice addin;
 };
 
 void choose(host::Session& session, std::size_t provider) {
@@ -71,7 +73,7 @@ std::string readProvider(const host::Session& session) {
 /// the dialog then shows.
 void runConfigure(const ConfigureOptions& options) {
     refuseUnusableAddress(options.supportUrl.value_or(""));
-    DialogSession dialog(options.addin);
+    DialogSession dialog(options.addin, options.supportUrl ? DataUse::Change : DataUse::Read);
     if (options.supportUrl) {
         dialog.open(kConfigurationCommand);
         dialog.act([&](host::Session& session) { change(session, *options.supportUrl); });
@@ -82,6 +84,12 @@ void runConfigure(const ConfigureOptions& options) {
     }
     std::cout << "Support provider: " << printable(readProvider(dialog.session())) << "\n";
     dialog.act([](host::Session& session) { session.cancel(); });
+    StagedFiles files;
+    if (options.supportUrl) {
+        dialog.folder().stageSettings(files);
+    }
+    flushOutput();
+    files.commit();
 }
 
 }  // namespace

@@ -17,18 +17,21 @@ void addDesignChange(CLI::App& command, DesignChangeOptions& options) {
             "The design file to save in: by default the one that was opened, else a new one\n"
             "beside FILE");
     addAddin(command, options.addin);
-    addLimits(command, options.limits);
+    addReading(command, options.reading);
 }
 
 void changeDesign(const DesignChangeOptions& options, const DesignChange& change) {
-    const std::filesystem::path target = saveTarget(options.file, options.saveFile.value_or(""));
-    host::DesignData design = readDesign(options.file, options.limits);
+    const SaveTarget target = saveTarget(options.file, options.saveFile.value_or(""));
+    host::DesignData design = readDesign(options.file, options.reading);
     DialogSession dialog(options.addin);
     dialog.session().openDesign(std::move(design), host::fromUtf8(options.file));
     const std::string done = change(dialog);
-    dialog.save(target);
+    StagedFiles files;
+    files.addDesign(target.path, dialog.session().design(), target.before);
     std::cout << done << "\n";
-    reportSaved(std::cout, target);
+    reportSaved(std::cout, target.name);
+    flushOutput();
+    files.commit();
 }
 
 }  // namespace workbench

@@ -13,8 +13,8 @@ namespace workbench {
 struct DesignChangeOptions {
     std::string file;
     std::optional<std::string> saveFile;  ///< where to save, see `saveTarget`
-    std::string addin;                    ///< folder of the add-in; empty: beside the program
-    host::ReadingLimits limits;
+    AddinChoice addin;
+    ReadingOptions reading;
 };
 
 void addDesignChange(CLI::App& command, DesignChangeOptions& options);

@@ -6,14 +6,20 @@
 #include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
+#include "host/import/read_design.h"
 
+#include <cstddef>
 #include <exception>
-#include <vector>
+#include <functional>
+#include <utility>
 
 namespace workbench {
+namespace {
 
-host::DesignData readDesign(const std::string& file, const host::ReadingLimits& limits) {
-    std::vector<host::ReadingWarning> warnings;
+using Warnings = std::vector<host::ReadingWarning>;
+
+host::DesignData readFile(const std::string& file, const host::ReadingLimits& limits,
+                          Warnings& warnings) {
     try {
         ProgressLine line;
         constexpr double kPercent = 100;
@@ -24,11 +30,88 @@ host::DesignData readDesign(const std::string& file, const host::ReadingLimits& 
         host::DesignData design =
             host::readDesign(host::fromUtf8(file), limits, progress, warnings);
         line.show("");
-        reportWarnings(warnings);
         return design;
     } catch (const std::exception& error) {
         throw Failure(ExitCode::BadInput, error.what());
     }
+}
+
+/// Puts the user's choice in the place of what is assumed.
+void useMaterial(host::DesignData& design, const host::MaterialData& chosen) {
+    for (host::ComponentData& component : design.components) {
+        if (!component.material) {
+            continue;
+        }
+        const bool isOfThatName = component.material->name == chosen.name;
+        if (component.material->nameAssumed ||
+            (component.material->densityAssumed && isOfThatName)) {
+            component.material = chosen;
+        }
+    }
+}
+
+/// Warns of what is assumed of so many of all parts with a material.
+void warnOf(const std::string& file, const host::DesignData& design, const std::string& code,
+            const std::string& text,
+            const std::function<bool(const host::MaterialData&)>& isAssumed, Warnings& warnings) {
+    std::size_t parts = 0;
+    std::size_t assumed = 0;
+    for (const host::ComponentData& component : design.components) {
+        if (component.geometry != nullptr && component.material) {
+            ++parts;
+            assumed += isAssumed(*component.material) ? 1U : 0U;
+        }
+    }
+    if (assumed > 0) {
+        host::ReadingWarning warning;
+        warning.code = code;
+        warning.file = file;
+        warning.text = std::to_string(assumed) + " of " + std::to_string(parts) +
+                       (parts == 1 ? " part " : " parts ") + (assumed == 1 ? "has " : "have ") +
+                       text;
+        warnings.push_back(std::move(warning));
+    }
+}
+
+void warnOfAssumed(const std::string& file, const host::DesignData& design, Warnings& warnings) {
+    const std::string change = " assumed (--material NAME=DENSITY to change)";
+    warnOf(
+        file, design, "material-assumed", "no material: " + host::defaultMaterial().name + change,
+        [](const host::MaterialData& each) { return each.nameAssumed; }, warnings);
+    warnOf(
+        file, design, "density-assumed",
+        "a material without density: that of " + host::defaultMaterial().name + change,
+        [](const host::MaterialData& each) { return each.densityAssumed && !each.nameAssumed; },
+        warnings);
+}
+
+void refuseWarnings(const std::string& file, std::size_t count) {
+    if (count > 0) {
+        throw Failure(ExitCode::BadInput,
+                      file + ": " + std::to_string(count) +
+                          (count == 1 ? " warning, which --strict makes a failure"
+                                      : " warnings, which --strict makes a failure"));
+    }
+}
+
+}  // namespace
+
+host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
+                            Warnings* warnings) {
+    Warnings all;
+    host::DesignData design = readFile(file, reading.limits, all);
+    if (reading.material) {
+        useMaterial(design, *reading.material);
+    }
+    warnOfAssumed(file, design, all);
+    reportWarnings(all);
+    if (reading.strict) {
+        refuseWarnings(file, all.size());
+    }
+    if (warnings != nullptr) {
+        *warnings = std::move(all);
+    }
+    return design;
 }
 
 }  // namespace workbench

@@ -1,13 +1,19 @@
 #pragma once
 
-#include "host/import/read_design.h"
+#include "workbench/cli/common_options.h"
+
+#include "host/design/design_data.h"
+#include "host/design/reading_warning.h"
 
 #include <string>
+#include <vector>
 
 namespace workbench {
 
 /// Reads a design from a file, with a progress line on a terminal and a warning on stderr for each
-/// thing that the reader had to say. Throws a `Failure` for a file that cannot be read.
-host::DesignData readDesign(const std::string& file, const host::ReadingLimits& limits);
+/// thing that the reader had to say; `warnings` gets them too, unless it is null. Throws a
+/// `Failure` for a file that cannot be read, and for warnings where the options are strict.
+host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
+                            std::vector<host::ReadingWarning>* warnings = nullptr);
 
 }  // namespace workbench

@@ -35,8 +35,8 @@ struct DialogOptions {
     std::string tab;   ///< id or caption; empty: the one that the dialog opens with
     std::vector<std::string> edits;
     std::string format = "text";
-    std::string addin;  ///< folder of the add-in; empty: the one beside the program
-    host::ReadingLimits limits;
+    AddinChoice addin;
+    ReadingOptions reading;
 };
 
 std::vector<InputEdit> parseEdits(const std::vector<std::string>& values) {
@@ -99,7 +99,7 @@ void runDialog(const DialogOptions& options) {
     const std::vector<InputEdit> edits = parseEdits(options.edits);
     std::optional<host::DesignData> design;
     if (!options.file.empty()) {
-        design = readDesign(options.file, options.limits);
+        design = readDesign(options.file, options.reading);
     }
     DialogSession dialog(options.addin);
     host::Session& session = dialog.session();
@@ -130,7 +130,7 @@ void addDialogCommand(CLI::App& program) {
         ->allow_extra_args(false);
     addFormat(command, options.format, {"text", "json"});
     addAddin(command, options.addin);
-    addLimits(command, options.limits);
+    addReading(command, options.reading);
     command.footer(kFooter);
 }
 

@@ -34,7 +34,7 @@ constexpr const char* kFooter =
 
 struct HelpdeskOptions {
     std::vector<std::string> actions;  ///< names of `kHelpdeskActions`, in the order of the presses
-    std::string addin;                 ///< folder of the add-in; empty: the one beside the program
+    AddinChoice addin;
     bool here = false;  ///< uses the user's own support folder, not that of the workbench
     bool open = false;  ///< lets the shell open what the add-in asks it to
 };

@@ -4,11 +4,13 @@
 #include "workbench/output/display_text.h"
 #include "workbench/output/text_table.h"
 
+#include "host/design/design_measures.h"
 #include "host/session/design_summary.h"
 
 #include <iomanip>
 #include <iostream>
 #include <locale>
+#include <optional>
 #include <sstream>
 
 namespace workbench {
@@ -16,36 +18,75 @@ namespace {
 
 struct InfoOptions {
     std::string file;
-    host::ReadingLimits limits;
+    ReadingOptions reading;
 };
+
+std::string fixed(double value, int decimals) {
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    stream << std::fixed << std::setprecision(decimals) << value;
+    return stream.str();
+}
 
 /// kg/cm3 as kg/m3, with one decimal.
 std::string densityText(double density) {
     constexpr double kCubicCentimetres = 1e6;  // in a cubic metre
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << std::fixed << std::setprecision(1) << density * kCubicCentimetres;
-    return stream.str();
+    return fixed(density * kCubicCentimetres, 1);
+}
+
+std::string nameOf(const host::MaterialUse& use) {
+    const char* const onlyDensity = use.densityAssumed ? " (density assumed)" : "";
+    return use.name + (use.nameAssumed ? " (assumed)" : onlyDensity);
+}
+
+/// The extents of a box, in mm.
+std::string boxText(const std::optional<host::Box>& box) {
+    constexpr double kMillimetres = 10;  // in a centimetre
+    if (!box) {
+        return "none";
+    }
+    std::string text;
+    for (std::size_t axis = 0; axis < box->min.size(); ++axis) {
+        text += (axis == 0 ? "" : " x ") +
+                fixed((box->max.at(axis) - box->min.at(axis)) * kMillimetres, 1);
+    }
+    return text + " mm";
+}
+
+/// What the whole design measures; the reason where a part of it cannot be measured.
+std::string measuresText(const host::DesignData& design) {
+    const host::DesignMeasures measures = host::measureDesign(design);
+    std::string text = "Bodies       " + std::to_string(measures.bodies) + "\n";
+    if (!measures.unmeasured.empty()) {
+        return text + "Measures     unknown: " + printable(measures.unmeasured.front().reason) +
+               "\n";
+    }
+    text += "Area         " + fixed(measures.area, 2) + " cm\xC2\xB2\n";
+    text += "Volume       " + fixed(measures.volume, 3) + " cm\xC2\xB3\n";
+    text += "Mass         " + fixed(measures.mass, 3) + " kg\n";
+    return text + "Box          " + boxText(measures.box) + "\n";
 }
 
 std::string materialTable(const std::vector<host::MaterialUse>& materials) {
     TextTable table({"Material", "Density [kg/m\xC2\xB3]", "Components"});
     for (const host::MaterialUse& use : materials) {
-        table.add({use.name, densityText(use.density), std::to_string(use.components)});
+        table.add({nameOf(use), densityText(use.density), std::to_string(use.components)});
     }
     return table.text();
 }
 
 /// Prints what a file holds.
 void runInfo(const InfoOptions& options) {
-    const host::DesignSummary summary = host::summarize(readDesign(options.file, options.limits));
+    const host::DesignData design = readDesign(options.file, options.reading);
+    const host::DesignSummary summary = host::summarize(design);
     std::cout << printable(summary.name) << "\n\n"
               << "Components   " << summary.components << "\n"
               << "  with shape " << summary.bodies << "\n"
               << "Occurrences  " << summary.occurrences << "\n"
               << "Levels       " << summary.levels << "\n"
               << "Length unit  " << (summary.unit.empty() ? "unknown" : printable(summary.unit))
-              << "\n";
+              << "\n"
+              << measuresText(design);
     if (!summary.materials.empty()) {
         std::cout << "\n" << materialTable(summary.materials);
     }
@@ -55,10 +96,11 @@ void runInfo(const InfoOptions& options) {
 
 void addInfoCommand(CLI::App& program) {
     CLI::App& command = *program.add_subcommand(
-        "info", "Print what a file holds: components, occurrences, levels, units, materials");
+        "info",
+        "Print what a file holds: components, occurrences, levels, units, measures, materials");
     InfoOptions& options = optionsFor(command, runInfo);
     addFile(command, options.file);
-    addLimits(command, options.limits);
+    addReading(command, options.reading);
 }
 
 }  // namespace workbench

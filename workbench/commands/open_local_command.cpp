@@ -33,7 +33,7 @@ struct OpenLocalOptions {
     std::string out;    ///< folder for the designs; empty: the current one
     std::string data;   ///< folder whose folders are projects; empty: the user's own
     int timeout = 300;  ///< seconds until what still waits for a file is cancelled
-    std::string addin;  ///< folder of the add-in; empty: the one beside the program
+    AddinChoice addin;
 };
 
 /// Shows what the add-in waits for, and cancels it after Ctrl-C; again and again on the host's
@@ -53,12 +53,10 @@ void watchWaiting(host::Session& session, const std::weak_ptr<ProgressLine>& wat
     session.schedule(kInterval, [&session, watched] { watchWaiting(session, watched); });
 }
 
-host::SessionOptions waitingSession(const OpenLocalOptions& options) {
-    host::SessionOptions session = userSession(options.addin);
+void waitInRealTime(host::SessionOptions& session, int timeout) {
     session.system.sleepTakesTime = true;
     session.host.clock = host::clock::ClockMode::Real;
-    session.host.longestWait = options.timeout;
-    return session;
+    session.host.longestWait = timeout;
 }
 
 /// The user's data: the named folder, else the program's own, which begins with one project.
@@ -200,7 +198,9 @@ fs::path makeFolder(const std::string& named) {
 void runOpenLocal(const OpenLocalOptions& options) {
     const std::vector<std::string> names = absoluteNames(options.files);
     const fs::path out = makeFolder(options.out);
-    DialogSession dialog(waitingSession(options));
+    DialogSession dialog(options.addin, DataUse::Read, [&](host::SessionOptions& session) {
+        waitInRealTime(session, options.timeout);
+    });
     dialog.act([&](host::Session& session) { useProjects(session, options.data); });
     std::vector<OpenedFile> files;
     const std::optional<Failure> obstacle = openAll(dialog, names, files);

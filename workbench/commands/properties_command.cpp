@@ -34,8 +34,8 @@ struct PropertiesOptions {
     std::vector<PropertyEdit> edits;
     std::optional<std::string> saveFile;  ///< accepts the dialog and saves, see `saveTarget`
     std::string data;                     ///< folder of the user's projects; empty: there are none
-    std::string addin;                    ///< folder of the add-in; empty: beside the program
-    host::ReadingLimits limits;
+    AddinChoice addin;
+    ReadingOptions reading;
 };
 
 std::vector<PropertyEdit> parseEdits(const std::vector<std::string>& values) {
@@ -139,9 +139,9 @@ void runProperties(const PropertiesOptions& options) {
     if (!options.edits.empty() && !options.saveFile) {
         refuse("--set requires --save: without it the edits are lost when the dialog closes");
     }
-    const std::filesystem::path target =
-        options.saveFile ? saveTarget(options.file, *options.saveFile) : std::filesystem::path();
-    host::DesignData design = readDesign(options.file, options.limits);
+    const SaveTarget target =
+        options.saveFile ? saveTarget(options.file, *options.saveFile) : SaveTarget();
+    host::DesignData design = readDesign(options.file, options.reading);
     DialogSession dialog(options.addin);
     dialog.act([&](host::Session& session) { openDesign(session, std::move(design), options); });
     dialog.open(kPropertiesCommand);
@@ -152,14 +152,17 @@ void runProperties(const PropertiesOptions& options) {
     const std::string lines =
         asLines(pathOf(picked(dialog.session())), readProperties(dialog.session()));
     dialog.act([](host::Session& session) { session.cancel(); });
+    StagedFiles files;
     if (options.saveFile) {
-        dialog.save(target);
+        files.addDesign(target.path, dialog.session().design(), target.before);
     }
     std::cout << lines;
     if (options.saveFile) {
         std::cout << "\n";
-        reportSaved(std::cout, target);
+        reportSaved(std::cout, target.name);
     }
+    flushOutput();
+    files.commit();
 }
 
 }  // namespace
@@ -192,7 +195,7 @@ void addPropertiesCommand(CLI::App& program) {
                     "A folder whose folders are projects; FILE in one of them has a full path")
         ->type_name("DIR");
     addAddin(command, options.addin);
-    addLimits(command, options.limits);
+    addReading(command, options.reading);
 }
 
 }  // namespace workbench

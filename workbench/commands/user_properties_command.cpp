@@ -5,6 +5,8 @@
 #include "workbench/dialogs/dialog_session.h"
 #include "workbench/dialogs/properties_dialog.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/reports.h"
+#include "workbench/output/staged_files.h"
 
 #include "host/session/input_actions.h"
 
@@ -18,8 +20,8 @@ namespace {
 using namespace adsk::core;
 
 struct UserPropertiesOptions {
-    std::string name;   ///< of the property to add or to remove
-    std::string addin;  ///< folder of the add-in; empty: the one beside the program
+    std::string name;  ///< of the property to add or to remove
+    AddinChoice addin;
 };
 
 void showList(DialogSession& dialog) {
@@ -105,7 +107,7 @@ void printList(DialogSession& dialog) {
 void edit(const UserPropertiesOptions& options,
           void (*change)(host::Session&, const std::string&)) {
     std::vector<std::string> names;
-    DialogSession dialog(options.addin);
+    DialogSession dialog(options.addin, DataUse::Change);
     showList(dialog);
     dialog.act([&](host::Session& session) {
         change(session, options.name);
@@ -118,6 +120,10 @@ void edit(const UserPropertiesOptions& options,
                       "\"" + options.name + "\": the add-in's settings did not take the list");
     }
     printList(dialog);
+    StagedFiles files;
+    dialog.folder().stageSettings(files);
+    flushOutput();
+    files.commit();
 }
 
 void runList(const UserPropertiesOptions& options) {

@@ -17,6 +17,9 @@ inline constexpr const char* kOpenLocalCommand = "QEMA_OpenLocalCmd_QAT";
 /// What the ids of columns and properties begin with; the name of the property follows.
 inline constexpr const char* kPropertyPrefix = "QEMA_";
 
+/// The group of the attributes that hold a component's properties.
+inline constexpr const char* kPropertyGroup = "QEMA_PropertiesAttributesGroup";
+
 /// @name The BOM dialog
 /// @{
 
@@ -37,6 +40,18 @@ inline constexpr const char* kTotalMass = "idAllMass";
 inline constexpr const char* kSortOrder = "QEMA_droDown_AscDesc";
 inline constexpr const char* kHeaderSuffix = "_0";  ///< after the property, of a column's header
 
+inline constexpr int kPictureColumn = 0;     ///< of both tables: the icon of a row
+inline constexpr int kPositionColumn = 1;    ///< of both tables, hidden on the model tab
+inline constexpr int kTreeColumn = 2;        ///< of both tables, hidden on the structure tab
+inline constexpr int kFirstFreeColumn = 5;   ///< of both tables
+inline constexpr int kPartNumberColumn = 3;  ///< of both tables
+
+/// What an assembly of the model tab shows once it is expanded; the second one where it has no
+/// drawing of its own.
+inline constexpr const char* kAssemblyPicture = "Asm";
+inline constexpr const char* kExpandedPicture = "././Resources/BOM/UnColapseAsm";
+inline constexpr const char* kExpandedTree = "\xE2\x96\x91";
+
 inline constexpr const char* kConfigurationTab = "QEMA_tab_config_BOM";
 inline constexpr const char* kSaveConfiguration = "QEMA_btnSaveConfigBom";
 inline constexpr const char* kPropertyList = "iProperty_";  ///< then 0 to 5
@@ -45,6 +60,20 @@ inline constexpr int kFirstCaptionField = 5;
 inline constexpr int kFreeColumns = 6;
 inline constexpr const char* kNoProperty = "---Select One---";
 inline constexpr const char* kHeading = "---";  ///< how a list item begins that is no property
+inline constexpr const char* kReferenceChoice = "Reference";  ///< of a BOM structure; hides rows
+inline constexpr const char* kCombinePicture =
+    "Combine";  ///< how the pictures begin of rows that merge components
+inline constexpr const char* kMassLineBegin =
+    "Total mass of structure BOM [kg]";  ///< in the exported file
+
+/// Properties that the add-in works out: their cells can be edited, and are not written back.
+inline constexpr const char* kMeasuredProperties[] = {
+    "Quantity",          "Area",   "Density", "Mass",   "Volume",
+    "Physical Material", "Length", "Width",   "Height", "Bounding Box"};
+
+/// The columns of a list for which none were chosen.
+inline constexpr const char* kDefaultColumns[] = {"Quantity", "Part Name", "Mass",
+                                                  "Physical Material"};
 /// @}
 
 /// @name The properties dialog

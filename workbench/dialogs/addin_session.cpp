@@ -18,11 +18,17 @@ fs::path userFolder() {
     return data / "tarnix-workbench";
 }
 
-host::SessionOptions userSession(const std::string& addin) {
+fs::path addinFolder(const std::string& named) {
+    return named.empty() ? host::environment::programFolder().parent_path() / "Tarnix"
+                         : host::fromUtf8(named);
+}
+
+host::SessionOptions userSession(const AddinChoice& choice) {
     host::SessionOptions session;
-    session.addin = addin.empty() ? host::environment::programFolder().parent_path() / "Tarnix"
-                                  : host::fromUtf8(addin);
-    session.home = userFolder();
+    session.addin = addinFolder(choice.addin);
+    session.home =
+        choice.dataHome.empty() ? userFolder() : fs::absolute(host::fromUtf8(choice.dataHome));
+    session.lockTimeout = choice.lockTimeout;
     return session;
 }
 

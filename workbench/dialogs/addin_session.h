@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/cli/addin_choice.h"
+
 #include "host/session/session.h"
 
 #include <filesystem>
@@ -13,9 +15,15 @@ namespace workbench {
 /// Throws a `Failure` where the system names no place for it.
 std::filesystem::path userFolder();
 
-/// What a session of this user is started with; `addin` is the add-in's folder, empty for the one
-/// beside the program.
-host::SessionOptions userSession(const std::string& addin);
+/// Whether the add-in leaves the process with its session, so that nothing of it stays on disk. Not
+/// where leaks are looked for: a report has to name its functions.
+inline constexpr bool kUnloadsAddin = WORKBENCH_UNLOADS_ADDIN;
+
+/// The folder of the named add-in, of the one beside the program for an empty name.
+std::filesystem::path addinFolder(const std::string& named);
+
+/// What a session is started with that works in the data home itself, for what is to stay there.
+host::SessionOptions userSession(const AddinChoice& choice);
 
 /// Starts a session. Throws a `Failure` that says why it cannot be started.
 std::unique_ptr<host::Session> startSession(const host::SessionOptions& options);

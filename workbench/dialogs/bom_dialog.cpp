@@ -25,14 +25,21 @@ std::vector<std::string> offeredProperties(const host::Session& session) {
     return names;
 }
 
-void checkProperties(const host::Session& session, const std::vector<ColumnChoice>& columns) {
+/// The choices with properties that are offered. A name may have a "=" of its own: then it is the
+/// whole of what the user wrote.
+std::vector<ColumnChoice> offeredColumns(const host::Session& session,
+                                         std::vector<ColumnChoice> columns) {
     const std::vector<std::string> offered = offeredProperties(session);
-    for (const ColumnChoice& column : columns) {
-        if (std::ranges::find(offered, column.property) == offered.end()) {
+    for (ColumnChoice& column : columns) {
+        const std::string whole = column.property + "=" + column.caption;
+        if (std::ranges::find(offered, whole) != offered.end()) {
+            column = {.property = whole, .caption = whole};
+        } else if (std::ranges::find(offered, column.property) == offered.end()) {
             refuse("--column " + column.property +
                    ": no such property; available: " + quoted(offered));
         }
     }
+    return columns;
 }
 
 /// The columns whose headers sort: those with a caption.
@@ -45,13 +52,42 @@ std::vector<BomColumn> sortableColumns(const host::TableView& table) {
     return columns;
 }
 
+int levelOf(const Ptr<TableCommandInput>& table, int row) {
+    const std::string position = host::readCell(table, row, kPositionColumn).text;
+    return 1 + static_cast<int>(std::ranges::count(position, '.'));
+}
+
+/// What the add-in does with a row that comes into view: all cells but the position show.
+void showRow(const Ptr<TableCommandInput>& table, int row) {
+    const int last = static_cast<int>(table->numberOfColumns());
+    for (int column = 0; column <= last; ++column) {
+        if (const Ptr<CommandInput> cell = table->getInputAtPosition(row, column);
+            cell && column != kPositionColumn) {
+            cell->isVisible(true);
+        }
+    }
+}
+
+/// What the add-in does with the assembly whose toggle was clicked.
+void expandRow(const Ptr<TableCommandInput>& table, int row) {
+    const Ptr<BoolValueCommandInput> toggle = table->getInputAtPosition(row, kPictureColumn);
+    if (toggle->resourceFolder().find(kAssemblyPicture) == std::string::npos) {
+        return;
+    }
+    toggle->value(true);
+    toggle->resourceFolder(kExpandedPicture);
+    const Ptr<StringValueCommandInput> tree = table->getInputAtPosition(row, kTreeColumn);
+    if (tree->value().empty()) {
+        tree->value(kExpandedTree);
+    }
+}
+
 }  // namespace
 
 void saveColumns(host::Session& session, const std::vector<ColumnChoice>& columns) {
     session.activateTab(kConfigurationTab);
-    checkProperties(session, columns);
+    std::vector<ColumnChoice> all = offeredColumns(session, columns);
     const std::size_t since = session.uncaughtExceptions().size();
-    std::vector<ColumnChoice> all = columns;
     all.resize(kFreeColumns, {.property = kNoProperty, .caption = ""});
     for (int i = 0; i < kFreeColumns; ++i) {
         const ColumnChoice& column = all[static_cast<std::size_t>(i)];
@@ -73,22 +109,17 @@ void sortBy(host::Session& session, const BomTab& tab, const SortOrder& order) {
 }
 
 void expandTree(host::Session& session, const BomTab& tab, int levels) {
-    constexpr int kToggleColumn = 0;
-    constexpr int kPositionColumn = 1;
     const Ptr<TableCommandInput> table = session.table(tab.table);
-    const std::size_t since = session.uncaughtExceptions().size();
     const int count = table->rowCount();
     for (int row = 1; row < count; ++row) {
-        const TableCell toggle = host::readCell(table, row, kToggleColumn);
-        const std::string position = host::readCell(table, row, kPositionColumn).text;
-        const auto level = 1 + std::ranges::count(position, '.');
-        const Ptr<CommandInput> button = table->getInputAtPosition(row, kToggleColumn);
-        const bool isAssembly = toggle.picture.find("Asm") != std::string::npos;
-        if (level < levels && isAssembly && button->isVisible()) {
-            host::click(button);
+        const int level = levelOf(table, row);
+        if (level > 1 && level <= levels) {
+            showRow(table, row);
+        }
+        if (level < levels) {
+            expandRow(table, row);
         }
     }
-    refuseUnexpected(session.uncaughtExceptions(), since, "cannot expand the tree");
 }
 
 void acceptChanges(host::Session& session, const BomTab& tab) {

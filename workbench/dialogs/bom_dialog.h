@@ -35,8 +35,10 @@ void saveColumns(host::Session& session, const std::vector<ColumnChoice>& column
 /// Chooses the order and clicks the header of a column. The tab has to be active.
 void sortBy(host::Session& session, const BomTab& tab, const SortOrder& order);
 
-/// Clicks the toggles of visible assemblies until `levels` levels of the tree show. The tab has to
-/// be active.
+/// Shows `levels` levels of the tree, as if the toggles of the assemblies above them were clicked,
+/// from top to bottom. The tab has to be active.
+///
+/// None is clicked: each click makes the add-in walk the whole design.
 void expandTree(host::Session& session, const BomTab& tab, int levels);
 
 /// Accepts the dialog, which writes the active tab into the design.

@@ -1,7 +1,9 @@
 #include "workbench/dialogs/cell_edits.h"
 
 #include "workbench/cli/exit_code.h"
+#include "workbench/dialogs/bom_cells.h"
 #include "workbench/dialogs/bom_columns.h"
+#include "workbench/dialogs/edited_list_cells.h"
 #include "workbench/dialogs/list_items.h"
 #include "workbench/dialogs/uncaught.h"
 #include "workbench/output/display_text.h"
@@ -17,87 +19,115 @@ namespace {
 using namespace adsk::core;
 using host::TableCell;
 
-/// An edit whose cell was found.
-struct FoundCell {
-    Ptr<CommandInput> input;
-    const CellEdit* edit;
+/// One way to read "ROW:COLUMN=VALUE", in which each part may hold the marks of the others.
+struct Reading {
+    std::string row;
+    std::string column;
+    std::string value;
 };
 
-bool isEditable(const TableCell& cell) {
-    return cell.editable &&
-           (cell.kind == TableCell::Kind::Text || cell.kind == TableCell::Kind::Choice);
-}
-
-std::string nameOf(const CellEdit& edit) {
-    return "--set " + std::to_string(edit.row) + ":" + edit.column;
-}
-
-void checkRow(const host::TableView& table, const CellEdit& edit) {
-    const std::size_t rows = table.rows.size() - 1;  // without the captions
-    if (rows == 0) {
-        refuse(nameOf(edit) + ": the table has no rows");
+/// All ways: the value begins as early as possible, then the column as late.
+std::vector<Reading> readingsOf(const std::string& text) {
+    std::vector<Reading> all;
+    for (std::size_t mark = text.find('='); mark != std::string::npos;
+         mark = text.find('=', mark + 1)) {
+        for (std::size_t colon = text.rfind(':', mark); colon != std::string::npos && colon > 0;
+             colon = text.rfind(':', colon - 1)) {
+            all.push_back({.row = text.substr(0, colon),
+                           .column = text.substr(colon + 1, mark - colon - 1),
+                           .value = text.substr(mark + 1)});
+        }
     }
-    if (static_cast<std::size_t>(edit.row) > rows) {
-        refuse(nameOf(edit) + ": row " + std::to_string(edit.row) + " is out of range (1 to " +
-               std::to_string(rows) + ")");
-    }
+    return all;
 }
 
-TableCell findCell(const host::TableView& table, const CellEdit& edit) {
-    checkRow(table, edit);
-    const std::vector<TableCell>& cells = table.rows[static_cast<std::size_t>(edit.row)].cells;
-    std::vector<BomColumn> columns = columnsOf(table);
-    std::erase_if(columns, [&](const BomColumn& column) {
-        return !isEditable(*std::ranges::find(cells, column.column, &TableCell::column));
+/// The first way that names a row and a column of the table, else the first one at all.
+Reading readCellName(const BomCells& cells, const std::string& text) {
+    const std::vector<Reading> all = readingsOf(text);
+    if (all.empty()) {
+        refuse("--set " + text + ": expected ROW:COLUMN=VALUE");
+    }
+    const auto fits = std::ranges::find_if(all, [&](const Reading& each) {
+        return cells.columnNamed(each.column) && !cells.rowsNamed(each.row).empty();
     });
-    const int column = findColumn(columns, edit.column, nameOf(edit)).column;
-    return *std::ranges::find(cells, column, &TableCell::column);
+    return fits == all.end() ? all.front() : *fits;
 }
 
-void checkChoice(const Ptr<DropDownCommandInput>& list, const CellEdit& edit) {
+void checkChoice(const BomCells& cells, const EditedCell& edit, const std::string& what) {
+    const Ptr<DropDownCommandInput> list = cells.input(edit.row, edit.column);
     const std::vector<std::string> names = itemNames(list ? list->listItems() : nullptr);
-    if (std::ranges::find(names, edit.value) == names.end()) {
-        refuse(nameOf(edit) + "=" + edit.value + ": no such choice; available: " + quoted(names));
+    if (list && std::ranges::find(names, edit.value) == names.end()) {
+        refuse(what + "=" + edit.value + ": no such choice; available: " + quoted(names));
     }
 }
 
-FoundCell lookUp(const Ptr<TableCommandInput>& table, const host::TableView& view,
-                 const CellEdit& edit) {
-    const TableCell cell = findCell(view, edit);
-    const int row = view.rows[static_cast<std::size_t>(edit.row)].row;
-    const Ptr<CommandInput> input = table->getInputAtPosition(row, cell.column);
-    if (cell.kind == TableCell::Kind::Choice) {
-        checkChoice(input, edit);
+/// The cells that one `--set` names.
+void lookUp(const BomCells& cells, const std::string& text, std::vector<EditedCell>& all) {
+    const Reading named = readCellName(cells, text);
+    const std::string what = "--set " + named.row + ":" + named.column;
+    const std::vector<BomRow> rows = cells.rowsNamed(named.row);
+    if (rows.empty()) {
+        cells.refuseRow(named.row, what);
     }
-    return {.input = input, .edit = &edit};
+    for (const BomRow& row : rows) {
+        const BomColumn column = findColumn(cells.editableColumns(row), named.column, what);
+        const EditedCell edit{.source = "row " + std::to_string(row.line),
+                              .row = row,
+                              .column = column.column,
+                              .key = column.key,
+                              .property = column.property,
+                              .value = named.value};
+        checkChoice(cells, edit, what);
+        all.push_back(edit);
+    }
 }
 
-void apply(const FoundCell& cell) {
+void apply(const BomCells& cells, const EditedCell& edit) {
+    const Ptr<CommandInput> input = cells.input(edit.row, edit.column);
     try {
-        if (const Ptr<DropDownCommandInput> list = cell.input) {
-            host::chooseItem(cell.input, cell.edit->value);
+        if (const Ptr<DropDownCommandInput> list = input) {
+            host::chooseItem(input, edit.value);
         } else {
-            host::pasteText(cell.input, cell.edit->value);
+            host::pasteText(input, edit.value);
         }
     } catch (const host::MisuseError& obstacle) {
-        refuse(nameOf(*cell.edit) + ": " + obstacle.what());
+        refuse(edit.source + ", " + edit.key + ": " + obstacle.what());
     }
+}
+
+bool hidesRows(const EditedCell& edit) { return edit.value == kReferenceChoice; }
+
+EditedTable tableOf(const BomCells& cells) {
+    EditedTable table;
+    table.occurrences = cells.occurrences();
+    table.rows = cells.rows();
+    for (const BomRow& row : table.rows) {
+        if (cells.isCombined(row)) {
+            table.combinedRows.push_back(row.row);
+        }
+    }
+    return table;
 }
 
 }  // namespace
 
-void editCells(host::Session& session, const BomTab& tab, const std::vector<CellEdit>& edits) {
-    const Ptr<TableCommandInput> table = session.table(tab.table);
-    const host::TableView view = host::readTable(table);
-    std::vector<FoundCell> cells;
-    for (const CellEdit& edit : edits) {
-        cells.push_back(lookUp(table, view, edit));
+EditedTable editCells(host::Session& session, const BomTab& tab, const EditRequest& request) {
+    const BomCells cells(session, tab);
+    EditedTable table = tableOf(cells);
+    for (const std::string& text : request.cells) {
+        lookUp(cells, text, table.cells);
     }
-    for (const FoundCell& cell : cells) {
+    if (request.list) {
+        lookUp(cells, *request.list, table.cells);
+    }
+    std::vector<EditedCell> inOrder = table.cells;
+    std::ranges::stable_partition(inOrder, [](const EditedCell& each) { return !hidesRows(each); });
+    for (const EditedCell& edit : inOrder) {
         const std::size_t since = session.uncaughtExceptions().size();
-        apply(cell);
-        refuseUnexpected(session.uncaughtExceptions(), since, nameOf(*cell.edit));
+        apply(cells, edit);
+        refuseUnexpected(session.uncaughtExceptions(), since, edit.source + ", " + edit.key);
     }
+    return table;
 }
 
 }  // namespace workbench

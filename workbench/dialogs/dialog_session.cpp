@@ -5,17 +5,19 @@
 #include "workbench/dialogs/uncaught.h"
 #include "workbench/output/reports.h"
 
-#include "host/design/design_file.h"
-
 #include <cstddef>
 #include <stdexcept>
 
 namespace workbench {
 
-DialogSession::DialogSession(const std::string& addin) : DialogSession(userSession(addin)) {}
-
-DialogSession::DialogSession(const host::SessionOptions& options)
-    : session_(startSession(options)) {
+DialogSession::DialogSession(const AddinChoice& choice, DataUse use,
+                             const std::function<void(host::SessionOptions&)>& adjust)
+    : folder_(choice, use) {
+    host::SessionOptions options = folder_.session();
+    if (adjust) {
+        adjust(options);
+    }
+    session_ = startSession(options);
     runAddin(*session_);
 }
 
@@ -37,14 +39,6 @@ void DialogSession::open(const std::string& command) {
     act([&](host::Session& session) { session.press(command); });
     if (!session_->dialogOpen()) {
         throw Failure(ExitCode::AddinFailed, "the add-in did not open the dialog of " + command);
-    }
-}
-
-void DialogSession::save(const std::filesystem::path& file) {
-    try {
-        session_->save(file);
-    } catch (const host::DesignError& error) {
-        throw Failure(ExitCode::OutputFailed, error.what());
     }
 }
 

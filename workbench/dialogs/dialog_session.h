@@ -1,24 +1,23 @@
 #pragma once
 
+#include "workbench/dialogs/run_folder.h"
+
 #include "host/session/session.h"
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
 
 namespace workbench {
 
-/// A session of this user in which the add-in has started, for a subcommand that works in one of
-/// its dialogs. What the add-in shows to its user goes to stderr.
+/// A session with the user's settings in which the add-in has started, for a subcommand that works
+/// in one of its dialogs. What the add-in shows to its user goes to stderr.
 class DialogSession {
 public:
-    /// `addin` is the folder of the add-in; empty for the one beside the program. Throws a
-    /// `Failure` where it cannot be used.
-    explicit DialogSession(const std::string& addin);
-
-    /// The same with options of the caller's own.
-    explicit DialogSession(const host::SessionOptions& options);
+    /// Throws a `Failure` where the add-in cannot be used. `adjust` may change what the session is
+    /// started with.
+    explicit DialogSession(const AddinChoice& choice, DataUse use = DataUse::Read,
+                           const std::function<void(host::SessionOptions&)>& adjust = {});
 
     /// Does what the user would do. Throws a `Failure` with what the add-in threw meanwhile, or
     /// with the reason why a step could not be done.
@@ -27,13 +26,13 @@ public:
     /// Presses the button of a command; throws a `Failure` when no dialog opens.
     void open(const std::string& command);
 
-    /// Writes the open design into a design file, whole or not at all; a relative path is relative
-    /// to the folder in which the program was started. Throws a `Failure` where that fails.
-    void save(const std::filesystem::path& file);
+    /// The settings of the add-in, for a data home that is changed.
+    [[nodiscard]] const RunFolder& folder() const { return folder_; }
 
     [[nodiscard]] host::Session& session() { return *session_; }
 
 private:
+    RunFolder folder_;
     std::unique_ptr<host::Session> session_;
 };
 

@@ -35,8 +35,7 @@ fs::path newFileBeside(fs::path file) {
     return file;
 }
 
-}  // namespace
-
+/// Writes a design file, whole or not at all.
 void saveDesign(const host::DesignData& design, const fs::path& file) {
     try {
         host::saveDesignFile(file, design);
@@ -44,6 +43,8 @@ void saveDesign(const host::DesignData& design, const fs::path& file) {
         throw Failure(ExitCode::OutputFailed, error.what());
     }
 }
+
+}  // namespace
 
 void saveInFolder(const std::vector<host::DesignData>& designs, const fs::path& folder) {
     for (const host::DesignData& each : designs) {
@@ -66,16 +67,16 @@ std::string fileName(std::string name) {
     return name;
 }
 
-fs::path saveTarget(const std::string& file, const std::string& named) {
+SaveTarget saveTarget(const std::string& file, const std::string& named) {
     const fs::path input = host::fromUtf8(file);
     fs::path target = host::fromUtf8(named);
     if (!target.empty() && !isDesignFile(target)) {
         refuse("--save " + named + ": the name of a design file must end in .json");
     }
-    if (!target.empty()) {
-        return target;
+    if (target.empty()) {
+        target = isDesignFile(input) ? input : newFileBeside(input);
     }
-    return isDesignFile(input) ? input : newFileBeside(input);
+    return {.path = fs::absolute(target), .name = target, .before = fingerprintOf(target)};
 }
 
 }  // namespace workbench

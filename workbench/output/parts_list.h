@@ -1,11 +1,21 @@
 #pragma once
 
+#include "workbench/cli/console.h"
+
+#include "host/design/reading_warning.h"
 #include "host/session/table_view.h"
 
 #include <string>
 #include <vector>
 
 namespace workbench {
+
+/// Where a row is in the design.
+struct RowPlace {
+    int level = 1;           ///< 1 directly below the root
+    std::string path;        ///< full path name of the occurrence; of a merged row the first one's
+    bool isAssumed = false;  ///< its material, or that of a part in it, is not the file's
+};
 
 /// What the add-in's table shows, ready to be written.
 struct PartsList {
@@ -14,16 +24,20 @@ struct PartsList {
     std::vector<std::vector<std::string>> rows;  ///< a cell for each caption
     std::string totalCaption;                    ///< empty where the tab shows no total
     std::string total;
+    std::vector<RowPlace> places = {};  ///< of each row
 };
 
 /// Reads a table whose first row holds the captions. A column's key is its caption, or "Image" for
 /// pictures and "Tree" for others without one; a key that is taken gets a number.
 PartsList readPartsList(const host::TableView& table);
 
-/// As aligned columns for a terminal, with the total below them.
-std::string asTable(const PartsList& list);
+/// As aligned columns for a terminal, with the total below them. Icons become signs, which are
+/// indented by the level of the row where the list shows a tree. Rows whose material is assumed say
+/// so in a last column.
+std::string asTable(const PartsList& list, console::Charset charset);
 
-/// As a JSON array with an object for each row, from key to cell.
-std::string asJson(const PartsList& list);
+/// As a JSON object: "rows" with an object for each row, from key to cell, and with its "Level" and
+/// "Path", and "Material assumed"; "total" where the tab shows one; and "warnings".
+std::string asJson(const PartsList& list, const std::vector<host::ReadingWarning>& warnings);
 
 }  // namespace workbench

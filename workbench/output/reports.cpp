@@ -3,6 +3,7 @@
 #include "workbench/cli/console.h"
 #include "workbench/cli/quiet.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/result_stream.h"
 
 #include "host/base/utf8_path.h"
 
@@ -62,6 +63,21 @@ void reportShellRequests(std::ostream& stream, const std::vector<std::string>& t
 void reportMessages(const std::vector<host::Message>& messages, std::size_t since) {
     for (std::size_t i = since; i < messages.size() && !isQuiet(); ++i) {
         printLines("the add-in says: ", messages[i].text);
+    }
+}
+
+void refuseObstacles(ExitCode code, const std::vector<std::string>& obstacles) {
+    for (std::size_t i = 0; i + 1 < obstacles.size(); ++i) {
+        std::cerr << "tarnix-workbench: " << printable(obstacles[i]) << "\n";
+    }
+    if (!obstacles.empty()) {
+        throw Failure(code, obstacles.back());
+    }
+}
+
+void flushOutput() {
+    if (!std::cout.flush()) {
+        throw Failure(ExitCode::OutputFailed, whyOutputFailed());
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/cli/exit_code.h"
+
 #include "host/session/session.h"
 
 #include <cstddef>
@@ -22,6 +24,14 @@ void reportShellRequests(std::ostream& stream, const std::vector<std::string>& t
 
 /// What the add-in showed to its user, from the index `since` on; on stderr.
 void reportMessages(const std::vector<host::Message>& messages, std::size_t since = 0);
+
+/// Ends the program with a `Failure` where there are obstacles: all but the last are reported on
+/// stderr, and the last is its line.
+void refuseObstacles(ExitCode code, const std::vector<std::string>& obstacles);
+
+/// Sends on what was printed. Throws a `Failure` where it could not be written: nothing is to be
+/// kept then.
+void flushOutput();
 
 /// What a reader had to say; on stderr.
 void reportWarnings(const std::vector<host::ReadingWarning>& warnings);

@@ -14,6 +14,15 @@
 #include <system_error>
 
 namespace workbench {
+namespace {
+
+std::string outputFailure;  // of the one stream that lives at a time
+
+}  // namespace
+
+std::string whyOutputFailed() {
+    return outputFailure.empty() ? "cannot write to stdout" : outputFailure;
+}
 
 ResultStream::ResultStream() : stdout_(std::cout.rdbuf(this)) {}
 
@@ -48,8 +57,7 @@ void ResultStream::writeTo(const std::string& file) {
 
 void ResultStream::finish() {
     if (!std::cout.flush()) {
-        throw Failure(ExitCode::OutputFailed,
-                      failure_.empty() ? "cannot write to stdout" : failure_);
+        throw Failure(ExitCode::OutputFailed, whyOutputFailed());
     }
     isFinished_ = true;
 }
@@ -80,7 +88,7 @@ bool ResultStream::writeFile(const std::string& content) {
         host::writeFileAtomically(file_, content);
         return true;
     } catch (const std::system_error& error) {
-        failure_ = "cannot write " + host::toUtf8(file_) + ": " + error.code().message();
+        outputFailure = "cannot write " + host::toUtf8(file_) + ": " + error.code().message();
         return false;
     }
 }

@@ -40,9 +40,11 @@ private:
     std::filesystem::path file_;  ///< absolute; empty for stdout
     std::string results_;         ///< for stdout: since it was flushed
     std::size_t written_ = 0;
-    std::string failure_;
     std::optional<std::string> old_;  ///< content of the file before; nothing where there was none
     bool isFinished_ = false;
 };
+
+/// Why results could not be passed on.
+std::string whyOutputFailed();
 
 }  // namespace workbench

@@ -17,7 +17,8 @@ std::string withoutTrailingSpaces(std::string line) {
 
 }  // namespace
 
-TextTable::TextTable(const std::vector<std::string>& captions) {
+TextTable::TextTable(const std::vector<std::string>& captions, console::Charset charset)
+    : charset_(charset) {
     for (const std::string& caption : captions) {
         captions_.push_back(printable(caption));
     }
@@ -64,7 +65,7 @@ std::string TextTable::text(std::size_t indent) const {
         columns.push_back(measure(i));
         std::string rule;
         for (std::size_t width = 0; width < columns.back().width; ++width) {
-            rule += kRule;
+            rule += charset_ == console::Charset::Utf8 ? kRule : "-";
         }
         rules.push_back(rule);
     }

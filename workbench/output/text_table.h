@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/cli/console.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -12,7 +14,8 @@ namespace workbench {
 /// alone is right-aligned under its caption. No line ends in spaces. Cells are made printable.
 class TextTable {
 public:
-    explicit TextTable(const std::vector<std::string>& captions);
+    explicit TextTable(const std::vector<std::string>& captions,
+                       console::Charset charset = console::Charset::Utf8);
 
     /// Adds a row; missing cells are empty, surplus ones are dropped.
     void add(const std::vector<std::string>& cells);
@@ -31,6 +34,7 @@ private:
     [[nodiscard]] static std::string line(const std::vector<std::string>& cells,
                                           const std::vector<Column>& columns);
 
+    console::Charset charset_;
     std::vector<std::string> captions_;
     std::vector<std::vector<std::string>> rows_;
 };

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <future>
 #include <string>
+#include <vector>
 
 namespace fs = std::filesystem;
 using test_support::firstLines;
@@ -14,6 +16,7 @@ using test_support::loadDesign;
 using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::text;
+using test_support::writeFile;
 
 namespace {
 
@@ -31,24 +34,71 @@ constexpr const char* kMerged = R"(
     Bolt  number=B-1
     Screw  number=B-1)";
 
+/// One component twice.
+constexpr const char* kTwice = R"(
+    Bolt
+    Bolt)";
+
 }  // namespace
 
 using BomEditing = test_support::Workbench;
 
-TEST_F(BomEditing, ColumnsAreChosenAndSaved) {
+TEST_F(BomEditing, ColumnsAreChosenAndStored) {
     const std::string file = design(kSmallDesign);
 
-    const ProgramResult result = run({"bom", file, "--column", "Quantity=Qty", "--column", "Mass"});
+    const ProgramResult result =
+        run({"bom", file, "--column", "Quantity=Qty", "--column", "Mass", "--keep-columns"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(firstLines(result.output, 4), text(R"(
-              Pos.  Part Number  BOM Structure  Qty  Mass [kg]
-        ────  ────  ───────────  ─────────────  ───  ─────────
-        Part     1  Frame        Produce          1      1.000
-        Part     2  Bolt         Produce          2      0.500
+           Pos.  Part Number  BOM Structure  Qty  Mass [kg]
+        ─  ────  ───────────  ─────────────  ───  ─────────
+        ·     1  Frame        Produce          1      1.000
+        ·     2  Bolt         Produce          2      0.500
         )") + "\n");
     EXPECT_EQ(firstLines(run({"bom", file}).output, 4), firstLines(result.output, 4));
+}
+
+TEST_F(BomEditing, ColumnsThatAreNotToBeKeptHoldForOneRun) {
+    configure({"QEMA_Area;Area"});
+    const std::string old = readFile(settingsFile());
+
+    run({"bom", design(kSmallDesign), "--column", "Mass"});
+
+    EXPECT_EQ(readFile(settingsFile()), old);
+}
+
+TEST_F(BomEditing, StoredColumnsAreRemovedAgain) {
+    configure({"QEMA_Area;Area"});
+
+    const ProgramResult result =
+        run({"bom", design(kSmallDesign), "--no-columns", "--format", "csv"});
+
+    EXPECT_EQ(firstLines(result.output, 1), "Pos.;Part Number;BOM Structure;\r\n");
+    EXPECT_EQ(firstLines(run({"bom", design(kSmallDesign), "--format", "csv"}).output, 1),
+              "Pos.;Part Number;BOM Structure;Quantity;Part Name;Mass [kg];Physical Material;\r\n");
+}
+
+TEST_F(BomEditing, ADataHomeHasSettingsOfItsOwn) {
+    configure({"QEMA_Area;Area"});
+    const std::string file = design(kSmallDesign);
+
+    run({"bom", file, "--column", "Mass", "--keep-columns", "--data-home", path("home")});
+
+    EXPECT_EQ(
+        firstLines(run({"bom", file, "--format", "csv", "--data-home", path("home")}).output, 1),
+        "Pos.;Part Number;BOM Structure;Mass [kg];\r\n");
+    EXPECT_EQ(firstLines(run({"bom", file, "--format", "csv"}).output, 1),
+              "Pos.;Part Number;BOM Structure;Area [cm\u00B2];\r\n");
+}
+
+TEST_F(BomEditing, AColumnMayBeAPropertyWithAnEqualSign) {
+    const ProgramResult result =
+        run({"bom", design("Frame  property=a=b/Yes"), "--column", "a=b", "--format", "csv"});
+
+    EXPECT_EQ(firstLines(result.output, 2),
+              "Pos.;Part Number;BOM Structure;a=b;\r\n1;Frame;Produce;Yes;\r\n");
 }
 
 TEST_F(BomEditing, NewColumnsReplaceTheOldOnesAndTheirCaptions) {
@@ -57,9 +107,9 @@ TEST_F(BomEditing, NewColumnsReplaceTheOldOnesAndTheirCaptions) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--column", "Mass"});
 
     EXPECT_EQ(firstLines(result.output, 3), text(R"(
-              Pos.  Part Number  BOM Structure  Mass [kg]
-        ────  ────  ───────────  ─────────────  ─────────
-        Part     1  Frame        Produce            1.000
+           Pos.  Part Number  BOM Structure  Mass [kg]
+        ─  ────  ───────────  ─────────────  ─────────
+        ·     1  Frame        Produce            1.000
         )") + "\n");
 }
 
@@ -97,14 +147,15 @@ TEST_F(BomEditing, AnUnknownSortColumnLeavesTheSettingsAsTheyWere) {
 }
 
 TEST_F(BomEditing, RowsAreSortedByACaption) {
-    const ProgramResult result = run({"bom", design(kSmallDesign), "--sort", "Part Number"});
+    const ProgramResult result =
+        run({"bom", design(kSmallDesign), "--no-columns", "--sort", "Part Number"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(firstLines(result.output, 4), text(R"(
-              Pos.  Part Number  BOM Structure
-        ────  ────  ───────────  ─────────────
-        Part     2  Bolt         Produce
-        Part     1  Frame        Produce
+           Pos.  Part Number  BOM Structure
+        ─  ────  ───────────  ─────────────
+        ·     2  Bolt         Produce
+        ·     1  Frame        Produce
         )") + "\n");
 }
 
@@ -114,10 +165,10 @@ TEST_F(BomEditing, RowsAreSortedByAPropertyInDescendingOrder) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--sort", "Quantity:desc"});
 
     EXPECT_EQ(firstLines(result.output, 4), text(R"(
-              Pos.  Part Number  BOM Structure  How many
-        ────  ────  ───────────  ─────────────  ────────
-        Part     2  Bolt         Produce               2
-        Part     1  Frame        Produce               1
+           Pos.  Part Number  BOM Structure  How many
+        ─  ────  ───────────  ─────────────  ────────
+        ·     2  Bolt         Produce               2
+        ·     1  Frame        Produce               1
         )") + "\n");
 }
 
@@ -136,8 +187,8 @@ TEST_F(BomEditing, ASortOfNamesThatTheAddinTakesForNumbersFails) {
 }
 
 TEST_F(BomEditing, TheWholeTreeIsShown) {
-    const ProgramResult result =
-        run({"bom", design(kTree), "--tab", "model", "--expand", "all", "--format", "csv"});
+    const ProgramResult result = run({"bom", design(kTree), "--tab", "model", "--expand", "all",
+                                      "--format", "csv", "--no-columns"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.output,
@@ -152,8 +203,8 @@ TEST_F(BomEditing, TheWholeTreeIsShown) {
 }
 
 TEST_F(BomEditing, TheTreeIsShownDownToALevel) {
-    const ProgramResult result =
-        run({"bom", design(kTree), "--tab", "model", "--expand", "2", "--format", "csv"});
+    const ProgramResult result = run({"bom", design(kTree), "--tab", "model", "--expand", "2",
+                                      "--format", "csv", "--no-columns"});
 
     EXPECT_EQ(result.output,
               "Pos.;Part Number;BOM Structure;\r\n"
@@ -168,15 +219,15 @@ TEST_F(BomEditing, TheTreeIsShownDownToALevel) {
 TEST_F(BomEditing, EditedCellsAreSavedAndPrintedFromANewOpening) {
     const std::string file = design(kSmallDesign);
 
-    const ProgramResult result =
-        run({"bom", file, "--set", "2:Part Number=B-2", "--set", "1:BOM Structure=Buy", "--save"});
+    const ProgramResult result = run({"bom", file, "--no-columns", "--set", "2:Part Number=B-2",
+                                      "--set", "1:BOM Structure=Buy", "--save"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(firstLines(result.output, 4), text(R"(
-              Pos.  Part Number  BOM Structure
-        ────  ────  ───────────  ─────────────
-        Part     1  Frame        Buy
-        Part     2  B-2          Produce
+           Pos.  Part Number  BOM Structure
+        ─  ────  ───────────  ─────────────
+        ·     1  Frame        Buy
+        ·     2  B-2          Produce
         )") + "\n");
     EXPECT_NE(result.output.find("Saved: " + file + "\n"), std::string::npos) << result.output;
     EXPECT_EQ(loadDesign(file).components[2].partNumber, "B-2");
@@ -205,14 +256,14 @@ TEST_F(BomEditing, RowsOfCellsAreThoseOfTheSortedList) {
 TEST_F(BomEditing, LineNumbersStartAtOneAfterSaving) {
     const ProgramResult result =
         run({"bom", design(kSmallDesign), "--column", "Mass", "--tab", "model", "--set",
-             "1:Part Number=F", "--save", "--format", "csv"});
+             "1:Part Number=F", "--set", "Bolt:BOM Structure=Buy", "--save", "--format", "csv"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.output,
               "Pos.;Part Number;BOM Structure;Mass [kg];\r\n"
               "1;F;Produce;1.000;\r\n"
-              "2;Bolt;Produce;0.500;\r\n"
-              "3;Bolt;Produce;0.500;\r\n"
+              "2;Bolt;Buy;0.500;\r\n"
+              "3;Bolt;Buy;0.500;\r\n"
               "\r\n"
               ";Total mass of structure BOM [kg]: ;\r\n");
 }
@@ -221,7 +272,7 @@ TEST_F(BomEditing, AnUnknownCellListsTheKnownOnesAndWritesNothing) {
     const std::string file = design(kSmallDesign);
     const std::string old = readFile(host::fromUtf8(file));
 
-    const ProgramResult column = run({"bom", file, "--set", "1:Pos.=7", "--save"});
+    const ProgramResult column = run({"bom", file, "--no-columns", "--set", "1:Pos.=7", "--save"});
     const ProgramResult row =
         run({"bom", file, "--set", "1:Part Number=F", "--set", "3:Part Number=B", "--save"});
 
@@ -270,4 +321,214 @@ TEST_F(BomEditing, ASaveIntoAnotherKindOfFileIsRefused) {
     EXPECT_EQ(result.status, 2);
     EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
     EXPECT_NE(result.errors.find("must end in .json"), std::string::npos) << result.errors;
+}
+
+TEST_F(BomEditing, APartNumberNamesAllItsRows) {
+    const std::string file = design(kTwice);
+
+    const ProgramResult result =
+        run({"bom", file, "--tab", "model", "--set", "Bolt:Part Number=B-2", "--save"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(loadDesign(file).components[1].partNumber, "B-2");
+}
+
+TEST_F(BomEditing, APathNamesTheRowOfAnOccurrence) {
+    const std::string file = design(kTree);
+
+    const ProgramResult result = run({"bom", file, "--tab", "model", "--expand", "all", "--set",
+                                      "Frame:1+Brace:1:Part Number=B:1=2", "--save"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_NE(result.output.find("B:1=2"), std::string::npos) << result.output;
+}
+
+TEST_F(BomEditing, ANameOfNoRowIsRefused) {
+    const std::string file = design(kTree);
+
+    EXPECT_EQ(run({"bom", file, "--set", "Nut:Part Number=N", "--save"}).errors,
+              "tarnix-workbench: --set Nut:Part Number: no row \"Nut\"; expected the number of a "
+              "line, the path of an occurrence or a part number\n");
+    EXPECT_EQ(
+        run({"bom", file, "--tab", "model", "--set", "Frame:1+Brace:1:Part Number=N", "--save"})
+            .errors,
+        "tarnix-workbench: --set Frame:1+Brace:1:Part Number: the row of Frame:1+Brace:1 is "
+        "not shown; --expand all shows it\n");
+}
+
+TEST_F(BomEditing, OfTwoAtOnceNoneIsLostWithStatusZero) {
+    const std::string file = design(kSmallDesign);
+    const auto edit = [&](const std::string& cell) {
+        return std::async(std::launch::async, [file, cell] {
+            return run({"bom", file, "--set", cell, "--save"});
+        });
+    };
+    auto first = edit("1:Part Number=F-2");
+    auto second = edit("2:Part Number=B-2");
+    const ProgramResult one = first.get();
+    const ProgramResult other = second.get();
+
+    const host::DesignData saved = loadDesign(file);
+    EXPECT_EQ(one.status, saved.components[1].partNumber == "F-2" ? 0 : 5) << one.errors;
+    EXPECT_EQ(other.status, saved.components[2].partNumber == "B-2" ? 0 : 5) << other.errors;
+    EXPECT_TRUE(one.status == 0 || other.status == 0);
+}
+
+/// An edit that the add-in loses, and the line that reports it.
+class LostEdit : public test_support::Workbench {
+protected:
+    void expectLost(const std::string& file, std::vector<std::string> options,
+                    const std::string& line) {
+        const std::string old = readFile(host::fromUtf8(file));
+        options.insert(options.begin(), {"bom", file});
+        options.insert(options.end(), {"--save", "--out", out()});
+
+        const ProgramResult result = run(options);
+
+        EXPECT_EQ(result.status, 4);
+        EXPECT_EQ(result.errors, "tarnix-workbench: " + line + "\n");
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+        EXPECT_FALSE(fs::exists(folder.path() / "out"));
+    }
+};
+
+TEST_F(LostEdit, OfAComponentThatIsUsedAgainLaterIsReported) {
+    expectLost(design(kTwice), {"--tab", "model", "--set", "1:Part Number=B-2"},
+               "row 1: Part Number stays \"Bolt\": row 2 is the same component, and is written "
+               "after it");
+}
+
+TEST_F(LostEdit, OfAComponentWithAHiddenRowIsReported) {
+    expectLost(design(R"(
+                   Bolt
+                   Frame
+                     Bolt)"),
+               {"--tab", "model", "--set", "1:Part Number=B-2"},
+               "row 1: Part Number stays \"Bolt\": the hidden row of Frame:1+Bolt:2 is the same "
+               "component, and is written after it");
+}
+
+TEST_F(LostEdit, OfAPropertyThatTheComponentLacksIsReported) {
+    expectLost(design(R"(
+                   Frame
+                   Bolt  property=Supplier/Acme)"),
+               {"--column", "Supplier", "--set", "1:Supplier=Acme"},
+               "row 1: Supplier stays \"\": \"Frame\" lacks that property; the subcommand "
+               "\"properties\" adds it");
+}
+
+TEST_F(LostEdit, OfAMeasuredColumnIsReported) {
+    expectLost(design(kSmallDesign), {"--set", "1:Mass=5"},
+               "row 1: Mass [kg] stays \"1.000\": the add-in works it out");
+}
+
+TEST_F(LostEdit, OfTheStructureOfAPartInSeveralRowsIsReported) {
+    expectLost(design(R"(
+                   Left  structure=Divided
+                     Bolt
+                   Right  structure=Divided
+                     Bolt)"),
+               {"--set", "1:BOM Structure=Divided"},
+               "row 1: BOM Structure stays \"Produce\": row 2 is the same component, and is "
+               "written after it");
+}
+
+TEST_F(LostEdit, OfACombinedRowIsReported) {
+    expectLost(design(kMerged), {"--set", "1:Part Number=B-2"},
+               "row 1: Part Number stays \"B-1\": the row combines differently named components; "
+               "edit them with --tab model");
+}
+
+TEST_F(LostEdit, OnesAreAllReported) {
+    const ProgramResult result =
+        run({"bom", design(kSmallDesign), "--set", "1:Mass=5", "--set", "2:Quantity=7", "--save"});
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: row 1: Mass [kg] stays \"1.000\": the add-in works it out\n"
+              "tarnix-workbench: row 2: Quantity stays \"1\": the add-in works it out\n");
+}
+
+/// A list that was exported, edited, and is taken back.
+class EditedListOption : public test_support::Workbench {
+protected:
+    ProgramResult setFrom(const std::string& file, const std::string& list,
+                          std::vector<std::string> options = {}) {
+        writeFile(folder.path() / "edited.csv", list);
+        options.insert(options.begin(), {"bom", file, "--set-from", path("edited.csv"), "--save"});
+        return run(options);
+    }
+
+    [[nodiscard]] std::string line(int number) const {
+        return "tarnix-workbench: " + path("edited.csv") + ", line " + std::to_string(number) +
+               ": ";
+    }
+};
+
+TEST_F(EditedListOption, ChangesTheCellsThatDiffer) {
+    const std::string file = design(kSmallDesign);
+
+    const ProgramResult result =
+        setFrom(file,
+                "Pos.;Part Number;BOM Structure;Quantity;Part Name;Mass [kg];Physical Material;\r\n"
+                "1;Frame;Produce;1;Frame;1,0;Sheet;\r\n"
+                "2;Bolt;Buy;2;Screw;0.500;Sheet;\r\n"
+                "\r\n"
+                ";Total mass of structure BOM [kg]: ;2.000\r\n");
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(loadDesign(file).components[2].name, "Screw");
+    EXPECT_NE(result.output.find("Buy"), std::string::npos) << result.output;
+}
+
+TEST_F(EditedListOption, MayNamePathsAndChangePartNumbers) {
+    const std::string file = design(kTree);
+
+    const ProgramResult result = setFrom(file,
+                                         "\xEF\xBB\xBFPath,Part Number\n"
+                                         "Frame:1+Brace:1,\"B, \"\"2\"\"\"\n",
+                                         {"--tab", "model", "--expand", "all"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_NE(result.output.find("B, \"2\""), std::string::npos) << result.output;
+}
+
+TEST_F(EditedListOption, ReportsAllThatCannotBeAppliedAndSavesNothing) {
+    const std::string file = design(kSmallDesign);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult result = setFrom(file,
+                                         "Part Number;BOM Structure;Mass;Colour\n"
+                                         "Frame;Bought;2.5;\n"
+                                         "Nut;Buy;;\n"
+                                         "Bolt;Buy;0.5;\n");
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              line(1) + "the list has no column \"Colour\"\n" + line(2) +
+                  "BOM Structure \"Bought\": no such choice; available: \"Produce\", \"Buy\", "
+                  "\"AsPart\", \"Divided\", \"Reference\"\n" +
+                  line(2) + "Mass [kg] \"2.5\": the add-in works it out, here \"1.000\"\n" +
+                  line(3) + "the list has no row of the part number \"Nut\"\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+TEST_F(EditedListOption, RefusesLinesThatContradictEachOther) {
+    const ProgramResult result = setFrom(design(kSmallDesign),
+                                         "Part Number;BOM Structure\n"
+                                         "Bolt;Buy\n"
+                                         "Bolt;AsPart\n");
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, line(3) + "BOM Structure \"AsPart\": " + path("edited.csv") +
+                                 ", line 2 has \"Buy\" for the same row\n");
+}
+
+TEST_F(EditedListOption, NeedsAColumnThatNamesTheRows) {
+    const ProgramResult result = setFrom(design(kSmallDesign), "Name;Mass\nFrame;1\n");
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "tarnix-workbench: " + path("edited.csv") +
+                                 ": has neither a column \"Part Number\" nor a column \"Path\"\n");
 }

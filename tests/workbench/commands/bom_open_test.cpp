@@ -23,6 +23,9 @@ protected:
         variables.set("PATH", place.string() + ":" + before);
     }
 
+    /// Where the workbook and what it reads stay after the run.
+    [[nodiscard]] fs::path stays() const { return addinCopy().parent_path() / "opened" / "Tarnix"; }
+
     [[nodiscard]] fs::path openedList() const { return folder.path() / "opened"; }
 
     [[nodiscard]] std::string recording() const { return "echo \"$1\" > " + openedList().string(); }
@@ -34,9 +37,9 @@ TEST_F(BomOpen, OpensTheWorkbook) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--open"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_EQ(readFile(openedList()), host::toUtf8(addinCopy() / "TarnixBOM.xlsm") + "\n");
+    EXPECT_EQ(readFile(openedList()), host::toUtf8(stays() / "TarnixBOM.xlsm") + "\n");
     EXPECT_TRUE(
-        result.output.ends_with("\nOpened: " + host::toUtf8(addinCopy() / "TarnixBOM.xlsm") + "\n"))
+        result.output.ends_with("\nOpened: " + host::toUtf8(stays() / "TarnixBOM.xlsm") + "\n"))
         << result.output;
 }
 
@@ -66,7 +69,19 @@ TEST_F(BomOpen, ExportsAlsoWhereTheShellFails) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(readFile(folder.path() / "out" / "TarnixBOM.csv"),
-              readFile(addinCopy() / "TarnixBOM.csv"));
+              readFile(stays() / "TarnixBOM.csv"));
+}
+
+TEST_F(BomOpen, DoesNotTakeAnOldExportForANewOne) {
+    openerIs("exit 0");
+    run({"bom", design(kSmallDesign), "--open"});
+    EXPECT_TRUE(fs::exists(stays() / "TarnixBOM.csv"));
+
+    const ProgramResult result = run({"bom", design(""), "--out", out(), "--open"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_FALSE(fs::exists(stays() / "TarnixBOM.csv"));
+    EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }
 
 }  // namespace

@@ -12,11 +12,10 @@
 namespace {
 
 using workbench::BomRequest;
-using workbench::CellEdit;
+using workbench::checkCellNames;
 using workbench::checkRequest;
 using workbench::ColumnChoice;
 using workbench::parseColumns;
-using workbench::parseEdits;
 using workbench::parseLevels;
 using workbench::parseSort;
 using workbench::SortOrder;
@@ -37,7 +36,6 @@ TEST(BomRequest, OfNoOptionsIsEmpty) {
     EXPECT_TRUE(parseColumns({}).empty());
     EXPECT_FALSE(parseSort("").has_value());
     EXPECT_FALSE(parseLevels("").has_value());
-    EXPECT_TRUE(parseEdits({}).empty());
     EXPECT_EQ(refusal([] { checkRequest({}); }), "");
 }
 
@@ -102,22 +100,34 @@ TEST(BomRequest, AnExpandedStructureIsRefused) {
               "--expand requires --tab model: the structure tab has no tree");
 }
 
-TEST(BomRequest, AnEditHasARowAColumnAndAValue) {
-    EXPECT_EQ(parseEdits({"12:Part Number=A=B:C", "1:Mass="}),
-              (std::vector<CellEdit>{{.row = 12, .column = "Part Number", .value = "A=B:C"},
-                                     {.row = 1, .column = "Mass", .value = ""}}));
+TEST(BomRequest, AnEditOfAnotherFormIsRefused) {
+    EXPECT_EQ(refusal([] { checkCellNames({"12:Part Number=A=B:C", "1:Mass="}); }), "");
+    EXPECT_EQ(refusal([] { checkCellNames({"1=Mass:1"}); }),
+              "--set 1=Mass:1: expected ROW:COLUMN=VALUE");
+    EXPECT_EQ(refusal([] { checkCellNames({":Mass=1"}); }),
+              "--set :Mass=1: expected ROW:COLUMN=VALUE");
 }
 
-TEST(BomRequest, AnEditOfAnotherFormIsRefused) {
-    EXPECT_EQ(refusal([] { parseEdits({"0:Mass=1"}); }),
-              "--set 0:Mass=1: expected ROW:COLUMN=VALUE, with a row from 1");
-    EXPECT_EQ(refusal([] { parseEdits({"1=Mass:1"}); }),
-              "--set 1=Mass:1: expected ROW:COLUMN=VALUE, with a row from 1");
+TEST(BomRequest, KeepingColumnsThatAreNotGivenIsRefused) {
+    BomRequest request;
+    request.keepColumns = true;
+
+    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+              "--keep-columns requires --column: it stores the columns that are given");
+}
+
+TEST(BomRequest, ColumnsAndNoColumnsAreRefused) {
+    BomRequest request;
+    request.columns = parseColumns({"Mass"});
+    request.noColumns = true;
+
+    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+              "--no-columns shows none, but --column is given");
 }
 
 TEST(BomRequest, AnEditThatIsNotSavedIsRefused) {
     BomRequest request;
-    request.edits = parseEdits({"1:Mass=1"});
+    request.edits.cells = {"1:Mass=1"};
 
     EXPECT_EQ(refusal([&] { checkRequest(request); }),
               "--set requires --save: without it the edits are lost when the dialog closes");

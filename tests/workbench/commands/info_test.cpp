@@ -60,10 +60,82 @@ TEST_F(InfoCommand, CountsWhatAFileHolds) {
         Occurrences  7
         Levels       2
         Length unit  unknown
+        Bodies       7
+        Area         1134.00 cm²
+        Volume       361.000 cm³
+        Mass         1.804 kg
+        Box          100.0 x 100.0 x 400.0 mm
 
         Material   Density [kg/m³]  Components
         ─────────  ───────────────  ──────────
         Aluminium           2700.0           1
         Steel               7850.0           2
         )") + "\n");
+}
+
+TEST_F(InfoCommand, MarksAMaterialThatIsAssumed) {
+    host::DesignData data = host::parseOutline("Bolt  material=Steel:0.00785 box=1x1x1");
+    data.name = "bolt";
+    data.components[1].material->nameAssumed = true;
+    data.components[1].material->densityAssumed = true;
+    const fs::path file = folder.path() / "bolt.design.json";
+    host::saveDesignFile(file, data);
+
+    const ProgramResult result = run({"info", host::toUtf8(file)});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_NE(result.output.find("Steel (assumed)"), std::string::npos) << result.output;
+    EXPECT_EQ(result.errors,
+              "warning: " + host::toUtf8(file) +
+                  ": 1 of 1 part has no material: Steel assumed (--material NAME=DENSITY to "
+                  "change)\n");
+}
+
+TEST_F(InfoCommand, UsesTheMaterialThatIsNamedForPartsWithoutOne) {
+    host::DesignData data = host::parseOutline(R"(
+        Bolt  material=Steel:0.00785 box=10x10x10
+        Rail  material=Brass:0.0085 box=10x10x10)");
+    data.name = "bolt";
+    data.components[1].material->nameAssumed = true;
+    data.components[1].material->densityAssumed = true;
+    const fs::path file = folder.path() / "bolt.design.json";
+    host::saveDesignFile(file, data);
+
+    const ProgramResult result =
+        run({"info", host::toUtf8(file), "--material", "Aluminium=2700", "--strict"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    // A litre of each.
+    EXPECT_NE(result.output.find("Mass         11.200 kg"), std::string::npos) << result.output;
+    EXPECT_NE(result.output.find("Aluminium"), std::string::npos) << result.output;
+}
+
+TEST_F(InfoCommand, AMaterialWithoutADensityIsRefused) {
+    EXPECT_EQ(run({"info", design("Bolt"), "--material", "Wood"}).errors,
+              "tarnix-workbench: --material Wood: expected NAME=DENSITY, with a density of 1 to "
+              "25000 kg/m3\n");
+    EXPECT_EQ(run({"info", design("Bolt"), "--material", "Wood=0"}).status, 2);
+}
+
+TEST_F(InfoCommand, MeasuresALonePart) {
+    host::DesignData data = host::parseOutline("Plate  box=10x5x2 material=Brass:0.0085");
+    data.components.front().geometry = data.components[1].geometry;
+    data.components.front().material = data.components[1].material;
+    data.components.front().children.clear();
+    data.components.resize(1);
+    data.name = "plate";
+    const fs::path file = folder.path() / "plate.design.json";
+    host::saveDesignFile(file, data);
+
+    const ProgramResult result = run({"info", host::toUtf8(file)});
+
+    // 2 x (50 + 20 + 10) cm2, 100 cm3, 0.85 kg.
+    EXPECT_NE(result.output.find("Bodies       1\n"
+                                 "Area         160.00 cm\u00B2\n"
+                                 "Volume       100.000 cm\u00B3\n"
+                                 "Mass         0.850 kg\n"
+                                 "Box          100.0 x 50.0 x 20.0 mm\n"),
+              std::string::npos)
+        << result.output;
 }

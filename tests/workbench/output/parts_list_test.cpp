@@ -1,5 +1,6 @@
 #include "workbench/output/parts_list.h"
 
+#include "host/design/reading_warning.h"
 #include "tests/support/text.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@ using host::TableCell;
 using host::TableView;
 using test_support::text;
 using workbench::PartsList;
+using workbench::console::Charset;
 
 namespace {
 
@@ -43,37 +45,86 @@ TEST(PartsList, TheFirstRowOfTheTableHoldsTheCaptions) {
     EXPECT_EQ(list.rows[0], (std::vector<std::string>{"Asm", "1", "", "Frame"}));
 }
 
-TEST(PartsList, PicturesAndTreeAreInTheTable) {
-    EXPECT_EQ(workbench::asTable(workbench::readPartsList(smallTable())), text(R"(
-              Pos.       Part Number
-        ────  ────  ───  ───────────
-        Asm      1       Frame
-        Part     2  ├──  Bolt "M8"
+TEST(PartsList, PicturesBecomeSignsThatAreIndentedAsATree) {
+    PartsList list = workbench::readPartsList(smallTable());
+    list.places = {{.level = 1, .path = "Frame:1"}, {.level = 2, .path = "Frame:1+Bolt:1"}};
+
+    EXPECT_EQ(workbench::asTable(list, Charset::Utf8), text(R"(
+             Pos.  Part Number
+        ───  ────  ───────────
+        ▸       1  Frame
+          ·     2  Bolt "M8"
+        )") + "\n");
+    EXPECT_EQ(workbench::asTable(list, Charset::Ascii), text(R"(
+             Pos.  Part Number
+        ---  ----  -----------
+        >       1  Frame
+          .     2  Bolt "M8"
+        )") + "\n");
+}
+
+TEST(PartsList, RowsWhoseMaterialIsAssumedSaySo) {
+    PartsList list{{"Part"}, {"Part"}, {{"Bolt"}, {"Nut"}}, "", ""};
+    list.places = {{.level = 1, .path = "Bolt:1"},
+                   {.level = 1, .path = "Nut:1", .isAssumed = true}};
+
+    EXPECT_EQ(workbench::asTable(list, Charset::Utf8), text(R"(
+        Part  Material
+        ────  ────────
+        Bolt
+        Nut   assumed
         )") + "\n");
 }
 
 TEST(PartsList, TheTotalIsBelowTheTable) {
     PartsList list{{"Part"}, {"Part"}, {{"Bolt"}}, "Total mass [kg] : ", "1.500"};
 
-    EXPECT_EQ(workbench::asTable(list), "Part\n────\nBolt\n\nTotal mass [kg] : 1.500\n");
+    EXPECT_EQ(workbench::asTable(list, Charset::Utf8),
+              "Part\n────\nBolt\n\nTotal mass [kg] : 1.500\n");
 }
 
 TEST(PartsList, JsonHasAnObjectForEachRow) {
-    EXPECT_EQ(workbench::asJson(workbench::readPartsList(smallTable())), text(R"(
-        [
-          {
-            "Image": "Asm",
-            "Pos.": "1",
-            "Tree": "",
-            "Part Number": "Frame"
-          },
-          {
-            "Image": "Part",
-            "Pos.": "2",
-            "Tree": "├──",
-            "Part Number": "Bolt \"M8\""
-          }
-        ]
+    PartsList list = workbench::readPartsList(smallTable());
+    list.places = {{.level = 1, .path = "Frame:1"},
+                   {.level = 2, .path = "Frame:1+Bolt:1", .isAssumed = true}};
+    const host::ReadingWarning warning{.code = "density-range",
+                                       .file = "a.step",
+                                       .text = "is no density",
+                                       .component = "",
+                                       .value = 860000,
+                                       .unit = "kg/m3"};
+
+    EXPECT_EQ(workbench::asJson(list, {warning}), text(R"(
+        {
+          "rows": [
+            {
+              "Image": "Asm",
+              "Pos.": "1",
+              "Tree": "",
+              "Part Number": "Frame",
+              "Level": 1,
+              "Path": "Frame:1",
+              "Material assumed": false
+            },
+            {
+              "Image": "Part",
+              "Pos.": "2",
+              "Tree": "├──",
+              "Part Number": "Bolt \"M8\"",
+              "Level": 2,
+              "Path": "Frame:1+Bolt:1",
+              "Material assumed": true
+            }
+          ],
+          "warnings": [
+            {
+              "code": "density-range",
+              "text": "a.step: is no density",
+              "value": 860000.0,
+              "unit": "kg/m3"
+            }
+          ]
+        }
         )") + "\n");
 }
 
@@ -83,4 +134,9 @@ TEST(PartsList, EqualCaptionsGetKeysOfTheirOwn) {
     EXPECT_EQ(workbench::readPartsList(table).keys, (std::vector<std::string>{"Mass", "Mass 2"}));
 }
 
-TEST(PartsList, ATableWithoutRowsIsAnEmptyJsonArray) { EXPECT_EQ(workbench::asJson({}), "[]\n"); }
+TEST(PartsList, AColumnCalledLevelHasAnotherKey) {
+    TableView table{"t", {0, 1}, {{0, {caption("Level"), caption("Path")}}}};
+
+    EXPECT_EQ(workbench::readPartsList(table).keys,
+              (std::vector<std::string>{"Level 2", "Path 2"}));
+}

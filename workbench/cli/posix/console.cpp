@@ -3,6 +3,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <sstream>
 #include <string_view>
@@ -12,6 +14,22 @@ namespace workbench::console {
 void prepare() {}
 
 std::vector<std::string> arguments(int count, char** values) { return {values, values + count}; }
+
+Charset charset() {
+    // The first of these that is set and not empty decides, as for the C library.
+    for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        const char* const value = std::getenv(name);
+        if (value != nullptr && *value != '\0') {
+            std::string locale = value;
+            std::ranges::transform(locale, locale.begin(),
+                                   [](unsigned char each) { return std::tolower(each); });
+            const bool isUtf8 = locale.find("utf-8") != std::string::npos ||
+                                locale.find("utf8") != std::string::npos;
+            return isUtf8 ? Charset::Utf8 : Charset::Ascii;
+        }
+    }
+    return Charset::Ascii;
+}
 
 bool outputIsTerminal() { return ::isatty(STDOUT_FILENO) == 1; }
 

@@ -40,6 +40,9 @@ std::vector<std::string> arguments(int /*count*/, char** /*values*/) {
     return result;
 }
 
+// `prepare` has switched the console to UTF-8.
+Charset charset() { return Charset::Utf8; }
+
 bool outputIsTerminal() { return ::_isatty(::_fileno(stdout)) != 0; }
 
 bool errorIsTerminal() { return ::_isatty(::_fileno(stderr)) != 0; }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,29 @@ TEST_P(FullOutput, IsReported) {
     EXPECT_EQ(status, 5);
     EXPECT_EQ(test_support::readFile(folder.path() / "errors"),
               "tarnix-workbench: cannot write to stdout\n");
+}
+
+using OutputThatFails = test_support::Workbench;
+
+TEST_F(OutputThatFails, KeepsNothing) {
+    const std::string file = design(test_support::kSmallDesign);
+    const std::string old = test_support::readFile(file);
+    const auto runFull = [&](const std::vector<std::string>& arguments) {
+        return test_support::runRedirected(host::environment::programFolder() / "tarnix-workbench",
+                                           arguments, "/dev/full", folder.path() / "errors");
+    };
+
+    EXPECT_EQ(runFull({"bom", file, "--out", out(), "--column", "Mass", "--keep-columns", "--set",
+                       "1:Part Number=F", "--save"}),
+              5);
+    EXPECT_EQ(
+        runFull({"properties", file, "--component", "Frame:1", "--set", "Part Number=F", "--save"}),
+        5);
+    EXPECT_EQ(runFull({"configure", "--support-url", "http://other.example/"}), 5);
+
+    EXPECT_EQ(test_support::readFile(file), old);
+    EXPECT_FALSE(std::filesystem::exists(out()));
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, FullOutput,

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/design/atomic_file.h"
+#include "host/design/design_data.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace workbench {
+
+/// The content of a file at one moment; none where there is no file.
+using Fingerprint = std::optional<std::size_t>;
+
+Fingerprint fingerprintOf(const std::filesystem::path& file);
+
+/// Files that are written beside their names and take these together at the end, when nothing else
+/// can fail any more. Without `commit` all is as it was. Each function throws a `Failure` where it
+/// fails.
+class StagedFiles {
+public:
+    StagedFiles() = default;
+    StagedFiles(const StagedFiles&) = delete;
+    StagedFiles& operator=(const StagedFiles&) = delete;
+    ~StagedFiles();
+
+    /// Makes a missing folder, which goes again with files that are not committed.
+    void add(const std::filesystem::path& file, std::string_view content);
+
+    /// A design file. The commit refuses to replace one that is no longer as it was `before`: what
+    /// another program saved there would be lost.
+    void addDesign(const std::filesystem::path& file, const host::DesignData& design,
+                   const Fingerprint& before);
+
+    void commit();
+
+private:
+    struct File {
+        std::filesystem::path path;
+        host::AtomicFile content;
+        std::optional<Fingerprint> before;  ///< nothing where it does not matter
+    };
+
+    void makeFolderOf(const std::filesystem::path& file);
+
+    std::vector<File> files_;
+    std::vector<std::filesystem::path> madeFolders_;
+};
+
+}  // namespace workbench
