@@ -10,7 +10,8 @@ namespace {
 /// Returns a frame that holds a bolt and a nut, each with a shape of its own.
 constexpr const char* kTwoShapes = R"sh(
 component() {
-    echo '{"id": "", "name": "'$1'", "description": "", "shape": '$2', "uses": ['$3']}'
+    echo '{"id": "", "name": "'$1'", "description": "", "shape": '$2', "bodies": 1,' \
+        '"material": "Steel", "density": 0.00785, "uses": ['$3']}'
 }
 use() { echo '{"component": '$1', "placement": [1,0,0,0, 0,1,0,0, 0,0,1,0]}'; }
 frame=$(component Frame -1 "$(use 1), $(use 2)")
