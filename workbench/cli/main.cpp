@@ -19,7 +19,7 @@ namespace workbench {
 namespace {
 
 constexpr const char* kFooterEnd =
-    "On failure one line on stderr says why, and no file is written except those that open-local\n"
+    "On failure stderr says why, and no file is written except those that open-local\n"
     "reports.";
 
 std::string footer() {

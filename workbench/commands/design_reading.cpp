@@ -7,10 +7,12 @@
 
 #include "host/base/utf8_path.h"
 #include "host/import/read_design.h"
+#include "host/import/read_tree.h"
 
 #include <cstddef>
 #include <exception>
 #include <functional>
+#include <string_view>
 #include <utility>
 
 namespace workbench {
@@ -18,7 +20,21 @@ namespace {
 
 using Warnings = std::vector<host::ReadingWarning>;
 
-host::DesignData readFile(const std::string& file, const host::ReadingLimits& limits,
+using Read = decltype(host::readTree);
+
+/// The message of a failed reading, with the option that increases a limit it names.
+std::string namingOptions(const std::string& message) {
+    constexpr std::string_view kLimit = "increase the limit";
+    const std::size_t found = message.find(kLimit);
+    if (found == std::string::npos) {
+        return message;
+    }
+    const auto isOf = [&](std::string_view unit) { return message.rfind(unit, found) < found; };
+    const char* const memoryOrTime = isOf(" megabytes ") ? "memory" : "seconds";
+    return message + " (--max-" + (isOf(" occurrences;") ? "occurrences" : memoryOrTime) + ")";
+}
+
+host::DesignData readFile(Read& read, const std::string& file, const host::ReadingLimits& limits,
                           Warnings& warnings) {
     try {
         ProgressLine line;
@@ -27,12 +43,11 @@ host::DesignData readFile(const std::string& file, const host::ReadingLimits& li
             line.show(printable(stage) + " " + printable(file) + " " +
                       std::to_string(static_cast<int>(fraction * kPercent)) + " %");
         };
-        host::DesignData design =
-            host::readDesign(host::fromUtf8(file), limits, progress, warnings);
+        host::DesignData design = read(host::fromUtf8(file), limits, progress, warnings);
         line.show("");
         return design;
     } catch (const std::exception& error) {
-        throw Failure(ExitCode::BadInput, error.what());
+        throw Failure(ExitCode::BadInput, namingOptions(error.what()));
     }
 }
 
@@ -94,24 +109,35 @@ void refuseWarnings(const std::string& file, std::size_t count) {
     }
 }
 
+host::DesignData readBy(Read& read, const std::string& file, const ReadingOptions& reading,
+                        Warnings& warnings) {
+    host::DesignData design = readFile(read, file, reading.limits, warnings);
+    if (reading.material) {
+        useMaterial(design, *reading.material);
+    }
+    warnOfAssumed(file, design, warnings);
+    reportWarnings(warnings);
+    if (reading.strict) {
+        refuseWarnings(file, warnings.size());
+    }
+    return design;
+}
+
 }  // namespace
 
 host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
                             Warnings* warnings) {
     Warnings all;
-    host::DesignData design = readFile(file, reading.limits, all);
-    if (reading.material) {
-        useMaterial(design, *reading.material);
-    }
-    warnOfAssumed(file, design, all);
-    reportWarnings(all);
-    if (reading.strict) {
-        refuseWarnings(file, all.size());
-    }
+    host::DesignData design = readBy(host::readDesign, file, reading, all);
     if (warnings != nullptr) {
         *warnings = std::move(all);
     }
     return design;
+}
+
+host::DesignData readTree(const std::string& file, const ReadingOptions& reading) {
+    Warnings warnings;
+    return readBy(host::readTree, file, reading, warnings);
 }
 
 }  // namespace workbench

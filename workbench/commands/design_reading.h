@@ -16,4 +16,8 @@ namespace workbench {
 host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
                             std::vector<host::ReadingWarning>* warnings = nullptr);
 
+/// Reads what a design consists of in the same way, without the shapes of an assembly, which takes
+/// most of the time: see `host::readTree`. Bodies that cannot be built are not warned of.
+host::DesignData readTree(const std::string& file, const ReadingOptions& reading);
+
 }  // namespace workbench

@@ -19,6 +19,7 @@ namespace {
 struct InfoOptions {
     std::string file;
     ReadingOptions reading;
+    bool measure = false;
 };
 
 std::string fixed(double value, int decimals) {
@@ -53,13 +54,20 @@ std::string boxText(const std::optional<host::Box>& box) {
     return text + " mm";
 }
 
-/// What the whole design measures; the reason where a part of it cannot be measured.
-std::string measuresText(const host::DesignData& design) {
+/// Why the design as a whole was not measured.
+std::string obstacleText(const host::DesignMeasures& measures, bool shapesWereRead) {
+    return "Measures     " +
+           (shapesWereRead ? "unknown: " + printable(measures.unmeasured.front().reason)
+                           : "not taken; --measure takes them") +
+           "\n";
+}
+
+/// What the whole design measures, or why it was not measured.
+std::string measuresText(const host::DesignData& design, bool shapesWereRead) {
     const host::DesignMeasures measures = host::measureDesign(design);
     std::string text = "Bodies       " + std::to_string(measures.bodies) + "\n";
     if (!measures.unmeasured.empty()) {
-        return text + "Measures     unknown: " + printable(measures.unmeasured.front().reason) +
-               "\n";
+        return text + obstacleText(measures, shapesWereRead);
     }
     text += "Area         " + fixed(measures.area, 2) + " cm\xC2\xB2\n";
     text += "Volume       " + fixed(measures.volume, 3) + " cm\xC2\xB3\n";
@@ -75,9 +83,13 @@ std::string materialTable(const std::vector<host::MaterialUse>& materials) {
     return table.text();
 }
 
-/// Prints what a file holds.
+/// Prints what a file holds. The shapes of an assembly take most of the time: they are read where
+/// they are measured, or where a body that cannot be built is to be a failure.
 void runInfo(const InfoOptions& options) {
-    const host::DesignData design = readDesign(options.file, options.reading);
+    const bool readsShapes = options.measure || options.reading.strict;
+    const host::DesignData design = readsShapes ? readDesign(options.file, options.reading)
+                                                : readTree(options.file, options.reading);
+    const bool isLonePart = design.components.front().children.empty();
     const host::DesignSummary summary = host::summarize(design);
     std::cout << printable(summary.name) << "\n\n"
               << "Components   " << summary.components << "\n"
@@ -86,7 +98,7 @@ void runInfo(const InfoOptions& options) {
               << "Levels       " << summary.levels << "\n"
               << "Length unit  " << (summary.unit.empty() ? "unknown" : printable(summary.unit))
               << "\n"
-              << measuresText(design);
+              << measuresText(design, readsShapes || isLonePart);
     if (!summary.materials.empty()) {
         std::cout << "\n" << materialTable(summary.materials);
     }
@@ -101,6 +113,10 @@ void addInfoCommand(CLI::App& program) {
     InfoOptions& options = optionsFor(command, runInfo);
     addFile(command, options.file);
     addReading(command, options.reading);
+    command.add_flag(
+        "--measure", options.measure,
+        "Measure an assembly too, which takes longer: its shapes are built, and bodies\n"
+        "that cannot be are warned of; a lone part is always measured");
 }
 
 }  // namespace workbench

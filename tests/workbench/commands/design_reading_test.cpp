@@ -62,8 +62,13 @@ TEST_F(BadInput, AFileThatIsCutOff) {
 }
 
 TEST_F(BadInput, AFileOfAnotherKind) {
-    EXPECT_EQ(reason(file("PK\x03\x04 something else")),
+    EXPECT_EQ(reason(file("%PDF-1.4 something else")),
               "is no STEP file; such a file begins with \"ISO-10303-21;\"\n");
+}
+
+TEST_F(BadInput, AnArchive) {
+    EXPECT_EQ(reason(file("PK\x03\x04 something else")),
+              "is a ZIP archive; unpack it, and open the file that was in it\n");
 }
 
 TEST_F(BadInput, AFileWithoutAProduct) {
@@ -80,7 +85,7 @@ TEST_F(BadInput, AssembliesThatContainEachOther) {
 TEST_F(BadInput, ATreeBeyondTheLimit) {
     EXPECT_EQ(reason(file(nine()), {"--max-occurrences", "8"}),
               "would become more than 8 occurrences; open a part of the assembly, or increase the "
-              "limit\n");
+              "limit (--max-occurrences)\n");
     EXPECT_EQ(run({"info", file(nine()), "--max-occurrences", "9"}).status, 0);
 }
 
@@ -92,7 +97,7 @@ TEST_F(BadInput, ADesignFileBeyondTheLimit) {
 
     EXPECT_EQ(reason(large, {"--max-occurrences", "2"}),
               "would become more than 2 occurrences; open a part of the assembly, or increase the "
-              "limit\n");
+              "limit (--max-occurrences)\n");
     EXPECT_EQ(run({"info", large, "--max-occurrences", "3"}).status, 0);
 }
 
@@ -148,7 +153,7 @@ TEST_F(BadInput, ADesignFileThatMayTakeTooMuchMemory) {
 
     EXPECT_EQ(reason(host::toUtf8(path), {"--max-memory", "16"}),
               "may take more than 16 megabytes of memory; open a smaller design, or increase the "
-              "limit\n");
+              "limit (--max-memory)\n");
 }
 
 TEST_F(BadInput, GetsTheSameLineFromInfo) {

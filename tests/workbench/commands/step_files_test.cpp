@@ -62,6 +62,28 @@ TEST_F(StepFile, ThatTheAddinOpensIsWarnedOfToo) {
         << result.errors;
 }
 
+TEST_F(StepFile, IsMeasuredByInfoWhereThatIsAskedFor) {
+    const std::string sample = std::string(PROJECT_FOLDER) + "/samples/camera-slider.step";
+
+    const ProgramResult tree = run({"info", sample});
+    const ProgramResult measured = run({"info", sample, "--measure"});
+
+    EXPECT_EQ(tree.status, 0) << tree.errors;
+    EXPECT_NE(tree.output.find("Measures     not taken; --measure takes them\n"), std::string::npos)
+        << tree.output;
+    EXPECT_EQ(measured.output.find("Measures"), std::string::npos) << measured.output;
+    EXPECT_NE(measured.output.find("Volume       "), std::string::npos) << measured.output;
+    // Counts and materials are the same.
+    const auto counts = [](const std::string& output) {
+        return output.substr(0, output.find("\nLength unit"));
+    };
+    const auto materials = [](const std::string& output) {
+        return output.substr(output.find("\n\nMaterial"));
+    };
+    EXPECT_EQ(counts(tree.output), counts(measured.output));
+    EXPECT_EQ(materials(tree.output), materials(measured.output));
+}
+
 /// A real file and the occurrences in it, as counted in its text.
 struct Counted {
     const char* file;
