@@ -30,7 +30,7 @@ std::string namingOptions(const std::string& message) {
         return message;
     }
     const auto isOf = [&](std::string_view unit) { return message.rfind(unit, found) < found; };
-    const char* const memoryOrTime = isOf(" megabytes ") ? "memory" : "seconds";
+    const char* const memoryOrTime = isOf(" memory") ? "memory" : "seconds";
     return message + " (--max-" + (isOf(" occurrences;") ? "occurrences" : memoryOrTime) + ")";
 }
 
@@ -57,9 +57,8 @@ void useMaterial(host::DesignData& design, const host::MaterialData& chosen) {
         if (!component.material) {
             continue;
         }
-        const bool isOfThatName = component.material->name == chosen.name;
-        if (component.material->nameAssumed ||
-            (component.material->densityAssumed && isOfThatName)) {
+        const host::MaterialData& own = *component.material;
+        if (own.densityAssumed && (own.nameAssumed || own.name == chosen.name)) {
             component.material = chosen;
         }
     }

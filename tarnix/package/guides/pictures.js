@@ -113,7 +113,7 @@ const valueColumns = {'Part Number': 116, 'BOM Structure': 92, 'Quantity': 58, '
 const valueNames = Object.keys(valueColumns), valueWidths = Object.values(valueColumns);
 
 function drawModel(name) {
-  const rows = readJson(name + '.json');
+  const {rows} = readJson(name + '.json');
   const height = 172 + rows.length * 22;
   save(name, 780, height, [
     dialog(780, height, 'BOM', bomTabs, 'Data of Model', bomButtons), exportButton(68),
@@ -122,7 +122,7 @@ function drawModel(name) {
 }
 
 function drawStructure(name) {
-  const rows = readJson(name + '.json');
+  const {rows} = readJson(name + '.json');
   const mass = /Total mass of structure BOM \[kg\] : (\S+)/.exec(read(name + '.txt'))[1];
   const height = 212 + rows.length * 22;
   const bottom = 130 + 22 + rows.length * 22;

@@ -70,7 +70,7 @@ execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out
 file(READ "${place}/TarnixBOM.csv" csv)
 string(REPLACE "\r" "" csv "${csv}")
 # Two bolts of half a kilogram are one line of one kilogram.
-set(expected_csv "Pos.;Part Number;BOM Structure;\n1;M8;Produce;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
+set(expected_csv "Pos.;Part Number;BOM Structure;Quantity;Part Name;Mass [kg];Physical Material;\n1;M8;Produce;2;Bolt;0.500;Steel;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
 if(NOT csv STREQUAL expected_csv)
     message(FATAL_ERROR "exported:\n${csv}\nexpected:\n${expected_csv}")
 endif()

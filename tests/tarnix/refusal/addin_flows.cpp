@@ -37,7 +37,7 @@ const Texts kColumns = {"QEMA_Quantity;Qty", "QEMA_Mass;Mass", "QEMA_Length;Leng
 const std::string kKnownTrace = std::string("definition ") + test_support::kOpenLocalFile;
 
 void expectSettingsWhole(const Session& session) {
-    EXPECT_EQ(test_support::readFile(settingsOf(session)),
+    EXPECT_EQ(test_support::readFile(settingsFileOf(session)),
               test_support::settingsDocument(kColumns));
 }
 
@@ -51,7 +51,7 @@ Texts traces() {
 /// Settings that were not made before are the default ones, or still missing.
 void checkFirstUse(Session& session, const std::string& call) {
     expectOnlyKnownThrown(session);
-    const auto file = settingsOf(session);
+    const auto file = settingsFileOf(session);
     const std::string settings = test_support::readFile(file);
     EXPECT_TRUE(settings.empty() ||
                 settings.find(test_support::kDefaultSettings) != std::string::npos)
@@ -119,7 +119,7 @@ void checkOnlyStop(Session& session, const std::string& call) {
 }
 
 void load(Session& session) {
-    test_support::writeFile(settingsOf(session), test_support::settingsDocument(kColumns));
+    test_support::writeFile(settingsFileOf(session), test_support::settingsDocument(kColumns));
     session.openOutline(kDesign);
 }
 

@@ -20,7 +20,7 @@ constexpr const char* kStored = "<www>http://old.example/</www>";
 /// What the category of the provider holds, an empty element in its short form; the whole file
 /// where there is no such category.
 std::string stored(const Session& session) {
-    const std::string bytes = test_support::readFile(settingsOf(session));
+    const std::string bytes = test_support::readFile(settingsFileOf(session));
     const std::string before =
         "<configuration nameOfApplication=\"Tarnix\"><category name=\"httpHelpdesk\">";
     const std::string after = "</category></configuration>";
@@ -58,7 +58,7 @@ void checkAccepted(Session& session, const std::string& call) {
 
 void storeSettings(const Session& session) {
     test_support::writeFile(
-        settingsOf(session),
+        settingsFileOf(session),
         std::string(
             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
             "<configuration nameOfApplication=\"Tarnix\"><category name=\"httpHelpdesk\">") +

@@ -3,6 +3,7 @@
 #include "tests/support/files.h"
 #include "tests/support/settings.h"
 #include "tests/tarnix/refusal/known_exceptions.h"
+#include "tests/tarnix/refusal/session_steps.h"
 
 #include "host/session/table_view.h"
 
@@ -100,7 +101,7 @@ std::string valueOf(const Session& session, const std::string& id) {
 }
 
 std::string settingsOf(const Session& session) {
-    return test_support::readFile(session.addin().folder / "Tarnix_configuration.xml");
+    return test_support::readFile(settingsFileOf(session));
 }
 
 test_support::RefusalSweep dialogSweep(const char* tableId, Steps prepare, Steps flow,

@@ -31,7 +31,7 @@ const std::vector<std::string> kOffered = {"QEMA_Colour;Colour", "QEMA_Size;Size
 
 /// The root element of the stored settings, to its last byte.
 std::string rootOf(const Session& session) {
-    const std::string bytes = test_support::readFile(settingsOf(session));
+    const std::string bytes = test_support::readFile(settingsFileOf(session));
     const std::size_t from = bytes.find("<configuration");
     const std::size_t to = bytes.rfind('>');
     return from == std::string::npos ? bytes : bytes.substr(from, to + 1 - from);
@@ -68,7 +68,7 @@ void checkSaved(Session& session, const std::string& call) {
 }
 
 void storeSettings(const Session& session) {
-    test_support::writeFile(settingsOf(session), settingsWith(category("iProperty", kOffered)));
+    test_support::writeFile(settingsFileOf(session), settingsWith(category("iProperty", kOffered)));
 }
 
 /// A design in the user's data with a referenced document that the host does not know yet.

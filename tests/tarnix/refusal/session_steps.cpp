@@ -2,7 +2,7 @@
 
 namespace refusal {
 
-std::filesystem::path settingsOf(const host::Session& session) {
+std::filesystem::path settingsFileOf(const host::Session& session) {
     return session.addin().folder / "Tarnix_configuration.xml";
 }
 

@@ -7,7 +7,7 @@
 namespace refusal {
 
 /// The settings file of a session.
-std::filesystem::path settingsOf(const host::Session& session);
+std::filesystem::path settingsFileOf(const host::Session& session);
 
 /// Closes the dialog that may be open, and stops the add-in.
 void endSession(host::Session& session);
