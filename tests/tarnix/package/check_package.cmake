@@ -65,12 +65,12 @@ file(WRITE "${place}/design.design.json" [[
 # The module that is loaded is the user's copy, which lies in that folder as well; under Wine it lies
 # in the prefix, whatever the environment says.
 set(ENV{XDG_DATA_HOME} "${place}/data")
-execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out .
+execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out . --column Quantity --keep-columns
                 WORKING_DIRECTORY "${place}" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
 file(READ "${place}/TarnixBOM.csv" csv)
 string(REPLACE "\r" "" csv "${csv}")
 # Two bolts of half a kilogram are one line of one kilogram.
-set(expected_csv "Pos.;Part Number;BOM Structure;Quantity;Part Name;Mass [kg];Physical Material;\n1;M8;Produce;2;Bolt;0.500;Steel;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
+set(expected_csv "Pos.;Part Number;BOM Structure;Quantity;\n1;M8;Produce;2;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
 if(NOT csv STREQUAL expected_csv)
     message(FATAL_ERROR "exported:\n${csv}\nexpected:\n${expected_csv}")
 endif()
@@ -91,7 +91,7 @@ if(NOT EXISTS "${guide}")
     message(FATAL_ERROR "the guide that Open Help opens is not there: ${guide}")
 endif()
 file(GLOB_RECURSE kept RELATIVE "${place}/data" "${place}/data/*")
-foreach(file Tarnix.dll Tarnix_configuration.xml TarnixBOM.csv)
+foreach(file Tarnix.dll Tarnix_configuration.xml)
     if(NOT "${kept}" MATCHES "/Tarnix/${file}(;|$)")
         message(FATAL_ERROR "no ${file} beside the loaded module: ${kept}")
     endif()
