@@ -61,27 +61,34 @@ bool isNewFileOf(const fs::path& path, const std::string& name) {
            name.find_first_not_of("0123456789-", begin.size()) == std::string::npos;
 }
 
-/// False while the process that wrote a new file still needs it: that holds a lock on it.
-bool isAbandoned(const fs::path& file) {
-    const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    return opened.number() >= 0 && ::flock(opened.number(), LOCK_EX | LOCK_NB) == 0;
+/// Whether an opened file is still the one of this name.
+bool isStill(int number, const fs::path& name) {
+    struct ::stat opened = {};
+    struct ::stat named = {};
+    return ::fstat(number, &opened) == 0 && ::stat(name.c_str(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-/// Removes the new files beside `path` that processes left which were killed.
+/// Locks an opened file unless another process needs it, or has removed it.
+bool hold(int number, const fs::path& name) {
+    return ::flock(number, LOCK_EX | LOCK_NB) == 0 && isStill(number, name);
+}
+
+/// Removes the new files beside `path` that processes left which were killed: the others hold a
+/// lock on theirs. Each stays locked until its name is gone, so that no other
+/// process begins to use it.
 void removeAbandoned(const fs::path& path) {
     std::error_code ignored;
     for (const fs::directory_entry& entry : fs::directory_iterator(folderOf(path), ignored)) {
-        if (isNewFileOf(path, entry.path().filename().string()) && isAbandoned(entry.path())) {
-            (void)::unlink(entry.path().c_str());
+        const fs::path& name = entry.path();
+        if (!isNewFileOf(path, name.filename().string())) {
+            continue;
+        }
+        const Descriptor opened(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
+        if (opened.number() >= 0 && hold(opened.number(), name)) {
+            (void)::unlink(name.c_str());
         }
     }
-}
-
-/// Takes the lock of a file that was just created; false where a process that removes abandoned
-/// ones was quicker.
-bool hold(int number, const fs::path& created) {
-    struct ::stat there = {};
-    return ::flock(number, LOCK_EX | LOCK_NB) == 0 && ::stat(created.c_str(), &there) == 0;
 }
 
 int createBeside(const fs::path& path, fs::path& created) {
