@@ -28,8 +28,10 @@ template <std::size_t N>
 struct CallName {
     consteval CallName(const char (&name)[N]) {  // NOLINT(google-explicit-constructor)
         std::copy_n(name, N, text);
+        namesClass = std::find(name, name + N, ':') != name + N;
     }
     char text[N] = {};
+    bool namesClass = false;  ///< as "Sketch::name" does
 };
 
 namespace gate {

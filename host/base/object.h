@@ -6,7 +6,6 @@
 
 #include <Core/Base.h>
 
-#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -43,10 +42,10 @@ class Object;
 /// An operation that an object implements: of `Interface`, unless `Name` says of which class.
 template <class Interface, CallName Name>
 const gate::Call& callOn() {
-    if constexpr (std::string_view(Name.text).find(':') == std::string_view::npos) {
-        return gate::callOf<Interface, Name>;
-    } else {
+    if constexpr (Name.namesClass) {
         return gate::call<Name>;
+    } else {
+        return gate::callOf<Interface, Name>;
     }
 }
 
