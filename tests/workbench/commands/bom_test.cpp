@@ -1,4 +1,3 @@
-#include "host/session/folder_lock.h"
 #include "tests/support/text.h"
 #include "tests/workbench/workbench_fixture.h"
 
@@ -35,19 +34,6 @@ TEST_F(BomCommand, PrintsTheStructureAndItsMass) {
         Total mass of structure BOM [kg] : 2.000
         )") + "\n");
     EXPECT_EQ(result.errors, "");
-}
-
-TEST_F(BomCommand, ShowsSignsOfAsciiWhereTheLocaleHasNoOthers) {
-    variables.set("LC_ALL", "C");
-
-    const ProgramResult result = run({"bom", design(kSmallDesign), "--no-columns"});
-
-    EXPECT_EQ(firstLines(result.output, 4), text(R"(
-           Pos.  Part Number  BOM Structure
-        -  ----  -----------  -------------
-        .     1  Frame        Produce
-        .     2  Bolt         Produce
-        )") + "\n");
 }
 
 TEST_F(BomCommand, ReportsWhereTheExportIsAndWhatTheShellWasAsked) {
