@@ -106,7 +106,7 @@ constexpr const char* kBashTail = R"(    esac
 complete -F _tarnix_workbench tarnix-workbench
 )";
 
-/// A text within the brackets of a specification for `_arguments`.
+/// A text within the brackets of what describes an option to `_arguments`.
 std::string zshText(const std::string& text) {
     std::string result;
     for (const char each : text) {
