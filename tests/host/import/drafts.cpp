@@ -57,8 +57,7 @@ std::string reference(int number, int definition, const std::string& file) {
            "=AXIS2_PLACEMENT_3D(''," + at(10) + ",$,$);\n" + at(10) +
            "=CARTESIAN_POINT('',(0.,0.,0.));\n" + at(11) + "=PROPERTY_DEFINITION_REPRESENTATION(" +
            at(7) + "," + at(8) + ");\n" + at(12) + "=SHAPE_DEFINITION_REPRESENTATION(" + at(14) +
-           "," + at(8) + ");\n" + at(13) +
-           "=REPRESENTATION_CONTEXT('','');\n" + at(14) +
+           "," + at(8) + ");\n" + at(13) + "=REPRESENTATION_CONTEXT('','');\n" + at(14) +
            "=PRODUCT_DEFINITION_SHAPE('',''," + product + ");\n";
 }
 
