@@ -44,7 +44,7 @@ function(precompile_headers target)
                                                 <optional> <string> <utility> <vector>)
     # GCC 12 finds bounds broken inside std::string that are not, and no longer takes the library's
     # headers for the system's once they come precompiled.
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
         target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow
                                                  -Wno-stringop-overread)
     endif()
