@@ -27,7 +27,7 @@ AttributeObject::AttributeObject(AttributesObject& owner, AttributeData data)
     : owner_(&owner), data_(std::move(data)) {}
 
 bool AttributeObject::value(const std::string& value) {
-    if (closed<"Attribute::value">(*this)) return {};
+    if (closed<"value">(*this)) return {};
     return setValue(value);
 }
 
@@ -41,12 +41,12 @@ bool AttributeObject::setValue(const std::string& value) {
 }
 
 core::Ptr<core::Base> AttributeObject::parent() const {
-    if (closed<"Attribute::parent">(*this)) return {};
+    if (closed<"parent">(*this)) return {};
     return owner_->parentObject();
 }
 
 bool AttributeObject::deleteMe() {
-    if (closed<"Attribute::deleteMe">(*this)) return {};
+    if (closed<"deleteMe">(*this)) return {};
     owner_->take(*this);
     return true;
 }
@@ -67,24 +67,24 @@ AttributesObject::AttributesObject(core::Base& parent, Edits& edits,
 }
 
 std::size_t AttributesObject::count() const {
-    if (closed<"Attributes::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return items_.size();
 }
 
 core::Ptr<core::Attribute> AttributesObject::item(std::size_t index) const {
-    if (closed<"Attributes::item">(*this) || index >= items_.size()) return {};
+    if (closed<"item">(*this) || index >= items_.size()) return {};
     return items_[index];
 }
 
 core::Ptr<core::Attribute> AttributesObject::itemByName(const std::string& groupName,
                                                         const std::string& name) const {
-    if (closed<"Attributes::itemByName">(*this)) return {};
+    if (closed<"itemByName">(*this)) return {};
     return find(groupName, name);
 }
 
 std::vector<core::Ptr<core::Attribute>> AttributesObject::itemsByGroup(
     const std::string& groupName) const {
-    if (closed<"Attributes::itemsByGroup">(*this)) return {};
+    if (closed<"itemsByGroup">(*this)) return {};
     std::vector<core::Ptr<core::Attribute>> found;
     found.reserve(items_.size());
     for (const core::Ptr<AttributeObject>& each : items_) {
@@ -96,7 +96,7 @@ std::vector<core::Ptr<core::Attribute>> AttributesObject::itemsByGroup(
 }
 
 std::vector<std::string> AttributesObject::groupNames() const {
-    if (closed<"Attributes::groupNames">(*this)) return {};
+    if (closed<"groupNames">(*this)) return {};
     std::vector<std::string> names;
     std::unordered_set<std::string_view> seen;
     for (const core::Ptr<AttributeObject>& each : items_) {
@@ -110,7 +110,7 @@ std::vector<std::string> AttributesObject::groupNames() const {
 core::Ptr<core::Attribute> AttributesObject::add(const std::string& groupName,
                                                  const std::string& name,
                                                  const std::string& value) {
-    if (closed<"Attributes::add">(*this)) return {};
+    if (closed<"add">(*this)) return {};
     if (groupName.empty() || name.empty()) {
         fail(core::BadApiCallError, "an attribute needs a group and a name");
         return {};

@@ -20,13 +20,9 @@ class AttributeObject final : public Object<core::Attribute> {
 public:
     AttributeObject(AttributesObject& owner, AttributeData data);
 
-    [[nodiscard]] std::string groupName() const override {
-        return get<"Attribute::groupName">(data_.group);
-    }
-    [[nodiscard]] std::string name() const override { return get<"Attribute::name">(data_.name); }
-    [[nodiscard]] std::string value() const override {
-        return get<"Attribute::value">(data_.value);
-    }
+    [[nodiscard]] std::string groupName() const override { return get<"groupName">(data_.group); }
+    [[nodiscard]] std::string name() const override { return get<"name">(data_.name); }
+    [[nodiscard]] std::string value() const override { return get<"value">(data_.value); }
     bool value(const std::string& value) override;
     [[nodiscard]] core::Ptr<core::Base> parent() const override;
     bool deleteMe() override;

@@ -20,7 +20,7 @@ ComponentObject::ComponentObject(Model& model, std::size_t index, ComponentData 
 }
 
 bool ComponentObject::name(const std::string& value) {
-    if (closed<"Component::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     if (isRoot()) {
         return fail(core::OperationFailed,
                     "the root component is called like its document and cannot be named");
@@ -42,7 +42,7 @@ void ComponentObject::rename(const std::string& name) {
 }
 
 bool ComponentObject::partNumber(const std::string& value) {
-    if (closed<"Component::partNumber">(*this)) return {};
+    if (closed<"partNumber">(*this)) return {};
     data_.partNumber = value;
     data_.hasExplicitPartNumber = true;
     ++model_->edits.all;
@@ -50,14 +50,14 @@ bool ComponentObject::partNumber(const std::string& value) {
 }
 
 bool ComponentObject::description(const std::string& value) {
-    if (closed<"Component::description">(*this)) return {};
+    if (closed<"description">(*this)) return {};
     data_.description = value;
     ++model_->edits.all;
     return true;
 }
 
 core::Ptr<core::Attributes> ComponentObject::attributes() const {
-    if (closed<"Component::attributes">(*this)) return {};
+    if (closed<"attributes">(*this)) return {};
     if (!attributes_) {
         attributes_ = make<AttributesObject>(self(), model_->edits,
                                              std::exchange(self().data_.attributes, {}));
@@ -66,7 +66,7 @@ core::Ptr<core::Attributes> ComponentObject::attributes() const {
 }
 
 core::Ptr<fusion::Occurrences> ComponentObject::occurrences() const {
-    if (closed<"Component::occurrences">(*this)) return {};
+    if (closed<"occurrences">(*this)) return {};
     if (!occurrences_) {
         occurrences_ = make<OccurrencesObject>(self());
     }
@@ -74,27 +74,27 @@ core::Ptr<fusion::Occurrences> ComponentObject::occurrences() const {
 }
 
 core::Ptr<fusion::Design> ComponentObject::parentDesign() const {
-    return get<"Component::parentDesign">(design_);
+    return get<"parentDesign">(design_);
 }
 
 core::Ptr<fusion::PhysicalProperties> ComponentObject::getPhysicalProperties(
     fusion::CalculationAccuracy /*accuracy*/) const {
-    if (closed<"Component::getPhysicalProperties">(*this)) return {};
+    if (closed<"getPhysicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(self()));
 }
 
 core::Ptr<fusion::PhysicalProperties> ComponentObject::physicalProperties() const {
-    if (closed<"Component::physicalProperties">(*this)) return {};
+    if (closed<"physicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(self()));
 }
 
 core::Ptr<core::BoundingBox3D> ComponentObject::boundingBox() const {
-    if (closed<"Component::boundingBox">(*this)) return {};
+    if (closed<"boundingBox">(*this)) return {};
     return makeBoundingBox(boxOf(self()).value_or(Box()));
 }
 
 bool ComponentObject::material(const core::Ptr<core::Material>& value) {
-    if (closed<"Component::material">(*this)) return {};
+    if (closed<"material">(*this)) return {};
     auto* material = dynamic_cast<MaterialObject*>(value.get());
     if (material == nullptr) {
         return fail(core::BadApiCallError, "a material is needed");
@@ -111,7 +111,7 @@ bool ComponentObject::material(const core::Ptr<core::Material>& value) {
 bool ComponentObject::transformOccurrences(
     const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,
     const std::vector<core::Ptr<core::Matrix3D>>& transforms, bool /*ignoreJoints*/) {
-    if (closed<"Component::transformOccurrences">(*this)) return {};
+    if (closed<"transformOccurrences">(*this)) return {};
     if (!isRoot()) {
         return fail(core::BadApiCallError, "only the root component places occurrences");
     }

@@ -26,14 +26,14 @@ class ComponentObject final : public Object<fusion::Component> {
 public:
     ComponentObject(Model& model, std::size_t index, ComponentData data);
 
-    [[nodiscard]] std::string name() const override { return get<"Component::name">(data_.name); }
+    [[nodiscard]] std::string name() const override { return get<"name">(data_.name); }
     bool name(const std::string& value) override;
     [[nodiscard]] std::string partNumber() const override {
-        return get<"Component::partNumber">(data_.partNumber);
+        return get<"partNumber">(data_.partNumber);
     }
     bool partNumber(const std::string& value) override;
     [[nodiscard]] std::string description() const override {
-        return get<"Component::description">(data_.description);
+        return get<"description">(data_.description);
     }
     bool description(const std::string& value) override;
     [[nodiscard]] core::Ptr<core::Attributes> attributes() const override;
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] core::Ptr<fusion::PhysicalProperties> physicalProperties() const override;
     [[nodiscard]] core::Ptr<core::BoundingBox3D> boundingBox() const override;
     [[nodiscard]] core::Ptr<core::Material> material() const override {
-        return get<"Component::material">(material_);
+        return get<"material">(material_);
     }
     bool material(const core::Ptr<core::Material>& value) override;
     bool transformOccurrences(const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,

@@ -59,7 +59,7 @@ public:
         : ProductBase(document, "DesignProductType", edits, std::move(attributes)), root_(&root) {}
 
     [[nodiscard]] core::Ptr<fusion::Component> rootComponent() const override {
-        return get<"Design::rootComponent">(root_);
+        return get<"rootComponent">(root_);
     }
 
 private:

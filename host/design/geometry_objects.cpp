@@ -19,12 +19,12 @@ public:
 
     [[nodiscard]] const Corner& corner() const { return corner_; }
 
-    [[nodiscard]] double x() const override { return get<"Point3D::x">(corner_[0]); }
-    bool x(double value) override { return set<"Point3D::x">(corner_[0], value); }
-    [[nodiscard]] double y() const override { return get<"Point3D::y">(corner_[1]); }
-    bool y(double value) override { return set<"Point3D::y">(corner_[1], value); }
-    [[nodiscard]] double z() const override { return get<"Point3D::z">(corner_[2]); }
-    bool z(double value) override { return set<"Point3D::z">(corner_[2], value); }
+    [[nodiscard]] double x() const override { return get<"x">(corner_[0]); }
+    bool x(double value) override { return set<"x">(corner_[0], value); }
+    [[nodiscard]] double y() const override { return get<"y">(corner_[1]); }
+    bool y(double value) override { return set<"y">(corner_[1], value); }
+    [[nodiscard]] double z() const override { return get<"z">(corner_[2]); }
+    bool z(double value) override { return set<"z">(corner_[2], value); }
 
 private:
     Corner corner_;
@@ -45,22 +45,22 @@ public:
     explicit BoundingBox3DObject(const Box& box) : box_(box) {}
 
     [[nodiscard]] core::Ptr<core::Point3D> minPoint() const override {
-        if (closed<"BoundingBox3D::minPoint">(*this)) return {};
+        if (closed<"minPoint">(*this)) return {};
         return make<Point3DObject>(box_.min);
     }
 
     bool minPoint(const core::Ptr<core::Point3D>& value) override {
-        if (closed<"BoundingBox3D::minPoint">(*this)) return {};
+        if (closed<"minPoint">(*this)) return {};
         return readCorner(value, box_.min);
     }
 
     [[nodiscard]] core::Ptr<core::Point3D> maxPoint() const override {
-        if (closed<"BoundingBox3D::maxPoint">(*this)) return {};
+        if (closed<"maxPoint">(*this)) return {};
         return make<Point3DObject>(box_.max);
     }
 
     bool maxPoint(const core::Ptr<core::Point3D>& value) override {
-        if (closed<"BoundingBox3D::maxPoint">(*this)) return {};
+        if (closed<"maxPoint">(*this)) return {};
         return readCorner(value, box_.max);
     }
 
@@ -75,7 +75,7 @@ public:
     [[nodiscard]] const Transform& transform() const { return transform_; }
 
     [[nodiscard]] std::vector<double> asArray() const override {
-        if (closed<"Matrix3D::asArray">(*this)) return {};
+        if (closed<"asArray">(*this)) return {};
         return {transform_.cells.begin(), transform_.cells.end()};
     }
 

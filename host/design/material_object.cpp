@@ -5,7 +5,7 @@
 namespace host {
 
 bool MaterialObject::name(const std::string& value) {
-    if (closed<"Material::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     data_.name = value;
     data_.nameAssumed = false;
     ++edits_->all;

@@ -18,7 +18,7 @@ class MaterialObject final : public Object<core::Material> {
 public:
     MaterialObject(Edits& edits, MaterialData data) : edits_(&edits), data_(std::move(data)) {}
 
-    [[nodiscard]] std::string name() const override { return get<"Material::name">(data_.name); }
+    [[nodiscard]] std::string name() const override { return get<"name">(data_.name); }
     bool name(const std::string& value) override;
 
     [[nodiscard]] const MaterialData& state() const { return data_; }

@@ -21,11 +21,11 @@ OccurrenceObject::OccurrenceObject(OccurrenceListObject& list, OccurrenceData& p
     : component_(&list.owner()->childComponent(place)), place_(&place), list_(&list) {}
 
 core::Ptr<fusion::Component> OccurrenceObject::component() const {
-    return get<"Occurrence::component">(component_);
+    return get<"component">(component_);
 }
 
 core::Ptr<fusion::OccurrenceList> OccurrenceObject::childOccurrences() const {
-    if (closed<"Occurrence::childOccurrences">(*this)) return {};
+    if (closed<"childOccurrences">(*this)) return {};
     if (!children_) {
         children_ =
             component_->state().children.empty()
@@ -36,7 +36,7 @@ core::Ptr<fusion::OccurrenceList> OccurrenceObject::childOccurrences() const {
 }
 
 std::string OccurrenceObject::name() const {
-    if (closed<"Occurrence::name">(*this)) return {};
+    if (closed<"name">(*this)) return {};
     return currentName();
 }
 
@@ -47,7 +47,7 @@ std::string OccurrenceObject::currentName() const {
 }
 
 std::string OccurrenceObject::fullPathName() const {
-    if (closed<"Occurrence::fullPathName">(*this)) return {};
+    if (closed<"fullPathName">(*this)) return {};
     std::size_t length = 0;
     std::size_t levels = 0;
     for (const OccurrenceObject* each = this; each != nullptr; each = each->parent()) {
@@ -85,24 +85,24 @@ void OccurrenceObject::appendName(std::string& text) const {
 }
 
 bool OccurrenceObject::isGrounded() const {
-    if (closed<"Occurrence::isGrounded">(*this)) return {};
+    if (closed<"isGrounded">(*this)) return {};
     return place_->grounded;
 }
 
 bool OccurrenceObject::isGrounded(bool value) {
-    if (closed<"Occurrence::isGrounded">(*this)) return {};
+    if (closed<"isGrounded">(*this)) return {};
     place_->grounded = value;
     ++component_->model().edits.all;
     return true;
 }
 
 bool OccurrenceObject::isReferencedComponent() const {
-    if (closed<"Occurrence::isReferencedComponent">(*this)) return {};
+    if (closed<"isReferencedComponent">(*this)) return {};
     return component_->state().document != list_->owner()->state().document;
 }
 
 core::Ptr<fusion::PhysicalProperties> OccurrenceObject::physicalProperties() const {
-    if (closed<"Occurrence::physicalProperties">(*this)) return {};
+    if (closed<"physicalProperties">(*this)) return {};
     return make<PhysicalPropertiesObject>(measure(*component_));
 }
 
@@ -152,12 +152,12 @@ OccurrenceListObject::OccurrenceListObject(ComponentObject* owner, OccurrenceObj
       items_(owner == nullptr ? 0 : owner->state().children.size()) {}
 
 std::size_t OccurrenceListObject::count() const {
-    if (closed<"OccurrenceList::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return items_.size();
 }
 
 core::Ptr<fusion::Occurrence> OccurrenceListObject::item(std::size_t index) const {
-    if (closed<"OccurrenceList::item">(*this)) return {};
+    if (closed<"item">(*this)) return {};
     return at(index);
 }
 
@@ -174,7 +174,7 @@ core::Ptr<fusion::Occurrence> OccurrenceListObject::at(std::size_t index) const 
 }
 
 core::Ptr<fusion::Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
-    if (closed<"OccurrenceList::itemByName">(*this)) return {};
+    if (closed<"itemByName">(*this)) return {};
     for (std::size_t index = 0; index < items_.size(); ++index) {
         core::Ptr<OccurrenceObject> each = at(index);
         if (each && each->currentName() == name) {
@@ -200,12 +200,12 @@ OccurrencesObject::OccurrencesObject(ComponentObject& owner)
     : list_(make<OccurrenceListObject>(&owner, nullptr)) {}
 
 std::size_t OccurrencesObject::count() const {
-    if (closed<"Occurrences::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return list_->size();
 }
 
 core::Ptr<fusion::Occurrence> OccurrencesObject::item(std::size_t index) const {
-    if (closed<"Occurrences::item">(*this)) return {};
+    if (closed<"item">(*this)) return {};
     return list_->at(index);
 }
 

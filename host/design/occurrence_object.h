@@ -91,7 +91,7 @@ public:
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<fusion::Occurrence> item(std::size_t index) const override;
     [[nodiscard]] core::Ptr<fusion::OccurrenceList> asList() const override {
-        return get<"Occurrences::asList">(list_);
+        return get<"asList">(list_);
     }
 
     void dispose();

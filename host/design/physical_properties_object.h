@@ -12,18 +12,10 @@ class PhysicalPropertiesObject final : public Object<fusion::PhysicalProperties>
 public:
     explicit PhysicalPropertiesObject(const Measures& measures) : measures_(measures) {}
 
-    [[nodiscard]] double area() const override {
-        return get<"PhysicalProperties::area">(measures_.area);
-    }
-    [[nodiscard]] double density() const override {
-        return get<"PhysicalProperties::density">(measures_.density());
-    }
-    [[nodiscard]] double mass() const override {
-        return get<"PhysicalProperties::mass">(measures_.mass);
-    }
-    [[nodiscard]] double volume() const override {
-        return get<"PhysicalProperties::volume">(measures_.volume);
-    }
+    [[nodiscard]] double area() const override { return get<"area">(measures_.area); }
+    [[nodiscard]] double density() const override { return get<"density">(measures_.density()); }
+    [[nodiscard]] double mass() const override { return get<"mass">(measures_.mass); }
+    [[nodiscard]] double volume() const override { return get<"volume">(measures_.volume); }
 
 private:
     Measures measures_;

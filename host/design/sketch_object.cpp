@@ -15,7 +15,7 @@ bool SketchCurveObject::isReference(bool value) {
 }
 
 bool SketchCurveObject::isConstruction(bool value) {
-    if (closed<"SketchCurve::isConstruction">(*this)) return {};
+    if (closed<"isConstruction">(*this)) return {};
     data_.construction = value;
     ++edits_->all;
     return true;
@@ -29,12 +29,12 @@ SketchCurvesObject::SketchCurvesObject(Edits& edits, const std::vector<SketchCur
 }
 
 std::size_t SketchCurvesObject::count() const {
-    if (closed<"SketchCurves::count">(*this)) return {};
+    if (closed<"count">(*this)) return {};
     return items_.size();
 }
 
 core::Ptr<fusion::SketchCurve> SketchCurvesObject::item(std::size_t index) const {
-    if (closed<"SketchCurves::item">(*this) || index >= items_.size()) return {};
+    if (closed<"item">(*this) || index >= items_.size()) return {};
     return items_[index];
 }
 

@@ -24,7 +24,7 @@ public:
     }
     bool isReference(bool value) override;
     [[nodiscard]] bool isConstruction() const override {
-        return get<"SketchCurve::isConstruction">(data_.construction);
+        return get<"isConstruction">(data_.construction);
     }
     bool isConstruction(bool value) override;
 
@@ -55,7 +55,7 @@ public:
     SketchObject(Edits& edits, const SketchData& data);
 
     [[nodiscard]] core::Ptr<fusion::SketchCurves> sketchCurves() const override {
-        return get<"Sketch::sketchCurves">(curves_);
+        return get<"sketchCurves">(curves_);
     }
 
     [[nodiscard]] SketchData snapshot() const { return {name_, curves_->snapshot()}; }
