@@ -5,7 +5,7 @@
 #include "host/base/gate.h"
 #include "host/base/host_state.h"
 #include "host/base/last_error.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/ui/dialogs/progress_dialog_object.h"
 
 #include <Core/Utils.h>
 

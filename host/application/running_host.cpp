@@ -1,6 +1,6 @@
 #include "host/application/running_host.h"
 
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/ui/dialogs/progress_dialog_object.h"
 
 namespace host {
 

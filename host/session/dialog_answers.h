@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/file_dialog_object.h"
 #include "host/ui/dialogs/messages.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/ui/dialogs/progress_dialog_object.h"
 
 #include <functional>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "host/ui/user_interface_object.h"
 
-#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/file_dialog_object.h"
 #include "host/ui/dialogs/messages.h"
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/ui/dialogs/progress_dialog_object.h"
 
 #include <Core/Dialogs.h>
 

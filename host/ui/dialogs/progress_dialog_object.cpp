@@ -1,4 +1,4 @@
-#include "host/ui/dialogs/progress_dialog.h"
+#include "host/ui/dialogs/progress_dialog_object.h"
 
 #include "host/base/host_state.h"
 

@@ -1,4 +1,4 @@
-#include "host/ui/dialogs/file_dialog.h"
+#include "host/ui/dialogs/file_dialog_object.h"
 
 #include "host/base/host_state.h"
 
