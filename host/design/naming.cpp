@@ -68,6 +68,9 @@ void makeNamesUnique(DesignData& data) {
 }
 
 void numberInstances(DesignData& data) {
+    if (data.components.empty()) {
+        return;
+    }
     std::vector<int> uses(data.components.size(), 0);
     std::vector<bool> seen(data.components.size(), false);
     std::vector<std::pair<std::size_t, std::size_t>> open = {{0, 0}};

@@ -132,14 +132,16 @@ public:
     Components(std::shared_ptr<ReaderProcess> reader, std::string path)
         : reader_(std::move(reader)), path_(std::move(path)) {}
 
-    ImportedComponent make(const json& from) {
-        ImportedComponent component{from.at("id"), from.at("name"), {}};
-        component.data.description = from.at("description");
-        component.data.material = materialOf(from);
+    ComponentData make(const json& from) {
+        ComponentData component;
+        component.name = from.at("name");
+        component.partNumber = from.at("id");
+        component.description = from.at("description");
+        component.material = materialOf(from);
         for (const json& use : from.at("uses")) {
-            component.data.children.push_back(occurrenceOf(use));
+            component.children.push_back(occurrenceOf(use));
         }
-        component.data.geometry = geometryOf(from.at("shape"), from);
+        component.geometry = geometryOf(from.at("shape"), from);
         return component;
     }
 
@@ -175,22 +177,22 @@ private:
 };
 
 /// Puts a root component of the file's name above several roots.
-void joinRoots(std::vector<ImportedComponent>& components, const json& roots,
-               const std::string& name) {
+void joinRoots(DesignData& design, const json& roots) {
     if (roots.size() == 1) {
         return;
     }
-    ImportedComponent top{.id = "", .name = name, .data = {}};
-    top.data.material = defaultMaterial();
-    for (ImportedComponent& component : components) {
-        for (OccurrenceData& child : component.data.children) {
+    ComponentData top;
+    top.name = design.name;
+    top.material = defaultMaterial();
+    for (ComponentData& component : design.components) {
+        for (OccurrenceData& child : component.children) {
             ++child.component;
         }
     }
     for (const json& root : roots) {
-        top.data.children.push_back({.component = root.get<std::size_t>() + 1});
+        top.children.push_back({.component = root.get<std::size_t>() + 1});
     }
-    components.insert(components.begin(), std::move(top));
+    design.components.insert(design.components.begin(), std::move(top));
 }
 
 DesignData designFrom(const json& read, const ReadableFile& source,
@@ -199,12 +201,11 @@ DesignData designFrom(const json& read, const ReadableFile& source,
     design.name = source.path.stem().string();
     design.unit = read.at("unit");
     Components maker(reader, source.shown);
-    std::vector<ImportedComponent> components;
     for (const json& component : read.at("components")) {
-        components.push_back(maker.make(component));
+        design.components.push_back(maker.make(component));
     }
-    joinRoots(components, read.at("roots"), design.name);
-    design.components = assignNamesAndNumbers(std::move(components));
+    joinRoots(design, read.at("roots"));
+    assignNamesAndNumbers(design);
     std::vector<fs::path> files;
     for (const json& name : read.at("files")) {
         files.emplace_back(name.get<std::string>());
