@@ -4,7 +4,7 @@
 
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
-#include "host/session/writer_lock.h"
+#include "host/session/folder_lock.h"
 
 #include <fstream>
 #include <functional>
@@ -78,12 +78,12 @@ void StagedFiles::addDesign(const fs::path& file, const host::DesignData& design
 }
 
 void StagedFiles::commit() {
-    std::vector<std::unique_ptr<host::WriterLock>> locks;
+    std::vector<std::unique_ptr<host::FolderLock>> locks;
     for (const File& file : files_) {
         if (!file.before) {
             continue;
         }
-        locks.push_back(host::WriterLock::take(fs::absolute(file.path).parent_path()));
+        locks.push_back(host::FolderLock::waitToWrite(fs::absolute(file.path).parent_path()));
         if (fingerprintOf(file.path) != *file.before) {
             fail(file.path,
                  "another program changed it after it was read; nothing was saved, run again");

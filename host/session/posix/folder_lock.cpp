@@ -16,19 +16,24 @@ private:
     int descriptor_;
 };
 
+/// Locks an open file or folder, which is closed with the lock; null where neither can be done.
+std::unique_ptr<FolderLock> lock(int descriptor, int operation) {
+    if (descriptor < 0) {
+        return nullptr;
+    }
+    auto held = std::make_unique<Descriptor>(descriptor);
+    return ::flock(descriptor, operation) == 0 ? std::move(held) : nullptr;
+}
+
 }  // namespace
 
 std::unique_ptr<FolderLock> FolderLock::take(const std::filesystem::path& folder) {
     const std::filesystem::path file = folder / "lock";
-    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (descriptor < 0) {
-        return nullptr;
-    }
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        ::close(descriptor);
-        return nullptr;
-    }
-    return std::make_unique<Descriptor>(descriptor);
+    return lock(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600), LOCK_EX | LOCK_NB);
+}
+
+std::unique_ptr<FolderLock> FolderLock::waitToWrite(const std::filesystem::path& folder) {
+    return lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC), LOCK_EX);
 }
 
 }  // namespace host
