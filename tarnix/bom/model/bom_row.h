@@ -11,9 +11,9 @@
 #include <vector>
 
 /// Everything the BOM dialog shows comes out of one flat list of rows. A walk over the design fills
-/// the list (`walk.h`), an identity test decides which occurrences count as the same item
-/// (`identity.h`), the walk marks what differs between them, and one function turns a row and a
-/// property's key into the text of a cell (`columns.h`). The tabs only lay these values out.
+/// the list (`walk.h`), occurrences of the same item are merged into one row, which marks what
+/// differs between them (`merging.h`), and one function turns a row and a property's key into the
+/// text of a cell (`columns.h`). The tabs only lay these values out.
 namespace tarnix {
 
 /// The `BomRow::pathName` of the last row of a finished subtree.

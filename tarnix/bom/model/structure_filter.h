@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnix/bom/model/bom_row.h"
-#include "tarnix/bom/model/identity.h"
+#include "tarnix/bom/model/merging.h"
 
 #include <string>
 

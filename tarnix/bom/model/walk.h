@@ -18,23 +18,12 @@ const std::vector<BomRow>& walkOccurrences(
     BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
 
 /// The same with identical items merged: the first row of an item takes count of the further ones
-/// (`mergeInto`), which may change descriptions in the design. Every occurrence has its row all the
-/// same, so the list has the length and the order of the plain one.
+/// (`mergeInto` of merging.h), which may change descriptions in the design. Every occurrence has
+/// its row all the same, so the list has the length and the order of the plain one.
 ///
 /// A null list throws a plain `std::exception`.
 const std::vector<BomRow>& walkOccurrencesMerged(
     BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
-
-/// Shown in place of a value that is not the same in all occurrences of an item.
-inline constexpr const char* kDifferent = "***different***";
-
-/// Counts `row`, a further occurrence of the same item, into `target`, the item's first row.
-///
-/// The quantity grows by one, another name sets `combined`, and property values that differ become
-/// `kDifferent`: entries are compared by position, not by key, and those that only the further row
-/// has are appended unless they are empty. Where the descriptions differ, `kDifferent` is written
-/// ahead of the target component's description: into the design, at once, and only once.
-void mergeInto(BomRow& target, const BomRow& row);
 
 /// Adds to `model.userPropertyNames` the names of those properties that are custom ones, without
 /// their prefix. Throws `std::out_of_range` ("invalid string position") for such a key that is

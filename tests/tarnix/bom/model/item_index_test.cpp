@@ -1,4 +1,4 @@
-#include "tarnix/bom/model/identity.h"
+#include "tarnix/bom/model/merging.h"
 
 #include <gtest/gtest.h>
 

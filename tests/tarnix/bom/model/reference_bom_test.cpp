@@ -1,5 +1,5 @@
 #include "tests/tarnix/bom/model/reference_bom.h"
-#include "tarnix/bom/model/identity.h"
+#include "tarnix/bom/model/merging.h"
 #include "tarnix/bom/model/structure_filter.h"
 #include "tarnix/bom/model/walk.h"
 #include "tests/tarnix/bom/model/open_design.h"

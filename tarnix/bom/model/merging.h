@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
+/// Which occurrences are one item of the bill of materials, and what its row shows where they
+/// differ. The walk that merges (`walk.h`) does both while it visits the design.
 namespace tarnix {
 
 /// The index of the first row that is the same item as `occurrence`, or -1.
@@ -62,5 +64,16 @@ private:
         &memory_};  ///< by part number
     std::size_t rowCount_ = 0;
 };
+
+/// Shown in place of a value that is not the same in all occurrences of an item.
+inline constexpr const char* kDifferent = "***different***";
+
+/// Counts `row`, a further occurrence of the same item, into `target`, the item's first row.
+///
+/// The quantity grows by one, another name sets `combined`, and property values that differ become
+/// `kDifferent`: entries are compared by position, not by key, and those that only the further row
+/// has are appended unless they are empty. Where the descriptions differ, `kDifferent` is written
+/// ahead of the target component's description: into the design, at once, and only once.
+void mergeInto(BomRow& target, const BomRow& row);
 
 }  // namespace tarnix
