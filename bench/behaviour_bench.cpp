@@ -10,13 +10,9 @@
 
 #include <functional>
 
+namespace bench {
 namespace {
 
-using bench::kConfiguration;
-using bench::kModel;
-using bench::kStructure;
-using bench::measure;
-using bench::Shape;
 using host::Session;
 
 constexpr double kMillisecondsASecond = 1000;
@@ -25,8 +21,8 @@ constexpr double kMillisecondsASecond = 1000;
 void inDialog(benchmark::State& state, Shape shape, const std::function<double(Session&)>& act) {
     for (auto iteration : state) {
         (void)iteration;
-        Session session(bench::addinOptions());
-        bench::start(session, shape, state);
+        Session session(addinOptions());
+        start(session, shape, state);
         session.press("QM_TX_BOM");
         state.SetIterationTime(act(session) / kMillisecondsASecond);
     }
@@ -89,5 +85,6 @@ BENCHMARK_CAPTURE(writeBack, structure, Shape::FlatDifferent, kStructure)->Apply
 BENCHMARK_CAPTURE(writeBack, shared_structure, Shape::FlatShared, kStructure)->Apply(sizes);
 
 }  // namespace
+}  // namespace bench
 
 BENCHMARK_MAIN();

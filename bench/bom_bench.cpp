@@ -16,13 +16,9 @@
 #include <functional>
 #include <string>
 
+namespace bench {
 namespace {
 
-using bench::kConfiguration;
-using bench::kModel;
-using bench::kStructure;
-using bench::measure;
-using bench::Shape;
 using host::Session;
 
 /// Peak resident memory of this process so far, in MB.
@@ -42,8 +38,8 @@ constexpr const char* kCell = "modelPartNumberOcc_1";
 void measureDialog(benchmark::State& state, Shape shape) {
     for (auto iteration : state) {
         (void)iteration;
-        Session session(bench::addinOptions());
-        bench::start(session, shape, state);
+        Session session(addinOptions());
+        start(session, shape, state);
 
         double first = measure(state, "open", [&] { session.press("QM_TX_BOM"); });
         measure(state, "key", [&] { session.paste(kCell, "P-1"); });
@@ -81,9 +77,9 @@ double medianOfFive(const std::function<double()>& figure) {
 void measureExport(benchmark::State& state) {
     for (auto iteration : state) {
         (void)iteration;
-        Session session(bench::addinOptions());
+        Session session(addinOptions());
         configureColumns(session);
-        bench::start(session, Shape::FlatDifferent, state);
+        start(session, Shape::FlatDifferent, state);
         session.press("QM_TX_BOM");
         // A click also walks the design; what remains is the writing.
         const double walkMs = medianOfFive(
@@ -112,5 +108,6 @@ BENCHMARK_CAPTURE(measureDialog, nested, Shape::Nested)->Apply(sizes);
 BENCHMARK(measureExport)->Apply(sizes);
 
 }  // namespace
+}  // namespace bench
 
 BENCHMARK_MAIN();
