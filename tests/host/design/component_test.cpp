@@ -22,10 +22,7 @@ TEST_F(ComponentTest, RenamingRenamesAllItsOccurrences) {
 }
 
 TEST_F(ComponentTest, TakenNameGetsANumberAfterIt) {
-    open(R"(
-        Bolt
-        Nut
-        Washer)");
+    open("Bolt\nNut\nWasher");
     const Ptr<Component> nut = component("Nut:1");
     const Ptr<Component> washer = component("Washer:1");
 
@@ -37,9 +34,7 @@ TEST_F(ComponentTest, TakenNameGetsANumberAfterIt) {
 }
 
 TEST_F(ComponentTest, SettingItsOwnNameKeepsIt) {
-    open(R"(
-        Bolt
-        Nut)");
+    open("Bolt\nNut");
     const Ptr<Component> nut = component("Nut:1");
     nut->name("Bolt");
 
@@ -51,9 +46,7 @@ TEST_F(ComponentTest, SettingItsOwnNameKeepsIt) {
 }
 
 TEST_F(ComponentTest, ReleasedNameIsFree) {
-    open(R"(
-        Bolt
-        Nut)");
+    open("Bolt\nNut");
     const Ptr<Component> nut = component("Nut:1");
     component("Bolt:1")->name("Screw");
 

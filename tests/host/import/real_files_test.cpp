@@ -102,35 +102,27 @@ protected:
 TEST_F(RealFiles, TheClassicAssemblyHasItsTree) {
     const DesignData design = import("as1-oc-214.stp");
 
+    const std::string bracket = R"(
+    nut-bolt-assembly:1
+      bolt:1
+      nut:3
+    nut-bolt-assembly:2
+      bolt:1
+      nut:3
+    nut-bolt-assembly:3
+      bolt:1
+      nut:3
+    l-bracket:1)";
     EXPECT_EQ(tree(design), R"(as1
   rod-assembly:1
     nut:1
     nut:2
     rod:1
-  l-bracket-assembly:1
-    nut-bolt-assembly:1
-      bolt:1
-      nut:3
-    nut-bolt-assembly:2
-      bolt:1
-      nut:3
-    nut-bolt-assembly:3
-      bolt:1
-      nut:3
-    l-bracket:1
+  l-bracket-assembly:1)" + bracket +
+                                R"(
   plate:1
-  l-bracket-assembly:2
-    nut-bolt-assembly:1
-      bolt:1
-      nut:3
-    nut-bolt-assembly:2
-      bolt:1
-      nut:3
-    nut-bolt-assembly:3
-      bolt:1
-      nut:3
-    l-bracket:1
-)");
+  l-bracket-assembly:2)" + bracket +
+                                "\n");
     EXPECT_EQ(count(design), (Counted{28, 18, 4}));
     EXPECT_EQ(design.unit, "mm");
     EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());

@@ -54,6 +54,14 @@ samples::Product assembly(const std::string& key, const std::string& id, const s
 /// A file of the plate alone.
 std::string plateFile() { return samples::stepFile("x", {part("plate", "P", "Plate")}); }
 
+/// The same, damaged in one place; see `damage`.
+std::string damagedPlate(const std::string& begin, const std::string& end,
+                         const std::string& other) {
+    std::string text = plateFile();
+    damage(text, begin, end, other);
+    return text;
+}
+
 class StepImport : public testing::Test {
 protected:
     DesignData importText(const std::string& text) {
@@ -144,9 +152,9 @@ TEST_F(StepImport, AUseOfAMissingProductIsSkippedWithAWarning) {
 }
 
 TEST_F(StepImport, ABodyThatCannotBeBuiltIsReported) {
-    std::string text = plateFile();
+    const std::string text =
+        damagedPlate("MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
     const std::string body = labelOf(text, "MANIFOLD_SOLID_BREP");
-    damage(text, "MANIFOLD_SOLID_BREP('',#", ")", "MANIFOLD_SOLID_BREP('',$)");
 
     const DesignData design = importText(text);
 
@@ -161,9 +169,9 @@ TEST_F(StepImport, ABodyThatCannotBeBuiltIsReported) {
 }
 
 TEST_F(StepImport, ABodyThatLacksAFaceIsReported) {
-    std::string text = plateFile();
+    const std::string text =
+        damagedPlate("ADVANCED_FACE('',(#", ");", "ADVANCED_FACE('',(),$,.T.);");
     const std::string face = labelOf(text, "ADVANCED_FACE");
-    damage(text, "ADVANCED_FACE('',(#", ");", "ADVANCED_FACE('',(),$,.T.);");
 
     const DesignData design = importText(text);
 
@@ -180,8 +188,7 @@ TEST_F(StepImport, ABodyThatLacksAFaceIsReported) {
 }
 
 TEST_F(StepImport, ABodyWithoutAnyFaceIsReported) {
-    std::string text = plateFile();
-    damage(text, "CLOSED_SHELL('',(", ");", "CLOSED_SHELL('',());");
+    const std::string text = damagedPlate("CLOSED_SHELL('',(", ");", "CLOSED_SHELL('',());");
 
     importText(text);
 
@@ -203,8 +210,7 @@ TEST_F(StepImport, ABodyThatCannotBeBuiltDoesNotAffectOtherParts) {
 }
 
 TEST_F(StepImport, AnEntityWithoutANameIsValid) {
-    std::string text = plateFile();
-    damage(text, "MANIFOLD_SOLID_BREP(''", ",", "MANIFOLD_SOLID_BREP($,");
+    const std::string text = damagedPlate("MANIFOLD_SOLID_BREP(''", ",", "MANIFOLD_SOLID_BREP($,");
 
     EXPECT_NE(importText(text).components[0].geometry, nullptr);
     EXPECT_EQ(drafts::lines(warnings), std::vector<std::string>());

@@ -38,6 +38,21 @@ protected:
         }
         return "none";
     }
+
+    /// Stores a column with the mass in one session of these options, and starts the next.
+    void configureIn(const SessionOptions& options) {
+        restart(options);
+        configure({"QEMA_Mass;Weight"});
+        restart(options);
+    }
+
+    /// The table of a bolt of a litre, with the columns that are stored.
+    std::string tableOfALitre() {
+        EXPECT_TRUE(session->run());
+        open("Bolt  box=10x10x10");
+        showModel();
+        return table();
+    }
 };
 
 }  // namespace
@@ -257,15 +272,9 @@ TEST_F(SessionWithAddin, OnesAfterAnotherMayShareAFolder) {
     SessionOptions options = addinOptions();
     options.folder =
         std::make_shared<const host::SessionFolder>(host::SessionFolder::makeFresh(place.path()));
-    restart(options);
-    configure({"QEMA_Mass;Weight"});
-    restart(options);
-    ASSERT_TRUE(session->run());
-    open("Bolt  box=10x10x10");
+    configureIn(options);
 
-    showModel();
-
-    EXPECT_EQ(table(), "1 | Part | Bolt | 7.850");
+    EXPECT_EQ(tableOfALitre(), "1 | Part | Bolt | 7.850");
     endSession();
     EXPECT_TRUE(fs::exists(options.folder->path() / "Tarnix"));
 }
@@ -273,13 +282,7 @@ TEST_F(SessionWithAddin, OnesAfterAnotherMayShareAFolder) {
 TEST_F(SessionWithAddin, AHomeKeepsWhatTheAddinWrote) {
     SessionOptions options = addinOptions();
     options.home = session->folder().parent_path() / "home";
-    restart(options);
-    configure({"QEMA_Mass;Weight"});
-    restart(options);
-    ASSERT_TRUE(session->run());
-    open("Bolt  box=10x10x10");
+    configureIn(options);
 
-    showModel();
-
-    EXPECT_EQ(table(), "1 | Part | Bolt | 7.850");
+    EXPECT_EQ(tableOfALitre(), "1 | Part | Bolt | 7.850");
 }

@@ -1,5 +1,8 @@
 #include "tests/host/ui/host_test.h"
 
+#include <string>
+#include <vector>
+
 namespace host {
 namespace {
 
@@ -40,9 +43,14 @@ protected:
         return found->children();
     }
 
-    std::string parentOf(const std::string& id) {
-        const Ptr<CommandInput> parent = all->itemById(id)->parentCommandInput();
-        return parent ? parent->id() : "none";
+    /// The ids of the parents of these inputs, with a space after each.
+    std::string parentsOf(const std::vector<std::string>& ids) {
+        std::string parents;
+        for (const std::string& id : ids) {
+            const Ptr<CommandInput> parent = all->itemById(id)->parentCommandInput();
+            parents += (parent ? parent->id() : "none") + " ";
+        }
+        return parents;
     }
 
     Ptr<CommandInputs> all;
@@ -80,13 +88,9 @@ TEST_F(Inputs, ACellBelongsToTheCollectionOfItsTable) {
 }
 
 TEST_F(Inputs, TheParentIsTheTableElseTheTabOrGroupElseNone) {
-    EXPECT_EQ(parentOf("cell"), "table");
-    EXPECT_EQ(parentOf("tool"), "table");
-    EXPECT_EQ(parentOf("table"), "tab");
-    EXPECT_EQ(parentOf("deep"), "group");
-    EXPECT_EQ(parentOf("group"), "tab");
-    EXPECT_EQ(parentOf("top"), "none");
-    EXPECT_EQ(parentOf("tab"), "none");
+    EXPECT_EQ(parentsOf({"cell", "tool"}), "table table ");
+    EXPECT_EQ(parentsOf({"table", "deep", "group"}), "tab group tab ");
+    EXPECT_EQ(parentsOf({"top", "tab"}), "none none ");
 }
 
 TEST_F(Inputs, TheParentCommandIsTheCommandAtAnyDepth) {
@@ -172,7 +176,7 @@ TEST_F(Inputs, ADeletedTableLeavesItsCellsInTheirCollection) {
     all->itemById("table")->deleteMe();
 
     EXPECT_EQ(all->itemById("cell"), cell);
-    EXPECT_EQ(parentOf("cell"), "tab");
+    EXPECT_EQ(parentsOf({"cell"}), "tab ");
 }
 
 TEST_F(Inputs, TheirObjectTypeIsTheirClass) {
