@@ -48,9 +48,9 @@ std::string AddinUiTest::controls(const std::string& panelId) {
     return lines;
 }
 
-std::string AddinUiTest::controlsOf(std::span<const AddinCommandId> commands, Place place) {
+std::string AddinUiTest::controlsOf(std::span<const RegisteredCommand> commands, Place place) {
     std::string lines;
-    for (const AddinCommandId& command : commands) {
+    for (const RegisteredCommand& command : commands) {
         if (command.place == place) addLine(lines, lineOf(command.id, command.isPromoted));
     }
     return lines;
@@ -67,10 +67,10 @@ std::string AddinUiTest::present() {
     for (const char* id : kPanels) {
         if (panel(id)) addLine(lines, id);
     }
-    for (const AddinCommandId& command : kMainCommands) {
+    for (const RegisteredCommand& command : kMainCommands) {
         if (definition(command.id)) addLine(lines, command.id);
     }
-    for (const AddinCommandId& command : kHelpdeskCommands) {
+    for (const RegisteredCommand& command : kHelpdeskCommands) {
         if (definition(command.id)) addLine(lines, command.id);
     }
     return lines;

@@ -28,7 +28,7 @@ protected:
     [[nodiscard]] static std::string controls(const std::string& panelId);
 
     /// The same for those of `commands` that belong in a panel of this kind.
-    [[nodiscard]] static std::string controlsOf(std::span<const AddinCommandId> commands,
+    [[nodiscard]] static std::string controlsOf(std::span<const RegisteredCommand> commands,
                                                 Place place);
 
     /// Caption, tooltip and icon folder of a definition, a line for each; "none" for none.

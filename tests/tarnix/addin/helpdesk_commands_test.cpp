@@ -13,44 +13,6 @@ namespace {
 
 class HelpdeskCommands : public AddinUiTest {};
 
-TEST_F(HelpdeskCommands, OfTheFirstHalfHaveTheirTexts) {
-    EXPECT_EQ(texts("QM_HD_openHelpdesk"), text(R"(
-        Go to Helpdesk
-        Open your Helpdesk web site
-        Resources/OpenHelpdesk)"));
-    EXPECT_EQ(texts("QM_HD_captureScreen"), text(R"(
-        Capture screen
-        Capture all what is visible on screen and save it on disk to the Helpdesk folder
-        Resources/CaptureScreen)"));
-    EXPECT_EQ(texts("QM_HD_captureFusion"), text(R"(
-        Capture Fusion
-        Capture window of the Fusion application and save it on disk to the Helpdesk folder
-        Resources/CaptureInventor)"));
-    EXPECT_EQ(texts("QM_HD_systemInfo"), text(R"(
-        System info
-        Save information about your system in a text file
-        Resources/SaveSystemInfo)"));
-}
-
-TEST_F(HelpdeskCommands, OfTheSecondHalfHaveTheirTexts) {
-    EXPECT_EQ(texts("QM_HD_compressFolder"), text(R"(
-        Zip
-        Compress all context in the Helpdesk folder
-        Resources/ZipFolder)"));
-    EXPECT_EQ(texts("QM_HD_openFolder"), text(R"(
-        Open Helpdesk Folder
-        Open the Helpdesk folder in Explorer
-        Resources/OpenFolder)"));
-    EXPECT_EQ(texts("QM_HD_clearFolder"), text(R"(
-        Delete Helpdesk Folder
-        Delete all context in the Helpdesk folder
-        Resources/DeleteFolder)"));
-    EXPECT_EQ(texts("QM_HD_openHelp"), text(R"(
-        Open Help
-        Open User Guide
-        Resources/OpenHelp)"));
-}
-
 TEST_F(HelpdeskCommands, RunWithoutADialog) {
     session->press("QM_HD_systemInfo");
 

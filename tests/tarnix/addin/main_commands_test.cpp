@@ -14,46 +14,6 @@ namespace {
 
 class MainCommands : public AddinUiTest {};
 
-TEST_F(MainCommands, ForDesignsHaveTheirTexts) {
-    EXPECT_EQ(texts("QEMA_EditPropertiesCmd"), text(R"(
-        Edit custom properties
-        Dialog for editing custom properties
-        ././Resources/Properties)"));
-    EXPECT_EQ(texts("QM_TX_BOM"), text(R"(
-        BOM
-        Bill of materials
-        ././Resources/BOM)"));
-    EXPECT_EQ(texts("QM_TX_moveComponentToOrigin"), text(R"(
-        Move To Origin
-        Move selected component to the origin
-        ././Resources/MoveComponentToOrigin)"));
-    EXPECT_EQ(texts("QM_TX_projectedEntitiesAsConstruction"), text(R"(
-        Projected Entities As Construction
-        Set projected entities as construction geometry
-        ./Resources/ProjEntAsConstruction)"));
-}
-
-TEST_F(MainCommands, ForOtherPurposesHaveTheirTexts) {
-    EXPECT_EQ(texts("QM_TX_unitsConversion"),
-              "Units Conversion\n"
-              "A Unit converter for more than 750 types of international and historical physical "
-              "measurement units: length, area, volume, time, mass, density, pressure, moment, "
-              "power, flux, number systems, etc. \n"
-              "././Resources/UnitsConversion");
-    EXPECT_EQ(texts("QM_TX_configuration"), text(R"(
-        Tarnix Configuration
-        Tarnix Configuration
-        ././Resources/Configuration)"));
-    EXPECT_EQ(texts("QM_TX_onLineLibrary"), text(R"(
-        Models->F
-        One step for insert on-Line models to the Fusion 360
-        ././Resources/OnLineLibrary)"));
-    EXPECT_EQ(texts("QEMA_OpenLocalCmd_QAT"), text(R"(
-        Open local file
-        Open / Import file from local storage
-        ././Resources/OpenLocalFile)"));
-}
-
 class MainCommandsWithIcons : public MainCommands {
 protected:
     [[nodiscard]] host::SessionOptions options() const override { return addinWithIconsOptions(); }

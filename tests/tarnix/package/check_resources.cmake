@@ -1,9 +1,9 @@
 # The icons and images beside the module against the texts by which the sources name them.
 #
-#   cmake -DROOT=<folder> -DTEXTS=<list> -P check_resources.cmake
+#   cmake -DROOT=<folder> -DTEXTS=<list> [-DCOMMANDS=<header>] -P check_resources.cmake
 #
-# TEXTS lists every resource path that the add-in passes to the host, as it is spelled. A fault is one
-# line; any makes the check fail:
+# TEXTS lists the resource paths that the add-in passes to the host, as they are spelled; COMMANDS has those
+# of the commands. A fault is one line; any makes the check fail:
 #   - a text in the sources that is not listed, or a listed one that no source names;
 #   - a file that a text needs and that is missing, or has another size: letters are compared as the
 #     host does on Windows, where "resources" and "Resources" are one folder;
@@ -29,17 +29,25 @@ function(png_size file result)
     set(${result} ${size} PARENT_SCOPE)
 endfunction()
 
+# The resource paths in the literals of sources, each once.
+function(paths_in sources result)
+    set(paths "")
+    foreach(source IN LISTS sources)
+        file(READ ${source} content)
+        string(REGEX MATCHALL "\"[./]*[Rr]esources/[^\"\n]*\"" texts "${content}")
+        list(APPEND paths ${texts})
+    endforeach()
+    string(REPLACE "\"" "" paths "${paths}")
+    list(REMOVE_DUPLICATES paths)
+    set(${result} ${paths} PARENT_SCOPE)
+endfunction()
+
 file(GLOB_RECURSE sources ${ROOT}/tarnix/*.h ${ROOT}/tarnix/*.cpp)
-set(named "")
-foreach(source IN LISTS sources)
-    file(READ ${source} content)
-    string(REGEX MATCHALL "\"[./]*[Rr]esources/[^\"\n]*\"" texts "${content}")
-    list(APPEND named ${texts})
-endforeach()
-string(REPLACE "\"" "" named "${named}")
-list(REMOVE_DUPLICATES named)
+paths_in("${sources}" named)
 
 file(STRINGS ${TEXTS} listed)
+paths_in("${COMMANDS}" of_commands)
+list(APPEND listed ${of_commands})
 foreach(text IN LISTS named)
     if(NOT text IN_LIST listed)
         fault("\"${text}\": named in the sources, not known as a resource")
