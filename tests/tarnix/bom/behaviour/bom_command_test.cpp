@@ -64,9 +64,7 @@ TEST_F(InputRouting, ARowAtTheTopOfTheStructureTabSelectsThePartsAtTheTop) {
 }
 
 TEST_F(InputRouting, ARowIsSelectedInThePlaceOfWhatWasSelected) {
-    open(R"(
-        Bolt
-        Plate)");
+    open("Bolt\nPlate");
     showModel();
     session->paste("modelPartNumberOcc_1", "B-1");
 
@@ -76,9 +74,7 @@ TEST_F(InputRouting, ARowIsSelectedInThePlaceOfWhatWasSelected) {
 }
 
 TEST_F(InputRouting, AChangeOfTabSelectsNothing) {
-    open(R"(
-        Bolt
-        Plate)");
+    open("Bolt\nPlate");
     openBom();
     select(1);
 
@@ -89,9 +85,7 @@ TEST_F(InputRouting, AChangeOfTabSelectsNothing) {
 }
 
 TEST_F(InputRouting, ACellOfTheConfigurationTabSelectsNothing) {
-    open(R"(
-        Bolt
-        Plate)");
+    open("Bolt\nPlate");
     showConfiguration();
     select(1);
 
@@ -102,9 +96,7 @@ TEST_F(InputRouting, ACellOfTheConfigurationTabSelectsNothing) {
 }
 
 TEST_F(InputRouting, AHeaderCellSelectsNothing) {
-    open(R"(
-        Bolt
-        Plate)");
+    open("Bolt\nPlate");
     showStructure();
     select(1);
 

@@ -10,6 +10,8 @@ using namespace adsk::fusion;
 
 constexpr const char* kGroup = "QEMA_PropertiesAttributesGroup";
 
+constexpr const char* kTwoParts = "Bolt  number=B-1\nPlate  number=P-1";
+
 class BomWriteBack : public BomDialogTest {
 protected:
     /// The attributes of the component at a place at the top, as name=value with spaces between.
@@ -19,6 +21,11 @@ protected:
             texts += (texts.empty() ? "" : " ") + each->name() + "=" + each->value();
         }
         return texts;
+    }
+
+    /// The part numbers of the first two components at the top.
+    [[nodiscard]] std::string partNumbers() const {
+        return component(0)->partNumber() + " " + component(1)->partNumber();
     }
 
     /// Accepts the dialog, and closes the one that comes back for it.
@@ -31,30 +38,24 @@ protected:
 };
 
 TEST_F(BomWriteBack, WritesEditedPartNumbersOfTheStructureTable) {
-    open(R"(
-        Bolt  number=B-1
-        Plate  number=P-1)");
+    open(kTwoParts);
     showStructure();
     session->paste("partNumberOcc_2", "P-2");
 
     save();
 
-    EXPECT_EQ(component(0)->partNumber(), "B-1");
-    EXPECT_EQ(component(1)->partNumber(), "P-2");
+    EXPECT_EQ(partNumbers(), "B-1 P-2");
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 
 TEST_F(BomWriteBack, WritesEditedPartNumbersOfTheModelTable) {
-    open(R"(
-        Bolt  number=B-1
-        Plate  number=P-1)");
+    open(kTwoParts);
     showModel();
     session->paste("modelPartNumberOcc_1", "B-2");
 
     save();
 
-    EXPECT_EQ(component(0)->partNumber(), "B-2");
-    EXPECT_EQ(component(1)->partNumber(), "P-1");
+    EXPECT_EQ(partNumbers(), "B-2 P-1");
 }
 
 TEST_F(BomWriteBack, WritesNothingFromTheConfigurationTab) {
@@ -176,9 +177,7 @@ TEST_F(BomWriteBack, AddsAMeasuredColumnOnce) {
 }
 
 TEST_F(BomWriteBack, WritesHiddenRowsToo) {
-    open(R"(
-        Bolt  number=B-1
-        Plate  number=P-1)");
+    open(kTwoParts);
     showStructure();
     session->paste("partNumberOcc_2", "P-2");
     session->choose("bomStructure_2", "Reference");

@@ -40,6 +40,21 @@ protected:
     [[nodiscard]] std::string tabs() const;
 };
 
+/// Components whose part number, name or description is "1", as a chosen structure's property is,
+/// and one that is none of them.
+inline constexpr const char* kValuesOfOne = R"(
+    Bolt  number=1
+    1  number=P-1
+    Nut  description=1
+    Cap  description=10)";
+
+/// What their rows offer as BOM structure: only the last one has its own chosen.
+inline constexpr const char* kStructuresBesideOne =
+    "Produce/Buy/AsPart/Divided/Reference\n"
+    "Produce/Buy/AsPart/Divided/Reference\n"
+    "Produce/Buy/AsPart/Divided/Reference\n"
+    "*Produce/Buy/AsPart/Divided/Reference";
+
 /// An input as a text: kind, id, caption in quotes, and what it shows.
 std::string describe(const adsk::core::Ptr<adsk::core::CommandInput>& input);
 

@@ -211,17 +211,9 @@ TEST_F(DataOfModelTab, SelectsNothingWhereACustomPropertyHoldsOne) {
 }
 
 TEST_F(DataOfModelTab, SelectsNothingWhereANumberANameOrADescriptionIsOne) {
-    open(R"(
-        Bolt  number=1
-        1  number=P-1
-        Nut  description=1
-        Cap  description=10)");
+    open(kValuesOfOne);
     openBom();
-    EXPECT_EQ(column(kModelTable, 4), text(R"(
-        Produce/Buy/AsPart/Divided/Reference
-        Produce/Buy/AsPart/Divided/Reference
-        Produce/Buy/AsPart/Divided/Reference
-        *Produce/Buy/AsPart/Divided/Reference)"));
+    EXPECT_EQ(column(kModelTable, 4), kStructuresBesideOne);
 }
 
 TEST_F(DataOfModelTab, SelectsTheLastOfTwoStructuresThatAreSet) {
