@@ -12,7 +12,8 @@
 ///
 /// The host starts the command, and the created handler builds the dialog; each change of an input
 /// comes to the input-changed handler, which finds out from its id what it means; "Save Changes and
-/// Close" comes to the execute handler, which writes the table that shows into the design.
+/// Close" comes to the execute handler, which writes the table that shows into the design. After
+/// that a hook (`addin/hooks.h`) starts the command again.
 namespace tarnix {
 
 inline constexpr CommandTexts kBomCommand = {.id = "QM_TX_BOM",
