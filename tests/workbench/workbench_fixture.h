@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace test_support {
@@ -30,11 +31,34 @@ protected:
 
     /// A design file with a drawn design.
     std::string design(const std::string& outline, const std::string& name = "sample") {
+        return save(host::parseOutline(addinOutline(outline)), name);
+    }
+
+    /// A design file with a design, which gets its name.
+    std::string save(host::DesignData data, const std::string& name) {
         const auto file = folder.path() / host::fromUtf8(name + host::kDesignFileEnding);
-        host::DesignData data = host::parseOutline(addinOutline(outline));
         data.name = name;
         host::saveDesignFile(file, data);
         return host::toUtf8(file);
+    }
+
+    /// A design file "plate" whose root component is a brass plate of 10 x 5 x 2 cm, with nothing
+    /// below it.
+    std::string lonePart() {
+        host::DesignData data = host::parseOutline("Plate  box=10x5x2 material=Brass:0.0085");
+        data.components.front().geometry = data.components[1].geometry;
+        data.components.front().material = data.components[1].material;
+        data.components.front().children.clear();
+        data.components.resize(1);
+        return save(std::move(data), "plate");
+    }
+
+    /// A program that failed before it printed anything or made the folder `out()`.
+    void expectFailure(const ProgramResult& result, int status, const std::string& errors) const {
+        EXPECT_EQ(result.status, status);
+        EXPECT_EQ(result.errors, errors);
+        EXPECT_EQ(result.output, "");
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "out"));
     }
 
     /// The columns that this user chose once.
@@ -87,6 +111,18 @@ inline constexpr const char* kSmallDesign = R"(
     Frame  box=10x10x1 material=Sheet:0.01
     Bolt  box=10x5x1 material=Sheet:0.01
     Bolt)";
+
+/// What the workbench prints of it with the columns Quantity, called "Qty", and Mass.
+inline constexpr const char* kSmallDesignsList = R"(
+       Pos.  Part Number  BOM Structure  Qty  Mass [kg]
+    ─  ────  ───────────  ─────────────  ───  ─────────
+    ·     1  Frame        Produce          1      1.000
+    ·     2  Bolt         Produce          2      0.500
+    )";
+
+/// How an error line lists what the BOM structure can be.
+inline constexpr const char* kKnownStructures =
+    "no such choice; available: \"Produce\", \"Buy\", \"AsPart\", \"Divided\", \"Reference\"\n";
 
 inline host::DesignData loadDesign(const std::string& file) {
     return host::loadDesignFile(host::fromUtf8(file));

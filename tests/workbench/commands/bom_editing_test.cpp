@@ -11,7 +11,9 @@
 namespace fs = std::filesystem;
 using test_support::firstLines;
 using test_support::isOneLine;
+using test_support::kKnownStructures;
 using test_support::kSmallDesign;
+using test_support::kSmallDesignsList;
 using test_support::loadDesign;
 using test_support::ProgramResult;
 using test_support::readFile;
@@ -51,12 +53,7 @@ TEST_F(BomEditing, ColumnsAreChosenAndStored) {
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(firstLines(result.output, 4), text(R"(
-           Pos.  Part Number  BOM Structure  Qty  Mass [kg]
-        ─  ────  ───────────  ─────────────  ───  ─────────
-        ·     1  Frame        Produce          1      1.000
-        ·     2  Bolt         Produce          2      0.500
-        )") + "\n");
+    EXPECT_EQ(firstLines(result.output, 4), text(kSmallDesignsList) + "\n");
     EXPECT_EQ(firstLines(run({"bom", file}).output, 4), firstLines(result.output, 4));
 }
 
@@ -178,12 +175,10 @@ TEST_F(BomEditing, ASortOfNamesThatTheAddinTakesForNumbersFails) {
     const ProgramResult result =
         run({"bom", design(kSmallDesign), "--sort", "Name", "--out", out()});
 
-    EXPECT_EQ(result.status, 4);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: cannot sort by \"Name\": the add-in threw std::invalid_argument "
-              "(invalid stod argument) in OnInputChanged of QEMA_Part Name_0\n");
-    EXPECT_EQ(result.output, "");
-    EXPECT_FALSE(fs::exists(folder.path() / "out"));
+    expectFailure(
+        result, 4,
+        "tarnix-workbench: cannot sort by \"Name\": the add-in threw std::invalid_argument "
+        "(invalid stod argument) in OnInputChanged of QEMA_Part Name_0\n");
 }
 
 TEST_F(BomEditing, TheWholeTreeIsShown) {
@@ -292,8 +287,7 @@ TEST_F(BomEditing, AnUnknownChoiceListsTheKnownOnes) {
 
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors,
-              "tarnix-workbench: --set 1:BOM Structure=Bought: no such choice; available: "
-              "\"Produce\", \"Buy\", \"AsPart\", \"Divided\", \"Reference\"\n");
+              std::string("tarnix-workbench: --set 1:BOM Structure=Bought: ") + kKnownStructures);
 }
 
 TEST_F(BomEditing, ASaveInWhichTheAddinThrowsFailsAndWritesNothing) {

@@ -3,16 +3,13 @@
 #include <gtest/gtest.h>
 
 /// What `bom --open` asks of the system's shell.
+namespace test_support {
 namespace {
 
 namespace fs = std::filesystem;
-using test_support::kSmallDesign;
-using test_support::ProgramResult;
-using test_support::readFile;
-using test_support::writeFile;
 
 /// The program with an "xdg-open" of the test's own, before the system's.
-class BomOpen : public test_support::Workbench {
+class BomOpen : public Workbench {
 protected:
     void openerIs(const std::string& script) {
         const fs::path place = folder.path() / "bin";
@@ -85,3 +82,4 @@ TEST_F(BomOpen, DoesNotTakeAnOldExportForANewOne) {
 }
 
 }  // namespace
+}  // namespace test_support

@@ -14,6 +14,7 @@ namespace fs = std::filesystem;
 using test_support::firstLines;
 using test_support::isOneLine;
 using test_support::kSmallDesign;
+using test_support::kSmallDesignsList;
 using test_support::ProgramResult;
 using test_support::readFile;
 using test_support::text;
@@ -99,12 +100,7 @@ TEST_F(BomCommand, ColumnsThatTheUserChoseArePrinted) {
 
     const ProgramResult result = run({"bom", design(kSmallDesign)});
 
-    EXPECT_EQ(firstLines(result.output, 4), text(R"(
-           Pos.  Part Number  BOM Structure  Qty  Mass [kg]
-        ─  ────  ───────────  ─────────────  ───  ─────────
-        ·     1  Frame        Produce          1      1.000
-        ·     2  Bolt         Produce          2      0.500
-        )") + "\n");
+    EXPECT_EQ(firstLines(result.output, 4), text(kSmallDesignsList) + "\n");
 }
 
 TEST_F(BomCommand, TheModelTabShowsTheFirstLevel) {
@@ -207,12 +203,10 @@ TEST_F(BomCommand, WhatTheAddinThrowsOtherwiseFailsWithALine) {
 
     const ProgramResult result = run({"bom", design(kSmallDesign), "--out", out()});
 
-    EXPECT_EQ(result.status, 4);
-    EXPECT_EQ(result.errors,
-              "tarnix-workbench: the add-in threw std::out_of_range (invalid string position) in "
-              "OnCommandCreated\n");
-    EXPECT_EQ(result.output, "");
-    EXPECT_FALSE(fs::exists(folder.path() / "out"));
+    expectFailure(
+        result, 4,
+        "tarnix-workbench: the add-in threw std::out_of_range (invalid string position) in "
+        "OnCommandCreated\n");
 }
 
 TEST_F(BomCommand, SettingsThatAreNotXmlFailWithALine) {
@@ -310,15 +304,7 @@ TEST_F(BomCommand, AMissingFileIsRefusedWithALine) {
 }
 
 TEST_F(BomCommand, AFileOfOnePartSaysThatTheListIsEmpty) {
-    host::DesignData data = host::parseOutline("Plate  box=10x5x2");
-    data.components.front().geometry = data.components[1].geometry;
-    data.components.front().children.clear();
-    data.components.resize(1);
-    data.name = "plate";
-    const fs::path file = folder.path() / "plate.design.json";
-    host::saveDesignFile(file, data);
-
-    const ProgramResult result = run({"bom", host::toUtf8(file), "--out", out()});
+    const ProgramResult result = run({"bom", lonePart(), "--out", out()});
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_NE(result.output.find("the file is one part; the list shows what is below the root\n"),
@@ -331,12 +317,10 @@ TEST_F(BomCommand, MarksRowsWhoseMaterialIsAssumed) {
     host::DesignData data = host::parseOutline(R"(
         Bolt  material=Steel:0.00785 box=10x10x10
         Rail  material=Brass:0.0085 box=10x10x10)");
-    data.name = "bolt";
     data.components[1].material->nameAssumed = true;
-    const fs::path file = folder.path() / "bolt.design.json";
-    host::saveDesignFile(file, data);
+    const std::string file = save(data, "bolt");
 
-    const ProgramResult result = run({"bom", host::toUtf8(file), "--column", "Mass"});
+    const ProgramResult result = run({"bom", file, "--column", "Mass"});
 
     EXPECT_EQ(firstLines(result.output, 4), text(R"(
            Pos.  Part Number  BOM Structure  Mass [kg]  Material
@@ -344,6 +328,6 @@ TEST_F(BomCommand, MarksRowsWhoseMaterialIsAssumed) {
         ·     1  Bolt         Produce            7.850  assumed
         ·     2  Rail         Produce            8.500
         )") + "\n");
-    EXPECT_EQ(run({"bom", host::toUtf8(file), "--strict", "--out", out()}).status, 1);
+    EXPECT_EQ(run({"bom", file, "--strict", "--out", out()}).status, 1);
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
 }

@@ -12,34 +12,35 @@ using test_support::ProgramResult;
 using test_support::text;
 using test_support::writeFile;
 
-using InfoCommand = test_support::Workbench;
+class InfoCommand : public test_support::Workbench {
+protected:
+    /// The line on stderr for a file that is no design.
+    static std::string refusalOf(const fs::path& file) {
+        const ProgramResult result = run({"info", host::toUtf8(file)});
+        EXPECT_EQ(result.status, 1);
+        return result.errors;
+    }
+
+    /// The line for a file of this name and content.
+    [[nodiscard]] std::string refusalOf(const std::string& name, const std::string& content) const {
+        writeFile(folder.path() / name, content);
+        return refusalOf(folder.path() / name);
+    }
+};
 
 TEST_F(InfoCommand, ABrokenDesignFileIsRefusedWithALine) {
-    const fs::path file = folder.path() / "broken.design.json";
-    writeFile(file, "{\"components\": [");
+    const std::string line = refusalOf("broken.design.json", "{\"components\": [");
 
-    const ProgramResult result = run({"info", host::toUtf8(file)});
-
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
-    EXPECT_NE(result.errors.find("broken.design.json"), std::string::npos) << result.errors;
+    EXPECT_TRUE(isOneLine(line)) << line;
+    EXPECT_NE(line.find("broken.design.json"), std::string::npos) << line;
 }
 
 TEST_F(InfoCommand, AnEmptyFileIsRefusedWithALine) {
-    const fs::path file = folder.path() / "empty.step";
-    writeFile(file, "");
-
-    const ProgramResult result = run({"info", host::toUtf8(file)});
-
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+    EXPECT_PRED1(isOneLine, refusalOf("empty.step", ""));
 }
 
 TEST_F(InfoCommand, AFolderIsRefusedWithALine) {
-    const ProgramResult result = run({"info", host::toUtf8(folder.path())});
-
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(isOneLine(result.errors)) << result.errors;
+    EXPECT_PRED1(isOneLine, refusalOf(folder.path()));
 }
 
 TEST_F(InfoCommand, CountsWhatAFileHolds) {
@@ -75,18 +76,16 @@ TEST_F(InfoCommand, CountsWhatAFileHolds) {
 
 TEST_F(InfoCommand, MarksAMaterialThatIsAssumed) {
     host::DesignData data = host::parseOutline("Bolt  material=Steel:0.00785 box=1x1x1");
-    data.name = "bolt";
     data.components[1].material->nameAssumed = true;
     data.components[1].material->densityAssumed = true;
-    const fs::path file = folder.path() / "bolt.design.json";
-    host::saveDesignFile(file, data);
+    const std::string file = save(data, "bolt");
 
-    const ProgramResult result = run({"info", host::toUtf8(file)});
+    const ProgramResult result = run({"info", file});
 
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.output.find("Steel (assumed)"), std::string::npos) << result.output;
     EXPECT_EQ(result.errors,
-              "warning: " + host::toUtf8(file) +
+              "warning: " + file +
                   ": 1 of 1 part has no material: Steel assumed (--material NAME=DENSITY to "
                   "change)\n");
 }
@@ -95,14 +94,11 @@ TEST_F(InfoCommand, UsesTheMaterialThatIsNamedForPartsWithoutOne) {
     host::DesignData data = host::parseOutline(R"(
         Bolt  material=Steel:0.00785 box=10x10x10
         Rail  material=Brass:0.0085 box=10x10x10)");
-    data.name = "bolt";
     data.components[1].material->nameAssumed = true;
     data.components[1].material->densityAssumed = true;
-    const fs::path file = folder.path() / "bolt.design.json";
-    host::saveDesignFile(file, data);
+    const std::string file = save(data, "bolt");
 
-    const ProgramResult result =
-        run({"info", host::toUtf8(file), "--material", "Aluminium=2700", "--strict"});
+    const ProgramResult result = run({"info", file, "--material", "Aluminium=2700", "--strict"});
 
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "");
@@ -119,16 +115,7 @@ TEST_F(InfoCommand, AMaterialWithoutADensityIsRefused) {
 }
 
 TEST_F(InfoCommand, MeasuresALonePart) {
-    host::DesignData data = host::parseOutline("Plate  box=10x5x2 material=Brass:0.0085");
-    data.components.front().geometry = data.components[1].geometry;
-    data.components.front().material = data.components[1].material;
-    data.components.front().children.clear();
-    data.components.resize(1);
-    data.name = "plate";
-    const fs::path file = folder.path() / "plate.design.json";
-    host::saveDesignFile(file, data);
-
-    const ProgramResult result = run({"info", host::toUtf8(file)});
+    const ProgramResult result = run({"info", lonePart()});
 
     // 2 x (50 + 20 + 10) cm2, 100 cm3, 0.85 kg.
     EXPECT_NE(result.output.find("Bodies       1\n"

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 using host::DialogView;
 using host::InputView;
@@ -16,6 +17,15 @@ InputView input(const std::string& kind, const std::string& id, const std::strin
     view.kind = kind;
     view.id = id;
     view.value = value;
+    return view;
+}
+
+/// A table of two columns without rows.
+InputView tableOf(const std::string& ratio, const std::vector<int>& shownColumns) {
+    InputView view = input("Table", "table");
+    view.table.columns = 2;
+    view.table.ratio = ratio;
+    view.table.shownColumns = shownColumns;
     return view;
 }
 
@@ -68,10 +78,7 @@ TEST(DialogText, IndentsWhatIsInATabOrAGroup) {
 }
 
 TEST(DialogText, NumbersTheRowsOfATableAndMarksWhatIsHidden) {
-    InputView table = input("Table", "table");
-    table.table.columns = 2;
-    table.table.ratio = "1:0";
-    table.table.shownColumns = {0};
+    InputView table = tableOf("1:0", {0});
     InputView button = input("Button", "b", "false");
     button.text = "+";
     InputView narrow = input("StringValue", "n", "x");
@@ -93,10 +100,7 @@ TEST(DialogText, NumbersTheRowsOfATableAndMarksWhatIsHidden) {
 }
 
 TEST(DialogText, NamesThePictureOfACellThatShowsNothingElse) {
-    InputView table = input("Table", "table");
-    table.table.columns = 2;
-    table.table.ratio = "1:1";
-    table.table.shownColumns = {0, 1};
+    InputView table = tableOf("1:1", {0, 1});
     InputView button = input("Button", "b", "false");
     button.picture = "./Resources/Sort";
     InputView image = input("Image", "i");

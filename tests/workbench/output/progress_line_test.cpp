@@ -5,16 +5,13 @@
 #include <cstdlib>
 
 /// What the program does with the terminal.
+namespace test_support {
 namespace {
 
 namespace fs = std::filesystem;
-using test_support::kSmallDesign;
-using test_support::ProgramResult;
-using test_support::readFile;
-using test_support::writeFile;
 
 /// The program on a terminal, reading a file with a reader that reports half of its progress.
-class Terminal : public test_support::WorkbenchWithReader {
+class Terminal : public WorkbenchWithReader {
 protected:
     void SetUp() override {
         WorkbenchWithReader::SetUp();
@@ -30,7 +27,7 @@ protected:
     [[nodiscard]] std::string shownAt(int columns, const std::string& file) const {
         const fs::path program = host::environment::programFolder() / "tarnix-workbench";
         const fs::path screen = folder.path() / "screen";
-        const int status = test_support::runRedirected(
+        const int status = runRedirected(
             "/usr/bin/script",
             {"--quiet", "--return", "--command",
              "stty cols " + std::to_string(columns) + "; " + program.string() + " info " + file,
@@ -74,3 +71,4 @@ TEST_F(Terminal, ShowsNoProgressWhereLinesCannotBeOverwritten) {
 }
 
 }  // namespace
+}  // namespace test_support
