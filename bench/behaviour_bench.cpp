@@ -69,20 +69,13 @@ void writeBack(benchmark::State& state, Shape shape, const char* tab) {
     });
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->RangeMultiplier(10)
-        ->Range(1000, 100000)
-        ->Iterations(1)
-        ->UseManualTime()
-        ->Unit(benchmark::kMillisecond);
-}
-
-BENCHMARK(sortRows)->Apply(sizes);
-BENCHMARK(foldTop)->Apply(sizes);
-BENCHMARK(saveColumns)->Apply(sizes);
-BENCHMARK_CAPTURE(writeBack, model, Shape::FlatDifferent, kModel)->Apply(sizes);
-BENCHMARK_CAPTURE(writeBack, structure, Shape::FlatDifferent, kStructure)->Apply(sizes);
-BENCHMARK_CAPTURE(writeBack, shared_structure, Shape::FlatShared, kStructure)->Apply(sizes);
+BENCHMARK(sortRows)->Apply(sizesFrom<1000>);
+BENCHMARK(foldTop)->Apply(sizesFrom<1000>);
+BENCHMARK(saveColumns)->Apply(sizesFrom<1000>);
+BENCHMARK_CAPTURE(writeBack, model, Shape::FlatDifferent, kModel)->Apply(sizesFrom<1000>);
+BENCHMARK_CAPTURE(writeBack, structure, Shape::FlatDifferent, kStructure)->Apply(sizesFrom<1000>);
+BENCHMARK_CAPTURE(writeBack, shared_structure, Shape::FlatShared, kStructure)
+    ->Apply(sizesFrom<1000>);
 
 }  // namespace
 }  // namespace bench

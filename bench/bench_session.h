@@ -21,4 +21,14 @@ host::SessionOptions addinOptions();
 /// Opens a design with as many occurrences as the benchmark's range says, and runs the add-in.
 void start(host::Session& session, Shape shape, const benchmark::State& state);
 
+/// Designs of so many occurrences to 100,000, each measured once.
+template <int First>
+void sizesFrom(benchmark::internal::Benchmark* benchmark) {
+    benchmark->RangeMultiplier(10)
+        ->Range(First, 100000)
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
 }  // namespace bench

@@ -94,18 +94,10 @@ void measureExport(benchmark::State& state) {
     }
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->RangeMultiplier(10)
-        ->Range(100, 100000)
-        ->Iterations(1)
-        ->UseManualTime()
-        ->Unit(benchmark::kMillisecond);
-}
-
-BENCHMARK_CAPTURE(measureDialog, flat_different, Shape::FlatDifferent)->Apply(sizes);
-BENCHMARK_CAPTURE(measureDialog, flat_shared, Shape::FlatShared)->Apply(sizes);
-BENCHMARK_CAPTURE(measureDialog, nested, Shape::Nested)->Apply(sizes);
-BENCHMARK(measureExport)->Apply(sizes);
+BENCHMARK_CAPTURE(measureDialog, flat_different, Shape::FlatDifferent)->Apply(sizesFrom<100>);
+BENCHMARK_CAPTURE(measureDialog, flat_shared, Shape::FlatShared)->Apply(sizesFrom<100>);
+BENCHMARK_CAPTURE(measureDialog, nested, Shape::Nested)->Apply(sizesFrom<100>);
+BENCHMARK(measureExport)->Apply(sizesFrom<100>);
 
 }  // namespace
 }  // namespace bench
