@@ -84,9 +84,7 @@ void loadColumns(const Ptr<TableCommandInput>& table,
 }  // namespace
 
 void buildBomConfigurationTab(const BomModel& model, Ptr<CommandInputs> inputs) {
-    const Ptr<TabCommandInput> tab =
-        inputs->addTabCommandInput(kConfigTabId, "BOM Configuration", "");
-    const Ptr<CommandInputs> children = tab ? tab->children() : nullptr;
+    const Ptr<CommandInputs> children = addTab(inputs, kConfigTabId, "BOM Configuration");
     if (!children) {
         return;
     }

@@ -54,9 +54,7 @@ void hideNestedRows(const Ptr<TableCommandInput>& table, int columns) {
 }  // namespace
 
 void buildDataOfModelTab(BomModel& model, Ptr<CommandInputs> inputs) {
-    const Ptr<TabCommandInput> tab =
-        inputs->addTabCommandInput(kModelRows.tabId, kModelRows.caption, "");
-    const Ptr<CommandInputs> children = tab ? tab->children() : nullptr;
+    const Ptr<CommandInputs> children = addTab(inputs, kModelRows.tabId, kModelRows.caption);
     if (!children) {
         return;
     }

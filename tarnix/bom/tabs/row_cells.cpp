@@ -83,6 +83,12 @@ void fillConfiguredCells(const BomRow& row, const Ptr<TableCommandInput>& table,
     }
 }
 
+Ptr<CommandInputs> addTab(const Ptr<CommandInputs>& inputs, const std::string& id,
+                          const std::string& caption) {
+    const Ptr<TabCommandInput> tab = inputs->addTabCommandInput(id, caption, /*resourceFolder=*/"");
+    return tab ? tab->children() : nullptr;
+}
+
 Ptr<BoolValueCommandInput> addExportButton(const Ptr<CommandInputs>& inputs) {
     return inputs->addBoolValueInput(kExportId, "Export BOM to MS Excel", /*isCheckBox=*/false,
                                      kExportIcon, /*initialValue=*/true);

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-/// The inputs that the tables of the BOM dialog have in common: a row's cells, the headers, and the
-/// tables themselves.
+/// The inputs that the tabs of the BOM dialog have in common: a row's cells, the headers, the
+/// tables and the tabs themselves.
 namespace tarnix {
 
 /// The configured columns, from left to right, as the settings document holds them.
@@ -40,6 +40,11 @@ void buildTableHeader(const adsk::core::Ptr<adsk::core::TableCommandInput>& tabl
 void fillConfiguredCells(const BomRow& row,
                          const adsk::core::Ptr<adsk::core::TableCommandInput>& table, int tableRow,
                          int rowId, const std::vector<Column>& columns);
+
+/// The inputs of a new tab of the dialog; null where the host refuses it.
+adsk::core::Ptr<adsk::core::CommandInputs> addTab(
+    const adsk::core::Ptr<adsk::core::CommandInputs>& inputs, const std::string& id,
+    const std::string& caption);
 
 /// The button "Export BOM to MS Excel"; null where the host refuses it.
 adsk::core::Ptr<adsk::core::BoolValueCommandInput> addExportButton(

@@ -43,9 +43,8 @@ CellRow makeCells(const Ptr<CommandInputs>& inputs, const BomRow& row, const std
 }  // namespace
 
 void buildStructureTab(Ptr<CommandInputs> inputs) {
-    const Ptr<TabCommandInput> tab =
-        inputs->addTabCommandInput(kStructureRows.tabId, kStructureRows.caption, "");
-    const Ptr<CommandInputs> children = tab ? tab->children() : nullptr;
+    const Ptr<CommandInputs> children =
+        addTab(inputs, kStructureRows.tabId, kStructureRows.caption);
     if (!children) {
         return;
     }
