@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/tarnix/commands/open_local_file_fixture.h"
 
 #include "host/base/gate.h"
@@ -202,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(Each, OpenLocalFileWithout,
                                          MissingCall{.name = "AnUploadToWaitFor",
                                                      .call = "DataFolder::uploadFile",
                                                      .file = "model.ipt"}),
-                         [](const auto& test) { return test.param.name; });
+                         test_support::caseName);
 
 TEST_F(OpenLocalFile, FileForWhichTheHostMakesNoOptionsIsSkipped) {
     faults.expectMisuse("ImportManager::importToNewDocument", "needs options that name a file");

@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/tarnix/commands/open_local_file_fixture.h"
 
 #include "host/application/main_queue.h"
@@ -19,10 +20,15 @@ constexpr const char* kStillConverting =
 
 class OpenLocalFileUploads : public OpenLocalFileTest {
 protected:
-    /// Lets time pass while no call waits.
-    static void passSeconds(int seconds) {
+    /// After so many seconds, in which no call waits, "model" is among the user's files, and it was
+    /// not opened.
+    void expectOnlyUploadedAfter(int seconds) {
+        EXPECT_EQ(uploaded(), Texts());
         host::clock::advance(std::chrono::seconds(seconds));
         host::runPosted();
+        EXPECT_EQ(uploaded(), Texts{"model"});
+        EXPECT_EQ(opened(), Texts());
+        EXPECT_EQ(uncaughtExceptions(), "");
     }
 };
 
@@ -128,11 +134,7 @@ TEST_F(OpenLocalFileUploads, CancelledUploadGoesOnInTheHost) {
 
     EXPECT_EQ(messages(), Texts{kStillUploading});
     EXPECT_EQ(host::clock::now(), 6);
-    EXPECT_EQ(uploaded(), Texts());
-    passSeconds(60);
-    EXPECT_EQ(uploaded(), Texts{"model"});
-    EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(uncaughtExceptions(), "");
+    expectOnlyUploadedAfter(60);
 }
 
 TEST_F(OpenLocalFileUploads, AtTheLimitTheCommandEndsSilentlyAndTheUploadGoesOnInTheHost) {
@@ -142,11 +144,7 @@ TEST_F(OpenLocalFileUploads, AtTheLimitTheCommandEndsSilentlyAndTheUploadGoesOnI
 
     EXPECT_EQ(host::clock::now(), 1001);
     EXPECT_EQ(messages(), Texts());
-    EXPECT_EQ(uploaded(), Texts());
-    passSeconds(4000);
-    EXPECT_EQ(uploaded(), Texts{"model"});
-    EXPECT_EQ(opened(), Texts());
-    EXPECT_EQ(uncaughtExceptions(), "");
+    expectOnlyUploadedAfter(4000);
 }
 
 TEST_F(OpenLocalFileUploads, UploadThatEndsAtTheLimitIsOpened) {
@@ -192,7 +190,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 .failures = 3,
                                 .tries = 4,
                                 .seconds = 1}),
-    [](const auto& test) { return test.param.name; });
+    test_support::caseName);
 
 TEST_F(OpenLocalFileUploads, FileThatCanNeverBeConvertedIsWaitedForUntilTheUserCancels) {
     host::clock::schedule(5000, host::cancelProgress);

@@ -1,4 +1,5 @@
 #include "tests/support/addin_test.h"
+#include "tests/support/case_name.h"
 
 #include "host/base/gate.h"
 
@@ -113,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Each, ProjectedEntitiesWithout,
                                          MissingCall{.name = "ACommand",
                                                      .call = "CommandCreatedEventArgs::command",
                                                      .thrown = ""}),
-                         [](const auto& test) { return test.param.name; });
+                         test_support::caseName);
 
 TEST_F(ProjectedEntities, ThrowsAtACurveThatTheHostDoesNotReturn) {
     openSketch({kProjected, kProjected, kProjected});

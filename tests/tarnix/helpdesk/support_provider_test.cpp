@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
@@ -88,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(Each, UnopenedSupportProvider,
                                          Unopened{.name = "WithAnAddressThatTheSystemCannotOpen",
                                                   .policy = Policy::RecordOpen,
                                                   .address = "unheard-of://a.example/"}),
-                         [](const auto& test) { return test.param.name; });
+                         caseName);
 
 TEST_F(SupportProvider, IsAskedForWithTheAddressUnchanged) {
     choose("http://other.example/$(touch x)`touch y`;\"z\" %20'|&gt;");

@@ -1,5 +1,6 @@
 #include "tarnix/helpdesk/system_information.h"
 
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/tarnix/helpdesk/helpdesk_fixture.h"
 
@@ -116,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
                               .line = "      Processor 0123"},
                     Processor{.name = "WithoutAName", .lastLeaf = 0x80000001U, .line = "    "},
                     Processor{.name = "WithoutExtendedLeaves", .lastLeaf = 5, .line = "    "}),
-    [](const auto& test) { return test.param.name; });
+    caseName);
 
 TEST_F(SystemInformation, GoesWhereTheFolderWasWhenTheModuleWasLoaded) {
     const auto names = host::environment::temporaryFolderNames();

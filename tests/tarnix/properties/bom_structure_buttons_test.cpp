@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
 #include "host/session/input_actions.h"
@@ -92,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Presses, StructureButtonsPressed,
                                              .onAtFirst = "Produce Buy Reference",
                                              .pressed = {"Reference"},
                                              .onAtLast = "Produce Buy"}),
-                         [](const auto& test) { return test.param.name; });
+                         test_support::caseName);
 
 TEST_F(StructureButtons, PressingASecondSwitchesTheFirstOff) {
     openProperties();

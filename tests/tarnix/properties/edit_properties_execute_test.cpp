@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
@@ -128,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
                     .call = "ButtonRowCommandInput::listItems",
                     .nth = 1,
                     .thrown = kThrown}),
-    [](const auto& test) { return test.param.name; });
+    test_support::caseName);
 
 TEST_F(PropertiesOk, WritesInputsThatAreDisabledToo) {
     open("Bolt");

@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/support/real_files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
@@ -155,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(Files, PropertiesOf,
                                                   .second = "plate:1",
                                                   .secondNumber = "plate",
                                                   .secondName = "plate"}),
-                         [](const auto& test) { return test.param.name; });
+                         test_support::caseName);
 
 }  // namespace
 }  // namespace tarnix

@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
 
@@ -281,7 +282,7 @@ INSTANTIATE_TEST_SUITE_P(EachCall, PropertiesDialogWithout,
                                                      .call = "TabCommandInput::children",
                                                      .nth = 2,
                                                      .made = 10}),
-                         [](const auto& test) { return test.param.name; });
+                         test_support::caseName);
 
 TEST_F(PropertiesDialog, ThrowsWithoutTheChildrenOfItsSecondGroupWhereTheListHasEntries) {
     offer({"QEMA_Colour;Colour"});

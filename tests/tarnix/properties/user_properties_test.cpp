@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/support/held_files.h"
 #include "tests/tarnix/properties/properties_fixture.h"
@@ -89,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
         TypedNames{.name = "WithAFullStopFromThereOn", .typed = {"a", "a."}, .isSavable = false},
         TypedNames{.name = "ValidAgain", .typed = {"a.", "ab"}, .isSavable = true},
         TypedNames{.name = "EmptiedAfterAnInvalidOne", .typed = {".", ""}, .isSavable = false}),
-    [](const auto& test) { return test.param.name; });
+    test_support::caseName);
 
 TEST_F(UserProperties, AreAddedAsEmptyRowsWithIdsThatNeverRepeat) {
     showList();

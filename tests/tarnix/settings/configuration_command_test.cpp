@@ -1,4 +1,5 @@
 #include "tests/support/addin_test.h"
+#include "tests/support/case_name.h"
 #include "tests/support/files.h"
 #include "tests/support/held_files.h"
 
@@ -198,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(EachAddress, ConfigurationOf,
                                          Address{.name = "WithATag",
                                                  .stored = "http://h/&lt;b&gt;bold&lt;/b&gt;",
                                                  .shown = "http://h/<b>bold</b>"}),
-                         [](const auto& test) { return test.param.name; });
+                         test_support::caseName);
 
 TEST_F(Configuration, CancelledWritesNothing) {
     store("https://help.example/desk");

@@ -1,3 +1,4 @@
+#include "tests/support/case_name.h"
 #include "tests/tarnix/platform/test_system.h"
 #include "tests/tarnix/settings/settings_fixture.h"
 
@@ -124,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(
                        .categories = R"(<category name="bomItems"><!-- note --></category>)"},
         BrokenSettings{.name = "CategoryWithoutAnAttribute",
                        .categories = R"(<category/><category name="bomItems"/>)"}),
-    [](const auto& test) { return test.param.name; });
+    test_support::caseName);
 
 TEST_F(SettingsItems, FileThatIsNotXmlThrows) {
     folder.write(kFile, "no xml");

@@ -1,5 +1,6 @@
 #include "tarnix/bom/behaviour/row_numbering.h"
 
+#include "tests/support/case_name.h"
 #include "tests/support/thrown.h"
 
 #include <gtest/gtest.h>
@@ -81,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
                            .before = afterNested(3),
                            .row = {.position = "5.4", .previousDepth = 2, .nextDepth = 0},
                            .number = "5.3"}),
-    [](const auto& test) { return test.param.name; });
+    caseName);
 
 TEST(RowNumbers, CountsOnAfterADeeperRowWhereTheNextOneIsDeeper) {
     RowNumbers numbers = afterNested(3);
