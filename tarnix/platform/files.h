@@ -9,8 +9,8 @@ namespace tarnix::platform {
 /// True if the file can be opened for reading.
 bool canRead(const std::string& path);
 
-/// Deletes a file. False when it was not there or would not go; callers that only want it out of
-/// the way need not look.
+/// Deletes a file. False when it was not there, is read-only or would not go; callers that only
+/// want it out of the way need not look.
 bool deleteFile(const std::string& path);
 
 }  // namespace tarnix::platform

@@ -1,8 +1,7 @@
 #include "tarnix/platform/files.h"
 
+#include "tarnix/platform/posix/file_kind.h"
 #include "tarnix/platform/posix/paths.h"
-
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -16,6 +15,6 @@ bool canRead(const std::string& path) {
     return std::filesystem::is_regular_file(native, ignored) && std::ifstream(native).is_open();
 }
 
-bool deleteFile(const std::string& path) { return ::unlink(nativePath(path).c_str()) == 0; }
+bool deleteFile(const std::string& path) { return removeFile(nativePath(path)); }
 
 }  // namespace tarnix::platform

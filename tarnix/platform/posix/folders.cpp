@@ -1,5 +1,6 @@
 #include "tarnix/platform/folders.h"
 
+#include "tarnix/platform/posix/file_kind.h"
 #include "tarnix/platform/posix/paths.h"
 #include "tarnix/platform/posix/wide_text.h"
 
@@ -11,16 +12,6 @@
 
 namespace tarnix::platform {
 namespace {
-
-/// What a path names, links not followed; nothing if that is not there.
-std::optional<struct stat> stateOf(const std::string& path) {
-    struct stat state = {};
-    return ::lstat(path.c_str(), &state) == 0 ? std::optional(state) : std::nullopt;
-}
-
-bool isReadOnlyFile(const struct stat& state) {
-    return S_ISREG(state.st_mode) && (state.st_mode & S_IWUSR) == 0;
-}
 
 /// Folder for temporary files as this system spells it, absolute.
 std::string nativeTemporaryFolder() {
@@ -60,20 +51,23 @@ bool makeDirectory(const std::string& path) {
     return ::mkdir(nativePath(path).c_str(), ownerOnly) == 0;
 }
 
-bool removeDirectory(const std::u16string& path) { return ::rmdir(nativePath(path).c_str()) == 0; }
-
-bool deleteFile(const std::u16string& path) {
-    const std::string native = nativePath(path);
-    const auto state = stateOf(native);
-    return state && !isReadOnlyFile(*state) && ::unlink(native.c_str()) == 0;
+bool removeDirectory(const std::u16string& path) {
+    std::string native = nativePath(path);
+    // With a separator after it, a link would be what it refers to.
+    while (native.size() > 1 && native.ends_with('/')) {
+        native.pop_back();
+    }
+    return isLinkToFolder(native) ? ::unlink(native.c_str()) == 0 : ::rmdir(native.c_str()) == 0;
 }
+
+bool deleteFile(const std::u16string& path) { return removeFile(nativePath(path)); }
 
 void makeWritable(const std::string& path) {
     const std::string native = nativePath(path);
-    const auto state = stateOf(native);
-    if (state && S_ISREG(state->st_mode)) {
+    const mode_t mode = modeOf(native);
+    if (S_ISREG(mode)) {
         // What fails here shows when the file is to be deleted.
-        static_cast<void>(::chmod(native.c_str(), (state->st_mode & 07777) | S_IWUSR));
+        static_cast<void>(::chmod(native.c_str(), (mode & 07777) | S_IWUSR));
     }
 }
 

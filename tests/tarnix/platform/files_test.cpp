@@ -35,6 +35,14 @@ TEST_F(Files, DeletedFileIsGone) {
 
 TEST_F(Files, DeletingWhatIsNotThereFails) { EXPECT_FALSE(deleteFile(folder.windows("old.csv"))); }
 
+TEST_F(Files, ReadOnlyOnesAreNotDeleted) {
+    const std::filesystem::path file = folder.write("old.csv", "x");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    EXPECT_FALSE(deleteFile(folder.windows("old.csv")));
+    EXPECT_EQ(folder.read("old.csv"), "x");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+}
+
 TEST_F(Files, FoldersAreNotDeletedAsFiles) {
     std::filesystem::create_directory(folder.path() / "folder");
     EXPECT_FALSE(deleteFile(folder.windows("folder")));

@@ -234,6 +234,20 @@ TEST_F(BomExport, ToAFileThatCannotBeDeletedAppends) {
               ";Total mass of structure BOM [kg]: ;\r\n");
 }
 
+TEST_F(BomExport, ToAReadOnlyFileKeepsTheOldText) {
+    writeFile(csvFile(), "older\r\n");
+    std::filesystem::permissions(csvFile(), std::filesystem::perms::owner_read);
+    open("Plate  number=P-1");
+    showModel();
+
+    exportBom();
+
+    // The superuser may append to it; for others, and on Windows, it does not open.
+    EXPECT_EQ(csv().substr(0, 7), "older\r\n");
+    EXPECT_EQ(uncaughtExceptions(), "");
+    std::filesystem::permissions(csvFile(), std::filesystem::perms::owner_all);
+}
+
 TEST_F(BomExport, LeavesOutARowThatIsHiddenAsAReference) {
     open(R"(
         Plate  number=P-1
