@@ -24,11 +24,12 @@ bool directoryExists(const std::string& path);
 /// Makes one folder, whose parent has to be there. False if it could not be made.
 bool makeDirectory(const std::string& path);
 
-/// Removes an empty folder. False if it is not empty, not there, or will not go.
+/// Removes an empty folder, or a link to a folder, empty or not, and not what it refers to. False
+/// if it is not empty, not there, or will not go.
 bool removeDirectory(const std::u16string& path);
 
-/// Deletes a file, or a link and not what it refers to. False if it is not there, is read-only, or
-/// will not go.
+/// Deletes a file, or a link to a file and not what it refers to. False if it is not there, is
+/// read-only, is a folder or a link to one, or will not go.
 bool deleteFile(const std::u16string& path);
 
 /// Makes a read-only file writable. Links are left alone.
@@ -37,15 +38,16 @@ void makeWritable(const std::string& path);
 /// Something in a folder.
 struct FoundFile {
     std::u16string name;
-    bool isDirectory = false;
-    bool isReadOnly = false;  ///< of a file; what it says of a folder has no meaning
+    bool isDirectory = false;  ///< or a link to one
+    bool isReadOnly = false;   ///< of a file; what it says of a folder has no meaning
 };
 
 /// Goes through the entries of a folder whose names fit a pattern.
 ///
 /// The pattern is a path whose last part may end in "*"; large and small letters are the same to
-/// it. A folder's own "." comes first and ".." second, where they fit. A folder that is reached
-/// through a link is not gone through.
+/// it. A folder's own "." comes first and ".." second, where they fit; the others come in the order
+/// of their names in capitals, unit by unit, so "_" comes after the letters. (Windows leaves the
+/// order to the file system: it is that of NTFS.) A link to a folder is gone through as the folder.
 class FolderSearch {
 public:
     /// Finds the first entry, which is not returned.

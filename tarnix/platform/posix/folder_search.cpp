@@ -1,5 +1,6 @@
 #include "tarnix/platform/folders.h"
 
+#include "tarnix/platform/posix/capitals.h"
 #include "tarnix/platform/posix/wide_text.h"
 
 #include <dirent.h>
@@ -16,23 +17,25 @@ namespace {
 
 using Directory = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-char16_t lower(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+/// "." first and ".." second, whatever else begins with a full stop or with less.
+int rank(const std::u16string& name) { return name == u"." ? 0 : name == u".." ? 1 : 2; }
+
+bool comesBefore(const FoundFile& one, const FoundFile& other) {
+    if (rank(one.name) != rank(other.name)) {
+        return rank(one.name) < rank(other.name);
+    }
+    const std::u16string left = inCapitals(one.name);
+    const std::u16string right = inCapitals(other.name);
+    return left != right ? left < right : one.name < other.name;
 }
 
-std::u16string lower(std::u16string text) {
-    std::transform(text.begin(), text.end(), text.begin(), [](char16_t u) { return lower(u); });
-    return text;
-}
-
-/// Whether a name fits the last part of a pattern, both in small letters.
+/// Whether a name fits the last part of a pattern, both in capitals.
 bool fits(const std::u16string& name, const std::u16string& pattern) {
     return pattern.ends_with(u'*') ? name.starts_with(pattern.substr(0, pattern.size() - 1))
                                    : name == pattern;
 }
 
-/// The folder that a pattern is about, "." for none, without the separator before the last part: a
-/// link would be followed with a slash after it.
+/// The folder that a pattern is about, "." for none.
 std::string folderOf(const std::u16string& pattern) {
     const std::size_t end = pattern.rfind(u'\\');
     if (end == std::u16string::npos) {
@@ -42,8 +45,7 @@ std::string folderOf(const std::u16string& pattern) {
 }
 
 Directory openDirectory(const std::string& path) {
-    const int descriptor =
-        ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC);
     DIR* const directory = descriptor >= 0 ? ::fdopendir(descriptor) : nullptr;
     if (descriptor >= 0 && directory == nullptr) {
         ::close(descriptor);
@@ -51,27 +53,18 @@ Directory openDirectory(const std::string& path) {
     return {directory, ::closedir};
 }
 
-/// "." first and ".." second, whatever else begins with a full stop or with less.
-int rank(const std::u16string& name) { return name == u"." ? 0 : name == u".." ? 1 : 2; }
-
-bool comesBefore(const FoundFile& one, const FoundFile& other) {
-    if (rank(one.name) != rank(other.name)) {
-        return rank(one.name) < rank(other.name);
-    }
-    const std::u16string left = lower(one.name);
-    const std::u16string right = lower(other.name);
-    return left != right ? left < right : one.name < other.name;
+/// Of what `name` is in a folder, or of what a link of that name refers to; 0 if it is not there.
+mode_t modeOf(DIR* directory, const char* name, bool followsLink) {
+    struct stat state = {};
+    const int flags = followsLink ? 0 : AT_SYMLINK_NOFOLLOW;
+    return ::fstatat(::dirfd(directory), name, &state, flags) == 0 ? state.st_mode : 0;
 }
 
 FoundFile entryOf(DIR* directory, const char* name) {
-    FoundFile file;
-    file.name = wideName(name);
-    struct stat state = {};
-    if (::fstatat(::dirfd(directory), name, &state, AT_SYMLINK_NOFOLLOW) == 0) {
-        file.isDirectory = S_ISDIR(state.st_mode);
-        file.isReadOnly = S_ISREG(state.st_mode) && (state.st_mode & S_IWUSR) == 0;
-    }
-    return file;
+    const mode_t mode = modeOf(directory, name, /*followsLink=*/false);
+    return {.name = wideName(name),
+            .isDirectory = S_ISDIR(modeOf(directory, name, /*followsLink=*/true)) != 0,
+            .isReadOnly = S_ISREG(mode) && (mode & S_IWUSR) == 0};
 }
 
 std::vector<FoundFile> filesOf(const std::u16string& pattern) {
@@ -82,10 +75,10 @@ std::vector<FoundFile> filesOf(const std::u16string& pattern) {
     }
     const std::size_t slash = pattern.rfind(u'\\');
     const std::u16string wanted =
-        lower(slash == std::u16string::npos ? pattern : pattern.substr(slash + 1));
+        inCapitals(slash == std::u16string::npos ? pattern : pattern.substr(slash + 1));
     while (const dirent* const entry = ::readdir(directory.get())) {  // NOLINT: one thread each
         FoundFile file = entryOf(directory.get(), entry->d_name);
-        if (fits(lower(file.name), wanted)) {
+        if (fits(inCapitals(file.name), wanted)) {
             files.push_back(std::move(file));
         }
     }

@@ -82,6 +82,19 @@ TEST_F(FolderDeletion, EndsAtASubfolderWithContent) {
     EXPECT_TRUE(has("z"));
 }
 
+TEST_F(FolderDeletion, EndsAtASubfolderBeforeAnUnderscore) {
+    // In capitals "S" comes before "_".
+    write("helpdesk.zip");
+    write("screens/x");
+    write("screen_001.png");
+    write("SystemInfo.txt");
+    EXPECT_FALSE(remove());
+    EXPECT_FALSE(has("helpdesk.zip"));
+    EXPECT_TRUE(has("screens/x"));
+    EXPECT_TRUE(has("screen_001.png"));
+    EXPECT_TRUE(has("SystemInfo.txt"));
+}
+
 TEST_F(FolderDeletion, EndsAtASubfolderWhoseNameAnotherOneBeginsWith) {
     // The search in the subfolder's name finds "subject" too, and takes it for a part of it.
     fs::create_directory(path() / "sub");

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -32,6 +33,16 @@ protected:
             names += file->isDirectory ? "/" : file->isReadOnly ? "!" : "";
         }
         EXPECT_TRUE(search.isComplete());
+        return names;
+    }
+
+    /// The names that a search has after its first entry.
+    [[nodiscard]] std::vector<std::u16string> wideFound(const std::u16string& pattern) const {
+        FolderSearch search(wide("") + pattern);
+        std::vector<std::u16string> names;
+        for (auto file = search.next(); file; file = search.next()) {
+            names.push_back(file->name);
+        }
         return names;
     }
 
@@ -104,6 +115,40 @@ TEST_F(Folders, AreSearchedInTheOrderOfNamesWithSmallLettersAsLargeOnes) {
     folder.write("D", "");
     EXPECT_EQ(found("*"), "../ A b/ c! D");
     makeWritable(folder.windows("c"));
+}
+
+TEST_F(Folders, AreSearchedInTheOrderOfNamesInCapitals) {
+    // After "Z" come "[", "^", "_"; before "A" the digits, and before these "-".
+    for (const char* const name : {"_b", "^c", "[d", "za", "Ye", "0f", "9g", "-h"}) {
+        folder.write(name, "");
+    }
+    EXPECT_EQ(found("*"), "../ -h 0f 9g Ye za [d ^c _b");
+}
+
+TEST_F(Folders, AreSearchedWithAnUnderscoreAfterTheLetters) {
+    fs::create_directory(folder.path() / "screens");
+    folder.write("screen_001.png", "");
+    folder.write("helpdesk.zip", "");
+    folder.write("SystemInfo.txt", "");
+    EXPECT_EQ(found("*"), "../ helpdesk.zip screens/ screen_001.png SystemInfo.txt");
+}
+
+TEST_F(Folders, AreSearchedWithLettersBeyondAsciiInCapitals) {
+    // In capitals C8 E9 -> C9, 10D -> 10C, 44F -> 42F. The dotless i and the micro sign stay.
+    const std::u16string names[] = {u"\u00C8", u"\u00E9", u"\u010D",  u"\u0131",
+                                    u"\u044F", u"\u00B5", u"\u0416x", u"z"};
+    for (const std::u16string& name : names) {
+        folder.write(fs::path(name), "");
+    }
+    EXPECT_EQ(wideFound(u"*"),
+              (std::vector<std::u16string>{u"..", u"z", u"\u00B5", u"\u00C8", u"\u00E9", u"\u010D",
+                                           u"\u0131", u"\u0416x", u"\u044F"}));
+}
+
+TEST_F(Folders, AreSearchedForALetterBeyondAsciiInEitherCase) {
+    folder.write(fs::path(u"\u010Da"), "");
+    folder.write(fs::path(u"\u010CB"), "");
+    EXPECT_EQ(wideFound(u"\u010C*"), std::vector<std::u16string>{u"\u010CB"});
 }
 
 TEST_F(Folders, AreSearchedForTheBeginningOfANameWithoutTheFirst) {

@@ -72,23 +72,50 @@ TEST_F(PosixFolders, ANameBeyondSixteenBitsIsUnderstoodOnTheWayBack) {
     EXPECT_EQ(folder.count(), 0);
 }
 
-TEST_F(PosixFolders, ALinkIsAFileAndItsTargetStays) {
+TEST_F(PosixFolders, ALinkToAFolderIsRemovedAsAFolderAndItsTargetStays) {
     const test_support::TemporaryFolder other;
     other.write("kept", "x");
     fs::create_directory_symlink(other.path(), folder.path() / "link");
     const auto found = onlyEntry();
     ASSERT_TRUE(found);
-    EXPECT_FALSE(found->isDirectory);
-    EXPECT_TRUE(deleteFile(wide(found->name)));
+    EXPECT_TRUE(found->isDirectory);
+    EXPECT_FALSE(deleteFile(wide(found->name)));
+    EXPECT_TRUE(removeDirectory(wide(found->name + u"\\")));
     EXPECT_EQ(folder.count(), 0);
     EXPECT_EQ(other.read("kept"), "x");
 }
 
-TEST_F(PosixFolders, AFolderReachedThroughALinkIsNotSearched) {
+TEST_F(PosixFolders, ALinkToAFileIsDeletedAsAFileAndItsTargetStays) {
     const test_support::TemporaryFolder other;
     other.write("kept", "x");
+    fs::create_symlink(other.path() / "kept", folder.path() / "link");
+    const auto found = onlyEntry();
+    ASSERT_TRUE(found);
+    EXPECT_FALSE(found->isDirectory);
+    EXPECT_FALSE(removeDirectory(wide(found->name)));
+    EXPECT_TRUE(deleteFile(wide(found->name)));
+    EXPECT_EQ(other.read("kept"), "x");
+}
+
+TEST_F(PosixFolders, ALinkToNothingIsDeletedAsAFile) {
+    fs::create_symlink(folder.path() / "missing", folder.path() / "link");
+    const auto found = onlyEntry();
+    ASSERT_TRUE(found);
+    EXPECT_FALSE(found->isDirectory);
+    EXPECT_TRUE(deleteFile(wide(found->name)));
+    EXPECT_EQ(folder.count(), 0);
+}
+
+TEST_F(PosixFolders, AFolderReachedThroughALinkIsSearched) {
+    const test_support::TemporaryFolder other;
+    other.write("there", "x");
     fs::create_directory_symlink(other.path(), folder.path() / "link");
-    EXPECT_FALSE(FolderSearch(wide(u"link\\*")));
+    FolderSearch search(wide(u"link\\*"));
+    ASSERT_TRUE(search);
+    static_cast<void>(search.next());
+    const auto found = search.next();
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->name, u"there");
 }
 
 TEST_F(PosixFolders, TheTargetOfALinkIsNotMadeWritable) {
