@@ -18,7 +18,8 @@ int parseInt(const std::string& text);
 /// Leading spaces, a sign, decimal and hexadecimal numbers with an exponent, "inf", "infinity" and
 /// "nan" in any case are read; what follows is ignored. Throws `std::invalid_argument` ("invalid
 /// stod argument") where no number is found, and `std::out_of_range` ("stod argument out of range")
-/// where it is too large for a double, or too small for a normal double.
+/// where it is too large for a double, or so small that a double could only hold it with a loss: a
+/// subnormal double that is spelled exactly is read.
 double parseDouble(const std::string& text);
 
 /// `value` in fixed notation with exactly `decimals` digits after the point, rounded as a stream

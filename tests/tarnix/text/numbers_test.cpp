@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <string>
 #include <tuple>
@@ -73,11 +74,14 @@ INSTANTIATE_TEST_SUITE_P(WithoutADouble, UnreadableNumber,
                                           testing::Values("", "M8", ".", "--1", "+-1", "-+1", "in"),
                                           testing::Values(kInvalidDouble)));
 
-INSTANTIATE_TEST_SUITE_P(BeyondTheRangeOfDouble, UnreadableNumber,
-                         testing::Combine(testing::Values(thrownByDouble),
-                                          testing::Values("1e309", "-1e309", "0x1p1024", "1e-400",
-                                                          "1e-310"),
-                                          testing::Values(kDoubleOutOfRange)));
+INSTANTIATE_TEST_SUITE_P(
+    BeyondTheRangeOfDouble, UnreadableNumber,
+    testing::Combine(testing::Values(thrownByDouble),
+                     testing::Values("1e309", "-1e309", "0x1p1024", "1e-400", "1e-310",
+                                     "0x.8p-1074", "1e99999999999999", "2.22507385850720119e-308",
+                                     "2.22507385850720125e-308", "0x0.fffffffffffffbp-1022",
+                                     "4.9406564584124654e-324"),
+                     testing::Values(kDoubleOutOfRange)));
 
 TEST(ParseDouble, ReadsDecimalNumbers) {
     EXPECT_EQ(parseDouble("12.5"), 12.5);
@@ -86,6 +90,7 @@ TEST(ParseDouble, ReadsDecimalNumbers) {
     EXPECT_EQ(parseDouble("-0.25e2"), -25);
     EXPECT_EQ(parseDouble("1E-1x"), 0.1);
     EXPECT_EQ(parseDouble("0e9999"), 0);
+    EXPECT_EQ(parseDouble("0x0p99999999999999999999"), 0);
 }
 
 TEST(ParseDouble, SkipsLeadingSpacesAndTakesASign) {
@@ -105,6 +110,31 @@ TEST(ParseDouble, ReadsHexadecimalNumbers) {
     EXPECT_EQ(parseDouble("0x1A"), 26);
     EXPECT_EQ(parseDouble("-0X.8p1"), -1);
     EXPECT_EQ(parseDouble("+0x1p-2z"), 0.25);
+}
+
+TEST(ParseDouble, ReadsASubnormalNumberThatIsSpelledExactly) {
+    EXPECT_EQ(parseDouble("0x1p-1074"), std::numeric_limits<double>::denorm_min());
+    EXPECT_EQ(parseDouble("0x0.fffffffffffffp-1022"), std::nextafter(0x1p-1022, 0));
+    EXPECT_EQ(parseDouble("0x0.30p-1070"), 0x3p-1074);
+    std::string half(1100, '\0');
+    half.resize(static_cast<std::size_t>(
+        std::snprintf(half.data(), half.size(), "%.1080f", std::ldexp(1, -1060))));
+    EXPECT_EQ(parseDouble(half), std::ldexp(1, -1060));
+    half.back() = '1';
+    EXPECT_EQ(thrownByDouble(half), kDoubleOutOfRange);
+}
+
+// What 53 bits hold as the smallest normal number is that, be it spelled a little smaller.
+TEST(ParseDouble, ReadsWhatRoundsToTheSmallestNormalNumber) {
+    EXPECT_EQ(parseDouble("0x0.fffffffffffffcp-1022"), 0x1p-1022);
+    EXPECT_EQ(parseDouble("2.2250738585072013e-308"), 0x1p-1022);
+}
+
+TEST(ParseDouble, LeavesAloneAnExponentWithoutDigits) {
+    EXPECT_EQ(parseDouble("0x1p+-6"), 1);
+    EXPECT_EQ(parseDouble("1e+-6"), 1);
+    EXPECT_EQ(parseDouble("0x1p"), 1);
+    EXPECT_EQ(parseDouble("0x1p--1"), 1);
 }
 
 TEST(ParseDouble, ReadsTheZeroOfAPrefixWithoutDigits) {
