@@ -66,7 +66,6 @@ void readRow(std::string& line, const Ptr<TableCommandInput>& table, int row, in
             appendField(line, table->getInputAtPosition(row, column));
         }
     }
-    line += '\n';
 }
 
 }  // namespace
@@ -101,14 +100,13 @@ void writeBomCsv(std::string path, Ptr<TableCommandInput> table) {
     for (int row = 0; row < rowCount; ++row) {
         const Ptr<CommandInput> first = table->getInputAtPosition(row, kIconColumn);
         if (first && first->isVisible()) {
-            // Not handed to the system line by line, which takes too long for a large table. What
-            // is thrown closes the file, and the lines so far are in it; a process that is killed
-            // meanwhile loses those that were not handed over yet.
             readRow(line, table, row, lastColumn);
             file.write(line);
+            // Line by line, at the cost of speed: a host that dies leaves whole lines.
+            file.endLine();
         }
     }
-    file.write("\n");
+    file.endLine();
     const Ptr<StringValueCommandInput> totalMass =
         table->parentCommandInput()->commandInputs()->itemById(idAllMass);
     file.write(";Total mass of structure BOM [kg]: ;" + totalMass->value());

@@ -18,7 +18,8 @@ bool exportBom(adsk::core::Ptr<adsk::core::InputChangedEventArgs> eventArgs);
 /// Writes the visible rows of `table` after what the file at `path` holds: fields end in ";" and
 /// nothing is quoted, lines end in CR LF, and the last line has the total mass.
 ///
-/// What is thrown leaves the lines so far in the file.
+/// Each line is passed to the system as it ends: what is thrown, and a process that dies, leave the
+/// lines so far in the file.
 void writeBomCsv(std::string path, adsk::core::Ptr<adsk::core::TableCommandInput> table);
 
 }  // namespace tarnix
