@@ -34,7 +34,8 @@ struct WindowOnScreen {
     ScreenArea inside;
 };
 
-/// The window with exactly this title (UTF-8). Where there is none, 0 and an area of zeros.
+/// The foremost window with exactly this title (UTF-8), large and small letters being the same.
+/// Where there is none, 0 and an area of zeros.
 WindowOnScreen findWindow(const std::string& title);
 
 /// A picture of a part of the screen, without the mouse cursor. What lies beyond the monitors is
@@ -47,8 +48,8 @@ public:
     ScreenPicture& operator=(const ScreenPicture&) = delete;
     ~ScreenPicture();
 
-    /// False where no picture could be taken: without a screen, or of an area without a width
-    /// or height.
+    /// False where no picture could be taken: without a screen, or of an area without a width or
+    /// height, such as that of a window that is not there or has been reduced to an icon.
     explicit operator bool() const { return state_ != nullptr; }
 
     /// Writes the picture into a PNG file, replacing one that is there. The path is in the

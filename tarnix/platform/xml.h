@@ -12,7 +12,8 @@
 /// no XML document can hold are left out of a value or a text that is set.
 ///
 /// Documents are read without their white space: a text of spaces, tabs and line ends alone is not
-/// a node, and `text` does not begin or end with any. A document type declaration is refused, and
+/// a node, and `text` does not begin or end with any. In an element with xml:space="preserve" both
+/// stay, down to one with another value of it. A document type declaration is refused, and
 /// nothing but the file itself is ever read.
 namespace tarnix::platform {
 

@@ -1,4 +1,6 @@
 #include "tarnix/platform/native.h"
+#include "tarnix/platform/posix/capitals.h"
+#include "tarnix/platform/posix/wide_text.h"
 #include "tarnix/platform/posix/x11.h"
 
 #include <string_view>
@@ -40,10 +42,13 @@ std::string titleOf(const Display& display, xcb_window_t window, xcb_atom_t utf8
     return title.empty() ? textOf(display, window, XCB_ATOM_WM_NAME) : title;
 }
 
+/// A title as titles are compared.
+std::u16string comparable(const std::string& title) { return inCapitals(wideName(title)); }
+
 /// The first window with this title at or below `window`, the uppermost first; 0 for none. Window
 /// managers put the windows of programs into windows of their own.
 xcb_window_t findBelow(const Display& display, xcb_window_t window, xcb_atom_t utf8Title,
-                       const std::string& title, int levels) {
+                       const std::u16string& title, int levels) {
     const auto cookie = ::xcb_query_tree(display.connection(), window);
     const Owned<xcb_query_tree_reply_t> tree(
         ::xcb_query_tree_reply(display.connection(), cookie, nullptr));
@@ -52,7 +57,7 @@ xcb_window_t findBelow(const Display& display, xcb_window_t window, xcb_atom_t u
     }
     const xcb_window_t* const children = ::xcb_query_tree_children(tree.get());
     for (int i = ::xcb_query_tree_children_length(tree.get()) - 1; i >= 0; --i) {
-        if (titleOf(display, children[i], utf8Title) == title) {
+        if (comparable(titleOf(display, children[i], utf8Title)) == title) {
             return children[i];
         }
         const xcb_window_t inside =
@@ -123,8 +128,8 @@ WindowOnScreen findWindow(const std::string& title) {
         return {};
     }
     constexpr int kLevels = 3;
-    const xcb_window_t window =
-        findBelow(display, display.screen().root, atom(display, "_NET_WM_NAME"), title, kLevels);
+    const xcb_window_t window = findBelow(
+        display, display.screen().root, atom(display, "_NET_WM_NAME"), comparable(title), kLevels);
     return window != 0 ? WindowOnScreen{.handle = window, .inside = insideOf(display, window)}
                        : WindowOnScreen();
 }

@@ -52,18 +52,19 @@ bool isInside(const Body* inner, const Body& outer) {
     return inner != nullptr;
 }
 
-/// The texts below a node, and how much white space at the ends belongs to texts and not to
-/// character data, whose own stays.
+/// The texts below a node, and how much white space at the ends belongs to texts where it does not
+/// count, and not to others or to character data, whose own stays.
 struct Gathered {
     std::string text;
-    std::size_t keptFront = std::string::npos;  ///< where the first character data begins
-    std::size_t keptEnd = 0;                    ///< where the last one ends
+    std::size_t keptFront = std::string::npos;  ///< where the first that stays whole begins
+    std::size_t keptEnd = 0;                    ///< where the last such ends
 };
 
 void gather(const Body& body, Gathered& gathered) {
-    if (body.kind == XmlKind::Text) {
+    const bool isText = body.kind == XmlKind::Text;
+    if (isText && !preservesSpace(body.parent)) {
         gathered.text += body.value;
-    } else if (body.kind == XmlKind::CharacterData) {
+    } else if (isText || body.kind == XmlKind::CharacterData) {
         gathered.keptFront = std::min(gathered.keptFront, gathered.text.size());
         gathered.text += body.value;
         gathered.keptEnd = gathered.text.size();

@@ -40,6 +40,18 @@ struct XmlNode::Body {
     Body* parent = nullptr;
 };
 
+/// Whether white space counts inside an element: what the nearest "xml:space" around it says.
+inline bool preservesSpace(const XmlNode::Body* element) {
+    for (; element != nullptr; element = element->parent) {
+        for (const auto& attribute : element->attributes) {
+            if (attribute->name == "xml:space") {
+                return attribute->value == "preserve";
+            }
+        }
+    }
+    return false;
+}
+
 /// Adds a node that has no parent after all children.
 inline void adopt(XmlNode::Body& parent, std::shared_ptr<XmlNode::Body> child) {
     parent.children.push_back(std::move(child));

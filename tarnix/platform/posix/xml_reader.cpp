@@ -127,9 +127,11 @@ private:
         current_ = current_->parent;
     }
 
-    /// Adds the text that has been reported in pieces, unless it is white space alone.
+    /// Adds the text that has been reported in pieces, unless it is white space alone that does not
+    /// count.
     void addText() {
-        if (text_.find_first_not_of(kXmlBlanks) != std::string::npos) {
+        if (text_.find_first_not_of(kXmlBlanks) != std::string::npos ||
+            (!text_.empty() && preservesSpace(current_))) {
             adopt(*current_, std::make_shared<Body>(XmlKind::Text, "#text", text_));
         }
         text_.clear();

@@ -156,6 +156,14 @@ TEST_F(WindowCapture, IsOfTheInsideOfTheHostsWindow) {
     EXPECT_TRUE(host::system_overrides::sleeps().empty());
 }
 
+TEST_F(WindowCapture, FindsTheHostsWindowInLargeAndSmallLetters) {
+    const PatternWindow window("AUTODESK fusion 360", 120, 80, 200, 100);
+    press("captureFusion");
+    EXPECT_EQ(picture().width, 200);
+    EXPECT_EQ(picture().height, 100);
+    EXPECT_EQ(uncaughtExceptions(), "");
+}
+
 TEST_F(WindowCapture, PassesOverAWindowWithALongerTitle) {
     const PatternWindow window(std::string(kHostTitle) + " (Personal)", 120, 80, 200, 100);
     press("captureFusion");

@@ -63,6 +63,24 @@ TEST_F(XmlLoad, TextsOfWhiteSpaceAloneAreDropped) {
     EXPECT_FALSE(root.firstChild().firstChild());
 }
 
+TEST_F(XmlLoad, TextsOfWhiteSpaceStayWhereTheDocumentPreservesThem) {
+    const XmlNode root = read("<r xml:space='preserve'> <a>\t</a></r>");
+    ASSERT_EQ(root.childNodes().length(), 2);
+    EXPECT_EQ(root.firstChild().nodeValue(), " ");
+    EXPECT_EQ(root.childNodes().item(1).firstChild().nodeValue(), "\t");
+}
+
+TEST_F(XmlLoad, TextKeepsItsEndsWhereTheDocumentPreservesThem) {
+    const XmlNode root = read("<r><a xml:space='preserve'> x </a><b> y </b></r>");
+    EXPECT_EQ(root.firstChild().text(), " x ");
+    EXPECT_EQ(root.childNodes().item(1).text(), "y");
+}
+
+TEST_F(XmlLoad, WhiteSpaceGoesAgainInsideAnElementOfTheDefault) {
+    const XmlNode root = read("<r xml:space='preserve'><a xml:space='default'> <b/> </a></r>");
+    EXPECT_EQ(root.firstChild().childNodes().length(), 1);
+}
+
 TEST_F(XmlLoad, EscapedCharactersComeOutAsTheyAre) {
     const XmlNode root = read("<r a='&lt;&amp;&gt;&quot;&apos;&#233;'>&lt;&amp;&gt;&#x10D;</r>");
     EXPECT_EQ(root.attributes().item(0).nodeValue(), "<&>\"'\xC3\xA9");
