@@ -1,5 +1,7 @@
 #pragma once
 
+#include <StandIn/Process.h>
+
 #include <string>
 #include <vector>
 
@@ -23,5 +25,8 @@ void setPolicy(Policy policy);
 /// The targets since the host started, as the module spelt them, oldest first. Throws a
 /// `MisuseError` without a host.
 const std::vector<std::string>& recorded();
+
+/// What each of these is. Throws a `MisuseError` without a host.
+const std::vector<StandInTarget>& recordedKinds();
 
 }  // namespace host::shell_requests

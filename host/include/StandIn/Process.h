@@ -15,10 +15,17 @@ enum class StandInAnswer : int {
     Failed = 2,      ///< handled: the module sees the failure that the system would report
 };
 
-/// The module opens a file or a web address with the shell. `target` is the string that the
-/// system's shell would receive, in the system's 8-bit code page; paths have backslashes on every
+/// What a module opens, which decides how Windows is asked.
+enum class StandInTarget : int {
+    File = 0,     ///< a string in the system's 8-bit code page, with the verb "open"
+    Folder = 1,   ///< in the code page of the thread's language, without a verb
+    Address = 2,  ///< in the code page of the thread's language, with the verb "open"
+};
+
+/// The module opens a file, a folder or a web address with the shell. `target` is the string that
+/// the system's shell would receive, in the code page of its kind; paths have backslashes on every
 /// system.
-StandInAnswer standin_openWithShell(const char* target);
+StandInAnswer standin_openWithShell(const char* target, StandInTarget kind);
 
 /// The module sleeps. `Done`: it has waited for as long as the process chooses.
 StandInAnswer standin_sleep(int milliseconds);

@@ -23,6 +23,8 @@ TEST_F(SupportFolder, OpenedTwiceIsMadeOnceAndOpenedTwice) {
     EXPECT_TRUE(has("screen_001.png"));
     EXPECT_EQ(session->openedByShell(),
               (std::vector<std::string>{supportFolderText(), supportFolderText()}));
+    EXPECT_EQ(host::shell_requests::recordedKinds(),
+              (std::vector<StandInTarget>{StandInTarget::Folder, StandInTarget::Folder}));
     EXPECT_EQ(uncaughtExceptions(), "");
 }
 

@@ -45,6 +45,8 @@ protected:
 TEST_F(SupportProvider, IsTheDefaultOneAtFirst) {
     press("openHelpdesk");
     EXPECT_EQ(opened(), std::vector<std::string>{"http://helpdesk.tarnix.example/"});
+    EXPECT_EQ(host::shell_requests::recordedKinds(),
+              std::vector<StandInTarget>{StandInTarget::Address});
     EXPECT_EQ(shownMessages(), "");
     EXPECT_EQ(uncaughtExceptions(), "");
 }

@@ -9,12 +9,14 @@ namespace {
 
 StandInAnswer answer = StandInAnswer::NotHandled;
 std::vector<std::string> asked;
+std::vector<StandInTarget> kinds;
 
 }  // namespace
 
 // What a stand-in process exports to the modules that it loads.
-extern "C" XI_EXPORT StandInAnswer standin_openWithShell(const char* target) {
+extern "C" XI_EXPORT StandInAnswer standin_openWithShell(const char* target, StandInTarget kind) {
     asked.emplace_back(target);
+    kinds.push_back(kind);
     return answer;
 }
 
@@ -23,7 +25,10 @@ namespace {
 
 class HostedShell : public Shell {
 protected:
-    HostedShell() { asked.clear(); }
+    HostedShell() {
+        asked.clear();
+        kinds.clear();
+    }
     ~HostedShell() override { answer = StandInAnswer::NotHandled; }
 };
 
@@ -31,6 +36,15 @@ TEST_F(HostedShell, ProcessIsAskedWithTheStringUnchanged) {
     answer = StandInAnswer::Done;
     EXPECT_TRUE(openWithShell("C:\\a b\\caf\xE9.xlsm"));
     EXPECT_EQ(asked, std::vector<std::string>{"C:\\a b\\caf\xE9.xlsm"});
+}
+
+TEST_F(HostedShell, ProcessIsAskedForEachKind) {
+    answer = StandInAnswer::Done;
+    openWithShell("C:\\a.pdf");
+    openWithShell("C:\\Helpdesk\\", ShellTarget::Folder);
+    openWithShell("http://a.example/", ShellTarget::Address);
+    EXPECT_EQ(kinds, (std::vector<StandInTarget>{StandInTarget::File, StandInTarget::Folder,
+                                                 StandInTarget::Address}));
 }
 
 TEST_F(HostedShell, SystemIsNotAskedForWhatTheProcessHasDone) {

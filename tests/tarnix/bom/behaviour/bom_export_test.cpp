@@ -288,6 +288,8 @@ TEST_F(BomExport, OpensTheWorkbookBesideTheModule) {
     exportBom();
 
     ASSERT_EQ(session->openedByShell().size(), 1U);
+    EXPECT_EQ(host::shell_requests::recordedKinds(),
+              std::vector<StandInTarget>{StandInTarget::File});
     const std::string opened = session->openedByShell().front();
     EXPECT_EQ(opened.substr(opened.rfind('\\')), "\\TarnixBOM.xlsm");
 }
