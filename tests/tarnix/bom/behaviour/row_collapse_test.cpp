@@ -205,6 +205,22 @@ TEST_F(RowCollapse, KeepsFoldedRowsOutOfTheExport) {
     EXPECT_EQ(csv().find(";Leg;"), std::string::npos);
 }
 
+TEST_F(RowCollapse, OutlastsAChangeOfTab) {
+    click(kFrame);
+    click(kLegAssembly);
+    click(kLegAssembly);
+
+    showStructure();
+    showModel();
+
+    EXPECT_TRUE(shows(kLegAssembly));
+    EXPECT_FALSE(shows(kLeg));
+    EXPECT_TRUE(shows(kFoot));
+    EXPECT_FALSE(shows(kLid));
+    EXPECT_EQ(icon(kLegAssembly), "ColapseAsm");
+    EXPECT_EQ(uncaughtExceptions(), "");
+}
+
 TEST_F(RowCollapse, OfTheStructureTablesHeaderDoesNothing) {
     showStructure();
     const std::string before = shownTable();

@@ -119,6 +119,21 @@ TEST_F(StructureSort, OfATextThatIsNoNumberThrowsAndMovesNothing) {
     EXPECT_EQ(lines(), "1 2");
 }
 
+TEST_F(StructureSort, OfANumberOutOfRangeThrowsAndMovesNothing) {
+    configure({"QEMA_Size;Size"});
+    open(R"(
+        One  property=Size/2
+        Two  property=Size/1e400)");
+    showStructure();
+    const std::string before = shownTable();
+
+    sortBy("QEMA_Size_0", "Descending");
+
+    EXPECT_EQ(uncaughtExceptions(),
+              "std::out_of_range: stod argument out of range in OnInputChanged of QEMA_Size_0");
+    EXPECT_EQ(shownTable(), before);
+}
+
 TEST_F(StructureSort, OfTheStructureGoesByTheChosenName) {
     showRows({"structure=Produce", "structure=Buy", "structure=AsPart"});
 

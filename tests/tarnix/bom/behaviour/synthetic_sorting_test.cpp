@@ -1,5 +1,6 @@
 #include "tarnix/bom/behaviour/structure_sort.h"
 
+#include "tests/support/thrown.h"
 #include "tests/tarnix/bom/behaviour/synthetic_table.h"
 
 #include <gtest/gtest.h>
@@ -85,6 +86,18 @@ TEST_F(SyntheticSorting, ByANumberLeavesARowWithAnImageWhereItIs) {
                                    {.kind = Kind::Image, .content = "10.png"}});
 
     EXPECT_EQ(ids(kNumberColumn), "cell_3 cell_2 cell_1");
+}
+
+TEST_F(SyntheticSorting, ByAPositionThatIsNoNumberThrowsAndMovesNothing) {
+    constexpr int kPositionColumn = 1;
+
+    EXPECT_EQ(thrownBy([&] {
+                  sortDescending(kPositionColumn, {{.kind = Kind::Text, .content = "2"},
+                                                   {.kind = Kind::Text, .content = "first"},
+                                                   {.kind = Kind::Text, .content = "3"}});
+              }),
+              "invalid_argument: invalid stod argument");
+    EXPECT_EQ(ids(kPositionColumn), "cell_1 cell_2 cell_3");
 }
 
 TEST_F(SyntheticSorting, ByAColumnOfImagesAloneMovesNothing) {
