@@ -3,9 +3,12 @@ add_library(project_flags INTERFACE)
 target_include_directories(project_flags INTERFACE ${PROJECT_SOURCE_DIR})
 
 if(MSVC)
-    # Exceptions leave the exported functions, so /EHs and not /EHsc.
-    target_compile_options(project_flags INTERFACE /W4 /EHs /utf-8 /permissive-)
-    target_compile_definitions(project_flags INTERFACE NOMINMAX UNICODE _UNICODE)
+    # Exceptions leave the exported functions, so /EHs and not /EHsc. What is included in angle brackets
+    # is the system's (gdiplus.h has warnings at /W4) or the vendor's, and not ours to mend.
+    target_compile_options(project_flags INTERFACE /W4 /EHs /utf-8 /permissive-
+                                                   /external:anglebrackets /external:W0)
+    # The last one: `_wfopen` is deprecated there in favour of a function of MSVC's own.
+    target_compile_definitions(project_flags INTERFACE NOMINMAX UNICODE _UNICODE _CRT_SECURE_NO_WARNINGS)
 else()
     target_compile_options(project_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                                                    -Wnon-virtual-dtor -Woverloaded-virtual)
