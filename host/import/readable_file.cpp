@@ -28,7 +28,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kBlock = std::size_t{1} << 20;
 
-[[noreturn]] void refuse(const std::string& shown, const std::string& reason) {
+[[noreturn]] void refuseRead(const std::string& shown, const std::string& reason) {
     throw ImportError(shown + ": " + reason);
 }
 
@@ -67,7 +67,7 @@ void waitForInput(int input, const std::string& shown, double seconds) {
         ready = ::poll(&waiting, 1, static_cast<int>(wait));
     } while (ready < 0 && errno == EINTR);
     if (ready == 0) {
-        refuse(shown,
+        refuseRead(shown,
                "nothing came for as long as reading may take; write a file to it, or "
                "increase the limit");
     }
@@ -84,7 +84,7 @@ void copyStream(int input, PrivateCopy& copy, const std::string& shown, double s
         if (count > 0) {
             copy.append(block.get(), static_cast<std::size_t>(count));
         } else if (errno != EINTR && errno != EAGAIN) {
-            refuse(shown, "cannot be read (" + std::generic_category().message(errno) + ")");
+            refuseRead(shown, "cannot be read (" + std::generic_category().message(errno) + ")");
         }
     }
     copy.finish();
@@ -93,7 +93,7 @@ void copyStream(int input, PrivateCopy& copy, const std::string& shown, double s
 ReadableFile copyOfStream(int input, const std::string& name, const std::string& shown,
                           const ReadingLimits& limits) {
     if (::isatty(input) != 0) {
-        refuse(shown, "is a terminal; redirect a file or a pipe to it");
+        refuseRead(shown, "is a terminal; redirect a file or a pipe to it");
     }
     auto copy = std::make_shared<PrivateCopy>(name, shown, bytesAllowed(limits));
     copyStream(input, *copy, shown, limits.seconds);
@@ -109,7 +109,7 @@ ReadableFile copyOfStream(int input, const std::string& name, const std::string&
 ReadableFile copyOfPipe(const fs::path& file, const ReadingLimits& limits) {
     const Input input(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (input.get() < 0) {
-        refuse(toUtf8(file), "cannot be read (" + std::generic_category().message(errno) + ")");
+        refuseRead(toUtf8(file), "cannot be read (" + std::generic_category().message(errno) + ")");
     }
     return copyOfStream(input.get(), toUtf8(file.filename()), toUtf8(file), limits);
 }
@@ -135,7 +135,7 @@ void unpack(const fs::path& packed, PrivateCopy& copy, const std::string& shown)
         ::gzerror(file.get(), &error);
     }
     if (count < 0 || error != Z_OK) {
-        refuse(shown, "cannot be unpacked: the archive is cut off or damaged; pack it again");
+        refuseRead(shown, "cannot be unpacked: the archive is cut off or damaged; pack it again");
     }
     copy.finish();
 }
@@ -181,7 +181,7 @@ ReadableFile byKind(const fs::path& file, const ReadingLimits& limits) {
     }
     if (kind == fs::file_type::character || kind == fs::file_type::block ||
         kind == fs::file_type::socket) {
-        refuse(toUtf8(file), "is no ordinary file; the path of a STEP file is needed");
+        refuseRead(toUtf8(file), "is no ordinary file; the path of a STEP file is needed");
     }
     // What is missing, or may not be read, is reported by what opens it.
     return ordinary(file);
@@ -196,7 +196,7 @@ ReadableFile makeReadable(const fs::path& file, const ReadingLimits& limits) {
         return readable;
     }
     if (beginsWith(readable.path, "PK\x03\x04")) {
-        refuse(readable.shown, "is a ZIP archive; unpack it, and open the file that was in it");
+        refuseRead(readable.shown, "is a ZIP archive; unpack it, and open the file that was in it");
     }
     return beginsWith(readable.path, "\x1F\x8B") ? unpacked(readable, limits) : readable;
 }

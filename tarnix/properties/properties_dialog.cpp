@@ -18,7 +18,7 @@ int addedRowCounter = 15095;
 namespace {
 
 using namespace property_inputs;
-using Entries = std::vector<std::string>;
+using Texts = std::vector<std::string>;
 
 /// A button of the BOM structure: its caption is a property's key too.
 struct StructureButton {
@@ -105,7 +105,7 @@ bool addProperties(const Ptr<CommandInputs>& inputs, const Ptr<CommandInputs>& t
 
 /// A line for each entry of the settings. False where the host makes no group; one that cannot be
 /// filled throws as soon as there is an entry.
-bool addCustomProperties(const Ptr<CommandInputs>& tab, const Entries& entries) {
+bool addCustomProperties(const Ptr<CommandInputs>& tab, const Texts& entries) {
     const Ptr<GroupCommandInput> group = addGroup(tab, kCustomProperties, "Custom Properties");
     if (!group) {
         return false;
@@ -123,7 +123,7 @@ void addToolbarButton(const Ptr<CommandInputs>& tab, const Ptr<TableCommandInput
         tab->addBoolValueInput(id, name, /*isCheckBox=*/false, "", /*initialValue=*/true));
 }
 
-void addPropertyList(const Ptr<CommandInputs>& tab, const Entries& entries) {
+void addPropertyList(const Ptr<CommandInputs>& tab, const Texts& entries) {
     tab->addTextBoxCommandInput("tableDescrb", "", kTableDescription, 1, /*isReadOnly=*/true);
     const Ptr<TableCommandInput> table = tab->addTableCommandInput(kTable, "Property", 1, "1");
     tab->addTextBoxCommandInput(kMessage, "", kSaveNotice, 4, /*isReadOnly=*/true);
@@ -150,7 +150,7 @@ void buildPropertiesDialog(Ptr<CommandInputs> inputs) {
     if (!addProperties(inputs, children)) {
         return;
     }
-    const Entries entries = readCategoryItems("category", "iProperty");
+    const Texts entries = readCategoryItems("category", "iProperty");
     if (!addCustomProperties(children, entries)) {
         return;
     }

@@ -23,7 +23,7 @@
 namespace workbench {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kInputsHelp =
     "--set takes a text for a text field, an item for a list, true or false for a check box,\n"
     "click for a button, the path of a component for a selection, a row number for a table, and\n"
     "expanded or collapsed for a group. INPUT is an id, or TABLE[ROW,COLUMN] for a cell.\n"
@@ -131,7 +131,7 @@ void addDialogCommand(CLI::App& program) {
     addFormat(command, options.format, {"text", "json"});
     addAddin(command, options.addin);
     addReading(command, options.reading);
-    command.footer(kFooter);
+    command.footer(kInputsHelp);
 }
 
 }  // namespace workbench

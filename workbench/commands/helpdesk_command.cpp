@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kFooter =
+constexpr const char* kActionsHelp =
     "Actions:\n"
     "  open            make the support folder, and ask to open it\n"
     "  capture-screen  save a picture of the screen in it\n"
@@ -133,7 +133,7 @@ void addHelpdeskCommand(CLI::App& program) {
                      "Use your own support folder, not that of the workbench");
     command.add_flag("--open", options.open, "Let the add-in open files and addresses");
     addAddin(command, options.addin);
-    command.footer(kFooter);
+    command.footer(kActionsHelp);
 }
 
 }  // namespace workbench

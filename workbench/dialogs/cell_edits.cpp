@@ -121,7 +121,8 @@ EditedTable editCells(host::Session& session, const BomTab& tab, const EditReque
         lookUp(cells, *request.list, table.cells);
     }
     std::vector<EditedCell> inOrder = table.cells;
-    std::ranges::stable_partition(inOrder, [](const EditedCell& each) { return !hidesRows(each); });
+    std::stable_partition(inOrder.begin(), inOrder.end(),
+                          [](const EditedCell& each) { return !hidesRows(each); });
     for (const EditedCell& edit : inOrder) {
         const std::size_t since = session.uncaughtExceptions().size();
         apply(cells, edit);

@@ -27,7 +27,7 @@ std::vector<DialogResults> buttonsOf(MessageBoxButtonTypes type) {
     }
 }
 
-DialogResults answerOf(const Message& message, DialogResults first, ui::MessageLog& log) {
+DialogResults boxAnswer(const Message& message, DialogResults first, ui::MessageLog& log) {
     if (!log.answers.empty()) {
         const DialogResults answer = log.answers.front();
         log.answers.pop_front();
@@ -46,7 +46,7 @@ DialogResults showMessage(Message message) {
     const std::vector<DialogResults> buttons = buttonsOf(message.buttons);
     auto* log = HostState::currentPart<MessageLog>();
     if (log == nullptr) return buttons.front();
-    message.answer = answerOf(message, buttons.front(), *log);
+    message.answer = boxAnswer(message, buttons.front(), *log);
     if (std::find(buttons.begin(), buttons.end(), message.answer) == buttons.end()) {
         // An exception thrown from here would end in the module that waits for the answer.
         misuse("UserInterface::messageBox", "the message \"" + message.text +
