@@ -38,6 +38,13 @@ core::Ptr<T> CommandInputsObject::append(const std::string& id, const std::strin
     return input;
 }
 
+template <CallName Name, class T, class... Arguments>
+core::Ptr<T> CommandInputsObject::add(const std::string& id, const std::string& name,
+                                      const Arguments&... arguments) {
+    if (closed<Name>(*this)) return {};
+    return append<T>(id, name, arguments...);
+}
+
 std::size_t CommandInputsObject::count() const {
     if (closed<"count">(*this)) return {};
     return members_.count();
@@ -62,27 +69,25 @@ core::Ptr<core::Command> CommandInputsObject::command() const {
 core::Ptr<core::BoolValueCommandInput> CommandInputsObject::addBoolValueInput(
     const std::string& id, const std::string& name, bool isCheckBox,
     const std::string& resourceFolder, bool initialValue) {
-    if (closed<"addBoolValueInput">(*this)) return {};
-    return append<BoolValueCommandInputObject>(id, name, isCheckBox, resourceFolder, initialValue);
+    return add<"addBoolValueInput", BoolValueCommandInputObject>(id, name, isCheckBox,
+                                                                 resourceFolder, initialValue);
 }
 
 core::Ptr<core::StringValueCommandInput> CommandInputsObject::addStringValueInput(
     const std::string& id, const std::string& name, const std::string& initialValue) {
-    if (closed<"addStringValueInput">(*this)) return {};
-    return append<StringValueCommandInputObject>(id, name, initialValue);
+    return add<"addStringValueInput", StringValueCommandInputObject>(id, name, initialValue);
 }
 
 core::Ptr<core::DropDownCommandInput> CommandInputsObject::addDropDownCommandInput(
     const std::string& id, const std::string& name, core::DropDownStyles dropDownStyle) {
-    if (closed<"addDropDownCommandInput">(*this)) return {};
-    return append<DropDownCommandInputObject>(id, name, dropDownStyle);
+    return add<"addDropDownCommandInput", DropDownCommandInputObject>(id, name, dropDownStyle);
 }
 
 core::Ptr<core::TableCommandInput> CommandInputsObject::addTableCommandInput(
     const std::string& id, const std::string& name, int numberOfColumns,
     const std::string& columnRatio) {
-    if (closed<"addTableCommandInput">(*this)) return {};
-    return append<TableCommandInputObject>(id, name, numberOfColumns, columnRatio);
+    return add<"addTableCommandInput", TableCommandInputObject>(id, name, numberOfColumns,
+                                                                columnRatio);
 }
 
 core::Ptr<core::TabCommandInput> CommandInputsObject::addTabCommandInput(
@@ -102,39 +107,35 @@ core::Ptr<core::TabCommandInput> CommandInputsObject::addTabCommandInput(
 
 core::Ptr<core::GroupCommandInput> CommandInputsObject::addGroupCommandInput(
     const std::string& id, const std::string& name) {
-    if (closed<"addGroupCommandInput">(*this)) return {};
-    return append<GroupCommandInputObject>(id, name);
+    return add<"addGroupCommandInput", GroupCommandInputObject>(id, name);
 }
 
 core::Ptr<core::ButtonRowCommandInput> CommandInputsObject::addButtonRowCommandInput(
     const std::string& id, const std::string& name, bool isMultiSelectEnabled) {
-    if (closed<"addButtonRowCommandInput">(*this)) return {};
-    return append<ButtonRowCommandInputObject>(id, name, isMultiSelectEnabled);
+    return add<"addButtonRowCommandInput", ButtonRowCommandInputObject>(id, name,
+                                                                        isMultiSelectEnabled);
 }
 
 core::Ptr<core::RadioButtonGroupCommandInput> CommandInputsObject::addRadioButtonGroupCommandInput(
     const std::string& id, const std::string& name) {
-    if (closed<"addRadioButtonGroupCommandInput">(*this)) return {};
-    return append<RadioButtonGroupCommandInputObject>(id, name);
+    return add<"addRadioButtonGroupCommandInput", RadioButtonGroupCommandInputObject>(id, name);
 }
 
 core::Ptr<core::TextBoxCommandInput> CommandInputsObject::addTextBoxCommandInput(
     const std::string& id, const std::string& name, const std::string& formattedText, int numRows,
     bool isReadOnly) {
-    if (closed<"addTextBoxCommandInput">(*this)) return {};
-    return append<TextBoxCommandInputObject>(id, name, formattedText, numRows, isReadOnly);
+    return add<"addTextBoxCommandInput", TextBoxCommandInputObject>(id, name, formattedText,
+                                                                    numRows, isReadOnly);
 }
 
 core::Ptr<core::ImageCommandInput> CommandInputsObject::addImageCommandInput(
     const std::string& id, const std::string& name, const std::string& imageFile) {
-    if (closed<"addImageCommandInput">(*this)) return {};
-    return append<ImageCommandInputObject>(id, name, imageFile);
+    return add<"addImageCommandInput", ImageCommandInputObject>(id, name, imageFile);
 }
 
 core::Ptr<core::SelectionCommandInput> CommandInputsObject::addSelectionInput(
     const std::string& id, const std::string& name, const std::string& commandPrompt) {
-    if (closed<"addSelectionInput">(*this)) return {};
-    return append<SelectionCommandInputObject>(id, name, commandPrompt);
+    return add<"addSelectionInput", SelectionCommandInputObject>(id, name, commandPrompt);
 }
 
 InputState* CommandInputsObject::find(const std::string& id) const {

@@ -83,6 +83,11 @@ private:
     core::Ptr<T> append(const std::string& id, const std::string& name,
                         const Arguments&... arguments);
 
+    /// The same as the operation `Name`: null, and nothing made, when the call is refused or the
+    /// inputs were deleted.
+    template <CallName Name, class T, class... Arguments>
+    core::Ptr<T> add(const std::string& id, const std::string& name, const Arguments&... arguments);
+
     CommandObject* command_;
     InputState* parent_;
     Sequence<core::Ptr<core::CommandInput>> members_;
