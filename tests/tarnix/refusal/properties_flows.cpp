@@ -110,59 +110,50 @@ void addNamedRow(Session& session) {
     host::typeText(session.table(kTable)->getInputAtPosition(2, 0), "New");
 }
 
+using Steps = void (*)(Session&);
+
+/// A sweep after which the settings are as they were.
+RefusalSweep sweep(Steps prepare, Steps flow) {
+    return {.prepare = prepare, .flow = flow, .check = checkFlow};
+}
+
 RefusalSweep opening() {
-    return {.prepare = load,
-            .flow = [](Session& session) { session.press("QEMA_EditPropertiesCmd"); },
-            .check = checkFlow};
+    return sweep(load, [](Session& session) { session.press("QEMA_EditPropertiesCmd"); });
 }
 
 RefusalSweep pickOfAnotherDocument() {
-    return {.prepare = openDialog,
-            .flow = [](Session& session) { session.pick("Motor:1"); },
-            .check = checkFlow};
+    return sweep(openDialog, [](Session& session) { session.pick("Motor:1"); });
 }
 
 RefusalSweep clearingOfThePick() {
-    return {.prepare = openAndPick,
-            .flow = [](Session& session) { session.pick("Bolt:1"); },
-            .check = checkFlow};
+    return sweep(openAndPick, [](Session& session) { session.pick("Bolt:1"); });
 }
 
 RefusalSweep structureButton() {
-    return {.prepare = openAndPick,
-            .flow = [](Session& session) { session.choose(kStructure, "Produce"); },
-            .check = checkFlow};
+    return sweep(openAndPick, [](Session& session) { session.choose(kStructure, "Produce"); });
 }
 
 RefusalSweep addedRow() {
-    return {.prepare = showList,
-            .flow = [](Session& session) { session.click(kAddRow); },
-            .check = checkFlow};
+    return sweep(showList, [](Session& session) { session.click(kAddRow); });
 }
 
 RefusalSweep deletedRow() {
-    return {.prepare =
-                [](Session& session) {
-                    showList(session);
-                    session.selectRow(kTable, 0);
-                },
-            .flow = [](Session& session) { session.click(kDeleteRow); },
-            .check = checkFlow};
+    return sweep(
+        [](Session& session) {
+            showList(session);
+            session.selectRow(kTable, 0);
+        },
+        [](Session& session) { session.click(kDeleteRow); });
 }
 
 RefusalSweep deletedRowWithoutSelection() {
-    return {.prepare = showList,
-            .flow = [](Session& session) { session.click(kDeleteRow); },
-            .check = checkFlow};
+    return sweep(showList, [](Session& session) { session.click(kDeleteRow); });
 }
 
 RefusalSweep typedName() {
-    return {.prepare = showList,
-            .flow =
-                [](Session& session) {
-                    host::typeText(session.table(kTable)->getInputAtPosition(0, 0), "a.");
-                },
-            .check = checkFlow};
+    return sweep(showList, [](Session& session) {
+        host::typeText(session.table(kTable)->getInputAtPosition(0, 0), "a.");
+    });
 }
 
 RefusalSweep savedList() {
@@ -176,8 +167,7 @@ RefusalSweep savedList() {
 }
 
 RefusalSweep acceptance() {
-    return {
-        .prepare = openAndPick, .flow = [](Session& session) { session.ok(); }, .check = checkFlow};
+    return sweep(openAndPick, [](Session& session) { session.ok(); });
 }
 
 }  // namespace
