@@ -19,10 +19,11 @@ std::vector<BomRow> merge(const OpenDesign& design) {
     return walkOccurrencesMerged(model, design.occurrences(), 1);
 }
 
-/// Quantity and path of each row, and whether it was combined.
-std::string items(const std::vector<BomRow>& rows) {
+/// Quantity and path of each row of a drawn design, and whether it was combined.
+std::string merged(const std::string& outline) {
+    const OpenDesign design(outline);
     std::string all;
-    for (const auto& row : rows) {
+    for (const auto& row : merge(design)) {
         all += (all.empty() ? "" : "\n") + std::to_string(row.quantity) + " " +
                row.occurrence->fullPathName() + (row.combined ? " combined" : "");
     }
@@ -42,12 +43,12 @@ std::string firstProperties(const OpenDesign& design) {
 }
 
 TEST(Merging, CountsOccurrencesOfOneComponent) {
-    const OpenDesign design(R"(
+    EXPECT_EQ(merged(R"(
         Bolt
         Nut
         Bolt
-        Bolt)");
-    EXPECT_EQ(items(merge(design)), text(R"(
+        Bolt)"),
+              text(R"(
         3 Bolt:1
         1 Nut:1
         1 Bolt:2
@@ -55,19 +56,16 @@ TEST(Merging, CountsOccurrencesOfOneComponent) {
 }
 
 TEST(Merging, AtTheTopTakesEqualNumbersForOneItemWhateverTheirNames) {
-    const OpenDesign design(R"(
-        Bolt  number=P
-        Screw  number=P)");
-    EXPECT_EQ(items(merge(design)), "2 Bolt:1 combined\n1 Screw:1");
+    EXPECT_EQ(merged("Bolt  number=P\nScrew  number=P"), "2 Bolt:1 combined\n1 Screw:1");
 }
 
 TEST(Merging, KeepsTheItemsOfTwoAssembliesApart) {
-    const OpenDesign design(R"(
+    EXPECT_EQ(merged(R"(
         Asm  number=A1
           Bolt
           Bolt
-        Asm)");
-    EXPECT_EQ(items(merge(design)), text(R"(
+        Asm)"),
+              text(R"(
         2 Asm:1
         2 Asm:1+Bolt:1
         1 Asm:1+Bolt:2
@@ -77,13 +75,13 @@ TEST(Merging, KeepsTheItemsOfTwoAssembliesApart) {
 }
 
 TEST(Merging, TakesAllEmptyNumbersUnderOneParentForOneItem) {
-    const OpenDesign design(R"(
+    EXPECT_EQ(merged(R"(
         Asm
           Bolt  number=""
           Nut  number=""
           Washer  number=""
-        Bolt)");
-    EXPECT_EQ(items(merge(design)), text(R"(
+        Bolt)"),
+              text(R"(
         1 Asm:1
         3 Asm:1+Bolt:1 combined
         1 Asm:1+Nut:1
@@ -92,10 +90,7 @@ TEST(Merging, TakesAllEmptyNumbersUnderOneParentForOneItem) {
 }
 
 TEST(Merging, TakesAChildWithTheNumberOfItsTopAssemblyForThatAssembly) {
-    const OpenDesign design(R"(
-        Asm  number=P
-          Bolt  number=P)");
-    EXPECT_EQ(items(merge(design)), "2 Asm:1 combined\n1 Asm:1+Bolt:1");
+    EXPECT_EQ(merged("Asm  number=P\n  Bolt  number=P"), "2 Asm:1 combined\n1 Asm:1+Bolt:1");
 }
 
 TEST(Merging, WritesTheMarkerOnceBeforeTheFirstOfThreeDescriptions) {
