@@ -106,19 +106,19 @@ const tests = {
 
   async bothWaysAndOtherValues() {
     const page = await open(unitsPath);
-    assert.strictEqual(await converted(page, '25.4', 'Length', 'mm', 'in'), '1 in');
-    assert.strictEqual(await converted(page, '3', 'Length', 'ft', 'in'), '36 in');
-    assert.strictEqual(await converted(page, '180', 'Angle', '°', 'rad'), '3.141592654 rad');
-    assert.strictEqual(await converted(page, '-40', 'Temperature', '°C', '°F'), '−40 °F');
-    assert.strictEqual(await converted(page, '100', 'Temperature', '°C', '°F'), '212 °F');
-    assert.strictEqual(await converted(page, '98.6', 'Temperature', '°F', '°C'), '37 °C');
-    assert.strictEqual(await converted(page, '32', 'Temperature', '°F', '°C'), '0 °C');
-    assert.strictEqual(await converted(page, '0', 'Temperature', 'K', '°F'), '−459.67 °F');
-    assert.strictEqual(await converted(page, '-459.67', 'Temperature', '°F', 'K'), '0 K');
-    assert.strictEqual(await converted(page, '1e15', 'Mass', 't', 'kg'), '1 × 10^18 kg');
-    assert.strictEqual(await converted(page, '1', 'Length', 'nm', 'km'), '1 × 10^−12 km');
-    assert.strictEqual(await converted(page, '123456789012', 'Length', 'm', 'm'), '123456789000 m');
-    assert.strictEqual(await converted(page, '0', 'Force', 'N', 'lbf'), '0 lbf');
+    const conversions = [['25.4', 'Length', 'mm', 'in', '1 in'], ['3', 'Length', 'ft', 'in', '36 in'],
+                         ['180', 'Angle', '°', 'rad', '3.141592654 rad'],
+                         ['-40', 'Temperature', '°C', '°F', '−40 °F'],
+                         ['100', 'Temperature', '°C', '°F', '212 °F'],
+                         ['98.6', 'Temperature', '°F', '°C', '37 °C'], ['32', 'Temperature', '°F', '°C', '0 °C'],
+                         ['0', 'Temperature', 'K', '°F', '−459.67 °F'],
+                         ['-459.67', 'Temperature', '°F', 'K', '0 K'], ['1e15', 'Mass', 't', 'kg', '1 × 10^18 kg'],
+                         ['1', 'Length', 'nm', 'km', '1 × 10^−12 km'],
+                         ['123456789012', 'Length', 'm', 'm', '123456789000 m'],
+                         ['0', 'Force', 'N', 'lbf', '0 lbf']];
+    for (const [value, quantity, from, to, shown] of conversions) {
+      assert.strictEqual(await converted(page, value, quantity, from, to), shown, `${value} ${from}`);
+    }
   },
 
   async decimalCommaAndPointAreRead() {
