@@ -6,6 +6,7 @@
 #include <cmath>
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
 using namespace adsk::core;
 using namespace adsk::fusion;

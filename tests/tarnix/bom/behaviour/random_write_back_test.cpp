@@ -14,7 +14,7 @@ namespace test_support {
 namespace {
 
 constexpr int kDesigns = 75;
-constexpr int kColumns = 6;
+constexpr int kWrittenColumns = 6;
 
 class RandomWriteBack : public WrittenDesign {
 protected:
@@ -65,7 +65,7 @@ TEST_F(RandomWriteBack, OfTheModelTableIsLikeTheReference) {
         unfold(/*atMost=*/100);
         edit();
 
-        expectWrittenLikeTheReference(reference::Tab::Model, kColumns);
+        expectWrittenLikeTheReference(reference::Tab::Model, kWrittenColumns);
         expectKeptInItsFile();
     }
 }
@@ -77,7 +77,7 @@ TEST_F(RandomWriteBack, OfTheStructureTableIsLikeTheReference) {
         showStructure();
         edit();
 
-        expectWrittenLikeTheReference(reference::Tab::Structure, kColumns);
+        expectWrittenLikeTheReference(reference::Tab::Structure, kWrittenColumns);
         expectKeptInItsFile();
     }
 }
