@@ -1,18 +1,18 @@
 #pragma once
 
 #include "host/design/design_data.h"
+#include "host/design/reading_error.h"
 #include "host/design/reading_limits.h"
 
 #include <cstddef>
-#include <stdexcept>
 
 /// What a design has to fulfil before a document is made of it, wherever it comes from.
 namespace host {
 
 /// A design that cannot be opened; the text names the place and what would be right.
-class DesignError : public std::runtime_error {
+class DesignError : public ReadingError {
 public:
-    using std::runtime_error::runtime_error;
+    using ReadingError::ReadingError;
 };
 
 /// How many occurrences a design may have, those in context counted one by one.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <system_error>
@@ -28,8 +29,9 @@ constexpr std::uintmax_t kMegabyte = std::uintmax_t{1} << 20;
 // Lists in lists are the one thing that takes more: a hundred bytes for each bracket.
 constexpr std::size_t kDeepestNesting = 100;
 
-[[noreturn]] void refuse(const fs::path& path, const std::string& reason) {
-    throw DesignError(toUtf8(path) + ": " + reason);
+[[noreturn]] void refuse(const fs::path& path, const std::string& reason,
+                         std::optional<ReadingLimit> limit = {}) {
+    throw DesignError(toUtf8(path) + ": " + reason, limit);
 }
 
 /// The prefix that a library puts before its message is of no use to the user.
@@ -44,8 +46,10 @@ std::string readAll(const fs::path& path, std::size_t megabytes) {
         refuse(path, fs::exists(path, error) ? "is no file" : "is not there");
     }
     if (fs::file_size(path, error) > megabytes * kMegabyte / kBytesPerByte) {
-        refuse(path, "may take more than " + std::to_string(megabytes) +
-                         " megabytes of memory; open a smaller design, or increase the limit");
+        refuse(path,
+               "may take more than " + std::to_string(megabytes) +
+                   " megabytes of memory; open a smaller design, or increase the limit",
+               ReadingLimit::Megabytes);
     }
     std::ifstream stream(path, std::ios::binary);
     std::ostringstream content;
@@ -93,7 +97,8 @@ ReadDesign parse(const std::string& text, std::size_t occurrences) {
     checkDesign(design.data);
     if (countOccurrences(design.data) > occurrences) {
         throw DesignError("would become more than " + std::to_string(occurrences) +
-                          " occurrences; open a part of the assembly, or increase the limit");
+                              " occurrences; open a part of the assembly, or increase the limit",
+                          ReadingLimit::Occurrences);
     }
     return design;
 }
@@ -163,7 +168,7 @@ DesignData loadDesignFile(const fs::path& path, const ReadSource& readSource,
     } catch (const nlohmann::json::exception& error) {
         refuse(path, "is no design file: " + withoutOrigin(error.what()));
     } catch (const DesignError& error) {
-        refuse(path, error.what());
+        refuse(path, error.what(), error.limit());
     }
     const auto& inSource = design.hasSourceBodies;
     if (std::find(inSource.begin(), inSource.end(), true) != inSource.end()) {

@@ -8,8 +8,9 @@
 
 namespace host {
 
-/// A file in a private folder that goes with it. Those that processes left which no longer live are
-/// removed when one is made.
+/// A file in a private folder that goes with it. The folder is locked for as long as this lives,
+/// and those that nobody has locked, which processes left that were killed, are removed when one is
+/// made.
 class PrivateCopy {
 public:
     /// An empty file of this name that may grow to `limit` bytes; `shown` is what messages call the
@@ -30,6 +31,7 @@ public:
 private:
     std::string shown_;
     std::uintmax_t left_;
+    int lock_ = -1;  ///< a descriptor of the folder; closed with this, and with the process
     std::filesystem::path path_;
     std::ofstream stream_;
 };

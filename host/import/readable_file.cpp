@@ -10,13 +10,16 @@
 #include <unistd.h>
 #include <zlib.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <fstream>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -28,8 +31,9 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kBlock = std::size_t{1} << 20;
 
-[[noreturn]] void refuseRead(const std::string& shown, const std::string& reason) {
-    throw ImportError(shown + ": " + reason);
+[[noreturn]] void refuseRead(const std::string& shown, const std::string& reason,
+                             std::optional<ReadingLimit> limit = {}) {
+    throw ImportError(shown + ": " + reason, limit);
 }
 
 // A STEP or design file takes a multiple of its size in memory.
@@ -57,26 +61,45 @@ private:
     int descriptor_;
 };
 
-void waitForInput(int input, const std::string& shown, double seconds) {
-    constexpr double kMilliseconds = 1000;
-    const double wait = std::min(std::ceil(seconds * kMilliseconds),
-                                 static_cast<double>(std::numeric_limits<int>::max()));
+/// The time in which all of a pipe has to come.
+class Deadline {
+public:
+    explicit Deadline(double seconds) : end_(Clock::now() + Seconds(seconds)) {}
+
+    [[nodiscard]] int millisecondsLeft() const {
+        using Milliseconds = std::chrono::duration<double, std::milli>;
+        const double left = std::ceil(Milliseconds(end_ - Clock::now()).count());
+        return static_cast<int>(
+            std::clamp(left, 0.0, static_cast<double>(std::numeric_limits<int>::max())));
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    using Seconds = std::chrono::duration<double>;
+
+    std::chrono::time_point<Clock, Seconds> end_;
+};
+
+void waitForInput(int input, const std::string& shown, const Deadline& deadline) {
     pollfd waiting = {input, POLLIN, 0};
     int ready = -1;
     do {
-        ready = ::poll(&waiting, 1, static_cast<int>(wait));
+        ready = ::poll(&waiting, 1, deadline.millisecondsLeft());
     } while (ready < 0 && errno == EINTR);
     if (ready == 0) {
-        refuseRead(shown,
-               "nothing came for as long as reading may take; write a file to it, or "
-               "increase the limit");
+        refuseRead(
+            shown,
+            "did not end within the time that reading may take; write a whole file to it, or "
+            "increase the limit",
+            ReadingLimit::Seconds);
     }
 }
 
 void copyStream(int input, PrivateCopy& copy, const std::string& shown, double seconds) {
     const std::unique_ptr<char[]> block(new char[kBlock]);
+    const Deadline deadline(seconds);
     for (;;) {
-        waitForInput(input, shown, seconds);
+        waitForInput(input, shown, deadline);
         const ssize_t count = ::read(input, block.get(), kBlock);
         if (count == 0) {
             break;

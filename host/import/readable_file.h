@@ -22,7 +22,8 @@ struct ReadableFile {
 ///
 /// "-" is the standard input. What comes from there or from a pipe is copied into a private file,
 /// and what gzip packed (.gz, .stpz) is unpacked into one, whatever its name. Both are bounded by a
-/// quarter of the memory that may be used; a pipe may be silent for as long as reading may take.
+/// quarter of the memory that may be used; all of a pipe has to come in the time that reading may
+/// take.
 /// Throws `ImportError` for a folder, a device, a terminal, a damaged or too large archive.
 ReadableFile makeReadable(const std::filesystem::path& file, const ReadingLimits& limits);
 

@@ -12,6 +12,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -50,7 +51,7 @@ public:
 private:
     void handle(const json& line) {
         if (line.contains("error")) {
-            throw ImportError(path_ + ": " + line["error"].get<std::string>());
+            throw ImportError(path_ + ": " + line["error"].get<std::string>(), limitIn(line));
         }
         if (line.contains("warning")) {
             warnings_.push_back(warningOf(line["warning"]));
@@ -62,6 +63,10 @@ private:
                 progress_(stage_, line["progress"]["fraction"]);
             }
         }
+    }
+
+    static std::optional<ReadingLimit> limitIn(const json& line) {
+        return line.contains("limit") ? std::optional(ReadingLimit::Occurrences) : std::nullopt;
     }
 
     [[nodiscard]] ReadingWarning warningOf(const json& from) const {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "host/design/design_data.h"
+#include "host/design/reading_error.h"
 #include "host/design/reading_limits.h"
 #include "host/design/reading_warning.h"
 
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -29,9 +29,9 @@
 namespace host {
 
 /// A file that cannot be opened: one line that names it, what is wrong, and what would be right.
-class ImportError : public std::runtime_error {
+class ImportError : public ReadingError {
 public:
-    using std::runtime_error::runtime_error;
+    using ReadingError::ReadingError;
 };
 
 /// Reports how far an import is: a stage ("Reading", "Building") and the part of it that is done.

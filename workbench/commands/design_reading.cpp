@@ -6,13 +6,13 @@
 #include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
+#include "host/design/reading_error.h"
 #include "host/import/read_design.h"
 #include "host/import/read_tree.h"
 
 #include <cstddef>
 #include <exception>
 #include <functional>
-#include <string_view>
 #include <utility>
 
 namespace workbench {
@@ -22,16 +22,23 @@ using Warnings = std::vector<host::ReadingWarning>;
 
 using Read = decltype(host::readTree);
 
-/// The message of a failed reading, with the option that increases a limit it names.
-std::string namingOptions(const std::string& message) {
-    constexpr std::string_view kLimit = "increase the limit";
-    const std::size_t found = message.find(kLimit);
-    if (found == std::string::npos) {
-        return message;
+/// The option that increases a limit.
+const char* optionOf(host::ReadingLimit limit) {
+    switch (limit) {
+        case host::ReadingLimit::Seconds:
+            return "--max-seconds";
+        case host::ReadingLimit::Megabytes:
+            return "--max-memory";
+        case host::ReadingLimit::Occurrences:
+            break;
     }
-    const auto isOf = [&](std::string_view unit) { return message.rfind(unit, found) < found; };
-    const char* const memoryOrTime = isOf(" memory") ? "memory" : "seconds";
-    return message + " (--max-" + (isOf(" occurrences;") ? "occurrences" : memoryOrTime) + ")";
+    return "--max-occurrences";
+}
+
+/// The message of a failed reading, with the option that increases the limit it was refused for.
+std::string namingOption(const host::ReadingError& error) {
+    const std::string message = error.what();
+    return error.limit() ? message + " (" + optionOf(*error.limit()) + ")" : message;
 }
 
 host::DesignData readFile(Read& read, const std::string& file, const host::ReadingLimits& limits,
@@ -46,8 +53,10 @@ host::DesignData readFile(Read& read, const std::string& file, const host::Readi
         host::DesignData design = read(host::fromUtf8(file), limits, progress, warnings);
         line.show("");
         return design;
+    } catch (const host::ReadingError& error) {
+        throw Failure(ExitCode::BadInput, namingOption(error));
     } catch (const std::exception& error) {
-        throw Failure(ExitCode::BadInput, namingOptions(error.what()));
+        throw Failure(ExitCode::BadInput, error.what());
     }
 }
 

@@ -90,6 +90,8 @@ int runOrReport(const Task& task) {
     try {
         run(task);
         return EXIT_SUCCESS;
+    } catch (const step::TooManyOccurrences& error) {
+        step::sendLine({{"error", error.what()}, {"limit", "occurrences"}});
     } catch (const step::ReadError& error) {
         step::sendLine({{"error", error.what()}});
     } catch (const std::bad_alloc&) {

@@ -13,7 +13,7 @@
 ///     {"progress": {"stage": "Reading", "fraction": 0}}      any number of times
 ///     {"faults": "..."}                                      what may explain a crash from here on
 ///     {"warning": {"code": "...", "text": "...", ...}}       any number of times
-///     {"error": "..."}   and it ends, or
+///     {"error": "..."}   and it ends, or; with "limit": "occurrences" where that is exceeded
 ///     {"design": {...}}  and it responds to requests until its input ends:
 ///
 ///     measure SHAPE                  {"area": cm2, "volume": cm3}

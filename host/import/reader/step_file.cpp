@@ -1,5 +1,6 @@
 #include "host/import/reader/step_file.h"
 
+#include "host/import/reader/long_string.h"
 #include "host/import/reader/needed_entities.h"
 
 #include <Interface_Check.hxx>
@@ -133,6 +134,17 @@ bool matters(const std::string& complaint, std::string_view kind) {
             kind.starts_with("StepRepr_") || kind.starts_with("StepShape_"));
 }
 
+/// Open CASCADE does not say why. What is known to stop it is a string beyond its buffer.
+[[noreturn]] void refuseUnread(const std::filesystem::path& file) {
+    if (const std::optional<LongString> found = findLongString(contentOf(file))) {
+        throw ReadError("cannot be read as STEP: the string in line " +
+                        std::to_string(found->line) + " has " + std::to_string(found->bytes) +
+                        " bytes, at most " + std::to_string(kLongestString) +
+                        " are possible; shorten it");
+    }
+    throw ReadError("cannot be read as STEP; export it again");
+}
+
 }  // namespace
 
 StepFile::StepFile(const std::filesystem::path& file) : path(file) {
@@ -150,7 +162,7 @@ StepFile::StepFile(const std::filesystem::path& file) : path(file) {
     }
     model = Handle(StepData_StepModel)::DownCast(reader.WS()->Model());
     if (status != IFSelect_RetDone || model.IsNull()) {
-        throw ReadError("cannot be read as STEP; export it again");
+        refuseUnread(file);
     }
     if (const std::size_t missing = listening.listener->unresolved; missing > 0) {
         warnings.push_back({.code = "missing-reference",

@@ -20,6 +20,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A file whose tree exceeds the limit of occurrences.
+class TooManyOccurrences : public ReadError {
+public:
+    using ReadError::ReadError;
+};
+
 /// What the user should know although a file can be read.
 struct Warning {
     std::string code;                  ///< one word; step_import.h has the list

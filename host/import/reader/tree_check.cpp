@@ -23,8 +23,9 @@ public:
             total += occurrences_[root];
         }
         if (assembly_.roots.empty() || total > limits_.occurrences) {
-            throw ReadError("would become more than " + std::to_string(limits_.occurrences) +
-                            " occurrences; open a part of the assembly, or increase the limit");
+            throw TooManyOccurrences(
+                "would become more than " + std::to_string(limits_.occurrences) +
+                " occurrences; open a part of the assembly, or increase the limit");
         }
     }
 

@@ -8,11 +8,16 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <zlib.h>
 
+#include <array>
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -31,6 +36,11 @@ using host::ReadingLimits;
 
 const std::string kCart =
     step(product(10, "C-1", "Cart") + product(20, "W", "Wheel") + usage(30, 10, 20));
+
+/// Why a pipe is given up, after its name.
+constexpr const char* kNoEnd =
+    ": did not end within the time that reading may take; write a whole file to it, or increase "
+    "the limit";
 
 /// What `gzip` makes of a text.
 std::string packed(const std::string& text) {
@@ -113,10 +123,27 @@ TEST_F(ReadDesign, ANamedPipeThatNobodyWritesToIsGivenUp) {
     const std::string pipe = (folder.path() / "pipe").string();
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
 
-    EXPECT_EQ(refusal(pipe, {.seconds = 0.1}),
-              pipe +
-                  ": nothing came for as long as reading may take; write a file to it, or "
-                  "increase the limit");
+    EXPECT_EQ(refusal(pipe, {.seconds = 0.1}), pipe + kNoEnd);
+}
+
+TEST_F(ReadDesign, ANamedPipeThatIsWrittenToWithoutEndIsGivenUp) {
+    const std::string pipe = (folder.path() / "pipe").string();
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    ::signal(SIGPIPE, SIG_IGN);
+    std::atomic<bool> isGivenUp = false;
+    std::thread writer([&] {
+        std::ofstream stream(pipe);
+        while (!isGivenUp) {
+            stream << "ISO" << std::flush;
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        }
+    });
+
+    const std::string why = refusal(pipe, {.seconds = 0.2});
+
+    isGivenUp = true;
+    writer.join();
+    EXPECT_EQ(why, pipe + kNoEnd);
 }
 
 TEST_F(ReadDesign, TheStandardInputIsRead) {
@@ -235,16 +262,37 @@ TEST_F(ReadDesign, ADeviceIsRefused) {
 }
 
 TEST_F(ReadDesign, CopiesOfAProcessThatWasKilledAreRemoved) {
-    const pid_t killed = ::fork();
-    if (killed == 0) {
-        ::_exit(0);
-    }
-    ASSERT_EQ(::waitpid(killed, nullptr, 0), killed);
-    fs::create_directory(temporary / ("standin-reading-" + std::to_string(killed) + "-abcdef"));
+    // Of a process whose number another one has got since.
+    fs::create_directory(temporary / ("standin-reading-" + std::to_string(::getpid())));
 
     readInput(kCart);
 
     EXPECT_TRUE(fs::is_empty(temporary));
+}
+
+TEST_F(ReadDesign, CopiesOfAProcessThatLivesAreKept) {
+    const fs::path copy = temporary / "standin-reading-abcdef";
+    fs::create_directory(copy);
+    std::array<int, 2> locked = {};
+    ASSERT_EQ(::pipe(locked.data()), 0);
+    const pid_t owner = ::fork();
+    if (owner == 0) {
+        const int opened = ::open(copy.c_str(), O_RDONLY | O_DIRECTORY);
+        const bool isLocked = ::flock(opened, LOCK_EX) == 0;
+        ::_exit(::write(locked[1], "x", 1) == 1 && isLocked ? ::pause() : 1);
+    }
+    char mark = 0;
+    ASSERT_EQ(::read(locked[0], &mark, 1), 1);
+
+    readInput(kCart);
+    EXPECT_TRUE(fs::exists(copy));
+
+    ::kill(owner, SIGKILL);
+    ASSERT_EQ(::waitpid(owner, nullptr, 0), owner);
+    ::close(locked[0]);
+    ::close(locked[1]);
+    readInput(kCart);
+    EXPECT_FALSE(fs::exists(copy));
 }
 
 }  // namespace

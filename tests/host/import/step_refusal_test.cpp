@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iterator>
 
@@ -46,6 +47,17 @@ std::string chain(int length, int uses) {
 
 TEST_F(StepRefusal, AMissingFile) {
     EXPECT_EQ(withoutPath((folder.path() / "no.step").string()), "no such file");
+}
+
+TEST_F(StepRefusal, AStringBeyondWhatCanBeReadIsNamedByItsLine) {
+    const std::string text =
+        step(product(10, "A", "Short") + product(20, "B", std::string(30'000, 'x') + "''s"));
+    const auto line = 1 + std::count(text.begin(), text.begin() + text.find("xx"), '\n');
+
+    EXPECT_EQ(reason(text), "cannot be read as STEP: the string in line " + std::to_string(line) +
+                                " has 30000 bytes, at most 16000 are possible; shorten it");
+    EXPECT_EQ(refusal(folder.write("b.step", step(product(10, "A", std::string(16'000, 'x'))))),
+              "");
 }
 
 TEST_F(StepRefusal, AFolder) {

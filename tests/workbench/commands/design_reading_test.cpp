@@ -2,6 +2,7 @@
 #include "tests/workbench/reader_fixture.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstddef>
@@ -99,6 +100,15 @@ TEST_F(BadInput, ADesignFileBeyondTheLimit) {
               "would become more than 2 occurrences; open a part of the assembly, or increase the "
               "limit (--max-occurrences)\n");
     EXPECT_EQ(run({"info", large, "--max-occurrences", "3"}).status, 0);
+}
+
+TEST_F(BadInput, APipeWithoutAnEnd) {
+    const std::string pipe = path("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+
+    EXPECT_EQ(reason(pipe, {"--max-seconds", "1"}),
+              "did not end within the time that reading may take; write a whole file to it, or "
+              "increase the limit (--max-seconds)\n");
 }
 
 TEST_F(BadInput, AFileThatMayNotBeRead) {
