@@ -30,6 +30,9 @@ bool canOverwrite();
 /// The columns of the terminal that stderr goes to; 80 where they are not known.
 std::size_t width();
 
+/// The same of the one that stdout goes to.
+std::size_t outputWidth();
+
 /// True when the system has a program that opens files and addresses for others.
 bool opensFiles();
 

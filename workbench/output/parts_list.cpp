@@ -1,7 +1,6 @@
 #include "workbench/output/parts_list.h"
 
 #include "workbench/output/display_text.h"
-#include "workbench/output/text_table.h"
 
 #include <nlohmann/json.hpp>
 
@@ -140,7 +139,7 @@ PartsList readPartsList(const host::TableView& table) {
     return list;
 }
 
-std::string asTable(const PartsList& list, console::Charset charset) {
+std::string asTable(const PartsList& list, console::Charset charset, std::size_t width) {
     const std::size_t tree = columnOf(list, kTreeKey);
     const bool showsAssumed = std::ranges::any_of(list.places, &RowPlace::isAssumed);
     std::vector<std::string> captions = withoutColumn(list.captions, tree);
@@ -158,7 +157,7 @@ std::string asTable(const PartsList& list, console::Charset charset) {
         }
         table.add(cells);
     }
-    std::string result = table.text();
+    std::string result = table.text(/*indent=*/0, width);
     if (!list.totalCaption.empty()) {
         result += "\n" + printable(list.totalCaption + list.total) + "\n";
     }

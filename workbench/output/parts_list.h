@@ -1,10 +1,12 @@
 #pragma once
 
 #include "workbench/cli/console.h"
+#include "workbench/output/text_table.h"
 
 #include "host/design/reading_warning.h"
 #include "host/session/table_view.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -33,8 +35,9 @@ PartsList readPartsList(const host::TableView& table);
 
 /// As aligned columns for a terminal, with the total below them. Icons become signs, which are
 /// indented by the level of the row where the list shows a tree. Rows whose material is assumed say
-/// so in a last column.
-std::string asTable(const PartsList& list, console::Charset charset);
+/// so in a last column. For `width` see `TextTable::text`.
+std::string asTable(const PartsList& list, console::Charset charset,
+                    std::size_t width = TextTable::kUnlimited);
 
 /// As a JSON object: "rows" with an object for each row, from key to cell, and with its "Level" and
 /// "Path", and "Material assumed"; "total" where the tab shows one; and "warnings".

@@ -16,9 +16,16 @@
 namespace workbench {
 namespace {
 
-std::string outputFailure;  // of the one stream that lives at a time
+// Of the one stream that lives at a time.
+std::string outputFailure;
+bool goesToFile = false;
 
 }  // namespace
+
+std::size_t resultWidth() {
+    return goesToFile || !console::outputIsTerminal() ? static_cast<std::size_t>(-1)
+                                                      : console::outputWidth();
+}
 
 std::string whyOutputFailed() {
     return outputFailure.empty() ? "cannot write to stdout" : outputFailure;
@@ -49,6 +56,7 @@ void ResultStream::writeTo(const std::string& file) {
         refuse("--output " + file + ": it exists and is not a file");
     }
     file_ = path;
+    goesToFile = true;
     std::ifstream stream(path, std::ios::binary);
     if (stream) {
         old_ = std::string{std::istreambuf_iterator<char>(stream), {}};

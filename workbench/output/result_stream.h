@@ -44,6 +44,10 @@ private:
     bool isFinished_ = false;
 };
 
+/// The terminal columns that results have: those of the terminal that they are printed on,
+/// unlimited where they go elsewhere.
+std::size_t resultWidth();
+
 /// Why results could not be passed on.
 std::string whyOutputFailed();
 

@@ -8,6 +8,7 @@ namespace workbench {
 namespace {
 
 constexpr std::size_t kGap = 2;
+constexpr std::size_t kNarrowest = 8;          // of a column of words
 constexpr const char* kRule = "\xE2\x94\x80";  // U+2500
 
 std::string withoutTrailingSpaces(std::string line) {
@@ -33,7 +34,8 @@ void TextTable::add(const std::vector<std::string>& cells) {
 }
 
 TextTable::Column TextTable::measure(std::size_t column) const {
-    std::size_t width = displayWidth(captions_[column]);
+    const std::size_t caption = displayWidth(captions_[column]);
+    std::size_t width = caption;
     bool anyNumber = false;
     bool anyOther = false;
     for (const std::vector<std::string>& row : rows_) {
@@ -42,32 +44,61 @@ TextTable::Column TextTable::measure(std::size_t column) const {
             (looksLikeNumber(row[column]) ? anyNumber : anyOther) = true;
         }
     }
-    return {width, anyNumber && !anyOther};
+    const bool rightAligned = anyNumber && !anyOther;
+    const std::size_t least = rightAligned ? width : std::max(caption, kNarrowest);
+    return {width, std::min(width, least), rightAligned};
+}
+
+/// Takes columns off the widest that can do without, until the line is no wider than that.
+void TextTable::narrow(std::vector<Column>& columns, std::size_t width) {
+    std::size_t total = kGap * (columns.size() - 1);
+    for (const Column& column : columns) {
+        total += column.width;
+    }
+    const auto spareWidth = [](const Column& each) {
+        return each.width > each.least ? each.width : 0;
+    };
+    while (total > width) {
+        Column& widest = *std::ranges::max_element(columns, {}, spareWidth);
+        if (spareWidth(widest) == 0) {
+            break;
+        }
+        --widest.width;
+        --total;
+    }
 }
 
 std::string TextTable::line(const std::vector<std::string>& cells,
                             const std::vector<Column>& columns) {
     std::string result;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        const std::size_t padding = columns[i].width - displayWidth(cells[i]);
+        const std::string cell = fitted(cells[i], columns[i].width);
+        const std::size_t padding = columns[i].width - displayWidth(cell);
         result.append(i == 0 ? 0 : kGap, ' ');
         result.append(columns[i].rightAligned ? padding : 0, ' ');
-        result.append(cells[i]);
+        result.append(cell);
         result.append(columns[i].rightAligned ? 0 : padding, ' ');
     }
     return result;
 }
 
-std::string TextTable::text(std::size_t indent) const {
+std::string TextTable::rule(std::size_t width) const {
+    std::string rule;
+    for (std::size_t column = 0; column < width; ++column) {
+        rule += charset_ == console::Charset::Utf8 ? kRule : "-";
+    }
+    return rule;
+}
+
+std::string TextTable::text(std::size_t indent, std::size_t width) const {
     std::vector<Column> columns;
-    std::vector<std::string> rules;
     for (std::size_t i = 0; i < captions_.size(); ++i) {
         columns.push_back(measure(i));
-        std::string rule;
-        for (std::size_t width = 0; width < columns.back().width; ++width) {
-            rule += charset_ == console::Charset::Utf8 ? kRule : "-";
-        }
-        rules.push_back(rule);
+    }
+    narrow(columns, width - std::min(width, indent));
+    std::vector<std::string> rules;
+    for (const Column& column : columns) {
+        rules.push_back(rule(column.width));
     }
     const std::string margin(indent, ' ');
     std::string result = withoutTrailingSpaces(margin + line(captions_, columns)) + "\n";

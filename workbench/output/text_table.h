@@ -14,23 +14,30 @@ namespace workbench {
 /// alone is right-aligned under its caption. No line ends in spaces. Cells are made printable.
 class TextTable {
 public:
+    static constexpr std::size_t kUnlimited = static_cast<std::size_t>(-1);
+
     explicit TextTable(const std::vector<std::string>& captions,
                        console::Charset charset = console::Charset::Utf8);
 
     /// Adds a row; missing cells are empty, surplus ones are dropped.
     void add(const std::vector<std::string>& cells);
 
-    /// All lines, each with a line feed at its end and `indent` spaces before it.
-    [[nodiscard]] std::string text(std::size_t indent = 0) const;
+    /// All lines, each with a line feed at its end and `indent` spaces before it. Where they are
+    /// wider than `width` terminal columns, the widest columns of words are cut, and marked with
+    /// "..."; numbers and captions stay whole.
+    [[nodiscard]] std::string text(std::size_t indent = 0, std::size_t width = kUnlimited) const;
 
 private:
     /// How the cells of one column are laid out.
     struct Column {
         std::size_t width;
+        std::size_t least;  ///< that it can be narrowed to
         bool rightAligned;
     };
 
     [[nodiscard]] Column measure(std::size_t column) const;
+    [[nodiscard]] std::string rule(std::size_t width) const;
+    static void narrow(std::vector<Column>& columns, std::size_t width);
     [[nodiscard]] static std::string line(const std::vector<std::string>& cells,
                                           const std::vector<Column>& columns);
 

@@ -20,6 +20,30 @@ TEST(TextTable, NumbersAreRightAlignedUnderTheirCaption) {
         )") + "\n");
 }
 
+TEST(TextTable, TheWidestWordsAreCutOnANarrowTerminal) {
+    TextTable table({"Part", "Material", "Mass"});
+    table.add({"Bolt with a long name", "Stainless steel", "0.5"});
+    table.add({"Nut", "Steel", "1200.25"});
+
+    EXPECT_EQ(table.text(/*indent=*/0, /*width=*/35), text(R"(
+        Part          Material         Mass
+        ────────────  ────────────  ───────
+        Bolt with...  Stainless...      0.5
+        Nut           Steel         1200.25
+        )") + "\n");
+}
+
+TEST(TextTable, NumbersAndCaptionsStayWholeHoweverNarrowItIs) {
+    TextTable table({"Part", "BOM Structure", "Mass"});
+    table.add({"Bolt with a long name", "Produce", "1200.25"});
+
+    EXPECT_EQ(table.text(/*indent=*/0, /*width=*/1), text(R"(
+        Part      BOM Structure     Mass
+        ────────  ─────────────  ───────
+        Bolt ...  Produce        1200.25
+        )") + "\n");
+}
+
 TEST(TextTable, WideCharactersKeepTheColumnsInLine) {
     TextTable table({"Name", "Material"});
     table.add({"鋼板", "鋼"});

@@ -10,6 +10,16 @@
 #include <string_view>
 
 namespace workbench::console {
+namespace {
+
+std::size_t widthOf(int descriptor) {
+    constexpr std::size_t kUsual = 80;
+    winsize size = {};
+    const bool known = ::ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return known ? size.ws_col : kUsual;
+}
+
+}  // namespace
 
 void prepare() {}
 
@@ -40,12 +50,9 @@ bool canOverwrite() {
     return terminal != nullptr && std::string_view(terminal) != "dumb" && *terminal != '\0';
 }
 
-std::size_t width() {
-    constexpr std::size_t kUsual = 80;
-    winsize size = {};
-    const bool known = ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return known ? size.ws_col : kUsual;
-}
+std::size_t width() { return widthOf(STDERR_FILENO); }
+
+std::size_t outputWidth() { return widthOf(STDOUT_FILENO); }
 
 bool opensFiles() {
     const char* const path = std::getenv("PATH");

@@ -20,6 +20,15 @@ std::string toUtf8(const wchar_t* text) {
     return result;
 }
 
+std::size_t widthOf(DWORD handle) {
+    constexpr std::size_t kUsual = 80;
+    CONSOLE_SCREEN_BUFFER_INFO info = {};
+    if (::GetConsoleScreenBufferInfo(::GetStdHandle(handle), &info) == 0) {
+        return kUsual;
+    }
+    return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
+}
+
 }  // namespace
 
 void prepare() {
@@ -49,14 +58,9 @@ bool errorIsTerminal() { return ::_isatty(::_fileno(stderr)) != 0; }
 
 bool canOverwrite() { return true; }
 
-std::size_t width() {
-    constexpr std::size_t kUsual = 80;
-    CONSOLE_SCREEN_BUFFER_INFO info = {};
-    if (::GetConsoleScreenBufferInfo(::GetStdHandle(STD_ERROR_HANDLE), &info) == 0) {
-        return kUsual;
-    }
-    return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
-}
+std::size_t width() { return widthOf(STD_ERROR_HANDLE); }
+
+std::size_t outputWidth() { return widthOf(STD_OUTPUT_HANDLE); }
 
 bool opensFiles() { return true; }
 
