@@ -47,8 +47,8 @@ BomCells::BomCells(const host::Session& session, const BomTab& tab)
             continue;
         }
         printed_.push_back(row);
-        byPath_[occurrences_.at(row.occurrence).path].push_back(row);
-        byPartNumber_[host::readCell(table_, row.row, kPartNumberColumn).text].push_back(row);
+        byPath_[pathOf(row)].push_back(row);
+        byPartNumber_[partNumberOf(row)].push_back(row);
     }
 }
 
@@ -57,16 +57,27 @@ std::vector<BomRow> BomCells::rowsNamed(const std::string& name) const {
     if (line > 0 && line <= printed_.size()) {
         return {printed_[line - 1]};
     }
-    std::vector<BomRow> rows = rowsOfPath(name);
-    return rows.empty() ? rowsOfPartNumber(name) : rows;
+    std::vector<BomRow> rows = rowsIn(byPath_, name);
+    return rows.empty() ? rowsIn(byPartNumber_, name) : rows;
 }
 
-std::vector<BomRow> BomCells::rowsOfPath(const std::string& path) const {
-    return rowsIn(byPath_, path);
+const std::string& BomCells::pathOf(const BomRow& row) const {
+    return occurrences_.at(row.occurrence).path;
 }
 
-std::vector<BomRow> BomCells::rowsOfPartNumber(const std::string& number) const {
-    return rowsIn(byPartNumber_, number);
+std::string BomCells::partNumberOf(const BomRow& row) const {
+    return host::readCell(table_, row.row, kPartNumberColumn).text;
+}
+
+std::vector<TableCell> BomCells::exportedCells(const BomRow& row) const {
+    std::vector<TableCell> cells;
+    for (int column = kPositionColumn; column <= table_->numberOfColumns(); ++column) {
+        if (column != kTreeColumn) {
+            cells.push_back(host::readCell(table_, row.row, column));
+        }
+    }
+    std::erase_if(cells, [](const TableCell& each) { return each.kind == TableCell::Kind::Empty; });
+    return cells;
 }
 
 void BomCells::refuseRow(const std::string& name, const std::string& what) const {

@@ -26,8 +26,15 @@ public:
     /// The printed rows of a line from 1, else of the path of an occurrence, else of a part number;
     /// none for any other name.
     [[nodiscard]] std::vector<BomRow> rowsNamed(const std::string& name) const;
-    [[nodiscard]] std::vector<BomRow> rowsOfPath(const std::string& path) const;
-    [[nodiscard]] std::vector<BomRow> rowsOfPartNumber(const std::string& number) const;
+
+    /// The printed rows, by their lines.
+    [[nodiscard]] const std::vector<BomRow>& printedRows() const { return printed_; }
+
+    [[nodiscard]] const std::string& pathOf(const BomRow& row) const;
+    [[nodiscard]] std::string partNumberOf(const BomRow& row) const;
+
+    /// The cells that the add-in exports of a row, in their order.
+    [[nodiscard]] std::vector<host::TableCell> exportedCells(const BomRow& row) const;
 
     /// Throws a `Failure` that begins with `what` and says why the name is that of no printed row.
     [[noreturn]] void refuseRow(const std::string& name, const std::string& what) const;

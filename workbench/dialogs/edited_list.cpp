@@ -7,10 +7,13 @@
 #include "host/base/utf8_path.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <system_error>
+#include <unordered_map>
 #include <utility>
 
 namespace workbench {
@@ -31,9 +34,18 @@ public:
 
     [[nodiscard]] bool done() const { return rest_.empty(); }
 
+    [[nodiscard]] std::string_view rest() const { return rest_; }
+
+    /// Skips so many bytes, and the end of the line that they reach.
+    void skip(std::size_t count, std::size_t& number) {
+        number += static_cast<std::size_t>(std::ranges::count(rest_.substr(0, count), '\n')) + 1;
+        rest_.remove_prefix(count);
+        takeLineEnd();
+    }
+
     /// All fields up to the end of the line; `number` is moved on by the lines that they take.
-    std::vector<std::string> takeLine(std::size_t& number) {
-        std::vector<std::string> fields;
+    std::vector<EditedList::Field> takeLine(std::size_t& number) {
+        std::vector<EditedList::Field> fields;
         do {
             fields.push_back(takeField(number));
         } while (takeSeparator());
@@ -65,14 +77,14 @@ private:
         return 0;
     }
 
-    std::string takeField(std::size_t& number) {
+    EditedList::Field takeField(std::size_t& number) {
         if (const std::size_t end = closingQuote(); end > 0) {
-            std::string field;
+            EditedList::Field field{.text = "", .raw = std::string(rest_.substr(0, end + 1))};
             for (std::size_t at = 1; at < end; ++at) {
-                field += rest_[at];
+                field.text += rest_[at];
                 at += rest_[at] == '"' ? 1U : 0U;
             }
-            number += static_cast<std::size_t>(std::ranges::count(field, '\n'));
+            number += static_cast<std::size_t>(std::ranges::count(field.raw, '\n'));
             rest_.remove_prefix(end + 1);
             return field;
         }
@@ -80,9 +92,9 @@ private:
         while (!endsField(end)) {
             ++end;
         }
-        std::string field(rest_.substr(0, end));
+        const std::string field(rest_.substr(0, end));
         rest_.remove_prefix(end);
-        return field;
+        return {.text = field, .raw = field};
     }
 
     bool takeSeparator() {
@@ -110,13 +122,67 @@ char separatorOf(std::string_view text) {
     return best;
 }
 
-bool isEmpty(const std::vector<std::string>& fields) {
-    return std::ranges::all_of(fields, &std::string::empty);
+bool isEmpty(const std::vector<EditedList::Field>& fields) {
+    return std::ranges::all_of(fields, &std::string::empty, &EditedList::Field::text);
 }
 
-bool isTotal(const std::vector<std::string>& fields) {
-    return fields.size() > 1 && fields[0].empty() && fields[1].starts_with(kMassLineBegin);
+bool isTotal(const std::vector<EditedList::Field>& fields) {
+    return fields.size() > 1 && fields[0].text.empty() &&
+           fields[1].text.starts_with(kMassLineBegin);
 }
+
+/// Lines that are recognised as a whole, found by what they begin with.
+class KnownLines {
+public:
+    KnownLines(const std::vector<std::string>& lines, char separator) : separator_(separator) {
+        for (std::size_t index = 0; index < lines.size(); ++index) {
+            const std::string_view line = withoutSeparators(lines[index]);
+            byBegin_.emplace(firstLine(line), std::pair(line, index));
+        }
+    }
+
+    /// The index of the line that a text begins with, and the bytes that it takes there.
+    [[nodiscard]] std::optional<std::pair<std::size_t, std::size_t>> find(
+        std::string_view text) const {
+        std::optional<std::pair<std::size_t, std::size_t>> longest;
+        const auto [begin, end] = byBegin_.equal_range(firstLine(text));
+        for (auto candidate = begin; candidate != end; ++candidate) {
+            const auto& [line, index] = candidate->second;
+            const std::size_t count = lengthIn(text, line);
+            if (count > (longest ? longest->second : 0)) {
+                longest = std::pair(index, count);
+            }
+        }
+        return longest;
+    }
+
+private:
+    [[nodiscard]] std::string_view withoutSeparators(std::string_view line) const {
+        return line.substr(0, line.find_last_not_of(separator_) + 1);
+    }
+
+    [[nodiscard]] std::string_view firstLine(std::string_view text) const {
+        const std::string_view line = text.substr(0, text.find('\n'));
+        return line.substr(0, line.find_last_not_of(std::array{separator_, '\r', '\0'}.data()) + 1);
+    }
+
+    /// The bytes of a line at the beginning of a text, whose lines may end in CR LF; 0 for none.
+    [[nodiscard]] std::size_t lengthIn(std::string_view text, std::string_view line) const {
+        std::size_t at = 0;
+        for (const char each : line) {
+            at += each == '\n' && text.substr(at).starts_with("\r\n") ? 1U : 0U;
+            if (at >= text.size() || text[at] != each) {
+                return 0;
+            }
+            ++at;
+        }
+        at = std::min(text.find_first_not_of(separator_, at), text.size());
+        return at == text.size() || text[at] == '\n' || text[at] == '\r' ? at : 0;
+    }
+
+    char separator_;
+    std::unordered_multimap<std::string_view, std::pair<std::string_view, std::size_t>> byBegin_;
+};
 
 /// A string that is not UTF-8 shows as one with replacement characters that it does not have.
 bool isUtf8(std::string_view text) {
@@ -128,25 +194,35 @@ bool isUtf8(std::string_view text) {
 
 }  // namespace
 
-EditedList parseEditedList(std::string_view text, const std::string& file) {
+EditedList parseEditedList(std::string_view text, const std::string& file,
+                           const std::vector<std::string>& known) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     text.remove_prefix(text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
     if (!isUtf8(text)) {
         refuseFile(file, "is not UTF-8; save the list as \"CSV UTF-8\"");
     }
-    EditedList list{.file = file, .captions = {}, .lines = {}};
-    Fields fields(text, separatorOf(text));
-    for (std::size_t number = 1; !fields.done();) {
-        const std::size_t first = number;
-        std::vector<std::string> line = fields.takeLine(number);
-        if (first == 1) {
-            list.captions = std::move(line);
-        } else if (!isEmpty(line) && !isTotal(line)) {
-            list.lines.push_back({.number = first, .fields = std::move(line)});
-        }
+    EditedList list{.file = file, .content = std::string(text), .captions = {}, .lines = {}};
+    const char separator = separatorOf(text);
+    const KnownLines knownLines(known, separator);
+    Fields fields(text, separator);
+    std::size_t number = 1;
+    for (const EditedList::Field& caption : fields.takeLine(number)) {
+        list.captions.push_back(caption.text);
     }
-    if (isEmpty(list.captions)) {
+    if (std::ranges::all_of(list.captions, &std::string::empty)) {
         refuseFile(file, "has no captions in its first line");
+    }
+    while (!fields.done()) {
+        const std::size_t first = number;
+        if (const auto found = knownLines.find(fields.rest())) {
+            list.lines.push_back({.number = first, .fields = {}, .known = found->first});
+            fields.skip(found->second, number);
+            continue;
+        }
+        std::vector<EditedList::Field> line = fields.takeLine(number);
+        if (!isEmpty(line) && !isTotal(line)) {
+            list.lines.push_back({.number = first, .fields = std::move(line), .known = {}});
+        }
     }
     return list;
 }

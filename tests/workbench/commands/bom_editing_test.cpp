@@ -309,6 +309,15 @@ TEST_F(BomEditing, ASaveInWhichTheAddinThrowsFailsAndWritesNothing) {
     EXPECT_EQ(readFile(host::fromUtf8(file)), old);
 }
 
+TEST_F(BomEditing, ASavedDesignGetsItsFolder) {
+    const std::string copy = path("new/folder/copy.design.json");
+
+    const ProgramResult result = run({"bom", design(kSmallDesign), "--save", copy});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(loadDesign(copy).components.size(), 3U);
+}
+
 TEST_F(BomEditing, ASaveIntoAnotherKindOfFileIsRefused) {
     const ProgramResult result = run({"bom", design(kSmallDesign), "--save", "frame.step"});
 
@@ -325,6 +334,20 @@ TEST_F(BomEditing, APartNumberNamesAllItsRows) {
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(loadDesign(file).components[1].partNumber, "B-2");
+}
+
+TEST_F(BomEditing, ANumberThatIsALineIsNoPartNumber) {
+    const std::string file = design(R"(
+        Frame  number=2
+        Bolt  number=20)");
+
+    run({"bom", file, "--set", "2:BOM Structure=Buy", "--save"});
+    const ProgramResult result = run({"bom", file, "--set", "20:BOM Structure=AsPart",
+                                      "--no-columns", "--format", "csv", "--save"});
+
+    EXPECT_EQ(firstLines(result.output, 3),
+              "Pos.;Part Number;BOM Structure;\r\n1;2;Produce;\r\n2;20;AsPart;\r\n")
+        << result.errors;
 }
 
 TEST_F(BomEditing, APathNamesTheRowOfAnOccurrence) {
@@ -366,6 +389,8 @@ TEST_F(BomEditing, OfTwoAtOnceNoneIsLostWithStatusZero) {
     EXPECT_EQ(one.status, saved.components[1].partNumber == "F-2" ? 0 : 5) << one.errors;
     EXPECT_EQ(other.status, saved.components[2].partNumber == "B-2" ? 0 : 5) << other.errors;
     EXPECT_TRUE(one.status == 0 || other.status == 0);
+    EXPECT_EQ(one.output.empty(), one.status != 0) << one.output;
+    EXPECT_EQ(other.output.empty(), other.status != 0) << other.output;
 }
 
 /// An edit that the add-in loses, and the line that reports it.
@@ -454,6 +479,19 @@ protected:
         return run(options);
     }
 
+    /// A design whose components have these values of the property "Note".
+    std::string withNotes(const std::string& outline, const std::vector<std::string>& notes) {
+        std::string file = design(outline);
+        host::DesignData data = loadDesign(file);
+        for (std::size_t i = 0; i < notes.size(); ++i) {
+            data.components[i + 1].attributes.push_back({.group = "QEMA_PropertiesAttributesGroup",
+                                                         .name = "QEMA_Note",
+                                                         .value = notes[i]});
+        }
+        host::saveDesignFile(host::fromUtf8(file), data);
+        return file;
+    }
+
     [[nodiscard]] std::string line(int number) const {
         return "tarnix-workbench: " + path("edited.csv") + ", line " + std::to_string(number) +
                ": ";
@@ -508,15 +546,117 @@ TEST_F(EditedListOption, ReportsAllThatCannotBeAppliedAndSavesNothing) {
     EXPECT_EQ(readFile(host::fromUtf8(file)), old);
 }
 
-TEST_F(EditedListOption, RefusesLinesThatContradictEachOther) {
-    const ProgramResult result = setFrom(design(kSmallDesign),
-                                         "Part Number;BOM Structure\n"
-                                         "Bolt;Buy\n"
-                                         "Bolt;AsPart\n");
+TEST_F(EditedListOption, OfRowsWithEqualPartNumbersEachHasItsOwnLine) {
+    const std::string file = design(R"(
+        Left  number=P-1
+        Right  number=P-1)");
+
+    const ProgramResult result = setFrom(file,
+                                         "Part Number;BOM Structure;Part Name\n"
+                                         "P-1;Produce;Left\n"
+                                         "P-1;Buy;Right part\n",
+                                         {"--tab", "model"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(loadDesign(file).components[1].name, "Left");
+    EXPECT_EQ(loadDesign(file).components[2].name, "Right part");
+}
+
+TEST_F(EditedListOption, LinesThatWereNotEditedLeaveTheirRowsToTheOthers) {
+    const std::string file = design(R"(
+        Left  number=P-1
+        Right  number=P-1)");
+
+    const ProgramResult result = setFrom(file,
+                                         "Pos.;Part Number;BOM Structure;Part Name;\n"
+                                         "2;P-1;Produce;Right;\n"
+                                         "1;P-1;Produce;Left part;\n",
+                                         {"--tab", "model", "--column", "Part Name"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(loadDesign(file).components[1].name, "Left part");
+    EXPECT_EQ(loadDesign(file).components[2].name, "Right");
+}
+
+TEST_F(EditedListOption, LinesThatAreNotAsManyAsTheirRowsAreRefused) {
+    const std::string file = design(kTwice);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult few =
+        setFrom(file, "Part Number;BOM Structure\nBolt;Buy\n", {"--tab", "model"});
+    const ProgramResult many = setFrom(file, "Part Number;BOM Structure\nBolt;Buy\nBolt;AsPart\n");
+
+    EXPECT_EQ(few.status, 1);
+    EXPECT_EQ(few.errors, line(2) +
+                              "1 line of the part number \"Bolt\" for 2 rows; a line for each is "
+                              "needed, or a column \"Path\"\n");
+    EXPECT_EQ(many.errors, line(2) +
+                               "2 lines of the part number \"Bolt\" for 1 row; a line for each is "
+                               "needed, or a column \"Path\"\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+TEST_F(EditedListOption, ALineWithMoreFieldsThanCaptionsIsRefused) {
+    const std::string file = design(kSmallDesign);
+    const std::string old = readFile(host::fromUtf8(file));
+
+    const ProgramResult result = setFrom(file,
+                                         "Part Number;Part Name\n"
+                                         "Frame;Frame\n"
+                                         "Bolt;Screw; long\n");
 
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, line(3) + "BOM Structure \"AsPart\": " + path("edited.csv") +
-                                 ", line 2 has \"Buy\" for the same row\n");
+    EXPECT_EQ(result.errors, line(3) +
+                                 "has 3 fields for 2 captions; a value with a separator in it "
+                                 "needs quotes\n");
+    EXPECT_EQ(readFile(host::fromUtf8(file)), old);
+}
+
+/// What an export cannot keep apart: the list is accepted as it is, and changes nothing.
+TEST_F(EditedListOption, ThatWasNotEditedChangesNothing) {
+    const std::string file = withNotes(R"(
+        Left  number=P-1
+        Right  number=P-1
+        Pipe  number="\"2"
+        Bolt  number=7
+        Frame
+          Bolt)",
+                                       {"soft; black", "\"quoted\"", "2\"", "two\nlines; more"});
+    const std::vector<std::string> options = {"--tab",    "model", "--expand", "all",
+                                              "--column", "Note",  "--column", "Description",
+                                              "--format", "csv"};
+    std::vector<std::string> list = {"bom", file};
+    list.insert(list.end(), options.begin(), options.end());
+    const std::string exported = run(list).output;
+    list.insert(list.end(), {"--save", path("saved.design.json")});
+    run(list);
+
+    std::vector<std::string> again = options;
+    again.insert(again.end(), {"--save", path("again.design.json")});
+    again.insert(again.begin(), {"bom", file, "--set-from", path("edited.csv")});
+    writeFile(folder.path() / "edited.csv", exported);
+    const ProgramResult result = run(again);
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, exported);
+    EXPECT_EQ(readFile(folder.path() / "again.design.json"),
+              readFile(folder.path() / "saved.design.json"));
+}
+
+TEST_F(EditedListOption, EditsALineBesideOthersThatCannotBeTakenApart) {
+    const std::string file = withNotes("Foot\nBolt", {"soft; black", "old"});
+
+    const ProgramResult result = setFrom(file,
+                                         "Pos.;Part Number;BOM Structure;Note;\r\n"
+                                         "1;Foot;Produce;soft; black;\r\n"
+                                         "2;Bolt;Produce;new;\r\n",
+                                         {"--column", "Note", "--format", "csv"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(firstLines(result.output, 3),
+              "Pos.;Part Number;BOM Structure;Note;\r\n"
+              "1;Foot;Produce;soft; black;\r\n"
+              "2;Bolt;Produce;new;\r\n");
 }
 
 TEST_F(EditedListOption, NeedsAColumnThatNamesTheRows) {
