@@ -22,8 +22,8 @@ host::MaterialData parseMaterial(const std::string& value) {
     const std::size_t mark = value.rfind('=');
     double density = 0;
     if (mark == std::string::npos || mark == 0 ||
-        !CLI::detail::lexical_cast(value.substr(mark + 1), density) || density < 1 ||
-        density > kDensest) {
+        !CLI::detail::lexical_cast(value.substr(mark + 1), density) ||
+        !(density >= 1 && density <= kDensest)) {
         refuse("--material " + value +
                ": expected NAME=DENSITY, with a density of 1 to 25000 kg/m3");
     }

@@ -6,6 +6,8 @@
 #include "workbench/output/display_text.h"
 #include "workbench/output/result_stream.h"
 
+#include "host/base/utf8_path.h"
+
 #include <CLI/CLI.hpp>
 
 #include <exception>
@@ -45,12 +47,35 @@ std::vector<const char*> pointersTo(const std::vector<std::string>& arguments) {
     return pointers;
 }
 
+/// Whether two names are those of one file, which need not be there yet.
+bool isSameFile(const std::string& one, const std::string& other) {
+    namespace fs = std::filesystem;
+    std::error_code failure;
+    const fs::path left = host::fromUtf8(one);
+    const fs::path right = host::fromUtf8(other);
+    return fs::equivalent(left, right, failure) ||
+           fs::weakly_canonical(left, failure) == fs::weakly_canonical(right, failure);
+}
+
 /// A working directory that was deleted makes every relative path fail, with no word about why.
 void checkWorkingDirectory() {
     std::error_code failure;
     static_cast<void>(std::filesystem::current_path(failure));
     if (failure) {
         refuse("the working directory does not exist any more; change to another one");
+    }
+}
+
+/// A file that the command line names otherwise too would be lost, or replaced by another result.
+void refuseFileInUse(const CLI::App& command, const std::string& output) {
+    for (const char* const name : {"FILE", "--set-from", "--save"}) {
+        const CLI::Option* const option = command.get_option_no_throw(name);
+        for (const std::string& each : option == nullptr ? CLI::results_t() : option->results()) {
+            if (isSameFile(each, output)) {
+                refuse("--output " + output + ": is also " + name +
+                       "; the output needs a file of its own");
+            }
+        }
     }
 }
 
@@ -63,7 +88,11 @@ void addOutput(CLI::App& command, ResultStream& results) {
     if (inner.empty()) {
         command
             .add_option_function<std::string>(
-                "--output", [&results](const std::string& file) { results.writeTo(file); },
+                "--output",
+                [&results, &command](const std::string& file) {
+                    refuseFileInUse(command, file);
+                    results.writeTo(file);
+                },
                 "Write what is printed into this file instead, which is replaced where it\n"
                 "exists; its folder is created. - prints it")
             ->type_name("FILE");
@@ -90,9 +119,10 @@ int runProgram(const std::vector<std::string>& arguments) {
         program.parse(static_cast<int>(arguments.size()), pointersTo(arguments).data());
     } catch (const CLI::ParseError& end) {
         // Asking for help or for the version ends parsing as well.
-        return end.get_exit_code() == 0
-                   ? program.exit(end)
-                   : complain(ExitCode::BadUsage, usageError(program, end, arguments));
+        if (end.get_exit_code() != 0) {
+            return complain(ExitCode::BadUsage, usageError(program, end, arguments));
+        }
+        program.exit(end);
     }
     results.finish();
     return static_cast<int>(ExitCode::Success);

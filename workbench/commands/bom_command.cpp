@@ -8,6 +8,7 @@
 #include "workbench/output/design_files.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/reports.h"
+#include "workbench/output/result_stream.h"
 
 #include "host/base/utf8_path.h"
 
@@ -15,6 +16,7 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <utility>
 
 namespace workbench {
 namespace {
@@ -43,13 +45,24 @@ void reportThrown(const BomResult& result, bool verbose) {
     refuseUnexpected(result.thrown);
 }
 
+/// The name for the export of a design in a folder with those of others.
+fs::path copyName(const std::string& design) {
+    fs::path name = host::fromUtf8(design).filename();
+    for (const char* const ending : {".gz", ".json"}) {
+        name = name.extension() == ending ? name.stem() : name;
+    }
+    name = design == "-" ? fs::path() : name.stem();
+    return host::fromUtf8(host::toUtf8(name) + (name.empty() ? "" : "-") + kExportFile);
+}
+
 /// The exported file where the user wants it, by default where the add-in put it; none where it
 /// does not stay.
-fs::path deliver(const BomResult& result, const std::string& folder, StagedFiles& files) {
+fs::path deliver(const BomResult& result, const std::string& design, const std::string& folder,
+                 StagedFiles& files) {
     if (folder.empty() || result.exported.empty()) {
         return result.exportFile;
     }
-    fs::path file = host::fromUtf8(folder) / kExportFile;
+    fs::path file = host::fromUtf8(folder) / copyName(design);
     files.add(file, result.exported);
     return file;
 }
@@ -60,7 +73,7 @@ std::string formatted(const BomResult& result, const std::string& format,
         return result.exported;
     }
     return format == "json" ? asJson(result.list, warnings)
-                            : asTable(result.list, console::charset());
+                            : asTable(result.list, console::charset(), resultWidth());
 }
 
 void reportExport(std::ostream& stream, const BomResult& result, const fs::path& file) {
@@ -105,16 +118,20 @@ void runBom(const BomOptions& options) {
         std::chrono::seconds(static_cast<long>(options.reading.limits.seconds));
     const SaveTarget design =
         request.save ? saveTarget(options.file, *options.saveFile) : SaveTarget();
-    BomRun run(request);
+    checkAddin(request.addin);
     std::vector<host::ReadingWarning> warnings;
-    const BomResult result = run.make(readDesign(options.file, options.reading, &warnings));
+    host::DesignData opened = readDesign(options.file, options.reading, &warnings);
+    // Not before: other runs wait for a data home that this one is to change.
+    BomRun run(request);
+    const BomResult result = run.make(std::move(opened));
     reportThrown(result, options.verbose);
     StagedFiles files;
-    const fs::path exported = deliver(result, options.out, files);
+    const fs::path exported = deliver(result, options.file, options.out, files);
     if (result.saved) {
         files.addDesign(design.path, *result.saved, design.before);
     }
     run.stageSettings(files);
+    files.check();
     print(result, options, warnings, exported, design.name);
     files.commit();
 }
@@ -125,14 +142,19 @@ void addEditedList(CLI::App& command, BomOptions& options) {
             "--set-from", options.editedList,
             "Edit the cells in which this list differs from the one of the tab: an export\n"
             "that was edited in a spreadsheet. Its lines are found by their column Path, if\n"
-            "it has one, else by their part numbers. Nothing is saved unless all of it can\n"
-            "be applied. Requires --save")
+            "it has one, else by their part numbers; of rows with equal ones all lines are\n"
+            "needed, in their order. Nothing is saved unless all of it can be applied.\n"
+            "Requires --save")
         ->type_name("FILE.csv");
 }
 
 /// What to print, and where to put the export.
 void addOutput(CLI::App& command, BomOptions& options) {
-    command.add_option("--out", options.out, "Copy TarnixBOM.csv into this folder")
+    command
+        .add_option(
+            "--out", options.out,
+            "Copy TarnixBOM.csv into this folder, as NAME-TarnixBOM.csv for the NAME of FILE\n"
+            "without its ending")
         ->type_name("DIR");
     command
         .add_option("--format", options.format,
@@ -189,8 +211,9 @@ void addActions(CLI::App& command, BomRequest& request) {
             },
             "Edit a cell of the tab; may be repeated. CELL is ROW:COLUMN: ROW counts the\n"
             "printed lines from 1, as they are before any --set, or is the path of an\n"
-            "occurrence, or a part number, which names all rows that have it; COLUMN is a\n"
-            "printed caption, or the property of a column. Example:\n"
+            "occurrence, or a part number, which names all rows that have it. A number that\n"
+            "is a line is that line, even where it is a part number too. COLUMN is a printed\n"
+            "caption, or the property of a column. Example:\n"
             "--set '2:Part Number=P-7' --set 'P-9:BOM Structure=Buy'. An edit that the design\n"
             "does not take is an error, and nothing is saved then. Requires --save")
         ->type_name("CELL=VALUE")

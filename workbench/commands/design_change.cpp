@@ -28,6 +28,7 @@ void changeDesign(const DesignChangeOptions& options, const DesignChange& change
     const std::string done = change(dialog);
     StagedFiles files;
     files.addDesign(target.path, dialog.session().design(), target.before);
+    files.check();
     std::cout << done << "\n";
     reportSaved(std::cout, target.name);
     flushOutput();

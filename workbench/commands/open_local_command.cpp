@@ -20,6 +20,7 @@
 #include <iterator>
 #include <memory>
 #include <optional>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -76,6 +77,19 @@ std::vector<std::string> absoluteNames(const std::vector<std::string>& files) {
         names.push_back(host::toUtf8(fs::absolute(host::fromUtf8(each)).lexically_normal()));
     }
     return names;
+}
+
+/// A file that is opened twice would be saved twice.
+void refuseRepeated(const std::vector<std::string>& names) {
+    std::set<fs::path> seen;
+    for (const std::string& each : names) {
+        std::error_code failure;
+        const fs::path file = host::fromUtf8(each);
+        const fs::path full = fs::weakly_canonical(file, failure);
+        if (!seen.insert(failure ? file : full).second) {
+            refuse(each + " is given twice; name each file once");
+        }
+    }
 }
 
 /// A failure for want of the add-in's locale, with what to do about it.
@@ -197,6 +211,7 @@ fs::path makeFolder(const std::string& named) {
 /// not every file became a document, those that did are saved.
 void runOpenLocal(const OpenLocalOptions& options) {
     const std::vector<std::string> names = absoluteNames(options.files);
+    refuseRepeated(names);
     const fs::path out = makeFolder(options.out);
     DialogSession dialog(options.addin, DataUse::Read, [&](host::SessionOptions& session) {
         waitInRealTime(session, options.timeout);

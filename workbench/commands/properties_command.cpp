@@ -156,6 +156,7 @@ void runProperties(const PropertiesOptions& options) {
     if (options.saveFile) {
         files.addDesign(target.path, dialog.session().design(), target.before);
     }
+    files.check();
     std::cout << lines;
     if (options.saveFile) {
         std::cout << "\n";

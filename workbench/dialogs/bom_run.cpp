@@ -8,6 +8,8 @@
 #include "workbench/dialogs/unmeasured.h"
 #include "workbench/output/export_check.h"
 
+#include "host/base/utf8_path.h"
+
 #include <algorithm>
 #include <fstream>
 #include <functional>
@@ -70,6 +72,19 @@ void append(std::vector<Item>& all, const std::vector<Item>& more) {
     all.insert(all.end(), more.begin(), more.end());
 }
 
+/// What the shell was asked for, without the folder of the run: that goes with it.
+std::vector<std::string> withoutFolder(std::vector<std::string> targets, const fs::path& folder) {
+    const auto withSlashes = [](std::string path) {
+        std::ranges::replace(path, '\\', '/');
+        return path;
+    };
+    const std::string begin = withSlashes(host::toUtf8(folder)) + "/";
+    for (std::string& target : targets) {
+        target.erase(0, withSlashes(target).starts_with(begin) ? begin.size() : 0);
+    }
+    return targets;
+}
+
 host::DesignData emptyDesign() {
     host::DesignData design;
     design.components.emplace_back().name = "Columns";
@@ -128,7 +143,9 @@ void BomRun::useDialog(host::DesignData design, BomResult& result,
     } catch (const std::runtime_error& obstacle) {
         throw Failure(ExitCode::AddinFailed, explain(*session, obstacle.what()));
     }
-    append(result.shell, session->openedByShell());
+    append(result.shell, request_.open
+                             ? session->openedByShell()
+                             : withoutFolder(session->openedByShell(), session->addin().folder));
     append(result.thrown, session->uncaughtExceptions());
     append(result.messages, session->messages());
 }

@@ -37,7 +37,8 @@ struct BomResult {
     PartsList list;
     std::string exported;              ///< bytes of the exported file, empty if it left none
     std::filesystem::path exportFile;  ///< where it stays after the run, empty if it does not
-    std::vector<std::string> shell;    ///< what the add-in asked the shell to open
+    std::vector<std::string> shell;    ///< what the add-in asked the shell to open; of a file that
+                                       ///< goes with the run only the name
     std::vector<host::UncaughtException> thrown;
     std::vector<host::Message> messages;    ///< what the add-in showed to its user
     bool isLonePart = false;                ///< the root has bodies, and nothing is below it

@@ -37,6 +37,14 @@ std::string contentOf(const fs::path& file) {
 
 }  // namespace
 
+void checkAddin(const AddinChoice& choice) {
+    try {
+        host::findAddin(addinFolder(choice.addin));
+    } catch (const std::runtime_error& error) {
+        throw Failure(ExitCode::NoAddin, error.what());
+    }
+}
+
 RunFolder::RunFolder(AddinChoice choice, DataUse use) : choice_(std::move(choice)) {
     dataHome_ = dataHomeOf(choice_, use);
     try {

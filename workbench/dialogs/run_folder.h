@@ -12,6 +12,9 @@
 
 namespace workbench {
 
+/// Throws a `Failure` where the add-in is missing: to be called before work that takes long.
+void checkAddin(const AddinChoice& choice);
+
 /// What a run does with its data home.
 enum class DataUse {
     Read,    ///< starts with its settings; the folder is neither made nor locked

@@ -26,13 +26,33 @@ fs::path freePath(const fs::path& folder, const std::string& name) {
 
 bool isDesignFile(const fs::path& file) { return file.extension() == ".json"; }
 
+/// "Part.step" for "Part.step.gz".
+fs::path unpackedName(const fs::path& file) {
+    const fs::path ending = file.extension();
+    return ending == ".gz" || ending == ".GZ" ? fs::path(file).replace_extension() : file;
+}
+
 fs::path newFileBeside(fs::path file) {
-    file.replace_extension(host::kDesignFileEnding);
+    if (!isDesignFile(file)) {
+        file.replace_extension(host::kDesignFileEnding);
+    }
     if (fs::exists(file)) {
         const std::string name = host::toUtf8(file);
         refuse(name + " exists already; --save " + name + " replaces it");
     }
     return file;
+}
+
+/// Where a design is saved for which no file is named.
+fs::path defaultTarget(const std::string& file) {
+    const fs::path input = host::fromUtf8(file);
+    std::error_code ignored;
+    if (file == "-" || fs::is_fifo(input, ignored)) {
+        refuse("--save: a design that comes from " +
+               (file == "-" ? std::string("the standard input") : "the pipe " + file) +
+               " has no name; name its file, as in --save assembly" + host::kDesignFileEnding);
+    }
+    return isDesignFile(input) ? input : newFileBeside(unpackedName(input));
 }
 
 /// Writes a design file, whole or not at all.
@@ -68,13 +88,12 @@ std::string fileName(std::string name) {
 }
 
 SaveTarget saveTarget(const std::string& file, const std::string& named) {
-    const fs::path input = host::fromUtf8(file);
     fs::path target = host::fromUtf8(named);
     if (!target.empty() && !isDesignFile(target)) {
         refuse("--save " + named + ": the name of a design file must end in .json");
     }
     if (target.empty()) {
-        target = isDesignFile(input) ? input : newFileBeside(input);
+        target = defaultTarget(file);
     }
     return {.path = fs::absolute(target), .name = target, .before = fingerprintOf(target)};
 }

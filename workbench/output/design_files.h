@@ -28,8 +28,9 @@ struct SaveTarget {
 };
 
 /// The design file to save in, for the design of `file`: the one that is named, else `file` itself
-/// where it is a design file, else a new one beside it. Throws a `Failure` for a name that is not
-/// one of a design file, and where the new one exists already.
+/// where it is a design file, else a new one beside it, named without ".gz". Throws a `Failure` for
+/// a name that is not one of a design file, where the new one exists already, and where the
+/// standard input or a pipe has no name for it.
 SaveTarget saveTarget(const std::string& file, const std::string& named);
 
 }  // namespace workbench

@@ -4,12 +4,10 @@
 
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
-#include "host/session/folder_lock.h"
 
 #include <fstream>
 #include <functional>
 #include <iterator>
-#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -70,6 +68,7 @@ void StagedFiles::add(const fs::path& file, std::string_view content) {
 
 void StagedFiles::addDesign(const fs::path& file, const host::DesignData& design,
                             const Fingerprint& before) {
+    makeFolderOf(file);
     try {
         files_.push_back({file, host::stageDesignFile(file, design), before});
     } catch (const host::DesignError& error) {
@@ -77,17 +76,23 @@ void StagedFiles::addDesign(const fs::path& file, const host::DesignData& design
     }
 }
 
-void StagedFiles::commit() {
-    std::vector<std::unique_ptr<host::FolderLock>> locks;
+void StagedFiles::check() {
     for (const File& file : files_) {
         if (!file.before) {
             continue;
         }
-        locks.push_back(host::FolderLock::waitToWrite(fs::absolute(file.path).parent_path()));
+        locks_.push_back(host::FolderLock::waitToWrite(fs::absolute(file.path).parent_path()));
         if (fingerprintOf(file.path) != *file.before) {
+            locks_.clear();
             fail(file.path,
                  "another program changed it after it was read; nothing was saved, run again");
         }
+    }
+}
+
+void StagedFiles::commit() {
+    if (locks_.empty()) {
+        check();
     }
     for (File& file : files_) {
         try {
@@ -97,6 +102,7 @@ void StagedFiles::commit() {
         }
     }
     files_.clear();
+    locks_.clear();
     madeFolders_.clear();
 }
 

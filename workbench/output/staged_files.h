@@ -2,9 +2,11 @@
 
 #include "host/design/atomic_file.h"
 #include "host/design/design_data.h"
+#include "host/session/folder_lock.h"
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,11 +32,17 @@ public:
     /// Makes a missing folder, which goes again with files that are not committed.
     void add(const std::filesystem::path& file, std::string_view content);
 
-    /// A design file. The commit refuses to replace one that is no longer as it was `before`: what
-    /// another program saved there would be lost.
+    /// A design file. One is not replaced that is no longer as it was `before`: what another
+    /// program saved there would be lost. Makes a missing folder as `add` does.
     void addDesign(const std::filesystem::path& file, const host::DesignData& design,
                    const Fingerprint& before);
 
+    /// Throws where a design file is no longer as it was. From here to the commit other programs
+    /// that save in the same folder wait. To be called before anything is printed: a result that is
+    /// not kept must not be shown.
+    void check();
+
+    /// Checks first, unless that was done.
     void commit();
 
 private:
@@ -47,6 +55,7 @@ private:
     void makeFolderOf(const std::filesystem::path& file);
 
     std::vector<File> files_;
+    std::vector<std::unique_ptr<host::FolderLock>> locks_;
     std::vector<std::filesystem::path> madeFolders_;
 };
 

@@ -121,6 +121,43 @@ TEST_F(CommandLine, AFolderIsNoOutputFile) {
               "tarnix-workbench: --output " + path("folder") + ": it exists and is not a file\n");
 }
 
+TEST_F(CommandLine, TheOutputIsNoFileThatIsUsedOtherwise) {
+    const std::string file = design(test_support::kSmallDesign);
+    const std::string list = path("list.csv");
+    const std::string copy = path("copy.design.json");
+    const std::string old = test_support::readFile(host::fromUtf8(file));
+    test_support::writeFile(host::fromUtf8(list), "Part Number\nBolt\n");
+
+    const ProgramResult input = run({"info", file, "--output", path("sub/../sample.design.json")});
+    const ProgramResult edits =
+        run({"bom", file, "--set-from", list, "--save", copy, "--output", list});
+    const ProgramResult saved = run({"bom", file, "--save", copy, "--output", copy});
+
+    EXPECT_EQ(input.status, 2);
+    EXPECT_EQ(input.errors, "tarnix-workbench: --output " + path("sub/../sample.design.json") +
+                                ": is also FILE; the output needs a file of its own\n");
+    EXPECT_EQ(edits.errors, "tarnix-workbench: --output " + list +
+                                ": is also --set-from; the output needs a file of its own\n");
+    EXPECT_EQ(saved.errors, "tarnix-workbench: --output " + copy +
+                                ": is also --save; the output needs a file of its own\n");
+    EXPECT_EQ(test_support::readFile(host::fromUtf8(file)), old);
+    EXPECT_EQ(test_support::readFile(host::fromUtf8(list)), "Part Number\nBolt\n");
+    EXPECT_FALSE(std::filesystem::exists(host::fromUtf8(copy)));
+}
+
+TEST_F(CommandLine, ADensityThatIsNoneIsNamed) {
+    for (const char* const density : {"0", "-7850", "nan", "7,85"}) {
+        const std::string material = std::string("Steel=") + density;
+
+        const ProgramResult result = run({"info", "a.step", "--material", material});
+
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "tarnix-workbench: --material " + material +
+                                     ": expected NAME=DENSITY, with a density of 1 to 25000 "
+                                     "kg/m3\n");
+    }
+}
+
 TEST_F(CommandLine, QuietLeavesTheResultAlone) {
     const std::string file = design(test_support::kSmallDesign);
 

@@ -65,7 +65,7 @@ TEST_F(BomOpen, ExportsAlsoWhereTheShellFails) {
 
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(readFile(folder.path() / "out" / "TarnixBOM.csv"),
+    EXPECT_EQ(readFile(folder.path() / "out" / "sample-TarnixBOM.csv"),
               readFile(stays() / "TarnixBOM.csv"));
 }
 

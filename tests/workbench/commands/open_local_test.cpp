@@ -27,6 +27,19 @@ TEST_F(OpenLocal, SavesWhatTheHostImportsAndWhatItConverts) {
     EXPECT_EQ(places(host::toUtf8(host::fromUtf8(out()) / "post.design.json")), "7 ");
 }
 
+TEST_F(OpenLocal, AFileThatIsGivenTwiceIsRefused) {
+    const std::string file = path("gearbox.f3d");
+    writeFile(host::fromUtf8(file), readFile(host::fromUtf8(design(kPlaced, "gearbox"))));
+
+    const ProgramResult result =
+        run({"open-local", file, path("sub/../gearbox.f3d"), "--out", out()});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "tarnix-workbench: " + file + " is given twice; name each file once\n");
+    EXPECT_FALSE(std::filesystem::exists(host::fromUtf8(out())));
+}
+
 TEST_F(OpenLocal, IsCancelledAtTheTimeout) {
     const std::string file = path("Frame.ipt");
     writeFile(host::fromUtf8(file), "nothing that can be converted");

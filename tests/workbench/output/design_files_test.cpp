@@ -1,5 +1,7 @@
 #include "workbench/output/design_files.h"
 
+#include "workbench/cli/exit_code.h"
+
 #include "host/base/utf8_path.h"
 #include "tests/support/temporary_folder.h"
 
@@ -23,6 +25,32 @@ TEST(FileName, HasNoControlCharacters) { EXPECT_EQ(fileName("a\nb\tc"), "a_b_c")
 TEST(FileName, IsNeverEmptyOrHidden) {
     EXPECT_EQ(fileName(""), "_");
     EXPECT_EQ(fileName(".a"), "_a");
+}
+
+TEST(SaveTarget, OfAPackedFileHasTheNameWithoutTheEnding) {
+    const test_support::TemporaryFolder folder;
+    const auto nameFor = [&](const char* name) {
+        return saveTarget(host::toUtf8(folder.path() / name), "").name.filename().string();
+    };
+
+    EXPECT_EQ(nameFor("Part.step"), "Part.design.json");
+    EXPECT_EQ(nameFor("Part.step.gz"), "Part.design.json");
+    EXPECT_EQ(nameFor("Part.stpz"), "Part.design.json");
+    EXPECT_EQ(nameFor("Part.design.json.gz"), "Part.design.json");
+    EXPECT_EQ(nameFor("Part.design.json"), "Part.design.json");
+}
+
+TEST(SaveTarget, OfTheStandardInputHasToBeNamed) {
+    EXPECT_EQ(saveTarget("-", "a.design.json").name, "a.design.json");
+    try {
+        saveTarget("-", "");
+        FAIL() << "has a name";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), ExitCode::BadUsage);
+        EXPECT_EQ(std::string(failure.what()),
+                  "--save: a design that comes from the standard input has no name; name its file, "
+                  "as in --save assembly.design.json");
+    }
 }
 
 TEST(DesignFiles, OfTheSameNameGetNumbers) {

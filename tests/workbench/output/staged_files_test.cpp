@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace fs = std::filesystem;
@@ -77,6 +78,40 @@ TEST_F(Staged, ADesignFileThatAnotherProgramChangedIsNotReplaced) {
 
     EXPECT_EQ(readFile(path), "saved meanwhile");
     EXPECT_FALSE(fs::exists(file("list.csv")));
+}
+
+TEST_F(Staged, AChangedDesignFileIsSeenBeforeTheCommit) {
+    const fs::path path = file("a.design.json");
+    writeFile(path, "as it was read");
+    const workbench::Fingerprint before = fingerprintOf(path);
+    StagedFiles changed;
+    changed.addDesign(path, host::parseOutline("Frame"), before);
+    writeFile(path, "saved meanwhile");
+
+    EXPECT_THROW(changed.check(), workbench::Failure);
+
+    // That keeps nobody from the folder.
+    StagedFiles unchanged;
+    unchanged.addDesign(file("b.design.json"), host::parseOutline("Frame"), std::nullopt);
+    unchanged.check();
+    EXPECT_FALSE(fs::exists(file("b.design.json")));
+    unchanged.commit();
+    EXPECT_TRUE(fs::exists(file("b.design.json")));
+}
+
+TEST_F(Staged, ADesignFileGetsItsFolder) {
+    const fs::path path = file("sub/deep/a.design.json");
+    {
+        StagedFiles files;
+        files.addDesign(path, host::parseOutline("Frame"), std::nullopt);
+    }
+    EXPECT_FALSE(fs::exists(file("sub")));
+
+    StagedFiles files;
+    files.addDesign(path, host::parseOutline("Frame"), std::nullopt);
+    files.commit();
+
+    EXPECT_TRUE(fs::exists(path));
 }
 
 TEST_F(Staged, ADesignFileThatAppearedMeanwhileIsNotReplaced) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -53,21 +54,24 @@ TEST_F(OutputThatFails, KeepsNothing) {
     EXPECT_FALSE(std::filesystem::exists(settingsFile()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, FullOutput,
-                         testing::Values(std::vector<std::string>{"bom", "FILE"},
-                                         std::vector<std::string>{"info", "FILE"},
-                                         std::vector<std::string>{"properties", "FILE"},
-                                         std::vector<std::string>{"configure"},
-                                         std::vector<std::string>{"helpdesk", "system-info"},
-                                         std::vector<std::string>{"move-to-origin", "FILE",
-                                                                  "--save"},
-                                         std::vector<std::string>{"commands"},
-                                         std::vector<std::string>{"dialog", "QM_TX_BOM", "FILE"},
-                                         std::vector<std::string>{"manual"}),
-                         [](const auto& tested) {
-                             std::string name = tested.param.front();
-                             std::erase(name, '-');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Commands, FullOutput,
+    testing::Values(
+        std::vector<std::string>{"bom", "FILE"}, std::vector<std::string>{"--help"},
+        std::vector<std::string>{"--version"}, std::vector<std::string>{"configure", "--help"},
+        std::vector<std::string>{"info", "FILE"}, std::vector<std::string>{"properties", "FILE"},
+        std::vector<std::string>{"configure"}, std::vector<std::string>{"helpdesk", "system-info"},
+        std::vector<std::string>{"move-to-origin", "FILE", "--save"},
+        std::vector<std::string>{"commands"},
+        std::vector<std::string>{"dialog", "QM_TX_BOM", "FILE"},
+        std::vector<std::string>{"manual"}),
+    [](const auto& tested) {
+        std::string name;
+        for (const std::string& word : tested.param) {
+            name += word;
+        }
+        std::erase_if(name, [](unsigned char each) { return std::isalnum(each) == 0; });
+        return name;
+    });
 
 }  // namespace
