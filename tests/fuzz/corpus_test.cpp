@@ -1,4 +1,5 @@
 #include "tests/fuzz/fuzzed_files.h"
+#include "tests/fuzz/fuzzed_lists.h"
 #include "tests/fuzz/fuzzed_session.h"
 #include "tests/support/files.h"
 
@@ -129,6 +130,20 @@ TEST(StepRuns, FindNothing) {
 TEST(IgesRuns, FindNothing) {
     readKept(readIges, "iges");
     readMadeUp(readIges, 24);
+}
+
+TEST(EditedListRuns, FindNothing) {
+    readKept(readEditedLists, "edited_list");
+    for (unsigned seed = 1; seed <= 300; ++seed) {
+        std::vector<std::uint8_t> bytes = madeUp(seed);
+        std::ranges::for_each(bytes, [](std::uint8_t& each) { each &= 0x7F; });  // UTF-8
+        EXPECT_EQ(readEditedLists(bytes), "") << "seed " << seed;
+    }
+    for (const File& file : corpus("edited_list")) {
+        for (unsigned seed = 1; seed <= 100; ++seed) {
+            EXPECT_EQ(readEditedLists(mutated(bytesOf(file), seed)), "") << file << seed;
+        }
+    }
 }
 
 }  // namespace

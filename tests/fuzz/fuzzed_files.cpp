@@ -22,13 +22,23 @@ namespace {
 
 using nlohmann::json;
 
-/// Names of what is refused in words; anything else that is thrown is a fault.
+/// The text of an error, where it is none of the file: its reader did not end in order.
+std::string faultIn(const std::string& error) {
+    for (const char* const end : {"the reader crashed", "took longer than", "ended without"}) {
+        if (error.find(end) != std::string::npos) {
+            return error;
+        }
+    }
+    return {};
+}
+
+/// What is refused in words is no fault; anything else that is thrown is one.
 template <class Read>
 std::string faultOf(Read read) {
     try {
         return read();
-    } catch (const host::ImportError&) {
-        return {};
+    } catch (const host::ImportError& error) {
+        return faultIn(error.what());
     } catch (const host::DesignError&) {
         return {};
     } catch (const std::exception& error) {
@@ -158,6 +168,23 @@ std::string baseStep() {
                                     .uses = {{"plate", {}}, {"plate", {{1, 2, 3}}}}}});
 }
 
+/// A shape that cannot be measured says so.
+std::string measure(const host::DesignData& design) {
+    for (const host::ComponentData& component : design.components) {
+        try {
+            if (component.geometry != nullptr) {
+                component.geometry->area();
+                component.geometry->box({});
+            }
+        } catch (const std::runtime_error& error) {
+            if (const std::string fault = faultIn(error.what()); !fault.empty()) {
+                return fault;
+            }
+        }
+    }
+    return {};
+}
+
 std::string readDamaged(std::string text, const char* name, std::span<const std::uint8_t> bytes) {
     Choices choices(bytes);
     do {
@@ -169,19 +196,7 @@ std::string readDamaged(std::string text, const char* name, std::span<const std:
         std::vector<host::ReadingWarning> warnings;
         const host::ReadingLimits limits = {
             .seconds = 20, .megabytes = 1024, .occurrences = 1000, .levels = 50};
-        const host::DesignData design = host::readDesign(file, limits, {}, warnings);
-        for (const host::ComponentData& component : design.components) {
-            if (component.geometry == nullptr) {
-                continue;
-            }
-            try {
-                component.geometry->area();
-                component.geometry->box({});
-            } catch (const std::runtime_error&) {
-                // A shape that cannot be measured says so.
-            }
-        }
-        return std::string();
+        return measure(host::readDesign(file, limits, {}, warnings));
     });
 }
 
