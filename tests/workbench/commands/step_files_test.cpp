@@ -1,13 +1,18 @@
+#include "samples/product.h"
 #include "tests/host/import/drafts.h"
 #include "tests/support/real_files.h"
 #include "tests/support/text.h"
 #include "tests/workbench/workbench_fixture.h"
 
+#include "host/session/environment.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <future>
 #include <ostream>
 #include <string>
+#include <vector>
 
 /// The main job, whole: a STEP assembly in, its parts list out.
 namespace {
@@ -82,6 +87,56 @@ TEST_F(StepFile, IsMeasuredByInfoWhereThatIsAskedFor) {
     };
     EXPECT_EQ(counts(tree.output), counts(measured.output));
     EXPECT_EQ(materials(tree.output), materials(measured.output));
+}
+
+TEST_F(StepFile, ComesThroughTheStandardInput) {
+    const std::string sample = std::string(PROJECT_FOLDER) + "/samples/camera-slider.step";
+    const std::string program = (host::environment::programFolder() / "tarnix-workbench").string();
+    const std::filesystem::path output = folder.path() / "output";
+
+    const int status =
+        test_support::runRedirected("/bin/sh", {"-c", "cat \"$1\" | \"$0\" bom -", program, sample},
+                                    output, folder.path() / "errors");
+
+    EXPECT_EQ(status, 0) << readFile(folder.path() / "errors");
+    EXPECT_EQ(firstLines(readFile(output), 13), shownInReadme("   Pos.  Part Number"));
+}
+
+/// Different plates under one root, each of some 150 entities.
+std::string manyPlates(int count) {
+    std::vector<samples::Product> products;
+    samples::Product top = {.key = "top", .id = "TOP", .name = "Top"};
+    for (int number = 0; number < count; ++number) {
+        const std::string name = "Part " + std::to_string(number);
+        const samples::Solid plate{{{samples::rectangle(10 + 0.01 * number, 20), 5}},
+                                   {samples::circle(2)}};
+        products.push_back({.key = name, .id = name, .name = name, .solid = plate});
+        top.uses.push_back({name, {{0, 0, 10.0 * number}}});
+    }
+    products.push_back(top);
+    return samples::stepFile("Top", products);
+}
+
+TEST_F(StepFile, IsReadByEightRunsAtOnce) {
+    const std::string text = manyPlates(200);
+    EXPECT_GT(std::count(text.begin(), text.end(), '='), 20'000);
+    writeFile(folder.path() / "many.step", text);
+    std::vector<std::future<ProgramResult>> runs;
+    for (int number = 0; number < 8; ++number) {
+        runs.push_back(std::async(std::launch::async, [file = path("many.step")] {
+            return run({"bom", file, "--format", "csv"});
+        }));
+    }
+
+    const ProgramResult first = runs.front().get();
+    EXPECT_EQ(first.status, 0) << first.errors;
+    // The captions, an empty line and the mass.
+    EXPECT_EQ(std::count(first.output.begin(), first.output.end(), '\n'), 200 + 3);
+    for (std::size_t number = 1; number < runs.size(); ++number) {
+        const ProgramResult other = runs[number].get();
+        EXPECT_EQ(other.status, 0) << other.errors;
+        EXPECT_EQ(other.output, first.output);
+    }
 }
 
 /// A real file and the occurrences in it, as counted in its text.
