@@ -138,10 +138,11 @@ void BomRun::useDialog(host::DesignData design, BomResult& result,
             session->cancel();
         }
         session->stop();
-    } catch (const Failure&) {
-        throw;
+    } catch (const Failure& failure) {
+        throw folder_.explained(failure, *session);
     } catch (const std::runtime_error& obstacle) {
-        throw Failure(ExitCode::AddinFailed, explain(*session, obstacle.what()));
+        throw folder_.explained(Failure(ExitCode::AddinFailed, explain(*session, obstacle.what())),
+                                *session);
     }
     append(result.shell, request_.open
                              ? session->openedByShell()

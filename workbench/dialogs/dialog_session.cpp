@@ -24,6 +24,16 @@ DialogSession::DialogSession(const AddinChoice& choice, DataUse use,
 void DialogSession::act(const std::function<void(host::Session&)>& steps) {
     const std::size_t before = session_->messages().size();
     try {
+        take(steps);
+        reportMessages(session_->messages(), before);
+        refuseUnexpected(session_->uncaughtExceptions());
+    } catch (const Failure& failure) {
+        throw folder_.explained(failure, *session_);
+    }
+}
+
+void DialogSession::take(const std::function<void(host::Session&)>& steps) {
+    try {
         steps(*session_);
     } catch (const Failure&) {
         throw;
@@ -31,8 +41,6 @@ void DialogSession::act(const std::function<void(host::Session&)>& steps) {
         refuseUnexpected(session_->uncaughtExceptions());
         throw Failure(ExitCode::BadUsage, obstacle.what());
     }
-    reportMessages(session_->messages(), before);
-    refuseUnexpected(session_->uncaughtExceptions());
 }
 
 void DialogSession::open(const std::string& command) {

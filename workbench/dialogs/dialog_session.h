@@ -32,6 +32,8 @@ public:
     [[nodiscard]] host::Session& session() { return *session_; }
 
 private:
+    void take(const std::function<void(host::Session&)>& steps);
+
     RunFolder folder_;
     std::unique_ptr<host::Session> session_;
 };

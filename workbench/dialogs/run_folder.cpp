@@ -7,6 +7,7 @@
 #include "host/base/utf8_path.h"
 #include "host/session/environment.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -57,6 +58,8 @@ RunFolder::RunFolder(AddinChoice choice, DataUse use) : choice_(std::move(choice
                 ? host::SessionFolder::keep(dataHome_ / kStayingFolder, choice_.lockTimeout)
                 : host::SessionFolder::makeFresh({}));
         copySettings();
+    } catch (const Failure&) {
+        throw;
     } catch (const std::runtime_error& error) {
         throw Failure(ExitCode::NoAddin, error.what());
     }
@@ -79,9 +82,26 @@ void RunFolder::copySettings() const {
     const fs::path mine = settingsIn(folder_->path());
     fs::create_directories(mine.parent_path());
     fs::remove(mine);
-    if (!dataHome_.empty() && fs::exists(settingsIn(dataHome_))) {
-        fs::copy_file(settingsIn(dataHome_), mine);
+    const fs::path kept = settingsIn(dataHome_);
+    std::error_code failure;
+    if (!dataHome_.empty() && fs::exists(kept) && !fs::copy_file(kept, mine, failure)) {
+        throw Failure(ExitCode::NoAddin, "the settings " + host::toUtf8(kept) +
+                                             " cannot be read (" + failure.message() +
+                                             "); remove them to begin with new ones");
     }
+}
+
+Failure RunFolder::explained(const Failure& failure, const host::Session& session) const {
+    constexpr const char* kXmlError = "_com_error";
+    const fs::path kept = settingsIn(dataHome_);
+    const auto& thrown = session.uncaughtExceptions();
+    if (dataHome_.empty() || !fs::exists(kept) ||
+        std::ranges::find(thrown, kXmlError, &host::UncaughtException::type) == thrown.end()) {
+        return failure;
+    }
+    return {failure.code(), std::string(failure.what()) + "; the settings " + host::toUtf8(kept) +
+                                " may be damaged: correct them, or remove them to begin with new "
+                                "ones"};
 }
 
 host::SessionOptions RunFolder::session() const {

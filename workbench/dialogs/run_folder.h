@@ -2,6 +2,7 @@
 
 #include "workbench/cli/addin_choice.h"
 
+#include "workbench/cli/exit_code.h"
 #include "workbench/output/staged_files.h"
 
 #include "host/session/session.h"
@@ -39,6 +40,10 @@ public:
 
     /// What each session of the run is started with.
     [[nodiscard]] host::SessionOptions session() const;
+
+    /// The failure of a session, with what to do about it where the settings may be the cause: the
+    /// add-in reads them as XML, and passes on what is thrown there.
+    [[nodiscard]] Failure explained(const Failure& failure, const host::Session& session) const;
 
     /// Adds the settings as they are now to what is to be written, as those of the data home, which
     /// has to be one that is changed. Throws a `Failure` where that fails.

@@ -38,11 +38,14 @@ Warning warningOf(const Component& first, std::size_t count) {
     const std::string what = "states " + numberText(stated.value) +
                              (stated.unit.empty() ? " without a unit" : " " + stated.unit) +
                              " as the density of " + partsText(first.name, count);
-    Warning warning{.code = "density-unit",
-                    .text = what + ", which is no mass by volume; a default density is assumed",
-                    .component = first.name,
-                    .value = stated.value,
-                    .unit = stated.unit};
+    Warning warning{
+        .code = "density-unit",
+        .text = what +
+                (stated.value > 0 ? ", which is no mass by volume" : ", which is not above 0") +
+                "; a default density is assumed",
+        .component = first.name,
+        .value = stated.value,
+        .unit = stated.unit};
     if (first.material->density) {
         warning.code = "density-range";
         warning.text = what + ", which is " + numberText(perCubicMetre(*first.material)) +

@@ -75,6 +75,10 @@ TEST_F(StepMaterials, ALostSignOfTheExponentIsUnderstood) {
 TEST_F(StepMaterials, ADensityThatIsNoNumberAboveZeroIsAssumedAndReported) {
     EXPECT_TRUE(materialIn(plateOf(samples::Material{"Void", 0})).densityAssumed);
     ASSERT_EQ(warnings.size(), 1U);
+    EXPECT_EQ(warnings[0].line(),
+              path +
+                  "states 0 kg m^-3 as the density of \"Plate\", which is not above 0; a default "
+                  "density is assumed");
     EXPECT_EQ(warnings[0].code, "density-unit");
 }
 

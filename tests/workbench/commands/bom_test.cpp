@@ -304,6 +304,39 @@ TEST_F(BomCommand, AMissingAddinIsNamed) {
                                  " is missing\n");
 }
 
+TEST_F(BomCommand, DamagedSettingsAreNamed) {
+    fs::create_directories(addinCopy());
+    writeFile(settingsFile(), "<configuration");
+    const std::string advice = "; the settings " + host::toUtf8(settingsFile()) +
+                               " may be damaged: correct them, or remove them to begin with new "
+                               "ones\n";
+
+    const ProgramResult list = run({"bom", design(kSmallDesign), "--out", out()});
+    const ProgramResult provider = run({"configure"});
+
+    EXPECT_EQ(list.status, 4);
+    EXPECT_TRUE(list.errors.ends_with(advice)) << list.errors;
+    EXPECT_TRUE(isOneLine(list.errors)) << list.errors;
+    EXPECT_FALSE(fs::exists(folder.path() / "out"));
+    EXPECT_EQ(provider.status, 4);
+    EXPECT_TRUE(provider.errors.ends_with(advice)) << provider.errors;
+}
+
+TEST_F(BomCommand, SettingsThatCannotBeReadAreNamed) {
+    fs::create_directories(settingsFile());
+
+    const ProgramResult result = run({"bom", design(kSmallDesign)});
+
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.errors.rfind("tarnix-workbench: the settings " + host::toUtf8(settingsFile()) +
+                                      " cannot be read (",
+                                  0),
+              0U)
+        << result.errors;
+    EXPECT_TRUE(result.errors.ends_with("); remove them to begin with new ones\n"))
+        << result.errors;
+}
+
 TEST_F(BomCommand, AMissingFileIsRefusedWithALine) {
     const ProgramResult result = run({"bom", "nowhere.step", "--out", out()});
 
