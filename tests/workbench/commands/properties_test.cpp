@@ -116,8 +116,8 @@ TEST_F(Properties, AreSavedInAFileNamedWithoutAFolder) {
 TEST_F(Properties, ThatCannotBeSavedLeaveNothing) {
     test_support::writeFile(host::fromUtf8(out()), "no folder");
 
-    const ProgramResult result = run({"properties", design(kAssembly), "--set", "Description=new",
-                                      "--save", out() + "/b.json"});
+    const ProgramResult result = run(
+        {"properties", design(kAssembly), "--set", "Description=new", "--save", out() + "/b.json"});
 
     EXPECT_EQ(result.status, 5);
     EXPECT_EQ(result.output, "");
