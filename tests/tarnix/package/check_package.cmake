@@ -67,7 +67,7 @@ file(WRITE "${place}/design.design.json" [[
 set(ENV{XDG_DATA_HOME} "${place}/data")
 execute_process(COMMAND ${WORKBENCH} bom design.design.json --addin Tarnix --out . --column Quantity --keep-columns
                 WORKING_DIRECTORY "${place}" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
-file(READ "${place}/TarnixBOM.csv" csv)
+file(READ "${place}/design-TarnixBOM.csv" csv)
 string(REPLACE "\r" "" csv "${csv}")
 # Two bolts of half a kilogram are one line of one kilogram.
 set(expected_csv "Pos.;Part Number;BOM Structure;Quantity;\n1;M8;Produce;2;\n\n;Total mass of structure BOM [kg]: ;1.000\n")
