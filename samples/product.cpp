@@ -102,9 +102,9 @@ private:
             text_.add("DESCRIPTIVE_REPRESENTATION_ITEM(" + literal(material.name) + ",'')");
         const std::string kilogram = text_.add("(MASS_UNIT()NAMED_UNIT(*)SI_UNIT(.KILO.,.GRAM.))");
         const std::string metre = text_.add("(LENGTH_UNIT()NAMED_UNIT(*)SI_UNIT($,.METRE.))");
-        const std::string unit =
-            text_.add("DERIVED_UNIT((" + text_.add("DERIVED_UNIT_ELEMENT(" + kilogram + ",1.)") +
-                      "," + text_.add("DERIVED_UNIT_ELEMENT(" + metre + ",-3.)") + "))");
+        const std::string volume = text_.add("DERIVED_UNIT_ELEMENT(" + metre + ",-3.)");
+        const std::string mass = text_.add("DERIVED_UNIT_ELEMENT(" + kilogram + ",1.)");
+        const std::string unit = text_.add("DERIVED_UNIT((" + mass + "," + volume + "))");
         const std::string density =
             text_.add("MEASURE_REPRESENTATION_ITEM('density measure',POSITIVE_RATIO_MEASURE(" +
                       real(material.density) + ")," + unit + ")");

@@ -57,8 +57,9 @@ std::string addLine(StepText& text, const std::vector<double>& from,
         addDirection(text, {way[0] / length, way[1] / length, way[2] / length});
     const std::string vector = text.add("VECTOR(''," + direction + ",1.)");
     const std::string line = text.add("LINE(''," + addPoint(text, from) + "," + vector + ")");
-    return text.add("EDGE_CURVE(''," + addVertex(text, from) + "," + addVertex(text, to) + "," +
-                    line + ",.T.)");
+    const std::string end = addVertex(text, to);
+    const std::string start = addVertex(text, from);
+    return text.add("EDGE_CURVE(''," + start + "," + end + "," + line + ",.T.)");
 }
 
 /// The edges of a contour at a height, counterclockwise from above.
@@ -217,8 +218,10 @@ std::string addSolid(StepText& text, const Solid& solid) {
 }
 
 std::string addPlacement(StepText& text, const Placement& placement) {
-    return text.add("AXIS2_PLACEMENT_3D(''," + addPoint(text, placement.origin) + "," +
-                    addDirection(text, placement.z) + "," + addDirection(text, placement.x) + ")");
+    const std::string x = addDirection(text, placement.x);
+    const std::string z = addDirection(text, placement.z);
+    const std::string origin = addPoint(text, placement.origin);
+    return text.add("AXIS2_PLACEMENT_3D(''," + origin + "," + z + "," + x + ")");
 }
 
 }  // namespace samples

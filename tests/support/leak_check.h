@@ -2,6 +2,9 @@
 
 namespace test_support {
 
+/// Whether this build looks for leaks: in one with sanitizers.
+bool looksForLeaks();
+
 /// Looks for memory that is no longer reachable, and reports it on stderr. True when there is some;
 /// always false in a build without a sanitizer.
 bool leaksFound();

@@ -1,5 +1,6 @@
 #include "tests/support/addin_test.h"
 #include "tests/support/files.h"
+#include "tests/support/leak_check.h"
 #include "tests/support/temporary_folder.h"
 
 #include "host/application/main_queue.h"
@@ -265,9 +266,9 @@ TEST_F(SessionWithAddin, ASecondOneInTheProcessIsRefusedAndDoesNotDisturbTheFirs
 }
 
 TEST_F(SessionWithAddin, OnesAfterAnotherMayShareAFolder) {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "the leak checker needs the module's file, which goes with the folder";
-#endif
+    if (test_support::looksForLeaks()) {
+        GTEST_SKIP() << "the leak checker needs the module's file, which goes with the folder";
+    }
     const test_support::TemporaryFolder place;
     SessionOptions options = addinOptions();
     options.folder =
