@@ -1,3 +1,4 @@
+#include "tests/support/leak_check.h"
 #include "tests/support/settings.h"
 #include "tests/tarnix/bom/behaviour/bom_dialog_fixture.h"
 #include "tests/tarnix/bom/model/random_design.h"
@@ -112,7 +113,7 @@ class WholeDialog : public BomDialogTest {
 protected:
     [[nodiscard]] host::SessionOptions options() const override {
         host::SessionOptions many = addinOptions();
-        many.unloadAtEnd = true;
+        many.unloadAtEnd = !test_support::looksForLeaks();
         return many;
     }
 
