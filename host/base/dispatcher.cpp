@@ -3,7 +3,9 @@
 #include "host/base/gate.h"
 #include "host/base/host_state.h"
 
+#ifndef _MSC_VER
 #include <cxxabi.h>
+#endif
 
 #include <cstdlib>
 #include <exception>
@@ -21,6 +23,17 @@ void record(UncaughtException thrown) {
 }
 
 /// The class of the exception being handled, readable.
+#ifdef _MSC_VER
+std::string currentExceptionType() {
+    try {
+        throw;
+    } catch (const std::exception& error) {
+        return typeid(error).name();
+    } catch (...) {
+        return "unknown";
+    }
+}
+#else
 std::string currentExceptionType() {
     const std::type_info* type = abi::__cxa_current_exception_type();
     if (type == nullptr) {
@@ -31,6 +44,7 @@ std::string currentExceptionType() {
         abi::__cxa_demangle(type->name(), nullptr, nullptr, &status), std::free);
     return status == 0 ? name.get() : type->name();
 }
+#endif
 
 }  // namespace
 

@@ -19,7 +19,8 @@ int parseInt(const std::string& text);
 /// "nan" in any case are read; what follows is ignored. Throws `std::invalid_argument` ("invalid
 /// stod argument") where no number is found, and `std::out_of_range` ("stod argument out of range")
 /// where it is too large for a double, or so small that a double could only hold it with a loss: a
-/// subnormal double that is spelled exactly is read.
+/// subnormal double that is spelled exactly is read. glibc overlooks that loss in some hexadecimal
+/// numbers with one digit too many; here they are out of range too.
 double parseDouble(const std::string& text);
 
 /// `value` in fixed notation with exactly `decimals` digits after the point, rounded as a stream
