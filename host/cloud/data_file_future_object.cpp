@@ -9,6 +9,8 @@
 
 #include <exception>
 #include <functional>
+#include <random>
+#include <string>
 #include <system_error>
 
 namespace host {
@@ -18,10 +20,12 @@ namespace fs = std::filesystem;
 namespace {
 
 /// A name that no listing shows, in the same folder: what is half copied is no file of the user's.
+/// It is another one each time: two processes may upload one name at once.
 fs::path hiddenBeside(const fs::path& path) {
+    std::random_device device;
     fs::path name = ".";
     name += path.filename();
-    name += ".uploading";
+    name += "." + std::to_string(device()) + ".uploading";
     return path.parent_path() / name;
 }
 
@@ -60,11 +64,15 @@ void DataFileFutureObject::arrive(const fs::path& source, const fs::path& name) 
             fail("its folder is gone");
             return;
         }
+        if (!fs::is_regular_file(source)) {
+            fail(toUtf8(source) + " is no ordinary file");
+            return;
+        }
         copyWhole(source, folder_->path() / name);
         folder_->refresh();
         file_ = folder_->file(name);
     } catch (const fs::filesystem_error& error) {
-        fail(error.what());
+        fail(toUtf8(source) + " cannot be copied: " + error.code().message());
         return;
     }
     if (file_) {

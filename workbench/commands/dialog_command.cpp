@@ -50,7 +50,7 @@ void refuseUnknown(const std::string& command) {
     if (std::ranges::find(known, command) == known.end()) {
         const std::string nearest = nearestWord(command, known);
         refuse("dialog " + command + ": no such command" +
-               (nearest.empty() ? "" : "; did you mean " + nearest + "?") +
+               (nearest.empty() ? ";" : "; did you mean " + nearest + "?") +
                " \"tarnix-workbench commands\" lists them");
     }
 }

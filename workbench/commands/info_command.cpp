@@ -58,15 +58,19 @@ std::string boxText(const std::optional<host::Box>& box) {
 std::string obstacleText(const host::DesignMeasures& measures, bool shapesWereRead) {
     return "Measures     " +
            (shapesWereRead ? "unknown: " + printable(measures.unmeasured.front().reason)
-                           : "not taken; --measure takes them") +
+                           : "not taken, and bodies not counted; --measure does both") +
            "\n";
 }
 
 /// What the whole design measures, or why it was not measured.
 std::string measuresText(const host::DesignData& design, bool shapesWereRead) {
     const host::DesignMeasures measures = host::measureDesign(design);
-    std::string text = "Bodies       " + std::to_string(measures.bodies) + "\n";
-    if (!measures.unmeasured.empty()) {
+    const bool isMeasured = measures.unmeasured.empty();
+    // Bodies are counted with the shapes, and there are some even where one has no measures.
+    std::string text = isMeasured || shapesWereRead
+                           ? "Bodies       " + std::to_string(measures.bodies) + "\n"
+                           : "";
+    if (!isMeasured) {
         return text + obstacleText(measures, shapesWereRead);
     }
     text += "Area         " + fixed(measures.area, 2) + " cm\xC2\xB2\n";

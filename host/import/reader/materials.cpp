@@ -64,7 +64,7 @@ std::optional<double> basicFactor(const Handle(StepBasic_NamedUnit) & unit) {
 
 /// How many of the unit make one kg/cm3; none for a unit that is no mass by volume.
 std::optional<double> unitsPerDensity(const Handle(StepBasic_DerivedUnit) & unit) {
-    constexpr double kCubed = 3;
+    constexpr double kByVolume = -3;
     if (unit.IsNull() || unit->Elements().IsNull() || unit->NbElements() != 2) {
         return std::nullopt;
     }
@@ -76,7 +76,7 @@ std::optional<double> unitsPerDensity(const Handle(StepBasic_DerivedUnit) & unit
             element.IsNull() ? std::nullopt : basicFactor(element->Unit());
         if (factor && isMass(element->Unit()) && element->Exponent() == 1) {
             kilograms = *factor / 1000;
-        } else if (factor && isLength(element->Unit()) && std::abs(element->Exponent()) == kCubed) {
+        } else if (factor && isLength(element->Unit()) && element->Exponent() == kByVolume) {
             centimetres = *factor * 100;
         }
     }

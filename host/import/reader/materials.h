@@ -27,8 +27,7 @@ struct Material {
 /// representations. Where the bodies of a product carry materials of their own, the first counts.
 /// What a product says nothing of is taken from the material product it is made from.
 ///
-/// The unit of a density is a mass by a cubed length. An exponent of 3 counts as one of -3: some
-/// writers lose the sign, and there is nothing else it could mean.
+/// The unit of a density is a mass by a cubed length: one of other exponents counts as none.
 std::unordered_map<const StepBasic_ProductDefinition*, Material> readMaterials(
     const StepFile& file);
 

@@ -128,6 +128,15 @@ TEST_F(Uploads, OfAMissingFileFailAndNameIt) {
               "DataFolder::uploadFile: " + disk("missing.ipt") + ": no such file");
 }
 
+TEST_F(Uploads, OfAFolderFailAndNameIt) {
+    const Ptr<DataFileFuture> future = upload(host::toUtf8(project()));
+    wait(0s);
+
+    EXPECT_EQ(future->uploadState(), UploadFailed);
+    EXPECT_EQ(lastError().description,
+              "DataFolder::uploadFile: " + host::toUtf8(project()) + " is no ordinary file");
+}
+
 TEST_F(Uploads, OfAFileDeletedMeanwhileFail) {
     storagePace().uploadSeconds = 2;
     const Ptr<DataFileFuture> future = upload(design("frame.ipt"));

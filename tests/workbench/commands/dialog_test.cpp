@@ -77,6 +77,12 @@ TEST_F(DialogCommand, AnUnknownCommandNamesTheNearestOne) {
               "\"tarnix-workbench commands\" lists them\n");
 }
 
+TEST_F(DialogCommand, AnUnknownCommandThatNoneIsNearIsRefusedToo) {
+    EXPECT_EQ(run({"dialog", "zzz"}).errors,
+              "tarnix-workbench: dialog zzz: no such command; \"tarnix-workbench commands\" lists "
+              "them\n");
+}
+
 TEST_F(DialogCommand, ACommandWithoutADialogIsReported) {
     const ProgramResult result = run({"dialog", "QM_TX_unitsConversion"});
 

@@ -74,8 +74,11 @@ TEST_F(StepFile, IsMeasuredByInfoWhereThatIsAskedFor) {
     const ProgramResult measured = run({"info", sample, "--measure"});
 
     EXPECT_EQ(tree.status, 0) << tree.errors;
-    EXPECT_NE(tree.output.find("Measures     not taken; --measure takes them\n"), std::string::npos)
+    EXPECT_NE(
+        tree.output.find("Measures     not taken, and bodies not counted; --measure does both\n"),
+        std::string::npos)
         << tree.output;
+    EXPECT_EQ(tree.output.find("Bodies "), std::string::npos) << tree.output;
     EXPECT_EQ(measured.output.find("Measures"), std::string::npos) << measured.output;
     EXPECT_NE(measured.output.find("Volume       "), std::string::npos) << measured.output;
     // Counts and materials are the same.
