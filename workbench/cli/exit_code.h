@@ -24,7 +24,8 @@ struct ExitMeaning {
 
 inline constexpr ExitMeaning kExitMeanings[] = {
     {ExitCode::Success, "success"},
-    {ExitCode::BadInput, "the file cannot be read as a design or not be measured, or --strict found a warning"},
+    {ExitCode::BadInput,
+     "the file cannot be read as a design or not be measured, or --strict found a warning"},
     {ExitCode::BadUsage, "wrong usage"},
     {ExitCode::NoAddin, "the add-in is missing or in use"},
     {ExitCode::AddinFailed, "the add-in failed"},

@@ -17,7 +17,6 @@ namespace workbench {
 namespace {
 
 using namespace adsk::core;
-using host::TableCell;
 
 /// One way to read "ROW:COLUMN=VALUE", in which each part may hold the marks of the others.
 struct Reading {

@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -135,6 +137,22 @@ TEST_F(Uploads, OfAFolderFailAndNameIt) {
     EXPECT_EQ(future->uploadState(), UploadFailed);
     EXPECT_EQ(lastError().description,
               "DataFolder::uploadFile: " + host::toUtf8(project()) + " is no ordinary file");
+}
+
+TEST_F(Uploads, RemoveWhatAKilledProcessLeftHalfCopied) {
+    namespace fs = std::filesystem;
+    const fs::path left = project() / ".frame.ipt.17.uploading";
+    const fs::path begun = project() / ".plate.ipt.18.uploading";
+    for (const fs::path& each : {left, begun}) {
+        std::ofstream(each) << "half";
+    }
+    fs::last_write_time(left, fs::file_time_type::clock::now() - 2h);
+
+    upload(design("bolt.ipt"));
+    wait(0s);
+
+    EXPECT_FALSE(fs::exists(left));
+    EXPECT_TRUE(fs::exists(begun));
 }
 
 TEST_F(Uploads, OfAFileDeletedMeanwhileFail) {
