@@ -34,7 +34,7 @@ fs::path hiddenBeside(const fs::path& path) {
 }
 
 /// Removes what processes left that ended while they copied. No copy takes an hour.
-void removeLeftovers(const fs::path& folder) {
+void removeHalfCopied(const fs::path& folder) {
     const auto limit = fs::file_time_type::clock::now() - std::chrono::hours(1);
     std::error_code ignored;
     std::vector<fs::path> leftovers;
@@ -52,7 +52,7 @@ void removeLeftovers(const fs::path& folder) {
 
 void copyWhole(const fs::path& source, const fs::path& target) {
     const fs::path half = hiddenBeside(target);
-    removeLeftovers(target.parent_path());
+    removeHalfCopied(target.parent_path());
     try {
         fs::copy_file(source, half, fs::copy_options::overwrite_existing);
         fs::rename(half, target);
