@@ -7,7 +7,7 @@
 
 #include "bench/bench_design.h"
 #include "workbench/dialogs/bom_run.h"
-#include "workbench/output/parts_list.h"
+#include "workbench/output/bom_list.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,8 +2,8 @@
 
 #include "workbench/cli/exit_code.h"
 #include "workbench/dialogs/addin_ids.h"
+#include "workbench/output/bom_list.h"
 #include "workbench/output/display_text.h"
-#include "workbench/output/parts_list.h"
 
 #include <algorithm>
 #include <string_view>
@@ -26,7 +26,7 @@ std::string propertyOf(const host::TableCell& header) {
 }  // namespace
 
 std::vector<BomColumn> columnsOf(const host::TableView& table) {
-    const PartsList list = readPartsList(table);
+    const BomList list = readBomList(table);
     std::vector<BomColumn> columns;
     for (std::size_t i = 0; i < list.keys.size(); ++i) {
         const host::TableCell& header = table.rows.front().cells[i];

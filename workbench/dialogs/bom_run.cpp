@@ -54,10 +54,10 @@ std::vector<RowPlace> placesOf(const host::Session& session, const std::vector<B
     return places;
 }
 
-PartsList readVisibleList(const host::Session& session, const BomTab& tab) {
+BomList readVisibleList(const host::Session& session, const BomTab& tab) {
     const Ptr<TableCommandInput> table = session.table(tab.table);
     const host::TableView view = host::readTable(table);
-    PartsList list = readPartsList(view);
+    BomList list = readBomList(view);
     list.places = placesOf(session, rowsOf(table, view));
     if (&tab == &kStructureTab) {
         const Ptr<StringValueCommandInput> total = session.input(kTotalMass);

@@ -5,7 +5,7 @@
 #include "workbench/dialogs/bom_dialog.h"
 #include "workbench/dialogs/cell_edits.h"
 #include "workbench/dialogs/run_folder.h"
-#include "workbench/output/parts_list.h"
+#include "workbench/output/bom_list.h"
 #include "workbench/output/staged_files.h"
 
 #include "host/session/session.h"
@@ -34,7 +34,7 @@ struct BomRequest {
 
 /// What the add-in made of a design.
 struct BomResult {
-    PartsList list;
+    BomList list;
     std::string exported;              ///< bytes of the exported file, empty if it left none
     std::filesystem::path exportFile;  ///< where it stays after the run, empty if it does not
     std::vector<std::string> shell;    ///< what the add-in asked the shell to open; of a file that

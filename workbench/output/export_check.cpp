@@ -7,7 +7,7 @@ namespace workbench {
 namespace {
 
 /// A line feed in a cell makes a further line of the file.
-std::size_t lineFeedsIn(const PartsList& list) {
+std::size_t lineFeedsIn(const BomList& list) {
     std::ptrdiff_t count = 0;
     for (const std::vector<std::string>& row : list.rows) {
         for (const std::string& cell : row) {
@@ -19,7 +19,7 @@ std::size_t lineFeedsIn(const PartsList& list) {
 
 }  // namespace
 
-std::string whyIncomplete(const std::string& exported, const PartsList& list,
+std::string whyIncomplete(const std::string& exported, const BomList& list,
                           const std::string& end) {
     if (list.rows.empty()) {
         return "";

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/output/parts_list.h"
+#include "workbench/output/bom_list.h"
 
 #include <string>
 
@@ -11,7 +11,6 @@ namespace workbench {
 /// which exports nothing.
 ///
 /// The add-in does not notice that a disk is full, and its file is then cut at any place.
-std::string whyIncomplete(const std::string& exported, const PartsList& list,
-                          const std::string& end);
+std::string whyIncomplete(const std::string& exported, const BomList& list, const std::string& end);
 
 }  // namespace workbench

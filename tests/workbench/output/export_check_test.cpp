@@ -4,7 +4,7 @@
 
 #include <string>
 
-using workbench::PartsList;
+using workbench::BomList;
 using workbench::whyIncomplete;
 
 namespace {
@@ -13,7 +13,7 @@ constexpr const char* kEnd = ";Total mass: ;1.500\r\n";
 
 const std::string kWhole = "Pos.;Part;\r\n1;Bolt;\r\n2;Nut;\r\n\r\n;Total mass: ;1.500\r\n";
 
-PartsList twoRows() {
+BomList twoRows() {
     return {{"Pos.", "Part"}, {"Pos.", "Part"}, {{"1", "Bolt"}, {"2", "Nut"}}, "", "1.500"};
 }
 
@@ -38,7 +38,7 @@ TEST(ExportCheck, AnExportThatIsMissingIsIncomplete) {
 TEST(ExportCheck, AListWithoutRowsExportsNothing) { EXPECT_EQ(whyIncomplete("", {}, kEnd), ""); }
 
 TEST(ExportCheck, ALineFeedInACellMakesALine) {
-    PartsList list = twoRows();
+    BomList list = twoRows();
     list.rows[0][1] = "Bolt\nM5";
 
     EXPECT_EQ(whyIncomplete("Pos.;Part;\r\n1;Bolt\r\nM5;\r\n2;Nut;\r\n\r\n;Total mass: ;1.500\r\n",

@@ -1,3 +1,3 @@
 // Planted: an option knows a command, and how lists are written.
 #include "workbench/commands/commands.h"
-#include "workbench/output/parts_list.h"
+#include "workbench/output/bom_list.h"

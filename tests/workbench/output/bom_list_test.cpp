@@ -1,4 +1,4 @@
-#include "workbench/output/parts_list.h"
+#include "workbench/output/bom_list.h"
 
 #include "host/design/reading_warning.h"
 #include "tests/support/text.h"
@@ -8,7 +8,7 @@
 using host::TableCell;
 using host::TableView;
 using test_support::text;
-using workbench::PartsList;
+using workbench::BomList;
 using workbench::console::Charset;
 
 namespace {
@@ -36,8 +36,8 @@ TableView smallTable() {
 
 }  // namespace
 
-TEST(PartsList, TheFirstRowOfTheTableHoldsTheCaptions) {
-    const PartsList list = workbench::readPartsList(smallTable());
+TEST(BomList, TheFirstRowOfTheTableHoldsTheCaptions) {
+    const BomList list = workbench::readBomList(smallTable());
 
     EXPECT_EQ(list.captions, (std::vector<std::string>{"", "Pos.", "", "Part Number"}));
     EXPECT_EQ(list.keys, (std::vector<std::string>{"Image", "Pos.", "Tree", "Part Number"}));
@@ -45,8 +45,8 @@ TEST(PartsList, TheFirstRowOfTheTableHoldsTheCaptions) {
     EXPECT_EQ(list.rows[0], (std::vector<std::string>{"Asm", "1", "", "Frame"}));
 }
 
-TEST(PartsList, PicturesBecomeSignsThatAreIndentedAsATree) {
-    PartsList list = workbench::readPartsList(smallTable());
+TEST(BomList, PicturesBecomeSignsThatAreIndentedAsATree) {
+    BomList list = workbench::readBomList(smallTable());
     list.places = {{.level = 1, .path = "Frame:1"}, {.level = 2, .path = "Frame:1+Bolt:1"}};
 
     EXPECT_EQ(workbench::asTable(list, Charset::Utf8), text(R"(
@@ -63,8 +63,8 @@ TEST(PartsList, PicturesBecomeSignsThatAreIndentedAsATree) {
         )") + "\n");
 }
 
-TEST(PartsList, RowsWhoseMaterialIsAssumedSaySo) {
-    PartsList list{{"Part"}, {"Part"}, {{"Bolt"}, {"Nut"}}, "", ""};
+TEST(BomList, RowsWhoseMaterialIsAssumedSaySo) {
+    BomList list{{"Part"}, {"Part"}, {{"Bolt"}, {"Nut"}}, "", ""};
     list.places = {{.level = 1, .path = "Bolt:1"},
                    {.level = 1, .path = "Nut:1", .isAssumed = true}};
 
@@ -76,15 +76,15 @@ TEST(PartsList, RowsWhoseMaterialIsAssumedSaySo) {
         )") + "\n");
 }
 
-TEST(PartsList, TheTotalIsBelowTheTable) {
-    PartsList list{{"Part"}, {"Part"}, {{"Bolt"}}, "Total mass [kg] : ", "1.500"};
+TEST(BomList, TheTotalIsBelowTheTable) {
+    BomList list{{"Part"}, {"Part"}, {{"Bolt"}}, "Total mass [kg] : ", "1.500"};
 
     EXPECT_EQ(workbench::asTable(list, Charset::Utf8),
               "Part\n────\nBolt\n\nTotal mass [kg] : 1.500\n");
 }
 
-TEST(PartsList, JsonHasAnObjectForEachRow) {
-    PartsList list = workbench::readPartsList(smallTable());
+TEST(BomList, JsonHasAnObjectForEachRow) {
+    BomList list = workbench::readBomList(smallTable());
     list.places = {{.level = 1, .path = "Frame:1"},
                    {.level = 2, .path = "Frame:1+Bolt:1", .isAssumed = true}};
     const host::ReadingWarning warning{.code = "density-range",
@@ -128,15 +128,14 @@ TEST(PartsList, JsonHasAnObjectForEachRow) {
         )") + "\n");
 }
 
-TEST(PartsList, EqualCaptionsGetKeysOfTheirOwn) {
+TEST(BomList, EqualCaptionsGetKeysOfTheirOwn) {
     TableView table{"t", {0, 1}, {{0, {caption("Mass"), caption("Mass")}}}};
 
-    EXPECT_EQ(workbench::readPartsList(table).keys, (std::vector<std::string>{"Mass", "Mass 2"}));
+    EXPECT_EQ(workbench::readBomList(table).keys, (std::vector<std::string>{"Mass", "Mass 2"}));
 }
 
-TEST(PartsList, AColumnCalledLevelHasAnotherKey) {
+TEST(BomList, AColumnCalledLevelHasAnotherKey) {
     TableView table{"t", {0, 1}, {{0, {caption("Level"), caption("Path")}}}};
 
-    EXPECT_EQ(workbench::readPartsList(table).keys,
-              (std::vector<std::string>{"Level 2", "Path 2"}));
+    EXPECT_EQ(workbench::readBomList(table).keys, (std::vector<std::string>{"Level 2", "Path 2"}));
 }

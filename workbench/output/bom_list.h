@@ -20,7 +20,7 @@ struct RowPlace {
 };
 
 /// What the add-in's table shows, ready to be written.
-struct PartsList {
+struct BomList {
     std::vector<std::string> captions;           ///< of the visible columns; some have none
     std::vector<std::string> keys;               ///< a unique name for each column
     std::vector<std::vector<std::string>> rows;  ///< a cell for each caption
@@ -31,16 +31,16 @@ struct PartsList {
 
 /// Reads a table whose first row holds the captions. A column's key is its caption, or "Image" for
 /// pictures and "Tree" for others without one; a key that is taken gets a number.
-PartsList readPartsList(const host::TableView& table);
+BomList readBomList(const host::TableView& table);
 
 /// As aligned columns for a terminal, with the total below them. Icons become signs, which are
 /// indented by the level of the row where the list shows a tree. Rows whose material is assumed say
 /// so in a last column. For `width` see `TextTable::text`.
-std::string asTable(const PartsList& list, console::Charset charset,
+std::string asTable(const BomList& list, console::Charset charset,
                     std::size_t width = TextTable::kUnlimited);
 
 /// As a JSON object: "rows" with an object for each row, from key to cell, and with its "Level" and
 /// "Path", and "Material assumed"; "total" where the tab shows one; and "warnings".
-std::string asJson(const PartsList& list, const std::vector<host::ReadingWarning>& warnings);
+std::string asJson(const BomList& list, const std::vector<host::ReadingWarning>& warnings);
 
 }  // namespace workbench

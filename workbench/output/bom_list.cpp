@@ -1,4 +1,4 @@
-#include "workbench/output/parts_list.h"
+#include "workbench/output/bom_list.h"
 
 #include "workbench/output/display_text.h"
 
@@ -42,12 +42,12 @@ std::string signOf(const std::string& picture, console::Charset charset) {
     return charset == console::Charset::Utf8 ? sign->utf8 : sign->ascii;
 }
 
-std::size_t columnOf(const PartsList& list, const char* key) {
+std::size_t columnOf(const BomList& list, const char* key) {
     return static_cast<std::size_t>(std::ranges::find(list.keys, key) - list.keys.begin());
 }
 
 /// The cells of a row, with an indented sign for its icon.
-std::vector<std::string> withSign(const PartsList& list, std::size_t row, int depth,
+std::vector<std::string> withSign(const BomList& list, std::size_t row, int depth,
                                   console::Charset charset) {
     std::vector<std::string> cells = list.rows[row];
     const std::size_t image = columnOf(list, kImageKey);
@@ -83,7 +83,7 @@ std::string firstFree(const std::string& wanted, const std::vector<std::string>&
     return key;
 }
 
-std::vector<std::string> makeKeys(const PartsList& list, const host::TableView& table) {
+std::vector<std::string> makeKeys(const BomList& list, const host::TableView& table) {
     // What a row has in JSON besides its cells.
     std::vector<std::string> keys = {kLevelKey, kPathKey, kAssumedKey};
     const auto added = static_cast<std::ptrdiff_t>(keys.size());
@@ -107,7 +107,7 @@ nlohmann::ordered_json toJson(const host::ReadingWarning& warning) {
     return json;
 }
 
-nlohmann::ordered_json toJson(const PartsList& list, std::size_t row) {
+nlohmann::ordered_json toJson(const BomList& list, std::size_t row) {
     auto object = nlohmann::ordered_json::object();
     for (std::size_t i = 0; i < std::min(list.keys.size(), list.rows[row].size()); ++i) {
         object[list.keys[i]] = list.rows[row][i];
@@ -122,8 +122,8 @@ nlohmann::ordered_json toJson(const PartsList& list, std::size_t row) {
 
 }  // namespace
 
-PartsList readPartsList(const host::TableView& table) {
-    PartsList list;
+BomList readBomList(const host::TableView& table) {
+    BomList list;
     for (const host::TableRow& row : table.rows) {
         std::vector<std::string> cells;
         for (const host::TableCell& cell : row.cells) {
@@ -139,7 +139,7 @@ PartsList readPartsList(const host::TableView& table) {
     return list;
 }
 
-std::string asTable(const PartsList& list, console::Charset charset, std::size_t width) {
+std::string asTable(const BomList& list, console::Charset charset, std::size_t width) {
     const std::size_t tree = columnOf(list, kTreeKey);
     const bool showsAssumed = std::ranges::any_of(list.places, &RowPlace::isAssumed);
     std::vector<std::string> captions = withoutColumn(list.captions, tree);
@@ -164,7 +164,7 @@ std::string asTable(const PartsList& list, console::Charset charset, std::size_t
     return result;
 }
 
-std::string asJson(const PartsList& list, const std::vector<host::ReadingWarning>& warnings) {
+std::string asJson(const BomList& list, const std::vector<host::ReadingWarning>& warnings) {
     nlohmann::ordered_json json = {{"rows", nlohmann::ordered_json::array()}};
     for (std::size_t row = 0; row < list.rows.size(); ++row) {
         json["rows"].push_back(toJson(list, row));
