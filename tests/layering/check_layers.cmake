@@ -27,7 +27,8 @@ set(rules
     "tarnix/(bom|properties|helpdesk|commands|settings)|tarnix/addin/.*|tarnix/addin/state.h|no command knows addin/ beyond app and ui"
     "tarnix/commands|tarnix/(bom|properties|settings|helpdesk)/.*|tarnix/settings/web_addresses.h|the small commands need the platform, text/ and the addresses of their pages"
     "tarnix/helpdesk|tarnix/(bom|properties|commands)/.*||the helpdesk has nothing to do with the design"
-    "host|(tarnix|workbench|tests|bench)/.*||the host knows nothing of an add-in"
+    "tarnix|parts/.*||the add-in knows the published API alone"
+    "host|(tarnix|parts|workbench|tests|bench)/.*||the host knows nothing of an add-in"
     "host/include|host/.*||the public API shows no implementation"
     "host/base|host/(design|import|cloud|ui|application|session)/.*||base/ is the first step of the host's ladder"
     "host/design|host/(import|cloud|ui|application|session)/.*||design/ knows base/ alone"
@@ -35,6 +36,9 @@ set(rules
     "host/cloud|host/(ui|application|session)/.*||cloud/ knows nothing of the screen"
     "host/ui|host/(application|session)/.*||ui/ knows neither the application nor the user"
     "host/application|host/session/.*||the application does not know who uses it"
+    "parts|(tarnix|workbench|tests|bench)/.*||parts/ knows plain designs and nothing that shows or reads them"
+    "parts|host/.*|host/design/design_data.h,host/design/shape_data.h,host/design/transform.h|parts/ knows plain designs and nothing that shows or reads them"
+    "parts|(Core|Fusion)/.*||parts/ knows plain designs and nothing that shows or reads them"
     "workbench/cli|workbench/(commands|dialogs|output)/.*|workbench/cli/main.cpp|cli/ serves the others, only the program lists the commands"
     "workbench/output|workbench/(commands|dialogs)/.*||output/ writes what it is given"
     "workbench/dialogs|workbench/commands/.*||dialogs/ does not know which command asks for it"
@@ -91,7 +95,7 @@ function(check_file file)
 endfunction()
 
 file(GLOB_RECURSE files ${ROOT}/tarnix/*.h ${ROOT}/tarnix/*.cpp ${ROOT}/host/*.h ${ROOT}/host/*.cpp
-     ${ROOT}/workbench/*.h ${ROOT}/workbench/*.cpp)
+     ${ROOT}/parts/*.h ${ROOT}/parts/*.cpp ${ROOT}/workbench/*.h ${ROOT}/workbench/*.cpp)
 list(LENGTH files count)
 if(count EQUAL 0)
     message(FATAL_ERROR "no sources below ${ROOT}")

@@ -1,0 +1,93 @@
+#include "parts/csv_writer.h"
+
+#include "parts/formula_guard.h"
+
+#include <string>
+#include <string_view>
+
+namespace parts {
+namespace {
+
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string quotedWhereNeeded(const std::string& value, char delimiter) {
+    const std::string special = std::string("\"\r\n") + delimiter;
+    if (value.find_first_of(special) == std::string::npos) {
+        return value;
+    }
+    std::string quoted = "\"";
+    for (const char each : value) {
+        quoted += each == '"' ? "\"\"" : std::string(1, each);
+    }
+    return quoted + "\"";
+}
+
+std::string escapedForTsv(const std::string& value) {
+    std::string escaped;
+    for (const char each : value) {
+        switch (each) {
+            case '\t':
+                escaped += "\\t";
+                break;
+            case '\n':
+                escaped += "\\n";
+                break;
+            case '\r':
+                escaped += "\\r";
+                break;
+            case '\\':
+                escaped += "\\\\";
+                break;
+            default:
+                escaped += each;
+        }
+    }
+    return escaped;
+}
+
+std::string valueOf(const Cell& cell, const NumberFormat& numbers, bool guardFormulas) {
+    const bool isText = std::holds_alternative<std::string>(cell);
+    const std::string value = cellText(cell, numbers);
+    return isText && guardFormulas ? guardedFormula(value) : value;
+}
+
+/// Captions and rows, with what goes between values and at the end of lines.
+template <class ToText>
+void writeLines(const PartsList& list, std::ostream& stream, char delimiter, const char* lineEnd,
+                ToText toText) {
+    std::string line;
+    const auto finishLine = [&] {
+        line += lineEnd;
+        stream << line;
+        line.clear();
+    };
+    for (const ListColumn& column : list.columns) {
+        line += (&column == &list.columns.front() ? "" : std::string(1, delimiter)) +
+                toText(Cell(column.caption));
+    }
+    finishLine();
+    for (const PartsRow& row : list.rows) {
+        for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
+            line += (cell == 0 ? "" : std::string(1, delimiter)) + toText(row.cells[cell]);
+        }
+        finishLine();
+    }
+}
+
+}  // namespace
+
+void writeCsv(const PartsList& list, const CsvFormat& format, std::ostream& stream) {
+    stream << (format.byteOrderMark ? kByteOrderMark : "");
+    writeLines(list, stream, format.delimiter, "\r\n", [&](const Cell& cell) {
+        return quotedWhereNeeded(valueOf(cell, format.numbers, format.guardFormulas),
+                                 format.delimiter);
+    });
+}
+
+void writeTsv(const PartsList& list, const TsvFormat& format, std::ostream& stream) {
+    writeLines(list, stream, '\t', "\n", [&](const Cell& cell) {
+        return escapedForTsv(valueOf(cell, format.numbers, format.guardFormulas));
+    });
+}
+
+}  // namespace parts

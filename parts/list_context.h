@@ -1,0 +1,43 @@
+#pragma once
+
+#include "parts/item_measures.h"
+#include "parts/item_tree.h"
+#include "parts/part_shapes.h"
+#include "parts/parts_request.h"
+
+#include "host/design/design_data.h"
+
+#include <cstddef>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace parts {
+
+/// What all that makes a list looks at. It refers to its arguments.
+struct ListContext {
+    ListContext(const host::DesignData& ofDesign, const PartsRequest& asked,
+                const PartShapes& knownShapes);
+
+    const host::DesignData& design;
+    const PartsRequest& request;
+    const PartShapes& shapes;
+    ItemTree tree;
+    ItemMeasures measures;
+    bool isMeasured;              ///< the request needs the bodies: masses may be asked for
+    std::set<std::string> names;  ///< of all components
+
+    [[nodiscard]] const host::ComponentData& at(std::size_t component) const {
+        return design.components[component];
+    }
+
+    /// The part number, where it is empty the name.
+    [[nodiscard]] const std::string& numberOf(std::size_t component) const;
+
+    /// The name without the " (2)" that the host adds to a name that is taken.
+    [[nodiscard]] std::string baseNameOf(std::size_t component) const;
+
+    [[nodiscard]] std::optional<int> shapeOf(std::size_t component) const;
+};
+
+}  // namespace parts

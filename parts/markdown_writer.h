@@ -1,0 +1,14 @@
+#pragma once
+
+#include "parts/number_text.h"
+#include "parts/parts_list.h"
+
+#include <ostream>
+
+namespace parts {
+
+/// A table for a pull request, with the totals and the conflicts below it. What Markdown or HTML
+/// would take for markup is escaped.
+void writeMarkdown(const PartsList& list, const NumberFormat& numbers, std::ostream& stream);
+
+}  // namespace parts

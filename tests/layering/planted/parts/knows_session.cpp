@@ -1,0 +1,5 @@
+// Planted: the parts list is made of a plain design, whoever opened it.
+#include <Fusion/FusionAll.h>
+#include "host/design/design_data.h"
+#include "host/session/session.h"
+#include "workbench/dialogs/addin_ids.h"
