@@ -12,6 +12,7 @@ class App;
 namespace workbench {
 
 void addBomCommand(CLI::App& program);
+void addPartsCommand(CLI::App& program);
 void addInfoCommand(CLI::App& program);
 void addHelpdeskCommand(CLI::App& program);
 void addPropertiesCommand(CLI::App& program);
@@ -26,18 +27,11 @@ void addCompletionCommand(CLI::App& program);
 void addManualCommand(CLI::App& program);
 
 /// All of them, in the order of `--help`.
-inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
-                                                             addInfoCommand,
-                                                             addHelpdeskCommand,
-                                                             addPropertiesCommand,
-                                                             addUserPropertiesCommand,
-                                                             addConfigureCommand,
-                                                             addMoveToOriginCommand,
-                                                             addProjectToConstructionCommand,
-                                                             addOpenLocalCommand,
-                                                             addCommandsCommand,
-                                                             addDialogCommand,
-                                                             addCompletionCommand,
-                                                             addManualCommand};
+inline constexpr void (*kAddCommand[])(CLI::App& program) = {
+    addBomCommand,        addPartsCommand,        addInfoCommand,
+    addHelpdeskCommand,   addPropertiesCommand,   addUserPropertiesCommand,
+    addConfigureCommand,  addMoveToOriginCommand, addProjectToConstructionCommand,
+    addOpenLocalCommand,  addCommandsCommand,     addDialogCommand,
+    addCompletionCommand, addManualCommand};
 
 }  // namespace workbench

@@ -1,0 +1,93 @@
+#include "workbench/output/parts_format.h"
+
+#include "workbench/cli/console.h"
+#include "workbench/output/parts_table.h"
+#include "workbench/output/result_stream.h"
+
+#include "host/base/utf8_path.h"
+#include "parts/csv_writer.h"
+#include "parts/json_writer.h"
+#include "parts/markdown_writer.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace workbench {
+namespace {
+
+struct KnownFormat {
+    PartsFormatKind kind;
+    const char* name;
+    const char* ending;
+};
+
+constexpr KnownFormat kFormats[] = {
+    {.kind = PartsFormatKind::Table, .name = "table", .ending = ".txt"},
+    {.kind = PartsFormatKind::Csv, .name = "csv", .ending = ".csv"},
+    {.kind = PartsFormatKind::Tsv, .name = "tsv", .ending = ".tsv"},
+    {.kind = PartsFormatKind::Markdown, .name = "markdown", .ending = ".md"},
+    {.kind = PartsFormatKind::Json, .name = "json", .ending = ".json"},
+    {.kind = PartsFormatKind::JsonLines, .name = "jsonl", .ending = ".jsonl"},
+};
+
+char delimiterOf(const PartsFormat& format) {
+    if (!format.delimiter.empty()) {
+        return format.delimiter.front();
+    }
+    return format.numbers.decimalComma ? ';' : ',';
+}
+
+}  // namespace
+
+std::vector<std::string> partsFormatNames() {
+    std::vector<std::string> names;
+    for (const KnownFormat& format : kFormats) {
+        names.emplace_back(format.name);
+    }
+    return names;
+}
+
+PartsFormatKind parsePartsFormat(const std::string& name) {
+    const auto* const found = std::ranges::find(kFormats, name, &KnownFormat::name);
+    return found == std::end(kFormats) ? PartsFormatKind::Table : found->kind;
+}
+
+PartsFormatKind partsFormatOf(const std::string& file) {
+    std::string ending = host::toUtf8(host::fromUtf8(file).extension());
+    std::ranges::transform(ending, ending.begin(), [](char each) {
+        return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
+    });
+    const auto* const found = std::ranges::find(kFormats, ending, &KnownFormat::ending);
+    return found == std::end(kFormats) ? PartsFormatKind::Table : found->kind;
+}
+
+void writeParts(const parts::PartsList& list, const PartsFormat& format, std::ostream& stream) {
+    switch (format.kind) {
+        case PartsFormatKind::Csv:
+            writeCsv(list,
+                     {.numbers = format.numbers,
+                      .delimiter = delimiterOf(format),
+                      .byteOrderMark = format.byteOrderMark,
+                      .guardFormulas = format.guardFormulas},
+                     stream);
+            break;
+        case PartsFormatKind::Tsv:
+            writeTsv(list, {.numbers = format.numbers, .guardFormulas = format.guardFormulas},
+                     stream);
+            break;
+        case PartsFormatKind::Markdown:
+            writeMarkdown(list, format.numbers, stream);
+            break;
+        case PartsFormatKind::Json:
+            writeJson(list, parts::JsonLayout::Indented, stream);
+            break;
+        case PartsFormatKind::JsonLines:
+            writeJson(list, parts::JsonLayout::Line, stream);
+            break;
+        case PartsFormatKind::Table:
+            stream << partsTable(list, format.numbers, console::charset(), resultWidth());
+            break;
+    }
+}
+
+}  // namespace workbench

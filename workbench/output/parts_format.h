@@ -1,0 +1,35 @@
+#pragma once
+
+#include "parts/number_text.h"
+#include "parts/parts_list.h"
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+/// A parts list in the format that was asked for. A new format needs its name and ending here.
+namespace workbench {
+
+enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Json, JsonLines };
+
+/// How a list is to be written.
+struct PartsFormat {
+    PartsFormatKind kind = PartsFormatKind::Table;
+    parts::NumberFormat numbers = {};
+    std::string delimiter = {};  ///< of CSV, one character; empty: "," or ";" with a decimal comma
+    bool byteOrderMark = false;
+    bool guardFormulas = true;
+};
+
+/// The names for "--format".
+std::vector<std::string> partsFormatNames();
+
+/// The format of a name that is among them.
+PartsFormatKind parsePartsFormat(const std::string& name);
+
+/// The format for a file, by its ending; a table for one that no format has.
+PartsFormatKind partsFormatOf(const std::string& file);
+
+void writeParts(const parts::PartsList& list, const PartsFormat& format, std::ostream& stream);
+
+}  // namespace workbench
