@@ -32,12 +32,13 @@ bool looksLikeDesignFile(const ReadableFile& readable) {
 }
 
 DesignData readDesignFrom(const ReadableFile& readable, const ReadingLimits& limits,
-                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+                          const ReadingCache& cache, const ImportProgress& progress,
+                          std::vector<ReadingWarning>& warnings) {
     if (!looksLikeDesignFile(readable)) {
-        return importStepFrom(readable, limits, progress, warnings);
+        return importStepFrom(readable, limits, cache, progress, warnings);
     }
     const auto readSource = [&](const SourceFile& source) {
-        return importStepFrom(makeReadable(fromUtf8(source.path), limits), limits, progress,
+        return importStepFrom(makeReadable(fromUtf8(source.path), limits), limits, cache, progress,
                               warnings);
     };
     try {

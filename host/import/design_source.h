@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/import/readable_file.h"
+#include "host/import/reading_cache.h"
 #include "host/import/step_import.h"
 
 #include <vector>
@@ -13,6 +14,7 @@ bool looksLikeDesignFile(const ReadableFile& readable);
 /// Reads a design as `readDesign` does. What a copy is refused for is said of the file that it was
 /// made of.
 DesignData readDesignFrom(const ReadableFile& readable, const ReadingLimits& limits,
-                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings);
+                          const ReadingCache& cache, const ImportProgress& progress,
+                          std::vector<ReadingWarning>& warnings);
 
 }  // namespace host

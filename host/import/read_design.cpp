@@ -5,8 +5,9 @@
 namespace host {
 
 DesignData readDesign(const std::filesystem::path& file, const ReadingLimits& limits,
-                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
-    return readDesignFrom(makeReadable(file, limits), limits, progress, warnings);
+                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings,
+                      const ReadingCache& cache) {
+    return readDesignFrom(makeReadable(file, limits), limits, cache, progress, warnings);
 }
 
 }  // namespace host

@@ -6,10 +6,12 @@
 namespace host {
 
 DesignData readTree(const std::filesystem::path& file, const ReadingLimits& limits,
-                    const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+                    const ImportProgress& progress, std::vector<ReadingWarning>& warnings,
+                    const ReadingCache& cache) {
     const ReadableFile readable = makeReadable(file, limits);
-    return looksLikeDesignFile(readable) ? readDesignFrom(readable, limits, progress, warnings)
-                                         : importTreeFrom(readable, limits, progress, warnings);
+    return looksLikeDesignFile(readable)
+               ? readDesignFrom(readable, limits, cache, progress, warnings)
+               : importTreeFrom(readable, limits, cache, progress, warnings);
 }
 
 }  // namespace host

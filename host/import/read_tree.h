@@ -2,6 +2,7 @@
 
 #include "host/design/design_data.h"
 #include "host/design/reading_limits.h"
+#include "host/import/reading_cache.h"
 #include "host/import/step_import.h"
 
 #include <filesystem>
@@ -16,6 +17,7 @@ namespace host {
 /// the geometry of a component counts its bodies and cannot be measured. Bodies that cannot be
 /// built are not warned of. A design file, an IGES file and a lone part are read whole.
 DesignData readTree(const std::filesystem::path& file, const ReadingLimits& limits,
-                    const ImportProgress& progress, std::vector<ReadingWarning>& warnings);
+                    const ImportProgress& progress, std::vector<ReadingWarning>& warnings,
+                    const ReadingCache& cache = {});
 
 }  // namespace host

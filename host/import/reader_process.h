@@ -1,30 +1,24 @@
 #pragma once
 
 #include "host/design/reading_limits.h"
+#include "host/import/reader_connection.h"
 
 #include <sys/types.h>
 
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace host {
-
-/// What became of a reader that did not answer; a clause such as "the reader crashed (...)".
-class ReaderFailure : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// A program that is asked and answers in lines, and is not trusted: it is ended when it takes
 /// longer or grows larger than it may. After a failure every further request fails as well.
 ///
 /// The program has one end of a socket as its standard input and output, no error output, and none
 /// of this process' other files. It is ended, and waited for, with this object.
-class ReaderProcess {
+class ReaderProcess final : public ReaderConnection {
 public:
     /// Starts the program with its arguments; throws `ReaderFailure` when that is not possible.
     ///
@@ -34,16 +28,11 @@ public:
                   const ReadingLimits& limits);
     ReaderProcess(const ReaderProcess&) = delete;
     ReaderProcess& operator=(const ReaderProcess&) = delete;
-    ~ReaderProcess();
+    ~ReaderProcess() override;
 
-    /// Starts the time that is limited again.
-    void startClock();
-
-    /// Sends a line; a failure shows with the next `receive`.
-    void send(const std::string& line);
-
-    /// Waits for the next line; throws `ReaderFailure`.
-    std::string receive();
+    void startClock() override;
+    void send(const std::string& line) override;
+    std::string receive() override;
 
     [[nodiscard]] pid_t id() const { return process_; }
 

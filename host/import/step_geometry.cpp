@@ -13,7 +13,7 @@ namespace {
 using nlohmann::json;
 
 /// The reader's answer; throws why there is none.
-json ask(ReaderProcess& reader, const std::string& request, const std::string& file) {
+json ask(ReaderConnection& reader, const std::string& request, const std::string& file) {
     std::string reason;
     try {
         reader.startClock();
@@ -41,7 +41,7 @@ void append(std::string& text, double value) {
 
 }  // namespace
 
-StepGeometry::StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file,
+StepGeometry::StepGeometry(std::shared_ptr<ReaderConnection> reader, int shape, std::string file,
                            std::size_t bodies)
     : reader_(std::move(reader)), shape_(shape), file_(std::move(file)), bodies_(bodies) {}
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/design/design_data.h"
-#include "host/import/reader_process.h"
+#include "host/import/reader_connection.h"
 
 #include <memory>
 #include <string>
@@ -16,7 +16,7 @@ class StepGeometry final : public Geometry {
 public:
     /// The number of the shape is the reader's, which counted its bodies; `file` names the source
     /// in the text of a failure.
-    StepGeometry(std::shared_ptr<ReaderProcess> reader, int shape, std::string file,
+    StepGeometry(std::shared_ptr<ReaderConnection> reader, int shape, std::string file,
                  std::size_t bodies = 1);
 
     double area() override;
@@ -27,7 +27,7 @@ public:
 private:
     void measure();
 
-    std::shared_ptr<ReaderProcess> reader_;
+    std::shared_ptr<ReaderConnection> reader_;
     int shape_;
     std::string file_;
     std::size_t bodies_;

@@ -1,6 +1,7 @@
 #include "host/import/step_import.h"
 
 #include "host/design/design_check.h"
+#include "host/import/cached_reading.h"
 #include "host/import/design_naming.h"
 #include "host/import/file_check.h"
 #include "host/import/reader_process.h"
@@ -10,6 +11,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -25,8 +27,8 @@ using nlohmann::json;
 /// Waits for the design and passes on the progress and warnings before it.
 class ResponseReader {
 public:
-    ResponseReader(ReaderProcess& reader, const std::string& path, const ImportProgress& progress,
-                   std::vector<ReadingWarning>& warnings)
+    ResponseReader(ReaderConnection& reader, const std::string& path,
+                   const ImportProgress& progress, std::vector<ReadingWarning>& warnings)
         : reader_(reader), path_(path), progress_(progress), warnings_(warnings) {}
 
     json design() {
@@ -82,7 +84,7 @@ private:
         return warning;
     }
 
-    ReaderProcess& reader_;
+    ReaderConnection& reader_;
     const std::string& path_;
     const ImportProgress& progress_;
     std::vector<ReadingWarning>& warnings_;
@@ -134,7 +136,7 @@ private:
 /// Makes the components; the ones that share a shape share its geometry.
 class Components {
 public:
-    Components(std::shared_ptr<ReaderProcess> reader, std::string path)
+    Components(std::shared_ptr<ReaderConnection> reader, std::string path)
         : reader_(std::move(reader)), path_(std::move(path)) {}
 
     ComponentData make(const json& from) {
@@ -176,7 +178,7 @@ private:
         return material;
     }
 
-    std::shared_ptr<ReaderProcess> reader_;
+    std::shared_ptr<ReaderConnection> reader_;
     std::string path_;
     std::map<int, std::shared_ptr<Geometry>> geometries_;
 };
@@ -200,8 +202,24 @@ void joinRoots(DesignData& design, const json& roots) {
     design.components.insert(design.components.begin(), std::move(top));
 }
 
-DesignData designFrom(const json& read, const ReadableFile& source,
-                      const std::shared_ptr<ReaderProcess>& reader) {
+/// The files that a design was read from. An entry of the cache may have the path that the first
+/// one had when it was read.
+std::vector<fs::path> filesOf(const json& read, const std::string& first) {
+    std::vector<fs::path> files;
+    for (const json& name : read.at("files")) {
+        files.emplace_back(files.empty() ? first : name.get<std::string>());
+    }
+    return files;
+}
+
+bool refersToMissing(const std::vector<ReadingWarning>& warnings) {
+    return std::ranges::any_of(warnings, [](const ReadingWarning& warning) {
+        return warning.code == "missing-file" || warning.code == "unreadable-file";
+    });
+}
+
+DesignData designFrom(const json& read, const std::vector<fs::path>& files,
+                      const ReadableFile& source, const std::shared_ptr<ReaderConnection>& reader) {
     DesignData design;
     design.name = source.path.stem().string();
     design.unit = read.at("unit");
@@ -211,10 +229,6 @@ DesignData designFrom(const json& read, const ReadableFile& source,
     }
     joinRoots(design, read.at("roots"));
     assignNamesAndNumbers(design);
-    std::vector<fs::path> files;
-    for (const json& name : read.at("files")) {
-        files.emplace_back(name.get<std::string>());
-    }
     if (!source.again.empty()) {
         design.source =
             SourceFile{.path = source.again.string(), .fingerprint = fingerprintOf(files)};
@@ -223,17 +237,20 @@ DesignData designFrom(const json& read, const ReadableFile& source,
 }
 
 DesignData importWith(const std::vector<std::string>& arguments, const ReadableFile& source,
-                      const ReadingLimits& limits, const ImportProgress& progress,
-                      std::vector<ReadingWarning>& warnings) {
-    std::shared_ptr<ReaderProcess> reader;
+                      const ReadingLimits& limits, const ReadingCache& cache,
+                      const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+    std::shared_ptr<RememberedReader> reader;
+    const CachedReading reading(cache, findStepReader(), arguments, limits);
     try {
-        reader = std::make_shared<ReaderProcess>(findStepReader(), arguments, limits);
+        reader = reading.open();
     } catch (const ReaderFailure& failure) {
         throw ImportError(source.shown + ": " + failure.what());
     }
-    const json read = ResponseReader(*reader, source.shown, progress, warnings).design();
+    json read = ResponseReader(*reader, source.shown, progress, warnings).design();
     try {
-        return designFrom(read, source, reader);
+        const std::vector<fs::path> files = filesOf(read, arguments.front());
+        reading.allowKeeping(*reader, files, refersToMissing(warnings));
+        return designFrom(read, files, source, reader);
     } catch (const json::exception&) {
         throw ImportError(source.shown +
                           ": the reader's response cannot be understood; export the file again");
@@ -251,19 +268,21 @@ DesignData importStep(const std::string& path, const ReadingLimits& limits,
     const fs::path file = checkStepFile(path);
     return importStepFrom(
         {.path = path, .shown = path, .again = file, .folder = file.parent_path(), .copy = nullptr},
-        limits, progress, warnings);
+        limits, /*cache=*/{}, progress, warnings);
 }
 
 DesignData importStepFrom(const ReadableFile& source, const ReadingLimits& limits,
-                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
-    return importWith(argumentsFor(source, limits), source, limits, progress, warnings);
+                          const ReadingCache& cache, const ImportProgress& progress,
+                          std::vector<ReadingWarning>& warnings) {
+    return importWith(argumentsFor(source, limits), source, limits, cache, progress, warnings);
 }
 
 DesignData importTreeFrom(const ReadableFile& source, const ReadingLimits& limits,
-                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+                          const ReadingCache& cache, const ImportProgress& progress,
+                          std::vector<ReadingWarning>& warnings) {
     std::vector<std::string> arguments = argumentsFor(source, limits);
     arguments.emplace_back("tree");
-    return importWith(arguments, source, limits, progress, warnings);
+    return importWith(arguments, source, limits, cache, progress, warnings);
 }
 
 }  // namespace host

@@ -17,12 +17,14 @@ DesignData importStep(const std::string& path, const ReadingLimits& /*limits*/,
 }
 
 DesignData importStepFrom(const ReadableFile& source, const ReadingLimits& limits,
-                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+                          const ReadingCache& /*cache*/, const ImportProgress& progress,
+                          std::vector<ReadingWarning>& warnings) {
     return importStep(source.shown, limits, progress, warnings);
 }
 
 DesignData importTreeFrom(const ReadableFile& source, const ReadingLimits& limits,
-                          const ImportProgress& progress, std::vector<ReadingWarning>& warnings) {
+                          const ReadingCache& /*cache*/, const ImportProgress& progress,
+                          std::vector<ReadingWarning>& warnings) {
     return importStep(source.shown, limits, progress, warnings);
 }
 

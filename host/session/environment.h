@@ -23,6 +23,9 @@ void setVariable(const Text& name, const std::optional<Text>& value);
 /// Where this program keeps the user's data between runs; empty if the system names no such place.
 std::filesystem::path userDataFolder();
 
+/// Where this program keeps what it can make again; empty if the system names no such place.
+std::filesystem::path userCacheFolder();
+
 /// The folder of the running program.
 std::filesystem::path programFolder();
 

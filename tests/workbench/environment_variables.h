@@ -32,9 +32,16 @@ public:
                                        value ? std::optional(value->native()) : std::nullopt);
     }
 
-    /// Sets the variables in which either system names the folder for a user's data.
+    /// Sets the variables in which either system names the folders for a user's data and caches.
     void setUserData(const std::filesystem::path& folder) {
         set("XDG_DATA_HOME", folder);
+        setUserCache(folder / "cache");
+        set("LOCALAPPDATA", folder);
+    }
+
+    /// Sets those for a user's caches alone; one system has a single folder for both.
+    void setUserCache(const std::filesystem::path& folder) {
+        set("XDG_CACHE_HOME", folder);
         set("LOCALAPPDATA", folder);
     }
 

@@ -64,6 +64,9 @@ void addReading(CLI::App& command, ReadingOptions& reading) {
     command.add_flag(
         "--strict", reading.strict,
         "End with status 1 where reading the design gives a warning, and write nothing");
+    command.add_flag("--no-cache", reading.noCache,
+                     "Read a STEP file again even if it is unchanged, and keep nothing of it; see\n"
+                     "tarnix-workbench cache --help");
 }
 
 void addAddin(CLI::App& command, AddinChoice& choice) {

@@ -30,6 +30,7 @@ void addFile(CLI::App& command, std::string& file);
 struct ReadingOptions {
     host::ReadingLimits limits;
     bool strict = false;                         ///< a warning is a failure
+    bool noCache = false;                        ///< neither use nor keep what reading found
     std::optional<host::MaterialData> material;  ///< of parts for which one would be assumed
 };
 

@@ -9,9 +9,11 @@
 #include "host/design/reading_error.h"
 #include "host/import/read_design.h"
 #include "host/import/read_tree.h"
+#include "host/session/environment.h"
 
 #include <cstddef>
 #include <exception>
+#include <filesystem>
 #include <functional>
 #include <utility>
 
@@ -41,7 +43,7 @@ std::string namingOption(const host::ReadingError& error) {
     return error.limit() ? message + " (" + optionOf(*error.limit()) + ")" : message;
 }
 
-host::DesignData readFile(Read& read, const std::string& file, const host::ReadingLimits& limits,
+host::DesignData readFile(Read& read, const std::string& file, const ReadingOptions& reading,
                           Warnings& warnings) {
     try {
         ProgressLine line;
@@ -50,7 +52,8 @@ host::DesignData readFile(Read& read, const std::string& file, const host::Readi
             line.show(printable(stage) + " " + printable(file) + " " +
                       std::to_string(static_cast<int>(fraction * kPercent)) + " %");
         };
-        host::DesignData design = read(host::fromUtf8(file), limits, progress, warnings);
+        host::DesignData design = read(host::fromUtf8(file), reading.limits, progress, warnings,
+                                       reading.noCache ? host::ReadingCache() : readingCache());
         line.show("");
         return design;
     } catch (const host::ReadingError& error) {
@@ -119,7 +122,7 @@ void refuseWarnings(const std::string& file, std::size_t count) {
 
 host::DesignData readBy(Read& read, const std::string& file, const ReadingOptions& reading,
                         Warnings& warnings) {
-    host::DesignData design = readFile(read, file, reading.limits, warnings);
+    host::DesignData design = readFile(read, file, reading, warnings);
     if (reading.material) {
         useMaterial(design, *reading.material);
     }
@@ -132,6 +135,15 @@ host::DesignData readBy(Read& read, const std::string& file, const ReadingOption
 }
 
 }  // namespace
+
+host::ReadingCache readingCache() {
+    host::ReadingCache cache;
+    if (const std::filesystem::path folder = host::environment::userCacheFolder();
+        !folder.empty()) {
+        cache.folder = folder / "tarnix-workbench" / "readings";
+    }
+    return cache;
+}
 
 host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
                             Warnings* warnings) {

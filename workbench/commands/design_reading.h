@@ -4,11 +4,15 @@
 
 #include "host/design/design_data.h"
 #include "host/design/reading_warning.h"
+#include "host/import/reading_cache.h"
 
 #include <string>
 #include <vector>
 
 namespace workbench {
+
+/// Where what reading found is kept for this user; nothing is where the system names no place.
+host::ReadingCache readingCache();
 
 /// Reads a design from a file, with a progress line on a terminal and a warning on stderr for each
 /// thing that the reader had to say; `warnings` gets them too, unless it is null. Throws a

@@ -5,6 +5,19 @@
 #include <cstdlib>
 
 namespace host::environment {
+namespace {
+
+/// The folder that a variable names, else one in the user's home.
+std::filesystem::path baseFolder(const Text& name, const std::filesystem::path& inHome) {
+    const std::optional<Text> named = variable(name);
+    if (named && std::filesystem::path(*named).is_absolute()) {
+        return *named;
+    }
+    const std::optional<Text> home = variable("HOME");
+    return home && !home->empty() ? std::filesystem::path(*home) / inHome : std::filesystem::path();
+}
+
+}  // namespace
 
 std::vector<Text> temporaryFolderNames() { return {"TMPDIR"}; }
 
@@ -22,14 +35,10 @@ void setVariable(const Text& name, const std::optional<Text>& value) {
 }
 
 std::filesystem::path userDataFolder() {
-    const std::optional<Text> named = variable("XDG_DATA_HOME");
-    if (named && std::filesystem::path(*named).is_absolute()) {
-        return *named;
-    }
-    const std::optional<Text> home = variable("HOME");
-    return home && !home->empty() ? std::filesystem::path(*home) / ".local" / "share"
-                                  : std::filesystem::path();
+    return baseFolder("XDG_DATA_HOME", std::filesystem::path(".local") / "share");
 }
+
+std::filesystem::path userCacheFolder() { return baseFolder("XDG_CACHE_HOME", ".cache"); }
 
 std::filesystem::path programFolder() {
     std::error_code unknown;

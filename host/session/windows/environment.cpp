@@ -23,6 +23,9 @@ std::filesystem::path userDataFolder() {
     return named ? std::filesystem::path(*named) : std::filesystem::path();
 }
 
+// The user's local data hold caches too; what belongs to which has a folder of its own below it.
+std::filesystem::path userCacheFolder() { return userDataFolder(); }
+
 std::filesystem::path programFolder() {
     std::wstring file(MAX_PATH, L'\0');
     DWORD length = 0;

@@ -1,5 +1,7 @@
 #include "host/import/step_geometry.h"
 
+#include "host/import/reader_process.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
