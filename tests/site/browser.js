@@ -24,8 +24,8 @@ function serve(folder) {
 }
 
 /// Starts the browser; as root it runs without its sandbox, which root may not use.
-function start() {
-  const args = ['--disable-gpu', ...process.getuid() === 0 ? ['--no-sandbox'] : []];
+function start(graphics = ['--disable-gpu']) {
+  const args = [...graphics, ...process.getuid() === 0 ? ['--no-sandbox'] : []];
   return chromium.launch({executablePath: '/usr/bin/chromium', args});
 }
 

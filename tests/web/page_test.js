@@ -1,0 +1,541 @@
+// The offline page, as a reader uses it.
+//
+//   node page_test.js [NAME...]
+'use strict';
+const assert = require('assert');
+const fs = require('fs');
+const {violations} = require('../site/browser');
+const {block, brackets, catalogue, hostile, hostileNames} = require('./assemblies');
+const {compare} = require('./golden');
+const {startBrowser, open, openCommon, dropCommon, close, row, selectedRows, shownRows, summary, clickInstance, at, visible, remember, changedInstances, withPixels} = require('./page');
+
+const sample = brackets();
+const openSample = options => options ? open(sample.list, sample.glb, options) : openCommon(sample.list, sample.glb);
+// In the order of the tree: rod, two nuts, then twice a bracket with three bolts and their nuts, the plate.
+const rod = 0, nuts = [1, 2, 5, 7, 9, 12, 14, 16], bolts = [4, 6, 8, 11, 13, 15], plate = 17;
+const press = (page, key) => page.evaluate(() => document.activeElement.blur()).then(() => page.keyboard.press(key));
+const setRange = (page, selector, value) => page.$eval(selector, (input, to) => { input.value = to; input.dispatchEvent(new Event('input')); }, value);
+const settled = page => page.waitForTimeout(350);  // the address follows a little later
+
+async function download(page, entry) {
+  await page.click('header .menu .tool');
+  const [file] = await Promise.all([page.waitForEvent('download'), page.click(`.panel button:text-is("${entry}")`)]);
+  return {name: file.suggestedFilename(), text: fs.readFileSync(await file.path(), 'utf8')};
+}
+
+const tests = {
+  async everyOccurrenceWithAShapeIsAnInstance() {
+    const page = await openSample();
+    assert.strictEqual(await page.textContent('.facts'), '18 parts · 2,144 triangles');
+    const {instances, drawCalls} = await page.evaluate(() => partsPage.viewer.stats());
+    assert.strictEqual(instances, sample.leaves);
+    assert.strictEqual(drawCalls, 10);  // faces and edges of five shapes
+    await close(page);
+  },
+
+  async aClickOnAPartSelectsItsRow() {
+    const page = await openSample();
+    await press(page, '6');
+    for (const bolt of [4, 8, 11, 15]) {
+      await page.keyboard.press('Escape');
+      await clickInstance(page, bolt);
+      assert.deepStrictEqual(await selectedRows(page), ['ISO 4017 M8x30']);
+    }
+    await close(page);
+  },
+
+  async aClickOnAPartOfATopLayerSelectsItsRow() {
+    const made = block(27);
+    const page = await open(made.list, made.glb);
+    await press(page, '6');
+    for (const instance of [18, 20, 22, 24, 26]) {
+      await clickInstance(page, instance);
+      assert.deepStrictEqual(await selectedRows(page), [`P-${instance % 12 + 1}`]);
+    }
+    await close(page);
+  },
+
+  async aClickOnNothingClearsTheSelection() {
+    const page = await openSample();
+    await row(page, 'BR-100').click();
+    const box = await page.locator('canvas').boundingBox();
+    await press(page, '6');
+    await press(page, '-');
+    await page.evaluate(() => partsPage.viewer.fit());
+    await page.mouse.click(box.x + 4, box.y + 4);
+    assert.deepStrictEqual(await selectedRows(page), []);
+    assert.strictEqual(await summary(page), '');
+    await close(page);
+  },
+
+  async hoveringARowLightsItsOccurrences() {
+    const page = await openSample();
+    await withPixels(page);
+    await press(page, '6');
+    await remember(page);
+    await row(page, 'ISO 4017 M8x30').hover();
+    const inFront = Object.keys(await visible(page)).map(Number);
+    assert.deepStrictEqual(await changedInstances(page), bolts.filter(each => inFront.includes(each)));
+    assert.ok([4, 8, 11, 15].every(each => inFront.includes(each)));
+    await close(page);
+  },
+
+  async hoveringAPartLightsItAndItsRow() {
+    const page = await openSample();
+    const {x, y} = await at(page, rod);
+    await page.mouse.move(x, y);
+    await page.waitForSelector('.row.hovered');
+    assert.match(await page.textContent('.row.hovered'), /BR-120/);
+    assert.deepStrictEqual(await page.evaluate(() => partsPage.hoveredInstances), [rod]);
+    await close(page);
+  },
+
+  async aClickOnARowFitsItsOccurrencesAndDimsTheRest() {
+    const page = await openSample();
+    await row(page, 'BR-120').click();
+    const {looks, pose} = await page.evaluate(() => ({looks: [...partsPage.viewer.drawing.looks], pose: partsPage.viewer.pose}));
+    assert.deepStrictEqual(looks, looks.map((_, i) => i === rod ? 0 : 1));
+    // The rod lies from x = -100 to 100 at z = 66 (mm); the viewer's up is y.
+    assert.ok(Math.hypot(pose.x - 0, pose.y - 0.066, pose.z) < 1e-6, JSON.stringify(pose));
+    assert.ok(pose.size > 0.2 && pose.size < 0.26, `${pose.size}`);
+    await close(page);
+  },
+
+  async furtherClicksStepThroughTheOccurrences() {
+    const page = await openSample();
+    const bright = () => page.evaluate(() => [...partsPage.viewer.drawing.looks].flatMap((look, i) => look === 0 ? [i] : []));
+    const bolt = row(page, 'ISO 4017 M8x30');
+    await bolt.click();
+    assert.deepStrictEqual(await bright(), bolts);
+    assert.strictEqual(await page.textContent('.place'), '6 places');
+    await bolt.click();
+    assert.deepStrictEqual(await bright(), [4]);
+    assert.strictEqual(await page.textContent('.place'), '1 of 6');
+    await page.click('[aria-label="Next occurrence"]');
+    assert.deepStrictEqual(await bright(), [6]);
+    await page.click('[aria-label="Previous occurrence"]');
+    await page.click('[aria-label="Previous occurrence"]');
+    assert.strictEqual(await page.textContent('.place'), '6 places');
+    await page.keyboard.press('Enter');
+    assert.deepStrictEqual(await bright(), [15]);
+    await close(page);
+  },
+
+  async aPartInAFoldedTreeIsFound() {
+    const page = await openSample();
+    await page.click('[data-view=indented]');
+    await page.click('.row:has-text("BR-020") .twisty');
+    assert.deepStrictEqual(await shownRows(page), ['BR-010', 'BR-120', 'ISO 4032 M8', 'BR-020', 'BR-100']);
+    await press(page, '6');
+    await clickInstance(page, 4);
+    assert.deepStrictEqual(await selectedRows(page), ['ISO 4017 M8x30']);
+    await close(page);
+  },
+
+  async aRowOfAnAssemblyStandsForAllThatIsInIt() {
+    const page = await openSample();
+    await page.click('[data-view=top]');
+    await row(page, 'BR-020').click();
+    assert.strictEqual(await summary(page), '1 row selected · 2 pcs · 1.374 kg');
+    assert.deepStrictEqual(await page.evaluate(() => partsPage.selectedInstances()), [3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16]);
+    await close(page);
+  },
+
+  async quantityAndMassOfTheSelectionAreSummed() {
+    const page = await openSample();
+    await row(page, 'ISO 4032 M8').click();
+    assert.strictEqual(await summary(page), '1 row selected · 8 pcs · 0.04104 kg');
+    await row(page, 'ISO 4017 M8x30').click({modifiers: ['Control']});
+    assert.strictEqual(await summary(page), '2 rows selected · 14 pcs · 0.1592 kg');
+    await page.click('[data-view=indented]');
+    await page.keyboard.press('Escape');
+    await row(page, 'BR-020').click();
+    await row(page, 'BR-110').click({modifiers: ['Control']});
+    assert.strictEqual(await summary(page), '2 rows selected · 2 pcs · 1.374 kg');
+    await close(page);
+  },
+
+  async theListIsSearchedFilteredAndSorted() {
+    const page = await openSample();
+    await page.keyboard.press('/');
+    await page.keyboard.type('STEEL');
+    assert.deepStrictEqual(await shownRows(page), ['BR-120', 'BR-110', 'ISO 4017 M8x30']);
+    assert.strictEqual(await page.textContent('.counted'), '3 of 5 rows');
+    await page.keyboard.press('Escape');
+    await page.click('[aria-label=Filters]');
+    await page.fill('[aria-label="Filter: Quantity"]', '>2');
+    assert.deepStrictEqual(await shownRows(page), ['ISO 4032 M8', 'ISO 4017 M8x30']);
+    await page.fill('[aria-label="Filter: Quantity"]', '');
+    await page.click('.head button:text-is("Part Number")');
+    assert.deepStrictEqual(await shownRows(page), ['BR-100', 'BR-110', 'BR-120', 'ISO 4017 M8x30', 'ISO 4032 M8']);
+    await page.click('.head button:has-text("Quantity")');
+    await page.click('.head button:has-text("Quantity")');
+    assert.deepStrictEqual((await shownRows(page)).slice(0, 3), ['ISO 4032 M8', 'ISO 4017 M8x30', 'BR-110']);
+    assert.strictEqual(await page.getAttribute('[role=columnheader]:has-text("Quantity")', 'aria-sort'), 'descending');
+    await close(page);
+  },
+
+  async columnsAreChosen() {
+    const page = await openSample();
+    await page.click('.list .menu .tool');
+    await page.click('.panel label:has-text("Item")');
+    await page.click('.panel label:has-text("Material")');
+    await page.keyboard.press('Escape');
+    const captions = await page.$$eval('[role=columnheader]', cells => cells.map(each => each.textContent));
+    assert.deepStrictEqual(captions, ['Picture', 'Item', 'Part Number', 'Part Name', 'Quantity', 'Mass [kg]', 'Total mass [kg]', 'Ordered', 'Note']);
+    await close(page);
+  },
+
+  async theTotalLineAddsWhatIsShown() {
+    const page = await openSample();
+    const totals = () => page.$$eval('.foot .cell', cells => cells.map(each => each.textContent).filter(Boolean));
+    assert.deepStrictEqual(await totals(), ['Total', '18', '5.719', '0 / 5']);
+    await page.fill('.list input[type=search]', 'iso');
+    assert.deepStrictEqual(await totals(), ['Total', '14', '0.1592', '0 / 2']);
+    await close(page);
+  },
+
+  async picturesOfTheRowsAreDrawn() {
+    const page = await openSample();
+    await page.waitForFunction(() => document.querySelectorAll('.cell.picture img').length === 5);
+    const addresses = await page.$$eval('.cell.picture img', images => images.map(each => each.src));
+    assert.strictEqual(new Set(addresses).size, 5);
+    assert.ok(addresses.every(each => each.startsWith('data:image/png;base64,')));
+    await close(page);
+  },
+
+  async explodingMovesPartsApart() {
+    const page = await openSample();
+    const gap = async () => { const [a, b] = [await at(page, bolts[0]), await at(page, nuts[2])]; return Math.hypot(a.x - b.x, a.y - b.y); };
+    const before = await gap();
+    await setRange(page, '#explode', 1);
+    assert.ok(await gap() > before * 1.3);
+    await setRange(page, '#explode', 0);
+    assert.ok(Math.abs(await gap() - before) < 1e-6);
+    await close(page);
+  },
+
+  async aSectionCutsWhatIsBeyondIt() {
+    const page = await openSample();
+    await press(page, '6');
+    await press(page, 'x');
+    await setRange(page, 'input.cutting', 0.3);
+    const left = Object.keys(await visible(page)).map(Number);
+    assert.ok(left.includes(3) && !left.includes(10), `${left}`);
+    await page.click('[aria-label="Other side"]');
+    const right = Object.keys(await visible(page)).map(Number);
+    assert.ok(right.includes(10), `${right}`);
+    await press(page, 'x');
+    const both = Object.keys(await visible(page)).map(Number);
+    assert.ok(both.includes(3) && both.includes(10));
+    await close(page);
+  },
+
+  async partsAreIsolatedHiddenAndShown() {
+    const page = await openSample();
+    await row(page, 'ISO 4017 M8x30').click();
+    await press(page, 'i');
+    assert.deepStrictEqual(Object.keys(await visible(page)).map(Number), bolts);
+    await press(page, 'a');
+    await row(page, 'BR-100').click();
+    await press(page, 'h');
+    assert.strictEqual((await visible(page))[plate], undefined);
+    assert.strictEqual(await page.textContent('.facts'), '18 parts · 2,132 triangles');
+    await press(page, 'a');
+    assert.ok((await visible(page))[plate] > 0);
+    await close(page);
+  },
+
+  async nothingIsDrawnWithoutAChange() {
+    const page = await openSample();
+    await page.waitForFunction(() => document.querySelectorAll('.cell.picture img').length === 5);
+    const frames = () => page.evaluate(() => partsPage.viewer.stats().frames);
+    await settled(page);
+    const before = await frames();
+    await settled(page);
+    assert.strictEqual(await frames(), before);
+    await page.focus('canvas');
+    await page.keyboard.press('ArrowLeft');
+    await settled(page);
+    assert.strictEqual(await frames(), before + 1);
+    await close(page);
+  },
+
+  async theMouseTurnsMovesAndZooms() {
+    const page = await openSample();
+    const pose = () => page.evaluate(() => partsPage.viewer.pose);
+    const box = await page.locator('canvas').boundingBox(), [x, y] = [box.x + box.width / 2, box.y + box.height / 2];
+    const drag = async (dx, dy, button) => {
+      await page.mouse.move(x, y);
+      await page.mouse.down({button});
+      await page.mouse.move(x + dx, y + dy, {steps: 3});
+      await page.mouse.up({button});
+    };
+    const start = await pose();
+    await drag(48, 0, 'left');
+    const turned = await pose();
+    assert.ok(Math.abs(start.yaw - turned.yaw - 48 * Math.PI / 480) < 1e-9);
+    await drag(60, 0, 'right');
+    const moved = await pose();
+    assert.strictEqual(moved.yaw, turned.yaw);
+    assert.ok(Math.hypot(moved.x - turned.x, moved.z - turned.z) > 0.01);
+    await page.mouse.wheel(0, -120);
+    await page.waitForFunction(size => partsPage.viewer.pose.size < size * 0.9, moved.size);
+    assert.deepStrictEqual(await selectedRows(page), []);
+    await close(page);
+  },
+
+  async stateMarksAndNotesOutlastAReload() {
+    const page = await openSample({name: 'own'});
+    await page.click('[data-view=indented]');
+    await page.click('.row:has-text("BR-010") .twisty');
+    await row(page, 'ISO 4017 M8x30').click();
+    await page.keyboard.press('Enter');
+    await page.click('.row.selected [aria-label=Ordered]');
+    await page.fill('.row.selected [aria-label=Note]', 'black, please');
+    await page.keyboard.press('Enter');
+    await setRange(page, '#explode', 0.5);
+    await press(page, 'x');
+    await press(page, 'p');
+    await settled(page);
+    const state = () => page.evaluate(() => location.hash);
+    const before = await state();
+    await page.reload();
+    await page.waitForFunction(() => window.partsPage);
+    await settled(page);
+    assert.strictEqual(await state(), before);
+    assert.match(before, /^#view=indented&folded=0&selected=6&step=0&dim=1&parallel=1&explode=0.50&section=0%2C0.500%2C0&pose=/);
+    const {explode, section, perspective} = await page.evaluate(() => partsPage.address());
+    assert.deepStrictEqual([explode, section, perspective], [0.5, {axis: 0, share: 0.5, flipped: false}, false]);
+    assert.deepStrictEqual(await selectedRows(page), ['ISO 4017 M8x30']);
+    assert.strictEqual(await page.isChecked('.row.selected [aria-label=Ordered]'), true);
+    assert.strictEqual(await page.inputValue('.row.selected [aria-label=Note]'), 'black, please');
+    await close(page);
+  },
+
+  async marksAndNotesAreExportedAndReadAgain() {
+    const page = await openSample({name: 'own'});
+    await page.click('.row:has-text("BR-100") [aria-label=Ordered]');
+    await page.fill('.row:has-text("BR-120") [aria-label=Note]', 'Ø 10');
+    await page.keyboard.press('Enter');
+    await row(page, 'BR-110').click();
+    const {name, text} = await download(page, 'Marks and notes as JSON');
+    assert.strictEqual(name, 'brackets-work.json');
+    const json = JSON.parse(text);
+    assert.deepStrictEqual(json.items, {'BR-100': {ordered: true}, 'BR-120': {note: 'Ø 10'}});
+    assert.deepStrictEqual(json.file, sample.list.file);
+    const other = await openSample({name: 'other'});
+    await other.click('header .menu .tool');
+    const [chooser] = await Promise.all([other.waitForEvent('filechooser'), other.click('.panel button:has-text("Read marks")')]);
+    await chooser.setFiles({name, mimeType: 'application/json', buffer: Buffer.from(text)});
+    await other.waitForSelector('.row:has-text("BR-100") [aria-label=Ordered]:checked');
+    assert.deepStrictEqual(await selectedRows(other), ['BR-110']);
+    await close(other);
+    await close(page);
+  },
+
+  async whatIsShownIsExportedAsCsv() {
+    const page = await openSample();
+    await page.fill('.list input[type=search]', 'iso');
+    const {name, text} = await download(page, 'List as CSV');
+    assert.strictEqual(name, 'brackets.csv');
+    assert.strictEqual(text, '\ufeffPart Number,Part Name,Quantity,Mass [kg],Total mass [kg],Material,Ordered,Note\r\n' +
+                             'ISO 4032 M8,Nut,8,0.00513,0.04104,Brass,0,\r\nISO 4017 M8x30,Bolt,6,0.0197,0.1182,Steel 8.8,0,\r\n');
+    await close(page);
+  },
+
+  async paperGetsThePictureAndTheWholeList() {
+    const made = catalogue(200);
+    const page = await open(made.list, made.glb);
+    await page.evaluate(() => window.print = () => { window.printed = document.querySelectorAll('.paper tbody tr').length; });
+    await page.click('header .menu .tool');
+    await page.click('.panel button:text-is("Print")');
+    await page.waitForFunction(() => window.printed === 200);
+    await page.emulateMedia({media: 'print'});
+    assert.deepStrictEqual([await page.isVisible('.paper img'), await page.isVisible('main')], [true, false]);
+    await page.evaluate(() => dispatchEvent(new Event('afterprint')));
+    assert.strictEqual(await page.locator('.paper').count(), 0);
+    await close(page);
+  },
+
+  async tenThousandRowsScrollInFewElements() {
+    const made = catalogue(10000);
+    const page = await open(made.list, made.glb);
+    assert.strictEqual(await page.getAttribute('[role=treegrid]', 'aria-rowcount'), '10002');
+    for (const share of [0, 0.31, 0.77, 1]) {
+      await page.$eval('.grid', (grid, to) => { grid.scrollTop = grid.scrollHeight * to; }, share);
+      await page.waitForFunction(() => {
+        const box = document.querySelector('.grid').getBoundingClientRect();
+        return document.elementFromPoint(box.left + 100, box.top + box.height / 2).closest('[data-row]');
+      });
+      const elements = await page.evaluate(() => document.querySelectorAll('*').length);
+      assert.ok(elements <= 1500, `${elements} elements`);
+    }
+    assert.ok((await shownRows(page)).includes('C-10000'));
+    await page.fill('.list input[type=search]', 'number 9999');
+    assert.deepStrictEqual(await shownRows(page), ['C-9999']);
+    await close(page);
+  },
+
+  async namesAreTextWhateverTheySay() {
+    const made = hostile();
+    const page = await open(made.list, made.glb);
+    await page.waitForTimeout(100);
+    const cells = await page.$$eval('.body .row', rows => rows.map(each => each.querySelector('.cell.text').firstChild.data));
+    assert.deepStrictEqual(cells, hostileNames);
+    assert.strictEqual(await page.title(), '</title><img src=x onerror=alert(1)>.step – Parts list');
+    await page.click('header .tool:has-text("messages")');
+    assert.deepStrictEqual(await page.$$eval('dialog li', items => items.map(each => each.textContent)), hostileNames);
+    await page.keyboard.press('Escape');
+    await page.fill('.body .row >> nth=4 >> [aria-label=Note]', '<b>');
+    await page.keyboard.press('Enter');
+    assert.strictEqual(await page.evaluate(() => document.querySelectorAll('b, img[onerror], body script').length), 0);
+    await close(page);
+  },
+
+  async thePageRunsNoScriptButItsOwn() {
+    const page = await openSample({name: 'own'});
+    await page.evaluate(() => {
+      const script = document.createElement('script');
+      script.textContent = 'window.intruder = true';
+      document.body.append(script);
+    });
+    assert.strictEqual(await page.evaluate(() => window.intruder), undefined);
+    assert.match(page.complaints.splice(0).join(), /Content Security Policy/);
+    await close(page);
+  },
+
+  async everythingIsDoneByKeyboard() {
+    const page = await openSample({name: 'own'});
+    await page.focus('[role=treegrid]');
+    await page.keyboard.press('ArrowDown');
+    await page.keyboard.press('Enter');
+    assert.deepStrictEqual(await selectedRows(page), ['ISO 4032 M8']);
+    await page.keyboard.press('Shift+ArrowDown');
+    assert.deepStrictEqual(await selectedRows(page), ['ISO 4032 M8', 'BR-110']);
+    for (let i = 0; i < 7; ++i) await page.keyboard.press('ArrowRight');
+    await page.keyboard.press('Space');
+    assert.strictEqual(await page.isChecked('.row:has-text("BR-110") [aria-label=Ordered]'), true);
+    await page.keyboard.press('ArrowRight');
+    await page.keyboard.press('Enter');
+    await page.keyboard.type('left one');
+    await page.keyboard.press('Enter');
+    assert.strictEqual(await page.evaluate(() => document.activeElement.getAttribute('role')), 'treegrid');
+    assert.strictEqual(await page.inputValue('.row:has-text("BR-110") [aria-label=Note]'), 'left one');
+    await page.keyboard.press('Escape');
+    assert.deepStrictEqual(await selectedRows(page), []);
+    await page.focus('[role=separator]');
+    await page.keyboard.press('ArrowLeft');
+    assert.strictEqual(await page.getAttribute('[role=separator]', 'aria-valuenow'), '50');
+    await close(page);
+  },
+
+  async czechReadersGetCzech() {
+    const page = await openSample({locale: 'cs-CZ'});
+    assert.strictEqual(await page.getAttribute('html', 'lang'), 'cs');
+    assert.deepStrictEqual(await page.$$eval('[role=tab]', tabs => tabs.map(each => each.textContent)), ['Díly', 'Struktura', 'Nejvyšší úroveň']);
+    await row(page, 'ISO 4032 M8').click();
+    assert.strictEqual(await summary(page), '1 řádek vybráno · 8 ks · 0,04104 kg');
+    const {text} = await download(page, 'Seznam jako CSV');
+    assert.match(text, /^\ufeffČíslo dílu;Název;Počet;Hmotnost \[kg\];/);
+    assert.match(text, /ISO 4032 M8;Nut;8;0,00513;0,04104;Brass;0;\r\n/);
+    await close(page);
+  },
+
+  async aPageWithoutAModelIsAListAllTheSame() {
+    for (const [glb, problem] of [[null, 'This page has no model.'], [Buffer.from('no model'), 'The model cannot be shown: the model is not binary glTF'],
+                                  [sample.glb.subarray(0, sample.glb.length - 400), 'The model cannot be shown: the model is cut short']]) {
+      const page = await open(sample.list, glb);
+      assert.strictEqual(await page.textContent('.problem'), problem);
+      assert.deepStrictEqual((await shownRows(page)).length, 5);
+      await close(page);
+    }
+    const page = await open({schema: 9}, null);
+    assert.strictEqual(await page.textContent('.problem'), 'The list cannot be read: the list has the schema 9; this page reads 1');
+    await close(page);
+  },
+
+  async twentyThousandOccurrencesAreFewDrawCalls() {
+    const made = block(20000);
+    const page = await open(made.list, made.glb, {viewport: {width: 700, height: 400}});
+    const {instances, drawCalls} = await page.evaluate(() => partsPage.viewer.stats());
+    assert.deepStrictEqual([instances, drawCalls], [20000, 24]);
+    await close(page);
+  },
+
+  async noViolationsInLightAndDark() {
+    for (const colorScheme of ['light', 'dark']) {
+      const page = await openSample({colorScheme});
+      await page.click('[aria-label=Filters]');
+      await page.click('[data-view=indented]');
+      await row(page, 'ISO 4017 M8x30').click();
+      await press(page, 'x');
+      assert.strictEqual(await violations(page), '');
+      await page.click('header .menu .tool');
+      assert.strictEqual(await violations(page), '');
+      await press(page, '?');
+      assert.strictEqual(await violations(page), '');
+      await close(page);
+    }
+  },
+
+  async aNarrowScreenShowsBothWithoutScrollingSideways() {
+    const page = await openSample({viewport: {width: 400, height: 720}, colorScheme: 'dark'});
+    const [needed, given] = await page.evaluate(() => [document.documentElement.scrollWidth, document.documentElement.clientWidth]);
+    assert.ok(needed <= given, `${needed} of ${given} pixels`);
+    assert.ok((await page.locator('canvas').boundingBox()).height > 200);
+    assert.ok((await page.locator('.grid').boundingBox()).height > 150);
+    assert.strictEqual(await violations(page), '');
+    await close(page);
+  },
+
+  async thePictureIsAsItWasAgreed() {
+    const drawn = async page => {
+      await page.waitForFunction(() => document.querySelectorAll('.cell.picture img').length >= 5);
+      await page.mouse.move(2, 2);
+      await page.waitForTimeout(80);
+      return page.screenshot();
+    };
+    const page = await openSample({name: 'own'});
+    await compare(page, 'opened', await drawn(page));
+    await row(page, 'ISO 4017 M8x30').click();
+    await compare(page, 'row', await drawn(page));
+    await page.keyboard.press('Escape');
+    await page.click('[data-view=indented]');
+    await press(page, '1');
+    await setRange(page, '#explode', 0.8);
+    await compare(page, 'exploded', await drawn(page));
+    await setRange(page, '#explode', 0);
+    await page.emulateMedia({colorScheme: 'dark'});
+    await press(page, 'x');
+    await press(page, 'p');
+    await page.selectOption('select.cutting', '2');
+    await compare(page, 'section-dark', await drawn(page));
+    await close(page);
+    const narrow = await openSample({viewport: {width: 420, height: 760}, locale: 'cs-CZ'});
+    await compare(narrow, 'narrow-czech', await drawn(narrow));
+    await close(narrow);
+  },
+};
+
+async function main(names) {
+  const browser = await startBrowser();
+  let failed = 0;
+  for (const [name, test] of Object.entries(tests)) {
+    if (names.length && !names.includes(name)) continue;
+    const start = Date.now();
+    try {
+      await test();
+    } catch (error) {
+      ++failed;
+      await dropCommon();
+      console.error(`${name}: ${error.stack}`);
+    }
+    if (process.env.TIMES) console.log(`${name} ${Date.now() - start} ms`);
+  }
+  await browser.close();
+  console.log(`${Object.keys(tests).length} tests, ${failed} failed`);
+  process.exitCode = failed ? 1 : 0;
+}
+
+main(process.argv.slice(2));

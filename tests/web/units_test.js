@@ -1,0 +1,162 @@
+// The modules of web/ without a browser.
+'use strict';
+const assert = require('assert');
+const fs = require('fs');
+const path = require('path');
+const {brackets} = require('./assemblies');
+const {compressed, plain} = require('./compressed');
+const {load} = require('./units');
+const {MeshoptEncoder} = require('meshoptimizer');
+
+const web = path.join(__dirname, '../../web');
+const {readGlb} = load('model/glb.ts');
+const {featureEdges} = load('model/edges.ts');
+const {arrange} = load('list/arrange.ts');
+const {csv, formatNumber} = load('list/format.ts');
+const {readPartsList, sum} = load('list/parts_list.ts');
+const {decode, encode} = load('page/address.ts');
+
+const query = more => ({search: '', filters: new Map(), sort: null, folded: new Set(), ...more});
+const table = lines => lines.map(cells => ({children: [], parent: -1, level: 0, cells}));
+const columns = [{id: 'name'}, {id: 'mass'}];
+const shown = (lines, more) => arrange(table(lines), columns, query(more), (row, id) => lines[row][id === 'name' ? 0 : 1], 'en').map(i => lines[i][0]);
+const screws = [['M10', 3], ['M5', 1], ['Čep', 2], ['', 4], ['m8', null]];
+
+// The corners of a shape's triangles, in the world, in the order of the indices.
+function corners({shapes, instances}) {
+  const {positions, indices} = shapes[instances[0].shape].opaque, m = instances[0].matrix;
+  return [...indices].map(i => [0, 1, 2].map(k => m[k] * positions[i * 3] + m[4 + k] * positions[i * 3 + 1] + m[8 + k] * positions[i * 3 + 2] + m[12 + k]));
+}
+
+const known = {model: ['model'], viewer: ['model', 'viewer'], list: ['list'], page: ['list', 'model', 'page', 'viewer']};
+
+const importsOf = folder => fs.readdirSync(path.join(web, folder)).filter(name => name.endsWith('.ts')).flatMap(name =>
+    [...fs.readFileSync(path.join(web, folder, name), 'utf8').matchAll(/from '\.\.\/(\w+)\//g)].map(found => `${folder}/${name} ${found[1]}`));
+
+const tests = {
+  aFolderKnowsOnlyThoseBelowIt() {
+    const found = Object.keys(known).flatMap(importsOf);
+    assert.ok(found.length > 15);
+    assert.deepStrictEqual(found.filter(each => !known[each.split('/')[0]].includes(each.split(' ')[1])), []);
+  },
+
+  aModelIsReadAsItsTree() {
+    const {instances, occurrences, shapes} = readGlb(brackets().glb);
+    assert.strictEqual(instances.length, 18);
+    assert.deepStrictEqual(occurrences.map(({path, begin, end}) => `${path} ${begin}-${end}`).slice(0, 7), [
+      'Rod assembly:1 0-3', 'Rod assembly:1/Rod:1 0-1', 'Rod assembly:1/Nut:2 1-2', 'Rod assembly:1/Nut:3 2-3', 'L bracket assembly:2 3-10',
+      'L bracket assembly:2/L bracket:1 3-4', 'L bracket assembly:2/Nut and bolt:2 4-6']);
+    assert.deepStrictEqual([shapes[0].min, shapes[0].max], [[-90, -75, 0], [90, 75, 20]]);
+    // 20 mm above the plate's foot, 44 mm from the bracket, in metres with y up.
+    const bolt = instances[4].matrix;
+    assert.deepStrictEqual([bolt[12], bolt[13], bolt[14]].map(each => Math.round(each * 1e6) / 1e6), [-0.028, 0.032, 0.022]);
+  },
+
+  async aCompressedModelIsTheSameAsAPlainOne() {
+    await MeshoptEncoder.ready;
+    const [a, b] = [readGlb(plain()), readGlb(compressed(MeshoptEncoder))];
+    assert.deepStrictEqual(b.occurrences, a.occurrences);
+    // An encoder may begin a triangle at another of its corners.
+    const sorted = model => corners(model).map(point => point.map(each => each.toFixed(5)).join()).sort();
+    assert.deepStrictEqual(sorted(b), sorted(a));
+  },
+
+  aDamagedModelIsRefusedByName() {
+    const {glb} = brackets();
+    assert.throws(() => readGlb(glb.subarray(0, 8)), /not binary glTF/);
+    assert.throws(() => readGlb(glb.subarray(0, glb.length - 100)), /cut short/);
+    const foreign = Buffer.from(glb.toString('latin1').replace('"generator":"test"}', '"generator":""},"extensionsRequired":["X"]').replace(/"scene":0,/, ''), 'latin1');
+    foreign.writeUInt32LE(foreign.length, 8);
+    foreign.writeUInt32LE(glb.readUInt32LE(12) + foreign.length - glb.length, 12);
+    assert.throws(() => readGlb(foreign), /the model needs X/);
+  },
+
+  edgesAreWhereFacesMeetAtAnAngle() {
+    const {shapes} = readGlb(brackets().glb);
+    assert.strictEqual(featureEdges(shapes[0]).length / 6, 12);  // a box
+    assert.strictEqual(featureEdges(shapes[1]).length / 6, 18);  // an angle: twice six corners, six between them
+    assert.strictEqual(featureEdges(shapes[4]).length / 6, 40);  // a rod of twenty sides is round: its two rims
+  },
+
+  rowsAreSortedAsAReaderCounts() {
+    assert.deepStrictEqual(shown(screws, {sort: {id: 'name', descending: false}}), ['Čep', 'M5', 'm8', 'M10', '']);
+    assert.deepStrictEqual(shown(screws, {sort: {id: 'mass', descending: true}}), ['', 'M10', 'Čep', 'M5', 'm8']);
+  },
+
+  filtersUnderstandNumbersAndLetters() {
+    const by = (id, text) => shown(screws, {filters: new Map([[id, text]])});
+    assert.deepStrictEqual(by('mass', '>= 2'), ['M10', 'Čep', '']);
+    assert.deepStrictEqual(by('mass', '1,5..3'), ['M10', 'Čep']);
+    assert.deepStrictEqual(by('mass', '=1'), ['M5']);
+    assert.deepStrictEqual(by('name', '=m5'), ['M5']);
+    assert.deepStrictEqual(by('name', '!=m5'), ['M10', 'Čep', '', 'm8']);
+    assert.deepStrictEqual(by('name', 'cep'), ['Čep']);
+    assert.deepStrictEqual(shown(screws, {search: 'm 3'}), ['M10']);
+  },
+
+  aTreeKeepsWhatIsAboveAHitAndUnfoldsIt() {
+    const {views} = readPartsList(brackets().list);
+    const rows = views.get('indented'), names = order => order.map(i => rows[i].cells[2]);
+    const cellOf = (row, id) => id === 'name' ? rows[row].cells[2] : null;
+    const folded = new Set([3]);
+    assert.deepStrictEqual(names(arrange(rows, columns, query({folded}), cellOf, 'en')), ['Rod assembly', 'Rod', 'Nut', 'L bracket assembly', 'Plate']);
+    assert.deepStrictEqual(names(arrange(rows, columns, query({folded, search: 'bolt'}), cellOf, 'en')), ['L bracket assembly', 'Nut and bolt', 'Bolt']);
+  },
+
+  aSumCountsNothingTwice() {
+    const rows = readPartsList(brackets().list).views.get('indented');
+    const {quantity, mass} = sum(rows, new Set([3, 4, 6]));
+    assert.strictEqual(quantity, 2);
+    assert.ok(Math.abs(mass - 2 * (0.6124 + 3 * (0.0197 + 0.00513))) < 1e-12);
+  },
+
+  aListThatIsNotAsDescribedIsRefused() {
+    const list = () => JSON.parse(JSON.stringify(brackets().list));
+    const broken = change => { const made = list(); change(made); return () => readPartsList(made); };
+    assert.throws(broken(made => delete made.columns), /the list has no array columns/);
+    assert.throws(broken(made => made.views.parts.rows[2].cells.pop()), /views\.parts\.rows\[2\] has 6 cells, not 7/);
+    assert.throws(broken(made => made.views.parts.rows[0].occurrences.push(99)), /views\.parts\.rows\[0\] has an occurrence beyond the paths/);
+    assert.throws(broken(made => made.views.indented.rows[0].parent = 5), /row 0 of the list comes before its parent/);
+    assert.throws(broken(made => made.views = {}), /the list has no views/);
+  },
+
+  numbersKeepFourSignificantDigits() {
+    const written = value => formatNumber(value, null, 'en');
+    assert.deepStrictEqual([0.000012345, 0.0197, 1.23456, 12345.678, 100, 0, -0.5].map(written), ['0.00001235', '0.0197', '1.235', '12346', '100', '0', '-0.5']);
+    assert.strictEqual(formatNumber(1.5, 2, 'cs'), '1,50');
+  },
+
+  csvIsQuotedAndRunsNothing() {
+    assert.strictEqual(csv([['a;b', 'say "x"', 'two\nlines'], ['=cmd', '-5', -5.5, null, true]], ';', ','),
+                       '"a;b";"say ""x""";"two\nlines"\r\n\'=cmd;-5;-5,5;;1\r\n');
+  },
+
+  anAddressBringsBackTheState() {
+    const address = {view: 'parts', search: 'a&b #1', filters: [['Mass', '>=2=']], sort: {id: 'Part Number', descending: true}, columns: ['Item'], folded: [1, 2, 3, 9],
+                     selected: [4], step: 2, dim: true, hidden: [0], perspective: false, edges: false, explode: 0.25, section: {axis: 2, share: 0.125, flipped: true},
+                     pose: {x: 1, y: -2, z: 0.5, yaw: 0.25, pitch: 0.5, size: 3}};
+    assert.deepStrictEqual(decode('#' + encode(address)), address);
+    assert.deepStrictEqual(decode(`#${encode({...address, sort: {id: 'x', descending: false}})}`).sort, {id: 'x', descending: false});
+  },
+
+  anAddressFromAnywhereHarmsNothing() {
+    const {section, pose, explode, selected, hidden} = decode('#section=7,x&pose=1,2,NaN,0,0,0&explode=1e9&selected=5-1,x,-3&hidden=0-999999999999');
+    assert.deepStrictEqual([section, pose, explode, selected, hidden], [null, null, 1, [], []]);
+  },
+};
+
+async function main() {
+  let failed = 0;
+  for (const [name, test] of Object.entries(tests)) {
+    try {
+      await test();
+    } catch (error) {
+      ++failed;
+      console.error(`${name}: ${error.stack}`);
+    }
+  }
+  console.log(`${Object.keys(tests).length} tests, ${failed} failed`);
+  process.exitCode = failed ? 1 : 0;
+}
+
+main();

@@ -1,0 +1,33 @@
+// How values are written: numbers in the reader's language, CSV for spreadsheets.
+import type {Cell, Column} from './parts_list.ts';
+
+const significantDigits = 4;
+
+/// A number with the column's decimals, else with four significant digits; no digit before the point is lost.
+export function formatNumber(value: number, decimals: number | null, language: string): string {
+  const [minimumFractionDigits, maximumFractionDigits] = decimals === null ? [0, fractionDigits(value)] : [decimals, decimals];
+  return new Intl.NumberFormat(language, {minimumFractionDigits, maximumFractionDigits, useGrouping: false}).format(value);
+}
+
+function fractionDigits(value: number): number {
+  if (!value || Number.isInteger(value)) return 0;
+  return Math.min(20, Math.max(0, significantDigits - 1 - Math.floor(Math.log10(Math.abs(value)))));
+}
+
+export function formatCell(cell: Cell | boolean, column: Pick<Column, 'decimals'>, language: string): string {
+  if (cell === null) return '';
+  if (typeof cell === 'boolean') return cell ? '✓' : '';
+  return typeof cell === 'number' ? formatNumber(cell, column.decimals, language) : cell;
+}
+
+/// Records as RFC 4180 has them. Text that a spreadsheet would run as a formula gets an apostrophe.
+export function csv(records: (Cell | boolean)[][], delimiter: string, decimalPoint: string): string {
+  const quote = (text: string) => /["\r\n]/.test(text) || text.includes(delimiter) ? `"${text.replaceAll('"', '""')}"` : text;
+  const field = (cell: Cell | boolean) => {
+    if (cell === null) return '';
+    if (typeof cell === 'boolean') return cell ? '1' : '0';
+    if (typeof cell === 'number') return quote(String(cell).replace('.', decimalPoint));
+    return quote(/^[=+\-@\t\r]/.test(cell) && Number.isNaN(Number(cell)) ? `'${cell}` : cell);
+  };
+  return records.map(record => record.map(field).join(delimiter) + '\r\n').join('');
+}

@@ -1,0 +1,64 @@
+// The columns that the page offers: those of the list, and the reader's own marks and notes.
+import type {GridColumn} from '../list/grid.ts';
+import type {Cell, Column, PartsList, Row} from '../list/parts_list.ts';
+import {marks} from './work.ts';
+import type {Mark, Work} from './work.ts';
+import {captionOf, texts} from './texts.ts';
+
+export const noteId = 'note';
+const nameId = 'Part Name';
+const numberId = 'Part Number';
+const hiddenAtFirst = new Set(['Path', 'Used in', 'Document', 'Level', 'Density', 'Area', 'Volume', 'BOM Structure', 'Quantity per parent', 'Bodies', 'Item', 'Description']);
+const widths: Record<string, number> = {'Item': 58, [numberId]: 146, [nameId]: 140, 'Description': 150, 'Material': 116};
+const pictureWidth = 68, markWidth = 78;
+const letterWidth = 7.6, margin = 22;  // of a caption, which has to fit
+
+const fitting = (caption: string, least: number) => Math.max(least, Math.round(caption.length * letterWidth + margin));
+
+export const pictureId = 'Thumbnail';
+
+export class Columns {
+  readonly all: GridColumn[];
+  private readonly indices = new Map<string, number>();
+
+  constructor(readonly list: PartsList, private readonly work: Work, withPictures: boolean) {
+    list.columns.forEach((column, i) => this.indices.set(column.id, i));
+    const own = list.columns.filter(column => column.kind !== 'picture').map(column => this.fromList(column));
+    const picture: GridColumn = {id: pictureId, caption: texts.thumbnail, kind: 'picture', width: fitting(texts.thumbnail, pictureWidth)};
+    this.all = [...withPictures ? [picture] : [], ...own, ...marks.map(checkColumn),
+                {id: noteId, caption: texts.note, kind: 'note', width: 120}];
+    if (!this.all.some(each => each.grows) && own[0]) this.all.find(each => each.id === own[0].id)!.grows = true;
+  }
+
+  private fromList(column: Column): GridColumn {
+    const caption = captionOf(column) + (column.unit ? ` [${column.unit}]` : '');
+    return {id: column.id, caption, kind: column.kind, width: fitting(caption, widths[column.id] ?? (column.kind === 'number' ? 72 : 110)),
+            grows: column.id === nameId, tree: column.id === this.treeColumn()};
+  }
+
+  // The tree is shown where the eye looks first.
+  private treeColumn(): string {
+    return [numberId, nameId].find(id => this.indices.has(id)) ?? this.list.columns.find(each => each.kind === 'text')?.id ?? '';
+  }
+
+  shownAtFirst(id: string): boolean {
+    if (hiddenAtFirst.has(id)) return false;
+    return id !== 'made' && id !== 'mounted';
+  }
+
+  /// A value for sorting, filtering and export.
+  cell(row: Row, id: string): Cell | boolean {
+    if ((marks as string[]).includes(id)) return this.work.marked(row.key, id as Mark);
+    if (id === noteId) return this.work.note(row.key);
+    const index = this.indices.get(id);
+    return index === undefined ? null : row.cells[index];
+  }
+
+  decimals(id: string): number | null {
+    return this.list.columns[this.indices.get(id) ?? -1]?.decimals ?? null;
+  }
+}
+
+function checkColumn(mark: Mark): GridColumn {
+  return {id: mark, caption: texts[mark], kind: 'check', width: fitting(texts[mark], markWidth)};
+}

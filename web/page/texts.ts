@@ -1,0 +1,75 @@
+// What the page says, in English and Czech.
+
+const english = {
+  parts: 'Parts', indented: 'Indented', top: 'Top level', all: 'All items',
+  views: 'View of the list', search: 'Search', searchHint: 'Search in all columns', filters: 'Filters', columns: 'Columns',
+  list: 'Parts list', total: 'Total', fold: 'Fold', unfold: 'Unfold', filterFor: (caption: string) => `Filter: ${caption}`,
+  thumbnail: 'Picture', ordered: 'Ordered', made: 'Made', mounted: 'Mounted', note: 'Note',
+  model: 'Assembly in 3D', modelHelp: 'Arrow keys turn, Shift with arrow keys moves, plus and minus zoom, F fits.',
+  fit: 'Fit', view: 'View direction', iso: 'Isometric', front: 'Front', back: 'Back', left: 'Left', right: 'Right', topView: 'Top',
+  bottom: 'Bottom', perspective: 'Perspective', edges: 'Edges', section: 'Section', sectionAxis: 'Section across',
+  sectionAt: 'Place of the section', flip: 'Other side', explode: 'Explode', isolate: 'Isolate', hide: 'Hide', dim: 'Dim the others',
+  showAll: 'Show all', export: 'Export', exportCsv: 'List as CSV', exportWork: 'Marks and notes as JSON', importWork: 'Read marks and notes …',
+  exportPicture: 'Picture as PNG', print: 'Print', help: 'Keys', close: 'Close', messages: (n: number) => n === 1 ? '1 message' : `${n} messages`,
+  conflicts: 'Conflicts', warnings: 'Warnings', splitter: 'Width of the list',
+  occurrence: (n: number, of: number) => `${n} of ${of}`, previous: 'Previous occurrence', next: 'Next occurrence',
+  rows: (n: number) => n === 1 ? '1 row' : `${n} rows`, selected: 'selected', pieces: 'pcs', clear: 'Clear the selection',
+  places: (n: number) => n === 1 ? '1 place' : `${n} places`, unknownMass: (n: number) => `${n} without mass`,
+  shown: (n: number, of: number) => n === of ? `${of} rows` : `${n} of ${of} rows`,
+  instances: (n: number) => n === 1 ? '1 part' : `${n} parts`, triangles: (n: string) => `${n} triangles`,
+  noModel: 'This page has no model.', badModel: 'The model cannot be shown: ', noWebgl: 'This browser cannot draw in 3D (WebGL 2 is missing). The list works all the same.',
+  badList: 'The list cannot be read: ', badWork: 'These marks cannot be read: ', otherFile: 'These marks belong to another file: ',
+  notKept: 'The browser does not keep marks and notes for this page; export them before you close it.',
+  contextLost: 'The browser has taken the 3D picture away; it comes back by itself.',
+  keys: [['↑ ↓ Page Home End', 'move in the list'], ['Enter', 'select and fit; again: the next occurrence'], ['Shift+Enter', 'the previous occurrence'],
+         ['Space', 'add to the selection; tick the box'], ['← →', 'unfold, fold; cell by cell (Ctrl: always)'], ['/', 'search'], ['Esc', 'clear selection and search'],
+         ['F', 'fit'], ['1 … 7', 'isometric, front, back, left, right, top, bottom'], ['P', 'perspective or parallel'], ['E', 'edges'], ['X', 'section'],
+         ['I', 'isolate'], ['H', 'hide'], ['G', 'dim the others'], ['A', 'show all'], ['?', 'this list'],
+         ['Mouse', 'left: turn; right, middle or Shift: move; wheel: zoom; Ctrl+click: add']] as [string, string][],
+};
+
+export type Texts = typeof english;
+
+const plural = (n: number, one: string, few: string, many: string) => `${n} ${n === 1 ? one : n >= 2 && n <= 4 ? few : many}`;
+
+const czech: Texts = {
+  parts: 'Díly', indented: 'Struktura', top: 'Nejvyšší úroveň', all: 'Všechny položky',
+  views: 'Pohled na seznam', search: 'Hledat', searchHint: 'Hledat ve všech sloupcích', filters: 'Filtry', columns: 'Sloupce',
+  list: 'Kusovník', total: 'Celkem', fold: 'Sbalit', unfold: 'Rozbalit', filterFor: caption => `Filtr: ${caption}`,
+  thumbnail: 'Náhled', ordered: 'Objednáno', made: 'Vyrobeno', mounted: 'Namontováno', note: 'Poznámka',
+  model: 'Sestava ve 3D', modelHelp: 'Šipky otáčejí, Shift se šipkami posouvá, plus a minus přibližují a oddalují, F zobrazí vše.',
+  fit: 'Zobrazit vše', view: 'Směr pohledu', iso: 'Izometrie', front: 'Zepředu', back: 'Zezadu', left: 'Zleva', right: 'Zprava', topView: 'Shora',
+  bottom: 'Zdola', perspective: 'Perspektiva', edges: 'Hrany', section: 'Řez', sectionAxis: 'Řez kolmo na', sectionAt: 'Poloha řezu', flip: 'Druhá strana',
+  explode: 'Rozložení', isolate: 'Izolovat', hide: 'Skrýt', dim: 'Ztlumit ostatní', showAll: 'Odkrýt vše', export: 'Export',
+  exportCsv: 'Seznam jako CSV', exportWork: 'Značky a poznámky jako JSON', importWork: 'Načíst značky a poznámky…', exportPicture: 'Obrázek jako PNG',
+  print: 'Tisk', help: 'Klávesy', close: 'Zavřít', messages: n => plural(n, 'zpráva', 'zprávy', 'zpráv'), conflicts: 'Rozpory', warnings: 'Upozornění', splitter: 'Šířka seznamu',
+  occurrence: (n, of) => `${n}. z ${of}`, previous: 'Předchozí výskyt', next: 'Další výskyt',
+  rows: n => plural(n, 'řádek', 'řádky', 'řádků'), selected: 'vybráno', pieces: 'ks', clear: 'Zrušit výběr',
+  places: n => plural(n, 'místo', 'místa', 'míst'), unknownMass: n => `${n} bez hmotnosti`,
+  shown: (n, of) => n === of ? plural(of, 'řádek', 'řádky', 'řádků') : `${n} z ${of} řádků`,
+  instances: n => plural(n, 'díl', 'díly', 'dílů'), triangles: n => `${n} trojúhelníků`,
+  noModel: 'Tato stránka neobsahuje model.', badModel: 'Model nelze zobrazit: ', noWebgl: 'Tento prohlížeč neumí kreslit ve 3D (chybí WebGL 2). Seznam přesto funguje.',
+  badList: 'Seznam nelze načíst: ', badWork: 'Tyto značky nelze načíst: ', otherFile: 'Tyto značky patří k jinému souboru: ',
+  notKept: 'Prohlížeč pro tuto stránku značky a poznámky neuchová; než ji zavřete, exportujte je.',
+  contextLost: 'Prohlížeč 3D obraz odebral; obnoví se sám.',
+  keys: [['↑ ↓ Page Home End', 'pohyb v seznamu'], ['Enter', 'vybrat a přiblížit; znovu: další výskyt'], ['Shift+Enter', 'předchozí výskyt'],
+         ['Mezerník', 'přidat k výběru; zaškrtnout'], ['← →', 'rozbalit, sbalit; po buňkách (Ctrl: vždy)'], ['/', 'hledat'], ['Esc', 'zrušit výběr a hledání'],
+         ['F', 'zobrazit vše'], ['1 … 7', 'izometrie, zepředu, zezadu, zleva, zprava, shora, zdola'], ['P', 'perspektiva nebo rovnoběžné promítání'], ['E', 'hrany'],
+         ['X', 'řez'], ['I', 'izolovat'], ['H', 'skrýt'], ['G', 'ztlumit ostatní'], ['A', 'odkrýt vše'], ['?', 'tento přehled'],
+         ['Myš', 'levé tlačítko: otáčení; pravé, prostřední nebo Shift: posun; kolečko: zvětšení; Ctrl+klik: přidat']],
+};
+
+// The file's own captions are the parts list's; those that it has by default are shown in the reader's language.
+const czechCaptions: Record<string, string> = {
+  'Item': 'Pozice', 'Part Number': 'Číslo dílu', 'Part Name': 'Název', 'Description': 'Popis', 'Quantity': 'Počet',
+  'Quantity per parent': 'Počet v nadřazené', 'Mass': 'Hmotnost', 'Total mass': 'Hmotnost celkem', 'Volume': 'Objem', 'Area': 'Plocha',
+  'Density': 'Hustota', 'Material': 'Materiál', 'Size': 'Rozměry', 'BOM Structure': 'Struktura kusovníku', 'Level': 'Úroveň', 'Path': 'Cesta',
+  'Used in': 'Použito v', 'Bodies': 'Tělesa', 'Document': 'Dokument', 'Thumbnail': 'Náhled',
+};
+
+export const language: 'en' | 'cs' = navigator.language.toLowerCase().startsWith('cs') ? 'cs' : 'en';
+export const texts: Texts = language === 'cs' ? czech : english;
+
+export function captionOf(column: {id: string; caption: string}): string {
+  return language === 'cs' && column.caption === column.id ? czechCaptions[column.id] ?? column.caption : column.caption;
+}
