@@ -15,7 +15,7 @@ const {build} = createRequire(join(modules, 'any.js'))('esbuild');
 
 async function bundle(entry) {
   const {outputFiles} = await build({
-    entryPoints: [join(web, entry)], bundle: true, minify: true, write: false, format: 'iife', charset: 'utf8', target: 'es2021',
+    entryPoints: [join(web, entry)], bundle: true, minify: true, write: false, format: 'iife', charset: 'ascii', target: 'es2021',
     legalComments: 'inline', nodePaths: [modules], logLevel: 'warning', absWorkingDir: web,
     alias: {'meshopt-reference': join(modules, 'meshoptimizer/meshopt_decoder_reference.js')},
   });

@@ -6,10 +6,8 @@ const {writeGlb} = require('./glb_writer');
 const quarter = (axis, sign = 1) => [...[0, 1, 2].map(k => k === 'xyz'.indexOf(axis) ? sign * Math.SQRT1_2 : 0), Math.SQRT1_2];
 
 const columns = [
-  {id: 'Item', caption: 'Item', kind: 'text'}, {id: 'Part Number', caption: 'Part Number', kind: 'text'},
-  {id: 'Part Name', caption: 'Part Name', kind: 'text'}, {id: 'Quantity', caption: 'Quantity', kind: 'number'},
-  {id: 'Mass', caption: 'Mass', kind: 'number', unit: 'kg'}, {id: 'Total mass', caption: 'Total mass', kind: 'number', unit: 'kg'},
-  {id: 'Material', caption: 'Material', kind: 'text'}];
+  {key: 'item', caption: 'Item'}, {key: 'partNumber', caption: 'Part Number'}, {key: 'partName', caption: 'Part Name'}, {key: 'quantity', caption: 'Quantity'},
+  {key: 'mass', caption: 'Mass [kg]', unit: 'kg'}, {key: 'totalMass', caption: 'Total mass [kg]', unit: 'kg'}, {key: 'material', caption: 'Material'}];
 
 /// A node: {part, at, turn, children}; parts: {id: {number, name, mass, material, mesh}}.
 function assembly(name, parts, meshes, top) {
@@ -19,39 +17,50 @@ function assembly(name, parts, meshes, top) {
     const path = `${above}${part.name}:${i + 1}`;
     paths.push(path);
     return {...node, ...{name: part.name, path, pathIndex: paths.length - 1, partNumber: part.number, component: node.part, mesh: part.mesh},
-            children: place(node.children ?? [], `${path}/`)};
+            children: place(node.children ?? [], `${path}+`)};
   });
   const tree = place(top, '');
   const leaves = [];
   const collect = (nodes, times) => nodes.forEach(node => node.children.length ? collect(node.children, times) : leaves.push(node));
   collect(tree, 1);
-  return {list: {schema: 1, file: {name, sha256: hashOf(name)}, columns, paths, conflicts: [], warnings: [],
-                 views: {parts: {rows: flat(parts, leaves)}, indented: {rows: indented(parts, tree)}, top: {rows: flat(parts, tree)}}},
-          glb: writeGlb(meshes, tree), leaves: leaves.length, tree};
+  const views = [view('parts', flat(parts, leaves)), view('indented', indented(parts, tree)), view('top', flat(parts, tree))];
+  return {list: {schema: 'tarnix-page', version: 1, file: {name, sha256: hashOf(name)}, paths, views}, glb: writeGlb(meshes, tree), leaves: leaves.length, tree};
+}
+
+/// A list as `parts --format json` writes it, as far as the page reads it, and what the page adds.
+function view(name, made) {
+  const rows = made.map(each => each.row);
+  const tops = rows.filter(row => row.parent === null);
+  const totals = {rows: rows.length, quantity: rows.filter(row => row.kind === 'part').reduce((sum, row) => sum + row.quantity, 0),
+                  massKg: tops.reduce((sum, row) => sum + row.totalMassKg, 0)};
+  return {list: {schema: 'tarnix-parts', version: 1, view: name, columns, rows, totals, conflicts: [], possibleDuplicates: [], warnings: []},
+          occurrences: made.map(each => each.occurrences)};
 }
 
 const hashOf = name => require('crypto').createHash('sha256').update(name).digest('hex');
 
 const massOf = (parts, node) => node.children.length ? node.children.reduce((sum, child) => sum + massOf(parts, child), 0) : parts[node.part].mass ?? null;
 
-function row(parts, item, nodes, level, parent) {
-  const part = parts[nodes[0].part], mass = massOf(parts, nodes[0]);
-  return {key: part.number || part.name, level, parent, quantity: nodes.length, mass, occurrences: nodes.map(node => node.pathIndex),
-          cells: [item, part.number, part.name, nodes.length, mass, mass === null ? null : mass * nodes.length, part.material ?? '']};
+function row(parts, item, nodes, parent = null, kind = 'part') {
+  const part = parts[nodes[0].part], mass = massOf(parts, nodes[0]), total = mass === null ? null : mass * nodes.length;
+  return {occurrences: nodes.map(node => node.pathIndex), row: {
+    item, kind, parent, quantity: nodes.length, massKg: mass, totalMassKg: total, components: [{name: part.name, partNumber: part.number || part.name}],
+    cells: {item, partNumber: part.number, partName: part.name, quantity: nodes.length, mass, totalMass: total, material: part.material ?? ''}}};
 }
 
 const grouped = nodes => [...nodes.reduce((map, node) => map.set(node.part, [...map.get(node.part) ?? [], node]), new Map()).values()];
 
-const flat = (parts, nodes) => grouped(nodes).map((group, i) => row(parts, String(i + 1), group, 0, -1));
+const flat = (parts, nodes) => grouped(nodes).map((group, i) => row(parts, String(i + 1), group));
 
 function indented(parts, tree) {
   const rows = [];
-  const add = (nodes, above, level, parent) => grouped(nodes).forEach((group, i) => {
-    const item = `${above}${i + 1}`;
-    const index = rows.push(row(parts, item, group, level, parent)) - 1;
-    add(group.flatMap(node => node.children), `${item}.`, level + 1, index);
+  const add = (nodes, above) => grouped(nodes).forEach((group, i) => {
+    const item = above === null ? `${i + 1}` : `${above}.${i + 1}`;
+    const inside = group.flatMap(node => node.children);
+    rows.push(row(parts, item, group, above, inside.length ? 'assembly' : 'part'));
+    add(inside, item);
   });
-  add(tree, '', 0, -1);
+  add(tree, null);
   return rows;
 }
 
@@ -106,7 +115,7 @@ function hostile() {
   const parts = Object.fromEntries(hostileNames.map((name, i) => [`h${i}`, {number: name, name, mass: 1, material: name, mesh: 0}]));
   const made = assembly('</title><img src=x onerror=alert(1)>.step', parts, [{name: hostileNames[0], parts: [box(8, 8, 8, red)]}],
                         hostileNames.map((_, i) => ({part: `h${i}`, at: [i * 12, 0, 0]})));
-  made.list.warnings = hostileNames;
+  made.list.views[0].list.warnings = hostileNames.map(text => ({code: 'x', text, component: ''}));
   return made;
 }
 

@@ -450,8 +450,8 @@ const tests = {
       assert.deepStrictEqual((await shownRows(page)).length, 5);
       await close(page);
     }
-    const page = await open({schema: 9}, null);
-    assert.strictEqual(await page.textContent('.problem'), 'The list cannot be read: the list has the schema 9; this page reads 1');
+    const page = await open({schema: 'tarnix-page', version: 9}, null);
+    assert.strictEqual(await page.textContent('.problem'), 'The list cannot be read: the page is tarnix-page 9, not tarnix-page 1');
     await close(page);
   },
 

@@ -13,7 +13,7 @@ const {readGlb} = load('model/glb.ts');
 const {featureEdges} = load('model/edges.ts');
 const {arrange} = load('list/arrange.ts');
 const {csv, formatNumber} = load('list/format.ts');
-const {readPartsList, sum} = load('list/parts_list.ts');
+const {readPartsList, sum, total} = load('list/parts_list.ts');
 const {decode, encode} = load('page/address.ts');
 
 const query = more => ({search: '', filters: new Map(), sort: null, folded: new Set(), ...more});
@@ -44,8 +44,8 @@ const tests = {
     const {instances, occurrences, shapes} = readGlb(brackets().glb);
     assert.strictEqual(instances.length, 18);
     assert.deepStrictEqual(occurrences.map(({path, begin, end}) => `${path} ${begin}-${end}`).slice(0, 7), [
-      'Rod assembly:1 0-3', 'Rod assembly:1/Rod:1 0-1', 'Rod assembly:1/Nut:2 1-2', 'Rod assembly:1/Nut:3 2-3', 'L bracket assembly:2 3-10',
-      'L bracket assembly:2/L bracket:1 3-4', 'L bracket assembly:2/Nut and bolt:2 4-6']);
+      'Rod assembly:1 0-3', 'Rod assembly:1+Rod:1 0-1', 'Rod assembly:1+Nut:2 1-2', 'Rod assembly:1+Nut:3 2-3', 'L bracket assembly:2 3-10',
+      'L bracket assembly:2+L bracket:1 3-4', 'L bracket assembly:2+Nut and bolt:2 4-6']);
     assert.deepStrictEqual([shapes[0].min, shapes[0].max], [[-90, -75, 0], [90, 75, 20]]);
     // 20 mm above the plate's foot, 44 mm from the bracket, in metres with y up.
     const bolt = instances[4].matrix;
@@ -96,7 +96,7 @@ const tests = {
 
   aTreeKeepsWhatIsAboveAHitAndUnfoldsIt() {
     const {views} = readPartsList(brackets().list);
-    const rows = views.get('indented'), names = order => order.map(i => rows[i].cells[2]);
+    const rows = views.get('indented').rows, names = order => order.map(i => rows[i].cells[2]);
     const cellOf = (row, id) => id === 'name' ? rows[row].cells[2] : null;
     const folded = new Set([3]);
     assert.deepStrictEqual(names(arrange(rows, columns, query({folded}), cellOf, 'en')), ['Rod assembly', 'Rod', 'Nut', 'L bracket assembly', 'Plate']);
@@ -104,7 +104,7 @@ const tests = {
   },
 
   aSumCountsNothingTwice() {
-    const rows = readPartsList(brackets().list).views.get('indented');
+    const rows = readPartsList(brackets().list).views.get('indented').rows;
     const {quantity, mass} = sum(rows, new Set([3, 4, 6]));
     assert.strictEqual(quantity, 2);
     assert.ok(Math.abs(mass - 2 * (0.6124 + 3 * (0.0197 + 0.00513))) < 1e-12);
@@ -113,11 +113,41 @@ const tests = {
   aListThatIsNotAsDescribedIsRefused() {
     const list = () => JSON.parse(JSON.stringify(brackets().list));
     const broken = change => { const made = list(); change(made); return () => readPartsList(made); };
-    assert.throws(broken(made => delete made.columns), /the list has no array columns/);
-    assert.throws(broken(made => made.views.parts.rows[2].cells.pop()), /views\.parts\.rows\[2\] has 6 cells, not 7/);
-    assert.throws(broken(made => made.views.parts.rows[0].occurrences.push(99)), /views\.parts\.rows\[0\] has an occurrence beyond the paths/);
-    assert.throws(broken(made => made.views.indented.rows[0].parent = 5), /row 0 of the list comes before its parent/);
-    assert.throws(broken(made => made.views = {}), /the list has no views/);
+    assert.throws(() => readPartsList({schema: 'x', version: 1}), /the page is x 1, not tarnix-page 1/);
+    assert.throws(broken(made => made.views[1].list.version = 2), /views\[1\]\.list is tarnix-parts 2, not tarnix-parts 1/);
+    assert.throws(broken(made => delete made.views[0].list.rows), /the page has no array views\[0\]\.list\.rows/);
+    assert.throws(broken(made => made.views[0].occurrences.pop()), /views\[0\] has 5 rows and occurrences of 4/);
+    assert.throws(broken(made => made.views[0].occurrences[2].push(99)), /views\[0\]\.occurrences\[2\] is beyond the paths/);
+    assert.throws(broken(made => made.views = []), /the page has no views/);
+  },
+
+  aTotalCountsWhatIsNotOpened() {
+    const view = readPartsList(brackets().list).views.get('indented');
+    const all = total(view, new Set(view.rows.keys()));
+    assert.strictEqual(all.quantity, 18);
+    assert.ok(Math.abs(all.mass - (4.212 + 2 * 0.6124 + 6 * 0.0197 + 8 * 0.00513 + 0.1233)) < 1e-12);
+    // The rod's assembly and its nuts: the nuts are in it.
+    const some = total(view, new Set([0, 2]));
+    assert.deepStrictEqual([some.quantity, some.mass.toFixed(5)], [2, (0.1233 + 2 * 0.00513).toFixed(5)]);
+  },
+
+  captionsAndSizesAreReadable() {
+    const {list} = brackets();
+    list.views[0].list.columns.push({key: 'size', caption: 'Size [mm]', unit: 'mm'}, {key: 'thumbnail', caption: 'Thumbnail'});
+    list.views[0].list.rows[0].cells.size = [200.00001, 10, 9.99999];
+    const {columns, views} = readPartsList(list);
+    assert.deepStrictEqual(columns.map(each => each.kind).join(), 'text,text,text,number,number,number,text,text,picture');
+    assert.strictEqual(views.get('parts').rows[0].cells[7], '200 × 10 × 10');
+  },
+
+  whatIsWrongInTheListIsALine() {
+    const {list} = brackets();
+    const warning = {code: 'unmeasured', text: 'cannot be measured', component: 'Rod'};
+    list.views[0].list.warnings = list.views[1].list.warnings = [warning];
+    list.views[0].list.conflicts = [{what: 'material', item: 'BR-1', values: ['Steel', 'Brass'], components: []}];
+    list.views[0].list.possibleDuplicates = [{shape: 3, items: ['A', 'B']}];
+    const {conflicts, warnings} = readPartsList(list);
+    assert.deepStrictEqual([conflicts, warnings], [['BR-1: material: Steel / Brass', '= A = B'], ['Rod: cannot be measured']]);
   },
 
   numbersKeepFourSignificantDigits() {

@@ -1,5 +1,5 @@
 // How values are written: numbers in the reader's language, CSV for spreadsheets.
-import type {Cell, Column} from './parts_list.ts';
+import type {Cell} from './parts_list.ts';
 
 const significantDigits = 4;
 
@@ -14,10 +14,10 @@ function fractionDigits(value: number): number {
   return Math.min(20, Math.max(0, significantDigits - 1 - Math.floor(Math.log10(Math.abs(value)))));
 }
 
-export function formatCell(cell: Cell | boolean, column: Pick<Column, 'decimals'>, language: string): string {
+export function formatCell(cell: Cell | boolean, language: string): string {
   if (cell === null) return '';
   if (typeof cell === 'boolean') return cell ? '✓' : '';
-  return typeof cell === 'number' ? formatNumber(cell, column.decimals, language) : cell;
+  return typeof cell === 'number' ? formatNumber(cell, null, language) : cell;
 }
 
 /// Records as RFC 4180 has them. Text that a spreadsheet would run as a formula gets an apostrophe.

@@ -1,11 +1,9 @@
-// The parts list as docs/page.md describes it, checked while it is read.
+// The parts lists that docs/page.md describes, checked while they are read.
 
 export interface Column {
   id: string;
-  caption: string;
+  caption: string;  ///< with the unit
   kind: 'text' | 'number' | 'picture';
-  unit: string;
-  decimals: number | null;  ///< null: significant digits
 }
 
 export type Cell = string | number | null;
@@ -13,67 +11,115 @@ export type Cell = string | number | null;
 export interface Row {
   key: string;            ///< names the item in all views and after the file was read again
   cells: Cell[];
-  level: number;
+  level: number;          ///< 0 at the top
   parent: number;         ///< index in the view; -1 at the top
   children: number[];
+  opened: boolean;        ///< an assembly whose parts are listed
   quantity: number;       ///< in all of the assembly
   mass: number | null;    ///< of one, in kg
+  totalMass: number | null;
+  marked: boolean;        ///< its mass rests on what is assumed
   occurrences: number[];  ///< indices in `paths`
 }
+
+export interface View { rows: Row[]; totalMass: number | null }
 
 export interface PartsList {
   file: {name: string; sha256: string};
   columns: Column[];
   paths: string[];
-  views: Map<string, Row[]>;
+  views: Map<string, View>;
   conflicts: string[];
   warnings: string[];
 }
 
-const schema = 1;
+const page = {schema: 'tarnix-page', version: 1};
+const list = {schema: 'tarnix-parts', version: 1};
+const pictureId = 'thumbnail';
 
 /// Throws an Error that names what is not as described.
 export function readPartsList(json: any): PartsList {
-  if (json?.schema !== schema) throw new Error(`the list has the schema ${json?.schema}; this page reads ${schema}`);
-  const columns = array(json.columns, 'columns').map(readColumn);
+  expect(json, page, 'the page');
   const paths = array(json.paths, 'paths').map(String);
-  const views = new Map<string, Row[]>();
-  for (const [name, view] of Object.entries<any>(json.views ?? {})) {
-    const where = `views.${name}.rows`;
-    views.set(name, linked(array(view?.rows, where).map((row, i) => readRow(row, columns, paths, `${where}[${i}]`))));
+  const lists = array(json.views, 'views');
+  if (!lists.length) throw new Error('the page has no views');
+  const columns = union(lists.map((view, i) => {
+    expect(view.list, list, `views[${i}].list`);
+    return array(view.list.columns, `views[${i}].list.columns`);
+  }));
+  const views = new Map(lists.map((view, i) => [String(view.list.view), readView(view, columns, paths, `views[${i}]`)]));
+  return {file: {name: String(json.file?.name ?? ''), sha256: String(json.file?.sha256 ?? '')}, columns: withKinds(columns, views), paths, views,
+          ...messages(lists.map(each => each.list))};
+}
+
+function expect(json: any, wanted: {schema: string; version: number}, where: string): void {
+  if (json?.schema !== wanted.schema || json.version !== wanted.version) {
+    throw new Error(`${where} is ${json?.schema} ${json?.version}, not ${wanted.schema} ${wanted.version}`);
   }
-  if (!views.size) throw new Error('the list has no views');
-  return {file: {name: String(json.file?.name ?? ''), sha256: String(json.file?.sha256 ?? '')}, columns, paths, views,
-          conflicts: (json.conflicts ?? []).map(String), warnings: (json.warnings ?? []).map(String)};
 }
 
 function array(value: unknown, where: string): any[] {
-  if (!Array.isArray(value)) throw new Error(`the list has no array ${where}`);
+  if (!Array.isArray(value)) throw new Error(`the page has no array ${where}`);
   return value;
 }
 
-function readColumn(column: any): Column {
-  const kind = ['number', 'picture'].includes(column.kind) ? column.kind : 'text';
-  return {id: String(column.id), caption: String(column.caption ?? column.id), kind, unit: String(column.unit ?? ''),
-          decimals: typeof column.decimals === 'number' ? column.decimals : null};
+/// The columns of all lists, each once, where the first list has it.
+function union(lists: any[][]): Column[] {
+  const known = new Map<string, Column>();
+  for (const column of lists.flat()) {
+    const id = String(column.key);
+    if (!known.has(id)) known.set(id, {id, caption: String(column.caption ?? id), kind: id === pictureId ? 'picture' : 'text'});
+  }
+  return [...known.values()];
 }
 
-function readRow(row: any, columns: Column[], paths: string[], where: string): Row {
-  const cells = array(row.cells, `${where}.cells`);
-  if (cells.length !== columns.length) throw new Error(`${where} has ${cells.length} cells, not ${columns.length}`);
-  const occurrences: number[] = array(row.occurrences ?? [], `${where}.occurrences`);
-  if (occurrences.some(each => !(each in paths))) throw new Error(`${where} has an occurrence beyond the paths`);
-  return {key: String(row.key ?? ''), cells, level: row.level ?? 0, parent: row.parent ?? -1, children: [],
-          quantity: Number(row.quantity ?? 0), mass: typeof row.mass === 'number' ? row.mass : null, occurrences};
-}
-
-function linked(rows: Row[]): Row[] {
-  rows.forEach((row, i) => {
-    if (row.parent < 0) return;
-    if (!(row.parent < i)) throw new Error(`row ${i} of the list comes before its parent`);
-    rows[row.parent].children.push(i);
+function withKinds(columns: Column[], views: Map<string, View>): Column[] {
+  return columns.map((column, i) => {
+    const values = [...views.values()].flatMap(({rows}) => rows.map(row => row.cells[i])).filter(cell => cell !== null);
+    const isNumber = values.length > 0 && values.every(cell => typeof cell === 'number');
+    return column.kind === 'picture' || !isNumber ? column : {...column, kind: 'number'};
   });
-  return rows;
+}
+
+function readView(json: any, columns: Column[], paths: string[], where: string): View {
+  const rows = array(json.list.rows, `${where}.list.rows`);
+  const occurrences = array(json.occurrences, `${where}.occurrences`);
+  if (rows.length !== occurrences.length) throw new Error(`${where} has ${rows.length} rows and occurrences of ${occurrences.length}`);
+  const indices = new Map<string, number>();
+  const read: Row[] = [];
+  rows.forEach((row, i) => {
+    const parent = indices.get(row.parent) ?? -1;
+    indices.set(row.item, i);
+    read.push(readRow(row, columns, occurrences[i], parent < 0 ? 0 : read[parent].level + 1, parent));
+    if (read[i].occurrences.some(each => !(each in paths))) throw new Error(`${where}.occurrences[${i}] is beyond the paths`);
+    if (parent >= 0) read[parent].children.push(i);
+  });
+  return {rows: read, totalMass: numberOrNull(json.list.totals?.massKg)};
+}
+
+function readRow(row: any, columns: Column[], occurrences: unknown, level: number, parent: number): Row {
+  const first = row.components?.[0] ?? {};
+  return {key: `${first.partNumber || first.name || row.item}${row.kind === 'own-bodies' ? ' (own bodies)' : ''}`,
+          cells: columns.map(({id}) => readCell(row.cells?.[id])), level, parent, children: [], opened: row.kind === 'assembly',
+          quantity: Number(row.quantity ?? 0), mass: numberOrNull(row.massKg), totalMass: numberOrNull(row.totalMassKg),
+          marked: row.assumed === true || row.unmeasured === true, occurrences: array(occurrences, 'of occurrences').map(Number)};
+}
+
+const numberOrNull = (value: unknown) => typeof value === 'number' ? value : null;
+
+function readCell(value: unknown): Cell {
+  if (Array.isArray(value)) return value.map(each => Number(Number(each).toPrecision(4))).join(' × ');
+  return typeof value === 'number' || typeof value === 'string' ? value : null;
+}
+
+// Each list tells of the whole design: what several say is said once.
+function messages(lists: any[]): {conflicts: string[]; warnings: string[]} {
+  const once = (lines: string[]) => [...new Set(lines)];
+  const conflicts = lists.flatMap(each => [
+    ...(each.conflicts ?? []).map((one: any) => `${one.item}: ${one.what}: ${(one.values ?? []).join(' / ')}`),
+    ...(each.possibleDuplicates ?? []).map((one: any) => `= ${(one.items ?? []).join(' = ')}`)]);
+  const warnings = lists.flatMap(each => (each.warnings ?? []).map((one: any) => `${one.component ? `${one.component}: ` : ''}${one.text}`));
+  return {conflicts: once(conflicts), warnings: once(warnings)};
 }
 
 /// Quantity and mass of these rows; a row below another one of them is in it already. `unknown`: rows without a mass.
@@ -83,13 +129,24 @@ export function sum(rows: Row[], chosen: Set<number>): {quantity: number; mass: 
     const row = rows[index];
     if (hasAncestorIn(rows, index, chosen)) continue;
     result.quantity += row.quantity;
-    result.mass += row.quantity * (row.mass ?? 0);
-    result.unknown += row.mass === null ? 1 : 0;
+    result.mass += row.totalMass ?? 0;
+    result.unknown += row.totalMass === null ? 1 : 0;
   }
   return result;
 }
 
-function hasAncestorIn(rows: Row[], index: number, chosen: Set<number>): boolean {
+export function hasAncestorIn(rows: Row[], index: number, chosen: Set<number>): boolean {
   for (let at = rows[index].parent; at >= 0; at = rows[at].parent) if (chosen.has(at)) return true;
   return false;
+}
+
+/// What a list that shows these rows adds up to: as `parts` counts, items that are not opened, and nothing twice.
+export function total(view: View, shown: Set<number>): {quantity: number; mass: number | null} {
+  const rows = [...shown].map(index => view.rows[index]);
+  const quantity = rows.reduce((whole, row) => whole + (row.opened ? 0 : row.quantity), 0);
+  if (shown.size === view.rows.length) return {quantity, mass: view.totalMass};
+  // In a flat list an opened assembly stands beside its parts.
+  const isTree = view.rows.some(row => row.parent >= 0);
+  const counted = new Set([...shown].filter(index => isTree || !view.rows[index].opened || rows.every(row => row.opened)));
+  return {quantity, mass: sum(view.rows, counted).mass};
 }

@@ -3,7 +3,7 @@ import {arrange, Query} from '../list/arrange.ts';
 import {download, element} from '../list/dom.ts';
 import {formatCell, formatNumber, csv} from '../list/format.ts';
 import {Grid, GridColumn} from '../list/grid.ts';
-import {PartsList, Row, sum} from '../list/parts_list.ts';
+import {PartsList, Row, sum, total, View} from '../list/parts_list.ts';
 import type {Model} from '../model/model.ts';
 import {Look, Viewer} from '../viewer/viewer.ts';
 import {Address, decode, encode} from './address.ts';
@@ -131,7 +131,8 @@ export class App {
 
   // The list
 
-  get rows(): Row[] { return this.list.views.get(this.view)!; }
+  private get shownView(): View { return this.list.views.get(this.view)!; }
+  get rows(): Row[] { return this.shownView.rows; }
 
   private source() {
     const rowOf = (at: number) => this.rows[this.order[at]];
@@ -162,24 +163,15 @@ export class App {
   }
 
   private text(row: Row, id: string): string {
-    return formatCell(this.columns.cell(row, id), {decimals: this.columns.decimals(id)}, language);
+    return formatCell(this.columns.cell(row, id), language);
   }
 
   private total(id: string): string {
     const shown = new Set(this.order);
     if ((marks as string[]).includes(id)) return `${this.order.filter(i => this.work.marked(this.rows[i].key, id as Mark)).length} / ${this.order.length}`;
-    if (id === 'Quantity') return formatNumber(sum(this.rows, shown).quantity, null, language);
-    if (id !== 'Total mass') return '';
-    const column = this.list.columns.find(each => each.id === id)!;
-    const index = this.list.columns.indexOf(column);
-    const tops = this.order.filter(i => !this.hasShownAncestor(i, shown));
-    const total = tops.reduce((whole, i) => whole + (Number(this.rows[i].cells[index]) || 0), 0);
-    return formatNumber(total, column.decimals, language);
-  }
-
-  private hasShownAncestor(index: number, shown: Set<number>): boolean {
-    for (let at = this.rows[index].parent; at >= 0; at = this.rows[at].parent) if (shown.has(at)) return true;
-    return false;
+    const {quantity, mass} = total(this.shownView, shown);
+    if (id === 'quantity') return formatNumber(quantity, null, language);
+    return id === 'totalMass' && mass !== null ? formatNumber(mass, null, language) : '';
   }
 
   private arrange(fromTop: boolean): void {
@@ -264,7 +256,7 @@ export class App {
     this.hovered = instance < 0 ? -1 : this.links!.rowOf(this.rows, instance)?.row ?? -1;
     this.hoveredInstances = instance < 0 ? [] : [instance];
     this.canvas.style.cursor = instance < 0 ? '' : 'pointer';
-    this.canvas.title = this.hovered < 0 ? '' : this.text(this.rows[this.hovered], 'Part Name') || this.rows[this.hovered].key;
+    this.canvas.title = this.hovered < 0 ? '' : this.text(this.rows[this.hovered], 'partName') || this.rows[this.hovered].key;
     this.showMarks();
   }
 

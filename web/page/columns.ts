@@ -6,16 +6,16 @@ import type {Mark, Work} from './work.ts';
 import {captionOf, texts} from './texts.ts';
 
 export const noteId = 'note';
-const nameId = 'Part Name';
-const numberId = 'Part Number';
-const hiddenAtFirst = new Set(['Path', 'Used in', 'Document', 'Level', 'Density', 'Area', 'Volume', 'BOM Structure', 'Quantity per parent', 'Bodies', 'Item', 'Description']);
-const widths: Record<string, number> = {'Item': 58, [numberId]: 146, [nameId]: 140, 'Description': 150, 'Material': 116};
+const nameId = 'partName';
+const numberId = 'partNumber';
+const hiddenAtFirst = new Set(['path', 'usedIn', 'document', 'level', 'density', 'area', 'volume', 'bomStructure', 'quantityPerParent', 'bodies', 'item', 'description']);
+const widths: Record<string, number> = {item: 58, [numberId]: 146, [nameId]: 140, description: 150, material: 116};
 const pictureWidth = 68, markWidth = 78;
 const letterWidth = 7.6, margin = 22;  // of a caption, which has to fit
 
 const fitting = (caption: string, least: number) => Math.max(least, Math.round(caption.length * letterWidth + margin));
 
-export const pictureId = 'Thumbnail';
+export const pictureId = 'thumbnail';
 
 export class Columns {
   readonly all: GridColumn[];
@@ -31,7 +31,7 @@ export class Columns {
   }
 
   private fromList(column: Column): GridColumn {
-    const caption = captionOf(column) + (column.unit ? ` [${column.unit}]` : '');
+    const caption = captionOf(column);
     return {id: column.id, caption, kind: column.kind, width: fitting(caption, widths[column.id] ?? (column.kind === 'number' ? 72 : 110)),
             grows: column.id === nameId, tree: column.id === this.treeColumn()};
   }
@@ -54,9 +54,6 @@ export class Columns {
     return index === undefined ? null : row.cells[index];
   }
 
-  decimals(id: string): number | null {
-    return this.list.columns[this.indices.get(id) ?? -1]?.decimals ?? null;
-  }
 }
 
 function checkColumn(mark: Mark): GridColumn {

@@ -59,7 +59,7 @@ const czech: Texts = {
          ['Myš', 'levé tlačítko: otáčení; pravé, prostřední nebo Shift: posun; kolečko: zvětšení; Ctrl+klik: přidat']],
 };
 
-// The file's own captions are the parts list's; those that it has by default are shown in the reader's language.
+// The names that `parts` gives its columns are shown in the reader's language, a caption of the user's own as it is.
 const czechCaptions: Record<string, string> = {
   'Item': 'Pozice', 'Part Number': 'Číslo dílu', 'Part Name': 'Název', 'Description': 'Popis', 'Quantity': 'Počet',
   'Quantity per parent': 'Počet v nadřazené', 'Mass': 'Hmotnost', 'Total mass': 'Hmotnost celkem', 'Volume': 'Objem', 'Area': 'Plocha',
@@ -70,6 +70,7 @@ const czechCaptions: Record<string, string> = {
 export const language: 'en' | 'cs' = navigator.language.toLowerCase().startsWith('cs') ? 'cs' : 'en';
 export const texts: Texts = language === 'cs' ? czech : english;
 
-export function captionOf(column: {id: string; caption: string}): string {
-  return language === 'cs' && column.caption === column.id ? czechCaptions[column.id] ?? column.caption : column.caption;
+export function captionOf(column: {caption: string}): string {
+  const [, name, unit] = /^(.*?)( \[[^\]]*\])?$/s.exec(column.caption)!;
+  return language === 'cs' ? (czechCaptions[name] ?? name) + (unit ?? '') : column.caption;
 }
