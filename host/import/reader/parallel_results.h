@@ -1,0 +1,102 @@
+#pragma once
+
+#include <algorithm>
+#include <condition_variable>
+#include <cstddef>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace step {
+
+/// Results by number, each worked out once and on all processors.
+///
+/// The first question starts the work on the others: who asks for one usually asks for all. Each
+/// result is worked out whole by one thread, so it is that of working in sequence.
+template <class Result>
+class ParallelResults {
+public:
+    /// `work` is called by several threads at once and must not throw.
+    ParallelResults(std::size_t count, std::function<Result(std::size_t)> work)
+        : work_(std::move(work)), claimed_(count), results_(count) {}
+    ParallelResults(const ParallelResults&) = delete;
+    ParallelResults& operator=(const ParallelResults&) = delete;
+
+    /// Waits for the results that are being worked out.
+    ~ParallelResults() {
+        {
+            const std::scoped_lock lock(mutex_);
+            stopping_ = true;
+        }
+        for (std::thread& other : others_) {
+            other.join();
+        }
+    }
+
+    [[nodiscard]] std::size_t size() const { return results_.size(); }
+
+    /// The result of that number, which has to be below `size`. It lives as long as this.
+    const Result& of(std::size_t number) {
+        if (!std::exchange(started_, true)) {
+            startOthers();
+        }
+        if (claim(number)) {
+            run(number);
+        }
+        std::unique_lock lock(mutex_);
+        done_.wait(lock, [&] { return results_[number].has_value(); });
+        return *results_[number];
+    }
+
+private:
+    void startOthers() {
+        const auto helpers = std::min<std::size_t>(
+            std::max(std::thread::hardware_concurrency(), 1U), results_.size());
+        try {
+            for (std::size_t helper = 1; helper < helpers; ++helper) {
+                others_.emplace_back([this] { runAll(); });
+            }
+        } catch (const std::system_error&) {
+            // No further threads: the one that asks does everything.
+        }
+    }
+
+    void runAll() {
+        for (std::size_t number = 0; number < results_.size(); ++number) {
+            if (claim(number)) {
+                run(number);
+            }
+        }
+    }
+
+    bool claim(std::size_t number) {
+        const std::scoped_lock lock(mutex_);
+        if (stopping_ || claimed_[number]) {
+            return false;
+        }
+        claimed_[number] = true;
+        return true;
+    }
+
+    void run(std::size_t number) {
+        Result result = work_(number);
+        const std::scoped_lock lock(mutex_);
+        results_[number] = std::move(result);
+        done_.notify_all();
+    }
+
+    std::function<Result(std::size_t)> work_;
+    bool started_ = false;
+    std::vector<std::thread> others_;
+    std::mutex mutex_;  ///< guards what follows
+    std::condition_variable done_;
+    bool stopping_ = false;
+    std::vector<bool> claimed_;
+    std::vector<std::optional<Result>> results_;
+};
+
+}  // namespace step
