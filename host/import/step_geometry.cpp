@@ -1,5 +1,7 @@
 #include "host/import/step_geometry.h"
 
+#include "host/import/reader_answer.h"
+
 #include <nlohmann/json.hpp>
 
 #include <array>
@@ -14,21 +16,11 @@ using nlohmann::json;
 
 /// The reader's answer; throws why there is none.
 json ask(ReaderConnection& reader, const std::string& request, const std::string& file) {
-    std::string reason;
     try {
-        reader.startClock();
-        reader.send(request);
-        json answer = json::parse(reader.receive());
-        if (!answer.contains("error")) {
-            return answer;
-        }
-        reason = answer["error"];
-    } catch (const ReaderFailure& failure) {
-        reason = failure.what();
-    } catch (const json::exception& failure) {
-        reason = failure.what();
+        return answerOf(reader, request);
+    } catch (const std::runtime_error& failure) {
+        throw std::runtime_error(file + ": a shape cannot be measured: " + failure.what());
     }
-    throw std::runtime_error(file + ": a shape cannot be measured: " + reason);
 }
 
 /// All significant digits, with a point whatever the process' locale is.

@@ -24,6 +24,9 @@ public:
     std::size_t bodies() override { return bodies_; }
     std::optional<Box> box(const Transform& placement) override;
 
+    [[nodiscard]] ReaderConnection& reader() const { return *reader_; }
+    [[nodiscard]] int shape() const { return shape_; }
+
 private:
     void measure();
 

@@ -1,4 +1,5 @@
 #include "host/import/reader/assembly.h"
+#include "host/import/reader/colours.h"
 #include "host/import/reader/declared_bodies.h"
 #include "host/import/reader/iges.h"
 #include "host/import/reader/process_limits.h"
@@ -52,7 +53,7 @@ void runIges(const std::string& file) {
         step::sendWarning({.code = "no-body", .text = "holds no body that can be built"});
     }
     step::sendLine({{"design", design}});
-    step::answerRequests(std::cin, shapes);
+    step::answerRequests(std::cin, shapes, step::Colours());
 }
 
 /// An assembly need not be built to know its tree; a lone part is all that its file holds.
@@ -83,7 +84,7 @@ void run(const Task& task) {
         step::sendWarning(warning);
     }
     step::sendLine({{"design", step::designOf(assembly)}});
-    step::answerRequests(std::cin, shapes);
+    step::answerRequests(std::cin, shapes, step::coloursOf(assembly));
 }
 
 int runOrReport(const Task& task) {

@@ -52,6 +52,14 @@ public:
         return *results_[number];
     }
 
+    /// The result of that number, which is worked out again when it is asked for again.
+    Result take(std::size_t number) {
+        static_cast<void>(of(number));
+        const std::scoped_lock lock(mutex_);
+        claimed_[number] = false;
+        return *std::exchange(results_[number], std::nullopt);
+    }
+
 private:
     void startOthers() {
         const auto helpers = std::min<std::size_t>(

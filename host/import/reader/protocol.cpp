@@ -1,11 +1,13 @@
 #include "host/import/reader/protocol.h"
 
+#include "host/import/reader/failure_text.h"
 #include "host/import/reader/measurements.h"
+#include "host/import/reader/shape_classes.h"
+#include "host/import/reader/shape_json.h"
+#include "host/import/reader/tessellation.h"
 
-#include <Standard_Failure.hxx>
-
-#include <exception>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <unordered_map>
 
@@ -66,7 +68,8 @@ private:
     }
 };
 
-json jsonOf(const Component& component, const std::unordered_map<std::size_t, std::size_t>& index) {
+json componentJson(const Component& component,
+                   const std::unordered_map<std::size_t, std::size_t>& index) {
     json uses = json::array();
     for (const Use& use : component.uses) {
         uses.push_back(
@@ -84,25 +87,79 @@ json jsonOf(const Component& component, const std::unordered_map<std::size_t, st
     return result;
 }
 
-json answer(const std::string& request, const TopTools_IndexedMapOfShape& shapes,
-            Measurements& measurements) {
-    std::istringstream words(request);
-    std::string verb;
-    int shape = -1;
-    words >> verb >> shape;
-    if (shape < 0 || shape >= shapes.Extent()) {
-        return {{"error", "no such shape"}};
+/// What is worked out of the shapes, on request.
+class Answers {
+public:
+    Answers(const TopTools_IndexedMapOfShape& shapes, const Colours& colours)
+        : shapes_(shapes), colours_(colours), measurements_(shapes), marks_(shapes) {}
+
+    json answer(const std::string& request) {
+        std::istringstream words(request);
+        std::string verb;
+        int shape = -1;
+        words >> verb >> shape;
+        if (shape < 0 || shape >= shapes_.Extent()) {
+            return {{"error", "no such shape"}};
+        }
+        const auto number = static_cast<std::size_t>(shape);
+        if (verb == "measure") {
+            return sizeOf(number);
+        }
+        if (verb == "invariants") {
+            return invariantsOf(number);
+        }
+        if (verb == "class") {
+            return classOf(number);
+        }
+        if (verb == "mesh") {
+            return meshOf(number, words);
+        }
+        const std::optional<Bounds> bounds = boundsOf(shapes_(shape + 1), placementOf(words));
+        return bounds ? json{{"min", bounds->min}, {"max", bounds->max}} : json::object();
     }
-    if (verb == "measure") {
-        const Measurement measured = measurements.of(static_cast<std::size_t>(shape));
+
+private:
+    json sizeOf(std::size_t shape) {
+        const Measurement& measured = measurements_.of(shape);
         if (!measured.failure.empty()) {
             return {{"error", measured.failure}};
         }
         return {{"area", measured.size.area}, {"volume", measured.size.volume}};
     }
-    const std::optional<Bounds> bounds = boundsOf(shapes(shape + 1), placementOf(words));
-    return bounds ? json{{"min", bounds->min}, {"max", bounds->max}} : json::object();
-}
+
+    json invariantsOf(std::size_t shape) {
+        const MarksResult& result = marks_.of(shape);
+        return result.failure.empty() ? step::jsonOf(result.marks.invariants)
+                                      : json{{"error", result.failure}};
+    }
+
+    json classOf(std::size_t shape) {
+        if (classes_.empty()) {
+            classes_ = classesOf(marks_);
+        }
+        return classes_[shape] ? json{{"class", *classes_[shape]}}
+                               : json{{"error", marks_.of(shape).failure}};
+    }
+
+    json meshOf(std::size_t shape, std::istream& words) {
+        if (!tessellations_) {
+            TessellationLimits limits;
+            words >> limits.triangles >> limits.seconds;
+            tessellations_.emplace(
+                static_cast<std::size_t>(shapes_.Extent()), [this, limits](std::size_t number) {
+                    return tessellate(shapes_(static_cast<int>(number) + 1), colours_, limits);
+                });
+        }
+        return step::jsonOf(tessellations_->take(shape));
+    }
+
+    const TopTools_IndexedMapOfShape& shapes_;
+    const Colours& colours_;
+    Measurements measurements_;
+    AllMarks marks_;
+    std::vector<std::optional<int>> classes_;
+    std::optional<ParallelResults<Tessellation>> tessellations_;
+};
 
 }  // namespace
 
@@ -131,7 +188,7 @@ json designOf(const Assembly& assembly) {
     }
     json components = json::array();
     for (const std::size_t component : order.components) {
-        components.push_back(jsonOf(assembly.components[component], order.index));
+        components.push_back(componentJson(assembly.components[component], order.index));
     }
     json files = json::array();
     for (const auto& file : assembly.files) {
@@ -143,16 +200,13 @@ json designOf(const Assembly& assembly) {
             {"components", components}};
 }
 
-void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes) {
-    Measurements measurements(shapes);
+void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes,
+                    const Colours& colours) {
+    Answers answers(shapes, colours);
     for (std::string request; std::getline(requests, request);) {
-        try {
-            sendLine(answer(request, shapes, measurements));
-        } catch (const Standard_Failure& failure) {
-            sendLine({{"error", failure.GetMessageString()}});
-        } catch (const std::exception& failure) {
-            sendLine({{"error", failure.what()}});
-        }
+        json line;
+        const std::string failure = failureOf([&] { line = answers.answer(request); });
+        sendLine(failure.empty() ? line : json{{"error", failure}});
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/import/reader/assembly.h"
+#include "host/import/reader/colours.h"
 
 #include <TopTools_IndexedMapOfShape.hxx>
 
@@ -18,13 +19,22 @@
 ///
 ///     measure SHAPE                  {"area": cm2, "volume": cm3}
 ///     box SHAPE C0 ... C11           {"min": [x, y, z], "max": [x, y, z]} in cm, or {} without
-///     extent
+///                                    extent
+///     invariants SHAPE               {"volume": cm3, ...}: the members of host::ShapeInvariants
+///     class SHAPE                    {"class": number}, equal for equal shapes
+///     mesh SHAPE TRIANGLES SECONDS   {"positionsMm": "...", ...}: the members of host::ShapeMesh,
+///                                    or {} without any; and {"problem": "..."} where it is not
+///                                    as asked for
 ///
 /// A component of the design has the number of its shape, or -1 where it has none, and of its
 /// bodies; bodies without a shape were not built.
 ///
 /// C0 to C11 are the first three rows of a placement, translation in cm. A response that cannot be
 /// computed is {"error": "..."}.
+///
+/// In a mesh, "detail" is the number of host::MeshDetail, a group is {"indexCount": number,
+/// "colour": [r, g, b, a] or null}, and points and indices are the base64 of their bytes in memory.
+/// TRIANGLES and SECONDS of the first such request hold for all.
 namespace step {
 
 /// Sends one line to the process that started the program.
@@ -37,6 +47,7 @@ void sendWarning(const Warning& warning);
 nlohmann::json designOf(const Assembly& assembly);
 
 /// Answers requests until there are no more.
-void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes);
+void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes,
+                    const Colours& colours);
 
 }  // namespace step

@@ -78,7 +78,7 @@ TopoDS_Shape twistedBar(double degrees) {
 
 TopoDS_Shape turnedPart(double degrees) {
     const gp_Pnt top(4, 0, 10);
-    const gp_Pnt middle(4 + 3 * (1 - std::numbers::sqrt2 / 2), 0, 10 - 3 * std::numbers::sqrt2 / 2);
+    const gp_Pnt middle(4 + 3 / std::numbers::sqrt2, 0, 7 + 3 / std::numbers::sqrt2);
     const gp_Pnt low(7, 0, 7);
     BRepBuilderAPI_MakeWire profile;
     profile.Add(BRepBuilderAPI_MakeEdge(gp_Pnt(2, 0, 0), gp_Pnt(2, 0, 10)));

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/import/reader/tessellation.h"
+
+#include "host/design/shape_data.h"
+
+#include <nlohmann/json.hpp>
+
+namespace step {
+
+/// The members of host::ShapeInvariants by their names.
+nlohmann::json jsonOf(const host::ShapeInvariants& invariants);
+
+/// The members of host::ShapeMesh by their names, see protocol.h; and "problem" where there is one.
+nlohmann::json jsonOf(const Tessellation& tessellation);
+
+}  // namespace step

@@ -1,0 +1,219 @@
+#include "host/import/read_shapes.h"
+
+#include "host/design/geometry.h"
+#include "host/import/read_design.h"
+
+#include "samples/product.h"
+#include "samples/samples.h"
+#include "tests/host/import/drafts.h"
+#include "tests/host/import/step_text_edits.h"
+#include "tests/support/real_files.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <numeric>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+using host::DesignData;
+using host::ShapeData;
+using samples::Product;
+using samples::rectangle;
+using samples::Solid;
+
+Product part(const std::string& name, Solid solid) {
+    return {.key = name,
+            .id = name,
+            .name = name,
+            .description = "",
+            .material = {},
+            .solid = std::move(solid),
+            .uses = {}};
+}
+
+Solid plate(double width, double depth, double height, double x = 0) {
+    return {{{rectangle(width, depth, {x, 0}), height}}, {}};
+}
+
+/// The names that share a class, in the order of the design.
+std::vector<std::vector<std::string>> equalOnes(const DesignData& design, const ShapeData& shapes) {
+    std::map<int, std::vector<std::string>> classes;
+    for (std::size_t at = 0; at < design.components.size(); ++at) {
+        if (const std::optional<int> number = shapes.classOf(at)) {
+            classes[*number].push_back(design.components[at].name);
+        }
+    }
+    std::vector<std::vector<std::string>> groups;
+    for (auto& [number, names] : classes) {
+        std::sort(names.begin(), names.end());
+        groups.push_back(std::move(names));
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
+class ReadShapes : public testing::Test {
+protected:
+    DesignData designOf(const std::string& text) {
+        return drafts::import(folder.write("Design.step", text));
+    }
+
+    test_support::TemporaryFolder folder;
+};
+
+TEST_F(ReadShapes, FindsEqualPartsUnderOtherNames) {
+    const DesignData design = designOf(samples::stepFile(
+        "x", {part("Plate", plate(10, 20, 5)), part("Copy", plate(10, 20, 5, 50)),
+              part("On its edge", plate(20, 5, 10)), part("Other", plate(10, 20, 6))}));
+
+    const ShapeData shapes = host::readShapes(design, {.classes = true});
+
+    const std::vector<std::vector<std::string>> expected = {{"Copy", "On its edge", "Plate"},
+                                                            {"Other"}};
+    EXPECT_EQ(equalOnes(design, shapes), expected);
+    EXPECT_FALSE(shapes.classOf(0).has_value());  // the file itself, which has no body
+}
+
+TEST_F(ReadShapes, DescribesAPart) {
+    const DesignData design = designOf(samples::stepFile("x", {part("Plate", plate(10, 20, 5))}));
+
+    const ShapeData shapes = host::readShapes(design, {.classes = true});
+
+    const host::ShapeInvariants& plate = shapes.of(0)->invariants.value();
+    EXPECT_NEAR(plate.volume, 1, 1e-9);
+    EXPECT_NEAR(plate.area, 7, 1e-9);
+    EXPECT_EQ(plate.faces, 6U);
+    EXPECT_EQ(plate.edges, 12U);
+    EXPECT_EQ(plate.vertices, 8U);
+    // V / 12 times the squares of the sides, in cm.
+    EXPECT_NEAR(plate.secondMoments[0], 1.0 / 12 * 0.25, 1e-9);
+    EXPECT_NEAR(plate.secondMoments[1], 1.0 / 12, 1e-9);
+    EXPECT_NEAR(plate.secondMoments[2], 1.0 / 12 * 4, 1e-9);
+    EXPECT_FALSE(shapes.of(0)->mesh.has_value());
+}
+
+TEST_F(ReadShapes, DrawsAPart) {
+    const DesignData design = designOf(samples::stepFile("x", {part("Plate", plate(10, 20, 5))}));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    const host::ShapeMesh& mesh = shapes.of(0)->mesh.value();
+    EXPECT_EQ(mesh.triangles(), 12U);
+    EXPECT_EQ(mesh.edgeEnds.size(), 12U);
+    EXPECT_EQ(*std::max_element(mesh.positionsMm.begin(), mesh.positionsMm.end()), 10.0F);
+    EXPECT_EQ(shapes.of(0)->problem, "");
+    EXPECT_FALSE(shapes.classOf(0).has_value());
+}
+
+/// A style of one colour, for the item; takes ten numbers.
+std::string style(int number, const std::string& item, const std::string& surface) {
+    const auto label = [number](int offset) { return "#" + std::to_string(number + offset); };
+    return label(0) + "=STYLED_ITEM(''," + "(" + label(1) + ")," + item + ");\n" + label(1) +
+           "=PRESENTATION_STYLE_ASSIGNMENT((" + label(2) + "));\n" + label(2) +
+           "=SURFACE_STYLE_USAGE(.BOTH.," + label(3) + ");\n" + label(3) +
+           "=SURFACE_SIDE_STYLE('',(" + label(4) + "));\n" + label(5) +
+           "=COLOUR_RGB('',1.,0.5,0.);\n" + surface;
+}
+
+TEST_F(ReadShapes, KnowsTheColourOfASolid) {
+    std::string text = samples::stepFile("x", {part("Plate", plate(10, 20, 5))});
+    const std::string solid = drafts::labelOf(text, "MANIFOLD_SOLID_BREP");
+    const DesignData design = designOf(drafts::withEntities(
+        text, style(9000, solid,
+                    "#9004=SURFACE_STYLE_FILL_AREA(#9006);\n#9006=FILL_AREA_STYLE('',(#9007));\n"
+                    "#9007=FILL_AREA_STYLE_COLOUR('',#9005);\n")));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    const std::vector<host::MeshGroup> orange = {
+        {.firstIndex = 0,
+         .indexCount = 36,
+         .colour = host::Rgba{.red = 255, .green = 128, .blue = 0, .alpha = 255}}};
+    EXPECT_EQ(shapes.of(0)->mesh.value().groups, orange);
+}
+
+TEST_F(ReadShapes, KnowsATransparentFace) {
+    std::string text = samples::stepFile("x", {part("Plate", plate(10, 20, 5))});
+    const std::string face = drafts::labelOf(text, "ADVANCED_FACE");
+    const DesignData design = designOf(drafts::withEntities(
+        text,
+        style(9000, face,
+              "#9004=SURFACE_STYLE_RENDERING_WITH_PROPERTIES(.NORMAL_SHADING.,#9005,(#9006));\n"
+              "#9006=SURFACE_STYLE_TRANSPARENT(0.6);\n")));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    const std::vector<host::MeshGroup>& groups = shapes.of(0)->mesh.value().groups;
+    ASSERT_EQ(groups.size(), 2U);
+    EXPECT_EQ(groups[0].indexCount, 6U);
+    EXPECT_EQ(groups[0].colour.value().alpha, 102);
+    EXPECT_FALSE(groups[1].colour.has_value());
+}
+
+TEST_F(ReadShapes, SharesAShapeThatPartsHaveInCommon) {
+    const DesignData design = designOf(
+        samples::stepFile("x", {part("Plate", plate(10, 20, 5)), part("Cube", plate(10, 10, 10))}));
+
+    const ShapeData shapes = host::readShapes(design, {.classes = true, .meshes = true});
+
+    EXPECT_EQ(shapes.shapes.size(), 2U);
+    EXPECT_EQ(shapes.ofComponent.size(), design.components.size());
+}
+
+TEST_F(ReadShapes, HasNoneOfADesignWithDeclaredMeasures) {
+    DesignData design;
+    design.components.emplace_back().geometry = host::boxGeometry(1, 2, 3);
+
+    const ShapeData shapes = host::readShapes(design, {.classes = true, .meshes = true});
+
+    EXPECT_EQ(shapes.of(0), nullptr);
+    EXPECT_EQ(shapes.ofComponent.size(), 1U);
+}
+
+class ShapesOfRealFiles : public testing::Test {
+protected:
+    void SetUp() override { test_support::needRealFiles(); }
+
+    static ShapeData shapesOf(const DesignData& design) {
+        return host::readShapes(design, {.classes = true});
+    }
+};
+
+// Each of the five parts is one product; none equals another.
+TEST_F(ShapesOfRealFiles, FindTheFivePartsOfTheCommonAssembly) {
+    const DesignData design =
+        drafts::import((test_support::realFiles() / "as1-oc-214.stp").string());
+
+    EXPECT_EQ(equalOnes(design, shapesOf(design)).size(), 5U);
+}
+
+// 64 products are called "Document". Volumes and areas alone tell which cannot be equal.
+TEST_F(ShapesOfRealFiles, FindEqualPartsAmongProductsOfOneName) {
+    const DesignData design =
+        drafts::import((test_support::realFiles() / "PushDevice-Assembly.step").string());
+
+    const ShapeData shapes = shapesOf(design);
+
+    std::map<int, std::set<long>> volumes;
+    std::set<long> allVolumes;
+    for (std::size_t at = 0; at < design.components.size(); ++at) {
+        if (const std::optional<int> number = shapes.classOf(at)) {
+            const long volume = std::lround(design.components[at].geometry->volume() * 1e4);
+            volumes[*number].insert(volume);
+            allVolumes.insert(volume);
+        }
+    }
+    EXPECT_GE(volumes.size(), allVolumes.size());
+    for (const auto& [number, each] : volumes) {
+        EXPECT_EQ(each.size(), 1U) << number;
+    }
+    EXPECT_LT(volumes.size(), 67U);
+}
+
+}  // namespace
