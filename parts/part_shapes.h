@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/design/shape_data.h"
+
 #include <map>
 #include <memory>
 #include <optional>
@@ -17,5 +19,11 @@ struct PartShapes {
     /// For a class a picture of the shape, the bytes of a PNG file.
     std::map<int, std::shared_ptr<const std::string>> pictures = {};
 };
+
+enum class Pictures { None, Drawn };
+
+/// What a list needs of the shapes of a design, with a picture of each class that has a mesh, drawn
+/// once. Empty where no shape was compared. Throws where a picture cannot be written.
+PartShapes partShapesOf(const host::ShapeData& shapes, Pictures pictures);
 
 }  // namespace parts
