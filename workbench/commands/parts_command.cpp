@@ -4,6 +4,7 @@
 #include "workbench/cli/quiet.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/design_reading.h"
+#include "workbench/commands/part_shapes.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/parts_format.h"
 
@@ -31,6 +32,7 @@ struct PartsOptions {
     std::string sort;
     std::string units;
     std::int64_t multiply = 1;
+    bool comparesShapes = false;
     std::string format;  ///< empty: by the ending of the output
     PartsFormat writing;
 };
@@ -101,9 +103,10 @@ Words fieldNames() {
                             : "; did you mean \"" + nearest + "\"?"));
 }
 
-parts::PartsList listOf(const host::DesignData& design, const parts::PartsRequest& request) {
+parts::PartsList listOf(const host::DesignData& design, const parts::PartsRequest& request,
+                        const parts::PartShapes& shapes) {
     try {
-        return parts::buildPartsList(design, request);
+        return parts::buildPartsList(design, request, shapes);
     } catch (const parts::UnknownColumn& error) {
         refuseColumn(error);
     } catch (const parts::RequestError& error) {
@@ -139,10 +142,13 @@ PartsFormat formatOf(const PartsOptions& options) {
 void runParts(const PartsOptions& options) {
     const parts::PartsRequest request = requestOf(options);
     const PartsFormat format = formatOf(options);
-    const host::DesignData design = parts::needsBodies(request)
+    const bool needsShapes = options.comparesShapes || parts::needsShapes(request);
+    const host::DesignData design = needsShapes || parts::needsBodies(request)
                                         ? readDesign(options.file, options.reading)
                                         : readTree(options.file, options.reading);
-    parts::PartsList list = listOf(design, request);
+    const parts::PartShapes shapes =
+        needsShapes ? readPartShapes(design, request) : parts::PartShapes();
+    parts::PartsList list = listOf(design, request, shapes);
     list.source.file = options.file;
     reportListWarnings(list);
     writeParts(list, format, std::cout);
@@ -180,6 +186,9 @@ void addContent(CLI::App& command, PartsOptions& options) {
         .add_option("--sort", options.sort,
                     "Sort by these columns, with commas between, each with :desc after it or not")
         ->type_name("COLUMNS");
+    command.add_flag("--shapes", options.comparesShapes,
+                     "Compare the shapes of parts: report items of one shape under different\n"
+                     "numbers, and different shapes under one number");
     command.add_option("--multiply", options.multiply, "List what so many of the design need")
         ->type_name("COUNT")
         ->check(CLI::Range(std::int64_t{1}, parts::kMostMultiply))

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "parts/part_shapes.h"
+#include "parts/parts_request.h"
+
+#include "host/design/design_data.h"
+
+namespace workbench {
+
+/// Compares the shapes of a design that was read with its bodies, and draws them where the request
+/// has a column for pictures. Each shape that could not be compared or drawn is a warning on
+/// stderr.
+parts::PartShapes readPartShapes(const host::DesignData& design,
+                                 const parts::PartsRequest& request);
+
+}  // namespace workbench
