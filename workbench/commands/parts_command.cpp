@@ -35,6 +35,7 @@ struct PartsOptions {
     bool comparesShapes = false;
     std::string format;  ///< empty: by the ending of the output
     PartsFormat writing;
+    bool rawTexts = false;  ///< texts that a spreadsheet would run are not marked
 };
 
 /// What `parse` returns; ends the program with the option's name where it makes no sense.
@@ -132,10 +133,19 @@ std::string outputOf(const PartsOptions& options) {
     return output == nullptr || output->results().empty() ? "" : output->results().front();
 }
 
+void checkDelimiter(const std::string& delimiter) {
+    const bool isChosen = !delimiter.empty();
+    if (isChosen && (delimiter.size() != 1 || delimiter.find_first_of("\"\r\n") == 0)) {
+        refuse("--delimiter " + delimiter + ": expected one character, such as ; but no quote");
+    }
+}
+
 PartsFormat formatOf(const PartsOptions& options) {
     PartsFormat format = options.writing;
     format.kind = options.format.empty() ? partsFormatOf(outputOf(options))
                                          : parsePartsFormat(options.format);
+    format.guardFormulas = !options.rawTexts;
+    checkDelimiter(format.delimiter);
     return format;
 }
 
@@ -219,7 +229,7 @@ void addWriting(CLI::App& command, PartsOptions& options) {
         ->type_name("CHARACTER");
     command.add_flag("--bom", options.writing.byteOrderMark,
                      "Begin CSV with the byte order mark that Excel needs to find UTF-8");
-    command.add_flag("--raw-texts{false}", options.writing.guardFormulas,
+    command.add_flag("--raw-texts", options.rawTexts,
                      "Leave texts as they are that a spreadsheet would run: without it an\n"
                      "apostrophe marks them in CSV and TSV");
 }
