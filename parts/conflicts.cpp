@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace parts {
@@ -127,17 +128,22 @@ private:
 }  // namespace
 
 std::vector<Conflict> findConflicts(ListContext& context, ItemKeys& keys) {
-    std::map<std::string, Group, NaturalLess> groups;
+    std::unordered_map<std::string, Group> groups;
     for (const std::size_t component : context.tree.reached()) {
         if (component != 0) {
             groups[keys.keyOf(component)].push_back(component);
         }
     }
-    std::vector<Conflict> found;
+    // Most items are one component: only the others are put into order.
+    std::map<std::string, const Group*, NaturalLess> merged;
     for (const auto& [key, group] : groups) {
         if (group.size() > 1) {
-            GroupCheck(context, keys, key, group, found).run();
+            merged.emplace(key, &group);
         }
+    }
+    std::vector<Conflict> found;
+    for (const auto& [key, group] : merged) {
+        GroupCheck(context, keys, key, *group, found).run();
     }
     return found;
 }

@@ -9,8 +9,8 @@
 
 #include <cstddef>
 #include <optional>
-#include <set>
 #include <string>
+#include <unordered_set>
 
 namespace parts {
 
@@ -24,8 +24,8 @@ struct ListContext {
     const PartShapes& shapes;
     ItemTree tree;
     ItemMeasures measures;
-    bool isMeasured;              ///< the request needs the bodies: masses may be asked for
-    std::set<std::string> names;  ///< of all components
+    bool isMeasured;  ///< the request needs the bodies: masses may be asked for
+    std::unordered_set<std::string> names;  ///< of all components
 
     [[nodiscard]] const host::ComponentData& at(std::size_t component) const {
         return design.components[component];
