@@ -1,0 +1,161 @@
+#include "tests/parts/drawn_list.h"
+#include "tests/parts/plain_walk.h"
+#include "tests/parts/random_design.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+using parts::MergeBy;
+using parts::PartsList;
+using parts::PartsRow;
+using parts::RowKind;
+using parts::View;
+using test_support::countsByWalk;
+using test_support::massesByWalk;
+using test_support::randomDesign;
+
+namespace {
+
+constexpr unsigned kDesigns = 1000;
+
+PartsList listOf(const host::DesignData& design, View view, MergeBy by = MergeBy::PartNumber) {
+    parts::PartsRequest request = test_support::request(view, "Part Number,Quantity,Mass");
+    request.merging.by = by;
+    return parts::buildPartsList(design, request);
+}
+
+double massOf(const PartsList& list) {
+    double mass = 0;
+    for (const PartsRow& row : list.rows) {
+        mass += static_cast<double>(row.quantity) * *row.mass;
+    }
+    return mass;
+}
+
+/// How many there are of each component, by the rows of these kinds.
+std::map<std::size_t, std::int64_t> countsOf(const PartsList& list, RowKind kind) {
+    std::map<std::size_t, std::int64_t> counts;
+    for (const PartsRow& row : list.rows) {
+        if (row.kind == kind) {
+            for (const parts::Member& member : row.members) {
+                counts[member.component] += member.quantity;
+            }
+        }
+    }
+    return counts;
+}
+
+/// The cells of all rows, whatever their order.
+std::vector<std::string> sortedRows(const PartsList& list) {
+    std::vector<std::string> rows;
+    for (const PartsRow& row : list.rows) {
+        std::string text;
+        for (const parts::Cell& cell : row.cells) {
+            text += parts::cellText(cell, {.significantDigits = 9}) + " | ";
+        }
+        rows.push_back(text);
+    }
+    std::ranges::sort(rows);
+    return rows;
+}
+
+/// The same design with the children of every component in another order.
+host::DesignData shuffled(host::DesignData design, unsigned seed) {
+    std::mt19937 random(seed);
+    for (host::ComponentData& component : design.components) {
+        std::shuffle(component.children.begin(), component.children.end(), random);
+    }
+    return design;
+}
+
+class RandomDesigns : public testing::Test {
+protected:
+    template <class Check>
+    void forEach(Check check) {
+        for (unsigned seed = 0; seed < kDesigns && !HasFailure(); ++seed) {
+            SCOPED_TRACE("seed " + std::to_string(seed));
+            check(randomDesign(seed), seed);
+        }
+    }
+};
+
+}  // namespace
+
+TEST_F(RandomDesigns, TheMassesAddUpToThoseOfThePlainTree) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        const test_support::WalkedMasses walked = massesByWalk(design);
+        const PartsList list = listOf(design, View::Parts);
+
+        EXPECT_NEAR(massOf(list), walked.listed, 1e-9 * (1 + walked.listed));
+        EXPECT_NEAR(*list.totals.massKg, walked.listed, 1e-9 * (1 + walked.listed));
+        // The tree and the first level hold what is Divided as well.
+        EXPECT_NEAR(*listOf(design, View::All).totals.massKg, walked.listed,
+                    1e-9 * (1 + walked.listed));
+    });
+}
+
+TEST_F(RandomDesigns, TheCountsAreThoseOfThePlainWalk) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        const test_support::WalkedCounts walked = countsByWalk(design);
+
+        EXPECT_EQ(countsOf(listOf(design, View::Parts), RowKind::Part), walked.parts);
+        EXPECT_EQ(countsOf(listOf(design, View::All), RowKind::Assembly), walked.assemblies);
+    });
+}
+
+TEST_F(RandomDesigns, ThePartsAreTheRollUpOfTheTree) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        EXPECT_EQ(countsOf(listOf(design, View::Indented), RowKind::Part),
+                  countsOf(listOf(design, View::Parts), RowKind::Part));
+    });
+}
+
+TEST_F(RandomDesigns, QuantitiesPerParentMultiplyToTotals) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        const PartsList list = listOf(design, View::Indented);
+        for (const PartsRow& row : list.rows) {
+            const std::int64_t parents = row.parent ? list.rows[*row.parent].quantity : 1;
+            EXPECT_EQ(row.quantity, parents * row.perParent) << row.item;
+        }
+    });
+}
+
+TEST_F(RandomDesigns, NothingDependsOnTheOrderOfChildren) {
+    forEach([](const host::DesignData& design, unsigned seed) {
+        const host::DesignData other = shuffled(design, seed);
+        for (const View view : {View::Parts, View::Indented, View::Top, View::All}) {
+            EXPECT_EQ(sortedRows(listOf(design, view)), sortedRows(listOf(other, view)));
+        }
+        EXPECT_EQ(listOf(design, View::Parts).conflicts, listOf(other, View::Parts).conflicts);
+    });
+}
+
+TEST_F(RandomDesigns, MergingByComponentAndByUniqueNumbersAgree) {
+    forEach([](host::DesignData design, unsigned /*seed*/) {
+        for (std::size_t index = 0; index < design.components.size(); ++index) {
+            design.components[index].partNumber = "P-" + std::to_string(index);
+        }
+        for (const View view : {View::Parts, View::Indented, View::Top, View::All}) {
+            EXPECT_EQ(sortedRows(listOf(design, view, MergeBy::PartNumber)),
+                      sortedRows(listOf(design, view, MergeBy::Component)));
+        }
+    });
+}
+
+TEST_F(RandomDesigns, MergingChangesNoTotal) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        const PartsList apart = listOf(design, View::Parts, MergeBy::Component);
+        const PartsList together = listOf(design, View::Parts, MergeBy::PartNumber);
+
+        EXPECT_EQ(apart.totals.quantity, together.totals.quantity);
+        EXPECT_NEAR(*apart.totals.massKg, *together.totals.massKg,
+                    1e-9 * (1 + *apart.totals.massKg));
+        EXPECT_GE(apart.rows.size(), together.rows.size());
+    });
+}
