@@ -3,17 +3,16 @@
 #include "host/base/clock.h"
 #include "host/base/host_state.h"
 #include "host/base/last_error.h"
+#include "host/base/owned_folder.h"
 #include "host/base/utf8_path.h"
 #include "host/cloud/storage_pace.h"
 #include "host/import/found_file.h"
 
-#include <chrono>
 #include <exception>
 #include <functional>
-#include <random>
+#include <memory>
 #include <string>
 #include <system_error>
-#include <vector>
 
 namespace host {
 
@@ -21,46 +20,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kHalfCopied = ".uploading";
-
-/// A name that no listing shows, in the same folder: what is half copied is no file of the user's.
-/// It is another one each time: two processes may upload one name at once.
-fs::path hiddenBeside(const fs::path& path) {
-    std::random_device device;
-    fs::path name = ".";
-    name += path.filename();
-    name += "." + std::to_string(device()) + kHalfCopied;
-    return path.parent_path() / name;
-}
-
-/// Removes what processes left that ended while they copied. No copy takes an hour.
-void removeHalfCopied(const fs::path& folder) {
-    const auto limit = fs::file_time_type::clock::now() - std::chrono::hours(1);
-    std::error_code ignored;
-    std::vector<fs::path> leftovers;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
-        const std::string name = toUtf8(entry.path().filename());
-        if (name.starts_with(".") && name.ends_with(kHalfCopied) &&
-            entry.last_write_time(ignored) < limit) {
-            leftovers.push_back(entry.path());
-        }
-    }
-    for (const fs::path& leftover : leftovers) {
-        fs::remove(leftover, ignored);
-    }
-}
+/// A folder that no listing shows: what is half copied is no file of the user's.
+const FolderKind kHalfCopied = {.prefix = ".", .suffix = ".uploading"};
 
 void copyWhole(const fs::path& source, const fs::path& target) {
-    const fs::path half = hiddenBeside(target);
-    removeHalfCopied(target.parent_path());
-    try {
-        fs::copy_file(source, half, fs::copy_options::overwrite_existing);
-        fs::rename(half, target);
-    } catch (const fs::filesystem_error&) {
-        std::error_code ignored;
-        fs::remove(half, ignored);
-        throw;
+    std::error_code error;
+    const fs::path parent = target.parent_path();
+    const std::unique_ptr<OwnedFolder> folder = OwnedFolder::make(parent, kHalfCopied, error);
+    if (!folder) {
+        throw fs::filesystem_error("upload", parent, error);
     }
+    const fs::path half = folder->path() / "copy";
+    fs::copy_file(source, half);
+    fs::rename(half, target);
 }
 
 /// What happens to an upload when its time has come.

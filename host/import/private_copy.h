@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/base/owned_folder.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -8,9 +10,7 @@
 
 namespace host {
 
-/// A file in a private folder that goes with it. The folder is locked for as long as this lives,
-/// and those that nobody has locked, which processes left that were killed, are removed when one is
-/// made.
+/// A file in a folder of this process that goes with it.
 class PrivateCopy {
 public:
     /// An empty file of this name that may grow to `limit` bytes; `shown` is what messages call the
@@ -18,7 +18,6 @@ public:
     PrivateCopy(const std::string& name, std::string shown, std::uintmax_t limit);
     PrivateCopy(const PrivateCopy&) = delete;
     PrivateCopy& operator=(const PrivateCopy&) = delete;
-    ~PrivateCopy();
 
     /// Appends. Throws `ImportError` when it grows too large or the disk is full.
     void append(const char* bytes, std::size_t count);
@@ -31,7 +30,7 @@ public:
 private:
     std::string shown_;
     std::uintmax_t left_;
-    int lock_ = -1;  ///< a descriptor of the folder; closed with this, and with the process
+    std::unique_ptr<OwnedFolder> folder_;
     std::filesystem::path path_;
     std::ofstream stream_;
 };

@@ -32,7 +32,4 @@ std::filesystem::path programFolder();
 /// Shows the console window of the process again, if it has one that is hidden.
 void showConsole();
 
-/// Makes a folder that only this user may enter; false if it is there already or cannot be made.
-bool makePrivateFolder(const std::filesystem::path& folder);
-
 }  // namespace host::environment

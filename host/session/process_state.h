@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/session/folder_lock.h"
+#include "host/base/owned_folder.h"
 #include "host/session/loaded_module.h"
 
 #include <filesystem>
@@ -9,11 +9,9 @@
 
 namespace host {
 
-/// A folder of this process, in which its sessions have theirs. Its lock shows that the process
-/// lives.
+/// A folder of this process, in which its sessions have theirs.
 struct ProcessFolder {
-    std::filesystem::path path;
-    std::unique_ptr<FolderLock> lock;
+    std::unique_ptr<OwnedFolder> folder;
     int made = 0;     ///< sessions so far
     int present = 0;  ///< those whose folders still exist
 };

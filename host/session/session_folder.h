@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/session/folder_lock.h"
+#include "host/base/folder_lock.h"
 
 #include <chrono>
 #include <filesystem>

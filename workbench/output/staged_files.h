@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/base/folder_lock.h"
 #include "host/design/atomic_file.h"
 #include "host/design/design_data.h"
-#include "host/session/folder_lock.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -48,8 +48,4 @@ std::filesystem::path programFolder() {
 // The window of a terminal belongs to another program here, and a module cannot hide it.
 void showConsole() {}
 
-bool makePrivateFolder(const std::filesystem::path& folder) {
-    return ::mkdir(folder.c_str(), 0700) == 0;
-}
-
 }  // namespace host::environment

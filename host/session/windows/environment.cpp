@@ -42,9 +42,4 @@ void showConsole() {
     static_cast<void>(::ShowWindow(::GetConsoleWindow(), SW_SHOW));
 }
 
-bool makePrivateFolder(const std::filesystem::path& folder) {
-    // Folders below a user's own are the user's own already.
-    return ::CreateDirectoryW(folder.c_str(), nullptr) != 0;
-}
-
 }  // namespace host::environment

@@ -1,6 +1,7 @@
 #include "host/application/main_queue.h"
 #include "host/application/running_host.h"
 #include "host/base/clock.h"
+#include "host/base/folder_lock.h"
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/cloud/storage_pace.h"
@@ -139,20 +140,31 @@ TEST_F(Uploads, OfAFolderFailAndNameIt) {
               "DataFolder::uploadFile: " + host::toUtf8(project()) + " is no ordinary file");
 }
 
-TEST_F(Uploads, RemoveWhatAKilledProcessLeftHalfCopied) {
+TEST_F(Uploads, RemoveAtOnceWhatAKilledProcessLeftHalfCopied) {
     namespace fs = std::filesystem;
-    const fs::path left = project() / ".frame.ipt.17.uploading";
-    const fs::path begun = project() / ".plate.ipt.18.uploading";
-    for (const fs::path& each : {left, begun}) {
-        std::ofstream(each) << "half";
-    }
-    fs::last_write_time(left, fs::file_time_type::clock::now() - 2h);
+    const fs::path left = project() / ".123456789.uploading";
+    fs::create_directory(left);
+    std::ofstream(left / "copy") << "half";
 
     upload(design("bolt.ipt"));
     wait(0s);
 
     EXPECT_FALSE(fs::exists(left));
-    EXPECT_TRUE(fs::exists(begun));
+    EXPECT_TRUE(fs::exists(project() / "bolt.ipt"));
+}
+
+TEST_F(Uploads, LeaveWhatAnotherProcessCopiesHoweverOldItIs) {
+    namespace fs = std::filesystem;
+    const fs::path begun = project() / ".123456789.uploading";
+    fs::create_directory(begun);
+    const auto lock = host::FolderLock::take(begun);
+    std::ofstream(begun / "copy") << "half";
+    fs::last_write_time(begun / "copy", fs::file_time_type::clock::now() - 48h);
+
+    upload(design("bolt.ipt"));
+    wait(0s);
+
+    EXPECT_TRUE(fs::exists(begun / "copy"));
 }
 
 TEST_F(Uploads, OfAFileDeletedMeanwhileFail) {

@@ -1,5 +1,6 @@
 #include "host/import/read_design.h"
 
+#include "host/base/folder_lock.h"
 #include "host/design/design_file.h"
 #include "host/design/outline.h"
 #include "samples/product.h"
@@ -9,7 +10,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -262,8 +262,7 @@ TEST_F(ReadDesign, ADeviceIsRefused) {
 }
 
 TEST_F(ReadDesign, CopiesOfAProcessThatWasKilledAreRemoved) {
-    // Of a process whose number another one has got since.
-    fs::create_directory(temporary / ("standin-reading-" + std::to_string(::getpid())));
+    fs::create_directory(temporary / "standin-reading-123456789");
 
     readInput(kCart);
 
@@ -271,15 +270,14 @@ TEST_F(ReadDesign, CopiesOfAProcessThatWasKilledAreRemoved) {
 }
 
 TEST_F(ReadDesign, CopiesOfAProcessThatLivesAreKept) {
-    const fs::path copy = temporary / "standin-reading-abcdef";
+    const fs::path copy = temporary / "standin-reading-123456789";
     fs::create_directory(copy);
     std::array<int, 2> locked = {};
     ASSERT_EQ(::pipe(locked.data()), 0);
     const pid_t owner = ::fork();
     if (owner == 0) {
-        const int opened = ::open(copy.c_str(), O_RDONLY | O_DIRECTORY);
-        const bool isLocked = ::flock(opened, LOCK_EX) == 0;
-        ::_exit(::write(locked[1], "x", 1) == 1 && isLocked ? ::pause() : 1);
+        const auto lock = host::FolderLock::take(copy);
+        ::_exit(::write(locked[1], "x", 1) == 1 && lock ? ::pause() : 1);
     }
     char mark = 0;
     ASSERT_EQ(::read(locked[0], &mark, 1), 1);

@@ -2,7 +2,7 @@
 #include "tests/support/text.h"
 #include "tests/workbench/workbench_fixture.h"
 
-#include "host/session/folder_lock.h"
+#include "host/base/folder_lock.h"
 
 #include <gtest/gtest.h>
 

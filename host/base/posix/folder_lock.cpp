@@ -1,4 +1,4 @@
-#include "host/session/folder_lock.h"
+#include "host/base/folder_lock.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
