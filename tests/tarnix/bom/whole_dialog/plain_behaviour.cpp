@@ -23,10 +23,6 @@ const std::string* chosenOf(const Cell& list) {
     return nullptr;
 }
 
-void setVisible(Table& table, int row, int firstColumn, int lastColumn, bool visible) {
-    for (int c = firstColumn; c <= lastColumn; ++c) existing(table, row, c).visible = visible;
-}
-
 std::string positionOf(Table& table, int row) {
     const Cell& cell = existing(table, row, 1);
     const std::string text = cell.kind == "Button" ? cell.caption : cell.value;
@@ -38,80 +34,9 @@ int depthOf(const std::string& position) {
     return static_cast<int>(std::count(position.begin(), position.end(), '.'));
 }
 
-/// The icon and the graph of the row that is folded or unfolded.
-void markParent(Table& table, int row, bool isAtTop, bool showChildren) {
-    Cell& toggle = existing(table, row, 0);
-    Cell& graph = existing(table, row, 2);
-    if (toggle.picture.find("Asm") != std::string::npos) {
-        toggle.picture =
-            std::string("././Resources/BOM/") + (showChildren ? "UnColapseAsm" : "ColapseAsm");
-    }
-    if (!showChildren && isAtTop) graph.value.clear();
-    if (showChildren && graph.value.empty()) graph.value = "\u2591";
-}
-
-/// Shows or hides a row, and returns its toggle.
-const Cell& showRow(Table& table, int row, bool visible) {
-    Cell& toggle = existing(table, row, 0);
-    if (toggle.picture.find("/BOM/Part") == std::string::npos) {
-        toggle.picture = std::string("././Resources/BOM/") +
-                         (toggle.value == "true" ? "ColapseAsm" : "UnColapseAsm");
-    }
-    for (int c = 0; c < table.columns; ++c) {
-        existing(table, row, c == 0 ? 0 : c + 1).visible = visible;
-    }
-    return toggle;
-}
-
-void collapse(Table& table, int row, bool showChildren) {
-    const std::string p = positionOf(table, row);
-    for (int q = row + 1; q < table.rowCount(); ++q) {
-        const std::string other = positionOf(table, q);
-        if (showChildren && depthOf(other) - depthOf(p) >= 2) continue;
-        std::string ancestor = other;
-        while (depthOf(p) < depthOf(other) && depthOf(ancestor) > depthOf(p)) {
-            ancestor = ancestor.substr(0, ancestor.rfind('.'));
-        }
-        if (ancestor != p) continue;
-        markParent(table, row, depthOf(p) == 0, showChildren);
-        const Cell& child = showRow(table, q, showChildren);
-        if (showChildren) collapse(table, q, child.value == "true");
-    }
-}
-
-/// Hides a row and those whose position begins with its own.
-void hideWithChildren(Table& table, int row) {
-    const std::string p = positionOf(table, row);
-    setVisible(table, row, 0, table.columns, false);
-    for (int later = row + 1; later < table.rowCount(); ++later) {
-        const std::string q = positionOf(table, later);
-        if (q.size() > p.size() && q.starts_with(p)) {
-            setVisible(table, later, 0, table.columns, false);
-        }
-    }
-}
-
-std::string fieldOf(const Cell& cell) {
-    if (cell.kind == "Button") return cell.caption + ";";
-    if (cell.kind == "StringValue") return cell.value + ";";
-    if (cell.kind != "DropDown") return "";
-    const std::string* const chosen = chosenOf(cell);
-    return (chosen == nullptr ? "n/a" : *chosen) + ";";
-}
-
 std::string parentOf(const std::string& path) {
     const std::size_t plus = path.rfind('+');
     return plus != std::string::npos ? path.substr(0, plus) : path.substr(0, path.rfind(':'));
-}
-
-void setAttribute(Component& component, const std::string& name, const std::string& value) {
-    for (auto& attribute : component.attributes) {
-        if (attribute.first == name) {
-            attribute.second = value;
-            return;
-        }
-    }
-    component.attributes.emplace_back(name, value);
 }
 
 /// Text keys of the sort; a cell without a text is left out.
@@ -195,38 +120,146 @@ std::vector<std::string> sortedIds(SortRows& rows, int column,
 
 }  // namespace
 
+std::optional<Rows> Dialog::begin(const std::string& argument) {
+    if (calls.refused(argument)) return std::nullopt;
+    calls.need("Application::get");
+    if (!hasDesign()) return std::nullopt;
+    std::vector<std::string> names;
+    return walk(calls, design, names);
+}
+
+bool Dialog::hasDesign() {
+    return !calls.refused("Application::activeProduct") && !calls.refused("Design::rootComponent");
+}
+
+void Dialog::setVisible(Table& table, int row, int firstColumn, int lastColumn, bool visible) {
+    for (int c = firstColumn; c <= lastColumn; ++c) {
+        Cell& cell = existing(table, row, c);
+        if (!calls.refused("CommandInput::isVisible")) cell.visible = visible;
+    }
+}
+
+bool Dialog::isVisible(const Cell& cell) {
+    return !calls.refused("CommandInput::isVisible") && cell.visible;
+}
+
+void Dialog::setValue(Cell& cell, const std::string& value) {
+    if (!calls.refused("StringValueCommandInput::value")) cell.value = value;
+}
+
+std::string Dialog::valueOf(const Cell& cell) {
+    return calls.refused("StringValueCommandInput::value") ? "" : cell.value;
+}
+
+void Dialog::markParent(Table& table, int row, bool isAtTop, bool showChildren) {
+    Cell& toggle = existing(table, row, 0);
+    Cell& graph = existing(table, row, 2);
+    if (toggle.picture.find("Asm") != std::string::npos) {
+        toggle.picture =
+            std::string("././Resources/BOM/") + (showChildren ? "UnColapseAsm" : "ColapseAsm");
+    }
+    if (!showChildren && isAtTop) setValue(graph, "");
+    if (showChildren && valueOf(graph).empty()) setValue(graph, "\u2591");
+}
+
+Cell& Dialog::showRow(Table& table, int row, bool visible) {
+    Cell& toggle = existing(table, row, 0);
+    if (toggle.picture.find("/BOM/Part") == std::string::npos) {
+        toggle.picture = std::string("././Resources/BOM/") +
+                         (toggle.value == "true" ? "ColapseAsm" : "UnColapseAsm");
+    }
+    for (int c = 0; c < table.columns; ++c) {
+        const int column = c == 0 ? 0 : c + 1;
+        setVisible(table, row, column, column, visible);
+    }
+    return toggle;
+}
+
+void Dialog::collapse(Table& table, int row, bool showChildren) {
+    const std::string p = positionOf(table, row);
+    for (int q = row + 1; q < table.rowCount(); ++q) {
+        const std::string other = positionOf(table, q);
+        if (showChildren && depthOf(other) - depthOf(p) >= 2) continue;
+        std::string ancestor = other;
+        while (depthOf(p) < depthOf(other) && depthOf(ancestor) > depthOf(p)) {
+            ancestor = ancestor.substr(0, ancestor.rfind('.'));
+        }
+        if (ancestor != p) continue;
+        markParent(table, row, depthOf(p) == 0, showChildren);
+        const Cell& child = showRow(table, q, showChildren);
+        if (showChildren) collapse(table, q, child.value == "true");
+    }
+}
+
+void Dialog::hideWithChildren(Table& table, int row) {
+    const std::string p = positionOf(table, row);
+    setVisible(table, row, 0, table.columns, false);
+    for (int later = row + 1; later < table.rowCount(); ++later) {
+        const std::string q = positionOf(table, later);
+        if (q.size() > p.size() && q.starts_with(p)) {
+            setVisible(table, later, 0, table.columns, false);
+        }
+    }
+}
+
+std::string Dialog::fieldOf(const Cell& cell) {
+    if (cell.kind == "Button") return cell.caption + ";";
+    if (cell.kind == "StringValue") return valueOf(cell) + ";";
+    if (cell.kind != "DropDown") return "";
+    const std::string* const chosen = chosenOf(cell);
+    return (chosen == nullptr ? "n/a" : *chosen) + ";";
+}
+
+void Dialog::setAttribute(Component& component, const std::string& name, const std::string& value) {
+    for (auto& attribute : component.attributes) {
+        if (attribute.first != name) continue;
+        if (!calls.refused("Attribute::value")) attribute.second = value;
+        return;
+    }
+    if (!calls.refused("Attributes::add")) component.attributes.emplace_back(name, value);
+}
+
 void Dialog::show(Tab shown) {
     if (tab == shown) return;
     tab = shown;
-    if (isRefused || tab == Tab::Configuration) return;
+    if (!begin("InputChangedEventArgs::input")) return;
+    calls.need("InputChangedEventArgs::inputs");
+    if (tab == Tab::Configuration) return;
     std::string ratio = tab == Tab::Structure ? "2:3:0:12:8" : "2:0:8:12:8";
     for (std::size_t k = 0; k < 6; ++k) ratio += k < items.size() ? ":8" : ":0";
     if (tab == Tab::Structure) {
-        refreshStructure();
+        if (!refreshStructure()) return;
     } else {
         setVisible(model, 0, 0, model.columns, true);
     }
-    table(tab).ratio = ratio;
+    if (!calls.refused("TableCommandInput::columnRatio")) table(tab).ratio = ratio;
 }
 
-void Dialog::refreshStructure() {
-    if (structure.rows.empty()) fillStructure();
+bool Dialog::refreshStructure() {
+    if (structure.rows.empty() && !calls.refused("Application::get") && hasDesign()) {
+        fillStructure();
+    }
     for (int r = 1; r < structure.rowCount(); ++r) {
         integerOf(tailOf(existing(structure, r, 3).id));
     }
     for (int r = 1; r < structure.rowCount(); ++r) {
         const Cell* const first = structure.cell(r, 0);
-        if (first != nullptr && first->visible)
+        if (first != nullptr && isVisible(*first))
             setVisible(structure, r, 1, structure.columns, true);
     }
-    Rows merged = walkMerged(design);
+    if (calls.refused("Application::get") || !hasDesign()) return false;
+    Rows merged = walkMerged(calls, design);
     double total = 0;
     for (int r = 1; r < structure.rowCount(); ++r) {
         const int number = integerOf(tailOf(existing(structure, r, 0).id));
         const Row& row = at(merged, number - 1);
-        total += row.occurrence->mass * static_cast<double>(row.quantity);
+        calls.need("Occurrence::physicalProperties");
+        const double each = calls.refused("PhysicalProperties::mass") ? 0 : row.occurrence->mass;
+        total += each * static_cast<double>(row.quantity);
     }
-    mass = fixed(total, 3);
+    if (!calls.refused("StringValueCommandInput::value")) mass = fixed(total, 3);
+    if (!calls.refused("CommandInput::isVisible")) massShown = true;
+    return true;
 }
 
 void Dialog::chooseOrder(const std::string& name) {
@@ -237,38 +270,56 @@ void Dialog::chooseOrder(const std::string& name) {
     changed(drop);
 }
 
+void Dialog::follow(const std::string& id, const Cell* dropDown, const Rows& rows) {
+    if (!calls.refused("InputChangedEventArgs::input")) followUp(id, dropDown, rows);
+    select(id, rows);
+}
+
 void Dialog::exportTable() {
-    if (isRefused) return;
+    const auto rows = begin("InputChangedEventArgs::input");
+    if (!rows) return;
     Table& shown = table(tab);
-    if (shown.rowCount() >= 2) {
-        exported.clear();
-        for (int r = 0; r < shown.rowCount(); ++r) {
-            const Cell* const first = shown.cell(r, 0);
-            if (first == nullptr || !first->visible) continue;
-            for (int c = 1; c <= shown.columns; ++c) {
-                const Cell* const cell = shown.cell(r, c);
-                if (c != 2 && cell != nullptr) exported += fieldOf(*cell);
-            }
-            exported += "\r\n";
+    const bool isFound = !calls.refused("InputChangedEventArgs::inputs");
+    if (isFound && shown.rowCount() >= 2) writeExport(shown);
+    follow("QEMA_btnExportXls", nullptr, *rows);
+}
+
+void Dialog::writeExport(Table& shown) {
+    exported.clear();
+    for (int r = 0; r < shown.rowCount(); ++r) {
+        const Cell* const first = shown.cell(r, 0);
+        if (first == nullptr || !isVisible(*first)) continue;
+        for (int c = 1; c <= shown.columns; ++c) {
+            const Cell* const cell = shown.cell(r, c);
+            if (c != 2 && cell != nullptr) exported += fieldOf(*cell);
         }
-        exported += "\r\n;Total mass of structure BOM [kg]: ;" + mass + "\r\n";
+        exported += "\r\n";
     }
-    integerOf("btnExportXls");
+    exported += "\r\n";
+    calls.need("CommandInput::parentCommandInput");
+    calls.need("CommandInput::commandInputs");
+    exported += ";Total mass of structure BOM [kg]: ;" +
+                (calls.refused("StringValueCommandInput::value") ? "" : mass) + "\r\n";
 }
 
 void Dialog::save() {
-    if (isRefused) return;
+    const auto rows = begin("InputChangedEventArgs::input");
+    if (!rows) return;
+    readColumns();
+    follow("QEMA_btnSaveConfigBom", nullptr, *rows);
+}
+
+void Dialog::readColumns() {
     items.clear();
     stored.clear();
     for (int c = 4; c < configuration.columns; ++c) {
         const std::string* const chosen = chosenOf(existing(configuration, 2, c));
         if (chosen == nullptr || *chosen == "---Select One---") continue;
-        const std::string& caption = existing(configuration, 1, c).value;
+        const std::string caption = valueOf(existing(configuration, 1, c));
         stored.push_back("QEMA_" + *chosen + ";" + caption);
         // An empty caption is read back so.
         items.push_back("QEMA_" + *chosen + ";" + (caption.empty() ? "missing" : caption));
     }
-    integerOf("btnSaveConfigBom");
 }
 
 void Dialog::click(int row, int column) {
@@ -291,20 +342,25 @@ void Dialog::choose(int row, int column, std::size_t item) {
 }
 
 void Dialog::changed(const Cell& cell) {
-    if (isRefused) return;
-    const Rows rows = walk(design);
+    const auto rows = begin("InputChangedEventArgs::input");
+    if (!rows) return;
     const std::string id = cell.id;
+    const Cell* const dropDown = cell.kind == "DropDown" ? &cell : nullptr;
     if (id.find("colapseRow_") != std::string::npos ||
         id.find("modelColapseRow_") != std::string::npos) {
         toggle(id);
+    } else if (calls.refused("InputChangedEventArgs::inputs")) {
+        return;
     } else if (tailOf(id) == "0" && tab == Tab::Structure && !order.empty()) {
         sort(id);
     }
-    followUp(id, cell.kind == "DropDown" ? &cell : nullptr, rows);
-    select(id, rows);
+    follow(id, dropDown, *rows);
 }
 
 void Dialog::toggle(const std::string& id) {
+    calls.need("CommandInput::parentCommandInput");
+    calls.need("CommandInput::parentCommand");
+    calls.need("Command::commandInputs");
     if (tab == Tab::Configuration) return;
     const int number = integerOf(tailOf(id));
     const Cell& first = existing(table(tab), number, 0);
@@ -341,6 +397,9 @@ void Dialog::sort(const std::string& id) {
 }
 
 void Dialog::followUp(const std::string& id, const Cell* dropDown, const Rows& rows) {
+    calls.need("CommandInput::parentCommandInput");
+    calls.need("CommandInput::parentCommand");
+    if (calls.refused("Command::commandInputs")) return;
     const int number = integerOf(tailOf(id));
     if (baseOf(id) == "iProperty") return useColumn(number, *dropDown);
     if (dropDown == nullptr) return;
@@ -359,26 +418,48 @@ void Dialog::useColumn(int number, const Cell& dropDown) {
     Cell& list = existing(configuration, 2, number + 4);
     const std::string chosen = *chosenOf(dropDown);
     if (chosen.starts_with("---")) {
-        header.value = "not use";
-        caption.value.clear();
+        setValue(header, "not use");
+        setValue(caption, "");
         for (std::size_t i = 0; i < list.items.size(); ++i) list.items[i].second = i == 0;
     } else {
-        header.value = "used";
-        caption.value = chosen;
+        setValue(header, "used");
+        setValue(caption, chosen);
     }
 }
 
 void Dialog::select(const std::string& id, const Rows& rows) {
+    calls.need("CommandInput::parentCommand");
+    calls.need("Command::commandInputs");
     const int number = integerOf(tailOf(id));
     if (number == 0 || tab == Tab::Configuration) return;
     if (tab == Tab::Structure) return selectOnStructure(rows, number - 1);
-    selected = {at(rows, number - 1).occurrence->path};
+    const Row& chosen = at(rows, number - 1);
+    passSelections();
+    clearSelection();
+    addSelection(chosen.occurrence->path);
+}
+
+void Dialog::passSelections() {
+    calls.need("Product::parentDocument");
+    calls.need("Document::parent");
+    calls.need("Application::userInterface");
+    calls.need("UserInterface::activeSelections");
+}
+
+void Dialog::clearSelection() {
+    if (!calls.refused("Selections::clear")) selected.clear();
+}
+
+void Dialog::addSelection(const std::string& path) {
+    const bool isNew = std::find(selected.begin(), selected.end(), path) == selected.end();
+    if (!calls.refused("Selections::add") && isNew) selected.push_back(path);
 }
 
 void Dialog::selectOnStructure(const Rows& rows, int place) {
-    selected.clear();
+    passSelections();
+    clearSelection();
     const Row& chosen = at(rows, place);
-    selected.push_back(chosen.occurrence->path);
+    addSelection(chosen.occurrence->path);
     const std::string group = parentOf(chosen.occurrence->path);
     for (const Row& row : rows) {
         const std::string& path = row.occurrence->path;
@@ -386,13 +467,24 @@ void Dialog::selectOnStructure(const Rows& rows, int place) {
             row.level == chosen.level &&
             design.components[row.component].number == design.components[chosen.component].number &&
             path.find(group) != std::string::npos;
-        const bool isNew = std::find(selected.begin(), selected.end(), path) == selected.end();
-        if (isSame && isNew) selected.push_back(path);
+        if (isSame) addSelection(path);
     }
 }
 
+void Dialog::setPartNumber(Component& component, const std::string& value) {
+    if (!calls.refused("Component::partNumber")) component.number = value;
+}
+
+void Dialog::setDescription(Component& component, const std::string& value) {
+    if (!calls.refused("Component::description")) component.description = value;
+}
+
 void Dialog::accept() {
-    if (isRefused || tab == Tab::Configuration) return;
+    calls.need("Application::get");
+    if (!hasDesign() || calls.refused("CommandEventArgs::command") ||
+        calls.refused("Command::commandInputs") || tab == Tab::Configuration) {
+        return;
+    }
     Table& shown = table(tab);
     bool anyMatches = false;
     for (int r = 1; tab == Tab::Structure && r < shown.rowCount(); ++r) {
@@ -403,7 +495,8 @@ void Dialog::accept() {
             if (cell->value == design.components[occurrence->component].number) anyMatches = true;
         }
     }
-    Rows rows = anyMatches ? walkMerged(design) : walk(design);
+    std::vector<std::string> names;
+    Rows rows = anyMatches ? walkMerged(calls, design) : walk(calls, design, names);
     int partNumberColumn = -1;
     for (int r = 1; r < shown.rowCount(); ++r) {
         const Cell* const first = shown.cell(r, 0);
@@ -414,12 +507,11 @@ void Dialog::accept() {
             writeRow(row, r, number, partNumberColumn);
             continue;
         }
-        std::string& description = design.components[row.component].description;
-        if (description.empty()) continue;
-        if (description.size() < 15) {
-            throw Thrown{"std::out_of_range", "invalid string position"};
-        }
-        description = description.substr(15);
+        Component& component = design.components[row.component];
+        const bool isUnread = calls.refused("Component::description");
+        if (isUnread || component.description.empty()) continue;
+        if (component.description.size() < 15) throwStringPosition();
+        setDescription(component, component.description.substr(15));
     }
 }
 
@@ -432,20 +524,21 @@ void Dialog::writeRow(const Row& row, int tableRow, int number, int& partNumberC
         const Cell& cell = existing(shown, tableRow, c);
         if (cell.id == (isModel ? "modelPartNumberOcc_" : "partNumberOcc_") + n) {
             partNumberColumn = c;
-            component.number = cell.value;
+            setPartNumber(component, valueOf(cell));
         } else if (cell.id == (isModel ? "modelBomStructure_" : "bomStructure_") + n) {
             for (const auto& [name, isChosen] : cell.items) {
                 setAttribute(component, name, isChosen ? "1" : "");
             }
         } else if (cell.id == "QEMA_Part Name_" + n) {
-            const std::string partNumber = existing(shown, tableRow, partNumberColumn).value;
+            const std::string partNumber = valueOf(existing(shown, tableRow, partNumberColumn));
+            const std::string name = valueOf(cell);
             for (const Component& other : design.components) {
-                namesClash = namesClash || (&other != &component && other.name == cell.value);
+                namesClash = namesClash || (&other != &component && other.name == name);
             }
-            component.name = cell.value;
-            component.number = partNumber;
+            if (!calls.refused("Component::name")) component.name = name;
+            setPartNumber(component, partNumber);
         } else if (cell.id == "QEMA_Description_" + n) {
-            component.description = cell.value;
+            setDescription(component, valueOf(cell));
         } else if (c > 4) {
             writeOther(row, cell, n);
         }
@@ -464,13 +557,13 @@ void Dialog::writeOther(const Row& row, const Cell& cell, const std::string& num
     for (std::size_t k = 0; k < row.properties.size(); ++k) {
         const std::string& key = row.properties[k].first;
         if (builtIn.count(name) == 0) {
-            if (cell.id == key + "_" + number) setAttribute(component, key, cell.value);
+            if (cell.id == key + "_" + number) setAttribute(component, key, valueOf(cell));
         } else if (k + 1 == row.properties.size()) {
             const std::string attribute = baseOf(cell.id);
             const auto& all = component.attributes;
             if (std::none_of(all.begin(), all.end(),
                              [&](const auto& each) { return each.first == attribute; })) {
-                setAttribute(component, attribute, cell.value);
+                setAttribute(component, attribute, valueOf(cell));
             }
         }
     }

@@ -69,12 +69,22 @@ bool isModelKey(const std::string& key) {
     return key == "QEMA_Part Number" || key == "QEMA_Part Name" || key == "QEMA_Description";
 }
 
-Properties propertiesOf(const Component& component) {
-    Properties all = {{"QEMA_Part Number", component.number},
-                      {"QEMA_Part Name", component.name},
-                      {"QEMA_Description", component.description}};
-    for (const auto& attribute : component.attributes) {
-        if (!isModelKey(attribute.first)) all.push_back(attribute);
+std::string unlessRefused(Calls& calls, const char* name, const std::string& value) {
+    return calls.refused(name) ? "" : value;
+}
+
+Properties propertiesOf(Calls& calls, const Component& component) {
+    if (calls.refused("Component::attributes")) return {};
+    Properties all = {
+        {"QEMA_Part Number", unlessRefused(calls, "Component::partNumber", component.number)},
+        {"QEMA_Part Name", unlessRefused(calls, "Component::name", component.name)},
+        {"QEMA_Description",
+         unlessRefused(calls, "Component::description", component.description)}};
+    if (calls.refused("Attributes::itemsByGroup")) return all;
+    for (const auto& [name, value] : component.attributes) {
+        const std::string key = unlessRefused(calls, "Attribute::name", name);
+        if (isModelKey(key)) continue;
+        all.emplace_back(key, unlessRefused(calls, "Attribute::value", value));
     }
     return all;
 }
@@ -85,33 +95,44 @@ void collectNames(std::vector<std::string>& names, const Properties& properties)
         "AsPart",         "Divided",          "Reference"};
     for (const auto& [key, value] : properties) {
         if (std::find(reserved.begin(), reserved.end(), key) != reserved.end()) continue;
+        if (key.size() < 5) throwStringPosition();
         const std::string name = key.substr(5);
         if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
     }
 }
 
-Row rowOf(const Design& design, const Occurrence& occurrence, std::size_t index, int level) {
+Row rowOf(Calls& calls, const Design& design, const Occurrence& occurrence, std::size_t index,
+          int level) {
     Row row;
+    calls.need("Occurrence::childOccurrences");
+    calls.need("Occurrence::component");
     row.component = occurrence.component;
     row.occurrence = &occurrence;
     row.relativePosition = level < 2 ? "" : "." + std::to_string(index + 1);
-    row.childCount = occurrence.children.size();
+    row.childCount = calls.refused("OccurrenceList::count") ? 0 : occurrence.children.size();
     row.pathName = occurrence.path;
     row.level = level;
-    row.properties = propertiesOf(design.components[occurrence.component]);
+    row.properties = propertiesOf(calls, design.components[occurrence.component]);
     return row;
 }
 
-void walkList(const Design& design, const std::vector<std::optional<Occurrence>>& list, int level,
-              Rows& rows, std::vector<std::string>* userNames) {
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        if (!list[i]) continue;
-        rows.push_back(rowOf(design, *list[i], i, level));
-        if (userNames != nullptr) collectNames(*userNames, rows.back().properties);
-        if (!list[i]->children.empty()) {
-            walkList(design, list[i]->children, level + 1, rows, userNames);
-            rows.back().pathName = "-1";
-        }
+using List = std::vector<std::optional<Occurrence>>;
+
+/// Whether a list is longer, as its count says that is asked for each time.
+bool goesOn(Calls& calls, const List& list, std::size_t index) {
+    return !calls.refused("OccurrenceList::count") && index < list.size();
+}
+
+void walkList(Calls& calls, const Design& design, const List& list, int level, Rows& rows,
+              std::vector<std::string>& userNames) {
+    for (std::size_t i = 0; goesOn(calls, list, i); ++i) {
+        if (calls.refused("OccurrenceList::item") || !list[i]) continue;
+        const Row row = rowOf(calls, design, *list[i], i, level);
+        collectNames(userNames, row.properties);
+        rows.push_back(row);
+        if (row.childCount == 0) continue;
+        walkList(calls, design, list[i]->children, level + 1, rows, userNames);
+        rows.back().pathName = "-1";
     }
 }
 
@@ -143,18 +164,18 @@ void merge(Design& design, Row& target, const Row& current) {
     mergeProperties(target.properties, current.properties);
 }
 
-void walkListMerged(Design& design, const std::vector<std::optional<Occurrence>>& list, int level,
-                    Rows& rows) {
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        if (!list[i]) continue;
-        const Row row = rowOf(design, *list[i], i, level);
+void walkListMerged(Calls& calls, Design& design, const List& list, int level, Rows& rows) {
+    for (std::size_t i = 0; goesOn(calls, list, i); ++i) {
+        if (calls.refused("OccurrenceList::item") || !list[i]) continue;
+        const Row row = rowOf(calls, design, *list[i], i, level);
+        std::vector<std::string> names;
+        collectNames(names, row.properties);
         const int same = find(design, rows, row);
         if (same >= 0) merge(design, at(rows, same), row);
         rows.push_back(row);
-        if (!list[i]->children.empty()) {
-            walkListMerged(design, list[i]->children, level + 1, rows);
-            rows.back().pathName = "-1";
-        }
+        if (row.childCount == 0) continue;
+        walkListMerged(calls, design, list[i]->children, level + 1, rows);
+        rows.back().pathName = "-1";
     }
 }
 
@@ -162,6 +183,26 @@ void walkListMerged(Design& design, const std::vector<std::optional<Occurrence>>
 
 void throwNullHandle() { throw Thrown{"std::exception", ""}; }
 void throwSubscript() { throw Thrown{"std::out_of_range", "invalid vector subscript"}; }
+void throwStringPosition() { throw Thrown{"std::out_of_range", "invalid string position"}; }
+
+bool Calls::refused(const std::string& name) {
+    return ++counts_[name] == refusedCall_ && name == refusedName_;
+}
+
+void Calls::need(const std::string& name) {
+    if (refused(name)) throwNullHandle();
+}
+
+void Calls::begin(std::string name, int nth) {
+    refusedName_ = std::move(name);
+    refusedCall_ = nth;
+    counts_.clear();
+}
+
+int Calls::count(const std::string& name) const {
+    const auto found = counts_.find(name);
+    return found == counts_.end() ? 0 : found->second;
+}
 
 int integerOf(const std::string& text) {
     try {
@@ -209,15 +250,19 @@ std::string describe(const Design& design) {
     return text;
 }
 
-Rows walk(const Design& design, std::vector<std::string>* userNames) {
+Rows walk(Calls& calls, const Design& design, std::vector<std::string>& userNames) {
     Rows rows;
-    walkList(design, design.top, 1, rows, userNames);
+    calls.need("Component::occurrences");
+    if (calls.refused("Occurrences::asList")) return rows;
+    walkList(calls, design, design.top, 1, rows, userNames);
     return rows;
 }
 
-Rows walkMerged(Design& design) {
+Rows walkMerged(Calls& calls, Design& design) {
     Rows rows;
-    walkListMerged(design, design.top, 1, rows);
+    calls.need("Component::occurrences");
+    calls.need("Occurrences::asList");
+    walkListMerged(calls, design, design.top, 1, rows);
     return rows;
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -21,6 +22,29 @@ struct Thrown {
 
 [[noreturn]] void throwNullHandle();
 [[noreturn]] void throwSubscript();
+[[noreturn]] void throwStringPosition();
+
+/// The host calls that an action makes by the rules, counted by name. One of them may be refused.
+/// Calls that the rules leave open, such as how often an id is asked for, are not among them.
+class Calls {
+public:
+    /// Counts a call; true where it is the refused one, and returns nothing.
+    bool refused(const std::string& name);
+
+    /// Counts a call that returns a handle to go on with; throws where it is refused.
+    void need(const std::string& name);
+
+    /// Begins an action, in which the `nth` call of `name` is refused; 0 for none.
+    void begin(std::string name = "", int nth = 0);
+
+    [[nodiscard]] int count(const std::string& name) const;
+    [[nodiscard]] const std::map<std::string, int>& counts() const { return counts_; }
+
+private:
+    std::string refusedName_;
+    int refusedCall_ = 0;
+    std::map<std::string, int> counts_;
+};
 
 /// As `std::stoi` and `std::stod` read them; throws `Thrown`.
 int integerOf(const std::string& text);
@@ -88,11 +112,11 @@ struct Row {
 
 using Rows = std::vector<Row>;
 
-/// Every occurrence; with `userNames`, the names of custom properties are added to them.
-Rows walk(const Design& design, std::vector<std::string>* userNames = nullptr);
+/// Every occurrence; the names of custom properties are added to `userNames`.
+Rows walk(Calls& calls, const Design& design, std::vector<std::string>& userNames);
 
 /// Every occurrence, the items merged; writes descriptions into the design.
-Rows walkMerged(Design& design);
+Rows walkMerged(Calls& calls, Design& design);
 
 /// The row of the same item, -1 for none.
 int find(const Design& design, const Rows& rows, const Row& row);

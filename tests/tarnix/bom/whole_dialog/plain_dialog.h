@@ -4,6 +4,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -51,12 +52,21 @@ public:
     Table model;
     Table structure;
     Table configuration;
-    bool isRefused = false;   ///< the first host call of the next notification is refused
     bool namesClash = false;  ///< the last write gave a name that another component had
     std::string order;        ///< the chosen one, empty for none
-    std::string mass;         ///< the text of the field, empty before it shows
+    std::string mass;         ///< the text of the field
+    bool massShown = false;
+
+    /// The host calls of an action, `calls.begin` before it.
+    Calls calls;
+
+    std::vector<std::string> userNames;  ///< stay from one opening to the next
+    int modelRowCounter = 1;             ///< likewise
 
     [[nodiscard]] Table& table(Tab of);
+
+    /// Goes on from a table that was made otherwise.
+    void adopt(Tab of, Table made);
 
     /// @name Actions; each throws `Thrown` where the add-in does
     /// @{
@@ -72,6 +82,29 @@ public:
     /// @}
 
 private:
+    /// The rows of the open design; none where the design is not found, and the action ends.
+    std::optional<Rows> begin(const std::string& argument);
+    bool hasDesign();
+
+    void setVisible(Table& table, int row, int firstColumn, int lastColumn, bool visible);
+    bool isVisible(const Cell& cell);
+    void setValue(Cell& cell, const std::string& value);
+    std::string valueOf(const Cell& cell);
+    std::string fieldOf(const Cell& cell);
+    void writeExport(Table& table);
+    void readColumns();
+
+    void hideWithChildren(Table& table, int row);
+    void collapse(Table& table, int row, bool showChildren);
+    void markParent(Table& table, int row, bool isAtTop, bool showChildren);
+    Cell& showRow(Table& table, int row, bool visible);
+    void addSelection(const std::string& path);
+    void passSelections();
+    void clearSelection();
+    void setAttribute(Component& component, const std::string& name, const std::string& value);
+    void setPartNumber(Component& component, const std::string& value);
+    void setDescription(Component& component, const std::string& value);
+
     void addHeader(Table& table, const std::array<std::string, 5>& ids);
     void buildModelTable();
     void addModelRow(const Row& row, const std::string& position);
@@ -82,8 +115,9 @@ private:
     void addConfigured(std::map<int, Cell>& cells, const Row& row, const std::string& number);
     void fillStructure();
     void addStructureRow(const Row& row, int r, bool isUnderDivided);
-    void refreshStructure();
+    bool refreshStructure();  ///< false where the design is not found
     void changed(const Cell& cell);
+    void follow(const std::string& id, const Cell* dropDown, const Rows& rows);
     void toggle(const std::string& id);
     void sort(const std::string& id);
     void followUp(const std::string& id, const Cell* dropDown, const Rows& rows);
@@ -94,8 +128,6 @@ private:
     void writeOther(const Row& row, const Cell& cell, const std::string& number);
     Cell make(std::string kind, std::string id, std::string caption, std::string value);
 
-    std::vector<std::string> userNames_;  ///< stay from one opening to the next
-    int modelRowCounter_ = 1;             ///< likewise
     int serials_ = 0;
 };
 

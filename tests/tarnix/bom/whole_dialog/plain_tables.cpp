@@ -127,6 +127,13 @@ Table& Dialog::table(Tab of) {
     return of == Tab::Model ? model : of == Tab::Structure ? structure : configuration;
 }
 
+void Dialog::adopt(Tab of, Table made) {
+    table(of) = std::move(made);
+    for (auto& row : table(of).rows) {
+        for (auto& [column, cell] : row) cell.serial = ++serials_;
+    }
+}
+
 Cell Dialog::make(std::string kind, std::string id, std::string caption, std::string value) {
     Cell cell;
     cell.kind = std::move(kind);
@@ -143,6 +150,7 @@ void Dialog::open() {
     configuration = {};
     order.clear();
     mass.clear();
+    massShown = false;
     tab = Tab::Model;
     buildModelTable();
     structure.columns = static_cast<int>(items.size()) + 4;
@@ -177,16 +185,16 @@ std::string Dialog::nextPosition(const Row& row, const std::string& previousPath
                                  std::string& prefix) {
     std::string position;
     if (row.relativePosition.empty()) {
-        position = std::to_string(modelRowCounter_);
+        position = std::to_string(modelRowCounter);
         prefix.clear();
     } else {
-        --modelRowCounter_;
+        --modelRowCounter;
         if (!prefix.empty() && previousPath == "-1") prefix = beforePoint(prefix, row.level - 1);
         position =
-            (prefix.empty() ? std::to_string(modelRowCounter_) : prefix) + row.relativePosition;
+            (prefix.empty() ? std::to_string(modelRowCounter) : prefix) + row.relativePosition;
     }
     if (row.childCount > 0 && row.level != 1) prefix = position;
-    ++modelRowCounter_;
+    ++modelRowCounter;
     return position;
 }
 
@@ -195,7 +203,7 @@ void Dialog::buildModelTable() {
     model.columns = n + 4;
     model.ratio = ratioOf("2:0:8:12:8", n);
     addHeader(model, {});
-    const Rows rows = walk(design, &userNames_);
+    const Rows rows = walk(calls, design, userNames);
     std::string prefix;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const std::string previousPath = i == 0 ? "" : rows[i - 1].pathName;
@@ -258,7 +266,7 @@ void Dialog::addFreeColumn(int c) {
           "Bounding Box", "--- User Property ---"}) {
         choices.emplace_back(name, false);
     }
-    for (const std::string& name : userNames_) choices.emplace_back(name, false);
+    for (const std::string& name : userNames) choices.emplace_back(name, false);
 }
 
 void Dialog::loadColumn(int q) {
@@ -274,7 +282,7 @@ void Dialog::loadColumn(int q) {
 }
 
 void Dialog::fillStructure() {
-    const Rows rows = walkMerged(design);
+    const Rows rows = walkMerged(calls, design);
     addHeader(structure, {"colapseRow_0", "positionOcc_0", "graphPositionOcc_0", "partNumberOcc_0",
                           "bomStructure_0"});
     Filter filter;
@@ -297,6 +305,8 @@ void Dialog::addStructureRow(const Row& row, int r, bool isUnderDivided) {
     } else {
         cells[0].picture = folder + (isUnderDivided ? "PartUp.png" : "Part.png");
     }
+    // It is made visible, which it is anyway.
+    static_cast<void>(calls.refused("CommandInput::isVisible"));
     cells[1] =
         make("Button", "positionOcc_" + number, std::to_string(structure.rowCount()), "false");
     cells[2] = make("StringValue", "graphPositionOcc_" + number, "", "");
