@@ -112,18 +112,6 @@ StandInAnswer standin_virtualScreen(StandInArea* area) {
     return screen ? host::system_overrides::answerWith(*screen, area) : StandInAnswer::NotHandled;
 }
 
-StandInAnswer standin_windowArea(const char* title, StandInArea* area) {
-    const auto windows = overriding(&SystemOverrides::windows);
-    if (!windows) {
-        return StandInAnswer::NotHandled;
-    }
-    const auto found =
-        std::find_if(windows->begin(), windows->end(),
-                     [&](const host::WindowShown& window) { return window.title == title; });
-    return found != windows->end() ? host::system_overrides::answerWith(found->inside, area)
-                                   : StandInAnswer::Failed;
-}
-
 StandInAnswer standin_visitWindows(StandInWindowVisitor visit, void* context) {
     // A copy: the visitor may set other overrides.
     const auto windows = overriding(&SystemOverrides::windows);

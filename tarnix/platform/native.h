@@ -33,6 +33,9 @@ ScreenArea virtualScreen();
 /// As `tarnix::platform::findWindow`.
 WindowOnScreen findWindow(const std::string& title);
 
+/// Whether `findWindow` takes two titles (UTF-8) for one.
+bool isSameTitle(const std::string& title, const std::string& other);
+
 /// As `tarnix::platform::processorInformation`.
 ProcessorRegisters processorInformation(std::uint32_t leaf);
 

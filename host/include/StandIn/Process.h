@@ -50,10 +50,6 @@ struct StandInArea {
 /// The module asks for the area of all monitors together. `Done`: `area` is set.
 StandInAnswer standin_virtualScreen(StandInArea* area);
 
-/// The module asks for the client area of the window with this title, in UTF-8. `Done`: `area` is
-/// set; `Failed`: there is no such window.
-StandInAnswer standin_windowArea(const char* title, StandInArea* area);
-
 /// Called for one window with its title, in UTF-8, and its client area; returns 0 to see no more.
 using StandInWindowVisitor = int (*)(void* context, const char* title, const StandInArea* inside);
 

@@ -9,6 +9,21 @@ ScreenArea fromProcess(const StandInArea& area) {
     return {area.left, area.top, area.right, area.bottom};
 }
 
+/// What is looked for among the windows of the process, and where the first one is.
+struct Search {
+    const std::string& title;
+    ScreenArea inside;
+};
+
+int look(void* context, const char* title, const StandInArea* inside) {
+    auto& search = *static_cast<Search*>(context);
+    if (!native::isSameTitle(title, search.title)) {
+        return 1;
+    }
+    search.inside = fromProcess(*inside);
+    return 0;
+}
+
 }  // namespace
 
 void sleep(int milliseconds) {
@@ -47,16 +62,11 @@ ScreenArea virtualScreen() {
 }
 
 WindowOnScreen findWindow(const std::string& title) {
-    using Question = decltype(&standin_windowArea);
-    StandInArea area = {};
-    switch (askProcess<Question>("standin_windowArea", title.c_str(), &area)) {
-        case StandInAnswer::NotHandled:
-            return native::findWindow(title);
-        case StandInAnswer::Done:
-            return {.inside = fromProcess(area)};
-        default:
-            return {};
-    }
+    using Question = decltype(&standin_visitWindows);
+    Search search = {.title = title, .inside = {}};
+    const StandInAnswer answer = askProcess<Question>("standin_visitWindows", &look, &search);
+    return answer == StandInAnswer::NotHandled ? native::findWindow(title)
+                                               : WindowOnScreen{.inside = search.inside};
 }
 
 ProcessorRegisters processorInformation(std::uint32_t leaf) {

@@ -134,6 +134,10 @@ WindowOnScreen findWindow(const std::string& title) {
                        : WindowOnScreen();
 }
 
+bool isSameTitle(const std::string& title, const std::string& other) {
+    return comparable(title) == comparable(other);
+}
+
 void visitTopWindows(const std::function<bool(const TopWindow&)>& visit) {
     const Display display;
     if (!display) {

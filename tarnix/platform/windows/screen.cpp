@@ -32,6 +32,12 @@ WindowOnScreen findWindow(const std::string& title) {
                        .bottom = static_cast<int>(inside.bottom)}};
 }
 
+bool isSameTitle(const std::string& title, const std::string& other) {
+    constexpr int kWhole = -1;
+    return ::CompareStringOrdinal(fromUtf8(title).c_str(), kWhole, fromUtf8(other).c_str(), kWhole,
+                                  /*bIgnoreCase=*/TRUE) == CSTR_EQUAL;
+}
+
 }  // namespace native
 
 struct ScreenPicture::State {

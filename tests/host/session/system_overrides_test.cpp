@@ -32,7 +32,6 @@ TEST_F(SystemOverridesTest, WithoutASessionAreTheSystems) {
     EXPECT_EQ(standin_messageBox("text", "title", 64), StandInAnswer::NotHandled);
     EXPECT_EQ(standin_hideConsole(), StandInAnswer::NotHandled);
     EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::NotHandled);
-    EXPECT_EQ(standin_windowArea("title", &area), StandInAnswer::NotHandled);
     EXPECT_EQ(standin_cpuid(0, registers.data()), StandInAnswer::NotHandled);
 }
 
@@ -79,19 +78,14 @@ TEST_F(SystemOverridesTest, LeaveTheConsoleAloneByDefault) {
     EXPECT_EQ(overrides::consoleHidings(), 2);
 }
 
-TEST_F(SystemOverridesTest, NameTheScreenAndItsWindows) {
+TEST_F(SystemOverridesTest, NameTheScreen) {
     SystemOverrides screen;
     screen.screen = host::ScreenRectangle{.left = -640, .top = 0, .right = 800, .bottom = 600};
-    screen.windows = std::vector<host::WindowShown>{{"a", {1, 2, 3, 4}}};
     overrides::set(screen);
     StandInArea area = {};
     EXPECT_EQ(standin_virtualScreen(&area), StandInAnswer::Done);
     EXPECT_EQ(area.left, -640);
     EXPECT_EQ(area.bottom, 600);
-    EXPECT_EQ(standin_windowArea("a", &area), StandInAnswer::Done);
-    EXPECT_EQ(area.top, 2);
-    EXPECT_EQ(area.right, 3);
-    EXPECT_EQ(standin_windowArea("b", &area), StandInAnswer::Failed);
 }
 
 namespace {

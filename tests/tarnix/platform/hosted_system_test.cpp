@@ -44,11 +44,6 @@ extern "C" XI_EXPORT StandInAnswer standin_virtualScreen(StandInArea* area) {
     return answerTo("screen");
 }
 
-extern "C" XI_EXPORT StandInAnswer standin_windowArea(const char* title, StandInArea* area) {
-    *area = process.area;
-    return answerTo(std::string("window ") + title);
-}
-
 extern "C" XI_EXPORT StandInAnswer standin_cpuid(unsigned leaf, unsigned* registers) {
     for (unsigned i = 0; i < 4; ++i) {
         registers[i] = leaf + i;
@@ -110,24 +105,6 @@ TEST_F(HostedSystem, HasNoScreenWhereTheProcessHasNone) {
 TEST_F(HostedSystem, HasTheMachinesScreenOtherwise) {
     process.area = {1, 2, 3, 4};
     EXPECT_EQ(virtualScreen(), native::virtualScreen());
-}
-
-TEST_F(HostedSystem, FindsAWindowOfTheProcess) {
-    process = {StandInAnswer::Done, {10, 20, 40, 60}, ""};
-    const WindowOnScreen window = findWindow("Autodesk Fusion 360");
-    EXPECT_EQ(window.inside, (ScreenArea{10, 20, 40, 60}));
-    EXPECT_EQ(window.handle, 0U);
-    EXPECT_EQ(process.asked, "window Autodesk Fusion 360");
-}
-
-TEST_F(HostedSystem, FindsNoWindowWhereTheProcessHasNone) {
-    process = {StandInAnswer::Failed, {1, 2, 3, 4}, ""};
-    EXPECT_EQ(findWindow("any").inside, kNone);
-}
-
-TEST_F(HostedSystem, LooksForAWindowOfTheMachineOtherwise) {
-    process.area = {1, 2, 3, 4};
-    EXPECT_EQ(findWindow("no window has this title").inside, kNone);
 }
 
 TEST_F(HostedSystem, HasTheProcessorOfTheProcess) {

@@ -1,3 +1,4 @@
+#include "tarnix/platform/screen.h"
 #include "tarnix/platform/top_windows.h"
 
 #include <Core/OSMacros.h>
@@ -20,7 +21,7 @@ extern "C" XI_EXPORT StandInAnswer standin_visitWindows(StandInWindowVisitor vis
     const StandInArea front = {10, 20, 40, 60};
     const StandInArea back = {-5, 0, 5, 10};
     if (answer == StandInAnswer::Done && visit(context, "front", &front) != 0) {
-        visit(context, "back", &back);
+        visit(context, "Zadn\u00ED \u00B5", &back);
     }
     return answer;
 }
@@ -48,7 +49,7 @@ TEST_F(HostedWindows, AreThoseOfTheProcessTheForemostFirst) {
         note(window);
         return true;
     });
-    EXPECT_EQ(seen, "front 10 20 40 60\nback -5 0 5 10\n");
+    EXPECT_EQ(seen, "front 10 20 40 60\nZadn\u00ED \u00B5 -5 0 5 10\n");
 }
 
 TEST_F(HostedWindows, AreSeenNoLongerThanTheVisitorWants) {
@@ -75,6 +76,25 @@ TEST_F(HostedWindows, AreThoseOfTheMachineWhereTheProcessDoesNotSay) {
         return true;
     });
     EXPECT_EQ(seen.find("front\n"), std::string::npos) << seen;
+}
+
+TEST_F(HostedWindows, AreFoundInLargeAndSmallLetters) {
+    const WindowOnScreen window = findWindow("FRONT");
+    EXPECT_EQ(window.inside, (ScreenArea{10, 20, 40, 60}));
+    EXPECT_EQ(window.handle, 0U);
+    EXPECT_EQ(findWindow("zADN\u00CD \u00B5").inside, (ScreenArea{-5, 0, 5, 10}));
+}
+
+TEST_F(HostedWindows, AreFoundByTheirWholeTitles) {
+    EXPECT_EQ(findWindow("fron").inside, ScreenArea());
+    EXPECT_EQ(findWindow("front ").inside, ScreenArea());
+    // The capital of the micro sign is another letter's.
+    EXPECT_EQ(findWindow("ZADN\u00CD \u039C").inside, ScreenArea());
+}
+
+TEST_F(HostedWindows, AreLookedForOnTheMachineWhereTheProcessDoesNotSay) {
+    answer = StandInAnswer::NotHandled;
+    EXPECT_EQ(findWindow("front").inside, ScreenArea());
 }
 
 }  // namespace
