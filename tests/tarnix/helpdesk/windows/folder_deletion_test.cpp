@@ -2,6 +2,7 @@
 
 #include "tests/support/temporary_folder.h"
 #include "tests/tarnix/platform/test_system.h"
+#include "tests/tarnix/platform/windows/folder_link.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +22,19 @@ TEST(FolderDeletionOfWindows, KeepsALockedFileAndWhatComesAfterIt) {
     const std::string path = folder.windows("");
     EXPECT_FALSE(deleteDirectoryTree({path.begin(), path.end()}));
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"screen_002.png", "screen_003.png"}));
+}
+
+TEST(FolderDeletionOfWindows, RemovesALinkToAFolderAndNotWhatItLeadsTo) {
+    const test_support::TemporaryFolder other;
+    other.write("kept", "x");
+    const test_support::TemporaryFolder folder;
+    if (!test_support::linkFolder(other.path(), folder.path() / "link")) {
+        GTEST_SKIP() << "this system makes no link to a folder for this user";
+    }
+    const std::string path = folder.windows("");
+    EXPECT_TRUE(deleteDirectoryTree({path.begin(), path.end()}));
+    EXPECT_FALSE(folder.has("link"));
+    EXPECT_EQ(other.read("kept"), "x");
 }
 
 }  // namespace
