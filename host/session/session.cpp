@@ -77,6 +77,8 @@ void Session::begin() {
     host_.emplace(options_.host);
     shell_requests::setPolicy(options_.shell);
     system_overrides::set(options_.system);
+    ApplicationObject::current()->preferences()->generalPreferences()->userLanguage(
+        options_.language);
     newDesign();
     module_ = LoadedModule(addin_.module());
 }

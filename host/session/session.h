@@ -62,6 +62,10 @@ struct SessionOptions {
     std::chrono::milliseconds lockTimeout{3000};
 
     HostSetup host;
+
+    /// The user's choice of a language, which a module may ask for.
+    adsk::core::UserLanguages language = adsk::core::EnglishLanguage;
+
     shell_requests::Policy shell = shell_requests::Policy::Record;
     SystemOverrides system;
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <system_error>
 #include <vector>
@@ -35,12 +36,18 @@ constexpr const char* kActionsHelp =
 struct HelpdeskOptions {
     std::vector<std::string> actions;  ///< names of `kHelpdeskActions`, in the order of the presses
     AddinChoice addin;
-    bool here = false;  ///< uses the user's own support folder, not that of the workbench
-    bool open = false;  ///< lets the shell open what the add-in asks it to
+    bool here = false;            ///< uses the user's own support folder, not that of the workbench
+    bool open = false;            ///< lets the shell open what the add-in asks it to
+    std::string language = "en";  ///< a key of `kLanguages`
 };
+
+/// The languages of the host that a user guide is chosen by.
+const std::map<std::string, adsk::core::UserLanguages> kLanguages = {
+    {"en", adsk::core::EnglishLanguage}, {"cs", adsk::core::CzechLanguage}};
 
 host::SessionOptions sessionOptions(const HelpdeskOptions& options) {
     host::SessionOptions session = userSession(options.addin);
+    session.language = kLanguages.at(options.language);
     session.shell = options.open ? host::shell_requests::Policy::RecordOpen
                                  : host::shell_requests::Policy::Record;
     session.useUserTempDir = options.here;
@@ -132,6 +139,11 @@ void addHelpdeskCommand(CLI::App& program) {
     command.add_flag("--here", options.here,
                      "Use your own support folder, not that of the workbench");
     command.add_flag("--open", options.open, "Let the add-in open files and addresses");
+    command
+        .add_option("--language", options.language,
+                    "The host's language, in which the user guide is opened: en or cs")
+        ->check(CLI::IsMember({"en", "cs"}))
+        ->type_name("LANGUAGE");
     addAddin(command, options.addin);
     command.footer(kActionsHelp);
 }

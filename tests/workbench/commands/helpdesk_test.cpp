@@ -66,6 +66,22 @@ TEST_F(Helpdesk, UsesTheUsersSupportFolderWhenAskedTo) {
     EXPECT_FALSE(fs::exists(support()));
 }
 
+TEST_F(Helpdesk, OpensTheUserGuideInTheHostsLanguage) {
+    const ProgramResult english = helpdesk({"guide"});
+    const ProgramResult czech = helpdesk({"guide", "--language", "cs"});
+
+    EXPECT_NE(english.output.find("Tarnix_UsersGuide.pdf"), std::string::npos) << english.output;
+    EXPECT_NE(czech.output.find("Tarnix_UzivatelskaPrirucka.pdf"), std::string::npos)
+        << czech.output;
+}
+
+TEST_F(Helpdesk, RefusesALanguageWithoutAGuide) {
+    const ProgramResult result = helpdesk({"guide", "--language", "de"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_NE(result.errors.find("--language"), std::string::npos) << result.errors;
+}
+
 TEST_F(Helpdesk, ReportsWhatTheAddinSays) {
     const ProgramResult result = helpdesk({"zip"});
 
