@@ -67,12 +67,27 @@ fs::path deliver(const BomResult& result, const std::string& design, const std::
     return file;
 }
 
-std::string formatted(const BomResult& result, const std::string& format,
+constexpr const char* kLonePart = "is one part; the list shows what is below the root";
+
+/// With a warning for programs, which read no remarks.
+std::string asJson(const BomResult& result, const std::string& file,
+                   std::vector<host::ReadingWarning> warnings) {
+    if (result.isLonePart) {
+        host::ReadingWarning lone;
+        lone.code = "lone-part";
+        lone.file = file;
+        lone.text = kLonePart;
+        warnings.push_back(std::move(lone));
+    }
+    return asJson(result.list, warnings);
+}
+
+std::string formatted(const BomResult& result, const std::string& file, const std::string& format,
                       const std::vector<host::ReadingWarning>& warnings) {
     if (format == "csv") {
         return result.exported;
     }
-    return format == "json" ? asJson(result.list, warnings)
+    return format == "json" ? asJson(result, file, warnings)
                             : asTable(result.list, console::charset(), resultWidth());
 }
 
@@ -88,7 +103,7 @@ void reportExport(std::ostream& stream, const BomResult& result, const fs::path&
 void print(const BomResult& result, const BomOptions& options,
            const std::vector<host::ReadingWarning>& warnings, const fs::path& exported,
            const fs::path& design) {
-    std::cout << formatted(result, options.format, warnings) << std::flush;
+    std::cout << formatted(result, options.file, options.format, warnings) << std::flush;
     // What other programs read stays free of remarks.
     const bool isForPeople = options.format == "table";
     std::ostream& remarks = isForPeople ? std::cout : std::cerr;
@@ -97,7 +112,7 @@ void print(const BomResult& result, const BomOptions& options,
         reportSaved(remarks, design);
     }
     if (result.isLonePart) {
-        remarks << "the file is one part; the list shows what is below the root\n";
+        remarks << "the file " << kLonePart << "\n";
     }
     reportExport(remarks, result, exported);
     reportShellRequests(remarks, result.shell, options.request.open);

@@ -80,7 +80,7 @@ std::string measuresText(const host::DesignData& design, bool shapesWereRead) {
 }
 
 std::string materialTable(const std::vector<host::MaterialUse>& materials) {
-    TextTable table({"Material", "Density [kg/m\xC2\xB3]", "Components"});
+    TextTable table({"Material", "Density [kg/m\xC2\xB3]", "Components"}, console::charset());
     for (const host::MaterialUse& use : materials) {
         table.add({nameOf(use), densityText(use.density), std::to_string(use.components)});
     }

@@ -18,6 +18,7 @@
 #include <csignal>
 #include <cstddef>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -88,6 +89,28 @@ void refuseRepeated(const std::vector<std::string>& names) {
         const fs::path full = fs::weakly_canonical(file, failure);
         if (!seen.insert(failure ? file : full).second) {
             refuse(each + " is given twice; name each file once");
+        }
+    }
+}
+
+/// What a design of this file is called where the file itself does not say, in the letters that the
+/// add-in passes on.
+std::string designName(const std::string& file) {
+    std::string name = host::toUtf8(host::fromUtf8(file).stem());
+    std::ranges::transform(name, name.begin(),
+                           [](unsigned char each) { return std::tolower(each); });
+    return name;
+}
+
+/// The designs of files that share a name would be told apart by a number alone.
+void refuseSharedNames(const std::vector<std::string>& names) {
+    std::map<std::string, std::string> seen;
+    for (const std::string& each : names) {
+        const auto [first, isNew] = seen.emplace(designName(each), each);
+        if (!isNew) {
+            refuse(first->second + " and " + each +
+                   " share a name, under which their designs are saved; open them by two runs, "
+                   "with an --out of its own each");
         }
     }
 }
@@ -212,6 +235,7 @@ fs::path makeFolder(const std::string& named) {
 void runOpenLocal(const OpenLocalOptions& options) {
     const std::vector<std::string> names = absoluteNames(options.files);
     refuseRepeated(names);
+    refuseSharedNames(names);
     const fs::path out = makeFolder(options.out);
     DialogSession dialog(options.addin, DataUse::Read, [&](host::SessionOptions& session) {
         waitInRealTime(session, options.timeout);

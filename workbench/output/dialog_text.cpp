@@ -111,7 +111,7 @@ std::string rowsText(const host::TableContents& contents, std::size_t depth) {
     for (int column = 0; column <= last; ++column) {
         captions.push_back(columnCaption(contents, column));
     }
-    TextTable table(captions);
+    TextTable table(captions, console::charset());
     constexpr std::size_t kFirstColumn = 2;
     for (const host::RowView& row : contents.rows) {
         std::vector<std::string> cells(captions.size());
@@ -184,7 +184,7 @@ std::vector<std::string> controlWords(const host::ControlView& control) {
 }
 
 std::string controlsText(const std::vector<host::ControlView>& controls, std::size_t depth) {
-    TextTable table({"Command", "Caption", "Tooltip"});
+    TextTable table({"Command", "Caption", "Tooltip"}, console::charset());
     for (const host::ControlView& each : controls) {
         table.add({each.command + remarks(controlWords(each)), each.caption, each.tooltip});
     }

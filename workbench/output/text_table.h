@@ -16,8 +16,8 @@ class TextTable {
 public:
     static constexpr std::size_t kUnlimited = static_cast<std::size_t>(-1);
 
-    explicit TextTable(const std::vector<std::string>& captions,
-                       console::Charset charset = console::Charset::Utf8);
+    /// The rule is drawn in what `charset` has; cells stay as they are.
+    TextTable(const std::vector<std::string>& captions, console::Charset charset);
 
     /// Adds a row; missing cells are empty, surplus ones are dropped.
     void add(const std::vector<std::string>& cells);

@@ -5,6 +5,7 @@
 #include "host/base/folder_lock.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <future>
@@ -347,6 +348,22 @@ TEST_F(BomCommand, AFileOfOnePartSaysThatTheListIsEmpty) {
               std::string::npos)
         << result.output;
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
+}
+
+TEST_F(BomCommand, AFileOfOnePartSaysSoInJson) {
+    const std::string file = lonePart();
+
+    const ProgramResult result = run({"bom", file, "--format", "json"});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    const auto warnings = nlohmann::json::parse(result.output)["warnings"];
+    ASSERT_EQ(warnings.size(), 1U) << result.output;
+    EXPECT_EQ(warnings[0]["code"], "lone-part");
+    EXPECT_EQ(warnings[0]["text"], file + ": is one part; the list shows what is below the root");
+}
+
+TEST_F(BomCommand, AFileOfOnePartIsNoFailureIfStrict) {
+    EXPECT_EQ(run({"bom", lonePart(), "--format", "json", "--strict"}).status, 0);
 }
 
 TEST_F(BomCommand, MarksRowsWhoseMaterialIsAssumed) {

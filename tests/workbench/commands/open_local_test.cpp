@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <future>
 #include <string>
+#include <vector>
 
 using test_support::kPlaced;
 using test_support::places;
@@ -38,6 +41,42 @@ TEST_F(OpenLocal, AFileThatIsGivenTwiceIsRefused) {
     EXPECT_EQ(result.errors,
               "tarnix-workbench: " + file + " is given twice; name each file once\n");
     EXPECT_FALSE(std::filesystem::exists(host::fromUtf8(out())));
+}
+
+TEST_F(OpenLocal, FilesThatShareANameAreRefusedBeforeAnyIsRead) {
+    std::filesystem::create_directory(host::fromUtf8(path("x")));
+    const std::string one = path("x/As.stp");
+    const std::string other = path("as.step");
+    for (const std::string& file : {one, other}) {
+        writeFile(host::fromUtf8(file), "nothing that can be read");
+    }
+
+    const ProgramResult result = run({"open-local", one, other, "--out", out()});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tarnix-workbench: " + one + " and " + other +
+                                 " share a name, under which their designs are saved; open them "
+                                 "by two runs, with an --out of its own each\n");
+    EXPECT_FALSE(std::filesystem::exists(host::fromUtf8(out())));
+}
+
+TEST_F(OpenLocal, SeveralAtOnceSaveAllTheirDesigns) {
+    std::vector<std::future<ProgramResult>> runs;
+    for (const char* name : {"a", "b", "c"}) {
+        const std::string file = path(std::string(name) + ".ipt");
+        writeFile(host::fromUtf8(file), readFile(host::fromUtf8(design(kPlaced, name))));
+        const std::vector<std::string> command = {"open-local", file,          "--out",
+                                                  out(),        "--data-home", path("home")};
+        runs.push_back(std::async(std::launch::async, [command] { return run(command); }));
+    }
+
+    for (auto& each : runs) {
+        const ProgramResult result = each.get();
+        EXPECT_EQ(result.status, 0) << result.errors;
+    }
+    for (const char* name : {"a", "b", "c"}) {
+        EXPECT_EQ(places(out() + "/" + name + ".design.json"), "1 2 3 ");
+    }
 }
 
 TEST_F(OpenLocal, IsCancelledAtTheTimeout) {

@@ -6,9 +6,10 @@
 
 using test_support::text;
 using workbench::TextTable;
+using workbench::console::Charset;
 
 TEST(TextTable, NumbersAreRightAlignedUnderTheirCaption) {
-    TextTable table({"Pos.", "Part", "Mass [kg]"});
+    TextTable table({"Pos.", "Part", "Mass [kg]"}, Charset::Utf8);
     table.add({"9", "Bolt", "0.5"});
     table.add({"10", "Frame", "12.25"});
 
@@ -21,7 +22,7 @@ TEST(TextTable, NumbersAreRightAlignedUnderTheirCaption) {
 }
 
 TEST(TextTable, TheWidestWordsAreCutOnANarrowTerminal) {
-    TextTable table({"Part", "Material", "Mass"});
+    TextTable table({"Part", "Material", "Mass"}, Charset::Utf8);
     table.add({"Bolt with a long name", "Stainless steel", "0.5"});
     table.add({"Nut", "Steel", "1200.25"});
 
@@ -34,7 +35,7 @@ TEST(TextTable, TheWidestWordsAreCutOnANarrowTerminal) {
 }
 
 TEST(TextTable, NumbersAndCaptionsStayWholeHoweverNarrowItIs) {
-    TextTable table({"Part", "BOM Structure", "Mass"});
+    TextTable table({"Part", "BOM Structure", "Mass"}, Charset::Utf8);
     table.add({"Bolt with a long name", "Produce", "1200.25"});
 
     EXPECT_EQ(table.text(/*indent=*/0, /*width=*/1), text(R"(
@@ -45,7 +46,7 @@ TEST(TextTable, NumbersAndCaptionsStayWholeHoweverNarrowItIs) {
 }
 
 TEST(TextTable, WideCharactersKeepTheColumnsInLine) {
-    TextTable table({"Name", "Material"});
+    TextTable table({"Name", "Material"}, Charset::Utf8);
     table.add({"鋼板", "鋼"});
     table.add({"Plate", "Steel"});
 
@@ -58,7 +59,7 @@ TEST(TextTable, WideCharactersKeepTheColumnsInLine) {
 }
 
 TEST(TextTable, AnEmptyCellLeavesNumbersRightAligned) {
-    TextTable table({"Mass"});
+    TextTable table({"Mass"}, Charset::Utf8);
     table.add({""});
     table.add({"1.5"});
 
@@ -66,11 +67,11 @@ TEST(TextTable, AnEmptyCellLeavesNumbersRightAligned) {
 }
 
 TEST(TextTable, CaptionsAloneHaveTheirRule) {
-    EXPECT_EQ(TextTable({"Pos.", "Part"}).text(), "Pos.  Part\n────  ────\n");
+    EXPECT_EQ(TextTable({"Pos.", "Part"}, Charset::Utf8).text(), "Pos.  Part\n────  ────\n");
 }
 
 TEST(TextTable, MissingCellsAreEmptyAndSurplusOnesDropped) {
-    TextTable table({"A", "B"});
+    TextTable table({"A", "B"}, Charset::Utf8);
     table.add({"x"});
     table.add({"x", "y", "z"});
 
@@ -78,7 +79,7 @@ TEST(TextTable, MissingCellsAreEmptyAndSurplusOnesDropped) {
 }
 
 TEST(TextTable, LineBreaksInACellDoNotBreakTheTable) {
-    TextTable table({"A", "B"});
+    TextTable table({"A", "B"}, Charset::Utf8);
     table.add({"x\ny", "z"});
 
     EXPECT_EQ(table.text(), "A    B\n───  ─\nx y  z\n");
