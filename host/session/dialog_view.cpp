@@ -57,6 +57,7 @@ std::vector<InputView> readInputs(const Ptr<core::CommandInputs>& inputs) {
 
 RowView readRow(const ui::TableLine& line, int row) {
     RowView view{.row = row, .shown = false, .selected = false, .cells = {}};
+    view.cells.reserve(line.cells.size());
     for (InputState* cell : line.cells) {
         if (cell != nullptr) {
             view.cells.push_back(readInput(Ptr<core::CommandInput>(cell->api())));
@@ -73,6 +74,7 @@ TableContents readContents(const Ptr<core::TableCommandInput>& table) {
                            .shownColumns = shownColumns(table),
                            .rows = {},
                            .toolbar = {}};
+    contents.rows.reserve(state.lines().count());
     for (std::size_t row = 0; row < state.lines().count(); ++row) {
         contents.rows.push_back(readRow(state.lines().at(row), static_cast<int>(row)));
     }
