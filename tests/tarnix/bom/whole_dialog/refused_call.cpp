@@ -49,6 +49,31 @@ std::pair<std::string, int> anyCall(const Made& made, std::mt19937& random) {
     return {name->first, static_cast<int>(left) + 1};
 }
 
+/// The calls that are not the walk's, all of them where there are no others.
+Made callsOnDialog(const Made& made) {
+    Made others;
+    for (const auto& [name, count] : made) {
+        const bool isOfWalk = name.starts_with("Occurrence") || name.starts_with("Component::") ||
+                              name.starts_with("Attribute");
+        if (!isOfWalk) others.emplace(name, count);
+    }
+    return others.empty() ? made : others;
+}
+
+/// The walk makes most of the calls, and is left out in a part of the picks.
+std::pair<std::string, int> pickCall(const Made& made, std::mt19937& random) {
+    switch (random() % 4) {
+        case 0:
+            return callByName(made, random);
+        case 1:
+            return anyCall(made, random);
+        case 2:
+            return callByName(callsOnDialog(made), random);
+        default:
+            return anyCall(callsOnDialog(made), random);
+    }
+}
+
 }  // namespace
 
 std::optional<Refusal> pickRefusal(const std::vector<CallsOfAction>& actions,
@@ -61,7 +86,7 @@ std::optional<Refusal> pickRefusal(const std::vector<CallsOfAction>& actions,
     Refusal refusal;
     refusal.action = withCalls[random() % withCalls.size()];
     const auto& made = actions[refusal.action].made;
-    const auto [name, nth] = random() % 2 == 0 ? callByName(made, random) : anyCall(made, random);
+    const auto [name, nth] = pickCall(made, random);
     refusal.name = name;
     refusal.nth = nth;
     refusal.isRuled = isRuled(actions[refusal.action], name, nth);

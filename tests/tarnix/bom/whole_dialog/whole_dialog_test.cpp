@@ -40,7 +40,7 @@ using host::InputView;
 using plain::Tab;
 
 constexpr std::size_t kActions = 20;
-constexpr int kRefusals = 2;  ///< of each seed
+constexpr int kRefusals = 1;  ///< of each seed
 
 constexpr std::array kStructures = {"Produce", "Buy", "AsPart", "Divided", "Reference"};
 constexpr std::array kCustomKeys = {"QEMA_Colour", "QEMA_Supplier", "QEMA_Mass"};
@@ -172,7 +172,8 @@ protected:
         const Ptr<TableCommandInput> table = shownTableInput();
         if (table->rowCount() == 0) return;
         const int row = static_cast<int>(below(static_cast<std::size_t>(table->rowCount())));
-        const int column = static_cast<int>(below(11));
+        // Every third time the toggle, which does most.
+        const int column = oneIn(3) ? 0 : static_cast<int>(below(11));
         const Ptr<CommandInput> cell = table->getInputAtPosition(row, column);
         if (!cell || !host::whyUnusable(cell).empty()) return;
         const std::string what = " " + std::to_string(row) + "," + std::to_string(column) + " ";
