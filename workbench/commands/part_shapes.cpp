@@ -1,8 +1,10 @@
 #include "workbench/commands/part_shapes.h"
 
+#include "workbench/cli/exit_code.h"
 #include "workbench/cli/quiet.h"
 #include "workbench/output/display_text.h"
 
+#include "parts/glb_writer.h"
 #include "parts/parts_list.h"
 
 #include "host/import/read_shapes.h"
@@ -40,6 +42,16 @@ parts::PartShapes readPartShapes(const host::DesignData& design,
     const host::ShapeData shapes = host::readShapes(design, {.classes = true, .meshes = isDrawn});
     reportProblems(design, shapes);
     return parts::partShapesOf(shapes, isDrawn ? parts::Pictures::Drawn : parts::Pictures::None);
+}
+
+void writeModel(const host::DesignData& design, const std::string& file, std::ostream& stream) {
+    const host::ShapeData shapes = host::readShapes(design, {.meshes = true});
+    if (shapes.shapes.empty()) {
+        throw Failure(ExitCode::BadInput,
+                      file + ": has no shapes to make a model of; open a STEP or IGES file");
+    }
+    reportProblems(design, shapes);
+    parts::writeGlb(design, shapes, stream);
 }
 
 }  // namespace workbench

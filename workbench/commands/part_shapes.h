@@ -5,6 +5,9 @@
 
 #include "host/design/design_data.h"
 
+#include <ostream>
+#include <string>
+
 namespace workbench {
 
 /// Compares the shapes of a design that was read with its bodies, and draws them where the request
@@ -12,5 +15,9 @@ namespace workbench {
 /// stderr.
 parts::PartShapes readPartShapes(const host::DesignData& design,
                                  const parts::PartsRequest& request);
+
+/// Writes a design that was read from `file` as a model in 3D, binary glTF; see parts/glb_writer.h.
+/// Throws a `Failure` for one without shapes.
+void writeModel(const host::DesignData& design, const std::string& file, std::ostream& stream);
 
 }  // namespace workbench

@@ -152,6 +152,10 @@ PartsFormat formatOf(const PartsOptions& options) {
 void runParts(const PartsOptions& options) {
     const parts::PartsRequest request = requestOf(options);
     const PartsFormat format = formatOf(options);
+    if (format.kind == PartsFormatKind::Model) {
+        writeModel(readDesign(options.file, options.reading), options.file, std::cout);
+        return;
+    }
     const bool needsShapes = options.comparesShapes || parts::needsShapes(request);
     const host::DesignData design = needsShapes || parts::needsBodies(request)
                                         ? readDesign(options.file, options.reading)

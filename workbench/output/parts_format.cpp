@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <stdexcept>
 
 namespace workbench {
 namespace {
@@ -28,6 +29,7 @@ constexpr KnownFormat kFormats[] = {
     {.kind = PartsFormatKind::Markdown, .name = "markdown", .ending = ".md"},
     {.kind = PartsFormatKind::Json, .name = "json", .ending = ".json"},
     {.kind = PartsFormatKind::JsonLines, .name = "jsonl", .ending = ".jsonl"},
+    {.kind = PartsFormatKind::Model, .name = "glb", .ending = ".glb"},
 };
 
 char delimiterOf(const PartsFormat& format) {
@@ -87,6 +89,8 @@ void writeParts(const parts::PartsList& list, const PartsFormat& format, std::os
         case PartsFormatKind::Table:
             stream << partsTable(list, format.numbers, console::charset(), resultWidth());
             break;
+        case PartsFormatKind::Model:
+            throw std::logic_error("a list is no model");
     }
 }
 

@@ -10,7 +10,7 @@
 /// A parts list in the format that was asked for. A new format needs its name and ending here.
 namespace workbench {
 
-enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Json, JsonLines };
+enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Json, JsonLines, Model };
 
 /// How a list is to be written.
 struct PartsFormat {
@@ -30,6 +30,7 @@ PartsFormatKind parsePartsFormat(const std::string& name);
 /// The format for a file, by its ending; a table for one that no format has.
 PartsFormatKind partsFormatOf(const std::string& file);
 
+/// Writes a list, in any format but that of a model, which is made of the design itself.
 void writeParts(const parts::PartsList& list, const PartsFormat& format, std::ostream& stream);
 
 }  // namespace workbench

@@ -1,7 +1,8 @@
 #include "host/import/read_shapes.h"
 
 #include "host/design/geometry.h"
-#include "host/import/read_design.h"
+#include "host/import/reader_connection.h"
+#include "host/import/step_geometry.h"
 
 #include "samples/product.h"
 #include "samples/samples.h"
@@ -13,10 +14,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
-#include <numeric>
+#include <memory>
 #include <set>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -78,6 +82,35 @@ TEST_F(ReadShapes, FindsEqualPartsUnderOtherNames) {
                                                             {"Other"}};
     EXPECT_EQ(equalOnes(design, shapes), expected);
     EXPECT_FALSE(shapes.classOf(0).has_value());  // the file itself, which has no body
+}
+
+/// The same file with its entities from the last to the first; each is a line.
+std::string reversed(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    const auto isEntity = [](const std::string& line) { return line.starts_with('#'); };
+    const auto first = std::find_if(lines.begin(), lines.end(), isEntity);
+    std::reverse(first, std::find_if_not(first, lines.end(), isEntity));
+    std::string result;
+    for (const std::string& line : lines) {
+        result += line + "\n";
+    }
+    return result;
+}
+
+TEST_F(ReadShapes, FindsTheSamePartsInAnyOrderOfTheFile) {
+    const std::string text =
+        samples::stepFile("x", {part("Plate", plate(10, 20, 5)), part("Copy", plate(10, 20, 5, 50)),
+                                part("Other", plate(10, 20, 6)), part("Cube", plate(9, 9, 9))});
+    const DesignData forward = designOf(text);
+    const DesignData backward = drafts::import(folder.write("Reversed.step", reversed(text)));
+    ASSERT_NE(forward.components[1].name, backward.components[1].name);
+
+    EXPECT_EQ(equalOnes(forward, host::readShapes(forward, {.classes = true})),
+              equalOnes(backward, host::readShapes(backward, {.classes = true})));
 }
 
 TEST_F(ReadShapes, DescribesAPart) {
@@ -174,6 +207,60 @@ TEST_F(ReadShapes, HasNoneOfADesignWithDeclaredMeasures) {
 
     EXPECT_EQ(shapes.of(0), nullptr);
     EXPECT_EQ(shapes.ofComponent.size(), 1U);
+}
+
+/// Answers every request alike; without an answer it has crashed.
+class ScriptedReader final : public host::ReaderConnection {
+public:
+    explicit ScriptedReader(std::string answer) : answer_(std::move(answer)) {}
+
+    void startClock() override {}
+    void send(const std::string& /*line*/) override {}
+    std::string receive() override {
+        if (answer_.empty()) {
+            throw host::ReaderFailure("the reader crashed (Aborted)");
+        }
+        return answer_;
+    }
+
+private:
+    std::string answer_;
+};
+
+host::Shape shapeFrom(const std::string& answer, const host::ShapeRequest& request) {
+    DesignData design;
+    design.components.emplace_back().geometry =
+        std::make_shared<host::StepGeometry>(std::make_shared<ScriptedReader>(answer), 0, "x.step");
+    return host::readShapes(design, request).shapes.at(0);
+}
+
+TEST(ShapesOfAReader, ThatCrashedAreReported) {
+    const host::Shape shape = shapeFrom("", {.classes = true, .meshes = true});
+
+    EXPECT_EQ(shape.problem,
+              "cannot be compared: the reader crashed (Aborted); "
+              "cannot be drawn: the reader crashed (Aborted)");
+    EXPECT_FALSE(shape.shapeClass.has_value());
+    EXPECT_FALSE(shape.mesh.has_value());
+}
+
+TEST(ShapesOfAReader, ThatDrawsBeyondItsPointsAreReported) {
+    // One point, and a triangle of the points 0, 1 and 2.
+    const std::string answer =
+        R"({"detail":0,"positionsMm":"AAAAAAAAAAAAAAAA","normals":"AAAAAAAAAAAAAAAA",)"
+        R"("indices":"AAAAAAEAAAACAAAA","groups":[{"indexCount":3,"colour":null}],)"
+        R"("edgePointsMm":"","edgeEnds":""})";
+
+    EXPECT_EQ(shapeFrom(answer, {.meshes = true}).problem,
+              "cannot be drawn: the reader's mesh is damaged");
+}
+
+TEST(ShapesOfAReader, ThatCannotDrawAllAreReported) {
+    const host::Shape shape =
+        shapeFrom(R"({"problem":"it has no extent that could be found"})", {.meshes = true});
+
+    EXPECT_EQ(shape.problem, "it has no extent that could be found");
+    EXPECT_FALSE(shape.mesh.has_value());
 }
 
 class ShapesOfRealFiles : public testing::Test {

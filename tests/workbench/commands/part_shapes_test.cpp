@@ -82,4 +82,23 @@ TEST_F(PartShapes, HaveAPictureForEachClass) {
     EXPECT_NE(pictures.dump().find("iVBORw0KGgo"), std::string::npos);
 }
 
+TEST_F(PartShapes, MakeAModel) {
+    const std::string file = path("plates.glb");
+
+    const ProgramResult result = run({"parts", plates(), "--output", file});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    const std::string model = test_support::readFile(file);
+    EXPECT_EQ(model.substr(0, 4), "glTF");
+    EXPECT_NE(model.find(R"("path":"Plate (1):1")"), std::string::npos);
+}
+
+TEST_F(PartShapes, OfADesignFileMakeNoModel) {
+    const std::string file = design("Bolt");
+
+    expectFailure(run({"parts", file, "--format", "glb"}), 1,
+                  "tarnix-workbench: " + file +
+                      ": has no shapes to make a model of; open a STEP or IGES file\n");
+}
+
 }  // namespace
