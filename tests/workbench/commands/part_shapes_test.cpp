@@ -45,7 +45,7 @@ TEST_F(PartShapes, AreOneItem) {
              "--sort", "Quantity:desc", "--format", "csv"});
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_EQ(result.output, "Part Number,Quantity\r\nPlate,3\r\nOther,1\r\n");
+    EXPECT_EQ(result.output, "Part Number,Quantity\r\nPanel,3\r\nOther,1\r\n");
 }
 
 TEST_F(PartShapes, UnderDifferentNumbersArePossibleDuplicates) {
