@@ -152,7 +152,7 @@ TEST(Thumbnail, DrawsWhatIsNearer) {
 TEST(Thumbnail, IsEmptyWhereThereIsNothing) {
     const Image image = parts::drawThumbnail(host::ShapeMesh(), {.size = 8, .colour = kWhite});
 
-    EXPECT_EQ(image.rgba, std::vector<std::uint8_t>(8 * 8 * 4));
+    EXPECT_EQ(image.rgba, std::vector<std::uint8_t>(256));
 }
 
 }  // namespace

@@ -36,8 +36,11 @@ std::optional<host::Rgba> colourOf(const STEPConstruct_Styles& styles,
     double transparency = 0;
     bool isUnused = false;
     Quantity_Color colour;
-    if (!styles.GetColors(style, surface, boundary, curve, rendering, transparency, isUnused) ||
-        !STEPConstruct_Styles::DecodeColor(rendering.IsNull() ? surface : rendering, colour)) {
+    if (!styles.GetColors(style, surface, boundary, curve, rendering, transparency, isUnused)) {
+        return std::nullopt;
+    }
+    const Handle(StepVisual_Colour)& chosen = rendering.IsNull() ? surface : rendering;
+    if (chosen.IsNull() || !STEPConstruct_Styles::DecodeColor(chosen, colour)) {
         return std::nullopt;
     }
     double red = 0;

@@ -53,7 +53,7 @@ void runIges(const std::string& file) {
         step::sendWarning({.code = "no-body", .text = "holds no body that can be built"});
     }
     step::sendLine({{"design", design}});
-    step::answerRequests(std::cin, shapes, step::Colours());
+    step::answerRequests(std::cin, shapes, [] { return step::Colours(); });
 }
 
 /// An assembly need not be built to know its tree; a lone part is all that its file holds.
@@ -84,7 +84,7 @@ void run(const Task& task) {
         step::sendWarning(warning);
     }
     step::sendLine({{"design", step::designOf(assembly)}});
-    step::answerRequests(std::cin, shapes, step::coloursOf(assembly));
+    step::answerRequests(std::cin, shapes, [&assembly] { return step::coloursOf(assembly); });
 }
 
 int runOrReport(const Task& task) {

@@ -22,7 +22,7 @@ class ParallelResults {
 public:
     /// `work` is called by several threads at once and must not throw.
     ParallelResults(std::size_t count, std::function<Result(std::size_t)> work)
-        : work_(std::move(work)), claimed_(count), results_(count) {}
+        : work_(std::move(work)), claimed_(count), taken_(count), results_(count) {}
     ParallelResults(const ParallelResults&) = delete;
     ParallelResults& operator=(const ParallelResults&) = delete;
 
@@ -44,7 +44,7 @@ public:
         if (!std::exchange(started_, true)) {
             startOthers();
         }
-        if (claim(number)) {
+        if (claim(number) || claimAgain(number)) {
             run(number);
         }
         std::unique_lock lock(mutex_);
@@ -56,16 +56,17 @@ public:
     Result take(std::size_t number) {
         static_cast<void>(of(number));
         const std::scoped_lock lock(mutex_);
-        claimed_[number] = false;
+        taken_[number] = true;
         return *std::exchange(results_[number], std::nullopt);
     }
 
 private:
+    /// One for each processor: who asks mostly waits for them.
     void startOthers() {
         const auto helpers = std::min<std::size_t>(
             std::max(std::thread::hardware_concurrency(), 1U), results_.size());
         try {
-            for (std::size_t helper = 1; helper < helpers; ++helper) {
+            for (std::size_t helper = 0; helper < helpers; ++helper) {
                 others_.emplace_back([this] { runAll(); });
             }
         } catch (const std::system_error&) {
@@ -90,6 +91,13 @@ private:
         return true;
     }
 
+    bool claimAgain(std::size_t number) {
+        const std::scoped_lock lock(mutex_);
+        const bool wasTaken = taken_[number];
+        taken_[number] = false;
+        return wasTaken;
+    }
+
     void run(std::size_t number) {
         Result result = work_(number);
         const std::scoped_lock lock(mutex_);
@@ -104,6 +112,7 @@ private:
     std::condition_variable done_;
     bool stopping_ = false;
     std::vector<bool> claimed_;
+    std::vector<bool> taken_;
     std::vector<std::optional<Result>> results_;
 };
 

@@ -90,8 +90,8 @@ json componentJson(const Component& component,
 /// What is worked out of the shapes, on request.
 class Answers {
 public:
-    Answers(const TopTools_IndexedMapOfShape& shapes, const Colours& colours)
-        : shapes_(shapes), colours_(colours), measurements_(shapes), marks_(shapes) {}
+    Answers(const TopTools_IndexedMapOfShape& shapes, const std::function<Colours()>& colours)
+        : shapes_(shapes), readColours_(colours), measurements_(shapes), marks_(shapes) {}
 
     json answer(const std::string& request) {
         std::istringstream words(request);
@@ -145,6 +145,7 @@ private:
         if (!tessellations_) {
             TessellationLimits limits;
             words >> limits.triangles >> limits.seconds;
+            static_cast<void>(failureOf([this] { colours_ = readColours_(); }));  // then without
             tessellations_.emplace(
                 static_cast<std::size_t>(shapes_.Extent()), [this, limits](std::size_t number) {
                     return tessellate(shapes_(static_cast<int>(number) + 1), colours_, limits);
@@ -154,7 +155,8 @@ private:
     }
 
     const TopTools_IndexedMapOfShape& shapes_;
-    const Colours& colours_;
+    const std::function<Colours()>& readColours_;
+    Colours colours_;
     Measurements measurements_;
     AllMarks marks_;
     std::vector<std::optional<int>> classes_;
@@ -201,7 +203,7 @@ json designOf(const Assembly& assembly) {
 }
 
 void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes,
-                    const Colours& colours) {
+                    const std::function<Colours()>& colours) {
     Answers answers(shapes, colours);
     for (std::string request; std::getline(requests, request);) {
         json line;

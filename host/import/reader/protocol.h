@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <functional>
 #include <istream>
 
 /// What the reader sends, a line of JSON each, in this order:
@@ -46,8 +47,8 @@ void sendWarning(const Warning& warning);
 /// The tree with the components that its roots lead to.
 nlohmann::json designOf(const Assembly& assembly);
 
-/// Answers requests until there are no more.
+/// Answers requests until there are no more. `colours` is asked for when something is to be drawn.
 void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes,
-                    const Colours& colours);
+                    const std::function<Colours()>& colours);
 
 }  // namespace step

@@ -189,6 +189,22 @@ TEST_F(ReadShapes, KnowsATransparentFace) {
     EXPECT_FALSE(groups[1].colour.has_value());
 }
 
+TEST_F(ReadShapes, HasNoColourFromAStyleOfCurves) {
+    std::string text = samples::stepFile("x", {part("Plate", plate(10, 20, 5))});
+    const std::string face = drafts::labelOf(text, "ADVANCED_FACE");
+    const DesignData design = designOf(drafts::withEntities(
+        text, "#9000=STYLED_ITEM('',(#9001)," + face +
+                  ");\n#9001=PRESENTATION_STYLE_ASSIGNMENT((#9002));\n"
+                  "#9002=CURVE_STYLE('',#9003,POSITIVE_LENGTH_MEASURE(0.1),#9004);\n"
+                  "#9003=DRAUGHTING_PRE_DEFINED_CURVE_FONT('continuous');\n"
+                  "#9004=COLOUR_RGB('',1.,0.,0.);\n"));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    EXPECT_EQ(shapes.of(0)->problem, "");
+    EXPECT_EQ(shapes.of(0)->mesh.value().groups.size(), 1U);
+}
+
 TEST_F(ReadShapes, SharesAShapeThatPartsHaveInCommon) {
     const DesignData design = designOf(
         samples::stepFile("x", {part("Plate", plate(10, 20, 5)), part("Cube", plate(10, 10, 10))}));
