@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <iterator>
+#include <set>
 
 namespace parts {
 namespace {
@@ -72,6 +73,19 @@ std::optional<std::string> propertyOf(const host::ComponentData& component,
         component.attributes.rbegin(), component.attributes.rend(),
         [&](const host::AttributeData& each) { return each.name == key && isProperty(each); });
     return found == component.attributes.rend() ? std::nullopt : std::optional(found->value);
+}
+
+std::vector<std::string> propertyNames(const host::DesignData& design) {
+    const std::string prefix = kPrefix;
+    std::set<std::string> names;
+    for (const host::ComponentData& component : design.components) {
+        for (const host::AttributeData& each : component.attributes) {
+            if (isProperty(each) && each.name.starts_with(prefix) && !structureNamed(each.name)) {
+                names.insert(each.name.substr(prefix.size()));
+            }
+        }
+    }
+    return {names.begin(), names.end()};
 }
 
 }  // namespace parts

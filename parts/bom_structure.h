@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace parts {
 
@@ -26,5 +27,8 @@ std::optional<BomStructure> hiddenStructure(const host::ComponentData& component
 /// component has none.
 std::optional<std::string> propertyOf(const host::ComponentData& component,
                                       const std::string& name);
+
+/// The names of all custom properties in a design, sorted.
+std::vector<std::string> propertyNames(const host::DesignData& design);
 
 }  // namespace parts

@@ -14,6 +14,7 @@ enum class ExitCode : int {
     NoAddin = 3,      ///< the add-in is missing, cannot be started, or is in use by another process
     AddinFailed = 4,  ///< the add-in threw an unexpected exception, or did not do its work
     OutputFailed = 5,  ///< a result cannot be written
+    Different = 6,     ///< two designs differ; this one comes without a line
 };
 
 /// What an exit status means, in the words of `--help` and of the man page.
@@ -30,6 +31,7 @@ inline constexpr ExitMeaning kExitMeanings[] = {
     {ExitCode::NoAddin, "the add-in is missing or in use"},
     {ExitCode::AddinFailed, "the add-in failed"},
     {ExitCode::OutputFailed, "a result cannot be written"},
+    {ExitCode::Different, "compare --exit-code found differences"},
 };
 
 /// Ends the program: its text is the line on stderr.

@@ -1,5 +1,6 @@
 #include "workbench/cli/console.h"
 #include "workbench/cli/exit_code.h"
+#include "workbench/cli/final_status.h"
 #include "workbench/cli/quiet.h"
 #include "workbench/cli/usage_error.h"
 #include "workbench/commands/commands.h"
@@ -85,7 +86,11 @@ void addOutput(CLI::App& command, ResultStream& results) {
     for (CLI::App* const each : inner) {
         addOutput(*each, results);
     }
-    if (inner.empty()) {
+    if (!inner.empty()) {
+        return;
+    }
+    // A command that writes several files has an option of its own.
+    if (command.get_option_no_throw("--output") == nullptr) {
         command
             .add_option_function<std::string>(
                 "--output",
@@ -96,9 +101,9 @@ void addOutput(CLI::App& command, ResultStream& results) {
                 "Write what is printed into this file instead, which is replaced where it\n"
                 "exists; its folder is created. - prints it")
             ->type_name("FILE");
-        command.add_flag_callback("--quiet", beQuiet,
-                                  "Print the result and errors alone: no progress, no warnings");
     }
+    command.add_flag_callback("--quiet", beQuiet,
+                              "Print the result and errors alone: no progress, no warnings");
 }
 
 /// Parses the command line, which runs the subcommand in it.
@@ -125,7 +130,7 @@ int runProgram(const std::vector<std::string>& arguments) {
         program.exit(end);
     }
     results.finish();
-    return static_cast<int>(ExitCode::Success);
+    return static_cast<int>(finalStatus());
 }
 
 }  // namespace

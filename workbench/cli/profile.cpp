@@ -266,6 +266,22 @@ std::string profileText(const CLI::App& command, const ProfileKeys& keys) {
     return text;
 }
 
+std::string outputText(const ProfileOutput& output) {
+    using Kind = ProfileEntry::Kind;
+    std::string text = "file = " + quoted(output.file) + "\n";
+    for (const ProfileEntry& entry : output.entries) {
+        std::string value =
+            entry.kind == Kind::String || entry.kind == Kind::Array ? "" : entry.values.front();
+        for (const std::string& each : entry.values) {
+            value += entry.kind == Kind::String  ? quoted(each)
+                     : entry.kind == Kind::Array ? (value.empty() ? "" : ", ") + quoted(each)
+                                                 : "";
+        }
+        text += entry.key + " = " + (entry.kind == Kind::Array ? "[" + value + "]" : value) + "\n";
+    }
+    return text;
+}
+
 std::string escapedEntry(const std::string& entry) {
     std::string text;
     for (const char each : entry) {

@@ -66,6 +66,9 @@ void applyProfile(CLI::App& command, const std::vector<ProfileEntry>& entries,
 /// The options of a command as they are now, as a profile that gives the same ones.
 std::string profileText(const CLI::App& command, const ProfileKeys& keys);
 
+/// A table of "output" as a profile has it, without the line above it.
+std::string outputText(const ProfileOutput& output);
+
 /// An entry of a list with commas as it has to be written in it.
 std::string escapedEntry(const std::string& entry);
 

@@ -24,15 +24,26 @@ void addOpenLocalCommand(CLI::App& program);
 void addCommandsCommand(CLI::App& program);
 void addDialogCommand(CLI::App& program);
 void addCacheCommand(CLI::App& program);
+void addCompareCommand(CLI::App& program);
 void addCompletionCommand(CLI::App& program);
 void addManualCommand(CLI::App& program);
 
 /// All of them, in the order of `--help`.
-inline constexpr void (*kAddCommand[])(CLI::App& program) = {
-    addBomCommand,       addPartsCommand,        addInfoCommand,
-    addHelpdeskCommand,  addPropertiesCommand,   addUserPropertiesCommand,
-    addConfigureCommand, addMoveToOriginCommand, addProjectToConstructionCommand,
-    addOpenLocalCommand, addCommandsCommand,     addDialogCommand,
-    addCacheCommand,     addCompletionCommand,   addManualCommand};
+inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
+                                                             addPartsCommand,
+                                                             addCompareCommand,
+                                                             addInfoCommand,
+                                                             addHelpdeskCommand,
+                                                             addPropertiesCommand,
+                                                             addUserPropertiesCommand,
+                                                             addConfigureCommand,
+                                                             addMoveToOriginCommand,
+                                                             addProjectToConstructionCommand,
+                                                             addOpenLocalCommand,
+                                                             addCommandsCommand,
+                                                             addDialogCommand,
+                                                             addCacheCommand,
+                                                             addCompletionCommand,
+                                                             addManualCommand};
 
 }  // namespace workbench

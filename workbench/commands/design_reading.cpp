@@ -44,23 +44,28 @@ std::string namingOption(const host::ReadingError& error) {
 }
 
 host::DesignData readFile(Read& read, const std::string& file, const ReadingOptions& reading,
-                          Warnings& warnings) {
+                          const host::ImportProgress& progress, Warnings& warnings) {
     try {
-        ProgressLine line;
-        constexpr double kPercent = 100;
-        const auto progress = [&](const std::string& stage, double fraction) {
-            line.show(printable(stage) + " " + printable(file) + " " +
-                      std::to_string(static_cast<int>(fraction * kPercent)) + " %");
-        };
-        host::DesignData design = read(host::fromUtf8(file), reading.limits, progress, warnings,
-                                       reading.noCache ? host::ReadingCache() : readingCache());
-        line.show("");
-        return design;
+        return read(host::fromUtf8(file), reading.limits, progress, warnings,
+                    reading.noCache ? host::ReadingCache() : readingCache());
     } catch (const host::ReadingError& error) {
         throw Failure(ExitCode::BadInput, namingOption(error));
     } catch (const std::exception& error) {
         throw Failure(ExitCode::BadInput, error.what());
     }
+}
+
+host::DesignData readWithProgress(Read& read, const std::string& file,
+                                  const ReadingOptions& reading, Warnings& warnings) {
+    ProgressLine line;
+    constexpr double kPercent = 100;
+    const auto progress = [&](const std::string& stage, double fraction) {
+        line.show(printable(stage) + " " + printable(file) + " " +
+                  std::to_string(static_cast<int>(fraction * kPercent)) + " %");
+    };
+    host::DesignData design = readFile(read, file, reading, progress, warnings);
+    line.show("");
+    return design;
 }
 
 /// Puts the user's choice in the place of what is assumed.
@@ -120,13 +125,19 @@ void refuseWarnings(const std::string& file, std::size_t count) {
     }
 }
 
-host::DesignData readBy(Read& read, const std::string& file, const ReadingOptions& reading,
-                        Warnings& warnings) {
-    host::DesignData design = readFile(read, file, reading, warnings);
+/// What the user chose to be in the place of what the file lacks, and what was assumed.
+void applyMaterial(const std::string& file, const ReadingOptions& reading, host::DesignData& design,
+                   Warnings& warnings) {
     if (reading.material) {
         useMaterial(design, *reading.material);
     }
     warnOfAssumed(file, design, warnings);
+}
+
+host::DesignData readBy(Read& read, const std::string& file, const ReadingOptions& reading,
+                        Warnings& warnings) {
+    host::DesignData design = readWithProgress(read, file, reading, warnings);
+    applyMaterial(file, reading, design, warnings);
     reportWarnings(warnings);
     if (reading.strict) {
         refuseWarnings(file, warnings.size());
@@ -151,6 +162,17 @@ host::DesignData readDesign(const std::string& file, const ReadingOptions& readi
     host::DesignData design = readBy(host::readDesign, file, reading, all);
     if (warnings != nullptr) {
         *warnings = std::move(all);
+    }
+    return design;
+}
+
+host::DesignData readSilently(const std::string& file, const ReadingOptions& reading,
+                              ReadingDepth depth, Warnings& warnings) {
+    Read& read = depth == ReadingDepth::Whole ? host::readDesign : host::readTree;
+    host::DesignData design = readFile(read, file, reading, {}, warnings);
+    applyMaterial(file, reading, design, warnings);
+    if (reading.strict) {
+        refuseWarnings(file, warnings.size());
     }
     return design;
 }

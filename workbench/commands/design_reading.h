@@ -20,6 +20,14 @@ host::ReadingCache readingCache();
 host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
                             std::vector<host::ReadingWarning>* warnings = nullptr);
 
+/// What to read of a file: everything, or its tree alone.
+enum class ReadingDepth { Whole, Tree };
+
+/// Reads a design where several are read at once: nothing is shown. `warnings` gets what is to be
+/// reported, also where a warning is a failure.
+host::DesignData readSilently(const std::string& file, const ReadingOptions& reading,
+                              ReadingDepth depth, std::vector<host::ReadingWarning>& warnings);
+
 /// Reads what a design consists of in the same way, without the shapes of an assembly, which takes
 /// most of the time: see `host::readTree`. Bodies that cannot be built are not warned of.
 host::DesignData readTree(const std::string& file, const ReadingOptions& reading);

@@ -1,253 +1,206 @@
 #include "workbench/cli/common_options.h"
 #include "workbench/cli/exit_code.h"
-#include "workbench/cli/nearest_word.h"
-#include "workbench/cli/quiet.h"
+#include "workbench/cli/input_files.h"
+#include "workbench/cli/profile.h"
 #include "workbench/commands/commands.h"
-#include "workbench/commands/design_reading.h"
-#include "workbench/commands/part_shapes.h"
-#include "workbench/output/display_text.h"
-#include "workbench/output/parts_format.h"
+#include "workbench/commands/parts_options.h"
+#include "workbench/commands/parts_run.h"
 
-#include "parts/parts_list.h"
+#include "host/base/utf8_path.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <iostream>
-#include <optional>
 #include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
 #include <vector>
 
 namespace workbench {
 namespace {
 
-using Words = std::vector<std::string>;
-
-/// The words of the command line, before they are a request.
-struct PartsOptions {
+/// What is not about one list alone.
+struct PartsCommand {
     const CLI::App* command = nullptr;
-    std::string file;
-    ReadingOptions reading;
-    std::string view = "parts";
-    std::string mergeBy = "part-number";
-    Words columns;
-    Words filters;
-    std::string sort;
-    std::string units;
-    std::int64_t multiply = 1;
-    bool comparesShapes = false;
-    std::string format;  ///< empty: by the ending of the output
-    PartsFormat writing;
-    bool rawTexts = false;  ///< texts that a spreadsheet would run are not marked
+    PartsOptions words;  ///< without the profile
+    std::vector<std::string> files;
+    std::vector<std::string> outputs;
+    std::string profile;
+    bool noProfile = false;
+    bool printProfile = false;
+    int jobs = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
 };
 
-/// What `parse` returns; ends the program with the option's name where it makes no sense.
-template <class Parse>
-auto parsed(const char* option, Parse parse) {
-    try {
-        return parse();
-    } catch (const parts::RequestError& error) {
-        refuse(std::string(option) + " " + error.what());
+const std::vector<std::string> kLists = {"columns", "sort", "units", "merge-by"};
+
+/// In a profile these options have no meaning, or no other one than in the command line.
+const ProfileKeys kProfileKeys = {
+    .excluded = {"output", "profile", "no-profile", "print-profile", "quiet"}, .lists = kLists};
+
+/// What is about the designs cannot be different for one output.
+const ProfileKeys kOutputKeys = {.excluded = {"max-seconds", "max-memory", "max-occurrences",
+                                              "material", "strict", "no-cache", "jobs"},
+                                 .lists = kLists};
+
+/// The profile that the user named, else one beside the first design; one without a file where
+/// there is none.
+Profile findProfile(const PartsCommand& options) {
+    if (!options.profile.empty()) {
+        return readProfile(options.profile);
     }
+    if (options.noProfile || options.files.front() == "-") {
+        return {};
+    }
+    namespace fs = std::filesystem;
+    const fs::path first = host::fromUtf8(options.files.front());
+    std::error_code ignored;
+    const fs::path folder = fs::is_directory(first, ignored) ? first : first.parent_path();
+    const fs::path file = folder / kProfileName;
+    return fs::exists(file, ignored) ? readProfile(host::toUtf8(file)) : Profile();
 }
 
-parts::Units unitsOf(const PartsOptions& options) {
-    parts::Units units;
-    if (!options.units.empty()) {
-        for (const std::string_view name : parts::splitList(options.units)) {
-            units.choose(name);
+/// The options of one output, made of the command line, what the profile has for the output, and
+/// its other keys: the first that has an option decides.
+class Choice {
+public:
+    Choice(const CLI::App& given, const Profile& profile, std::vector<ProfileEntry> output = {})
+        : given_(given), profile_(profile), output_(std::move(output)) {
+        addPartsOptions(app_, words_);
+        addJobs(app_, jobs_);
+        for (CLI::Option* const option : app_.get_options()) {
+            const CLI::Option* const same = given.get_option_no_throw(option->get_name());
+            if (same != nullptr && same->count() > 0) {
+                option->add_result(same->results());
+                option->run_callback();
+            }
+        }
+        applyProfile(app_, output_, kOutputKeys, profile.file);
+        applyProfile(app_, profile.entries, kProfileKeys, profile.file);
+    }
+
+    static void addJobs(CLI::App& command, int& jobs) {
+        command
+            .add_option("--jobs", jobs,
+                        "Designs to read at once, each in a reader of its own; by default one for\n"
+                        "each processor")
+            ->type_name("COUNT")
+            ->check(CLI::Range(1, 1024));
+    }
+
+    /// What is to be listed and how. What makes no sense is refused with the line of the profile
+    /// that it comes from.
+    [[nodiscard]] ListTask task(const std::string& output) const {
+        try {
+            return {.request = requestOf(words_),
+                    .format = formatOf(words_, output),
+                    .output = output,
+                    .comparesShapes = words_.comparesShapes};
+        } catch (const Failure& failure) {
+            refuseWithLine(failure);
+            throw;
         }
     }
-    return units;
-}
 
-std::vector<parts::Column> chosenColumns(const PartsOptions& options) {
-    std::vector<parts::Column> columns;
-    for (const std::string& word : options.columns) {
-        const std::vector<parts::Column> some = parts::parseColumns(word);
-        columns.insert(columns.end(), some.begin(), some.end());
+    [[nodiscard]] const PartsOptions& words() const { return words_; }
+    [[nodiscard]] int jobs() const { return jobs_; }
+    [[nodiscard]] const CLI::App& app() const { return app_; }
+
+private:
+    /// The message of a failure begins with the option that it is about.
+    void refuseWithLine(const Failure& failure) const {
+        const std::string line = failure.what();
+        for (const std::vector<ProfileEntry>* const entries : {&output_, &profile_.entries}) {
+            for (const ProfileEntry& entry : *entries) {
+                const CLI::Option* const given = given_.get_option_no_throw("--" + entry.key);
+                if (line.starts_with("--" + entry.key + " ") &&
+                    (given == nullptr || given->count() == 0)) {
+                    throw Failure(
+                        ExitCode::BadInput,
+                        profile_.file + ":" + std::to_string(entry.line) + ": " + line.substr(2));
+                }
+            }
+        }
     }
-    return columns;
-}
 
-std::vector<parts::Filter> filtersOf(const PartsOptions& options, const parts::Units& units) {
-    std::vector<parts::Filter> filters;
-    for (const std::string& word : options.filters) {
-        filters.push_back(parts::parseFilter(word, units));
+    const CLI::App& given_;
+    const Profile& profile_;
+    std::vector<ProfileEntry> output_;
+    CLI::App app_{"", "parts"};
+    PartsOptions words_;
+    int jobs_ = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+};
+
+/// What goes where: "--output" takes the place of all outputs in the profile.
+std::vector<ListTask> tasksOf(const PartsCommand& options, const Profile& profile) {
+    std::vector<ListTask> tasks;
+    const Choice common(*options.command, profile);
+    for (const std::string& output : options.outputs) {
+        tasks.push_back(common.task(output == "-" ? "" : output));
     }
-    return filters;
-}
-
-parts::PartsRequest requestOf(const PartsOptions& options) {
-    parts::PartsRequest request;
-    request.view = parsed("--view", [&] { return parts::parseView(options.view); });
-    request.merging = parsed("--merge-by", [&] { return parts::parseMerging(options.mergeBy); });
-    request.units = parsed("--units", [&] { return unitsOf(options); });
-    request.columns = parsed("--columns", [&] { return chosenColumns(options); });
-    request.filters = parsed("--filter", [&] { return filtersOf(options, request.units); });
-    if (!options.sort.empty()) {
-        request.sort = parsed("--sort", [&] { return parts::parseSort(options.sort); });
+    if (tasks.empty()) {
+        for (const ProfileOutput& output : profile.outputs) {
+            tasks.push_back(Choice(*options.command, profile, output.entries).task(output.file));
+        }
     }
-    request.multiply = options.multiply;
-    return request;
-}
-
-Words fieldNames() {
-    Words names;
-    for (const parts::FieldInfo& info : parts::fieldInfos()) {
-        names.emplace_back(info.name);
+    if (tasks.empty()) {
+        tasks.push_back(common.task(""));
     }
-    return names;
+    return tasks;
 }
 
-[[noreturn]] void refuseColumn(const parts::UnknownColumn& error) {
-    const std::string nearest = nearestWord(error.name(), fieldNames());
-    refuse(std::string(error.what()) +
-           (nearest.empty() ? "; property:NAME shows one that a design need not have"
-                            : "; did you mean \"" + nearest + "\"?"));
-}
-
-parts::PartsList listOf(const host::DesignData& design, const parts::PartsRequest& request,
-                        const parts::PartShapes& shapes) {
-    try {
-        return parts::buildPartsList(design, request, shapes);
-    } catch (const parts::UnknownColumn& error) {
-        refuseColumn(error);
-    } catch (const parts::RequestError& error) {
-        refuse(error.what());
+/// What holds, in a form that reads back the same.
+void printProfile(const PartsCommand& options, const Profile& profile) {
+    const Choice common(*options.command, profile);
+    std::cout << profileText(common.app(), kProfileKeys);
+    for (const ProfileOutput& output : profile.outputs) {
+        std::cout << "\n[[output]]\n" << outputText(output);
     }
 }
 
-void reportListWarnings(const parts::PartsList& list) {
-    if (isQuiet()) {
+void runParts(const PartsCommand& options) {
+    const Profile profile = findProfile(options);
+    if (options.printProfile) {
+        tasksOf(options, profile);
+        printProfile(options, profile);
         return;
     }
-    for (const parts::ListWarning& warning : list.warnings) {
-        std::cerr << "warning: "
-                  << printable((warning.component.empty() ? "" : "\"" + warning.component + "\" ") +
-                               warning.text)
-                  << "\n";
-    }
+    const Choice common(*options.command, profile);
+    PartsRun run;
+    run.tasks = tasksOf(options, profile);
+    run.files = expandInputs(options.files);
+    run.reading = common.words().reading;
+    run.jobs = static_cast<std::size_t>(common.jobs());
+    checkOutputs(run);
+    listParts(run);
 }
 
-/// Where the results go, by which the format is chosen; empty for stdout.
-std::string outputOf(const PartsOptions& options) {
-    const CLI::Option* const output = options.command->get_option_no_throw("--output");
-    return output == nullptr || output->results().empty() ? "" : output->results().front();
+void addFiles(CLI::App& command, PartsCommand& options) {
+    command
+        .add_option("FILE", options.files,
+                    "STEP files (.step, .stp, .p21), IGES files, design files; folders, with all\n"
+                    "that are in them and below; or patterns with *, ? and **")
+        ->required();
+    Choice::addJobs(command, options.jobs);
 }
 
-void checkDelimiter(const std::string& delimiter) {
-    const bool isChosen = !delimiter.empty();
-    if (isChosen && (delimiter.size() != 1 || delimiter.find_first_of("\"\r\n") == 0)) {
-        refuse("--delimiter " + delimiter + ": expected one character, such as ; but no quote");
-    }
-}
-
-PartsFormat formatOf(const PartsOptions& options) {
-    PartsFormat format = options.writing;
-    format.kind = options.format.empty() ? partsFormatOf(outputOf(options))
-                                         : parsePartsFormat(options.format);
-    format.guardFormulas = !options.rawTexts;
-    checkDelimiter(format.delimiter);
-    return format;
-}
-
-void runParts(const PartsOptions& options) {
-    const parts::PartsRequest request = requestOf(options);
-    const PartsFormat format = formatOf(options);
-    if (format.kind == PartsFormatKind::Model) {
-        writeModel(readDesign(options.file, options.reading), options.file, std::cout);
-        return;
-    }
-    const bool needsShapes = options.comparesShapes || parts::needsShapes(request);
-    const host::DesignData design = needsShapes || parts::needsBodies(request)
-                                        ? readDesign(options.file, options.reading)
-                                        : readTree(options.file, options.reading);
-    const parts::PartShapes shapes =
-        needsShapes ? readPartShapes(design, request) : parts::PartShapes();
-    parts::PartsList list = listOf(design, request, shapes);
-    list.source.file = options.file;
-    reportListWarnings(list);
-    writeParts(list, format, std::cout);
-}
-
-/// What is listed.
-void addContent(CLI::App& command, PartsOptions& options) {
+void addOutputs(CLI::App& command, PartsCommand& options) {
     command
         .add_option(
-            "--view", options.view,
-            "What is listed: every item that is not opened, over all levels; the tree; the\n"
-            "first level; or parts and assemblies, each once")
-        ->type_name("parts|indented|top|all")
-        ->capture_default_str();
-    command
-        .add_option("--merge-by", options.mergeBy,
-                    "What makes components one item: part-number (the name where it is empty),\n"
-                    "name, component, shape, or columns with commas between")
-        ->type_name("WHAT")
-        ->capture_default_str();
-    command
-        .add_option("--columns", options.columns,
-                    "The columns, with commas between, as in 'Item,Part Number=Number,Mass[g]:2':\n"
-                    "NAME[=CAPTION][UNIT][:DECIMALS]. NAME is one of those below or a custom\n"
-                    "property; a backslash keeps a comma in it. May be repeated")
-        ->type_name("COLUMNS")
+            "--output", options.outputs,
+            "Write the list into this file instead, which is replaced where it exists; its\n"
+            "folder is created. {stem} in the name is the design's name without its\n"
+            "ending, {name} with it, {dir} its folder. May be repeated. - prints the list")
+        ->type_name("FILE")
         ->allow_extra_args(false);
     command
-        .add_option("--filter", options.filters,
-                    "Show only what is as said: COLUMN, one of = != ~ < > <= >=, and a value; ~\n"
-                    "finds a part of a text. Of several all have to hold. Example: 'Mass>0.5 kg'")
-        ->type_name("CONDITION")
-        ->allow_extra_args(false);
-    command
-        .add_option("--sort", options.sort,
-                    "Sort by these columns, with commas between, each with :desc after it or not")
-        ->type_name("COLUMNS");
-    command.add_flag("--shapes", options.comparesShapes,
-                     "Compare the shapes of parts: report items of one shape under different\n"
-                     "numbers, and different shapes under one number");
-    command.add_option("--multiply", options.multiply, "List what so many of the design need")
-        ->type_name("COUNT")
-        ->check(CLI::Range(std::int64_t{1}, parts::kMostMultiply))
-        ->capture_default_str();
-    command
-        .add_option("--units", options.units,
-                    "Units of columns that name none, with commas between, as in g,in")
-        ->type_name("UNITS");
-}
-
-/// How it is written.
-void addWriting(CLI::App& command, PartsOptions& options) {
-    command
-        .add_option("--format", options.format,
-                    "How the list is written; by default as the ending of --output says, else a\n"
-                    "table")
-        ->check(CLI::IsMember(partsFormatNames()));
-    command
-        .add_option("--digits", options.writing.numbers.significantDigits,
-                    "Significant digits of numbers whose column names no decimals")
-        ->check(CLI::Range(1, 17))
-        ->capture_default_str();
-    command.add_flag("--decimal-comma", options.writing.numbers.decimalComma,
-                     "Write numbers with a comma; CSV then has semicolons between values");
-    command
-        .add_option("--delimiter", options.writing.delimiter,
-                    "The character between the values of CSV")
-        ->type_name("CHARACTER");
-    command.add_flag("--bom", options.writing.byteOrderMark,
-                     "Begin CSV with the byte order mark that Excel needs to find UTF-8");
-    command.add_flag("--raw-texts", options.rawTexts,
-                     "Leave texts as they are that a spreadsheet would run: without it an\n"
-                     "apostrophe marks them in CSV and TSV");
-}
-
-std::string columnsHelp() {
-    std::string names;
-    std::size_t width = 0;
-    for (const std::string& name : fieldNames()) {
-        constexpr std::size_t kLine = 76;
-        const bool isNewLine = names.empty() || width + name.size() + 2 > kLine;
-        names += (names.empty() ? "  " : isNewLine ? ",\n  " : ", ") + name;
-        width = (isNewLine ? 2 : width + 2) + name.size();
-    }
-    return "Columns:\n" + names + "\n";
+        .add_option("--profile", options.profile,
+                    "Take options from this file; by default from tarnix.toml beside the first\n"
+                    "FILE, or in it, where there is one. Options given here win")
+        ->type_name("FILE.toml");
+    command.add_flag("--no-profile", options.noProfile, "Do not look for tarnix.toml");
+    command.add_flag("--print-profile", options.printProfile,
+                     "Print the options that hold, as a profile, and read no design");
 }
 
 }  // namespace
@@ -255,12 +208,11 @@ std::string columnsHelp() {
 void addPartsCommand(CLI::App& program) {
     CLI::App& command = *program.add_subcommand(
         "parts", "List the parts over all levels, with total quantities, to order and build from");
-    PartsOptions& options = optionsFor(command, runParts);
+    PartsCommand& options = optionsFor(command, runParts);
     options.command = &command;
-    addFile(command, options.file);
-    addContent(command, options);
-    addWriting(command, options);
-    addReading(command, options.reading);
+    addFiles(command, options);
+    addPartsOptions(command, options.words);
+    addOutputs(command, options);
     command.footer(columnsHelp());
 }
 

@@ -1,6 +1,7 @@
 #include "workbench/output/parts_format.h"
 
 #include "workbench/cli/console.h"
+#include "workbench/cli/exit_code.h"
 #include "workbench/output/parts_table.h"
 #include "workbench/output/result_stream.h"
 
@@ -8,6 +9,7 @@
 #include "parts/csv_writer.h"
 #include "parts/json_writer.h"
 #include "parts/markdown_writer.h"
+#include "parts/xlsx_writer.h"
 
 #include <algorithm>
 #include <iterator>
@@ -27,6 +29,7 @@ constexpr KnownFormat kFormats[] = {
     {.kind = PartsFormatKind::Csv, .name = "csv", .ending = ".csv"},
     {.kind = PartsFormatKind::Tsv, .name = "tsv", .ending = ".tsv"},
     {.kind = PartsFormatKind::Markdown, .name = "markdown", .ending = ".md"},
+    {.kind = PartsFormatKind::Xlsx, .name = "xlsx", .ending = ".xlsx"},
     {.kind = PartsFormatKind::Json, .name = "json", .ending = ".json"},
     {.kind = PartsFormatKind::JsonLines, .name = "jsonl", .ending = ".jsonl"},
     {.kind = PartsFormatKind::Model, .name = "glb", .ending = ".glb"},
@@ -37,6 +40,15 @@ char delimiterOf(const PartsFormat& format) {
         return format.delimiter.front();
     }
     return format.numbers.decimalComma ? ';' : ',';
+}
+
+void writeXlsx(const parts::PartsList& list, const parts::NumberFormat& numbers,
+               std::ostream& stream) {
+    try {
+        stream << parts::xlsxOf(list, numbers);
+    } catch (const parts::XlsxError& error) {
+        throw Failure(ExitCode::OutputFailed, error.what());
+    }
 }
 
 }  // namespace
@@ -63,6 +75,8 @@ PartsFormatKind partsFormatOf(const std::string& file) {
     return found == std::end(kFormats) ? PartsFormatKind::Table : found->kind;
 }
 
+bool canBeJoined(PartsFormatKind kind) { return kind == PartsFormatKind::JsonLines; }
+
 void writeParts(const parts::PartsList& list, const PartsFormat& format, std::ostream& stream) {
     switch (format.kind) {
         case PartsFormatKind::Csv:
@@ -80,6 +94,9 @@ void writeParts(const parts::PartsList& list, const PartsFormat& format, std::os
         case PartsFormatKind::Markdown:
             writeMarkdown(list, format.numbers, stream);
             break;
+        case PartsFormatKind::Xlsx:
+            writeXlsx(list, format.numbers, stream);
+            break;
         case PartsFormatKind::Json:
             writeJson(list, parts::JsonLayout::Indented, stream);
             break;
@@ -87,7 +104,9 @@ void writeParts(const parts::PartsList& list, const PartsFormat& format, std::os
             writeJson(list, parts::JsonLayout::Line, stream);
             break;
         case PartsFormatKind::Table:
-            stream << partsTable(list, format.numbers, console::charset(), resultWidth());
+            stream << (format.isForFile
+                           ? partsTable(list, format.numbers, console::Charset::Utf8)
+                           : partsTable(list, format.numbers, console::charset(), resultWidth()));
             break;
         case PartsFormatKind::Model:
             throw std::logic_error("a list is no model");

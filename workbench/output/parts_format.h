@@ -10,7 +10,7 @@
 /// A parts list in the format that was asked for. A new format needs its name and ending here.
 namespace workbench {
 
-enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Json, JsonLines, Model };
+enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Xlsx, Json, JsonLines, Model };
 
 /// How a list is to be written.
 struct PartsFormat {
@@ -19,6 +19,7 @@ struct PartsFormat {
     std::string delimiter = {};  ///< of CSV, one character; empty: "," or ";" with a decimal comma
     bool byteOrderMark = false;
     bool guardFormulas = true;
+    bool isForFile = false;  ///< not for stdout, so that a terminal's size and signs do not matter
 };
 
 /// The names for "--format".
@@ -30,7 +31,11 @@ PartsFormatKind parsePartsFormat(const std::string& name);
 /// The format for a file, by its ending; a table for one that no format has.
 PartsFormatKind partsFormatOf(const std::string& file);
 
-/// Writes a list, in any format but that of a model, which is made of the design itself.
+/// Whether several lists, one after the other, are a file of this format.
+bool canBeJoined(PartsFormatKind kind);
+
+/// Writes a list, in any format but that of a model, which is made of the design itself. Throws a
+/// `Failure` for what the format cannot hold.
 void writeParts(const parts::PartsList& list, const PartsFormat& format, std::ostream& stream);
 
 }  // namespace workbench

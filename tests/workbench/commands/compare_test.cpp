@@ -1,0 +1,190 @@
+#include "tests/support/text.h"
+#include "tests/workbench/workbench_fixture.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using nlohmann::json;
+using test_support::ProgramResult;
+using test_support::text;
+using test_support::writeFile;
+
+class CompareCommand : public test_support::Workbench {
+protected:
+    /// Compares two drawn designs.
+    ProgramResult compare(const std::string& before, const std::string& after,
+                          std::vector<std::string> options = {}) {
+        options.insert(options.begin(), {"compare", design(before, "old"), design(after, "new")});
+        return run(options);
+    }
+
+    /// A list of a design as CSV, in which some strings are replaced as a user would edit it.
+    std::string edited(
+        const std::string& file, const std::vector<std::pair<std::string, std::string>>& edits,
+        const std::string& columns = "Item,Part Number,Quantity,Mass[g],Description") {
+        run({"parts", file, "--columns", columns, "--output", path("list.csv")});
+        std::string list = folder.read("list.csv");
+        for (const auto& [from, to] : edits) {
+            EXPECT_NE(list.find(from), std::string::npos) << from << "\n" << list;
+            list.replace(list.find(from), from.size(), to);
+        }
+        writeFile(folder.path() / "list.csv", list);
+        return path("list.csv");
+    }
+};
+
+constexpr const char* kCart = R"(
+    Frame  box=10x10x1 material=Sheet:0.01
+    Axle
+      Wheel  box=5x5x1 material=Rubber:0.001 property=Colour/black
+      Wheel
+    Axle)";
+
+TEST_F(CompareCommand, AddedRemovedAndChangedLinesAreListed) {
+    // The frame becomes heavier and thicker, a third axle adds two wheels, of other rubber and
+    // colour; a bell is new.
+    const ProgramResult result = compare(kCart, R"(
+        Frame  box=10x10x2 material=Sheet:0.01
+        Bell  box=1x1x1 material=Brass:0.008
+        Axle
+          Wheel  box=5x5x1 material=Latex:0.001 property=Colour/red
+          Wheel
+        Axle
+        Axle)");
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, text(R"(
+        Change    Item   What          Old     New
+        ────────  ─────  ────────────  ──────  ─────
+        added     Bell                         1
+        changed   Frame  Mass [kg]     1       2
+        shape     Frame  Volume [cm³]  100     200
+        quantity  Wheel  Quantity      4       6
+        changed   Wheel  Material      Rubber  Latex
+        changed   Wheel  Colour        black   red
+
+        1 added, 0 removed, 5 changes in other lines, 0 unchanged
+        )") + "\n");
+}
+
+TEST_F(CompareCommand, APartBelowAnotherAssemblyHasMoved) {
+    const ProgramResult result = compare(R"(
+        Left
+          Bolt  box=1x1x1 material=Steel:0.008
+        Right
+          Nut  box=1x1x2 material=Steel:0.008)",
+                                         R"(
+        Left
+          Nut  box=1x1x2 material=Steel:0.008
+        Right
+          Bolt  box=1x1x1 material=Steel:0.008)",
+                                         {"--format", "markdown"});
+
+    EXPECT_EQ(result.output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| moved | Bolt | Used in | Left | Right |\n"
+              "| moved | Nut | Used in | Right | Left |\n\n"
+              "0 added, 0 removed, 2 changes in other lines, 0 unchanged\n");
+}
+
+TEST_F(CompareCommand, AnotherShapeOfEqualVolumeIsAnotherShape) {
+    const ProgramResult result =
+        compare("Block  box=4x2x1 material=Steel:0.008", "Block  box=2x2x2 material=Steel:0.008",
+                {"--format", "json"});
+
+    const json changes = json::parse(result.output).at("changes");
+    ASSERT_EQ(changes.size(), 1U) << result.output;
+    // 2 (8 + 4 + 2) and 6 times 4.
+    EXPECT_EQ(changes[0], (json{{"change", "shape"},
+                                {"item", "Block"},
+                                {"column", "Area [cm\xC2\xB2]"},
+                                {"old", 28.0},
+                                {"new", 24.0}}));
+}
+
+TEST_F(CompareCommand, TheStatusSaysWhetherThereAreDifferencesWhenAsked) {
+    EXPECT_EQ(compare("Bolt", "Bolt\nBolt").status, 0);
+    EXPECT_EQ(compare("Bolt", "Bolt", {"--exit-code"}).status, 0);
+    const ProgramResult different =
+        compare("Bolt", "Bolt\nBolt", {"--exit-code", "--output", path("differences.txt")});
+
+    EXPECT_EQ(different.status, 6);
+    EXPECT_EQ(different.errors, "");
+    EXPECT_NE(folder.read("differences.txt").find("quantity  Bolt  Quantity    1    2\n"),
+              std::string::npos);
+}
+
+TEST_F(CompareCommand, WithoutDifferencesOneLineSaysSo) {
+    EXPECT_EQ(compare(kCart, kCart).output, "No differences, 2 lines\n");
+}
+
+TEST_F(CompareCommand, AListThatWasNotEditedIsThatOfTheDesign) {
+    const std::string file = design(kCart);
+    const std::string columns =
+        "Part Number,Part Name,Description,Quantity,Mass,Total mass,Material,X,Size,Used in,Colour";
+
+    EXPECT_EQ(run({"compare", edited(file, {}, columns), file}).output,
+              "No differences, 2 lines\n");
+    EXPECT_EQ(run({"compare", file, edited(file, {}, columns)}).output,
+              "No differences, 2 lines\n");
+}
+
+TEST_F(CompareCommand, EditsOfAListAreFoundByItsPartNumbers) {
+    const std::string file = design(R"(
+        Axle  box=1x1x10 material=Steel:0.008123456
+        Bolt  box=1x1x1 material=Steel:0.008 description==danger
+        Bolt
+        Nut  box=1x1x1 material=Steel:0.008)");
+    // 81.23456 g are shown as 81.23; lines change their order; a line is new.
+    const std::string list = edited(file, {{"1,Axle,1,81.23", "9,Axle,1,81.2"},
+                                           {"2,Bolt,2,8,", "7,Bolt,3,8,"},
+                                           {"3,Nut,1,8,\r\n", "1,Washer,4,1,round\r\n"}});
+
+    const ProgramResult result = run({"compare", file, list});
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, text(R"(
+        Change    Item    What      Old  New
+        ────────  ──────  ────────  ───  ───
+        quantity  Bolt    Quantity    2    3
+        removed   Nut                 1
+        added     Washer                   4
+
+        1 added, 1 removed, 1 change in other lines, 1 unchanged
+        )") + "\n");
+}
+
+TEST_F(CompareCommand, AListWithoutPartNumbersOrWithForeignColumnsIsRefused) {
+    const std::string file = design("Bolt");
+
+    expectFailure(run({"compare", file, edited(file, {}, "Quantity,Mass")}), 1,
+                  "tarnix-workbench: " + path("list.csv") +
+                      ": has no column \"Part Number\", by which lines are matched; where it has "
+                      "another caption, give --columns as the list was written with\n");
+    expectFailure(run({"compare", file, edited(file, {{"Item", "Price"}})}), 2,
+                  "tarnix-workbench: \"Price\": no such column, and no component has a custom "
+                  "property of that name; property:NAME shows one that a design need not have\n");
+}
+
+TEST_F(CompareCommand, ChosenCaptionsAreUnderstoodWithTheSameColumns) {
+    const std::string file = design("Bolt\nBolt");
+    const std::string columns = "Part Number=Number,Quantity=Pieces";
+
+    EXPECT_EQ(run({"compare", edited(file, {{"Bolt,2", "Bolt,5"}}, columns), file, "--columns",
+                   columns, "--format", "markdown"})
+                  .output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| quantity | Bolt | Pieces | 5 | 2 |\n\n"
+              "0 added, 0 removed, 1 change in other lines, 0 unchanged\n");
+}
+
+TEST_F(CompareCommand, TwoListsAreRefused) {
+    expectFailure(run({"compare", "a.csv", "b.csv"}), 2,
+                  "tarnix-workbench: OLD and NEW are both lists; one of them has to be a design\n");
+}
+
+}  // namespace

@@ -1,0 +1,148 @@
+#include "workbench/cli/common_options.h"
+#include "workbench/cli/console.h"
+#include "workbench/cli/exit_code.h"
+#include "workbench/cli/final_status.h"
+#include "workbench/commands/commands.h"
+#include "workbench/commands/design_reading.h"
+#include "workbench/commands/edited_parts_list.h"
+#include "workbench/commands/parts_options.h"
+#include "workbench/output/comparison_text.h"
+#include "workbench/output/result_stream.h"
+
+#include "parts/bom_structure.h"
+#include "parts/compare.h"
+
+#include <algorithm>
+#include <iostream>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace workbench {
+namespace {
+
+struct CompareOptions {
+    std::string before;
+    std::string after;
+    ReadingOptions reading;
+    PartsOptions list;
+    bool exitCode = false;
+};
+
+/// What is compared of two designs: what one orders by, and all custom properties.
+std::vector<parts::Column> comparedColumns(const CompareOptions& options,
+                                           const std::vector<const host::DesignData*>& designs) {
+    if (!options.list.columns.empty()) {
+        return requestOf(options.list).columns;
+    }
+    std::vector<parts::Column> columns =
+        parts::parseColumns("Part Name,Description,Quantity,Mass,Material,BOM Structure");
+    std::set<std::string> names;
+    for (const host::DesignData* const design : designs) {
+        const std::vector<std::string> some = parts::propertyNames(*design);
+        names.insert(some.begin(), some.end());
+    }
+    for (const std::string& name : names) {
+        columns.push_back({.field = parts::Field::Property, .property = name});
+    }
+    return columns;
+}
+
+std::vector<parts::ComparedColumn> aboutColumns(const parts::PartsList& list, std::size_t count,
+                                                bool isAsShown) {
+    std::vector<parts::ComparedColumn> columns;
+    for (std::size_t column = 0; column < count; ++column) {
+        columns.push_back({.field = list.columns[column].column.field,
+                           .caption = list.columns[column].caption,
+                           .isAsShown = isAsShown});
+    }
+    return columns;
+}
+
+parts::ListComparison compareDesigns(const CompareOptions& options) {
+    const host::DesignData before = readDesign(options.before, options.reading);
+    const host::DesignData after = readDesign(options.after, options.reading);
+    parts::PartsRequest request = requestOf(options.list);
+    request.columns = comparedColumns(options, {&before, &after});
+    const std::size_t count = request.columns.size();
+    const parts::PartsRequest whole = parts::comparisonRequest(request);
+    const parts::PartsList old = listOf(before, whole);
+    return parts::compareLines(parts::linesOf(old, count),
+                               parts::linesOf(listOf(after, whole), count),
+                               aboutColumns(old, count, /*isAsShown=*/false));
+}
+
+/// A design and a list of it that was edited in a spreadsheet.
+parts::ListComparison compareWithList(const CompareOptions& options, bool isListOld) {
+    const EditedPartsList edited(isListOld ? options.before : options.after,
+                                 requestOf(options.list));
+    const host::DesignData design =
+        readDesign(isListOld ? options.after : options.before, options.reading);
+    const parts::PartsList list = listOf(design, edited.request());
+    const std::vector<parts::ComparedLine> ofDesign = edited.linesOf(list);
+    const std::vector<parts::ComparedColumn> columns =
+        aboutColumns(list, list.columns.size(), /*isAsShown=*/true);
+    return isListOld ? parts::compareLines(edited.lines(), ofDesign, columns)
+                     : parts::compareLines(ofDesign, edited.lines(), columns);
+}
+
+parts::ListComparison compared(const CompareOptions& options) {
+    const bool isOldList = isEditedPartsList(options.before);
+    const bool isNewList = isEditedPartsList(options.after);
+    if (isOldList && isNewList) {
+        refuse("OLD and NEW are both lists; one of them has to be a design");
+    }
+    return isOldList || isNewList ? compareWithList(options, isOldList) : compareDesigns(options);
+}
+
+std::string textOf(const parts::ListComparison& comparison, const CompareOptions& options) {
+    if (options.list.format == "json") {
+        return comparisonJson(comparison);
+    }
+    return options.list.format == "markdown"
+               ? comparisonMarkdown(comparison, options.list.writing.numbers)
+               : comparisonTable(comparison, options.list.writing.numbers, resultWidth());
+}
+
+void runCompare(const CompareOptions& options) {
+    parts::ListComparison comparison = compared(options);
+    comparison.before = options.before;
+    comparison.after = options.after;
+    std::cout << textOf(comparison, options);
+    if (options.exitCode && !comparison.changes.empty()) {
+        setFinalStatus(ExitCode::Different);
+    }
+}
+
+void addLists(CLI::App& command, CompareOptions& options) {
+    command
+        .add_option("OLD", options.before,
+                    "A design, or a list of it as CSV or TSV that parts wrote and that was edited")
+        ->required();
+    command.add_option("NEW", options.after, "The other one; at least one is a design")->required();
+    command
+        .add_option("--columns", options.list.columns,
+                    "What is compared, as for parts; by default names, descriptions, quantities,\n"
+                    "masses, materials, BOM structures and all custom properties, and of a list\n"
+                    "the columns that it has")
+        ->type_name("COLUMNS")
+        ->allow_extra_args(false);
+    command.add_option("--view", options.list.view, "Which lines are compared, as for parts")
+        ->check(CLI::IsMember({"parts", "all", "top"}))
+        ->capture_default_str();
+}
+
+}  // namespace
+
+void addCompareCommand(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "compare", "Print what differs between the parts lists of two designs");
+    CompareOptions& options = optionsFor(command, runCompare);
+    options.list.format = "table";
+    addLists(command, options);
+    addFormat(command, options.list.format, {"table", "markdown", "json"});
+    command.add_flag("--exit-code", options.exitCode, "End with status 6 where something differs");
+    addReading(command, options.reading);
+}
+
+}  // namespace workbench

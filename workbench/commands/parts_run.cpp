@@ -1,0 +1,312 @@
+#include "workbench/commands/parts_run.h"
+
+#include "workbench/cli/exit_code.h"
+#include "workbench/cli/quiet.h"
+#include "workbench/commands/design_reading.h"
+#include "workbench/commands/part_shapes.h"
+#include "workbench/output/display_text.h"
+#include "workbench/output/output_names.h"
+#include "workbench/output/reports.h"
+#include "workbench/output/staged_files.h"
+
+#include "host/base/utf8_path.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <exception>
+#include <iostream>
+#include <mutex>
+#include <optional>
+#include <sstream>
+#include <thread>
+#include <utility>
+
+namespace workbench {
+namespace {
+
+/// What became of a design.
+struct Outcome {
+    std::vector<std::string> contents;  ///< one for each task
+    std::vector<host::ReadingWarning> warnings;
+    std::vector<parts::ListWarning> remarks;
+    std::optional<Failure> failure;
+};
+
+bool isSeveral(const PartsRun& run) { return run.files.size() > 1; }
+
+/// Whether the lists of all designs go into one file.
+bool isJoined(const PartsRun& run, const ListTask& task) {
+    return isSeveral(run) && canBeJoined(task.format.kind) && !hasPlaceholder(task.output);
+}
+
+bool isPrinted(const ListTask& task) { return task.output.empty(); }
+
+bool needsShapes(const ListTask& task) {
+    return task.comparesShapes || parts::needsShapes(task.request);
+}
+
+ReadingDepth depthOf(const PartsRun& run) {
+    const bool needsBodies = std::ranges::any_of(run.tasks, [](const ListTask& task) {
+        return parts::needsBodies(task.request) || needsShapes(task) ||
+               task.format.kind == PartsFormatKind::Model;
+    });
+    return needsBodies ? ReadingDepth::Whole : ReadingDepth::Tree;
+}
+
+/// A lone design is read with its progress on the terminal.
+host::DesignData readOne(const PartsRun& run, const std::string& file, Outcome& outcome) {
+    if (isSeveral(run)) {
+        return readSilently(file, run.reading, depthOf(run), outcome.warnings);
+    }
+    return depthOf(run) == ReadingDepth::Whole ? readDesign(file, run.reading)
+                                               : readTree(file, run.reading);
+}
+
+/// What the lists of a design need to know of its shapes, read once for all of them.
+parts::PartShapes shapesFor(const PartsRun& run, const host::DesignData& design) {
+    parts::PartsRequest request;
+    bool isNeeded = false;
+    for (const ListTask& task : run.tasks) {
+        isNeeded = isNeeded || needsShapes(task);
+        // Pictures are made where a column asks for them.
+        request.columns.insert(request.columns.end(), task.request.columns.begin(),
+                               task.request.columns.end());
+    }
+    return isNeeded ? readPartShapes(design, request) : parts::PartShapes();
+}
+
+void makeLists(const PartsRun& run, const std::string& file, Outcome& outcome) {
+    const host::DesignData design = readOne(run, file, outcome);
+    const parts::PartShapes shapes = shapesFor(run, design);
+    for (const ListTask& task : run.tasks) {
+        if (task.format.kind == PartsFormatKind::Model) {
+            std::ostringstream model;
+            writeModel(design, file, model);
+            outcome.contents.push_back(std::move(model).str());
+            continue;
+        }
+        parts::PartsList list =
+            listOf(design, task.request, needsShapes(task) ? shapes : parts::PartShapes());
+        list.source.file = file;
+        std::ostringstream content;
+        writeParts(list, task.format, content);
+        outcome.contents.push_back(std::move(content).str());
+        // Lists of one design mostly have the same warnings.
+        for (const parts::ListWarning& warning : list.warnings) {
+            if (std::ranges::find(outcome.remarks, warning) == outcome.remarks.end()) {
+                outcome.remarks.push_back(warning);
+            }
+        }
+    }
+}
+
+Outcome outcomeOf(const PartsRun& run, const std::string& file) {
+    Outcome outcome;
+    try {
+        makeLists(run, file, outcome);
+    } catch (const Failure& failure) {
+        outcome.failure = failure;
+    } catch (const std::exception& error) {
+        outcome.failure = Failure(ExitCode::BadInput, file + ": " + error.what());
+    }
+    return outcome;
+}
+
+/// Works on the designs in their order, several at a time.
+class Workers {
+public:
+    explicit Workers(const PartsRun& run) : run_(run), outcomes_(run.files.size()) {
+        const std::size_t count = std::min(run.jobs, run.files.size());
+        for (std::size_t number = 0; number < count; ++number) {
+            threads_.emplace_back([this] { work(); });
+        }
+    }
+    Workers(const Workers&) = delete;
+    Workers& operator=(const Workers&) = delete;
+
+    ~Workers() {
+        {
+            const std::scoped_lock lock(mutex_);
+            next_ = outcomes_.size();
+        }
+        for (std::thread& thread : threads_) {
+            thread.join();
+        }
+    }
+
+    /// Waits for what became of a design.
+    Outcome take(std::size_t file) {
+        std::unique_lock lock(mutex_);
+        done_.wait(lock, [&] { return outcomes_[file].has_value(); });
+        return *std::exchange(outcomes_[file], std::nullopt);
+    }
+
+private:
+    void work() {
+        for (;;) {
+            std::size_t file = 0;
+            {
+                const std::scoped_lock lock(mutex_);
+                if (next_ == outcomes_.size()) {
+                    return;
+                }
+                file = next_++;
+            }
+            Outcome outcome = outcomeOf(run_, run_.files[file]);
+            const std::scoped_lock lock(mutex_);
+            outcomes_[file] = std::move(outcome);
+            done_.notify_all();
+        }
+    }
+
+    const PartsRun& run_;
+    std::mutex mutex_;  ///< guards what follows
+    std::condition_variable done_;
+    std::size_t next_ = 0;
+    std::vector<std::optional<Outcome>> outcomes_;
+    std::vector<std::thread> threads_;
+};
+
+void reportRemarks(const std::vector<parts::ListWarning>& remarks) {
+    for (const parts::ListWarning& each : remarks) {
+        if (!isQuiet()) {
+            const std::string part = each.component.empty() ? "" : "\"" + each.component + "\" ";
+            std::cerr << "warning: " << printable(part + each.text) << "\n";
+        }
+    }
+}
+
+/// Writes the lists, and keeps count.
+class Delivery {
+public:
+    explicit Delivery(const PartsRun& run) : run_(run), joined_(run.tasks.size()) {}
+
+    void deliver(const std::string& file, const Outcome& outcome) {
+        reportWarnings(outcome.warnings);
+        reportRemarks(outcome.remarks);
+        try {
+            if (outcome.failure) {
+                throw Failure(*outcome.failure);
+            }
+            write(file, outcome.contents);
+            ++listed_;
+        } catch (const Failure& failure) {
+            if (!isSeveral(run_)) {
+                throw;
+            }
+            const std::string line = failure.what();
+            reportFailures({line.find(file) == std::string::npos ? file + ": " + line : line});
+            worst_ = std::max(worst_, failure.code());
+        }
+    }
+
+    void finish() {
+        StagedFiles files;
+        for (std::size_t task = 0; task < run_.tasks.size(); ++task) {
+            if (isJoined(run_, run_.tasks[task]) && !isPrinted(run_.tasks[task])) {
+                files.add(host::fromUtf8(run_.tasks[task].output), joined_[task]);
+            }
+        }
+        flushOutput();
+        files.commit();
+        reportSummary();
+    }
+
+private:
+    void write(const std::string& file, const std::vector<std::string>& contents) {
+        StagedFiles files;
+        for (std::size_t task = 0; task < run_.tasks.size(); ++task) {
+            const ListTask& each = run_.tasks[task];
+            if (!isPrinted(each) && !isJoined(run_, each)) {
+                files.add(host::fromUtf8(outputName(each.output, file)), contents[task]);
+            }
+        }
+        // Only now nothing can be missing of what is printed or joined.
+        for (std::size_t task = 0; task < run_.tasks.size(); ++task) {
+            if (isPrinted(run_.tasks[task])) {
+                print(file, run_.tasks[task].format.kind, contents[task]);
+            } else if (isJoined(run_, run_.tasks[task])) {
+                joined_[task] += contents[task];
+            }
+        }
+        flushOutput();
+        files.commit();
+    }
+
+    void print(const std::string& file, PartsFormatKind kind, const std::string& content) const {
+        if (isSeveral(run_) && kind == PartsFormatKind::Table) {
+            std::cout << (listed_ == 0 ? "" : "\n") << printable(file) << "\n\n";
+        } else if (isSeveral(run_) && kind == PartsFormatKind::Markdown) {
+            std::cout << (listed_ == 0 ? "" : "\n") << "## " << printable(file) << "\n\n";
+        }
+        std::cout << content;
+    }
+
+    void reportSummary() const {
+        const std::size_t count = run_.files.size();
+        if (listed_ < count) {
+            throw Failure(worst_, std::to_string(count - listed_) + " of " + std::to_string(count) +
+                                      " files could not be listed");
+        }
+        if (isSeveral(run_) && !isQuiet()) {
+            std::cerr << count << " files listed\n";
+        }
+    }
+
+    const PartsRun& run_;
+    std::vector<std::string> joined_;  ///< for each task
+    std::size_t listed_ = 0;
+    ExitCode worst_ = ExitCode::Success;
+};
+
+/// What can only be written into a file of its own for each design.
+void checkStdout(const PartsRun& run, const ListTask& task) {
+    const PartsFormatKind kind = task.format.kind;
+    if (kind == PartsFormatKind::Xlsx) {
+        refuse("--format xlsx: requires --output, as in {stem}-parts.xlsx");
+    }
+    const bool isForPeople = kind == PartsFormatKind::Table || kind == PartsFormatKind::Markdown;
+    if (isSeveral(run) && !isForPeople && !canBeJoined(kind)) {
+        refuse(
+            "several files need a file each, as in --output '{stem}-parts.csv', or --format "
+            "jsonl, a line each");
+    }
+}
+
+}  // namespace
+
+void checkOutputs(const PartsRun& run) {
+    std::vector<std::string> names;
+    std::vector<std::string> sources;
+    for (const ListTask& task : run.tasks) {
+        if (isPrinted(task)) {
+            checkStdout(run, task);
+            continue;
+        }
+        if (isJoined(run, task)) {
+            names.push_back(task.output);
+            sources.emplace_back("all files");
+            continue;
+        }
+        for (const std::string& file : run.files) {
+            names.push_back(outputName(task.output, file));
+            sources.push_back(file);
+        }
+    }
+    checkOutputNames(names, sources, run.files);
+}
+
+void listParts(const PartsRun& run) {
+    Delivery delivery(run);
+    if (isSeveral(run)) {
+        Workers workers(run);
+        for (std::size_t file = 0; file < run.files.size(); ++file) {
+            delivery.deliver(run.files[file], workers.take(file));
+        }
+    } else {
+        delivery.deliver(run.files.front(), outcomeOf(run, run.files.front()));
+    }
+    delivery.finish();
+}
+
+}  // namespace workbench
