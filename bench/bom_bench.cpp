@@ -21,17 +21,6 @@ namespace {
 
 using host::Session;
 
-/// Peak resident memory of this process so far, in MB.
-double peakMegabytes() {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.starts_with("VmHWM:")) {
-            return std::stod(line.substr(6)) / 1024;
-        }
-    }
-    return 0;
-}
-
 /// An editable cell of the first data row of the tab "Data of Model".
 constexpr const char* kCell = "modelPartNumberOcc_1";
 
@@ -48,7 +37,7 @@ void measureDialog(benchmark::State& state, Shape shape) {
         measure(state, "later_tab", [&] { session.activateTab(kStructure); });
         session.activateTab(kModel);
         measure(state, "export", [&] { session.click("QEMA_btnExportXls"); });
-        state.counters["peak_MB"] = peakMegabytes();
+        state.counters["peak_MB"] = bench::peakMegabytes();
         state.SetIterationTime(first / 1000);
     }
 }

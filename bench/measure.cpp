@@ -3,6 +3,8 @@
 #include "host/base/gate.h"
 
 #include <ctime>
+#include <fstream>
+#include <string>
 
 namespace bench {
 
@@ -15,6 +17,16 @@ double measure(benchmark::State& state, const std::string& name,
     state.counters[name + "_ms"] = taken;
     state.counters[name + "_calls"] = static_cast<double>(host::gate::total());
     return taken;
+}
+
+double peakMegabytes() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with("VmHWM:")) {
+            return std::stod(line.substr(6)) / 1024;
+        }
+    }
+    return 0;
 }
 
 }  // namespace bench

@@ -14,4 +14,7 @@ namespace bench {
 double measure(benchmark::State& state, const std::string& name,
                const std::function<void()>& action);
 
+/// The most memory that the process has had so far; 0 where the system does not say it.
+double peakMegabytes();
+
 }  // namespace bench
