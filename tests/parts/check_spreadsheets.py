@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Opens what `parts` writes in LibreOffice and in Python, and compares it with the design.
 
-    check_spreadsheets.py WORKBENCH
+    check_spreadsheets.py WORKBENCH ASSEMBLY.step
 
 Ends with 77, which counts as skipped, where there is no LibreOffice.
 """
@@ -17,6 +17,7 @@ import xml.etree.ElementTree as ElementTree
 
 TABLE = "{urn:oasis:names:tc:opendocument:xmlns:table:1.0}"
 OFFICE = "{urn:oasis:names:tc:opendocument:xmlns:office:1.0}"
+DRAW = "{urn:oasis:names:tc:opendocument:xmlns:drawing:1.0}"
 TEXT = "{urn:oasis:names:tc:opendocument:xmlns:text:1.0}"
 
 # Descriptions of parts that spreadsheets like to change; none of them is a number to a person.
@@ -117,6 +118,17 @@ def check_xlsx(check):
            f"filter: {ranges}")
 
 
+def check_pictures(check, assembly):
+    file = check.folder / "pictures.xlsx"
+    subprocess.run([check.workbench, "parts", assembly, "--columns", "Thumbnail,Part Number",
+                    "--quiet", "--output", file], check=True, env=check.environment)
+    root, rows = check.opened(file)
+    numbers = [row[1][2] for row in rows[1:] if len(row) > 1 and row[1][2]]
+    pictures = list(root.iter(DRAW + "image"))
+    expect(numbers and len(pictures) == len(numbers),
+           f"{len(pictures)} pictures of {len(numbers)} parts")
+
+
 def check_csv(check, name, delimiter, options):
     file = check.parts(name, *options)
     with open(file, encoding="utf-8-sig", newline="") as stream:
@@ -142,6 +154,7 @@ def main():
     with tempfile.TemporaryDirectory(prefix="tarnix-spreadsheets-") as folder:
         check = Check(sys.argv[1], pathlib.Path(folder))
         check_xlsx(check)
+        check_pictures(check, sys.argv[2])
         check_csv(check, "comma.csv", ",", [])
         check_csv(check, "semicolon.csv", ";", ["--decimal-comma", "--bom"])
 

@@ -89,6 +89,40 @@ TEST_F(FullDisk, KeepsNoneOfTheResults) {
     EXPECT_TRUE(fs::is_empty(folder.path() / "disk"));
 }
 
+TEST_F(FullDisk, KeepsNoneOfSeveralLists) {
+    constexpr std::uintmax_t kSmall = 65536;
+    if (!disk.mount(kSmall)) {
+        GTEST_SKIP() << "a file system cannot be mounted here";
+    }
+    const std::string file = largeDesign(400);
+
+    const ProgramResult lists = run({"parts", file, "--output", path("out/list.csv"), "--output",
+                                     path("disk/list.json")});
+
+    EXPECT_EQ(lists.status, 5);
+    EXPECT_NE(lists.errors.find("No space left on device"), std::string::npos) << lists.errors;
+    EXPECT_EQ(lists.output, "");
+    EXPECT_FALSE(fs::exists(folder.path() / "out"));
+    EXPECT_TRUE(fs::is_empty(folder.path() / "disk"));
+}
+
+TEST_F(FullDisk, WritesNoWorkbookWithoutRoomForItsParts) {
+    constexpr std::uintmax_t kSmall = 65536;
+    if (!disk.mount(kSmall)) {
+        GTEST_SKIP() << "a file system cannot be mounted here";
+    }
+    const std::string file = largeDesign(400);
+    variables.set("TMPDIR", path("disk"));
+
+    const ProgramResult workbook = run({"parts", file, "--output", path("out/list.xlsx")});
+
+    EXPECT_EQ(workbook.status, 5);
+    EXPECT_EQ(workbook.errors.rfind("tarnix-workbench: XLSX cannot be written: ", 0), 0U)
+        << workbook.errors;
+    EXPECT_FALSE(fs::exists(folder.path() / "out"));
+    EXPECT_TRUE(fs::is_empty(folder.path() / "disk"));
+}
+
 TEST_F(FullDisk, CutsNoExport) {
     constexpr std::uintmax_t kRoom = 262144;
     const fs::path addin = host::environment::programFolder().parent_path() / "Tarnix";
