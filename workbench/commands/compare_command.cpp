@@ -101,7 +101,8 @@ std::string textOf(const parts::ListComparison& comparison, const CompareOptions
     }
     return options.list.format == "markdown"
                ? comparisonMarkdown(comparison, options.list.writing.numbers)
-               : comparisonTable(comparison, options.list.writing.numbers, resultWidth());
+               : comparisonTable(comparison, options.list.writing.numbers, console::charset(),
+                                 resultWidth());
 }
 
 void runCompare(const CompareOptions& options) {

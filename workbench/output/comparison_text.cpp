@@ -73,11 +73,11 @@ nlohmann::ordered_json valueJson(const parts::Cell& cell) {
 }  // namespace
 
 std::string comparisonTable(const ListComparison& comparison, const parts::NumberFormat& numbers,
-                            std::size_t width) {
+                            console::Charset charset, std::size_t width) {
     if (comparison.changes.empty()) {
         return noDifferences(comparison);
     }
-    TextTable table({kCaptions.begin(), kCaptions.end()});
+    TextTable table({kCaptions.begin(), kCaptions.end()}, charset);
     for (const Change& change : comparison.changes) {
         table.add({parts::changeName(change.kind), printable(change.item), printable(change.column),
                    printable(valueText(change.before, numbers)),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/cli/console.h"
+
 #include "parts/compare.h"
 #include "parts/number_text.h"
 
@@ -10,7 +12,8 @@ namespace workbench {
 /// What changed, as a table with a line for each change and a sum below it; a line without a table
 /// where nothing did. Ends with a line end, as all of these do.
 std::string comparisonTable(const parts::ListComparison& comparison,
-                            const parts::NumberFormat& numbers, std::size_t width);
+                            const parts::NumberFormat& numbers, console::Charset charset,
+                            std::size_t width);
 
 /// The same for a pull request.
 std::string comparisonMarkdown(const parts::ListComparison& comparison,
