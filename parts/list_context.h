@@ -37,6 +37,7 @@ struct ListContext {
     /// The name without the " (2)" that the host adds to a name that is taken.
     [[nodiscard]] std::string baseNameOf(std::size_t component) const;
 
+    /// The class of its shape, where that is all there is of it.
     [[nodiscard]] std::optional<int> shapeOf(std::size_t component) const;
 };
 

@@ -98,6 +98,22 @@ TEST(Merging, ByShapeTakesEqualShapesTogetherWhateverTheyAreCalled) {
               (std::vector<parts::PossibleDuplicate>{{.shape = 4, .items = {"Disc", "Magnet"}}}));
 }
 
+TEST(Merging, ByShapeLooksAtNoAssembly) {
+    const host::DesignData design = drawn(R"(
+        Cart  box=1x1x1
+          Wheel
+        Table  box=1x1x1
+          Leg)");
+    const parts::PartShapes shapes{.classOf = {std::nullopt, 0, 1, 0, 2}};
+
+    const PartsList list =
+        parts::buildPartsList(design, merging("shape", View::All, "Part Name,Quantity"), shapes);
+
+    EXPECT_EQ(rowsOf(list), "Cart | 1\nWheel | 1\nTable | 1\nLeg | 1");
+    EXPECT_TRUE(list.conflicts.empty());
+    EXPECT_TRUE(list.duplicates.empty());
+}
+
 TEST(Merging, InTheTreeOnlyWhatHoldsTheSameIsOneRow) {
     EXPECT_EQ(rowsOf(R"(
         Box A  number=BOX
