@@ -51,9 +51,9 @@ struct Column {
 
 /// What is known of a field.
 struct FieldInfo {
-    Field field;
-    const char* name;  ///< in options, and the caption where none is chosen
-    const char* key;   ///< in JSON
+    Field field = Field::Item;
+    const char* name = "";  ///< in options, and the caption where none is chosen
+    const char* key = "";   ///< in JSON
     Dimension dimension = Dimension::None;
     bool isMeasured = false;  ///< its values need the bodies
     bool isNumber = false;

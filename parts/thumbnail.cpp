@@ -36,9 +36,9 @@ Vector vectorAt(const std::vector<float>& values, std::size_t point) {
 }
 
 /// Scales a shape to a canvas, a sixteenth of which stays free on each side.
-class View {
+class Projection {
 public:
-    View(const host::ShapeMesh& mesh, int samples) {
+    Projection(const host::ShapeMesh& mesh, int samples) {
         include(mesh.positionsMm);
         include(mesh.edgePointsMm);
         const double extent = std::max({highest_[0] - lowest_[0], highest_[1] - lowest_[1],
@@ -154,7 +154,7 @@ private:
     const host::ShapeMesh& mesh_;
     const ThumbnailStyle& style_;
     Canvas canvas_;
-    View view_;
+    Projection view_;
 };
 
 }  // namespace

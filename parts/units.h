@@ -11,9 +11,9 @@ enum class Dimension { None, Length, Area, Volume, Mass, Density };
 
 /// A unit, and what the host's value (cm, cm2, cm3, kg, kg/cm3) is to be multiplied by.
 struct Unit {
-    const char* name;  ///< as it is shown, such as "cm²"
-    Dimension dimension;
-    double factor;
+    const char* name = "";  ///< as it is shown, such as "cm²"
+    Dimension dimension = Dimension::None;
+    double factor = 1;
 };
 
 /// The unit of this name: "cm²", "cm2" and "cm^2" are the same. Null for an unknown one.
