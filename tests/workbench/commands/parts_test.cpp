@@ -40,6 +40,62 @@ TEST_F(PartsCommand, WritesTheFormatThatTheEndingOfTheOutputNames) {
     EXPECT_EQ(test_support::readFile(file), "Part Number,Quantity\r\nBolt,1\r\n");
 }
 
+TEST_F(PartsCommand, ListsWhatSeveralOfTheDesignNeed) {
+    const ProgramResult result =
+        run({"parts", design("Bolt\nBolt\nNut"), "--multiply", "5", "--format", "csv", "--columns",
+             "Part Number=Number", "--columns", "Quantity", "--sort", "Quantity"});
+
+    EXPECT_EQ(result.output, "Number,Quantity\r\nNut,5\r\nBolt,10\r\n") << result.errors;
+}
+
+TEST_F(PartsCommand, TakesUnitsAndADecimalComma) {
+    const ProgramResult result =
+        run({"parts", design("Bolt  box=1x1x1 material=Sheet:0.0105"), "--format", "csv",
+             "--columns", "Part Number,Mass,Size", "--units", "g,cm", "--decimal-comma"});
+
+    EXPECT_EQ(result.output, "Part Number;Mass [g];Size [cm]\r\nBolt;10,5;1 x 1 x 1\r\n")
+        << result.errors;
+}
+
+TEST_F(PartsCommand, ReportsWhatIsInNoLine) {
+    const ProgramResult result = run({"parts", design(R"(
+        Set  box=1x1x1 structure=Divided
+          Bolt)"),
+                                      "--columns", "Part Number"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "warning: \"Set\" is Divided: the bodies of its own are in no line\n");
+}
+
+TEST_F(PartsCommand, RefusesWhatMakesNoSenseWithTheOptionAndWhatWouldBeRight) {
+    const std::string file = design("Bolt");
+
+    expectFailure(run({"parts", file, "--columns", "Mass[mm]"}), 2,
+                  "tarnix-workbench: --columns \"Mass[mm]\": no unit of Mass; expected one of kg, "
+                  "g, mg, t, lb, oz\n");
+    expectFailure(run({"parts", file, "--filter", "Mass>heavy"}), 2,
+                  "tarnix-workbench: --filter \"Mass>heavy\": expected a number, with one of the "
+                  "units kg, g, mg, t, lb, oz or none\n");
+    expectFailure(run({"parts", file, "--sort", "Item"}), 2,
+                  "tarnix-workbench: --sort \"Item\": a list cannot be sorted by Item\n");
+    expectFailure(run({"parts", file, "--format", "csv", "--delimiter", "::"}), 2,
+                  "tarnix-workbench: --delimiter ::: expected one character, such as ; but no "
+                  "quote\n");
+    EXPECT_EQ(run({"parts", file, "--multiply", "0"}).status, 2);
+    EXPECT_EQ(run({"parts", file, "--view", "flat"}).status, 2);
+}
+
+TEST_F(PartsCommand, WritesNothingWhereItFails) {
+    const std::string file = path("list.csv");
+    test_support::writeFile(file, "old");
+
+    const ProgramResult result =
+        run({"parts", design("Bolt"), "--columns", "Mas", "--output", file});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(test_support::readFile(file), "old");
+}
+
 TEST_F(PartsCommand, AnUnknownColumnIsRefusedWithTheNearestOne) {
     expectFailure(run({"parts", design("Bolt"), "--columns", "Item,Mas"}), 2,
                   "tarnix-workbench: \"Mas\": no such column, and no component has a custom "
