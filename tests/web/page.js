@@ -20,6 +20,10 @@ async function startBrowser() {
 async function open(list, glb, {hash = '', name = 'page', ...options} = {}) {
   const file = path.join(folder, `${name}.html`);
   writePage(file, list, glb);
+  return openFile(file + hash, options);
+}
+
+async function openFile(file, options = {}) {
   const context = await browser.newContext({viewport: {width: 1100, height: 640}, reducedMotion: 'reduce', locale: 'en-GB', offline: true,
                                             acceptDownloads: true, ...options});
   const page = await context.newPage();
@@ -27,7 +31,7 @@ async function open(list, glb, {hash = '', name = 'page', ...options} = {}) {
   page.on('pageerror', error => page.complaints.push(String(error)));
   page.on('console', message => ['error', 'warning'].includes(message.type()) && !isDriverNote(message.text()) && page.complaints.push(message.text()));
   page.on('request', request => /^(file|data|blob):/.test(request.url()) || page.complaints.push(request.url()));
-  await page.goto(`file://${file}${hash}`);
+  await page.goto(`file://${file}`);
   await page.waitForFunction(() => !window.partsPage?.viewer || partsPage.viewer.stats().frames > 0);
   return page;
 }
@@ -120,4 +124,4 @@ const withPixels = page => page.evaluate(() => {
   };
 });
 
-module.exports = {startBrowser, open, openCommon, dropCommon, close, row, selectedRows, shownRows, summary, clickInstance, at, visible, remember, changedInstances, withPixels, folder};
+module.exports = {startBrowser, open, openFile, openCommon, dropCommon, close, row, selectedRows, shownRows, summary, clickInstance, at, visible, remember, changedInstances, withPixels, folder};

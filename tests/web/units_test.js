@@ -15,6 +15,7 @@ const {arrange} = load('list/arrange.ts');
 const {csv, formatNumber} = load('list/format.ts');
 const {readPartsList, sum, total} = load('list/parts_list.ts');
 const {decode, encode} = load('page/address.ts');
+const {Links} = load('page/links.ts');
 
 const query = more => ({search: '', filters: new Map(), sort: null, folded: new Set(), ...more});
 const table = lines => lines.map(cells => ({children: [], parent: -1, level: 0, cells}));
@@ -148,6 +149,16 @@ const tests = {
     list.views[0].list.possibleDuplicates = [{shape: 3, items: ['A', 'B']}];
     const {conflicts, warnings} = readPartsList(list);
     assert.deepStrictEqual([conflicts, warnings], [['BR-1: material: Steel / Brass', '= A = B'], ['Rod: cannot be measured']]);
+  },
+
+  bodiesOfAnAssemblyAreTheOwnOfItsNode() {
+    const occurrence = (path, parent, begin, end) => ({path, parent, begin, end});
+    const model = {instances: [{occurrence: 1}, {occurrence: 2}],
+                   occurrences: [occurrence('', -1, 0, 2), occurrence('A:1', 0, 0, 2), occurrence('A:1+B:1', 1, 1, 2)]};
+    const rows = [{occurrences: [0]}, {occurrences: [1]}, {occurrences: [2]}];
+    const links = new Links({paths: ['A:1#bodies', 'A:1+B:1', 'gone:1']}, model);
+    assert.deepStrictEqual(rows.map(row => links.places(row)), [[[0]], [[1]], []]);
+    assert.deepStrictEqual([0, 1].map(i => links.rowOf(rows, i)), [{row: 0, place: 0}, {row: 1, place: 0}]);
   },
 
   numbersKeepFourSignificantDigits() {

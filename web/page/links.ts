@@ -2,6 +2,11 @@
 import type {PartsList, Row} from '../list/parts_list.ts';
 import type {Model} from '../model/model.ts';
 
+const ownMark = '#bodies';
+
+/// The key of an occurrence's own bodies, beside the occurrence's.
+const ownBodies = (occurrence: number) => -2 - occurrence;
+
 export class Links {
   private readonly occurrenceOfPath = new Map<string, number>();
   private readonly rowsOfViews = new Map<Row[], Map<number, number>>();
@@ -12,9 +17,9 @@ export class Links {
 
   /// The instances at each place of the row; empty places are left out.
   places(row: Row): number[][] {
-    return this.occurrencesOf(row).flatMap(index => {
-      const {begin, end} = this.model.occurrences[index];
-      return end > begin ? [Array.from({length: end - begin}, (_, i) => begin + i)] : [];
+    return row.occurrences.flatMap(path => {
+      const instances = this.instancesAt(this.list.paths[path]);
+      return instances.length ? [instances] : [];
     });
   }
 
@@ -25,6 +30,8 @@ export class Links {
   /// The view's row that the instance belongs to, and at which of its places; the nearest above it if it has none itself.
   rowOf(rows: Row[], instance: number): {row: number; place: number} | null {
     const known = this.rowsOf(rows);
+    const own = known.get(ownBodies(this.model.instances[instance]?.occurrence ?? -1));
+    if (own !== undefined) return {row: own, place: this.places(rows[own]).findIndex(place => place.includes(instance))};
     for (let at = this.model.instances[instance]?.occurrence ?? -1; at >= 0; at = this.model.occurrences[at].parent) {
       const row = known.get(at);
       if (row !== undefined) return {row, place: this.places(rows[row]).findIndex(place => place.includes(instance))};
@@ -32,8 +39,20 @@ export class Links {
     return null;
   }
 
-  private occurrencesOf(row: Row): number[] {
-    return row.occurrences.flatMap(path => this.occurrenceOfPath.get(this.list.paths[path]) ?? []);
+  private instancesAt(path: string): number[] {
+    const known = this.find(path);
+    if (!known) return [];
+    const {begin, end} = this.model.occurrences[known.index];
+    const all = Array.from({length: end - begin}, (_, i) => begin + i);
+    return known.isOwn ? all.filter(each => this.model.instances[each].occurrence === known.index) : all;
+  }
+
+  /// A node of its own may have the bodies of an assembly, or the assembly's node has them itself.
+  private find(path: string): {index: number; isOwn: boolean} | null {
+    const index = this.occurrenceOfPath.get(path);
+    if (index !== undefined) return {index, isOwn: false};
+    const above = path.endsWith(ownMark) ? this.occurrenceOfPath.get(path.slice(0, -ownMark.length)) : undefined;
+    return above === undefined ? null : {index: above, isOwn: true};
   }
 
   // In a tree the deepest row of an occurrence counts; rows come after their parents.
@@ -41,7 +60,10 @@ export class Links {
     let known = this.rowsOfViews.get(rows);
     if (!known) {
       this.rowsOfViews.set(rows, known = new Map());
-      for (let i = 0; i < rows.length; ++i) for (const occurrence of this.occurrencesOf(rows[i])) known.set(occurrence, i);
+      rows.forEach((row, i) => row.occurrences.forEach(path => {
+        const found = this.find(this.list.paths[path]);
+        if (found) known!.set(found.isOwn ? ownBodies(found.index) : found.index, i);
+      }));
     }
     return known;
   }

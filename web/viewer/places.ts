@@ -73,7 +73,8 @@ function waysOf(model: Model, boxes: Float64Array): Float64Array {
   const wayOf: number[][] = [];
   model.occurrences.forEach((occurrence, i) => {
     const above = occurrence.parent < 0 ? {middle: whole, way: [0, 0, 0], share: 1}
-        : {middle: middles[occurrence.parent], way: wayOf[occurrence.parent], share: deeperShare};
+        : {middle: middles[occurrence.parent], way: wayOf[occurrence.parent],
+           share: model.occurrences[occurrence.parent].path === '' ? 1 : deeperShare};
     wayOf.push(above.way.map((way, k) => way + (middles[i][k] - above.middle[k]) * above.share || 0));
   });
   model.instances.forEach((instance, i) => {
