@@ -1,5 +1,6 @@
 #include "tests/support/addin_test.h"
 #include "tests/support/leak_check.h"
+#include "tests/support/new_files.h"
 #include "tests/support/refusal.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,6 @@
 #include <cstdio>
 #include <exception>
 #include <iostream>
-#include <set>
 
 // Each run is a copy of the process, made where the flow begins: a fresh session for the price of a
 // fork, and a crash is one run's own.
@@ -17,26 +17,7 @@
 namespace test_support {
 namespace {
 
-namespace fs = std::filesystem;
-
 enum RunStatus : int { kPassed = 0, kFailed = 3, kNothingLeft = 4 };
-
-std::set<fs::path> filesIn(const fs::path& folder) {
-    std::set<fs::path> files;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        files.insert(entry.path());
-    }
-    return files;
-}
-
-/// What one run left must not be there for the next.
-void removeNewFiles(const fs::path& folder, const std::set<fs::path>& before) {
-    for (const fs::path& file : filesIn(folder)) {
-        if (before.count(file) == 0) {
-            fs::remove_all(file);
-        }
-    }
-}
 
 int runOnce(host::Session& session, const RefusalSweep& sweep, std::uint64_t nth) {
     const int before = failuresSoFar();
@@ -77,11 +58,11 @@ std::uint64_t refuseEachCall(const RefusalSweep& sweep) {
     host::Session session(sweep.options);
     sweep.prepare(session);
     prepareLeakReports();
-    const std::set<fs::path> files = filesIn(session.folder());
+    const NewFiles newFiles(session.folder());
     int failures = 0;
     for (std::uint64_t nth = 1;; ++nth) {
         const int status = runInChild(session, sweep, nth);
-        removeNewFiles(session.folder(), files);
+        newFiles.remove();
         if (status == kNothingLeft) {
             return nth - 1;
         }
