@@ -6,7 +6,7 @@
 namespace parts {
 namespace {
 
-constexpr std::uint32_t kFull = 255;
+constexpr std::uint32_t kOpaque = 255;
 
 /// Twice the area to the left of a line, in square steps.
 std::int64_t areaLeftOf(const CanvasPoint& from, const CanvasPoint& to, std::int64_t x,
@@ -43,9 +43,9 @@ void Canvas::blend(Sample& sample, const host::Rgba& colour, double light) {
     const std::uint32_t alpha = colour.alpha;
     for (std::size_t channel = 0; channel < over.size(); ++channel) {
         const double lit = channel < 3 ? over[channel] * light + 0.5 : over[channel];
-        const auto value = std::min(static_cast<std::uint32_t>(lit), kFull);
+        const auto value = std::min(static_cast<std::uint32_t>(lit), kOpaque);
         sample.rgba[channel] =
-            (value * alpha + sample.rgba[channel] * (kFull - alpha) + kFull / 2) / kFull;
+            (value * alpha + sample.rgba[channel] * (kOpaque - alpha) + kOpaque / 2) / kOpaque;
     }
 }
 
@@ -85,7 +85,7 @@ void Canvas::fill(const std::array<CanvasPoint, 3>& corners, const host::Rgba& c
             Sample& sample = *at(x, y);
             if (depth > sample.depth) {
                 blend(sample, colour, light);
-                sample.depth = colour.alpha == kFull ? depth : sample.depth;
+                sample.depth = colour.alpha == kOpaque ? depth : sample.depth;
             }
         }
     }
@@ -128,7 +128,7 @@ Image Canvas::image() const {
             const std::uint32_t alpha = std::max(sum[3], 1U);
             for (std::size_t channel = 0; channel < 3; ++channel) {
                 image.rgba.push_back(static_cast<std::uint8_t>(
-                    std::min((sum[channel] * kFull + alpha / 2) / alpha, kFull)));
+                    std::min((sum[channel] * kOpaque + alpha / 2) / alpha, kOpaque)));
             }
             const auto count = static_cast<std::uint32_t>(perPixel * perPixel);
             image.rgba.push_back(static_cast<std::uint8_t>((sum[3] + count / 2) / count));

@@ -1,5 +1,6 @@
 #include "parts/compare.h"
 
+#include "parts/ascii.h"
 #include "parts/formula_guard.h"
 #include "parts/natural_order.h"
 #include "parts/number_text.h"
@@ -88,14 +89,6 @@ ChangeKind kindOf(Field field) {
     }
 }
 
-std::string joined(const std::vector<std::string>& texts) {
-    std::string all;
-    for (const std::string& each : texts) {
-        all += (all.empty() ? "" : ", ") + each;
-    }
-    return all;
-}
-
 class Comparer {
 public:
     explicit Comparer(const std::vector<ComparedColumn>& columns) : columns_(columns) {}
@@ -106,8 +99,8 @@ public:
             changes.push_back({.kind = ChangeKind::Moved,
                                .item = after.item,
                                .column = "Used in",
-                               .before = joined(before.parents),
-                               .after = joined(after.parents)});
+                               .before = withCommas(before.parents),
+                               .after = withCommas(after.parents)});
         }
         for (std::size_t column = 0; column < columns_.size(); ++column) {
             compareCell(before, after, column);

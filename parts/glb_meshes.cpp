@@ -19,23 +19,23 @@ constexpr int kLines = 1;
 
 constexpr host::Rgba kPlain = {.red = 186, .green = 193, .blue = 203, .alpha = 255};
 constexpr host::Rgba kEdge = {.red = 45, .green = 52, .blue = 62, .alpha = 255};
-constexpr double kFull = 255;
+constexpr double kLargestByte = 255;
 
 /// Colours of files are sRGB; those of glTF are proportional to light.
 double linear(std::uint8_t value) {
-    const double share = value / kFull;
+    const double share = value / kLargestByte;
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
 json materialFrom(const host::Rgba& colour) {
-    json material = {
-        {"pbrMetallicRoughness",
-         {{"baseColorFactor",
-           {linear(colour.red), linear(colour.green), linear(colour.blue), colour.alpha / kFull}},
-          {"metallicFactor", 0},
-          {"roughnessFactor", 0.7}}},
-        {"doubleSided", true}};
-    if (colour.alpha < kFull) {
+    json material = {{"pbrMetallicRoughness",
+                      {{"baseColorFactor",
+                        {linear(colour.red), linear(colour.green), linear(colour.blue),
+                         colour.alpha / kLargestByte}},
+                       {"metallicFactor", 0},
+                       {"roughnessFactor", 0.7}}},
+                     {"doubleSided", true}};
+    if (colour.alpha < kLargestByte) {
         material["alphaMode"] = "BLEND";
     }
     return material;

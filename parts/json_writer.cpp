@@ -1,6 +1,6 @@
 #include "parts/json_writer.h"
 
-#include "parts/base64.h"
+#include "host/base/base64.h"
 
 #include <nlohmann/json.hpp>
 
@@ -87,9 +87,9 @@ Json orNull(const Optional& value) {
 }
 
 /// Writes a list out, row for row: the whole of it as JSON would take many times its memory.
-class Writer {
+class JsonWriter {
 public:
-    Writer(const PartsList& list, JsonLayout layout, std::ostream& stream)
+    JsonWriter(const PartsList& list, JsonLayout layout, std::ostream& stream)
         : list_(list), lineEnd_(layout == JsonLayout::Indented ? "\n" : ""), stream_(stream) {
         for (std::size_t row = 0; row < list.rows.size(); ++row) {
             if (list.rows[row].parent) {
@@ -223,7 +223,7 @@ private:
         }
         Json json = Json::object();
         for (const auto& [shape, picture] : pictures) {
-            json[std::to_string(shape)] = base64(*picture->png);
+            json[std::to_string(shape)] = host::toBase64(*picture->png);
         }
         write("pictures", json);
     }
@@ -237,7 +237,7 @@ private:
 }  // namespace
 
 void writeJson(const PartsList& list, JsonLayout layout, std::ostream& stream) {
-    Writer(list, layout, stream).write();
+    JsonWriter(list, layout, stream).write();
 }
 
 }  // namespace parts

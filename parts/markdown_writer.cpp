@@ -36,7 +36,7 @@ void writeHead(const PartsList& list, std::ostream& stream) {
     stream << "\n" << rule << "\n";
 }
 
-std::string joined(const std::vector<std::string>& texts) {
+std::string escapedList(const std::vector<std::string>& texts) {
     std::string result;
     for (const std::string& text : texts) {
         result += (result.empty() ? "" : ", ") + escapedForMarkdown(text);
@@ -63,10 +63,10 @@ void writeConflicts(const PartsList& list, std::ostream& stream) {
     for (const Conflict& conflict : list.conflicts) {
         const bool hasValues = !conflict.values.empty();
         stream << "- " << escapedForMarkdown(conflict.item) << ": different " << conflict.what
-               << " (" << joined(hasValues ? conflict.values : conflict.components) << ")\n";
+               << " (" << escapedList(hasValues ? conflict.values : conflict.components) << ")\n";
     }
     for (const PossibleDuplicate& duplicate : list.duplicates) {
-        stream << "- possible duplicates, of one shape: " << joined(duplicate.items) << "\n";
+        stream << "- possible duplicates, of one shape: " << escapedList(duplicate.items) << "\n";
     }
 }
 

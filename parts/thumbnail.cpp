@@ -17,11 +17,11 @@ constexpr int kSamplesPerPixel = 4;
 constexpr host::Rgba kEdgeColour = {.red = 45, .green = 52, .blue = 62, .alpha = 255};
 
 // Square roots of 1/2, 1/6 and 1/3.
-constexpr double kHalf = 0.70710678118654757;
+constexpr double kHalfRoot = 0.70710678118654757;
 constexpr double kSixth = 0.40824829046386302;
 constexpr double kThird = 0.57735026918962573;
 
-constexpr Vector kRight = {kHalf, kHalf, 0};
+constexpr Vector kRight = {kHalfRoot, kHalfRoot, 0};
 constexpr Vector kUp = {-kSixth, kSixth, 2 * kSixth};
 constexpr Vector kViewer = {kThird, -kThird, kThird};
 /// From over the viewer's left shoulder; of length 1.

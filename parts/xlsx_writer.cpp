@@ -87,9 +87,9 @@ double sideOf(const std::string& png) {
                : static_cast<double>(std::max(bigEndian(png, kWidth), bigEndian(png, kHeight)));
 }
 
-class Writer {
+class XlsxWriter {
 public:
-    Writer(const PartsList& list, const NumberFormat& numbers)
+    XlsxWriter(const PartsList& list, const NumberFormat& numbers)
         : list_(list), numbers_(numbers), file_(folder_.path() / "list.xlsx") {
         std::string temporary = folder_.path().string();
         lxw_workbook_options options = {};
@@ -348,7 +348,7 @@ private:
 }  // namespace
 
 std::string xlsxOf(const PartsList& list, const NumberFormat& numbers) {
-    return Writer(list, numbers).bytes();
+    return XlsxWriter(list, numbers).bytes();
 }
 
 }  // namespace parts

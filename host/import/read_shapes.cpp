@@ -1,6 +1,6 @@
 #include "host/import/read_shapes.h"
 
-#include "host/import/base64.h"
+#include "host/base/base64.h"
 #include "host/import/reader_answer.h"
 #include "host/import/step_geometry.h"
 
@@ -71,8 +71,7 @@ void check(const ShapeMesh& mesh) {
         mesh.detail > MeshDetail::Box ||
         !std::is_sorted(mesh.edgeEnds.begin(), mesh.edgeEnds.end()) ||
         (!mesh.edgeEnds.empty() && mesh.edgeEnds.back() > edgePoints) ||
-        !areFinite(mesh.positionsMm) || !areFinite(mesh.normals) ||
-        !areFinite(mesh.edgePointsMm) ||
+        !areFinite(mesh.positionsMm) || !areFinite(mesh.normals) || !areFinite(mesh.edgePointsMm) ||
         std::any_of(mesh.indices.begin(), mesh.indices.end(),
                     [points](std::uint32_t index) { return index >= points; })) {
         throw std::runtime_error("the reader's mesh is damaged");

@@ -1,4 +1,3 @@
-#include "parts/base64.h"
 #include "parts/formula_guard.h"
 #include "parts/natural_order.h"
 #include "parts/number_text.h"
@@ -89,12 +88,4 @@ TEST(FormulaGuard, LeavesNumbersAndOtherTexts) {
     for (const char* const text : {"", "-5", "+49.5", "a=b", "007", "M5-8", "'quoted"}) {
         EXPECT_EQ(guardedFormula(text), text);
     }
-}
-
-TEST(Base64, IsThatOfTheStandard) {
-    EXPECT_EQ(parts::base64(""), "");
-    EXPECT_EQ(parts::base64("f"), "Zg==");
-    EXPECT_EQ(parts::base64("fo"), "Zm8=");
-    EXPECT_EQ(parts::base64("foobar"), "Zm9vYmFy");
-    EXPECT_EQ(parts::base64("\xFF\xFE\xFD"), "//79");
 }

@@ -3,6 +3,7 @@
 #include "workbench/cli/exit_code.h"
 
 #include "host/base/utf8_path.h"
+#include "parts/ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -20,22 +21,16 @@ constexpr std::array<std::string_view, 7> kEndings = {".step", ".stp",  ".p21", 
                                                       ".igs",  ".iges", ".design.json"};
 constexpr std::string_view kPacked = ".gz";
 
-std::string lowered(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char each) {
-        return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
-    });
-    return text;
-}
-
 bool isPattern(const std::string& text) { return text.find_first_of("*?") != std::string::npos; }
 
 std::string withoutPacking(const std::string& name) {
-    return lowered(name).ends_with(kPacked) ? name.substr(0, name.size() - kPacked.size()) : name;
+    return parts::lowerCase(name).ends_with(kPacked) ? name.substr(0, name.size() - kPacked.size())
+                                                     : name;
 }
 
 /// How long the ending of a design's name is; 0 for another name.
 std::size_t endingSize(const std::string& name) {
-    const std::string low = lowered(name);
+    const std::string low = parts::lowerCase(name);
     const auto* const found =
         std::ranges::find_if(kEndings, [&](std::string_view each) { return low.ends_with(each); });
     return found == kEndings.end() ? 0 : found->size();

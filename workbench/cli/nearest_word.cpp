@@ -1,19 +1,13 @@
 #include "workbench/cli/nearest_word.h"
 
+#include "parts/ascii.h"
+
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
 #include <numeric>
 
 namespace workbench {
 namespace {
-
-std::string lowered(std::string word) {
-    std::ranges::transform(word, word.begin(), [](unsigned char each) {
-        return static_cast<char>(std::tolower(each));
-    });
-    return word;
-}
 
 using Costs = std::vector<std::size_t>;
 
@@ -55,7 +49,7 @@ std::string nearestWord(const std::string& word, const std::vector<std::string>&
     std::string nearest;
     std::size_t least = std::max<std::size_t>(1, word.size() / kShareThatMayDiffer) + 1;
     for (const std::string& each : candidates) {
-        const std::size_t cost = distance(lowered(word), lowered(each));
+        const std::size_t cost = distance(parts::lowerCase(word), parts::lowerCase(each));
         if (cost < least) {
             least = cost;
             nearest = each;

@@ -20,7 +20,7 @@ namespace workbench {
 namespace {
 
 constexpr const char* kOutput = "output";
-constexpr const char* kFile = "file";
+constexpr const char* kFileKey = "file";
 
 [[noreturn]] void fail(const std::string& file, unsigned line, const std::string& text) {
     throw Failure(ExitCode::BadInput, file + ":" + std::to_string(line) + ": " + text);
@@ -46,7 +46,7 @@ public:
     ProfileOutput output(const toml::table& table) const {
         ProfileOutput output{
             .file = {}, .entries = entries(table), .line = table.source().begin.line};
-        const auto file = std::ranges::find(output.entries, kFile, &ProfileEntry::key);
+        const auto file = std::ranges::find(output.entries, kFileKey, &ProfileEntry::key);
         if (file == output.entries.end()) {
             fail(file_, output.line, "an [[output]] needs a key \"file\"");
         }
@@ -121,7 +121,7 @@ std::vector<const CLI::Option*> optionsIn(const CLI::App& command, const Profile
 bool isFlag(const CLI::Option& option) { return option.get_expected_max() == 0; }
 
 /// Whether an option may be repeated.
-bool isRepeated(const CLI::Option& option) { return option.get_items_expected_max() > 1; }
+bool takesSeveral(const CLI::Option& option) { return option.get_items_expected_max() > 1; }
 
 [[noreturn]] void refuseKey(const CLI::App& command, const ProfileKeys& keys,
                             const std::string& file, const ProfileEntry& entry) {
@@ -144,13 +144,13 @@ std::string expectedInstead(const CLI::Option& option, const ProfileKeys& keys,
     if (isFlag(option)) {
         return entry.kind == Kind::Flag ? "" : "true or false";
     }
-    if (entry.kind == Kind::Array && !isRepeated(option) && !contains(keys.lists, entry.key)) {
+    if (entry.kind == Kind::Array && !takesSeveral(option) && !contains(keys.lists, entry.key)) {
         return "one value, not an array";
     }
     return entry.kind == Kind::Flag ? "a string or a number" : "";
 }
 
-std::string joined(const std::vector<std::string>& entries) {
+std::string inOneWord(const std::vector<std::string>& entries) {
     std::string text;
     for (const std::string& each : entries) {
         text += (text.empty() ? "" : ",") + escapedEntry(each);
@@ -162,8 +162,8 @@ void give(CLI::Option& option, const ProfileEntry& entry) {
     if (isFlag(option) && entry.values.front() == "false") {
         return;
     }
-    if (entry.kind == ProfileEntry::Kind::Array && !isRepeated(option)) {
-        option.add_result(joined(entry.values));
+    if (entry.kind == ProfileEntry::Kind::Array && !takesSeveral(option)) {
+        option.add_result(inOneWord(entry.values));
     } else {
         option.add_result(entry.values);
     }
@@ -171,8 +171,8 @@ void give(CLI::Option& option, const ProfileEntry& entry) {
 }
 
 bool isPlainNumber(const std::string& text) {
-    constexpr std::size_t kDigits = 15;
-    return !text.empty() && text.size() <= kDigits && (text == "0" || text.front() != '0') &&
+    constexpr std::size_t kSafeDigits = 15;
+    return !text.empty() && text.size() <= kSafeDigits && (text == "0" || text.front() != '0') &&
            text.find_first_not_of("0123456789") == std::string::npos;
 }
 
@@ -195,7 +195,7 @@ std::string valueText(const CLI::Option& option) {
         return option.get_default_str().empty() ? "" : valueText(option.get_default_str());
     }
     const std::vector<std::string>& values = option.results();
-    if (!isRepeated(option)) {
+    if (!takesSeveral(option)) {
         return valueText(values.back());
     }
     std::string text;

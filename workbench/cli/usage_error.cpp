@@ -2,6 +2,7 @@
 
 #include "workbench/cli/command_summary.h"
 #include "workbench/cli/exit_code.h"
+#include "workbench/cli/input_files.h"
 #include "workbench/cli/nearest_word.h"
 
 #include "host/base/utf8_path.h"
@@ -9,8 +10,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <array>
-#include <cctype>
 #include <filesystem>
 #include <iterator>
 #include <string_view>
@@ -27,16 +26,9 @@ std::string suggestion(const std::string& nearest) {
 
 /// Whether it can only be meant as a file: it is one, or it is spelt like one that can be opened.
 bool isFile(const std::string& word) {
-    constexpr std::array<std::string_view, 6> kEndings = {".step", ".stp",  ".p21",
-                                                          ".igs",  ".iges", ".json"};
-    const std::filesystem::path path = host::fromUtf8(word);
-    std::string ending = host::toUtf8(path.extension());
-    std::ranges::transform(ending, ending.begin(), [](unsigned char each) {
-        return static_cast<char>(std::tolower(each));
-    });
     std::error_code ignored;
-    return std::ranges::find(kEndings, ending) != kEndings.end() ||
-           std::filesystem::is_regular_file(path, ignored);
+    return hasDesignEnding(word) || word.ends_with(".json") ||
+           std::filesystem::is_regular_file(host::fromUtf8(word), ignored);
 }
 
 std::vector<std::string> commandNames(const CommandSummary& program) {

@@ -4,6 +4,7 @@
 #include "workbench/dialogs/edited_list.h"
 
 #include "host/base/utf8_path.h"
+#include "parts/ascii.h"
 #include "parts/formula_guard.h"
 #include "parts/number_text.h"
 
@@ -15,13 +16,6 @@ namespace workbench {
 namespace {
 
 using parts::Field;
-
-std::string lowered(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char each) {
-        return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
-    });
-    return text;
-}
 
 /// A caption as an option has it: "Mass [g]" is the column "Mass[g]".
 parts::Column columnOf(const std::string& caption) {
@@ -51,7 +45,7 @@ std::optional<std::size_t> indexOf(const parts::PartsRequest& request, Field fie
 }  // namespace
 
 bool isEditedPartsList(const std::string& file) {
-    const std::string ending = lowered(host::toUtf8(host::fromUtf8(file).extension()));
+    const std::string ending = parts::lowerCase(host::toUtf8(host::fromUtf8(file).extension()));
     return ending == ".csv" || ending == ".tsv";
 }
 

@@ -25,7 +25,7 @@ namespace workbench {
 namespace {
 
 /// What became of a design.
-struct Outcome {
+struct FileOutcome {
     std::vector<std::string> contents;  ///< one for each task
     std::vector<host::ReadingWarning> warnings;
     std::vector<parts::ListWarning> remarks;
@@ -54,7 +54,7 @@ ReadingDepth depthOf(const PartsRun& run) {
 }
 
 /// A lone design is read with its progress on the terminal.
-host::DesignData readOne(const PartsRun& run, const std::string& file, Outcome& outcome) {
+host::DesignData readOne(const PartsRun& run, const std::string& file, FileOutcome& outcome) {
     if (isSeveral(run)) {
         return readSilently(file, run.reading, depthOf(run), outcome.warnings);
     }
@@ -75,7 +75,7 @@ parts::PartShapes shapesFor(const PartsRun& run, const host::DesignData& design)
     return isNeeded ? readPartShapes(design, request) : parts::PartShapes();
 }
 
-void makeLists(const PartsRun& run, const std::string& file, Outcome& outcome) {
+void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcome) {
     const host::DesignData design = readOne(run, file, outcome);
     const parts::PartShapes shapes = shapesFor(run, design);
     for (const ListTask& task : run.tasks) {
@@ -100,8 +100,8 @@ void makeLists(const PartsRun& run, const std::string& file, Outcome& outcome) {
     }
 }
 
-Outcome outcomeOf(const PartsRun& run, const std::string& file) {
-    Outcome outcome;
+FileOutcome outcomeOf(const PartsRun& run, const std::string& file) {
+    FileOutcome outcome;
     try {
         makeLists(run, file, outcome);
     } catch (const Failure& failure) {
@@ -135,7 +135,7 @@ public:
     }
 
     /// Waits for what became of a design.
-    Outcome take(std::size_t file) {
+    FileOutcome take(std::size_t file) {
         std::unique_lock lock(mutex_);
         done_.wait(lock, [&] { return outcomes_[file].has_value(); });
         return *std::exchange(outcomes_[file], std::nullopt);
@@ -152,7 +152,7 @@ private:
                 }
                 file = next_++;
             }
-            Outcome outcome = outcomeOf(run_, run_.files[file]);
+            FileOutcome outcome = outcomeOf(run_, run_.files[file]);
             const std::scoped_lock lock(mutex_);
             outcomes_[file] = std::move(outcome);
             done_.notify_all();
@@ -163,7 +163,7 @@ private:
     std::mutex mutex_;  ///< guards what follows
     std::condition_variable done_;
     std::size_t next_ = 0;
-    std::vector<std::optional<Outcome>> outcomes_;
+    std::vector<std::optional<FileOutcome>> outcomes_;
     std::vector<std::thread> threads_;
 };
 
@@ -181,7 +181,7 @@ class Delivery {
 public:
     explicit Delivery(const PartsRun& run) : run_(run), joined_(run.tasks.size()) {}
 
-    void deliver(const std::string& file, const Outcome& outcome) {
+    void deliver(const std::string& file, const FileOutcome& outcome) {
         reportWarnings(outcome.warnings);
         reportRemarks(outcome.remarks);
         try {

@@ -1,6 +1,6 @@
 #include "host/import/reader/shape_json.h"
 
-#include "host/import/base64.h"
+#include "host/base/base64.h"
 
 #include <string_view>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "host/import/base64.h"
+#include "host/base/base64.h"
 
 #include <array>
 #include <cstdint>
