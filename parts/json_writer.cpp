@@ -17,9 +17,9 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 
-std::string dumped(const Json& json) {
+std::string dumped(const Json& node) {
     // A design file holds any bytes; what is no UTF-8 is replaced.
-    return json.dump(/*indent=*/-1, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
+    return node.dump(/*indent=*/-1, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
 }
 
 Json toJson(const Cell& cell) {
@@ -38,11 +38,11 @@ Json toJson(const Cell& cell) {
 }
 
 Json toJson(const ListColumn& column) {
-    Json json = {{"key", column.key}, {"caption", column.caption}};
+    Json node = {{"key", column.key}, {"caption", column.caption}};
     if (column.unit != nullptr) {
-        json["unit"] = column.unit->name;
+        node["unit"] = column.unit->name;
     }
-    return json;
+    return node;
 }
 
 Json toJson(const Conflict& conflict) {
@@ -127,11 +127,11 @@ private:
     }
 
     [[nodiscard]] Json source() const {
-        Json json = {{"file", list_.source.file}};
+        Json node = {{"file", list_.source.file}};
         if (!list_.source.hash.empty()) {
-            json["hash"] = list_.source.hash;
+            node["hash"] = list_.source.hash;
         }
-        return json;
+        return node;
     }
 
     [[nodiscard]] Json units() const {
@@ -173,11 +173,11 @@ private:
     }
 
     [[nodiscard]] Json cells(const PartsRow& row) const {
-        Json json = Json::object();
+        Json node = Json::object();
         for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
-            json[list_.columns[cell].key] = toJson(row.cells[cell]);
+            node[list_.columns[cell].key] = toJson(row.cells[cell]);
         }
-        return json;
+        return node;
     }
 
     template <class Counted>
@@ -188,19 +188,19 @@ private:
     }
 
     [[nodiscard]] Json members(const PartsRow& row) const {
-        Json json = Json::array();
+        Json node = Json::array();
         for (const Member& member : row.members) {
-            json.push_back(counted(member));
+            node.push_back(counted(member));
         }
-        return json;
+        return node;
     }
 
     [[nodiscard]] Json uses(const PartsRow& row) const {
-        Json json = Json::array();
+        Json node = Json::array();
         for (const Use& use : row.usedIn) {
-            json.push_back(counted(use));
+            node.push_back(counted(use));
         }
-        return json;
+        return node;
     }
 
     [[nodiscard]] Json totals() const {
@@ -221,11 +221,11 @@ private:
                 }
             }
         }
-        Json json = Json::object();
+        Json node = Json::object();
         for (const auto& [shape, picture] : pictures) {
-            json[std::to_string(shape)] = host::toBase64(*picture->png);
+            node[std::to_string(shape)] = host::toBase64(*picture->png);
         }
-        write("pictures", json);
+        write("pictures", node);
     }
 
     const PartsList& list_;
