@@ -5,6 +5,8 @@
 #include "parts/natural_order.h"
 #include "parts/number_text.h"
 
+#include "host/design/shape_invariants.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -105,11 +107,7 @@ public:
         for (std::size_t column = 0; column < columns_.size(); ++column) {
             compareCell(before, after, column);
         }
-        if (before.shape && after.shape &&
-            !(isClose(before.shape->volume, after.shape->volume) &&
-              isClose(before.shape->area, after.shape->area))) {
-            addShape(before, after);
-        }
+        compareShapes(before, after);
         unchanged += changes.size() == count ? 1U : 0U;
     }
 
@@ -135,6 +133,18 @@ private:
                                .column = about.caption,
                                .before = before.cells[column],
                                .after = after.cells[column]});
+        }
+    }
+
+    /// Where volumes and areas are equal, other invariants may not be, as of a mirror image.
+    void compareShapes(const ComparedLine& before, const ComparedLine& after) {
+        if (before.shape && after.shape &&
+            !(isClose(before.shape->volume, after.shape->volume) &&
+              isClose(before.shape->area, after.shape->area))) {
+            addShape(before, after);
+        } else if (before.invariants && after.invariants &&
+                   !host::canBeEqual(*before.invariants, *after.invariants)) {
+            changes.push_back({.kind = ChangeKind::Shape, .item = after.item, .column = "Shape"});
         }
     }
 
@@ -181,7 +191,8 @@ PartsRequest comparisonRequest(PartsRequest request) {
     return request;
 }
 
-std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount) {
+std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount,
+                                  const host::ShapeData& shapes) {
     std::vector<ComparedLine> lines;
     for (const PartsRow& row : list.rows) {
         ComparedLine line{.item = list.componentNumbers[row.component],
@@ -196,6 +207,10 @@ std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount
             if (volume && area) {
                 line.shape = {.volume = *volume, .area = *area};
             }
+        }
+        const host::Shape* const shape = shapes.of(row.component);
+        if (shape != nullptr && row.kind == RowKind::Part) {
+            line.invariants = shape->invariants;
         }
         lines.push_back(std::move(line));
     }

@@ -2,6 +2,8 @@
 
 #include "parts/parts_list.h"
 
+#include "host/design/shape_data.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -27,6 +29,7 @@ struct ComparedLine {
     std::vector<std::string> parents = {};  ///< what it is used in, in order
     bool hasParents = false;                ///< whether those are known
     std::optional<ShapeMeasures> shape = {};
+    std::optional<host::ShapeInvariants> invariants = {};  ///< where shapes were looked at
 };
 
 struct ComparedColumn {
@@ -60,9 +63,10 @@ struct ListComparison {
     std::size_t unchanged = 0;         ///< lines
 };
 
-/// The lines of a list. `shapeOf` columns are taken from the list's own Volume and Area, see
-/// `comparisonRequest`.
-std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount);
+/// The lines of a list that was made by a `comparisonRequest` of so many columns, with the shapes
+/// of its design, if they are known.
+std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount,
+                                  const host::ShapeData& shapes = {});
 
 /// The request with what shapes are told apart by: columns Volume and Area behind the others.
 PartsRequest comparisonRequest(PartsRequest request);

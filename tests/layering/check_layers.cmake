@@ -37,7 +37,7 @@ set(rules
     "host/ui|host/(application|session)/.*||ui/ knows neither the application nor the user"
     "host/application|host/session/.*||the application does not know who uses it"
     "parts|(tarnix|workbench|tests|bench)/.*||parts/ knows plain designs and nothing that shows or reads them"
-    "parts|host/.*|host/design/design_data.h,host/design/shape_data.h,host/design/transform.h|parts/ knows plain designs and nothing that shows or reads them"
+    "parts|host/.*|host/design/shape_invariants.h,host/design/design_data.h,host/design/shape_data.h,host/design/transform.h|parts/ knows plain designs and nothing that shows or reads them"
     "parts|(Core|Fusion)/.*||parts/ knows plain designs and nothing that shows or reads them"
     "workbench/cli|workbench/(commands|dialogs|output)/.*|workbench/cli/main.cpp|cli/ serves the others, only the program lists the commands"
     "workbench/output|workbench/(commands|dialogs)/.*||output/ writes what it is given"

@@ -12,6 +12,8 @@
 #include "parts/bom_structure.h"
 #include "parts/compare.h"
 
+#include "host/import/read_shapes.h"
+
 #include <algorithm>
 #include <iostream>
 #include <set>
@@ -59,6 +61,10 @@ std::vector<parts::ComparedColumn> aboutColumns(const parts::PartsList& list, st
     return columns;
 }
 
+host::ShapeData shapesOf(const host::DesignData& design) {
+    return host::readShapes(design, {.classes = true});
+}
+
 parts::ListComparison compareDesigns(const CompareOptions& options) {
     const host::DesignData before = readDesign(options.before, options.reading);
     const host::DesignData after = readDesign(options.after, options.reading);
@@ -67,8 +73,8 @@ parts::ListComparison compareDesigns(const CompareOptions& options) {
     const std::size_t count = request.columns.size();
     const parts::PartsRequest whole = parts::comparisonRequest(request);
     const parts::PartsList old = listOf(before, whole);
-    return parts::compareLines(parts::linesOf(old, count),
-                               parts::linesOf(listOf(after, whole), count),
+    return parts::compareLines(parts::linesOf(old, count, shapesOf(before)),
+                               parts::linesOf(listOf(after, whole), count, shapesOf(after)),
                                aboutColumns(old, count, /*isAsShown=*/false));
 }
 
