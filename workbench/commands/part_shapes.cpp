@@ -54,4 +54,10 @@ void writeModel(const host::DesignData& design, const std::string& file, std::os
     parts::writeGlb(design, shapes, stream);
 }
 
+host::ShapeData readMeshes(const host::DesignData& design) {
+    host::ShapeData shapes = host::readShapes(design, {.meshes = true});
+    reportProblems(design, shapes);
+    return shapes;
+}
+
 }  // namespace workbench

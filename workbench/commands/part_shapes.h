@@ -4,6 +4,7 @@
 #include "parts/parts_request.h"
 
 #include "host/design/design_data.h"
+#include "host/design/shape_data.h"
 
 #include <ostream>
 #include <string>
@@ -19,5 +20,8 @@ parts::PartShapes readPartShapes(const host::DesignData& design,
 /// Writes a design that was read from `file` as a model in 3D, binary glTF; see parts/glb_writer.h.
 /// Throws a `Failure` for one without shapes.
 void writeModel(const host::DesignData& design, const std::string& file, std::ostream& stream);
+
+/// The shapes of a design as meshes, for a page. Warns as the others do.
+host::ShapeData readMeshes(const host::DesignData& design);
 
 }  // namespace workbench

@@ -4,6 +4,7 @@
 #include "workbench/cli/quiet.h"
 #include "workbench/commands/design_reading.h"
 #include "workbench/commands/part_shapes.h"
+#include "workbench/commands/parts_page.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/output_names.h"
 #include "workbench/output/reports.h"
@@ -48,7 +49,8 @@ bool needsShapes(const ListTask& task) {
 ReadingDepth depthOf(const PartsRun& run) {
     const bool needsBodies = std::ranges::any_of(run.tasks, [](const ListTask& task) {
         return parts::needsBodies(task.request) || needsShapes(task) ||
-               task.format.kind == PartsFormatKind::Model;
+               task.format.kind == PartsFormatKind::Model ||
+               task.format.kind == PartsFormatKind::Page;
     });
     return needsBodies ? ReadingDepth::Whole : ReadingDepth::Tree;
 }
@@ -75,9 +77,35 @@ parts::PartShapes shapesFor(const PartsRun& run, const host::DesignData& design)
     return isNeeded ? readPartShapes(design, request) : parts::PartShapes();
 }
 
+/// Lists of one design mostly have the same warnings.
+void addRemarks(const parts::PartsList& list, FileOutcome& outcome) {
+    for (const parts::ListWarning& warning : list.warnings) {
+        if (std::ranges::find(outcome.remarks, warning) == outcome.remarks.end()) {
+            outcome.remarks.push_back(warning);
+        }
+    }
+}
+
+/// A page has all views, whatever the view of the request is.
+std::string pageOf(const ListTask& task, const host::DesignData& design, const std::string& file,
+                   const parts::PartShapes& shapes, FileOutcome& outcome) {
+    std::vector<parts::PartsList> lists;
+    parts::PartsRequest request = task.request;
+    for (const parts::View view : pageViews()) {
+        request.view = view;
+        lists.push_back(listOf(design, request, shapes));
+        lists.back().source = pageSource(file);
+        addRemarks(lists.back(), outcome);
+    }
+    std::ostringstream page;
+    writePage(design, readMeshes(design), lists, page);
+    return std::move(page).str();
+}
+
 void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcome) {
     const host::DesignData design = readOne(run, file, outcome);
     const parts::PartShapes shapes = shapesFor(run, design);
+    const parts::PartShapes none;
     for (const ListTask& task : run.tasks) {
         if (task.format.kind == PartsFormatKind::Model) {
             std::ostringstream model;
@@ -85,18 +113,17 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
             outcome.contents.push_back(std::move(model).str());
             continue;
         }
-        parts::PartsList list =
-            listOf(design, task.request, needsShapes(task) ? shapes : parts::PartShapes());
+        const parts::PartShapes& known = needsShapes(task) ? shapes : none;
+        if (task.format.kind == PartsFormatKind::Page) {
+            outcome.contents.push_back(pageOf(task, design, file, known, outcome));
+            continue;
+        }
+        parts::PartsList list = listOf(design, task.request, known);
         list.source.file = file;
         std::ostringstream content;
         writeParts(list, task.format, content);
         outcome.contents.push_back(std::move(content).str());
-        // Lists of one design mostly have the same warnings.
-        for (const parts::ListWarning& warning : list.warnings) {
-            if (std::ranges::find(outcome.remarks, warning) == outcome.remarks.end()) {
-                outcome.remarks.push_back(warning);
-            }
-        }
+        addRemarks(list, outcome);
     }
 }
 

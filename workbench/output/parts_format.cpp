@@ -33,6 +33,7 @@ constexpr KnownFormat kFormats[] = {
     {.kind = PartsFormatKind::Json, .name = "json", .ending = ".json"},
     {.kind = PartsFormatKind::JsonLines, .name = "jsonl", .ending = ".jsonl"},
     {.kind = PartsFormatKind::Model, .name = "glb", .ending = ".glb"},
+    {.kind = PartsFormatKind::Page, .name = "html", .ending = ".html"},
 };
 
 char delimiterOf(const PartsFormat& format) {
@@ -109,6 +110,7 @@ void writeParts(const parts::PartsList& list, const PartsFormat& format, std::os
                            : partsTable(list, format.numbers, console::charset(), resultWidth()));
             break;
         case PartsFormatKind::Model:
+        case PartsFormatKind::Page:
             throw std::logic_error("a list is no model");
     }
 }

@@ -10,7 +10,7 @@
 /// A parts list in the format that was asked for. A new format needs its name and ending here.
 namespace workbench {
 
-enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Xlsx, Json, JsonLines, Model };
+enum class PartsFormatKind { Table, Csv, Tsv, Markdown, Xlsx, Json, JsonLines, Model, Page };
 
 /// How a list is to be written.
 struct PartsFormat {
@@ -34,7 +34,7 @@ PartsFormatKind partsFormatOf(const std::string& file);
 /// Whether several lists, one after the other, are a file of this format.
 bool canBeJoined(PartsFormatKind kind);
 
-/// Writes a list, in any format but that of a model, which is made of the design itself. Throws a
+/// Writes a list, in any format but model and page, which are made of the design itself. Throws a
 /// `Failure` for what the format cannot hold.
 void writeParts(const parts::PartsList& list, const PartsFormat& format, std::ostream& stream);
 

@@ -1,0 +1,60 @@
+#include "workbench/commands/parts_page.h"
+
+#include "workbench/cli/quiet.h"
+
+#include "host/base/utf8_path.h"
+#include "host/import/content_hash.h"
+#include "parts/glb_writer.h"
+#include "parts/page_writer.h"
+#include "web/page_template.h"
+
+#include <algorithm>
+#include <iostream>
+#include <sstream>
+
+namespace workbench {
+namespace {
+
+constexpr std::size_t kBytesInKb = 1000;
+
+bool isDrawn(const host::Shape& shape) { return shape.mesh.has_value(); }
+
+std::string modelOf(const host::DesignData& design, const host::ShapeData& meshes) {
+    if (std::ranges::none_of(meshes.shapes, isDrawn)) {
+        return {};
+    }
+    std::ostringstream model;
+    parts::writeGlb(design, meshes, model);
+    return model.str();
+}
+
+void reportSize(const host::ShapeData& meshes, std::size_t bytes) {
+    std::size_t triangles = 0;
+    for (const host::Shape& shape : meshes.shapes) {
+        triangles += shape.mesh ? shape.mesh->triangles() : 0;
+    }
+    if (!isQuiet()) {
+        std::cerr << "model: " << std::ranges::count_if(meshes.shapes, isDrawn) << " shapes, "
+                  << triangles << " triangles, " << bytes / kBytesInKb << " kB\n";
+    }
+}
+
+}  // namespace
+
+std::vector<parts::View> pageViews() {
+    return {parts::View::Parts, parts::View::Indented, parts::View::Top, parts::View::All};
+}
+
+parts::ListSource pageSource(const std::string& file) {
+    const std::string hash = host::sha256OfFile(host::fromUtf8(file));
+    return {.file = file, .hash = hash.empty() ? "" : "sha256:" + hash};
+}
+
+void writePage(const host::DesignData& design, const host::ShapeData& meshes,
+               const std::vector<parts::PartsList>& lists, std::ostream& stream) {
+    const std::string model = modelOf(design, meshes);
+    reportSize(meshes, model.size());
+    parts::writePage(web::pageTemplate(), design, lists, model, stream);
+}
+
+}  // namespace workbench
