@@ -1,8 +1,8 @@
 #include "parts/json_writer.h"
 
-#include "host/base/base64.h"
+#include "parts/json_text.h"
 
-#include <nlohmann/json.hpp>
+#include "host/base/base64.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -13,14 +13,7 @@
 namespace parts {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 constexpr int kVersion = 1;
-
-std::string dumped(const Json& node) {
-    // A design file holds any bytes; what is no UTF-8 is replaced.
-    return node.dump(/*indent=*/-1, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
-}
 
 Json toJson(const Cell& cell) {
     if (const auto* const text = std::get_if<std::string>(&cell)) {

@@ -1,11 +1,10 @@
 #include "parts/page_writer.h"
 
+#include "parts/json_text.h"
 #include "parts/json_writer.h"
 #include "parts/places.h"
 
 #include "host/base/base64.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <sstream>
@@ -15,17 +14,10 @@
 namespace parts {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-constexpr int kVersion = 1;
+constexpr int kPageVersion = 1;
 constexpr std::string_view kPartsMark = "@PARTS@";
 constexpr std::string_view kModelMark = "@MODEL@";
 constexpr std::string_view kHashMark = "sha256:";
-
-std::string dumped(const Json& json) {
-    // A design file holds any bytes; what is no UTF-8 is replaced.
-    return json.dump(/*indent=*/-1, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
-}
 
 /// The name without its folders, those of either system.
 std::string fileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
@@ -54,7 +46,7 @@ std::string dataOf(const host::DesignData& design, const std::vector<PartsList>&
         views += (views.empty() ? "" : ",") + viewJson(list, design, paths);
     }
     const Json file = fileJson(lists.empty() ? ListSource{} : lists.front().source);
-    return "{\"schema\":\"tarnix-page\",\"version\":" + std::to_string(kVersion) +
+    return "{\"schema\":\"tarnix-page\",\"version\":" + std::to_string(kPageVersion) +
            ",\"file\":" + dumped(file) + ",\"paths\":" + dumped(Json(paths.paths())) +
            ",\"views\":[" + views + "]}";
 }

@@ -70,8 +70,8 @@ fs::path deliver(const BomResult& result, const std::string& design, const std::
 constexpr const char* kLonePart = "is one part; the list shows what is below the root";
 
 /// With a warning for programs, which read no remarks.
-std::string asJson(const BomResult& result, const std::string& file,
-                   std::vector<host::ReadingWarning> warnings) {
+std::string bomJson(const BomResult& result, const std::string& file,
+                    std::vector<host::ReadingWarning> warnings) {
     if (result.isLonePart) {
         host::ReadingWarning lone;
         lone.code = "lone-part";
@@ -87,7 +87,7 @@ std::string formatted(const BomResult& result, const std::string& file, const st
     if (format == "csv") {
         return result.exported;
     }
-    return format == "json" ? asJson(result, file, warnings)
+    return format == "json" ? bomJson(result, file, warnings)
                             : asTable(result.list, console::charset(), resultWidth());
 }
 
