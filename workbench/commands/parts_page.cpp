@@ -2,8 +2,6 @@
 
 #include "workbench/cli/quiet.h"
 
-#include "host/base/utf8_path.h"
-#include "host/import/content_hash.h"
 #include "parts/glb_writer.h"
 #include "parts/page_writer.h"
 #include "web/page_template.h"
@@ -43,11 +41,6 @@ void reportSize(const host::ShapeData& meshes, std::size_t bytes) {
 
 std::vector<parts::View> pageViews() {
     return {parts::View::Parts, parts::View::Indented, parts::View::Top, parts::View::All};
-}
-
-parts::ListSource pageSource(const std::string& file) {
-    const std::string hash = host::sha256OfFile(host::fromUtf8(file));
-    return {.file = file, .hash = hash.empty() ? "" : "sha256:" + hash};
 }
 
 void writePage(const host::DesignData& design, const host::ShapeData& meshes,

@@ -14,9 +14,6 @@ namespace workbench {
 /// The views that a page has.
 std::vector<parts::View> pageViews();
 
-/// Where the design comes from, with the hash of the file's content.
-parts::ListSource pageSource(const std::string& file);
-
 /// Writes a page with these lists of the design, and says on stderr how large its model is. Without
 /// meshes it is a list alone.
 void writePage(const host::DesignData& design, const host::ShapeData& meshes,

@@ -11,6 +11,7 @@
 #include "workbench/output/staged_files.h"
 
 #include "host/base/utf8_path.h"
+#include "host/import/content_hash.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -86,6 +87,12 @@ void addRemarks(const parts::PartsList& list, FileOutcome& outcome) {
     }
 }
 
+/// Where a design comes from, with the hash of the file's content as far as it can be read again.
+parts::ListSource sourceOf(const std::string& file) {
+    const std::string hash = host::sha256OfFile(host::fromUtf8(file));
+    return {.file = file, .hash = hash.empty() ? "" : "sha256:" + hash};
+}
+
 /// A page has all views, whatever the view of the request is.
 std::string pageOf(const ListTask& task, const host::DesignData& design, const std::string& file,
                    const parts::PartShapes& shapes, FileOutcome& outcome) {
@@ -94,7 +101,7 @@ std::string pageOf(const ListTask& task, const host::DesignData& design, const s
     for (const parts::View view : pageViews()) {
         request.view = view;
         lists.push_back(listOf(design, request, shapes));
-        lists.back().source = pageSource(file);
+        lists.back().source = sourceOf(file);
         addRemarks(lists.back(), outcome);
     }
     std::ostringstream page;
@@ -119,7 +126,7 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
             continue;
         }
         parts::PartsList list = listOf(design, task.request, known);
-        list.source.file = file;
+        list.source = sourceOf(file);
         std::ostringstream content;
         writeParts(list, task.format, content);
         outcome.contents.push_back(std::move(content).str());
