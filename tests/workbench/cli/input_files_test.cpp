@@ -1,25 +1,15 @@
 #include "workbench/cli/input_files.h"
 
 #include "tests/support/temporary_folder.h"
+#include "tests/workbench/refusal.h"
 
 #include "host/base/utf8_path.h"
-#include "workbench/cli/exit_code.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// The line with which something is refused.
-template <class Action>
-std::string refusal(Action action) {
-    try {
-        action();
-    } catch (const workbench::Failure& failure) {
-        return failure.what();
-    }
-    return "nothing";
-}
-
+using test_support::refusal;
 using workbench::expandInputs;
 using Names = std::vector<std::string>;
 

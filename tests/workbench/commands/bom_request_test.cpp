@@ -21,7 +21,7 @@ using workbench::parseSort;
 using workbench::SortOrder;
 
 /// The line with which something is refused as wrong usage; empty where it is not.
-std::string refusal(const std::function<void()>& parse) {
+std::string usageRefusal(const std::function<void()>& parse) {
     try {
         parse();
         return "";
@@ -36,7 +36,7 @@ TEST(BomRequest, OfNoOptionsIsEmpty) {
     EXPECT_TRUE(parseColumns({}).empty());
     EXPECT_FALSE(parseSort("").has_value());
     EXPECT_FALSE(parseLevels("").has_value());
-    EXPECT_EQ(refusal([] { checkRequest({}); }), "");
+    EXPECT_EQ(usageRefusal([] { checkRequest({}); }), "");
 }
 
 TEST(BomRequest, AColumnIsNamedAfterItsPropertyUnlessItHasACaption) {
@@ -47,19 +47,19 @@ TEST(BomRequest, AColumnIsNamedAfterItsPropertyUnlessItHasACaption) {
 }
 
 TEST(BomRequest, AColumnWithoutPropertyIsRefused) {
-    EXPECT_EQ(refusal([] { parseColumns({"=Weight"}); }),
+    EXPECT_EQ(usageRefusal([] { parseColumns({"=Weight"}); }),
               "--column =Weight: expected PROPERTY or PROPERTY=CAPTION");
 }
 
 TEST(BomRequest, AColumnGivenTwiceIsRefused) {
-    EXPECT_EQ(refusal([] {
+    EXPECT_EQ(usageRefusal([] {
                   parseColumns({"Mass", "Area", "Mass=kg"});
               }),
               "--column Mass is given twice");
 }
 
 TEST(BomRequest, ASeventhColumnIsRefused) {
-    EXPECT_EQ(refusal([] {
+    EXPECT_EQ(usageRefusal([] {
                   parseColumns({"a", "b", "c", "d", "e", "f", "g"});
               }),
               "--column is given 7 times, but there are 6 free columns");
@@ -79,7 +79,7 @@ TEST(BomRequest, ASortOfTheModelIsRefused) {
     request.tab = &workbench::kModelTab;
     request.sort = parseSort("Mass");
 
-    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+    EXPECT_EQ(usageRefusal([&] { checkRequest(request); }),
               "--sort requires --tab structure: the model tab has an order of its own");
 }
 
@@ -89,22 +89,23 @@ TEST(BomRequest, TheTreeIsExpandedToALevelOrCompletely) {
 }
 
 TEST(BomRequest, ALevelThatIsNotANumberIsRefused) {
-    EXPECT_EQ(refusal([] { parseLevels("2nd"); }), "--expand 2nd: expected all, or a level from 1");
+    EXPECT_EQ(usageRefusal([] { parseLevels("2nd"); }),
+              "--expand 2nd: expected all, or a level from 1");
 }
 
 TEST(BomRequest, AnExpandedStructureIsRefused) {
     BomRequest request;
     request.levels = parseLevels("all");
 
-    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+    EXPECT_EQ(usageRefusal([&] { checkRequest(request); }),
               "--expand requires --tab model: the structure tab has no tree");
 }
 
 TEST(BomRequest, AnEditOfAnotherFormIsRefused) {
-    EXPECT_EQ(refusal([] { checkCellNames({"12:Part Number=A=B:C", "1:Mass="}); }), "");
-    EXPECT_EQ(refusal([] { checkCellNames({"1=Mass:1"}); }),
+    EXPECT_EQ(usageRefusal([] { checkCellNames({"12:Part Number=A=B:C", "1:Mass="}); }), "");
+    EXPECT_EQ(usageRefusal([] { checkCellNames({"1=Mass:1"}); }),
               "--set 1=Mass:1: expected ROW:COLUMN=VALUE");
-    EXPECT_EQ(refusal([] { checkCellNames({":Mass=1"}); }),
+    EXPECT_EQ(usageRefusal([] { checkCellNames({":Mass=1"}); }),
               "--set :Mass=1: expected ROW:COLUMN=VALUE");
 }
 
@@ -112,7 +113,7 @@ TEST(BomRequest, KeepingColumnsThatAreNotGivenIsRefused) {
     BomRequest request;
     request.keepColumns = true;
 
-    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+    EXPECT_EQ(usageRefusal([&] { checkRequest(request); }),
               "--keep-columns requires --column: it stores the columns that are given");
 }
 
@@ -121,7 +122,7 @@ TEST(BomRequest, ColumnsAndNoColumnsAreRefused) {
     request.columns = parseColumns({"Mass"});
     request.noColumns = true;
 
-    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+    EXPECT_EQ(usageRefusal([&] { checkRequest(request); }),
               "--no-columns shows none, but --column is given");
 }
 
@@ -129,6 +130,6 @@ TEST(BomRequest, AnEditThatIsNotSavedIsRefused) {
     BomRequest request;
     request.edits.cells = {"1:Mass=1"};
 
-    EXPECT_EQ(refusal([&] { checkRequest(request); }),
+    EXPECT_EQ(usageRefusal([&] { checkRequest(request); }),
               "--set requires --save: without it the edits are lost when the dialog closes");
 }

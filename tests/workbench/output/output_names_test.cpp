@@ -1,24 +1,13 @@
 #include "workbench/output/output_names.h"
 
 #include "tests/support/temporary_folder.h"
-
-#include "workbench/cli/exit_code.h"
+#include "tests/workbench/refusal.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// The line with which something is refused.
-template <class Action>
-std::string refusal(Action action) {
-    try {
-        action();
-    } catch (const workbench::Failure& failure) {
-        return failure.what();
-    }
-    return "nothing";
-}
-
+using test_support::refusal;
 using workbench::checkOutputNames;
 using workbench::outputName;
 
