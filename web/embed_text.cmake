@@ -13,19 +13,17 @@ while(at LESS length)
 endwhile()
 file(WRITE ${SOURCE} "#include \"web/page_template.h\"
 
-#include <string_view>
-
 namespace web {
 namespace {
 
-constexpr std::string_view kPieces[] = {
+constexpr const char* kPieces[] = {
 ${pieces}};
 
 }  // namespace
 
 std::string pageTemplate() {
     std::string page;
-    for (const std::string_view piece : kPieces) {
+    for (const char* const piece : kPieces) {
         page += piece;
     }
     return page;

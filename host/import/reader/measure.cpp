@@ -1,5 +1,7 @@
 #include "host/import/reader/measure.h"
 
+#include "host/import/reader/lengths.h"
+
 #include <BRepBndLib.hxx>
 #include <BRepBuilderAPI_Transform.hxx>
 #include <BRepGProp.hxx>
@@ -10,12 +12,6 @@
 #include <cmath>
 
 namespace step {
-namespace {
-
-constexpr double kMillimetresPerCentimetre = 10;
-
-}  // namespace
-
 Size sizeOf(const TopoDS_Shape& shape) {
     Size size;
     GProp_GProps surface;

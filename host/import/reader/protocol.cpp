@@ -1,6 +1,7 @@
 #include "host/import/reader/protocol.h"
 
 #include "host/import/reader/failure_text.h"
+#include "host/import/reader/lengths.h"
 #include "host/import/reader/measurements.h"
 #include "host/import/reader/shape_classes.h"
 #include "host/import/reader/shape_json.h"
@@ -15,8 +16,6 @@ namespace step {
 namespace {
 
 using nlohmann::json;
-
-constexpr double kMillimetresPerCentimetre = 10;
 
 /// The first three rows of the matrix, translation in cm.
 json cellsOf(const gp_Trsf& placement) {

@@ -1,5 +1,6 @@
 #include "host/import/reader/shape_marks.h"
 
+#include "host/import/reader/lengths.h"
 #include "host/import/reader/spreads.h"
 
 #include <BRepAdaptor_Curve.hxx>
@@ -22,7 +23,6 @@
 namespace step {
 namespace {
 
-constexpr double kMillimetresPerCentimetre = 10;
 constexpr double kRelativePosition = 1e-5;
 constexpr double kLeastPosition = 1e-5;  // mm
 
