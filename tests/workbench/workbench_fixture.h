@@ -91,9 +91,9 @@ protected:
         return addinCopy() / "Tarnix_configuration.xml";
     }
 
-    /// A path in the test's folder, both in UTF-8.
+    /// A path in the test's folder as the system writes it, both in UTF-8.
     [[nodiscard]] std::string path(const std::string& name) const {
-        return host::toUtf8(folder.path() / host::fromUtf8(name));
+        return host::toUtf8((folder.path() / host::fromUtf8(name)).make_preferred());
     }
 
     [[nodiscard]] std::string out() const { return host::toUtf8(folder.path() / "out"); }

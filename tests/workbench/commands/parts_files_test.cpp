@@ -116,9 +116,9 @@ TEST_F(PartsOfFiles, WhatNeedsAFileOfItsOwnIsNotPrintedForSeveral) {
 }
 
 TEST_F(PartsOfFiles, AProfileBesideTheDesignHoldsOptionsAndOutputs) {
-    profile("columns = [\"Part Number\", \"Quantity\"]\nmultiply = 3\n\n[[output]]\nfile = \"" +
-            path("out/{stem}.csv") + "\"\n\n[[output]]\nfile = \"" + path("out/{stem}.tsv") +
-            "\"\ncolumns = \"Quantity\"\n");
+    profile("columns = [\"Part Number\", \"Quantity\"]\nmultiply = 3\n\n[[output]]\nfile = '" +
+            path("out/{stem}.csv") + "'\n\n[[output]]\nfile = '" + path("out/{stem}.tsv") +
+            "'\ncolumns = \"Quantity\"\n");
 
     const ProgramResult result = run({"parts", path("in/cart.design.json")});
 
@@ -128,8 +128,8 @@ TEST_F(PartsOfFiles, AProfileBesideTheDesignHoldsOptionsAndOutputs) {
 }
 
 TEST_F(PartsOfFiles, OptionsWinOverTheProfile) {
-    profile("columns = \"Item\"\nmultiply = 3\n[[output]]\nfile = \"" + path("out/never.csv") +
-            "\"\nmultiply = 9\n");
+    profile("columns = \"Item\"\nmultiply = 3\n[[output]]\nfile = '" + path("out/never.csv") +
+            "'\nmultiply = 9\n");
 
     const ProgramResult result =
         list({"--output", path("out/{stem}.csv"), "--multiply", "2", "--quiet"});
@@ -151,7 +151,7 @@ TEST_F(PartsOfFiles, ANamedProfileTakesThePlaceOfTheOneBesideTheDesign) {
 }
 
 TEST_F(PartsOfFiles, ABadProfileIsRefusedWithItsLineBeforeAnythingIsWritten) {
-    profile("multiply = 2\n\n[[output]]\nfile = \"" + path("out/a.csv") + "\"\nvew = \"all\"\n");
+    profile("multiply = 2\n\n[[output]]\nfile = '" + path("out/a.csv") + "'\nvew = \"all\"\n");
 
     expectFailure(run({"parts", path("in/cart.design.json")}), 1,
                   "tarnix-workbench: " + path("in/tarnix.toml") +
