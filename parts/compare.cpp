@@ -1,6 +1,5 @@
 #include "parts/compare.h"
 
-#include "parts/ascii.h"
 #include "parts/formula_guard.h"
 #include "parts/natural_order.h"
 #include "parts/number_text.h"
@@ -12,7 +11,6 @@
 #include <charconv>
 #include <cmath>
 #include <map>
-#include <set>
 #include <string_view>
 
 namespace parts {
@@ -27,55 +25,48 @@ bool isClose(double left, double right) {
     return std::abs(left - right) <= kRounding * std::max(std::abs(left), std::abs(right));
 }
 
-/// The number that a text of a spreadsheet is, and how many decimals it has.
-struct ShownNumber {
-    double value = 0;
-    int decimals = 0;
-};
-
-std::optional<ShownNumber> shownNumber(std::string text) {
+/// The number that a text of a spreadsheet is.
+std::optional<double> shownNumber(std::string text) {
     std::ranges::replace(text, ',', '.');
-    ShownNumber number;
+    double number = 0;
     const char* const end = text.data() + text.size();
-    const auto [last, failure] = std::from_chars(text.data(), end, number.value);
-    if (failure != std::errc() || last != end) {
-        return std::nullopt;
-    }
-    const std::size_t point = text.find('.');
-    number.decimals = point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
-    return number;
+    const auto [last, failure] = std::from_chars(text.data(), end, number);
+    return failure == std::errc() && last == end ? std::optional(number) : std::nullopt;
 }
 
-/// Whether a number is what a spreadsheet shows, in its digits.
-bool isShownAs(const Number& number, const std::string& text) {
+/// Half a unit of the last digit that a list writes of a number. The digits that the spreadsheet
+/// has left are no measure: it drops zeros, and a user may type fewer.
+double halfOfLastDigit(const Number& number, const NumberFormat& format) {
     constexpr double kHalf = 0.5;
     constexpr double kTen = 10;
-    const std::optional<ShownNumber> shown = shownNumber(text);
-    if (!shown) {
-        return false;
-    }
-    const double unit = std::pow(kTen, -shown->decimals);
-    // Large numbers were shown in full, whatever their significant digits.
-    return std::abs(number.value - shown->value) <= (kHalf + kRounding) * unit;
+    const bool isExact =
+        number.decimals == kWhole || (number.decimals == kSignificant && number.value == 0);
+    return isExact ? 0 : (kHalf + kRounding) * std::pow(kTen, -decimalsOf(number, format));
+}
+
+bool isShownAs(const Number& number, const std::string& text, const NumberFormat& format) {
+    const std::optional<double> shown = shownNumber(text);
+    return shown && std::abs(number.value - *shown) <= halfOfLastDigit(number, format);
 }
 
 bool isSameText(const std::string& left, const std::string& right) {
     return left == right || guardedFormula(left) == right || left == guardedFormula(right);
 }
 
-bool isSame(const Cell& left, const Cell& right, bool isAsShown) {
+bool isSame(const Cell& left, const Cell& right, const ComparedColumn& about) {
+    const NumberFormat format{.significantDigits = about.shownDigits};
     const auto* const one = std::get_if<Number>(&left);
     const auto* const other = std::get_if<Number>(&right);
     if (one != nullptr && other != nullptr) {
         return isClose(one->value, other->value);
     }
-    if (isAsShown && one != nullptr) {
-        return isShownAs(*one, cellText(right, {}));
+    if (about.isAsShown && one != nullptr) {
+        return isShownAs(*one, cellText(right, format), format);
     }
-    if (isAsShown && other != nullptr) {
-        return isShownAs(*other, cellText(left, {}));
+    if (about.isAsShown && other != nullptr) {
+        return isShownAs(*other, cellText(left, format), format);
     }
-    return isSameText(cellText(left, {}), cellText(right, {}));
+    return isSameText(cellText(left, format), cellText(right, format));
 }
 
 ChangeKind kindOf(Field field) {
@@ -91,18 +82,44 @@ ChangeKind kindOf(Field field) {
     }
 }
 
+/// Whether some went from one parent to another. More or fewer in the parents that a line had is
+/// another quantity and no move, unless there are as many in all.
+bool isMoved(const ComparedLine& before, const ComparedLine& after) {
+    if (!std::ranges::equal(before.parents, after.parents, {},
+                            &ComparedLine::Parents::value_type::first,
+                            &ComparedLine::Parents::value_type::first)) {
+        return true;
+    }
+    bool isMore = false;
+    bool isLess = false;
+    for (const auto& [parent, quantity] : before.parents) {
+        isMore = isMore || after.parents.at(parent) > quantity;
+        isLess = isLess || after.parents.at(parent) < quantity;
+    }
+    return (isMore && isLess) || (isMore != isLess && before.quantity == after.quantity);
+}
+
+/// As the column "Used in" has them.
+std::string parentsText(const ComparedLine::Parents& parents) {
+    std::string text;
+    for (const auto& [parent, quantity] : parents) {
+        text += (text.empty() ? "" : "; ") + parent + " (" + std::to_string(quantity) + ")";
+    }
+    return text;
+}
+
 class Comparer {
 public:
     explicit Comparer(const std::vector<ComparedColumn>& columns) : columns_(columns) {}
 
     void compare(const ComparedLine& before, const ComparedLine& after) {
         const std::size_t count = changes.size();
-        if (before.hasParents && after.hasParents && before.parents != after.parents) {
+        if (before.hasParents && after.hasParents && isMoved(before, after)) {
             changes.push_back({.kind = ChangeKind::Moved,
                                .item = after.item,
                                .column = "Used in",
-                               .before = withCommas(before.parents),
-                               .after = withCommas(after.parents)});
+                               .before = parentsText(before.parents),
+                               .after = parentsText(after.parents)});
         }
         for (std::size_t column = 0; column < columns_.size(); ++column) {
             compareCell(before, after, column);
@@ -127,7 +144,7 @@ public:
 private:
     void compareCell(const ComparedLine& before, const ComparedLine& after, std::size_t column) {
         const ComparedColumn& about = columns_[column];
-        if (!isSame(before.cells[column], after.cells[column], about.isAsShown)) {
+        if (!isSame(before.cells[column], after.cells[column], about)) {
             changes.push_back({.kind = kindOf(about.field),
                                .item = after.item,
                                .column = about.caption,
@@ -168,12 +185,13 @@ struct Namesakes {
 };
 
 /// A row's parents by their part numbers; the root has another name in each file.
-std::vector<std::string> parentsOf(const PartsList& list, const PartsRow& row) {
-    std::set<std::string> parents;
+ComparedLine::Parents parentsOf(const PartsList& list, const PartsRow& row) {
+    ComparedLine::Parents parents;
     for (const Use& use : row.usedIn) {
-        parents.insert(use.component == 0 ? "the top" : list.componentNumbers[use.component]);
+        parents[use.component == 0 ? "the top" : list.componentNumbers[use.component]] +=
+            use.quantity;
     }
-    return {parents.begin(), parents.end()};
+    return parents;
 }
 
 std::optional<double> numberIn(const Cell& cell) {
@@ -197,6 +215,7 @@ std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount
     for (const PartsRow& row : list.rows) {
         ComparedLine line{.item = list.componentNumbers[row.component],
                           .parents = parentsOf(list, row),
+                          .quantity = row.quantity,
                           .hasParents = list.request.view != View::Indented};
         line.item += row.kind == RowKind::OwnBodies ? " (bodies of its own)" : "";
         line.cells.assign(row.cells.begin(),

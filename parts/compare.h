@@ -1,10 +1,13 @@
 #pragma once
 
+#include "parts/number_text.h"
 #include "parts/parts_list.h"
 
 #include "host/design/shape_data.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,10 +27,14 @@ struct ShapeMeasures {
 
 /// A line of either list.
 struct ComparedLine {
-    std::string item;                       ///< what lines are matched by
-    std::vector<Cell> cells = {};           ///< one for each column that is compared
-    std::vector<std::string> parents = {};  ///< what it is used in, in order
-    bool hasParents = false;                ///< whether those are known
+    /// By what a parent is matched by: how many of the item are in one of it.
+    using Parents = std::map<std::string, std::int64_t>;
+
+    std::string item;              ///< what lines are matched by
+    std::vector<Cell> cells = {};  ///< one for each column that is compared
+    Parents parents = {};          ///< what it is used in
+    std::int64_t quantity = 0;     ///< in the whole design, where the parents are known
+    bool hasParents = false;       ///< whether those are known
     std::optional<ShapeMeasures> shape = {};
     std::optional<host::ShapeInvariants> invariants = {};  ///< where shapes were looked at
 };
@@ -36,9 +43,10 @@ struct ComparedColumn {
     Field field = Field::Property;
     std::string caption;
 
-    /// A spreadsheet that was edited has numbers as they were shown: they are compared in as many
-    /// digits as it has.
+    /// A list that was edited has numbers as they were shown: they are compared in the digits that
+    /// a list is written with.
     bool isAsShown = false;
+    int shownDigits = NumberFormat().significantDigits;
 };
 
 enum class ChangeKind { Added, Removed, Moved, Quantity, Value, Shape };

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMostDecimals = 18;
 
-int decimalsOf(double value, int significantDigits) {
+int significantDecimals(double value, int significantDigits) {
     if (value == 0) {
         return 0;
     }
@@ -41,15 +41,18 @@ void dropSignOfZero(std::string& digits) {
 
 }  // namespace
 
+int decimalsOf(const Number& number, const NumberFormat& format) {
+    return number.decimals == kSignificant
+               ? significantDecimals(number.value, format.significantDigits)
+               : std::clamp(number.decimals, 0, kMostDecimals);
+}
+
 std::string numberText(const Number& number, const NumberFormat& format) {
     if (!std::isfinite(number.value)) {
         return "";
     }
-    const bool isSignificant = number.decimals == kSignificant;
-    std::string digits =
-        fixed(number.value, isSignificant ? decimalsOf(number.value, format.significantDigits)
-                                          : std::min(number.decimals, kMostDecimals));
-    if (isSignificant) {
+    std::string digits = fixed(number.value, decimalsOf(number, format));
+    if (number.decimals == kSignificant) {
         dropZeros(digits);
     }
     dropSignOfZero(digits);

@@ -12,6 +12,9 @@ struct NumberFormat {
     bool decimalComma = false;
 };
 
+/// How many decimals a number is written with, before zeros at its end are dropped.
+int decimalsOf(const Number& number, const NumberFormat& format);
+
 /// A number in digits: fixed decimals as they are, else as many as the significant digits need,
 /// without zeros at the end. Never an exponent, never thousands separators.
 std::string numberText(const Number& number, const NumberFormat& format);

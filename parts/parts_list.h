@@ -28,8 +28,8 @@ namespace parts {
 
 /// Decimals of a number by its significant digits: as many as the writer is asked for.
 inline constexpr int kSignificant = -1;
-/// A whole number.
-inline constexpr int kWhole = 0;
+/// A count: whole by what it is and not by how it is shown.
+inline constexpr int kWhole = -2;
 
 /// A number in the unit of its column.
 struct Number {

@@ -30,14 +30,60 @@ TEST(Compare, NumbersThatWritersRoundAreEqual) {
     EXPECT_EQ(changes(parts::Field::Mass, Number{.value = 1}, Number{.value = 1.00001}).size(), 1U);
 }
 
-TEST(Compare, ANumberOfASpreadsheetCountsWithItsDigits) {
+TEST(Compare, ANumberOfASpreadsheetIsEqualInTheDigitsThatAListWrites) {
     EXPECT_TRUE(isSameAsShown(1.23456, "1.235"));
     EXPECT_TRUE(isSameAsShown(1.23456, "1,235"));
-    EXPECT_TRUE(isSameAsShown(1.23456, "1.2"));
+    EXPECT_TRUE(isSameAsShown(1.23456, "1.23456"));
+    EXPECT_TRUE(isSameAsShown(1.5, "1.50"));
+    EXPECT_TRUE(isSameAsShown(9.99996, "10"));
     EXPECT_TRUE(isSameAsShown(123456.7, "123457"));
+    EXPECT_TRUE(isSameAsShown(0, "0"));
+    EXPECT_FALSE(isSameAsShown(1.4, "1"));
+    EXPECT_FALSE(isSameAsShown(1.23456, "1.2"));
+    EXPECT_FALSE(isSameAsShown(123456.7, "123500"));
+    EXPECT_FALSE(isSameAsShown(0, "0.4"));
     EXPECT_FALSE(isSameAsShown(1.23456, "1.236"));
     EXPECT_FALSE(isSameAsShown(1.23456, "heavy"));
     EXPECT_FALSE(isSameAsShown(1.23456, ""));
+}
+
+TEST(Compare, ACountIsEqualToNoFraction) {
+    const Number six{.value = 6, .decimals = parts::kWhole};
+
+    EXPECT_TRUE(changes(parts::Field::Quantity, six, "6", /*isAsShown=*/true).empty());
+    EXPECT_EQ(changes(parts::Field::Quantity, six, "6.4", /*isAsShown=*/true).size(), 1U);
+}
+
+TEST(Compare, ChosenDecimalsAreThoseThatAListWrites) {
+    const Number mass{.value = 6.4, .decimals = 0};
+
+    EXPECT_TRUE(changes(parts::Field::Mass, mass, "6", /*isAsShown=*/true).empty());
+    EXPECT_EQ(changes(parts::Field::Mass, mass, "7", /*isAsShown=*/true).size(), 1U);
+}
+
+/// What moves between two lines that are in parents A and B so often, and so often in all.
+std::vector<Change> moves(std::int64_t a, std::int64_t b, std::int64_t all) {
+    const ComparedLine old{
+        .item = "P", .parents = {{"A", 2}, {"B", 4}}, .quantity = 6, .hasParents = true};
+    const ComparedLine now{
+        .item = "P", .parents = {{"A", a}, {"B", b}}, .quantity = all, .hasParents = true};
+    return parts::compareLines({old}, {now}, {}).changes;
+}
+
+TEST(Compare, OtherQuantitiesInTheSameParentsAreAMove) {
+    EXPECT_EQ(moves(4, 2, 6), (std::vector<Change>{{.kind = ChangeKind::Moved,
+                                                    .item = "P",
+                                                    .column = "Used in",
+                                                    .before = "A (2); B (4)",
+                                                    .after = "A (4); B (2)"}}));
+    EXPECT_EQ(moves(5, 2, 7).size(), 1U);
+    // One of A instead of two: as many in all, in other places.
+    EXPECT_EQ(moves(4, 4, 6).size(), 1U);
+}
+
+TEST(Compare, MoreInTheSameParentsIsNoMove) {
+    EXPECT_TRUE(moves(2, 4, 12).empty());
+    EXPECT_TRUE(moves(3, 4, 7).empty());
 }
 
 TEST(Compare, TheMarkOfATextThatASpreadsheetWouldRunIsNoDifference) {

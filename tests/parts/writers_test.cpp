@@ -137,6 +137,14 @@ TEST(Json, HasNumbersAsNumbersWithAllTheirDigits) {
     EXPECT_DOUBLE_EQ(row["massKg"], 0.023553);
 }
 
+TEST(Json, DecimalsThatAreShownTakeNoDigitsAway) {
+    const auto read = nlohmann::json::parse(
+        json(listOf("Bolt  box=1x1x3.5 material=S:0.001", "Quantity,Mass[g]:0")));
+
+    EXPECT_NEAR(read["rows"][0]["cells"]["mass"].get<double>(), 3.5, 1e-12);
+    EXPECT_TRUE(read["rows"][0]["cells"]["quantity"].is_number_integer());
+}
+
 TEST(Json, ShowsTheTreeByItemNumbers) {
     const auto read = nlohmann::json::parse(json(listOf(R"(
         Hinge

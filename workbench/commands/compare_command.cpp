@@ -31,32 +31,40 @@ struct CompareOptions {
     bool exitCode = false;
 };
 
-/// What is compared of two designs: what one orders by, and all custom properties.
-std::vector<parts::Column> comparedColumns(const CompareOptions& options,
-                                           const std::vector<const host::DesignData*>& designs) {
-    if (!options.list.columns.empty()) {
-        return requestOf(options.list).columns;
-    }
-    std::vector<parts::Column> columns =
-        parts::parseColumns("Part Name,Description,Quantity,Mass,Material,BOM Structure");
+std::set<std::string> propertiesOf(const std::vector<const host::DesignData*>& designs) {
     std::set<std::string> names;
     for (const host::DesignData* const design : designs) {
         const std::vector<std::string> some = parts::propertyNames(*design);
         names.insert(some.begin(), some.end());
     }
+    return names;
+}
+
+/// What is compared of two designs: what one orders by, and all custom properties. A property that
+/// one of them has, the other need not have.
+std::vector<parts::Column> comparedColumns(const CompareOptions& options,
+                                           const std::vector<const host::DesignData*>& designs) {
+    const std::set<std::string> names = propertiesOf(designs);
+    std::vector<parts::Column> columns = requestOf(options.list).columns;
+    for (parts::Column& column : columns) {
+        column.isChosenProperty = column.isChosenProperty || names.contains(column.property);
+    }
+    if (!columns.empty()) {
+        return columns;
+    }
+    columns = parts::parseColumns("Part Name,Description,Quantity,Mass,Material,BOM Structure");
     for (const std::string& name : names) {
-        columns.push_back({.field = parts::Field::Property, .property = name});
+        columns.push_back(
+            {.field = parts::Field::Property, .property = name, .isChosenProperty = true});
     }
     return columns;
 }
 
-std::vector<parts::ComparedColumn> aboutColumns(const parts::PartsList& list, std::size_t count,
-                                                bool isAsShown) {
+std::vector<parts::ComparedColumn> aboutColumns(const parts::PartsList& list, std::size_t count) {
     std::vector<parts::ComparedColumn> columns;
     for (std::size_t column = 0; column < count; ++column) {
-        columns.push_back({.field = list.columns[column].column.field,
-                           .caption = list.columns[column].caption,
-                           .isAsShown = isAsShown});
+        columns.push_back(
+            {.field = list.columns[column].column.field, .caption = list.columns[column].caption});
     }
     return columns;
 }
@@ -75,7 +83,7 @@ parts::ListComparison compareDesigns(const CompareOptions& options) {
     const parts::PartsList old = listOf(before, whole);
     return parts::compareLines(parts::linesOf(old, count, shapesOf(before)),
                                parts::linesOf(listOf(after, whole), count, shapesOf(after)),
-                               aboutColumns(old, count, /*isAsShown=*/false));
+                               aboutColumns(old, count));
 }
 
 /// A design and a list of it that was edited in a spreadsheet.
@@ -86,8 +94,11 @@ parts::ListComparison compareWithList(const CompareOptions& options, bool isList
         readDesign(isListOld ? options.after : options.before, options.reading);
     const parts::PartsList list = listOf(design, edited.request());
     const std::vector<parts::ComparedLine> ofDesign = edited.linesOf(list);
-    const std::vector<parts::ComparedColumn> columns =
-        aboutColumns(list, list.columns.size(), /*isAsShown=*/true);
+    std::vector<parts::ComparedColumn> columns = aboutColumns(list, list.columns.size());
+    for (parts::ComparedColumn& column : columns) {
+        column.isAsShown = true;
+        column.shownDigits = options.list.writing.numbers.significantDigits;
+    }
     return isListOld ? parts::compareLines(edited.lines(), ofDesign, columns)
                      : parts::compareLines(ofDesign, edited.lines(), columns);
 }
@@ -134,6 +145,11 @@ void addLists(CLI::App& command, CompareOptions& options) {
                     "the columns that it has")
         ->type_name("COLUMNS")
         ->allow_extra_args(false);
+    command
+        .add_option("--digits", options.list.writing.numbers.significantDigits,
+                    "Significant digits that the list was written with")
+        ->check(CLI::Range(1, 17))
+        ->capture_default_str();
     command.add_option("--view", options.list.view, "Which lines are compared, as for parts")
         ->check(CLI::IsMember({"parts", "all", "top"}))
         ->capture_default_str();

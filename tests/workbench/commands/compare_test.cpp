@@ -85,8 +85,8 @@ TEST_F(CompareCommand, APartBelowAnotherAssemblyHasMoved) {
     EXPECT_EQ(result.output,
               "| Change | Item | What | Old | New |\n"
               "| --- | --- | --- | --- | --- |\n"
-              "| moved | Bolt | Used in | Left | Right |\n"
-              "| moved | Nut | Used in | Right | Left |\n\n"
+              "| moved | Bolt | Used in | Left (1) | Right (1) |\n"
+              "| moved | Nut | Used in | Right (1) | Left (1) |\n\n"
               "0 added, 0 removed, 2 changes in other lines, 0 unchanged\n");
 }
 
@@ -103,6 +103,36 @@ TEST_F(CompareCommand, AnotherShapeOfEqualVolumeIsAnotherShape) {
                                 {"column", "Area [cm\xC2\xB2]"},
                                 {"old", 28.0},
                                 {"new", 24.0}}));
+}
+
+TEST_F(CompareCommand, APropertyThatOneDesignAloneHasIsAChange) {
+    const char* const change =
+        "| Change | Item | What | Old | New |\n"
+        "| --- | --- | --- | --- | --- |\n";
+    const char* const count = "\n0 added, 0 removed, 1 change in other lines, 0 unchanged\n";
+    const std::string plain = "Bolt";
+    const std::string red = "Bolt  property=Colour/red";
+
+    const ProgramResult added = compare(plain, red, {"--format", "markdown"});
+    EXPECT_EQ(added.output, std::string(change) + "| changed | Bolt | Colour |  | red |\n" + count)
+        << added.errors;
+    const ProgramResult removed =
+        compare(red, plain, {"--format", "markdown", "--columns", "Colour"});
+    EXPECT_EQ(removed.output,
+              std::string(change) + "| changed | Bolt | Colour | red |  |\n" + count)
+        << removed.errors;
+    EXPECT_EQ(compare(plain, red, {"--columns", "Color"}).status, 2);
+}
+
+TEST_F(CompareCommand, JsonHasAllDigitsWhateverDecimalsAreShown) {
+    const ProgramResult result =
+        compare("Block  box=1x1x1 material=Steel:1.25", "Block  box=1x1x1 material=Steel:1.75",
+                {"--format", "json", "--columns", "Mass:0"});
+
+    const json changes = json::parse(result.output).at("changes");
+    ASSERT_EQ(changes.size(), 1U) << result.output;
+    EXPECT_EQ(changes[0].at("old"), 1.25);
+    EXPECT_EQ(changes[0].at("new"), 1.75);
 }
 
 TEST_F(CompareCommand, TheStatusSaysWhetherThereAreDifferencesWhenAsked) {
@@ -138,7 +168,7 @@ TEST_F(CompareCommand, EditsOfAListAreFoundByItsPartNumbers) {
         Bolt  box=1x1x1 material=Steel:0.008 description==danger
         Bolt
         Nut  box=1x1x1 material=Steel:0.008)");
-    // 81.23456 g are shown as 81.23; lines change their order; a line is new.
+    // 81.23456 g were shown as 81.23; lines change their order; a line is new.
     const std::string list = edited(file, {{"1,Axle,1,81.23", "9,Axle,1,81.2"},
                                            {"2,Bolt,2,8,", "7,Bolt,3,8,"},
                                            {"3,Nut,1,8,\r\n", "1,Washer,4,1,round\r\n"}});
@@ -147,14 +177,24 @@ TEST_F(CompareCommand, EditsOfAListAreFoundByItsPartNumbers) {
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.output, text(R"(
-        Change    Item    What      Old  New
-        ────────  ──────  ────────  ───  ───
-        quantity  Bolt    Quantity    2    3
-        removed   Nut                 1
-        added     Washer                   4
+        Change    Item    What           Old   New
+        ────────  ──────  ────────  ────────  ────
+        changed   Axle    Mass [g]  81.23456  81.2
+        quantity  Bolt    Quantity         2     3
+        removed   Nut                      1
+        added     Washer                         4
 
-        1 added, 1 removed, 1 change in other lines, 1 unchanged
+        1 added, 1 removed, 2 changes in other lines, 0 unchanged
         )") + "\n");
+}
+
+TEST_F(CompareCommand, AListIsComparedInTheDigitsThatItWasWrittenWith) {
+    const std::string file = design("Axle  box=1x1x1 material=Steel:1.23456");
+    const std::string list = edited(file, {{"1.235", "1.2346"}}, "Part Number,Mass");
+
+    EXPECT_EQ(run({"compare", file, list}).output, "No differences, 1 line\n");
+    EXPECT_EQ(run({"compare", file, list, "--digits", "5"}).output, "No differences, 1 line\n");
+    EXPECT_EQ(run({"compare", file, list, "--digits", "6", "--exit-code"}).status, 6);
 }
 
 TEST_F(CompareCommand, AListWithoutPartNumbersOrWithForeignColumnsIsRefused) {
