@@ -57,6 +57,7 @@ struct FieldInfo {
     Dimension dimension = Dimension::None;
     bool isMeasured = false;  ///< its values need the bodies
     bool isNumber = false;
+    bool isOfComponent = false;  ///< a component has it wherever it is, and however often
 };
 
 /// Of all fields but `Property`.

@@ -2,13 +2,56 @@
 
 #include "parts/number_text.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
+#include <iterator>
+#include <utility>
 
 namespace parts {
 namespace {
 
 /// Between values that are put together: no text holds it.
 constexpr char kSeparator = '\x1f';
+
+/// Numbers that were worked out in another order differ by less, in parts of them.
+constexpr double kEqualWithin = 1e-9;
+
+/// Tells apart what differs by more than that.
+constexpr NumberFormat kAllDigits = {.significantDigits = 12};
+
+/// The numbers of a cell.
+std::vector<double*> numbersIn(Cell& cell) {
+    if (auto* const number = std::get_if<Number>(&cell)) {
+        return {&number->value};
+    }
+    std::vector<double*> numbers;
+    if (auto* const extents = std::get_if<Extents>(&cell)) {
+        for (double& value : extents->values) {
+            numbers.push_back(&value);
+        }
+    }
+    return numbers;
+}
+
+/// Of numbers that are equal the first in order.
+std::vector<double> firstOfEqual(std::vector<double> numbers) {
+    std::ranges::sort(numbers);
+    std::vector<double> first;
+    for (std::size_t index = 0; index < numbers.size(); ++index) {
+        const double number = numbers[index];
+        if (index == 0 || number - numbers[index - 1] > kEqualWithin * std::abs(number)) {
+            first.push_back(number);
+        }
+    }
+    return first;
+}
+
+/// Replaces a number by the first of those that it is equal to.
+void stepDown(double& number, const std::vector<double>& steps) {
+    const auto above = std::ranges::upper_bound(steps, number);
+    number = above == steps.begin() ? number : *std::prev(above);
+}
 
 }  // namespace
 
@@ -19,6 +62,9 @@ ItemKeys::ItemKeys(ListContext& context)
       contents_(context.design.components.size()) {
     if (context.request.merging.by == MergeBy::Shape && context.shapes.classOf.empty()) {
         throw RequestError("\"shape\": the shapes of this design cannot be compared");
+    }
+    if (context.request.merging.by == MergeBy::Columns) {
+        findSteps();
     }
 }
 
@@ -49,18 +95,39 @@ std::string ItemKeys::makeKey(std::size_t component) {
     return valuesOf(component);
 }
 
-std::string ItemKeys::valuesOf(std::size_t component) {
+PartsRow ItemKeys::rowOf(std::size_t component) const {
     PartsRow row;
     row.component = component;
     row.quantity = context_.tree.quantity(component);
-    row.level = context_.tree.level(component);
-    row.path = context_.tree.path(component);
-    row.shape = context_.shapeOf(component);
     row.members = {{.component = component, .quantity = row.quantity}};
-    std::string key;
+    return row;
+}
+
+void ItemKeys::findSteps() {
     for (const Column& column : context_.request.merging.columns) {
-        key += (key.empty() ? "" : std::string(1, kSeparator)) +
-               cellText(values_.cell(column, row), {});
+        std::vector<double> numbers;
+        for (const std::size_t component : context_.tree.reached()) {
+            Cell cell = values_.cell(column, rowOf(component));
+            for (const double* const number : numbersIn(cell)) {
+                numbers.push_back(*number);
+            }
+        }
+        steps_.push_back(firstOfEqual(std::move(numbers)));
+    }
+}
+
+std::string ItemKeys::valuesOf(std::size_t component) {
+    const PartsRow row = rowOf(component);
+    std::string key;
+    for (std::size_t index = 0; index < steps_.size(); ++index) {
+        // Shown decimals tell nothing apart.
+        Column column = context_.request.merging.columns[index];
+        column.decimals.reset();
+        Cell cell = values_.cell(column, row);
+        for (double* const number : numbersIn(cell)) {
+            stepDown(*number, steps_[index]);
+        }
+        key += (index == 0 ? "" : std::string(1, kSeparator)) + cellText(cell, kAllDigits);
     }
     return key;
 }

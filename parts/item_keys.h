@@ -26,6 +26,8 @@ public:
     int contentOf(std::size_t component);
 
 private:
+    [[nodiscard]] PartsRow rowOf(std::size_t component) const;
+    void findSteps();
     std::string makeKey(std::size_t component);
     std::string valuesOf(std::size_t component);
     std::string contentText(std::size_t component);
@@ -35,6 +37,9 @@ private:
     std::vector<std::optional<std::string>> keys_;
     std::vector<std::optional<int>> contents_;
     std::map<std::string, int> contentNumbers_;
+
+    /// For each column that is merged by its numbers in order: the first of those that are equal.
+    std::vector<std::vector<double>> steps_;
 };
 
 }  // namespace parts

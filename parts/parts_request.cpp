@@ -91,6 +91,26 @@ std::optional<double> numberOf(const Filter& filter, const Units& units, std::st
 
 bool needsBodies(const Column& column) { return infoOf(column.field).isMeasured; }
 
+/// Refuses columns that say where or how often a component is: they cannot say which ones are
+/// equal.
+void checkMerging(const std::vector<Column>& columns) {
+    for (const Column& column : columns) {
+        if (infoOf(column.field).isOfComponent) {
+            continue;
+        }
+        std::vector<std::string> known;
+        for (const FieldInfo& info : fieldInfos()) {
+            if (info.isOfComponent) {
+                known.emplace_back(info.name);
+            }
+        }
+        refuseText(nameOf(column),
+                   "no property of a component, so nothing can be merged by it; "
+                   "expected custom properties or " +
+                       withCommas(known));
+    }
+}
+
 /// Takes ":desc" or ":asc" off an entry.
 bool takeDescending(std::string_view& entry) {
     constexpr std::string_view kDescending = ":desc";
@@ -136,7 +156,9 @@ std::string viewName(View view) { return kViews.at(static_cast<std::size_t>(view
 Merging parseMerging(std::string_view text) {
     const auto* const found = std::ranges::find(kMergings, text);
     if (found == kMergings.end()) {
-        return {.by = MergeBy::Columns, .columns = parseColumns(text)};
+        Merging merging{.by = MergeBy::Columns, .columns = parseColumns(text)};
+        checkMerging(merging.columns);
+        return merging;
     }
     return {.by = static_cast<MergeBy>(found - kMergings.begin())};
 }

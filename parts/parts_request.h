@@ -67,7 +67,8 @@ std::vector<Column> columnsOf(const PartsRequest& request);
 View parseView(std::string_view text);
 std::string viewName(View view);
 
-/// "part-number", "name", "component", "shape", or columns with commas between.
+/// "part-number", "name", "component", "shape", or columns with commas between that a component
+/// has wherever it is: no quantities, no places.
 Merging parseMerging(std::string_view text);
 std::string mergingText(const Merging& merging);
 

@@ -40,29 +40,39 @@ bool holds(Comparison comparison, int order) {
     }
 }
 
-std::string textOf(const Value& value) {
-    if (const auto* const text = std::get_if<std::string>(&value)) {
-        return *text;
-    }
-    const auto* const number = std::get_if<double>(&value);
-    return number == nullptr ? "" : numberText({.value = *number}, {});
+bool matches(const Filter& filter, double value) {
+    return holds(filter.comparison, compareClosely(value, *filter.number));
 }
 
-}  // namespace
-
-bool matches(const Filter& filter, const Value& value) {
-    if (filter.number) {
-        const auto* const number = std::get_if<double>(&value);
-        return number == nullptr
-                   ? filter.comparison == Comparison::NotEqual
-                   : holds(filter.comparison, compareClosely(*number, *filter.number));
-    }
-    const std::string text = textOf(value);
+bool matches(const Filter& filter, const std::string& text) {
     if (filter.comparison == Comparison::Contains) {
         return lowerCase(text).find(lowerCase(filter.text)) != std::string::npos;
     }
     return holds(filter.comparison, naturalOrder(text, filter.text));
 }
+
+/// The column that a filter is about as the list shows it, so that its texts are those one sees.
+const Column& shownColumn(const Filter& filter, const PartsRequest& request) {
+    if (filter.column.unit != nullptr || filter.column.decimals) {
+        return filter.column;
+    }
+    const auto shown = std::ranges::find_if(request.columns, [&](const Column& column) {
+        return column.field == filter.column.field && column.property == filter.column.property;
+    });
+    return shown == request.columns.end() ? filter.column : *shown;
+}
+
+bool matches(const Filter& filter, const PartsRow& row, const PartsRequest& request,
+             RowValues& values) {
+    if (!filter.number) {
+        return matches(filter, cellText(values.cell(shownColumn(filter, request), row), {}));
+    }
+    const Value value = values.of(filter.column, row);
+    const auto* const number = std::get_if<double>(&value);
+    return number == nullptr ? filter.comparison == Comparison::NotEqual : matches(filter, *number);
+}
+
+}  // namespace
 
 std::vector<bool> filterRows(std::vector<PartsRow>& rows, const PartsRequest& request,
                              RowValues& values) {
@@ -70,7 +80,7 @@ std::vector<bool> filterRows(std::vector<PartsRow>& rows, const PartsRequest& re
     std::vector<bool> isKept(rows.size(), true);
     for (std::size_t row = 0; row < rows.size(); ++row) {
         isWanted[row] = std::ranges::all_of(request.filters, [&](const Filter& filter) {
-            return matches(filter, values.of(filter.column, rows[row]));
+            return matches(filter, rows[row], request, values);
         });
     }
     isKept = isWanted;

@@ -7,9 +7,6 @@
 
 namespace parts {
 
-/// Whether a row is as a filter wants it.
-bool matches(const Filter& filter, const Value& value);
-
 /// Leaves the rows that all filters of the request want, in the tree also those that such are in.
 /// Returns which of the rows that are left are wanted for themselves.
 std::vector<bool> filterRows(std::vector<PartsRow>& rows, const PartsRequest& request,

@@ -63,6 +63,26 @@ TEST(Merging, ByColumnsLooksAtTheirValues) {
         2 | K-1 | Blue knob | 1)"));
 }
 
+TEST(Merging, ByColumnsLooksAtNumbersWithAllTheirDigits) {
+    // 8 g, 8.0001 g, and 8 g as another system would have worked it out.
+    EXPECT_EQ(rowsOf(R"(
+        A  number=1 box=1x1x1 material=Steel:0.008
+        B  number=2 box=1x1x1 material=Steel:0.0080001
+        C  number=3 box=1x1x1 material=Steel:0.00800000000001)",
+                     merging("Mass")),
+              text(R"(
+        1 | 1 | A | 2
+        2 | 2 | B | 1)"));
+    EXPECT_EQ(rowsOf(R"(
+        A  number=1 box=1x2x3
+        B  number=2 box=1x2.00001x3
+        C  number=3 box=3x1x2.0000000001)",
+                     merging("Size:0")),
+              text(R"(
+        1 | 1 | A | 2
+        2 | 2 | B | 1)"));
+}
+
 TEST(Merging, AnEmptyPartNumberIsReplacedByTheName) {
     EXPECT_EQ(rowsOf(R"(
         Washer  number=""

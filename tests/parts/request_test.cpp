@@ -160,6 +160,18 @@ TEST(MergingText, IsOneOfTheNamesOrColumns) {
               "Part Number,Material");
 }
 
+TEST(MergingText, ColumnsThatAreNoPropertyOfAComponentAreRefused) {
+    for (const char* const column : {"Item", "Quantity", "Quantity per parent", "Total mass",
+                                     "Level", "Path", "Used in", "Thumbnail"}) {
+        EXPECT_EQ(refusal([&] { parts::parseMerging(std::string("Material,") + column); }),
+                  "\"" + std::string(column) +
+                      "\": no property of a component, so nothing can be merged by it; expected "
+                      "custom properties or Part Number, Part Name, Description, Mass, Volume, "
+                      "Area, Density, Material, X, Y, Z, Size, BOM Structure, Bodies, Document");
+    }
+    EXPECT_NO_THROW(parts::parseMerging("Part Number,Colour,Mass[g],property:Level"));
+}
+
 TEST(ViewText, IsOneOfTheNames) {
     EXPECT_EQ(parts::parseView("indented"), parts::View::Indented);
     EXPECT_EQ(refusal([] { parts::parseView("flat"); }),

@@ -115,6 +115,23 @@ TEST(Filters, AllHaveToHold) {
     EXPECT_EQ(rowsOf(kBox, filtered({"Description="})), "1 | Plate\n2 | Bolt\n3 | Lid");
 }
 
+TEST(Filters, LookAtMeasuresAsTheyAreShown) {
+    // 100 x 20 x 5 mm and 30 x 20 x 5 mm.
+    const std::string outline = "Long  box=10x2x0.5\nShort  box=3x2x0.5";
+    PartsRequest asked = request(View::Parts, "Part Name,Size");
+    const auto rows = [&](const std::string& filter) {
+        asked.filters = {parts::parseFilter(filter, asked.units)};
+        return rowsOf(outline, asked);
+    };
+
+    EXPECT_EQ(rows("Size~100"), "Long | 100 x 20 x 5");
+    EXPECT_EQ(rows("Size!=100 x 20 x 5"), "Short | 30 x 20 x 5");
+    EXPECT_EQ(rows("X~30"), "Short | 30 x 20 x 5");
+    asked.columns = parts::parseColumns("Part Name,Size[cm]");
+    EXPECT_EQ(rows("Size=10 x 2 x 0.5"), "Long | 10 x 2 x 0.5");
+    EXPECT_EQ(rows("Size[mm]=30 x 20 x 5"), "Short | 3 x 2 x 0.5");
+}
+
 TEST(Filters, LeaveTheItemNumbersAsTheyAre) {
     EXPECT_EQ(rowsOf(kBox, filtered({"Material!=Sheet"})), "2 | Bolt");
 }

@@ -158,10 +158,8 @@ std::string inOneWord(const std::vector<std::string>& entries) {
     return text;
 }
 
+/// Also gives a flag that is false, so that it keeps out one that is true.
 void give(CLI::Option& option, const ProfileEntry& entry) {
-    if (isFlag(option) && entry.values.front() == "false") {
-        return;
-    }
     if (entry.kind == ProfileEntry::Kind::Array && !takesSeveral(option)) {
         option.add_result(inOneWord(entry.values));
     } else {
@@ -189,7 +187,7 @@ std::string valueText(const std::string& value) {
 /// The value of an option as a profile has it; an empty string where it has none.
 std::string valueText(const CLI::Option& option) {
     if (isFlag(option)) {
-        return option.count() > 0 ? "true" : "false";
+        return option.count() > 0 && option.as<bool>() ? "true" : "false";
     }
     if (option.count() == 0) {
         return option.get_default_str().empty() ? "" : valueText(option.get_default_str());

@@ -68,6 +68,15 @@ TEST_F(Profile, FillsTheOptionsOfACommand) {
     EXPECT_TRUE(command.comma);
 }
 
+TEST_F(Profile, AFlagThatIsFalseKeepsOutOneThatIsTrue) {
+    command.apply("decimal-comma = false");
+    command.apply("decimal-comma = true");
+
+    EXPECT_FALSE(command.comma);
+    EXPECT_NE(profileText(command.app, command.keys).find("decimal-comma = false\n"),
+              std::string::npos);
+}
+
 TEST_F(Profile, AnOptionThatWasGivenWins) {
     command.app.parse("--view parts --filter Level=1");
 

@@ -127,6 +127,17 @@ TEST_F(PartsOfFiles, AProfileBesideTheDesignHoldsOptionsAndOutputs) {
     EXPECT_EQ(written("out/cart.tsv"), "Quantity\n6\n");
 }
 
+TEST_F(PartsOfFiles, AnOutputMaySwitchOffWhatHoldsForAll) {
+    profile("columns = \"Part Number,Quantity\"\nbom = true\n\n[[output]]\nfile = \"" +
+            path("out/{stem}.csv") + "\"\nbom = false\n");
+
+    EXPECT_EQ(run({"parts", path("in/cart.design.json")}).status, 0);
+    EXPECT_EQ(written("out/cart.csv"), "Part Number,Quantity\r\nBolt,2\r\n");
+
+    EXPECT_EQ(run({"parts", path("in/cart.design.json"), "--bom"}).status, 0);
+    EXPECT_EQ(written("out/cart.csv"), "\xEF\xBB\xBFPart Number,Quantity\r\nBolt,2\r\n");
+}
+
 TEST_F(PartsOfFiles, OptionsWinOverTheProfile) {
     profile("columns = \"Item\"\nmultiply = 3\n[[output]]\nfile = '" + path("out/never.csv") +
             "'\nmultiply = 9\n");
