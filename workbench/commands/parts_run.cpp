@@ -87,21 +87,31 @@ void addRemarks(const parts::PartsList& list, FileOutcome& outcome) {
     }
 }
 
+/// Whether a format says where its list comes from.
+bool namesSource(PartsFormatKind kind) {
+    return kind == PartsFormatKind::Json || kind == PartsFormatKind::JsonLines ||
+           kind == PartsFormatKind::Page;
+}
+
 /// Where a design comes from, with the hash of the file's content as far as it can be read again.
-parts::ListSource sourceOf(const std::string& file) {
-    const std::string hash = host::sha256OfFile(host::fromUtf8(file));
+/// It takes a while for large files: they are hashed once, and only where a list shows it.
+parts::ListSource sourceOf(const PartsRun& run, const std::string& file) {
+    const bool isShown = std::ranges::any_of(
+        run.tasks, [](const ListTask& task) { return namesSource(task.format.kind); });
+    const std::string hash = isShown ? host::sha256OfFile(host::fromUtf8(file)) : "";
     return {.file = file, .hash = hash.empty() ? "" : "sha256:" + hash};
 }
 
 /// A page has all views, whatever the view of the request is.
-std::string pageOf(const ListTask& task, const host::DesignData& design, const std::string& file,
-                   const parts::PartShapes& shapes, FileOutcome& outcome) {
+std::string pageOf(const ListTask& task, const host::DesignData& design,
+                   const parts::ListSource& source, const parts::PartShapes& shapes,
+                   FileOutcome& outcome) {
     std::vector<parts::PartsList> lists;
     parts::PartsRequest request = task.request;
     for (const parts::View view : pageViews()) {
         request.view = view;
         lists.push_back(listOf(design, request, shapes));
-        lists.back().source = sourceOf(file);
+        lists.back().source = source;
         addRemarks(lists.back(), outcome);
     }
     std::ostringstream page;
@@ -113,6 +123,7 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
     const host::DesignData design = readOne(run, file, outcome);
     const parts::PartShapes shapes = shapesFor(run, design);
     const parts::PartShapes none;
+    const parts::ListSource source = sourceOf(run, file);
     for (const ListTask& task : run.tasks) {
         if (task.format.kind == PartsFormatKind::Model) {
             std::ostringstream model;
@@ -122,11 +133,11 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
         }
         const parts::PartShapes& known = needsShapes(task) ? shapes : none;
         if (task.format.kind == PartsFormatKind::Page) {
-            outcome.contents.push_back(pageOf(task, design, file, known, outcome));
+            outcome.contents.push_back(pageOf(task, design, source, known, outcome));
             continue;
         }
         parts::PartsList list = listOf(design, task.request, known);
-        list.source = sourceOf(file);
+        list.source = source;
         std::ostringstream content;
         writeParts(list, task.format, content);
         outcome.contents.push_back(std::move(content).str());
@@ -201,11 +212,13 @@ private:
     std::vector<std::thread> threads_;
 };
 
-void reportRemarks(const std::vector<parts::ListWarning>& remarks) {
+/// Of several files each remark names its own.
+void reportRemarks(const std::string& file, const std::vector<parts::ListWarning>& remarks) {
     for (const parts::ListWarning& each : remarks) {
         if (!isQuiet()) {
+            const std::string where = file.empty() ? "" : file + ": ";
             const std::string part = each.component.empty() ? "" : "\"" + each.component + "\" ";
-            std::cerr << "warning: " << printable(part + each.text) << "\n";
+            std::cerr << "warning: " << printable(where + part + each.text) << "\n";
         }
     }
 }
@@ -217,7 +230,7 @@ public:
 
     void deliver(const std::string& file, const FileOutcome& outcome) {
         reportWarnings(outcome.warnings);
-        reportRemarks(outcome.remarks);
+        reportRemarks(isSeveral(run_) ? file : "", outcome.remarks);
         try {
             if (outcome.failure) {
                 throw Failure(*outcome.failure);

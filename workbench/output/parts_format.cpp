@@ -6,6 +6,7 @@
 #include "workbench/output/result_stream.h"
 
 #include "host/base/utf8_path.h"
+#include "parts/ascii.h"
 #include "parts/csv_writer.h"
 #include "parts/json_writer.h"
 #include "parts/markdown_writer.h"
@@ -35,6 +36,14 @@ constexpr KnownFormat kFormats[] = {
     {.kind = PartsFormatKind::Model, .name = "glb", .ending = ".glb"},
     {.kind = PartsFormatKind::Page, .name = "html", .ending = ".html"},
 };
+
+std::vector<std::string> endings() {
+    std::vector<std::string> endings;
+    for (const KnownFormat& format : kFormats) {
+        endings.emplace_back(format.ending);
+    }
+    return endings;
+}
 
 char delimiterOf(const PartsFormat& format) {
     if (!format.delimiter.empty()) {
@@ -68,12 +77,17 @@ PartsFormatKind parsePartsFormat(const std::string& name) {
 }
 
 PartsFormatKind partsFormatOf(const std::string& file) {
-    std::string ending = host::toUtf8(host::fromUtf8(file).extension());
-    std::ranges::transform(ending, ending.begin(), [](char each) {
-        return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
-    });
+    const std::string ending = parts::lowerCase(host::toUtf8(host::fromUtf8(file).extension()));
     const auto* const found = std::ranges::find(kFormats, ending, &KnownFormat::ending);
-    return found == std::end(kFormats) ? PartsFormatKind::Table : found->kind;
+    if (found != std::end(kFormats)) {
+        return found->kind;
+    }
+    // Of a name like "list-{stem}" the ending is not known; "list." has none.
+    if (!ending.empty() && ending != "." && ending.find('}') == std::string::npos) {
+        refuse(file + ": no format has the ending " + ending +
+               "; name one with --format, or end with " + parts::withCommas(endings()));
+    }
+    return PartsFormatKind::Table;
 }
 
 bool canBeJoined(PartsFormatKind kind) { return kind == PartsFormatKind::JsonLines; }

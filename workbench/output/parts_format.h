@@ -28,7 +28,8 @@ std::vector<std::string> partsFormatNames();
 /// The format of a name that is among them.
 PartsFormatKind parsePartsFormat(const std::string& name);
 
-/// The format for a file, by its ending; a table for one that no format has.
+/// The format for a file, by its ending; a table without one. Throws a `Failure` for an ending that
+/// no format has.
 PartsFormatKind partsFormatOf(const std::string& file);
 
 /// Whether several lists, one after the other, are a file of this format.

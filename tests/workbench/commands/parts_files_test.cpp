@@ -71,6 +71,14 @@ TEST_F(PartsOfFiles, JsonLinesHoldOneListInALine) {
     EXPECT_EQ(designs, (Names{"in/bike", "in/cart"}));
 }
 
+TEST_F(PartsOfFiles, ARemarkNamesItsFile) {
+    design("Set  box=1x1x1 structure=Divided\n  Bolt", "in/kit");
+
+    EXPECT_EQ(list({"--output", path("out/{stem}.csv")}).errors,
+              "warning: " + path("in/kit.design.json") +
+                  ": \"Set\" is Divided: the bodies of its own are in no line\n3 files listed\n");
+}
+
 TEST_F(PartsOfFiles, ADesignThatFailsIsReportedAndTheOthersAreListed) {
     writeFile(folder.path() / "in/broken.design.json", "{");
 

@@ -40,6 +40,23 @@ TEST_F(PartsCommand, WritesTheFormatThatTheEndingOfTheOutputNames) {
     EXPECT_EQ(test_support::readFile(file), "Part Number,Quantity\r\nBolt,1\r\n");
 }
 
+TEST_F(PartsCommand, AnEndingThatNoFormatHasIsRefusedWithThoseThatOneHas) {
+    const std::string file = design("Bolt");
+
+    for (const std::string ending : {".xls", ".ods", ".xlsm"}) {
+        expectFailure(run({"parts", file, "--output", path("list" + ending)}), 2,
+                      "tarnix-workbench: " + path("list" + ending) + ": no format has the ending " +
+                          ending +
+                          "; name one with --format, or end with .txt, .csv, .tsv, .md, .xlsx, "
+                          ".json, .jsonl, .glb, .html\n");
+        EXPECT_FALSE(folder.has("list" + ending));
+    }
+    EXPECT_EQ(run({"parts", file, "--output", path("list")}).status, 0);
+    EXPECT_EQ(run({"parts", file, "--output", path("list.TXT")}).status, 0);
+    EXPECT_EQ(folder.read("list"), folder.read("list.TXT"));
+    EXPECT_EQ(run({"parts", file, "--format", "csv", "--output", path("list.dat")}).status, 0);
+}
+
 TEST_F(PartsCommand, ListsWhatSeveralOfTheDesignNeed) {
     const ProgramResult result =
         run({"parts", design("Bolt\nBolt\nNut"), "--multiply", "5", "--format", "csv", "--columns",
