@@ -1,10 +1,10 @@
 #include "host/import/content_hash.h"
 
-#include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <string>
 
 namespace {
@@ -21,8 +21,8 @@ TEST(ContentHash, IsThatOfTheStandard) {
 
 TEST(ContentHash, OfAFileIsThatOfItsBytes) {
     const test_support::TemporaryFolder folder;
-    test_support::writeFile(folder.path() / "abc", "abc");
-    test_support::writeFile(folder.path() / "million", std::string(1'000'000, 'a'));
+    std::ofstream(folder.path() / "abc", std::ios::binary) << "abc";
+    std::ofstream(folder.path() / "million", std::ios::binary) << std::string(1'000'000, 'a');
 
     EXPECT_EQ(host::sha256OfFile(folder.path() / "abc"), kOfAbc);
     EXPECT_EQ(host::sha256OfFile(folder.path() / "million"), kOfAMillion);
