@@ -96,8 +96,8 @@ TEST_F(FullDisk, KeepsNoneOfSeveralLists) {
     }
     const std::string file = largeDesign(400);
 
-    const ProgramResult lists = run({"parts", file, "--output", path("out/list.csv"), "--output",
-                                     path("disk/list.json")});
+    const ProgramResult lists =
+        run({"parts", file, "--output", path("out/list.csv"), "--output", path("disk/list.json")});
 
     EXPECT_EQ(lists.status, 5);
     EXPECT_NE(lists.errors.find("No space left on device"), std::string::npos) << lists.errors;
@@ -117,7 +117,8 @@ TEST_F(FullDisk, WritesNoWorkbookWithoutRoomForItsParts) {
     const ProgramResult workbook = run({"parts", file, "--output", path("out/list.xlsx")});
 
     EXPECT_EQ(workbook.status, 5);
-    EXPECT_EQ(workbook.errors.rfind("tarnix-workbench: XLSX cannot be written: ", 0), 0U)
+    // After what the library says itself.
+    EXPECT_NE(workbook.errors.find("tarnix-workbench: XLSX cannot be written: "), std::string::npos)
         << workbook.errors;
     EXPECT_FALSE(fs::exists(folder.path() / "out"));
     EXPECT_TRUE(fs::is_empty(folder.path() / "disk"));
