@@ -15,7 +15,7 @@ namespace {
 constexpr char kSeparator = '\x1f';
 
 /// Numbers that were worked out in another order differ by less, in parts of them.
-constexpr double kEqualWithin = 1e-9;
+constexpr double kSameWithin = 1e-9;
 
 /// Tells apart what differs by more than that.
 constexpr NumberFormat kAllDigits = {.significantDigits = 12};
@@ -40,7 +40,7 @@ std::vector<double> firstOfEqual(std::vector<double> numbers) {
     std::vector<double> first;
     for (std::size_t index = 0; index < numbers.size(); ++index) {
         const double number = numbers[index];
-        if (index == 0 || number - numbers[index - 1] > kEqualWithin * std::abs(number)) {
+        if (index == 0 || number - numbers[index - 1] > kSameWithin * std::abs(number)) {
             first.push_back(number);
         }
     }

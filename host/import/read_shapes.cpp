@@ -41,7 +41,10 @@ std::vector<Number> unpacked(const json& text) {
         throw std::runtime_error("the reader's mesh is damaged");
     }
     std::vector<Number> numbers(bytes->size() / sizeof(Number));
-    std::memcpy(numbers.data(), bytes->data(), bytes->size());
+    // An empty vector may have no memory at all.
+    if (!numbers.empty()) {
+        std::memcpy(numbers.data(), bytes->data(), bytes->size());
+    }
     return numbers;
 }
 
