@@ -42,6 +42,9 @@ std::shared_ptr<RememberedReader> CachedReading::open() const {
 
 void CachedReading::allowKeeping(RememberedReader& reader, const std::vector<fs::path>& files,
                                  bool refersToMissing) const {
+    if (files.empty()) {
+        return;
+    }
     if (files.size() == 1 && !refersToMissing) {
         reader.allowKeeping(keyOf(files), files);
         return;

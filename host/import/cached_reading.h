@@ -25,7 +25,8 @@ public:
     /// Throws `ReaderFailure`.
     [[nodiscard]] std::shared_ptr<RememberedReader> open() const;
 
-    /// To be called with the files that were read, once they are known.
+    /// To be called with the files that were read, once they are known. Without any nothing is
+    /// kept.
     void allowKeeping(RememberedReader& reader, const std::vector<std::filesystem::path>& files,
                       bool refersToMissing) const;
 
