@@ -299,6 +299,8 @@ const tests = {
     await press(page, 'p');
     await settled(page);
     const state = () => page.evaluate(() => location.hash);
+    // The page writes its address a moment after the last change.
+    await page.waitForFunction(() => location.hash.includes('section='));
     const before = await state();
     await page.reload();
     await page.waitForFunction(() => window.partsPage);
