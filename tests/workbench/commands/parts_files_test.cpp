@@ -136,8 +136,8 @@ TEST_F(PartsOfFiles, AProfileBesideTheDesignHoldsOptionsAndOutputs) {
 }
 
 TEST_F(PartsOfFiles, AnOutputMaySwitchOffWhatHoldsForAll) {
-    profile("columns = \"Part Number,Quantity\"\nbom = true\n\n[[output]]\nfile = \"" +
-            path("out/{stem}.csv") + "\"\nbom = false\n");
+    profile("columns = \"Part Number,Quantity\"\nbom = true\n\n[[output]]\nfile = '" +
+            path("out/{stem}.csv") + "'\nbom = false\n");
 
     EXPECT_EQ(run({"parts", path("in/cart.design.json")}).status, 0);
     EXPECT_EQ(written("out/cart.csv"), "Part Number,Quantity\r\nBolt,2\r\n");
