@@ -15,7 +15,8 @@ namespace parts {
 /// Which components are one item, as the request merges them.
 class ItemKeys {
 public:
-    /// The context outlives it. Throws a `RequestError` for merging by shapes that nobody compared.
+    /// The context outlives it. Throws a `RequestError` for merging by shapes that were not
+    /// compared.
     explicit ItemKeys(ListContext& context);
 
     /// Equal for components that are one item: what they are merged by, for people to read.

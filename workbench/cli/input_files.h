@@ -11,7 +11,7 @@ namespace workbench {
 /// is there once. What starts with a dot is matched only by a pattern that does so too.
 ///
 /// Throws a `Failure` for a folder without designs and a pattern that nothing matches. A name that
-/// is none of these is returned as it is: whoever reads it says what is wrong.
+/// is none of these is returned as it is: its reader says what is wrong.
 std::vector<std::string> expandInputs(const std::vector<std::string>& arguments);
 
 /// Whether a name within a folder matches a pattern with * and ?.
