@@ -59,7 +59,7 @@ std::string unknownOption(const CommandSummary& command, const std::vector<std::
         known.insert(known.end(), each.names.begin(), each.names.end());
     }
     for (const std::string& word : arguments) {
-        const std::string name = word.substr(0, word.find('='));
+        std::string name = word.substr(0, word.find('='));
         if (name.starts_with("--") && name.size() > 2 &&
             std::ranges::find(known, name) == known.end()) {
             return name;
