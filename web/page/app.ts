@@ -404,7 +404,10 @@ export class App {
 
   private keepAddress(): void {
     clearTimeout(this.addressTimer);
-    this.addressTimer = window.setTimeout(() => history.replaceState(null, '', `#${encode(this.address())}`), addressDelay);
+    this.addressTimer = window.setTimeout(() => {
+      this.addressTimer = 0;
+      history.replaceState(null, '', `#${encode(this.address())}`);
+    }, addressDelay);
   }
 
   private address(): Address {

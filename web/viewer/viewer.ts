@@ -35,6 +35,7 @@ export class Viewer {
   private cutting: Section | null = null;
   private ids: {data: Uint8Array; width: number; height: number} | null = null;
   private laidOut = false;  // until then there is no picture to fit to
+  private size = {width: 0, height: 0, ratio: 0};
   private scheduled = 0;
   private travel = 0;
   private pointer: {x: number; y: number} | null = null;
@@ -199,14 +200,17 @@ export class Viewer {
   }
 
   private resize(): void {
-    const parent = this.canvas.parentElement!;
-    const [width, height] = [parent.clientWidth, parent.clientHeight];
+    const {clientWidth: width, clientHeight: height} = this.canvas.parentElement!;
     if (!width || !height) return;
-    if (!this.laidOut) this.camera.pose = {...this.camera.fitting(this.sphere(), width / height), ...direction('iso')};
-    this.laidOut = true;
-    this.renderer.setPixelRatio(Math.min(devicePixelRatio, 2));
-    this.renderer.setSize(width, height);
-    this.moved();
+    const ratio = Math.min(devicePixelRatio, 2);
+    const {size} = this;
+    if (size.width !== width || size.height !== height || size.ratio !== ratio) {
+      this.size = {width, height, ratio};
+      this.renderer.setPixelRatio(ratio);
+      this.renderer.setSize(width, height);
+      this.moved();
+    }
+    if (!this.laidOut) this.pose = {...this.camera.fitting(this.sphere(), width / height), ...direction('iso')};
   }
 
   stats(): Stats {
