@@ -29,10 +29,10 @@ function start(graphics = ['--disable-gpu']) {
   return chromium.launch({executablePath: '/usr/bin/chromium', args});
 }
 
-/// The violations that axe-core finds on the page, one a line; empty if none.
-async function violations(page) {
-  await page.evaluate(axe.source);
-  const result = await page.evaluate(() => axe.run(document, {resultTypes: ['violations']}));
+/// The violations that axe-core finds on the page, or in what the selector finds there, one a line; empty if none.
+async function violations(page, selector = 'html') {
+  if (!await page.evaluate(() => 'axe' in window)) await page.evaluate(axe.source);
+  const result = await page.evaluate(where => axe.run(where, {resultTypes: ['violations']}), selector);
   return result.violations.map(each => `${each.id}: ${each.nodes.map(node => node.target).join(', ')}`).join('\n');
 }
 

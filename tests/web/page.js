@@ -6,8 +6,13 @@ const path = require('path');
 const {start} = require('../site/browser');
 const {writePage} = require('./glb_writer');
 
-const graphics = ['--use-angle=swiftshader', '--enable-unsafe-swiftshader', '--ignore-gpu-blocklist'];
+// Without a GPU only the model is worth drawing by what pretends to be one: the rest of the page is drawn faster as it was
+// before there were any.
+const graphics = ['--use-angle=swiftshader', '--enable-unsafe-swiftshader', '--ignore-gpu-blocklist', '--disable-gpu-compositing'];
 const folder = path.join(__dirname, '../../build/web/pages');
+const profile = {reducedMotion: 'reduce', offline: true, acceptDownloads: true};
+const viewport = {width: 900, height: 480};
+const tabs = new Map();  // by language: a new tab costs more than all that a test does in it
 let browser;
 
 async function startBrowser() {
@@ -16,54 +21,86 @@ async function startBrowser() {
   return browser;
 }
 
-/// Opens a page in a fresh profile; `page.complaints` has what must not be: errors, and requests beyond the file.
-async function open(list, glb, {hash = '', name = 'page', ...options} = {}) {
+/// Opens a page with this list and model as if for the first time: nothing is stored.
+async function open(list, glb, {name = 'page', ...options} = {}) {
   const file = path.join(folder, `${name}.html`);
   writePage(file, list, glb);
-  return openFile(file + hash, options);
+  return openFile(file, options);
 }
 
-async function openFile(file, options = {}) {
-  const context = await browser.newContext({viewport: {width: 1100, height: 640}, reducedMotion: 'reduce', locale: 'en-GB', offline: true,
-                                            acceptDownloads: true, ...options});
-  const page = await context.newPage();
+/// Opens a page in the tab of its language, which has lost what was stored in it; `page.complaints` has what must
+/// not be: errors, and requests beyond the file.
+async function openFile(file, {locale = 'en-GB', colorScheme = 'light', ...size} = {}) {
+  const page = tabs.get(locale) ?? await newTab(locale);
+  await page.setViewportSize(size.viewport ?? viewport);
+  await page.emulateMedia({media: null, colorScheme});
+  await page.mouse.move(2, 2);
+  await page.evaluate(() => { if (location.protocol === 'file:') localStorage.clear(); });
+  await page.goto(`file://${file}`);
+  page.shown = null;
+  return ready(page);
+}
+
+async function newTab(locale) {
+  const page = await (await browser.newContext({...profile, locale})).newPage();
+  tabs.set(locale, page);
   page.complaints = [];
   page.on('pageerror', error => page.complaints.push(String(error)));
   page.on('console', message => ['error', 'warning'].includes(message.type()) && !isDriverNote(message.text()) && page.complaints.push(message.text()));
   page.on('request', request => /^(file|data|blob):/.test(request.url()) || page.complaints.push(request.url()));
-  await page.goto(`file://${file}`);
-  await page.waitForFunction(() => !window.partsPage?.viewer || partsPage.viewer.stats().frames > 0);
   return page;
 }
 
 // The software driver says that reading pixels is slow there, which it is.
 const isDriverNote = text => text.includes('GPU stall due to ReadPixels');
 
-/// Checks what the page complained about; a page that others use too stays open.
-async function close(page) {
-  assert.deepStrictEqual(page.complaints, []);
-  if (page !== common) await page.context().close();
+/// The page, once it has drawn its first picture, if it has any to draw.
+async function ready(page) {
+  await page.waitForFunction(() => document.querySelector('[role=alert]') || window.partsPage?.viewer.stats().frames > 0);
+  return page;
 }
 
-let common = null;
+async function reload(page) {
+  await page.reload();
+  return ready(page);
+}
 
-/// One page for many tests, each time as if it had just been opened; what is stored is not cleared.
-async function openCommon(list, glb) {
-  common ??= await open(list, glb, {name: 'common'});
-  await common.mouse.move(2, 2);
-  await common.evaluate(() => {
+/// The page with this list and model in the state in which it opens, without opening it again if it is there;
+/// what is stored is not cleared.
+async function openAgain(list, glb) {
+  const page = tabs.get('en-GB');
+  if (!page || page.shown !== list) return Object.assign(await open(list, glb), {shown: list});
+  await page.mouse.move(2, 2);
+  await page.evaluate(() => {
     document.querySelectorAll('dialog').forEach(each => each.close());
     document.activeElement.blur();
     partsPage.restore('');
   });
-  return common;
+  return page;
+}
+
+/// Throws when a page complained; it complains once.
+function checkComplaints() {
+  assert.deepStrictEqual([...tabs.values()].flatMap(page => page.complaints.splice(0)), []);
 }
 
 /// After a failure a page may be in any state.
-async function dropCommon() {
-  await common?.context().close();
-  common = null;
+async function closeTabs() {
+  for (const page of tabs.values()) await page.context().close();
+  tabs.clear();
 }
+
+/// Until nothing is left to do: no picture to draw, no state to write to the address.
+const settled = page => page.waitForFunction(() => {
+  const {viewer, pictures, addressTimer} = partsPage;
+  return !viewer.scheduled && !viewer.pointer && !pictures.timer && !addressTimer;
+});
+
+/// Lets the browser draw `count` times.
+const frames = (page, count) => page.evaluate(left => new Promise(resolve => {
+  const next = () => left-- > 0 ? requestAnimationFrame(next) : resolve();
+  next();
+}), count);
 
 const row = (page, text) => page.locator('.body .row', {has: page.locator(`.cell:text-is("${text}")`)});
 const selectedRows = page => page.$$eval('.body .row.selected', rows => rows.map(each => each.querySelector('.cell.text').textContent.replace(/^[▸▾]/, '')));
@@ -87,8 +124,8 @@ async function at(page, instance) {
 /// How many pixels of the picture each instance has in front.
 const visible = page => page.evaluate(() => {
   const {canvas} = partsPage.viewer, counts = {};
-  for (let y = 0; y < canvas.clientHeight; y += 2) {
-    for (let x = 0; x < canvas.clientWidth; x += 2) {
+  for (let y = 0; y < canvas.clientHeight; ++y) {
+    for (let x = 0; x < canvas.clientWidth; ++x) {
       const instance = partsPage.viewer.pick(x, y);
       if (instance >= 0) counts[instance] = (counts[instance] ?? 0) + 1;
     }
@@ -124,4 +161,5 @@ const withPixels = page => page.evaluate(() => {
   };
 });
 
-module.exports = {startBrowser, open, openFile, openCommon, dropCommon, close, row, selectedRows, shownRows, summary, clickInstance, at, visible, remember, changedInstances, withPixels, folder};
+module.exports = {startBrowser, open, openFile, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance,
+                  at, visible, remember, changedInstances, withPixels, folder};
