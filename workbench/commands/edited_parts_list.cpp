@@ -103,7 +103,7 @@ std::vector<parts::ComparedLine> EditedPartsList::linesOf(const parts::PartsList
 std::string EditedPartsList::itemOf(const std::vector<parts::Cell>& cells) const {
     for (const Field field : {Field::PartNumber, Field::PartName}) {
         const std::optional<std::size_t> column = indexOf(request_, field);
-        const std::string text = column ? parts::cellText(cells[*column], {}) : "";
+        std::string text = column ? parts::cellText(cells[*column], {}) : "";
         if (!text.empty()) {
             return text;
         }
