@@ -118,11 +118,11 @@ Image Canvas::image() const {
         for (int x = 0; x < pixels_; ++x) {
             std::array<std::uint32_t, 4> sum = {};
             for (int inside = 0; inside < perPixel * perPixel; ++inside) {
-                const auto cell =
-                    static_cast<std::size_t>((y * perPixel + inside / perPixel) * samples_ +
-                                             x * perPixel + inside % perPixel);
+                const int row = y * perPixel + inside / perPixel;
+                const int cell = row * samples_ + x * perPixel + inside % perPixel;
+                const Sample& sample = cells_[static_cast<std::size_t>(cell)];
                 for (std::size_t channel = 0; channel < sum.size(); ++channel) {
-                    sum[channel] += cells_[cell].rgba[channel];
+                    sum[channel] += sample.rgba[channel];
                 }
             }
             const std::uint32_t alpha = std::max(sum[3], 1U);
