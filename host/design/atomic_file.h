@@ -11,7 +11,8 @@ namespace host {
 ///
 /// The name refers to the old content or the new one, whole, also after a crash. What a process
 /// that was killed left beside a file is removed when that file is written again. A link is
-/// followed, and a file that is replaced hands its permissions on.
+/// followed, and a file that is replaced hands its permissions on. What is there and is no file is
+/// not replaced.
 class AtomicFile {
 public:
     /// Throws `std::system_error` where the content cannot be written, with nothing left.

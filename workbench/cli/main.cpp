@@ -69,7 +69,7 @@ void checkWorkingDirectory() {
 
 /// A file that the command line names otherwise too would be lost, or replaced by another result.
 void refuseFileInUse(const CLI::App& command, const std::string& output) {
-    for (const char* const name : {"FILE", "--set-from", "--save"}) {
+    for (const char* const name : {"FILE", "OLD", "NEW", "--set-from", "--save"}) {
         const CLI::Option* const option = command.get_option_no_throw(name);
         for (const std::string& each : option == nullptr ? CLI::results_t() : option->results()) {
             if (isSameFile(each, output)) {

@@ -45,6 +45,14 @@ fs::path settled(const std::string& name) {
     return error ? fs::absolute(host::fromUtf8(name), error).lexically_normal() : path;
 }
 
+/// A device or a folder is there already and cannot be replaced by a list.
+void refuseWhatIsNoFile(const std::string& name, const fs::path& path) {
+    std::error_code ignored;
+    if (fs::exists(path, ignored) && !fs::is_regular_file(path, ignored)) {
+        refuse("--output " + name + ": it exists and is not a file");
+    }
+}
+
 }  // namespace
 
 std::string outputName(const std::string& pattern, const std::string& file) {
@@ -77,6 +85,7 @@ void checkOutputNames(const std::vector<std::string>& names,
     std::map<fs::path, std::size_t> written;
     for (std::size_t index = 0; index < names.size(); ++index) {
         const fs::path path = settled(names[index]);
+        refuseWhatIsNoFile(names[index], path);
         if (read.contains(path)) {
             refuse(names[index] + ": is one of the designs; the output needs a file of its own");
         }

@@ -110,8 +110,12 @@ int createBeside(const fs::path& path, fs::path& created) {
 /// The error of the first step that fails, 0 when the content has come down to the disk.
 int fill(const Descriptor& file, const fs::path& replaced, std::string_view content) {
     struct ::stat before = {};
-    if (::stat(replaced.c_str(), &before) == 0 &&
-        ::fchmod(file.number(), before.st_mode & 07777) != 0) {
+    const bool isThere = ::stat(replaced.c_str(), &before) == 0;
+    // A device that is replaced is lost to every program.
+    if (isThere && !S_ISREG(before.st_mode)) {
+        return S_ISDIR(before.st_mode) ? EISDIR : ENOTSUP;
+    }
+    if (isThere && ::fchmod(file.number(), before.st_mode & 07777) != 0) {
         return errno;
     }
     while (!content.empty()) {

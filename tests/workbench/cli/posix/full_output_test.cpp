@@ -62,7 +62,9 @@ INSTANTIATE_TEST_SUITE_P(
         std::vector<std::string>{"info", "FILE"}, std::vector<std::string>{"properties", "FILE"},
         std::vector<std::string>{"configure"}, std::vector<std::string>{"helpdesk", "system-info"},
         std::vector<std::string>{"move-to-origin", "FILE", "--save"},
-        std::vector<std::string>{"commands"},
+        std::vector<std::string>{"parts", "FILE"},
+        std::vector<std::string>{"parts", "FILE", "--format", "json"},
+        std::vector<std::string>{"compare", "FILE", "FILE"}, std::vector<std::string>{"commands"},
         std::vector<std::string>{"dialog", "QM_TX_BOM", "FILE"},
         std::vector<std::string>{"manual"}),
     [](const auto& tested) {

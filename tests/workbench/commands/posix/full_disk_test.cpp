@@ -106,6 +106,21 @@ TEST_F(FullDisk, KeepsNoneOfSeveralLists) {
     EXPECT_TRUE(fs::is_empty(folder.path() / "disk"));
 }
 
+TEST_F(FullDisk, KeepsNoComparison) {
+    constexpr std::uintmax_t kSmall = 65536;
+    if (!disk.mount(kSmall)) {
+        GTEST_SKIP() << "a file system cannot be mounted here";
+    }
+
+    const ProgramResult compared = run(
+        {"compare", design("Bolt"), largeDesign(1000), "--output", path("disk/out/changes.txt")});
+
+    EXPECT_EQ(compared.status, 5);
+    EXPECT_NE(compared.errors.find("No space left on device"), std::string::npos)
+        << compared.errors;
+    EXPECT_FALSE(fs::exists(folder.path() / "disk/out/changes.txt"));
+}
+
 TEST_F(FullDisk, WritesNoWorkbookWithoutRoomForItsParts) {
     constexpr std::uintmax_t kSmall = 65536;
     if (!disk.mount(kSmall)) {
