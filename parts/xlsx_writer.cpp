@@ -299,6 +299,15 @@ private:
         return text.data();
     }
 
+    /// All cells below the header, as in "A2:F9".
+    std::string rangeOfRows() const {
+        std::array<char, LXW_MAX_CELL_RANGE_LENGTH> text = {};
+        ::lxw_rowcol_to_range(text.data(), rowOf(1), columnOf(0),
+                              rowOf(std::max<std::size_t>(list_.rows.size(), 1)),
+                              columnOf(list_.columns.size() - 1));
+        return text.data();
+    }
+
     void setColumns() {
         for (std::size_t column = 0; column < widths_.size(); ++column) {
             const bool isPicture = list_.columns[column].column.field == Field::Thumbnail;
@@ -313,6 +322,10 @@ private:
             check(::worksheet_autofilter(sheet_, 0, 0, rowOf(list_.rows.size()),
                                          columnOf(list_.columns.size() - 1)),
                   "the filter");
+            // Part numbers of digits are texts on purpose, which needs no mark in each cell.
+            check(::worksheet_ignore_errors(sheet_, LXW_IGNORE_NUMBER_STORED_AS_TEXT,
+                                            rangeOfRows().c_str()),
+                  "the columns");
         }
     }
 

@@ -64,6 +64,13 @@ TEST(Xlsx, AFlatListIsSummedByItsColumns) {
     expectContains(sheet, "<pane ySplit=\"1\"");
 }
 
+TEST(Xlsx, TextsOfDigitsAreNotMarkedAsWrong) {
+    const std::string sheet =
+        sheetOf(buildPartsList(drawn(kGate), request(View::Parts, "Item,Part Number,Quantity")));
+
+    expectContains(sheet, "<ignoredError sqref=\"A2:C3\" numberStoredAsText=\"1\"/>");
+}
+
 TEST(Xlsx, ATreeIsSummedByTheRowsThatCount) {
     const std::string sheet = sheetOf(
         buildPartsList(drawn(kGate), request(View::Indented, "Part Number,Quantity,Total mass")));
