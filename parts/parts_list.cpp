@@ -172,10 +172,12 @@ void warnOfOwnBodies(const std::vector<PartsRow>& rows, const ListContext& conte
         }
     }
     if (count > 0) {
-        warnings.push_back({.code = "own-bodies",
-                            .text = countText(count, "assembly has", "assemblies have") +
-                                    " bodies of its own, which are a line of that name",
-                            .component = first});
+        std::string text = "has bodies of its own, which are a line of that name";
+        if (count > 1) {
+            text += "; so " + std::string(count == 2 ? "has " : "have ") +
+                    countText(count - 1, "other assembly", "other assemblies");
+        }
+        warnings.push_back({.code = "own-bodies", .text = text, .component = first});
     }
 }
 

@@ -234,11 +234,23 @@ TEST(OwnBodies, AreReported) {
           Rib)"),
                                                  request(View::Parts, "Item"));
 
-    EXPECT_EQ(list.warnings,
-              (std::vector<parts::ListWarning>{
-                  {.code = "own-bodies",
-                   .text = "1 assembly has bodies of its own, which are a line of that name",
-                   .component = "Weldment"}}));
+    EXPECT_EQ(list.warnings, (std::vector<parts::ListWarning>{
+                                 {.code = "own-bodies",
+                                  .text = "has bodies of its own, which are a line of that name",
+                                  .component = "Weldment"}}));
+}
+
+TEST(OwnBodies, AreReportedOnceForAll) {
+    const auto textOf = [](const std::string& outline) {
+        return parts::buildPartsList(drawn(outline), request(View::Parts, "Item"))
+            .warnings.at(0)
+            .text;
+    };
+
+    EXPECT_EQ(textOf("A  box=1x1x1\n  Rib\nB  box=1x1x1\n  Rib"),
+              "has bodies of its own, which are a line of that name; so has 1 other assembly");
+    EXPECT_EQ(textOf("A  box=1x1x1\n  Rib\nB  box=1x1x1\n  Rib\nC  box=1x1x1\n  Rib"),
+              "has bodies of its own, which are a line of that name; so have 2 other assemblies");
 }
 
 TEST(OwnBodies, ALonePartIsTheOneItemOfItsDesign) {
