@@ -21,6 +21,11 @@ bool isIndented(parts::Field field) {
     return field == parts::Field::PartNumber || field == parts::Field::PartName;
 }
 
+/// Whether a column has the item numbers of a tree: 1.10 comes after 1.9.
+bool isOutline(const parts::PartsList& list, parts::Field field) {
+    return field == parts::Field::Item && list.request.view == parts::View::Indented;
+}
+
 /// The column that shows the levels of a tree; none in a flat list.
 std::size_t treeColumn(const parts::PartsList& list) {
     if (list.request.view != parts::View::Indented) {
@@ -56,6 +61,11 @@ std::string linesText(const parts::PartsList& list, const parts::NumberFormat& n
     }
     const std::size_t tree = treeColumn(list);
     TextTable table(captions, charset);
+    for (std::size_t column = 0; column < list.columns.size(); ++column) {
+        if (isOutline(list, list.columns[column].column.field)) {
+            table.alignLeft(column);
+        }
+    }
     for (const parts::PartsRow& row : list.rows) {
         std::vector<std::string> cells = cellsOf(row, numbers, tree);
         if (hasRemarks) {

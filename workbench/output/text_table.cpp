@@ -33,6 +33,8 @@ void TextTable::add(const std::vector<std::string>& cells) {
     rows_.push_back(std::move(row));
 }
 
+void TextTable::alignLeft(std::size_t column) { words_.insert(column); }
+
 TextTable::Column TextTable::measure(std::size_t column) const {
     const std::size_t caption = displayWidth(captions_[column]);
     std::size_t width = caption;
@@ -44,7 +46,7 @@ TextTable::Column TextTable::measure(std::size_t column) const {
             (looksLikeNumber(row[column]) ? anyNumber : anyOther) = true;
         }
     }
-    const bool rightAligned = anyNumber && !anyOther;
+    const bool rightAligned = anyNumber && !anyOther && !words_.contains(column);
     const std::size_t least = rightAligned ? width : std::max(caption, kNarrowest);
     return {width, std::min(width, least), rightAligned};
 }

@@ -3,6 +3,7 @@
 #include "workbench/cli/console.h"
 
 #include <cstddef>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,8 @@ namespace workbench {
 /// A table for the terminal or for a file: a line of captions, a rule, and the rows.
 ///
 /// Columns are as wide as their widest cell, measured in terminal columns. A column of numbers
-/// alone is right-aligned under its caption. No line ends in spaces. Cells are made printable.
+/// alone is right-aligned under its caption, unless it is to be read as words. No line ends in
+/// spaces. Cells are made printable.
 class TextTable {
 public:
     static constexpr std::size_t kUnlimited = static_cast<std::size_t>(-1);
@@ -21,6 +23,10 @@ public:
 
     /// Adds a row; missing cells are empty, surplus ones are dropped.
     void add(const std::vector<std::string>& cells);
+
+    /// Has the cells of a column begin under their caption, whatever they are: those of an outline,
+    /// such as 1 and 1.1, are no numbers.
+    void alignLeft(std::size_t column);
 
     /// All lines, each with a line feed at its end and `indent` spaces before it. Where they are
     /// wider than `width` terminal columns, the widest columns of words are cut, and marked with
@@ -43,6 +49,7 @@ private:
 
     console::Charset charset_;
     std::vector<std::string> captions_;
+    std::set<std::size_t> words_;  ///< columns that are no numbers whatever they look like
     std::vector<std::vector<std::string>> rows_;
 };
 

@@ -42,6 +42,20 @@ TEST(PartsTable, IndentsTheTree) {
         )") + "\n");
 }
 
+TEST(PartsTable, AlignsItemsOfTwoLevelsAsAnOutline) {
+    EXPECT_EQ(partsTableOf(parts::buildPartsList(drawn("Hinge\n  Pin\nLid"),
+                                                 request(View::Indented, "Item,Quantity"))),
+              text(R"(
+        Item  Quantity
+        ----  --------
+        1            1
+        1.1          1
+        2            1
+
+        3 rows, 2 items
+        )") + "\n");
+}
+
 TEST(PartsTable, SaysWhatIsAssumed) {
     host::DesignData design =
         drawn("Pin  box=1x1x1 material=S:0.01\nLid  box=1x1x1 material=S:0.01");
