@@ -1,12 +1,16 @@
 #include "parts/thumbnail.h"
 
+#include "tests/parts/sample_meshes.h"
+
 #include "host/design/box_mesh.h"
+#include "host/import/content_hash.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
 
+/// `kept_pictures_test.cpp` compares with pictures that can be looked at.
 namespace {
 
 using parts::Image;
@@ -134,6 +138,20 @@ TEST(Thumbnail, LightsASurfaceFromBothSides) {
     }
 
     EXPECT_EQ(parts::drawThumbnail(turned, {}), parts::drawThumbnail(triangle(kWhite), {}));
+}
+
+/// Colours and alpha of all pixels, as 64 hexadecimal digits.
+std::string pixelHash(const host::ShapeMesh& mesh) {
+    const Image image = parts::drawThumbnail(mesh, {});
+    return host::sha256Of(std::string(image.rgba.begin(), image.rgba.end()));
+}
+
+// Those of the pictures in tests/parts/pictures, which were looked at.
+TEST(Thumbnail, HasTheSamePixelsOnEveryMachineAndSystem) {
+    EXPECT_EQ(pixelHash(test_support::bracketMesh()),
+              "07d6300f4fb4cc4318077043c41dbf3488bf42befced0408e21ea783569e0356");
+    EXPECT_EQ(pixelHash(test_support::glassConeMesh()),
+              "469a95c413af995dfeab0e56edafe643527d5467145044bce80148539343e253");
 }
 
 TEST(Thumbnail, DrawsWhatIsNearer) {
