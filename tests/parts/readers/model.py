@@ -22,8 +22,8 @@ def text_of(file):
     lines += [f"material {number}: {json.dumps(material, sort_keys=True)}"
               for number, material in enumerate(model["materials"])]
     for number, mesh in enumerate(model["meshes"]):
-        lines.append(f"mesh {number}: {json.dumps({key: value for key, value in mesh.items() if key != 'primitives'},
-                                                 ensure_ascii=False)}")
+        words = {key: value for key, value in mesh.items() if key != "primitives"}
+        lines.append(f"mesh {number}: {json.dumps(words, ensure_ascii=False)}")
         lines += ["  " + primitive_text(model, primitive) for primitive in mesh["primitives"]]
     for root in model["scenes"][model["scene"]]["nodes"]:
         lines += node_lines(model, root, 0)
