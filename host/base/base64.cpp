@@ -10,11 +10,11 @@ constexpr std::string_view kLetters =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
 /// The value of each letter; -1 for other bytes.
-constexpr std::array<std::int8_t, 256> kValues = [] {
-    std::array<std::int8_t, 256> values = {};
+constexpr std::array<std::int16_t, 256> kValues = [] {
+    std::array<std::int16_t, 256> values = {};
     values.fill(-1);
     for (std::size_t at = 0; at < kLetters.size(); ++at) {
-        values[static_cast<unsigned char>(kLetters[at])] = static_cast<std::int8_t>(at);
+        values[static_cast<unsigned char>(kLetters[at])] = static_cast<std::int16_t>(at);
     }
     return values;
 }();
