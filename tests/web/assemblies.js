@@ -16,7 +16,7 @@ function assembly(name, parts, meshes, top) {
     const part = parts[node.part];
     const path = `${above}${part.name}:${i + 1}`;
     paths.push(path);
-    return {...node, ...{name: part.name, path, pathIndex: paths.length - 1, partNumber: part.number, component: node.part, mesh: part.mesh},
+    return {...node, ...{name: part.name, path, pathIndex: paths.length - 1, partNumber: part.number, component: node.part, mesh: node.mesh ?? part.mesh},
             children: place(node.children ?? [], `${path}+`)};
   });
   const tree = place(top, '');
@@ -99,6 +99,21 @@ function block(count, name = `block-${count}.step`) {
   return assembly(name, parts, meshes, groups);
 }
 
+/// What is not a body of faces of one colour: a wire, a part that is shown as its box, one part in two colours, and two parts of
+/// one number that are different shapes.
+function odd(name = 'odd.step') {
+  const meshes = [
+    {name: 'wire', parts: [], lines: [-30, 0, 0, 30, 0, 0]}, {name: 'box', parts: [box(20, 20, 20, steel)], lines: [-10, -10, 0, 10, -10, 0]},
+    {name: 'red', parts: [box(24, 16, 6, red)]}, {name: 'blue', parts: [box(24, 16, 6, blue)]}, {name: 'pin', parts: [cylinder(6, 30, 12, brass)]}];
+  const part = (number, mesh) => ({number, name: number, mass: 0.1, material: 'Steel', mesh});
+  const parts = {wire: part('WIRE', 0), boxed: part('BOXED', 1), cover: part('COVER', 2), pin: part('PIN', 4), otherPin: part('PIN', 2), group: part('GROUP')};
+  const made = assembly(name, parts, meshes, [
+    {part: 'wire', at: [0, 60, 0]}, {part: 'boxed', at: [60, 0, 0]}, {part: 'cover', at: [0, 0, 0]}, {part: 'cover', at: [0, -60, 0], mesh: 3},
+    {part: 'group', children: [{part: 'otherPin', at: [-60, 0, 0]}, {part: 'pin', at: [-60, -60, 0]}]}]);
+  made.list.views[0].list.warnings = [{code: 'shown-as-box', component: 'BOXED', text: 'it cannot be meshed and is shown as its box'}];
+  return made;
+}
+
 /// `count` different items, each one box of the same shape.
 function catalogue(count, name = `catalogue-${count}.step`) {
   const parts = Object.fromEntries(Array.from({length: count}, (_, i) => [`c${i}`, {
@@ -119,4 +134,4 @@ function hostile() {
   return made;
 }
 
-module.exports = {block, brackets, catalogue, hostile, hostileNames};
+module.exports = {block, brackets, catalogue, hostile, hostileNames, odd};

@@ -5,7 +5,7 @@
 const assert = require('assert');
 const fs = require('fs');
 const {violations} = require('../site/browser');
-const {block, brackets, catalogue, hostile, hostileNames} = require('./assemblies');
+const {block, brackets, catalogue, hostile, hostileNames, odd} = require('./assemblies');
 const {compare} = require('./golden');
 const {startBrowser, open, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance, at, visible,
        remember, changedInstances, withPixels} = require('./page');
@@ -50,6 +50,58 @@ const tests = {
       await clickInstance(page, instance);
       assert.deepStrictEqual(await selectedRows(page), [`P-${instance % 12 + 1}`]);
     }
+  },
+
+  async wiresAndBoxesAreDrawnAndFound() {
+    const made = odd();
+    const page = await open(made.list, made.glb);
+    await press(page, '6');
+    const {x, y} = await at(page, 0);
+    for (const away of [0, 3]) {
+      await page.keyboard.press('Escape');
+      await page.mouse.click(x, y + away);
+      assert.deepStrictEqual(await selectedRows(page), ['WIRE']);
+    }
+    await page.mouse.click(x, y + 12);
+    assert.deepStrictEqual(await selectedRows(page), []);
+    await press(page, 'e');
+    await page.mouse.click(x, y);
+    assert.deepStrictEqual(await selectedRows(page), ['WIRE']);
+    await clickInstance(page, 1);
+    assert.deepStrictEqual(await selectedRows(page), ['BOXED']);
+    await page.click('header .tool:has-text("message")');
+    assert.deepStrictEqual(await page.$$eval('dialog li', items => items.map(each => each.textContent)), ['BOXED: it cannot be meshed and is shown as its box']);
+  },
+
+  async eachOccurrenceHasItsOwnColour() {
+    const made = odd();
+    const page = await open(made.list, made.glb);
+    await withPixels(page);
+    await press(page, '6');
+    const colour = instance => page.evaluate(async i => {
+      const {x, y} = partsPage.viewer.project(i), {data, width} = await pixels();
+      return [...data.subarray((Math.floor(y) * width + Math.floor(x)) * 4, (Math.floor(y) * width + Math.floor(x)) * 4 + 3)];
+    }, instance);
+    const [[r, , b], [otherR, , otherB]] = [await colour(2), await colour(3)];
+    assert.ok(r > 2 * b && otherB > 1.5 * otherR, `${[r, b, otherR, otherB]}`);
+    await row(page, 'COVER').click();
+    assert.deepStrictEqual(await page.evaluate(() => partsPage.selectedInstances()), [2, 3]);
+  },
+
+  async marksKeepToTheItemWhateverItsNumber() {
+    const made = odd();
+    const page = await open(made.list, made.glb);
+    const ticked = () => page.$$eval('.body .row', rows => rows.flatMap((each, i) => each.querySelector('[aria-label=Ordered]').checked ? [i] : []));
+    const pins = page.locator('.body .row', {hasText: 'PIN'});
+    await pins.nth(1).locator('[aria-label=Ordered]').click();
+    assert.deepStrictEqual(await ticked(), [4]);  // wire, boxed, cover, the one pin, the other
+    await pins.nth(1).click();
+    await page.click('[data-view=indented]');
+    assert.deepStrictEqual(await ticked(), [5]);  // the group is before its pins
+    assert.deepStrictEqual(await page.evaluate(() => partsPage.selectedInstances()), [5]);
+    await settled(page);
+    await reload(page);
+    assert.deepStrictEqual(await ticked(), [5]);
   },
 
   async aClickOnNothingClearsTheSelection() {
@@ -151,6 +203,11 @@ const tests = {
     assert.deepStrictEqual(await shownRows(page), ['BR-120', 'BR-110', 'ISO 4017 M8x30']);
     assert.strictEqual(await page.textContent('.counted'), '3 of 5 rows');
     await page.keyboard.press('Escape');
+    await page.keyboard.type('unobtainable');
+    assert.deepStrictEqual(await shownRows(page), []);
+    await page.click('.nothing:has-text("No row fits") button');
+    assert.strictEqual((await shownRows(page)).length, 5);
+    assert.strictEqual(await page.isVisible('.nothing'), false);
     await page.click('[aria-label=Filters]');
     await page.fill('[aria-label="Filter: Quantity"]', '>2');
     assert.deepStrictEqual(await shownRows(page), ['ISO 4032 M8', 'ISO 4017 M8x30']);
@@ -327,6 +384,7 @@ const tests = {
     await page.click('header .menu .tool');
     await page.click('.panel button:text-is("Print")');
     await page.waitForFunction(() => window.printed === 200);
+    assert.deepStrictEqual(await page.$$eval('.paper tfoot td', cells => cells.map(each => each.textContent).filter(Boolean)), ['Total', '200', '9.527', '0 / 200']);
     await page.emulateMedia({media: 'print'});
     assert.deepStrictEqual([await page.isVisible('.paper img'), await page.isVisible('main')], [true, false]);
     await page.evaluate(() => dispatchEvent(new Event('afterprint')));

@@ -48,6 +48,7 @@ export function readPartsList(json: any): PartsList {
     return array(view.list.columns, `views[${i}].list.columns`);
   }));
   const views = new Map(lists.map((view, i) => [String(view.list.view), readView(view, columns, paths, `views[${i}]`)]));
+  nameItems(views, paths);
   return {file: {name: String(json.file?.name ?? ''), sha256: String(json.file?.sha256 ?? '')}, columns: withKinds(columns, views), paths, views,
           ...messages(lists.map(each => each.list))};
 }
@@ -103,6 +104,21 @@ function readRow(row: any, columns: Column[], occurrences: unknown, level: numbe
           cells: columns.map(({id}) => readCell(row.cells?.[id])), level, parent, children: [], opened: row.kind === 'assembly',
           quantity: Number(row.quantity ?? 0), mass: numberOrNull(row.massKg), totalMass: numberOrNull(row.totalMassKg),
           marked: row.assumed === true || row.unmeasured === true, occurrences: array(occurrences, 'of occurrences').map(Number)};
+}
+
+/// Gives rows that stand for one item the same key in all views, and different items of one part number, which lists merged
+/// by shape have, different keys.
+function nameItems(views: Map<string, View>, paths: string[]): void {
+  const flat = views.get('all') ?? views.get('parts');
+  if (!flat) return;
+  const count = new Map<string, number>();
+  for (const {key} of flat.rows) count.set(key, (count.get(key) ?? 0) + 1);
+  const keys = new Map<number, string>();
+  for (const row of flat.rows) {
+    if (count.get(row.key)! > 1 && row.occurrences.length) row.key += ` @ ${paths[row.occurrences[0]]}`;
+    for (const path of row.occurrences) keys.set(path, row.key);
+  }
+  for (const {rows} of views.values()) for (const row of rows) row.key = keys.get(row.occurrences[0]) ?? row.key;
 }
 
 const numberOrNull = (value: unknown) => typeof value === 'number' ? value : null;

@@ -49,6 +49,7 @@ export class App {
   private readonly summary = element('div', {class: 'summary', role: 'status'});
   private readonly stepper = element('div', {class: 'stepper'});
   private readonly counted = element('span', {class: 'counted'});
+  private readonly nothing = element('div', {class: 'nothing', hidden: true}, texts.nothing, button('clear', texts.showRows, () => this.showAllRows(), {text: true}));
   private readonly facts = element('span', {class: 'facts'});
   private readonly tabs = element('div', {class: 'tabs', role: 'tablist', 'aria-label': texts.views});
   private readonly search = element('input', {type: 'search', placeholder: `${texts.search}  /`, 'aria-label': texts.searchHint});
@@ -97,7 +98,7 @@ export class App {
         menu('export', texts.export, () => this.exportMenu()), button('help', texts.help, () => this.showKeys(), {key: '?'}));
     const listBar = element('div', {class: 'bar'}, this.tabs, element('span', {class: 'gap'}), this.search,
         this.filterButton, menu('columns', texts.columns, () => this.columnMenu()));
-    const listSide = element('section', {class: 'side list', 'aria-label': texts.list}, listBar, this.grid.root,
+    const listSide = element('section', {class: 'side list', 'aria-label': texts.list}, listBar, this.grid.root, this.nothing,
         element('footer', {}, this.counted, this.summary, this.stepper));
     const modelSide = element('section', {class: 'side model', 'aria-label': texts.model}, this.panel?.bar, this.stage);
     if (problem) this.stage.append(element('p', {class: 'problem', role: 'alert'}, problem));
@@ -177,6 +178,7 @@ export class App {
   private arrange(fromTop: boolean): void {
     this.order = arrange(this.rows, this.columns.all, this.query, (row, id) => this.columns.cell(this.rows[row], id), language);
     this.grid.show(this.source(), fromTop);
+    this.nothing.hidden = this.order.length > 0 || this.rows.length === 0;
     this.counted.textContent = texts.shown(this.order.length, this.rows.length);
     this.keepAddress();
   }
@@ -202,6 +204,13 @@ export class App {
   private seek(): void {
     this.query.search = this.search.value;
     this.arrange(true);
+  }
+
+  private showAllRows(): void {
+    this.query.filters.clear();
+    this.search.value = '';
+    this.seek();
+    this.search.focus();
   }
 
   private sortBy(id: string): void {
@@ -495,9 +504,9 @@ export class App {
 
   private print(): void {
     const columns = this.columns.all.filter(each => this.shownColumns.has(each.id) && each.kind !== 'picture');
-    const cells = this.order.map(i => columns.map(({id}) => this.text(this.rows[i], id)));
+    const cells = this.order.map(i => columns.map(({id, kind}) => this.text(this.rows[i], id) || (kind === 'check' ? '☐' : '')));
     print({title: this.list.file.name, picture: this.viewer?.picture() ?? null, columns, cells, levels: this.order.map(i => this.rows[i].level),
-           totals: columns.map(({id}) => this.total(id))});
+           totals: columns.map(({id}, i) => this.total(id) || (i === 0 ? texts.total : ''))});
   }
 
   private showMessages(): void {
@@ -507,7 +516,7 @@ export class App {
   }
 
   private showKeys(): void {
-    box(texts.help, texts.close, element('dl', {}, ...texts.keys.flatMap(([key, what]) => [element('dt', {}, element('kbd', {}, key)), element('dd', {}, what)])));
+    box(texts.help, texts.close, element('dl', {}, ...texts.keys.flatMap(([key, what]) => [element('dt', {}, ...key.split(' ').map(each => each === '…' ? each : element('kbd', {}, each))), element('dd', {}, what)])));
   }
 
   // Keys

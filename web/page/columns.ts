@@ -11,9 +11,14 @@ const numberId = 'partNumber';
 const hiddenAtFirst = new Set(['path', 'usedIn', 'document', 'level', 'density', 'area', 'volume', 'bomStructure', 'quantityPerParent', 'bodies', 'item', 'description']);
 const widths: Record<string, number> = {item: 58, [numberId]: 146, [nameId]: 140, description: 150, material: 116};
 const pictureWidth = 68, markWidth = 78;
-const letterWidth = 7.6, margin = 22;  // of a caption, which has to fit
+const margin = 20;  // beside a caption, which has to fit
 
-const fitting = (caption: string, least: number) => Math.max(least, Math.round(caption.length * letterWidth + margin));
+const ruler = document.createElement('canvas').getContext('2d')!;
+
+function fitting(caption: string, least: number): number {
+  ruler.font = `600 13px ${getComputedStyle(document.body).fontFamily}`;
+  return Math.max(least, Math.ceil(ruler.measureText(caption).width) + margin);
+}
 
 export const pictureId = 'thumbnail';
 

@@ -41,11 +41,12 @@ export class Panel3d {
     this.place.addEventListener('input', () => this.applySection());
     this.flip.addEventListener('click', () => { press(this.flip, this.flip.getAttribute('aria-pressed') !== 'true'); this.applySection(); });
     this.flip.classList.add('cutting');
+    const group = (...tools: HTMLElement[]) => element('div', {class: 'group'}, ...tools);
     this.bar.append(
-        button('fit', texts.fit, () => viewer.fit(), {key: 'F'}), views, this.perspective, this.edges, this.cut, this.axis, this.place, this.flip,
-        element('label', {class: 'slider', for: 'explode'}, texts.explode), this.explode, element('span', {class: 'gap'}),
-        button('isolate', texts.isolate, () => visibility.isolate(), {key: 'I'}), button('hide', texts.hide, () => visibility.hide(), {key: 'H'}), this.dim,
-        button('show', texts.showAll, () => visibility.showAll(), {key: 'A'}));
+        group(button('fit', texts.fit, () => viewer.fit(), {key: 'F'}), views, this.perspective, this.edges, this.cut, this.axis, this.place, this.flip),
+        group(element('label', {class: 'slider', for: 'explode'}, texts.explode), this.explode), element('span', {class: 'gap'}),
+        group(button('isolate', texts.isolate, () => visibility.isolate(), {key: 'I'}), button('hide', texts.hide, () => visibility.hide(), {key: 'H'}), this.dim,
+              button('show', texts.showAll, () => visibility.showAll(), {key: 'A'})));
     this.sync();
   }
 

@@ -21,5 +21,23 @@ export function print(sheet: Sheet): void {
   document.body.append(paper);
   addEventListener('afterprint', () => paper.remove(), {once: true});
   const picture = paper.querySelector('img');
-  Promise.resolve(picture?.decode().catch(() => {})).then(() => window.print());
+  Promise.resolve(picture && cropped(picture).catch(() => {})).then(() => window.print());
+}
+
+/// Takes away what is empty around the drawing, so that it fills its place on the paper.
+async function cropped(picture: HTMLImageElement): Promise<void> {
+  await picture.decode();
+  const {naturalWidth: width, naturalHeight: height} = picture;
+  const canvas = element('canvas', {width, height}), context = canvas.getContext('2d')!;
+  context.drawImage(picture, 0, 0);
+  const {data} = context.getImageData(0, 0, width, height);
+  const inked = (x: number, y: number) => data[(y * width + x) * 4 + 3] > 0;
+  const columns = Array.from({length: width}, (_, x) => x), rows = Array.from({length: height}, (_, y) => y);
+  const usedRows = rows.filter(y => columns.some(x => inked(x, y))), usedColumns = columns.filter(x => usedRows.some(y => inked(x, y)));
+  if (!usedRows.length) return;
+  const [left, top] = [usedColumns[0], usedRows[0]];
+  Object.assign(canvas, {width: usedColumns[usedColumns.length - 1] - left + 1, height: usedRows[usedRows.length - 1] - top + 1});
+  context.drawImage(picture, -left, -top);
+  picture.src = canvas.toDataURL();
+  await picture.decode();
 }

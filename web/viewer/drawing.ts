@@ -14,7 +14,10 @@ const selectedBit = 1, hoveredBit = 2;
 
 export interface Palette { select: number[]; hover: number[]; line: number[]; cut: number[] }
 
-interface Drawable { look: Look; shape: number; kind: 'face' | 'line'; object: Mesh | LineSegments; ids: InstancedBufferAttribute }
+/// Lines of a shape that has no faces are its body: they are drawn with and without edges, and are found under the pointer.
+type Kind = 'face' | 'edge' | 'wire';
+
+interface Drawable { look: Look; shape: number; kind: Kind; object: Mesh | LineSegments; ids: InstancedBufferAttribute }
 
 /// What of the instances is drawn, and how.
 export class Drawing {
@@ -50,6 +53,7 @@ export class Drawing {
     this.uniforms.uSelect.value.fromArray(palette.select);
     this.uniforms.uHover.value.fromArray(palette.hover);
     this.uniforms.uCut.value.set(palette.cut[0], palette.cut[1], palette.cut[2], 1);
+    this.materials.wire.uniforms.uLine.value.set(palette.cut[0], palette.cut[1], palette.cut[2], 1);
     for (const [name, alpha] of [['line', 0.75], ['ghostLine', 0.13]] as const) {
       this.materials[name].uniforms.uLine.value.set(palette.line[0], palette.line[1], palette.line[2], alpha);
     }
@@ -73,7 +77,7 @@ export class Drawing {
   private fill(drawable: Drawable): void {
     let count = 0;
     const ids = drawable.ids.array;
-    if (drawable.kind === 'face' || this.edges) {
+    if (drawable.kind !== 'edge' || this.edges) {
       for (const instance of this.byShape[drawable.shape]) {
         if (this.looks[instance] === drawable.look) ids[count++] = instance;
       }
@@ -88,7 +92,8 @@ export class Drawing {
     if (shape.opaque) this.add(new Mesh(faces(shape.opaque), this.materials.face), index, Look.Shown, 0);
     if (shape.transparent) this.add(new Mesh(faces(shape.transparent), this.materials.glass), index, Look.Shown, 2);
     const lines = featureEdges(shape);
-    if (lines.length) this.add(new LineSegments(linesOf(lines), this.materials.line), index, Look.Shown, 1);
+    const material = hasFaces(shape) ? this.materials.line : this.materials.wire;
+    if (lines.length) this.add(new LineSegments(linesOf(lines), material), index, Look.Shown, 1);
   }
 
   private addGhost(index: number): void {
@@ -108,20 +113,23 @@ export class Drawing {
     object.matrixAutoUpdate = false;
     object.renderOrder = order;
     this.scene.add(object);
-    this.drawables.push({look, shape, kind: object instanceof Mesh ? 'face' : 'line', object, ids});
+    const kind = object instanceof Mesh ? 'face' : hasFaces(this.model.shapes[shape]) ? 'edge' : 'wire';
+    this.drawables.push({look, shape, kind, object, ids});
   }
 
-  /// Calls `render` with only the faces of this look in the scene, each in the colour of its number.
+  /// Calls `render` with only the faces and wires of this look in the scene, each in the colour of its number.
   withIds(look: Look, render: () => void): void {
     const before = this.drawables.map(({object}) => ({visible: object.visible, material: object.material}));
     for (const {object, look: own, kind} of this.drawables) {
-      object.visible &&= own === look && kind === 'face';
+      object.visible &&= own === look && kind !== 'edge';
       object.material = this.idMaterial;
     }
     render();
     this.drawables.forEach(({object}, i) => Object.assign(object, before[i]));
   }
 }
+
+export const hasFaces = (shape: Shape) => shape.opaque !== null || shape.transparent !== null;
 
 type Uniforms = ReturnType<typeof uniforms>;
 
@@ -141,7 +149,7 @@ function materials(shared: Uniforms) {
   const face = (more: object) => material(shared, shaders.faceVertex, shaders.faceFragment, {...behindLines, ...more});
   const line = () => material(shared, shaders.lineVertex, shaders.lineFragment, blended);
   return {face: face({}), glass: face(blended), ghost: face({...blended, defines: {GHOST: '0.055'}}),
-          line: line(), ghostLine: line()};
+          line: line(), wire: line(), ghostLine: line()};
 }
 
 function instanced(attributes: Record<string, BufferAttribute>, index: BufferAttribute | null): InstancedBufferGeometry {

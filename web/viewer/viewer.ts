@@ -6,7 +6,7 @@ import {LinearSRGBColorSpace, OrthographicCamera, PerspectiveCamera, Vector3, We
 import {Model, triangleCount} from '../model/model.ts';
 import {axes, between, Camera, direction, Pose, Sphere, ViewName} from './camera.ts';
 import {Controls} from './controls.ts';
-import {Drawing, Look, Palette} from './drawing.ts';
+import {Drawing, hasFaces, Look, Palette} from './drawing.ts';
 import {Places} from './places.ts';
 
 export {Look};
@@ -16,6 +16,7 @@ export interface Section { axis: 0 | 1 | 2; share: number; flipped: boolean }
 
 export interface Stats { instances: number; triangles: number; drawCalls: number; frames: number; shapes: number }
 
+const reach = 3;     // pixels from a wire that still mean it
 const flight = 260;  // milliseconds from one view to another
 const none: number[] = [];
 
@@ -30,6 +31,7 @@ export class Viewer {
 
   private readonly renderer: WebGLRenderer;
   private readonly everything: number[];
+  private readonly hasWires: boolean;
   private readonly frameStats = {drawCalls: 0, frames: 0};
   private explodeShare = 0;
   private cutting: Section | null = null;
@@ -50,6 +52,7 @@ export class Viewer {
     this.places = new Places(model);
     this.drawing = new Drawing(model, this.places);
     this.everything = model.instances.map((_, i) => i);
+    this.hasWires = model.shapes.some(shape => !hasFaces(shape));
     new Controls(canvas, {
       camera: this.camera, moved: () => this.moved(), leave: () => this.point(null),
       hover: (x, y) => this.point({x, y}), click: (x, y, event) => this.onClick(this.pick(x, y), event)});
@@ -235,8 +238,27 @@ export class Viewer {
     }
   }
 
-  /// The instance drawn at this place of the canvas, in CSS pixels; a ghost only where nothing else is; -1: none.
+  /// The instance drawn at this place of the canvas, in CSS pixels, else a wire beside it; a ghost only where nothing else is;
+  /// -1: none.
   pick(x: number, y: number): number {
+    const instance = this.drawnAt(x, y);
+    return instance < 0 && this.hasWires ? this.wireNear(x, y) : instance;
+  }
+
+  private wireNear(x: number, y: number): number {
+    const {instances, shapes} = this.model;
+    for (let away = 1; away <= reach; ++away) {
+      for (let at = -away; at < away; ++at) {
+        for (const [dx, dy] of [[at, -away], [away, at], [-at, away], [-away, -at]]) {
+          const instance = this.drawnAt(x + dx, y + dy);
+          if (instance >= 0 && !hasFaces(shapes[instances[instance].shape])) return instance;
+        }
+      }
+    }
+    return -1;
+  }
+
+  private drawnAt(x: number, y: number): number {
     const {data, width, height} = this.ids ??= this.drawIds();
     const [column, row] = [Math.floor(x), height - 1 - Math.floor(y)];
     if (column < 0 || row < 0 || column >= width || row >= height) return -1;
