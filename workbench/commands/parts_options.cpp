@@ -3,6 +3,8 @@
 #include "workbench/cli/exit_code.h"
 #include "workbench/cli/nearest_word.h"
 
+#include "parts/bom_structure.h"
+
 #include <optional>
 #include <string_view>
 
@@ -56,11 +58,31 @@ Words fieldNames() {
     return names;
 }
 
-[[noreturn]] void refuseColumn(const parts::UnknownColumn& error) {
-    const std::string nearest = nearestWord(error.name(), fieldNames());
-    refuse(std::string(error.what()) +
-           (nearest.empty() ? "; property:NAME shows one that a design need not have"
-                            : "; did you mean \"" + nearest + "\"?"));
+/// The columns that a list of a design can have.
+Words columnNames(const host::DesignData& design) {
+    Words names = fieldNames();
+    for (const std::string& name : parts::propertyNames(design)) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+/// What would be right in the place of a column that there is not.
+std::string adviceAbout(const std::string& name, const host::DesignData& design) {
+    if (name.find(';') != std::string::npos) {
+        return "columns have commas between them";
+    }
+    const std::string nearest = nearestWord(name, columnNames(design));
+    if (!nearest.empty()) {
+        return "did you mean \"" + nearest + "\"?";
+    }
+    return name.find(':') == std::string::npos
+               ? "property:NAME shows one that a design need not have"
+               : "one to sort by ends in :asc, :desc or neither";
+}
+
+[[noreturn]] void refuseColumn(const parts::UnknownColumn& error, const host::DesignData& design) {
+    refuse(std::string(error.what()) + "; " + adviceAbout(error.name(), design));
 }
 
 void checkDelimiter(const std::string& delimiter) {
@@ -167,7 +189,7 @@ parts::PartsList listOf(const host::DesignData& design, const parts::PartsReques
     try {
         return parts::buildPartsList(design, request, shapes);
     } catch (const parts::UnknownColumn& error) {
-        refuseColumn(error);
+        refuseColumn(error, design);
     } catch (const parts::RequestError& error) {
         refuse(error.what());
     }

@@ -75,6 +75,23 @@ TEST_F(PartsFailures, ABadColumnOfOneListKeepsAllFromBeingWritten) {
     EXPECT_FALSE(folder.has("two.csv"));
 }
 
+TEST_F(PartsFailures, AnUnknownColumnIsRefusedWithWhatWouldBeRight) {
+    const std::string file = design("Bolt  property=Colour/red");
+    const auto expect = [&](const std::string& option, const std::string& name,
+                            const std::string& advice) {
+        expectFailure(run({"parts", file, option, name}), 2,
+                      "tarnix-workbench: \"" + name +
+                          "\": no such column, and no component has a custom property of that "
+                          "name; " +
+                          advice + "\n");
+    };
+
+    expect("--columns", "Colur", "did you mean \"Colour\"?");
+    expect("--columns", "Part Number;Mass", "columns have commas between them");
+    expect("--sort", "Mass:downwards", "one to sort by ends in :asc, :desc or neither");
+    expect("--columns", "Zebra", "property:NAME shows one that a design need not have");
+}
+
 TEST_F(PartsFailures, AProfileThatIsMissingIsRefused) {
     expectFailure(
         run({"parts", design("Bolt"), "--profile", path("none.toml"), "--output",
