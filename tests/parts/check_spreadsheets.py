@@ -15,6 +15,9 @@ import subprocess
 import sys
 import tempfile
 
+# Nothing is written beside the sources.
+sys.dont_write_bytecode = True
+
 from readers.office import Office, with_wrong_results
 from readers.workbook import Workbook
 

@@ -4,6 +4,9 @@
 import pathlib
 import sys
 
+# Nothing is written beside the sources.
+sys.dont_write_bytecode = True
+
 from readers import model, page, workbook
 
 PRINTERS = {".xlsx": lambda file: workbook.Workbook(file).text(), ".glb": model.text_of, ".html": page.text_of}
