@@ -1,60 +1,70 @@
-// How long a page takes from opening to its first picture, and what turning it costs, against the number of
-// occurrences. Software WebGL: of a real GPU, draw calls, triangles and bytes say more than the times.
+// How long pages take from opening to their first picture, and what turning costs. Software WebGL: of a real GPU, draw
+// calls, triangles and bytes say more than the times.
 //
-//   tests/web/measure
+//   node measure.js [PAGE.html...]    beside generated assemblies of 100 and 20,000 occurrences
 'use strict';
 const fs = require('fs');
+const os = require('os');
 const path = require('path');
 const {block} = require('./assemblies');
-const {startBrowser, open, folder} = require('./page');
+const {writePage} = require('./glb_writer');
+const {startBrowser, openFile, closeTabs, folder} = require('./page');
 
-const runs = 3, turns = 4;
+const runs = 3, turns = 8, viewport = {width: 1280, height: 720};
 const median = values => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
-/// Draws, and waits for the driver: reading a pixel needs the picture.
-const withDrawing = page => page.evaluate(() => {
-  window.drawNow = () => {
-    const {viewer} = partsPage, gl = viewer.renderer.getContext();
-    viewer.draw();
+/// What runs before the page: it remembers when the first picture was there, which reading a pixel waits for.
+function watch() {
+  window.waitForDriver = () => {
+    const gl = partsPage.viewer.renderer.getContext();
     gl.readPixels(0, 0, 1, 1, gl.RGBA, gl.UNSIGNED_BYTE, new Uint8Array(4));
   };
-});
-
-/// From the start of the navigation to a picture that is drawn.
-const firstPicture = page => page.evaluate(() => {
-  drawNow();
-  return performance.now();
-});
+  const look = () => {
+    if (!(window.partsPage?.viewer.stats().frames > 0)) return requestAnimationFrame(look);
+    waitForDriver();
+    window.firstPicture = performance.now();
+  };
+  requestAnimationFrame(look);
+}
 
 const frame = page => page.evaluate(count => {
   const start = performance.now();
   for (let i = 0; i < count; ++i) {
     partsPage.viewer.camera.turn(0.1, 0);
-    drawNow();
+    partsPage.viewer.draw();
+    waitForDriver();
   }
   return (performance.now() - start) / count;
 }, turns);
 
-async function main() {
-  const browser = await startBrowser();
-  console.log('occurrences  kB     draw calls  triangles  first picture  a frame');
-  for (const count of [100, 1413, 20000]) {
-    const {list, glb} = block(count);
-    const opened = [], frames = [];
-    let stats;
-    for (let run = 0; run < runs; ++run) {
-      const page = await open(list, glb, {name: 'measured'});
-      await withDrawing(page);
-      opened.push(await firstPicture(page));
-      frames.push(await frame(page));
-      stats = await page.evaluate(() => partsPage.viewer.stats());
-      await page.context().close();
-    }
-    const bytes = fs.statSync(path.join(folder, 'measured.html')).size;
-    console.log([String(count).padEnd(12), String(Math.round(bytes / 1000)).padEnd(6), String(stats.drawCalls).padEnd(11), String(stats.triangles).padEnd(10),
-                 `${Math.round(median(opened))} ms`.padEnd(14), `${Math.round(median(frames))} ms`].join(' '));
+async function measure(file) {
+  const opened = [], frames = [];
+  let stats;
+  for (let run = 0; run < runs; ++run) {
+    const page = await openFile(file, {viewport}, watch);
+    await page.waitForFunction(() => window.firstPicture);
+    opened.push(await page.evaluate(() => window.firstPicture));
+    frames.push(await frame(page));
+    stats = await page.evaluate(() => partsPage.viewer.stats());
+    await closeTabs();
   }
+  const {instances, drawCalls, triangles} = stats;
+  return [path.basename(file), instances, Math.round(fs.statSync(file).size / 1000), drawCalls, triangles, Math.round(median(opened)), Math.round(median(frames))];
+}
+
+function generated(count) {
+  const file = path.join(folder, `${count} generated.html`), {list, glb} = block(count);
+  writePage(file, list, glb);
+  return file;
+}
+
+async function main(pages) {
+  const browser = await startBrowser();
+  console.log(`load average ${os.loadavg().map(each => each.toFixed(1)).join(' ')}`);
+  console.log('| Page | Instances | kB | Draw calls | Triangles | First picture, ms | A frame, ms |');
+  console.log('|---|---|---|---|---|---|---|');
+  for (const file of [generated(100), ...pages.map(each => path.resolve(each)), generated(20000)]) console.log(`| ${(await measure(file)).join(' | ')} |`);
   await browser.close();
 }
 
-main();
+main(process.argv.slice(2));

@@ -29,13 +29,14 @@ async function open(list, glb, {name = 'page', ...options} = {}) {
 }
 
 /// Opens a page in the tab of its language, which has lost what was stored in it; `page.complaints` has what must
-/// not be: errors, and requests beyond the file.
-async function openFile(file, {locale = 'en-GB', colorScheme = 'light', ...size} = {}) {
+/// not be: errors, and requests beyond the file. `before` runs in the page ahead of its own script.
+async function openFile(file, {locale = 'en-GB', colorScheme = 'light', ...size} = {}, before = null) {
   const page = tabs.get(locale) ?? await newTab(locale);
   await page.setViewportSize(size.viewport ?? viewport);
   await page.emulateMedia({media: null, colorScheme});
   await page.mouse.move(2, 2);
   await page.evaluate(() => { if (location.protocol === 'file:') localStorage.clear(); });
+  if (before) await page.addInitScript(before);
   await page.goto(`file://${file}`);
   page.shown = null;
   return ready(page);
