@@ -238,6 +238,21 @@ const tests = {
     assert.deepStrictEqual(await totals(), ['Total', '14', '0.1592', '0 / 2']);
   },
 
+  async pointsOfNumbersAreOneBelowTheOther() {
+    const page = await openSample();
+    const points = await page.$$eval('.body .cell.number', cells => cells.flatMap(cell => {
+      const text = cell.firstChild, at = text?.data.indexOf('.') ?? -1;
+      if (at < 0) return [];
+      const range = document.createRange();
+      range.setStart(text, at);
+      range.setEnd(text, at + 1);
+      return [[cell.dataset.column, range.getBoundingClientRect().left]];
+    }));
+    const columns = [...new Set(points.map(([column]) => column))].map(column => points.filter(each => each[0] === column));
+    assert.deepStrictEqual(columns.map(each => each.length), [5, 5]);  // mass and total mass
+    for (const each of columns) assert.ok(each.every(([, left]) => Math.abs(left - each[0][1]) < 1), JSON.stringify(each));
+  },
+
   async picturesOfTheRowsAreDrawn() {
     const page = await openSample();
     await page.waitForFunction(() => document.querySelectorAll('.cell.picture img').length === 5);

@@ -12,7 +12,7 @@ const web = path.join(__dirname, '../../web');
 const {readGlb} = load('model/glb.ts');
 const {featureEdges} = load('model/edges.ts');
 const {arrange} = load('list/arrange.ts');
-const {csv, formatNumber} = load('list/format.ts');
+const {csv, digitsOf, formatNumber} = load('list/format.ts');
 const {readPartsList, sum, total} = load('list/parts_list.ts');
 const {decode, encode} = load('page/address.ts');
 const {Links} = load('page/links.ts');
@@ -165,6 +165,12 @@ const tests = {
     const written = value => formatNumber(value, null, 'en');
     assert.deepStrictEqual([0.000012345, 0.0197, 1.23456, 12345.678, 100, 0, -0.5].map(written), ['0.00001235', '0.0197', '1.235', '12346', '100', '0', '-0.5']);
     assert.strictEqual(formatNumber(1.5, 2, 'cs'), '1,50');
+  },
+
+  aColumnHasRoomForItsNumbers() {
+    assert.deepStrictEqual(digitsOf([0.000475, 1.263, 571.2, 100]), {whole: 3, fraction: 6});
+    assert.deepStrictEqual(digitsOf([8, 12]), {whole: 2, fraction: 0});
+    assert.deepStrictEqual(digitsOf([]), {whole: 1, fraction: 0});
   },
 
   csvIsQuotedAndRunsNothing() {

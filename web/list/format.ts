@@ -14,6 +14,17 @@ function fractionDigits(value: number): number {
   return Math.min(20, Math.max(0, significantDigits - 1 - Math.floor(Math.log10(Math.abs(value)))));
 }
 
+/// How many digits such numbers have before the point and after it, at most.
+export function digitsOf(values: number[]): {whole: number; fraction: number} {
+  const result = {whole: 1, fraction: 0};
+  for (const value of values) {
+    const [whole, fraction = ''] = Math.abs(value).toFixed(fractionDigits(value)).split('.');
+    result.whole = Math.max(result.whole, whole.length);
+    result.fraction = Math.max(result.fraction, fraction.replace(/0+$/, '').length);
+  }
+  return result;
+}
+
 export function formatCell(cell: Cell | boolean, language: string): string {
   if (cell === null) return '';
   if (typeof cell === 'boolean') return cell ? '✓' : '';

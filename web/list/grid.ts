@@ -9,6 +9,7 @@ export interface GridColumn {
   kind: 'text' | 'number' | 'picture' | 'check' | 'note';
   width: number;     ///< pixels
   grows?: boolean;   ///< takes what is left
+  fraction?: number; ///< digits after the point that its numbers are aligned for
   tree?: boolean;    ///< indented, with the sign that folds
 }
 
@@ -92,9 +93,12 @@ export class Grid {
   }
 
   drawFoot(): void {
-    const cells = this.source.columns.map((column, i) =>
-        element('div', {role: 'gridcell', class: `cell ${column.kind}`, 'aria-colindex': i + 1},
-                this.source.total(column) || (i === 0 ? this.texts.total : '')));
+    const cells = this.source.columns.map((column, i) => {
+      const text = this.source.total(column) || (i === 0 ? this.texts.total : '');
+      const cell = element('div', {role: 'gridcell', class: `cell ${column.kind}`, 'aria-colindex': i + 1}, text);
+      align(cell, text, column);
+      return cell;
+    });
     this.foot.replaceChildren(element('div', {role: 'row', class: 'row', 'aria-rowindex': this.source.rowCount + 2}, ...cells));
   }
 
@@ -170,6 +174,7 @@ export class Grid {
     } else {
       const text = this.source.text(row, column);
       cell.append(text);
+      align(cell, text, column);
       if (text.length > 12) cell.title = text;
     }
     return cell;
@@ -324,4 +329,12 @@ export class Grid {
     this.draw();
     return true;
   }
+}
+
+/// Puts the points of a column's numbers one below the other; a point is about half as wide as a digit.
+function align(cell: HTMLElement, text: string, {fraction}: GridColumn): void {
+  if (!fraction || !text) return;
+  const [, own = ''] = text.split(/[.,]/);
+  const missing = Math.max(0, fraction - own.length) + (own ? 0 : 0.5);
+  if (missing) cell.style.paddingInlineEnd = `calc(8px + ${missing} * var(--digit))`;
 }

@@ -1,4 +1,5 @@
 // The columns that the page offers: those of the list, and the reader's own marks and notes.
+import {digitsOf} from '../list/format.ts';
 import type {GridColumn} from '../list/grid.ts';
 import type {Cell, Column, PartsList, Row} from '../list/parts_list.ts';
 import {marks} from './work.ts';
@@ -12,6 +13,9 @@ const hiddenAtFirst = new Set(['path', 'usedIn', 'document', 'level', 'density',
 const widths: Record<string, number> = {item: 58, [numberId]: 146, [nameId]: 140, description: 150, material: 116};
 const pictureWidth = 68, markWidth = 78;
 const margin = 20;  // beside a caption, which has to fit
+
+const mostDigits = 7;   // after the point; a few tiny numbers shall not push all others away
+const digitWidth = 8.4;
 
 const ruler = document.createElement('canvas').getContext('2d')!;
 
@@ -37,8 +41,17 @@ export class Columns {
 
   private fromList(column: Column): GridColumn {
     const caption = captionOf(column);
-    return {id: column.id, caption, kind: column.kind, width: fitting(caption, widths[column.id] ?? (column.kind === 'number' ? 72 : 110)),
-            grows: column.id === nameId, tree: column.id === this.treeColumn()};
+    if (column.kind === 'number') return {id: column.id, caption, kind: column.kind, ...this.layNumbers(column, caption)};
+    return {id: column.id, caption, kind: column.kind, width: fitting(caption, widths[column.id] ?? 110), grows: column.id === nameId,
+            tree: column.id === this.treeColumn()};
+  }
+
+  private layNumbers(column: Column, caption: string): {width: number; fraction: number} {
+    const index = this.indices.get(column.id)!;
+    const rows = [...this.list.views.values()].flatMap(view => view.rows);
+    const {whole, fraction: all} = digitsOf(rows.flatMap(({cells}) => typeof cells[index] === 'number' ? [cells[index] as number] : []));
+    const fraction = Math.min(mostDigits, all);
+    return {width: fitting(caption, Math.max(72, Math.ceil((whole + fraction + 1) * digitWidth) + margin)), fraction};
   }
 
   // The tree is shown where the eye looks first.
