@@ -10,8 +10,11 @@ namespace {
 
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string quotedWhereNeeded(const std::string& value, char delimiter) {
-    const std::string special = std::string("\"\r\n") + delimiter;
+/// What a spreadsheet splits a text at by default, whatever the delimiter is: it would run the
+/// second half of "a;=cmd".
+constexpr const char* kSeparators = ",;\t";
+
+std::string quotedWhereNeeded(const std::string& value, const std::string& special) {
     if (value.find_first_of(special) == std::string::npos) {
         return value;
     }
@@ -78,9 +81,11 @@ void writeLines(const PartsList& list, std::ostream& stream, char delimiter, con
 
 void writeCsv(const PartsList& list, const CsvFormat& format, std::ostream& stream) {
     stream << (format.byteOrderMark ? kByteOrderMark : "");
+    const std::string inNumbers = std::string("\"\r\n") + format.delimiter;
+    const std::string inTexts = inNumbers + kSeparators;
     writeLines(list, stream, format.delimiter, "\r\n", [&](const Cell& cell) {
         return quotedWhereNeeded(valueOf(cell, format.numbers, format.guardFormulas),
-                                 format.delimiter);
+                                 std::holds_alternative<std::string>(cell) ? inTexts : inNumbers);
     });
 }
 

@@ -15,8 +15,8 @@ struct CsvFormat {
     bool guardFormulas = true;
 };
 
-/// Captions and rows after RFC 4180: CR LF at line ends, quotes where a value needs them. Pictures
-/// are left empty.
+/// Captions and rows after RFC 4180: CR LF at line ends, quotes where a value needs them, and
+/// around texts with a comma, a semicolon or a tab. Pictures are left empty.
 void writeCsv(const PartsList& list, const CsvFormat& format, std::ostream& stream);
 
 struct TsvFormat {

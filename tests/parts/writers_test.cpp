@@ -68,8 +68,14 @@ TEST(Csv, QuotesWhatWouldSeparate) {
     EXPECT_EQ(csv(cell("a,b")), "Name\r\n\"a,b\"\r\n");
     EXPECT_EQ(csv(cell("5\" pipe")), "Name\r\n\"5\"\" pipe\"\r\n");
     EXPECT_EQ(csv(cell("two\nlines")), "Name\r\n\"two\nlines\"\r\n");
-    EXPECT_EQ(csv(cell("a;b")), "Name\r\na;b\r\n");
-    EXPECT_EQ(csv(cell("a;b"), {.delimiter = ';'}), "Name\r\n\"a;b\"\r\n");
+    EXPECT_EQ(csv(cell("a|b"), {.delimiter = '|'}), "Name\r\n\"a|b\"\r\n");
+}
+
+TEST(Csv, QuotesTextsThatASpreadsheetWouldSplit) {
+    EXPECT_EQ(csv(cell("a;=cmd")), "Name\r\n\"a;=cmd\"\r\n");
+    EXPECT_EQ(csv(cell("a\t=cmd")), "Name\r\n\"a\t=cmd\"\r\n");
+    EXPECT_EQ(csv(cell("a,=cmd"), {.delimiter = ';'}), "Name\r\n\"a,=cmd\"\r\n");
+    EXPECT_EQ(csv(cell("a=cmd")), "Name\r\na=cmd\r\n");
 }
 
 TEST(Csv, MarksFormulasUnlessTheyAreWanted) {
