@@ -100,9 +100,13 @@ std::optional<std::string> findReading(const ReadingCache& cache, const std::str
     return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
-void keepReading(const ReadingCache& cache, const std::string& key, const std::string& content) {
+std::uintmax_t largestEntry(const ReadingCache& cache) {
     constexpr std::uintmax_t kLeastEntries = 4;
-    if (cache.folder.empty() || content.size() > cache.limit / kLeastEntries) {
+    return cache.limit / kLeastEntries;
+}
+
+void keepReading(const ReadingCache& cache, const std::string& key, const std::string& content) {
+    if (cache.folder.empty() || content.size() > largestEntry(cache)) {
         return;
     }
     try {

@@ -22,8 +22,11 @@ struct ReadingCache {
 /// The content of an entry, which counts as used now; nothing where there is none.
 std::optional<std::string> findReading(const ReadingCache& cache, const std::string& key);
 
+/// How many bytes an entry may have: a quarter of the limit, so that no file pushes out all others.
+std::uintmax_t largestEntry(const ReadingCache& cache);
+
 /// Adds or replaces an entry, then removes the oldest ones beyond the limit. One that is larger
-/// than a quarter of the limit is not kept. Where it fails, it is as if there were no cache.
+/// than `largestEntry` is not kept. Where it fails, it is as if there were no cache.
 void keepReading(const ReadingCache& cache, const std::string& key, const std::string& content);
 
 /// What lies in a cache.

@@ -16,6 +16,7 @@ namespace {
 // A line of the reader is an object, and its first member says what it is.
 constexpr std::string_view kDesign = R"({"design")";
 constexpr std::string_view kError = R"({"error")";
+constexpr std::string_view kAgain = R"({"again")";
 constexpr std::string_view kProgress = R"({"progress")";
 
 /// The first line of an entry; the hash of all others follows.
@@ -133,7 +134,7 @@ void RememberedReader::remember(const std::string& line) {
         return;
     }
     if (isOpen_) {
-        if (!line.starts_with(kError)) {
+        if (!line.starts_with(kError) && !line.starts_with(kAgain)) {
             responses_.emplace(std::exchange(asked_, {}), line);
             hasLearned_ = true;
         }
@@ -173,13 +174,35 @@ std::unique_ptr<ReaderConnection> RememberedReader::startLate() const {
     return reader;
 }
 
+/// The shortest ones that have so many bytes together, by their requests.
+std::vector<RememberedReader::Responses::const_iterator> RememberedReader::responsesWithin(
+    std::uintmax_t room) const {
+    const auto bytesOf = [](Responses::const_iterator each) {
+        return each->first.size() + each->second.size() + 2;
+    };
+    std::vector<Responses::const_iterator> chosen;
+    for (auto each = responses_.begin(); each != responses_.end(); ++each) {
+        chosen.push_back(each);
+    }
+    std::ranges::stable_sort(chosen, {}, bytesOf);
+    std::uintmax_t bytes = 0;
+    std::erase_if(chosen, [&](Responses::const_iterator each) {
+        bytes += bytesOf(each);
+        return bytes > room;
+    });
+    return chosen;
+}
+
 std::string RememberedReader::entry() const {
     std::string text;
     for (const std::string& line : opening_) {
         text += line + "\n";
     }
-    for (const auto& [request, response] : responses_) {
-        text += request + "\n" + response + "\n";
+    constexpr std::uintmax_t kHashDigits = 64;
+    const std::uintmax_t used = text.size() + kHead.size() + kHashDigits + 1;
+    const std::uintmax_t most = largestEntry(cache_);
+    for (const auto& each : responsesWithin(used < most ? most - used : 0)) {
+        text += each->first + "\n" + each->second + "\n";
     }
     return std::string(kHead) + sha256Of(text) + "\n" + text;
 }

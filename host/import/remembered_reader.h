@@ -3,6 +3,7 @@
 #include "host/import/reader_connection.h"
 #include "host/import/reading_cache.h"
 
+#include <cstdint>
 #include <deque>
 #include <filesystem>
 #include <functional>
@@ -17,7 +18,9 @@ namespace host {
 ///
 /// An entry of the cache holds what the reader sent up to the design, and its response to each
 /// request since. As long as all that is asked is in the entry, no reader is started; the first
-/// request that is not starts one. Errors are never remembered: who meets one asks again.
+/// request that is not starts one. Errors are never remembered, and neither is what the reader
+/// marks as made by a limit of time or memory: who meets one asks again. Where an entry would be
+/// too large for the cache, the longest responses are left out, which are meshes.
 class RememberedReader final : public ReaderConnection {
 public:
     using Start = std::function<std::unique_ptr<ReaderConnection>()>;
@@ -41,6 +44,8 @@ public:
     void allowKeeping(const std::string& key, const std::vector<std::filesystem::path>& files);
 
 private:
+    using Responses = std::map<std::string, std::string>;  ///< by request
+
     /// What shows that a file is no longer the one whose content is known.
     struct Stamp {
         std::filesystem::path file;
@@ -56,6 +61,7 @@ private:
     void remember(const std::string& line);
     void startLateOnce();
     [[nodiscard]] std::unique_ptr<ReaderConnection> startLate() const;
+    [[nodiscard]] std::vector<Responses::const_iterator> responsesWithin(std::uintmax_t room) const;
     [[nodiscard]] std::string entry() const;
 
     ReadingCache cache_;
@@ -65,7 +71,7 @@ private:
     Start start_;
     std::unique_ptr<ReaderConnection> reader_;  ///< null while it is not needed
     std::vector<std::string> opening_;          ///< what comes up to the design, without progress
-    std::map<std::string, std::string> responses_;
+    Responses responses_;
     std::deque<std::string> toReceive_;  ///< remembered lines
     std::string failure_;                ///< why no reader could be started late
     std::string asked_;                  ///< the request that the reader has not answered yet

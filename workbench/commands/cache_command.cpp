@@ -30,7 +30,8 @@ void runCache(const CacheOptions& options) {
     std::cout << "Folder  "
               << (cache.folder.empty() ? "none" : printable(host::toUtf8(cache.folder))) << "\n"
               << "Holds   " << sizeText(host::sizeOf(cache)) << "\n"
-              << "Limit   " << cache.limit / kMegabyte << " MB\n";
+              << "Limit   " << cache.limit / kMegabyte << " MB, of one file "
+              << host::largestEntry(cache) / kMegabyte << " MB\n";
 }
 
 }  // namespace

@@ -10,13 +10,14 @@ namespace {
 
 Measurement measured(const TopoDS_Shape& shape) {
     Measurement result;
-    result.failure = failureOf([&] {
-        const Size size = sizeOf(shape);
-        if (!std::isfinite(size.area) || !std::isfinite(size.volume)) {
-            throw std::runtime_error("its surfaces enclose nothing that could be measured");
-        }
-        result.size = size;
-    });
+    result.failure =
+        failureIn([&] {
+            const Size size = sizeOf(shape);
+            if (!std::isfinite(size.area) || !std::isfinite(size.volume)) {
+                throw std::runtime_error("its surfaces enclose nothing that could be measured");
+            }
+            result.size = size;
+        }).text;
     return result;
 }
 

@@ -128,27 +128,47 @@ private:
 
     json invariantsOf(std::size_t shape) {
         const MarksResult& result = marks_.of(shape);
-        return result.failure.empty() ? step::jsonOf(result.marks.invariants)
-                                      : json{{"error", result.failure}};
+        return result.failure.text.empty() ? step::jsonOf(result.marks.invariants)
+                                           : json{{"error", result.failure.text}};
     }
 
     json classOf(std::size_t shape) {
         if (classes_.empty()) {
             classes_ = classesOf(marks_);
         }
-        return classes_[shape] ? json{{"class", *classes_[shape]}}
-                               : json{{"error", marks_.of(shape).failure}};
+        if (!classes_[shape]) {
+            return {{"error", marks_.of(shape).failure.text}};
+        }
+        json answer = {{"class", *classes_[shape]}};
+        // The numbers of all depend on which shapes could be looked at.
+        if (areMarksByLimit()) {
+            answer["again"] = true;
+        }
+        return answer;
+    }
+
+    bool areMarksByLimit() {
+        for (std::size_t shape = 0; shape < marks_.size(); ++shape) {
+            if (marks_.of(shape).failure.isByLimit) {
+                return true;
+            }
+        }
+        return false;
     }
 
     json meshOf(std::size_t shape, std::istream& words) {
         if (!tessellations_) {
             TessellationLimits limits;
             words >> limits.triangles >> limits.seconds;
-            static_cast<void>(failureOf([this] { colours_ = readColours_(); }));  // then without
-            tessellations_.emplace(
-                static_cast<std::size_t>(shapes_.Extent()), [this, limits](std::size_t number) {
-                    return tessellate(shapes_(static_cast<int>(number) + 1), colours_, limits);
-                });
+            // Where it fails, meshes are without colours.
+            const bool isByLimit = failureIn([this] { colours_ = readColours_(); }).isByLimit;
+            tessellations_.emplace(static_cast<std::size_t>(shapes_.Extent()),
+                                   [this, limits, isByLimit](std::size_t number) {
+                                       Tessellation result = tessellate(
+                                           shapes_(static_cast<int>(number) + 1), colours_, limits);
+                                       result.isByLimit = result.isByLimit || isByLimit;
+                                       return result;
+                                   });
         }
         return step::jsonOf(tessellations_->take(shape));
     }
@@ -206,7 +226,7 @@ void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& sh
     Answers answers(shapes, colours);
     for (std::string request; std::getline(requests, request);) {
         json line;
-        const std::string failure = failureOf([&] { line = answers.answer(request); });
+        const std::string failure = failureIn([&] { line = answers.answer(request); }).text;
         sendLine(failure.empty() ? line : json{{"error", failure}});
     }
 }

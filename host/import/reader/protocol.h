@@ -30,6 +30,9 @@
 /// A component of the design has the number of its shape, or -1 where it has none, and of its
 /// bodies; bodies without a shape were not built.
 ///
+/// A response that a limit of time or memory has made what it is begins with "again": true, and is
+/// not to be kept: the same request may have a better one another time.
+///
 /// C0 to C11 are the first three rows of a placement, translation in cm. A response that cannot be
 /// computed is {"error": "..."}.
 ///

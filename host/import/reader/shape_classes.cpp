@@ -1,6 +1,5 @@
 #include "host/import/reader/shape_classes.h"
 
-#include "host/import/reader/failure_text.h"
 #include "host/import/reader/shape_comparison.h"
 
 #include <algorithm>
@@ -12,7 +11,7 @@ namespace {
 
 MarksResult marksResultOf(const TopoDS_Shape& shape) {
     MarksResult result;
-    result.failure = failureOf([&] { result.marks = marksOf(shape); });
+    result.failure = failureIn([&] { result.marks = marksOf(shape); });
     return result;
 }
 
@@ -52,7 +51,7 @@ AllMarks::AllMarks(const TopTools_IndexedMapOfShape& shapes)
 std::vector<std::optional<int>> classesOf(AllMarks& marks) {
     std::vector<std::size_t> order;
     for (std::size_t shape = 0; shape < marks.size(); ++shape) {
-        if (marks.of(shape).failure.empty()) {
+        if (marks.of(shape).failure.text.empty()) {
             order.push_back(shape);
         }
     }

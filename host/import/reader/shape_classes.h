@@ -1,12 +1,12 @@
 #pragma once
 
+#include "host/import/reader/failure_text.h"
 #include "host/import/reader/parallel_results.h"
 #include "host/import/reader/shape_marks.h"
 
 #include <TopTools_IndexedMapOfShape.hxx>
 
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace step {
@@ -14,7 +14,7 @@ namespace step {
 /// What came of looking at a shape.
 struct MarksResult {
     ShapeMarks marks;
-    std::string failure;  ///< why there are none; empty where there are
+    Failure failure;  ///< why there are none
 };
 
 /// The marks of shapes.

@@ -57,6 +57,9 @@ json jsonOf(const Tessellation& tessellation) {
     if (!tessellation.problem.empty()) {
         result["problem"] = tessellation.problem;
     }
+    if (tessellation.isByLimit) {
+        result["again"] = true;
+    }
     return result;
 }
 

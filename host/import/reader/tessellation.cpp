@@ -77,7 +77,7 @@ Tessellation meshBy(const Attempt& attempt, const TopoDS_Shape& shape, double si
     const Handle(Deadline) deadline = new Deadline(limits.seconds * attempt.time);
     mesher.Perform(deadline->Start());
     if (deadline->UserBreak()) {
-        throw std::runtime_error("its triangles take too long");
+        throw TookTooLong("its triangles take too long");
     }
     BuiltMesh built = meshFrom(shape, copy, colours);
     built.mesh.detail = attempt.detail;
@@ -106,23 +106,23 @@ host::ShapeMesh boxOf(const Bnd_Box& box) {
 
 Tessellation tessellate(const TopoDS_Shape& shape, const Colours& colours,
                         const TessellationLimits& limits) {
-    Tessellation result;
     Bnd_Box box;
-    result.problem = failureOf([&] { box = boxAround(shape); });
-    if (!result.problem.empty()) {
-        return result;
+    Failure failure = failureIn([&] { box = boxAround(shape); });
+    if (!failure.text.empty()) {
+        return {.mesh = {}, .problem = failure.text, .isByLimit = failure.isByLimit};
     }
+    bool isByLimit = false;
     const double size = std::sqrt(box.SquareExtent());
     for (const Attempt& attempt : kAttempts) {
-        const std::string failure =
-            failureOf([&] { result = meshBy(attempt, shape, size, colours, limits); });
-        if (failure.empty()) {
+        Tessellation result;
+        failure = failureIn([&] { result = meshBy(attempt, shape, size, colours, limits); });
+        if (failure.text.empty()) {
+            result.isByLimit = isByLimit;
             return result;
         }
-        result.problem = failure;
+        isByLimit = isByLimit || failure.isByLimit;
     }
-    result.mesh = boxOf(box);
-    return result;
+    return {.mesh = boxOf(box), .problem = failure.text, .isByLimit = isByLimit};
 }
 
 }  // namespace step

@@ -21,7 +21,8 @@ struct TessellationLimits {
 /// What came of a shape that is to be drawn.
 struct Tessellation {
     std::optional<host::ShapeMesh> mesh;
-    std::string problem;  ///< why there is none, only a box, or a part of it; empty otherwise
+    std::string problem;     ///< why there is none, only a box, or a part of it; empty otherwise
+    bool isByLimit = false;  ///< with more time or memory it would be another
 };
 
 /// Triangles and feature edges of a shape, which is not changed. The deflection follows its size;

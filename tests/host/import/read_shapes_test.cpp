@@ -1,12 +1,13 @@
 #include "host/import/read_shapes.h"
 
 #include "host/design/geometry.h"
+#include "host/import/read_design.h"
 #include "host/import/reader_connection.h"
 #include "host/import/step_geometry.h"
 
-#include "samples/product.h"
 #include "samples/samples.h"
 #include "tests/host/import/drafts.h"
+#include "tests/host/import/drawn_parts.h"
 #include "tests/host/import/step_text_edits.h"
 #include "tests/support/real_files.h"
 #include "tests/support/temporary_folder.h"
@@ -25,25 +26,10 @@
 
 namespace {
 
+using drafts::part;
+using drafts::plate;
 using host::DesignData;
 using host::ShapeData;
-using samples::Product;
-using samples::rectangle;
-using samples::Solid;
-
-Product part(const std::string& name, Solid solid) {
-    return {.key = name,
-            .id = name,
-            .name = name,
-            .description = "",
-            .material = {},
-            .solid = std::move(solid),
-            .uses = {}};
-}
-
-Solid plate(double width, double depth, double height, double x = 0) {
-    return {{{rectangle(width, depth, {x, 0}), height}}, {}};
-}
 
 /// The names that share a class, in the order of the design.
 std::vector<std::vector<std::string>> equalOnes(const DesignData& design, const ShapeData& shapes) {
@@ -142,6 +128,26 @@ TEST_F(ReadShapes, DrawsAPart) {
     EXPECT_EQ(*std::max_element(mesh.positionsMm.begin(), mesh.positionsMm.end()), 10.0F);
     EXPECT_EQ(shapes.of(0)->problem, "");
     EXPECT_FALSE(shapes.classOf(0).has_value());
+}
+
+TEST_F(ReadShapes, WhatTookTooLongIsNotKeptInTheCache) {
+    const std::string file =
+        folder.write("Design.step", samples::stepFile("x", {part("Plate", plate(10, 20, 5))}));
+    const auto kept = [&](double seconds) {
+        const host::ReadingCache cache{.folder = folder.path() / "cache"};
+        {
+            std::vector<host::ReadingWarning> warnings;
+            const DesignData design = host::readDesign(file, {}, {}, warnings, cache);
+            host::readShapes(design, {.meshes = true, .seconds = seconds});
+        }
+        const std::filesystem::directory_iterator entry(cache.folder);
+        return folder.read("cache/" + entry->path().filename().string());
+    };
+
+    const std::string hurried = kept(0);
+    EXPECT_NE(hurried.find("\nmeasure 0\n"), std::string::npos);
+    EXPECT_EQ(hurried.find("mesh"), std::string::npos);
+    EXPECT_NE(kept(60).find("\nmesh 0 "), std::string::npos);
 }
 
 /// A style of one colour, for the item; takes ten numbers.

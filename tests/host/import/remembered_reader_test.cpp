@@ -26,7 +26,9 @@ public:
 
     void send(const std::string& line) override {
         log_.requests.push_back(line);
-        lines_.push_back(line == "broken" ? R"({"error":"no surface"})" : "[" + line + "]");
+        lines_.push_back(line == "broken"    ? R"({"error":"no surface"})"
+                         : line == "hurried" ? R"({"again":true,"problem":"takes too long"})"
+                                             : "[" + line + "]");
     }
 
     std::string receive() override {
@@ -44,11 +46,10 @@ private:
 class RememberedReaderTest : public testing::Test {
 protected:
     std::unique_ptr<RememberedReader> open() {
-        auto reader = std::make_unique<RememberedReader>(
-            host::ReadingCache{.folder = folder.path() / "cache"}, "0a", files, [this] {
-                ++log.starts;
-                return std::make_unique<EchoingReader>(log);
-            });
+        auto reader = std::make_unique<RememberedReader>(cache, "0a", files, [this] {
+            ++log.starts;
+            return std::make_unique<EchoingReader>(log);
+        });
         opening.clear();
         do {
             opening.push_back(reader->receive());
@@ -72,6 +73,7 @@ protected:
     }
 
     test_support::TemporaryFolder folder;
+    host::ReadingCache cache{.folder = folder.path() / "cache"};
     std::vector<std::filesystem::path> files = {folder.write("a.step", "ISO-10303-21;")};
     Log log;
     std::vector<std::string> opening;
@@ -130,6 +132,60 @@ TEST_F(RememberedReaderTest, ErrorsAreAskedForAgain) {
 
     EXPECT_EQ(ask(*reader, "broken"), R"({"error":"no surface"})");
     EXPECT_EQ(log.requests, Lines{"broken"});
+}
+
+TEST_F(RememberedReaderTest, WhatALimitOfTimeMadeIsAskedForAgain) {
+    {
+        const auto reader = open();
+        reader->allowKeeping("0a", files);
+        ask(*reader, "hurried");
+        ask(*reader, "box 0");
+    }
+    log = {};
+
+    const auto reader = open();
+
+    EXPECT_EQ(ask(*reader, "box 0"), "[box 0]");
+    EXPECT_EQ(log.starts, 0);
+    EXPECT_EQ(ask(*reader, "hurried"), R"({"again":true,"problem":"takes too long"})");
+    EXPECT_EQ(log.requests, Lines{"hurried"});
+}
+
+TEST_F(RememberedReaderTest, WhereTheEntryIsTooLargeTheShortResponsesAreKept) {
+    cache.limit = 4 * 400;
+    const std::string mesh = "mesh 0 " + std::string(300, '9');
+    {
+        const auto reader = open();
+        reader->allowKeeping("0a", files);
+        ask(*reader, mesh);
+        ask(*reader, "box 0");
+    }
+    EXPECT_LE(folder.read("cache/0a.reading").size(), 400U);
+    log = {};
+
+    const auto reader = open();
+
+    EXPECT_EQ(ask(*reader, "box 0"), "[box 0]");
+    EXPECT_EQ(log.starts, 0);
+    EXPECT_EQ(ask(*reader, mesh), "[" + mesh + "]");
+    EXPECT_EQ(log.starts, 1);
+}
+
+TEST_F(RememberedReaderTest, AnEntryOfTheLargestSizeIsKeptWhole) {
+    runOnce();
+    const std::size_t whole = folder.read("cache/0a.reading").size();
+
+    std::filesystem::remove(folder.path() / "cache/0a.reading");
+    cache.limit = 4 * whole;
+    runOnce();
+    EXPECT_EQ(folder.read("cache/0a.reading").size(), whole);
+
+    std::filesystem::remove(folder.path() / "cache/0a.reading");
+    cache.limit = 4 * (whole - 1);
+    runOnce();
+    // Without "measure 0" and the response to it, a line each, which are longer than those of "box
+    // 0".
+    EXPECT_EQ(folder.read("cache/0a.reading").size(), whole - 10 - 12);
 }
 
 TEST_F(RememberedReaderTest, ADamagedEntryIsReplaced) {

@@ -1,8 +1,8 @@
 #include "host/import/step_import.h"
 
-#include "samples/product.h"
 #include "samples/samples.h"
 #include "tests/host/import/drafts.h"
+#include "tests/host/import/drawn_parts.h"
 #include "tests/host/import/step_text_edits.h"
 #include "tests/support/temporary_folder.h"
 
@@ -17,24 +17,13 @@ namespace {
 
 using drafts::damage;
 using drafts::labelOf;
-using samples::Product;
-using samples::rectangle;
-using samples::Solid;
-
-Product part(const std::string& name, Solid solid) {
-    return {.key = name,
-            .id = name,
-            .name = name,
-            .description = "",
-            .material = {},
-            .solid = std::move(solid),
-            .uses = {}};
-}
+using drafts::part;
+using drafts::plate;
 
 /// A plate of 10 x 20 x 5 mm around the origin, and a cube of 10 mm, 50 mm along x.
 std::string plateAndCube() {
-    return samples::stepFile("x", {part("Plate", Solid{{{rectangle(10, 20), 5}}, {}}),
-                                   part("Cube", Solid{{{rectangle(10, 10, {50, 0}), 10}}, {}})});
+    return samples::stepFile(
+        "x", {part("Plate", plate(10, 20, 5)), part("Cube", plate(10, 10, 10, 50))});
 }
 
 /// Puts a further item into the shape of the plate.

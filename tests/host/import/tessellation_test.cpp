@@ -130,6 +130,7 @@ TEST(Tessellation, DrawsABoxForWhatNeedsFarTooMany) {
 
     EXPECT_EQ(box.mesh.value().detail, MeshDetail::Box);
     EXPECT_EQ(box.problem, "it needs more than 12 triangles");
+    EXPECT_FALSE(box.isByLimit);
     EXPECT_NEAR(volumeOf(box.mesh.value()), 8, 0.01);
 }
 
@@ -139,6 +140,7 @@ TEST(Tessellation, DrawsABoxForWhatTakesTooLong) {
 
     EXPECT_EQ(box.mesh.value().detail, MeshDetail::Box);
     EXPECT_EQ(box.problem, "its triangles take too long");
+    EXPECT_TRUE(box.isByLimit);
 }
 
 TEST(Tessellation, HasNothingToDrawOfNothing) {

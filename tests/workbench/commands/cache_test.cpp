@@ -32,7 +32,7 @@ TEST_F(CacheCommand, NothingIsKeptAtFirst) {
     EXPECT_EQ(result.output, "Folder  " + host::toUtf8(kept("").parent_path()) +
                                  "\n"
                                  "Holds   0 files, 0 kB\n"
-                                 "Limit   256 MB\n");
+                                 "Limit   256 MB, of one file 64 MB\n");
 }
 
 TEST_F(CacheCommand, ClearingRemovesWhatItKeepsAndNothingElse) {
