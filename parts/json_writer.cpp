@@ -6,28 +6,48 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <variant>
 
 namespace parts {
 namespace {
 
 constexpr int kVersion = 1;
 
-Json toJson(const Cell& cell) {
-    if (const auto* const text = std::get_if<std::string>(&cell)) {
-        return *text;
+void write(const Number& number, JsonText& text) {
+    if (number.decimals == kWhole) {
+        text.whole(static_cast<std::int64_t>(number.value));
+    } else {
+        text.number(number.value);
     }
-    if (const auto* const number = std::get_if<Number>(&cell)) {
-        return number->decimals == kWhole ? Json(static_cast<std::int64_t>(number->value))
-                                          : Json(number->value);
+}
+
+void write(const Extents& extents, JsonText& text) {
+    text.begin('[');
+    for (const double value : extents.values) {
+        text.number(value);
     }
-    if (const auto* const extents = std::get_if<Extents>(&cell)) {
-        return extents->values;
+    text.end(']');
+}
+
+void write(const std::string& string, JsonText& text) { text.string(string); }
+
+/// The pictures come once, after all rows.
+void write(const Picture& picture, JsonText& text) { text.whole(picture.shape); }
+
+void write(std::monostate /*empty*/, JsonText& text) { text.null(); }
+
+void write(const std::optional<double>& number, JsonText& text) {
+    if (number) {
+        text.number(*number);
+    } else {
+        text.null();
     }
-    const auto* const picture = std::get_if<Picture>(&cell);
-    return picture == nullptr ? Json() : Json(picture->shape);
 }
 
 Json toJson(const ListColumn& column) {
@@ -139,61 +159,90 @@ private:
     void writeRows() {
         stream_ << "\"rows\":[";
         for (std::size_t row = 0; row < list_.rows.size(); ++row) {
-            stream_ << (row == 0 ? "" : ",") << lineEnd_ << dumped(rowJson(row));
+            text_.clear();
+            writeRow(row);
+            stream_ << (row == 0 ? "" : ",") << lineEnd_ << text_.text();
         }
         stream_ << lineEnd_ << "]," << lineEnd_;
     }
 
-    [[nodiscard]] Json rowJson(std::size_t index) const {
+    void writeRow(std::size_t index) {
         const PartsRow& row = list_.rows[index];
-        const auto children = children_.find(index);
-        return {{"item", row.item},
-                {"kind", nameOf(row.kind)},
-                {"level", row.level},
-                {"path", row.path},
-                {"parent", row.parent ? Json(list_.rows[*row.parent].item) : Json()},
-                {"children", children == children_.end() ? Json::array() : Json(children->second)},
-                {"quantity", row.quantity},
-                {"quantityPerParent", row.perParent == 0 ? Json() : Json(row.perParent)},
-                {"components", members(row)},
-                {"usedIn", uses(row)},
-                {"massKg", orNull(row.mass)},
-                {"totalMassKg", orNull(row.totalMass)},
-                {"shape", orNull(row.shape)},
-                {"assumed", row.isAssumed},
-                {"unmeasured", row.isUnmeasured},
-                {"cells", cells(row)}};
+        text_.begin('{');
+        writePlace(index);
+        writeQuantities(row);
+        writeMeasures(row);
+        text_.name("cells");
+        text_.begin('{');
+        for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
+            text_.name(list_.columns[cell].key);
+            std::visit([this](const auto& value) { parts::write(value, text_); }, row.cells[cell]);
+        }
+        text_.end('}');
+        text_.end('}');
     }
 
-    [[nodiscard]] Json cells(const PartsRow& row) const {
-        Json node = Json::object();
-        for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
-            node[list_.columns[cell].key] = toJson(row.cells[cell]);
+    void writePlace(std::size_t index) {
+        const PartsRow& row = list_.rows[index];
+        writeString("item", row.item);
+        writeString("kind", nameOf(row.kind));
+        writeWhole("level", row.level);
+        writeString("path", row.path);
+        text_.name("parent");
+        row.parent ? text_.string(list_.rows[*row.parent].item) : text_.null();
+        text_.name("children");
+        text_.begin('[');
+        if (const auto children = children_.find(index); children != children_.end()) {
+            for (const std::string& item : children->second) {
+                text_.string(item);
+            }
         }
-        return node;
+        text_.end(']');
+    }
+
+    void writeQuantities(const PartsRow& row) {
+        writeWhole("quantity", row.quantity);
+        text_.name("quantityPerParent");
+        row.perParent == 0 ? text_.null() : text_.whole(row.perParent);
+        writeCounted("components", row.members);
+        writeCounted("usedIn", row.usedIn);
+    }
+
+    void writeMeasures(const PartsRow& row) {
+        text_.name("massKg");
+        parts::write(row.mass, text_);
+        text_.name("totalMassKg");
+        parts::write(row.totalMass, text_);
+        text_.name("shape");
+        row.shape ? text_.whole(*row.shape) : text_.null();
+        text_.name("assumed");
+        text_.flag(row.isAssumed);
+        text_.name("unmeasured");
+        text_.flag(row.isUnmeasured);
     }
 
     template <class Counted>
-    [[nodiscard]] Json counted(const Counted& each) const {
-        return {{"name", list_.componentNames[each.component]},
-                {"partNumber", list_.componentNumbers[each.component]},
-                {"quantity", each.quantity}};
+    void writeCounted(const char* name, const std::vector<Counted>& all) {
+        text_.name(name);
+        text_.begin('[');
+        for (const Counted& each : all) {
+            text_.begin('{');
+            writeString("name", list_.componentNames[each.component]);
+            writeString("partNumber", list_.componentNumbers[each.component]);
+            writeWhole("quantity", each.quantity);
+            text_.end('}');
+        }
+        text_.end(']');
     }
 
-    [[nodiscard]] Json members(const PartsRow& row) const {
-        Json node = Json::array();
-        for (const Member& member : row.members) {
-            node.push_back(counted(member));
-        }
-        return node;
+    void writeString(const char* name, std::string_view value) {
+        text_.name(name);
+        text_.string(value);
     }
 
-    [[nodiscard]] Json uses(const PartsRow& row) const {
-        Json node = Json::array();
-        for (const Use& use : row.usedIn) {
-            node.push_back(counted(use));
-        }
-        return node;
+    void writeWhole(const char* name, std::int64_t value) {
+        text_.name(name);
+        text_.whole(value);
     }
 
     [[nodiscard]] Json totals() const {
@@ -224,6 +273,7 @@ private:
     const PartsList& list_;
     const char* lineEnd_;
     std::ostream& stream_;
+    JsonText text_;  ///< of one row
     std::map<std::size_t, std::vector<std::string>> children_;
 };
 

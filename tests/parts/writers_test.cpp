@@ -2,6 +2,7 @@
 #include "tests/support/text.h"
 
 #include "parts/csv_writer.h"
+#include "parts/json_text.h"
 #include "parts/json_writer.h"
 #include "parts/markdown_writer.h"
 
@@ -9,9 +10,12 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 using parts::PartsList;
 using parts::View;
@@ -199,6 +203,55 @@ TEST(Json, HoldsEachPictureOnce) {
 
     EXPECT_EQ(read["pictures"], nlohmann::json::parse(R"({"7": "cG5n"})"));
     EXPECT_EQ(read["rows"][1]["cells"]["thumbnail"], 7);
+}
+
+TEST(JsonText, HasTheBytesOfATreeOfValues) {
+    const std::vector<std::string> strings = {"",
+                                              "plain",
+                                              "six \"inch\"",
+                                              "back\\slash",
+                                              "tab\tline\r\n\x01\x7f",
+                                              "P\xC5\x99\xC3\xADruba",
+                                              "\xFF no UTF-8",
+                                              "{[:"};
+    const std::vector<double> numbers = {0, -0.0, 1, 0.1, 1e-7, 1.0 / 3, 1e20, 1e300, -2.5};
+    parts::Json tree = {{"strings", strings}, {"numbers", numbers}, {"none", nullptr}};
+    tree["counts"] = {std::int64_t{-1}, std::int64_t{1} << 60};
+    tree["flags"] = {true, false};
+    tree["empty"] = {parts::Json::object(), parts::Json::array()};
+    parts::JsonText text;
+    const auto list = [&](const char* name, const auto& write) {
+        text.name(name);
+        text.begin('[');
+        write();
+        text.end(']');
+    };
+
+    text.begin('{');
+    list("strings", [&] {
+        std::ranges::for_each(strings, [&](const std::string& each) { text.string(each); });
+    });
+    list("numbers",
+         [&] { std::ranges::for_each(numbers, [&](double each) { text.number(each); }); });
+    text.name("none");
+    text.null();
+    list("counts", [&] {
+        text.whole(-1);
+        text.whole(std::int64_t{1} << 60);
+    });
+    list("flags", [&] {
+        text.flag(true);
+        text.flag(false);
+    });
+    list("empty", [&] {
+        text.begin('{');
+        text.end('}');
+        text.begin('[');
+        text.end(']');
+    });
+    text.end('}');
+
+    EXPECT_EQ(text.text(), parts::dumped(tree));
 }
 
 TEST(Json, BytesThatAreNoUtf8AreReplaced) {
