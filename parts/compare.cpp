@@ -72,6 +72,7 @@ bool isSame(const Cell& left, const Cell& right, const ComparedColumn& about) {
 ChangeKind kindOf(Field field) {
     switch (field) {
         case Field::Quantity:
+        case Field::QuantityPerParent:
             return ChangeKind::Quantity;
         case Field::Level:
         case Field::Path:
@@ -131,7 +132,7 @@ public:
     void addLine(ChangeKind kind, const ComparedLine& line) {
         Change change{.kind = kind, .item = line.item};
         for (std::size_t column = 0; column < columns_.size(); ++column) {
-            if (columns_[column].field == Field::Quantity) {
+            if (kindOf(columns_[column].field) == ChangeKind::Quantity) {
                 (kind == ChangeKind::Added ? change.after : change.before) = line.cells[column];
             }
         }
@@ -184,12 +185,26 @@ struct Namesakes {
     std::vector<const ComparedLine*> after;
 };
 
-/// A row's parents by their part numbers; the root has another name in each file.
+/// What a component is matched by. Classes of shapes have other numbers in each file.
+const std::string& itemOf(const PartsList& list, std::size_t component) {
+    return list.request.merging.by == MergeBy::Shape ? list.componentNumbers[component]
+                                                     : list.componentKeys[component];
+}
+
+/// In the tree with all that a row is in, below the root component.
+std::string itemOf(const PartsList& list, const PartsRow& row) {
+    std::string item = itemOf(list, row.component);
+    for (std::optional<std::size_t> above = row.parent; above; above = list.rows[*above].parent) {
+        item = itemOf(list, list.rows[*above].component) + " / " + item;
+    }
+    return item + (row.kind == RowKind::OwnBodies ? " (bodies of its own)" : "");
+}
+
+/// A row's parents by what they are matched by; the root has another name in each file.
 ComparedLine::Parents parentsOf(const PartsList& list, const PartsRow& row) {
     ComparedLine::Parents parents;
     for (const Use& use : row.usedIn) {
-        parents[use.component == 0 ? "the top" : list.componentNumbers[use.component]] +=
-            use.quantity;
+        parents[use.component == 0 ? "the top" : itemOf(list, use.component)] += use.quantity;
     }
     return parents;
 }
@@ -213,11 +228,10 @@ std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount
                                   const host::ShapeData& shapes) {
     std::vector<ComparedLine> lines;
     for (const PartsRow& row : list.rows) {
-        ComparedLine line{.item = list.componentNumbers[row.component],
+        ComparedLine line{.item = itemOf(list, row),
                           .parents = parentsOf(list, row),
                           .quantity = row.quantity,
                           .hasParents = list.request.view != View::Indented};
-        line.item += row.kind == RowKind::OwnBodies ? " (bodies of its own)" : "";
         line.cells.assign(row.cells.begin(),
                           row.cells.begin() + static_cast<std::ptrdiff_t>(columnCount));
         if (row.cells.size() > columnCount + 1 && row.kind != RowKind::Assembly) {

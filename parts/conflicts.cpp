@@ -21,18 +21,12 @@ using Texts = std::set<std::string, NaturalLess>;
 
 std::vector<std::string> inOrder(const Texts& texts) { return {texts.begin(), texts.end()}; }
 
-/// What an item is merged by, without the marks between its values.
-std::string shown(std::string key) {
-    std::erase_if(key, [](char each) { return each == '\x1f'; });
-    return key;
-}
-
 /// Looks at the components of one item.
 class GroupCheck {
 public:
-    GroupCheck(ListContext& context, ItemKeys& keys, const std::string& key, const Group& group,
+    GroupCheck(ListContext& context, ItemKeys& keys, const Group& group,
                std::vector<Conflict>& found)
-        : context_(context), keys_(keys), key_(key), group_(group), found_(found) {}
+        : context_(context), keys_(keys), group_(group), found_(found) {}
 
     void run() {
         if (context_.request.merging.by != MergeBy::Shape) {
@@ -66,7 +60,7 @@ private:
             names.insert(context_.at(component).name);
         }
         found_.push_back({.what = what,
-                          .item = shown(key_),
+                          .item = keys_.textOf(group_.front()),
                           .values = std::move(values),
                           .components = inOrder(names)});
     }
@@ -120,7 +114,6 @@ private:
 
     ListContext& context_;
     ItemKeys& keys_;
-    const std::string& key_;
     const Group& group_;
     std::vector<Conflict>& found_;
 };
@@ -143,17 +136,20 @@ std::vector<Conflict> findConflicts(ListContext& context, ItemKeys& keys) {
     }
     std::vector<Conflict> found;
     for (const auto& [key, group] : merged) {
-        GroupCheck(context, keys, key, *group, found).run();
+        GroupCheck(context, keys, *group, found).run();
     }
     return found;
 }
 
-std::vector<PossibleDuplicate> findDuplicates(const ListContext& context) {
+std::vector<PossibleDuplicate> findDuplicates(const ListContext& context, ItemKeys& keys) {
+    if (context.request.merging.by == MergeBy::Shape) {
+        return {};
+    }
     std::map<int, Texts> numbers;
     for (const std::size_t component : context.tree.reached()) {
         const std::optional<int> shape = context.shapeOf(component);
         if (shape && !context.tree.isOpened(component)) {
-            numbers[*shape].insert(context.numberOf(component));
+            numbers[*shape].insert(keys.textOf(component));
         }
     }
     std::vector<PossibleDuplicate> duplicates;

@@ -13,7 +13,8 @@ namespace parts {
 /// are compared where the request has them measured.
 std::vector<Conflict> findConflicts(ListContext& context, ItemKeys& keys);
 
-/// Parts of one shape that have different part numbers.
-std::vector<PossibleDuplicate> findDuplicates(const ListContext& context);
+/// Parts of one shape that are different items. None where parts are merged by their shape: those
+/// are one item.
+std::vector<PossibleDuplicate> findDuplicates(const ListContext& context, ItemKeys& keys);
 
 }  // namespace parts

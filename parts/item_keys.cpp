@@ -95,6 +95,18 @@ std::string ItemKeys::makeKey(std::size_t component) {
     return valuesOf(component);
 }
 
+std::string ItemKeys::textOf(std::size_t component) {
+    if (context_.request.merging.by == MergeBy::Component) {
+        return context_.at(component).name;
+    }
+    std::string text;
+    for (const char each : keyOf(component)) {
+        const bool isBetween = each == kSeparator;
+        text += isBetween ? text.empty() ? "" : ", " : std::string(1, each);
+    }
+    return text;
+}
+
 PartsRow ItemKeys::rowOf(std::size_t component) const {
     PartsRow row;
     row.component = component;
@@ -146,6 +158,7 @@ std::string ItemKeys::contentText(std::size_t component) {
     if (!context_.tree.isOpened(component)) {
         return text;
     }
+    text += context_.hasBodies(component) ? std::string(1, kSeparator) + "bodies" : "";
     std::map<int, std::int64_t> inside;
     for (const Line& line : context_.tree.lines(component)) {
         inside[contentOf(line.component)] += line.quantity;

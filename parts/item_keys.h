@@ -19,8 +19,11 @@ public:
     /// compared.
     explicit ItemKeys(ListContext& context);
 
-    /// Equal for components that are one item: what they are merged by, for people to read.
+    /// Equal for components that are one item, and only for those.
     const std::string& keyOf(std::size_t component);
+
+    /// What a component is merged by, for people to read, such as its part number.
+    std::string textOf(std::size_t component);
 
     /// Equal numbers for components that are one item and hold the same as well, down to the last
     /// part.

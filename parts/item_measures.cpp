@@ -9,25 +9,30 @@ namespace parts {
 
 ItemMeasures::ItemMeasures(const host::DesignData& design)
     : design_(design), known_(design.components.size()) {
-    isReference_.reserve(design.components.size());
+    structures_.reserve(design.components.size());
     for (const host::ComponentData& component : design.components) {
-        isReference_.push_back(structureOf(component) == BomStructure::Reference);
+        structures_.push_back(structureOf(component));
     }
 }
 
 bool ItemMeasures::counts(const host::OccurrenceData& child) const {
-    return !child.absent && !isReference_[child.component];
+    return !child.absent && structures_[child.component] != BomStructure::Reference;
+}
+
+/// The root component is listed whatever its structure is.
+bool ItemMeasures::hasOwnBodies(std::size_t component) const {
+    return design_.components[component].geometry != nullptr &&
+           (component == 0 || structures_[component] != BomStructure::Divided);
 }
 
 /// Nothing where there are no bodies, or where they cannot be measured, which is noted.
 template <class Result, class Ask>
 std::optional<Result> ItemMeasures::ask(std::size_t component, Ask question) {
-    host::Geometry* const geometry = design_.components[component].geometry.get();
-    if (geometry == nullptr) {
+    if (!hasOwnBodies(component)) {
         return std::nullopt;
     }
     try {
-        return question(*geometry);
+        return question(*design_.components[component].geometry);
     } catch (const std::exception& failure) {
         if (!std::exchange(known_[component].hasFailed, true)) {
             failures_.push_back({.component = component, .reason = failure.what()});
@@ -45,7 +50,7 @@ Measured ItemMeasures::measureOwn(std::size_t component) {
                         .mass = data.material ? volume * data.material->density : 0,
                         .bodies = geometry.bodies()};
     });
-    return measured.value_or(Measured{.isUnmeasured = data.geometry != nullptr});
+    return measured.value_or(Measured{.isUnmeasured = hasOwnBodies(component)});
 }
 
 Measured ItemMeasures::own(std::size_t component) {
@@ -114,7 +119,7 @@ std::optional<host::Box> ItemMeasures::boxAround(std::size_t component,
 
 bool ItemMeasures::isOwnAssumed(std::size_t component) const {
     const host::ComponentData& data = design_.components[component];
-    return data.geometry != nullptr && data.material &&
+    return hasOwnBodies(component) && data.material &&
            (data.material->nameAssumed || data.material->densityAssumed);
 }
 

@@ -20,8 +20,9 @@ struct Measured {
     bool isUnmeasured = false;  ///< some could not be measured, and count as nothing
 };
 
-/// Measures the components of a design without what is Reference in them. Each body is measured
-/// once, and not before it is asked for.
+/// Measures the components of a design without what is Reference in them, and without the bodies
+/// that Divided components have of their own: they are in no line of any view, and so in no sum.
+/// Each body is measured once, and not before it is asked for.
 class ItemMeasures {
 public:
     /// The design outlives it.
@@ -60,6 +61,7 @@ private:
     };
 
     [[nodiscard]] bool counts(const host::OccurrenceData& child) const;
+    [[nodiscard]] bool hasOwnBodies(std::size_t component) const;
     Measured measureOwn(std::size_t component);
     std::optional<host::Box> boxAround(std::size_t component, const host::Transform& placement);
     std::optional<host::Box> placedBox(std::size_t component, const host::Transform& placement);
@@ -68,7 +70,7 @@ private:
 
     const host::DesignData& design_;
     std::vector<Known> known_;
-    std::vector<bool> isReference_;
+    std::vector<BomStructure> structures_;
     std::vector<Failure> failures_;
 };
 

@@ -88,6 +88,7 @@ ItemTree::ItemTree(const host::DesignData& design, Opening opening)
     }
     discover();
     countQuantities();
+    findDivided();
 }
 
 const std::vector<Line>& ItemTree::lines(std::size_t component) const {
@@ -117,25 +118,17 @@ const ItemTree::Inside& ItemTree::findInside(std::size_t component) {
         return inside;
     }
     LineCollector lines;
-    LineCollector divided;
     for (const Line& child : childrenOf(design_, component)) {
         if (structures_[child.component] == BomStructure::Divided) {
-            divided.add(child.component, child.quantity, child.place);
-            const Inside& below = findInside(child.component);
-            for (const Line& line : below.lines) {
+            for (const Line& line : findInside(child.component).lines) {
                 lines.add(line.component, child.quantity * line.quantity,
                           child.place + "+" + line.place);
-            }
-            for (const Line& line : below.divided) {
-                divided.add(line.component, child.quantity * line.quantity,
-                            child.place + "+" + line.place);
             }
         } else if (structures_[child.component] != BomStructure::Reference) {
             lines.add(child.component, child.quantity, child.place);
         }
     }
     inside.lines = lines.take();
-    inside.divided = divided.take();
     return inside;
 }
 
@@ -151,7 +144,6 @@ void ItemTree::discover() {
 }
 
 void ItemTree::countQuantities() {
-    LineCollector divided;
     quantities_[0] = 1;
     levels_[0] = 0;
     for (const std::size_t component : parentsFirst_) {
@@ -162,11 +154,28 @@ void ItemTree::countQuantities() {
             quantities_[line.component] += quantities_[component] * line.quantity;
             levels_[line.component] = std::min(levels_[line.component], levels_[component] + 1);
         }
-        for (const Line& line : insides_[component].divided) {
-            divided.add(line.component, quantities_[component] * line.quantity, line.place);
+    }
+}
+
+void ItemTree::findDivided() {
+    std::vector<bool> seen(structures_.size());
+    std::vector<std::size_t> toVisit = {0};
+    seen[0] = true;
+    while (!toVisit.empty()) {
+        const std::size_t component = toVisit.back();
+        toVisit.pop_back();
+        if (component != 0 && structures_[component] == BomStructure::Divided) {
+            divided_.push_back(component);
+        }
+        for (const host::OccurrenceData& child : design_.components[component].children) {
+            if (!child.absent && structures_[child.component] != BomStructure::Reference &&
+                !seen[child.component]) {
+                seen[child.component] = true;
+                toVisit.push_back(child.component);
+            }
         }
     }
-    divided_ = divided.take();
+    std::ranges::sort(divided_);
 }
 
 }  // namespace parts

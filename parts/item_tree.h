@@ -62,19 +62,20 @@ public:
     /// The path of the first occurrence that is met; empty for the root component.
     [[nodiscard]] std::string path(std::size_t component) const;
 
-    /// Divided components on the way to what is listed: they are in no line themselves.
-    [[nodiscard]] const std::vector<Line>& divided() const { return divided_; }
+    /// Divided components that are neither Reference nor in what is: they are in no line
+    /// themselves. Those in what is not opened are there too.
+    [[nodiscard]] const std::vector<std::size_t>& divided() const { return divided_; }
 
 private:
     struct Inside {
         bool isKnown = false;
         std::vector<Line> lines;
-        std::vector<Line> divided;
     };
 
     const Inside& findInside(std::size_t component);
     void discover();
     void countQuantities();
+    void findDivided();
 
     const host::DesignData& design_;
     Opening opening_;
@@ -85,7 +86,7 @@ private:
     std::vector<std::int64_t> quantities_;
     std::vector<int> levels_;
     std::vector<std::optional<FirstPlace>> firstPlaces_;
-    std::vector<Line> divided_;
+    std::vector<std::size_t> divided_;
 };
 
 }  // namespace parts

@@ -31,6 +31,11 @@ struct ListContext {
         return design.components[component];
     }
 
+    /// Whether a component has bodies of its own.
+    [[nodiscard]] bool hasBodies(std::size_t component) const {
+        return at(component).geometry != nullptr;
+    }
+
     /// The part number, where it is empty the name.
     [[nodiscard]] const std::string& numberOf(std::size_t component) const;
 

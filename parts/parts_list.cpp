@@ -90,14 +90,10 @@ void fillRow(PartsRow& row, ListContext& context, RowValues& values) {
 }
 
 /// What a row adds to the mass of all: a row in the tree everything in it, unless a row above it
-/// does so already; in a flat list an opened assembly no more than the bodies of its own.
+/// does so already; in a flat list an opened assembly nothing, since all in it is in other rows.
 Measured shareOf(const PartsRow& row, const ListContext& context, RowValues& values) {
-    if (context.request.view == View::All && row.kind == RowKind::Assembly) {
-        PartsRow bodies = row;
-        bodies.kind = RowKind::OwnBodies;
-        return values.sum(bodies);
-    }
-    return values.sum(row);
+    const bool isInOthers = context.request.view == View::All && row.kind == RowKind::Assembly;
+    return isInOthers ? Measured() : values.sum(row);
 }
 
 Totals totalsOf(const std::vector<PartsRow>& rows, const std::vector<bool>& isWanted,
@@ -143,13 +139,14 @@ void warnOfHidden(const ListContext& context, std::vector<ListWarning>& warnings
     }
 }
 
-/// Divided components are no line, and so are the bodies of their own.
+/// Divided components are no line, and so are the bodies of their own, wherever they are.
 void warnOfDivided(const ListContext& context, std::vector<ListWarning>& warnings) {
-    for (const Line& divided : context.tree.divided()) {
-        if (context.at(divided.component).geometry != nullptr) {
-            warnings.push_back({.code = "divided-bodies",
-                                .text = "is Divided: the bodies of its own are in no line",
-                                .component = context.at(divided.component).name});
+    for (const std::size_t component : context.tree.divided()) {
+        if (context.hasBodies(component)) {
+            warnings.push_back(
+                {.code = "divided-bodies",
+                 .text = "is Divided: the bodies of its own are in no line and in no mass",
+                 .component = context.at(component).name});
         }
     }
 }
@@ -162,13 +159,12 @@ void warnOfUnmeasured(const ListContext& context, std::vector<ListWarning>& warn
     }
 }
 
-void warnOfOwnBodies(const std::vector<PartsRow>& rows, const ListContext& context,
-                     std::vector<ListWarning>& warnings) {
+void warnOfOwnBodies(const ListContext& context, std::vector<ListWarning>& warnings) {
     std::size_t count = 0;
     std::string first;
-    for (const PartsRow& row : rows) {
-        if (row.kind == RowKind::OwnBodies && row.component != 0) {
-            first = count++ == 0 ? context.at(row.component).name : first;
+    for (const std::size_t component : context.tree.reached()) {
+        if (component != 0 && context.tree.isOpened(component) && context.hasBodies(component)) {
+            first = count++ == 0 ? context.at(component).name : first;
         }
     }
     if (count > 0) {
@@ -196,7 +192,7 @@ PartsList buildPartsList(const host::DesignData& design, const PartsRequest& ask
     list.request = request;
     list.columns = listColumns(request);
     list.rows = rowsOf(context, keys);
-    warnOfOwnBodies(list.rows, context, list.warnings);
+    warnOfOwnBodies(context, list.warnings);
     sortAndNumber(list.rows, request, values);
     const std::vector<bool> isWanted = filterRows(list.rows, request, values);
     for (PartsRow& row : list.rows) {
@@ -204,13 +200,17 @@ PartsList buildPartsList(const host::DesignData& design, const PartsRequest& ask
     }
     list.totals = totalsOf(list.rows, isWanted, context, values);
     list.conflicts = findConflicts(context, keys);
-    list.duplicates = findDuplicates(context);
+    list.duplicates = findDuplicates(context, keys);
     warnOfHidden(context, list.warnings);
     warnOfDivided(context, list.warnings);
     warnOfUnmeasured(context, list.warnings);
     for (std::size_t component = 0; component < design.components.size(); ++component) {
         list.componentNames.push_back(design.components[component].name);
         list.componentNumbers.push_back(context.numberOf(component));
+    }
+    list.componentKeys.resize(design.components.size());
+    for (const std::size_t component : context.tree.reached()) {
+        list.componentKeys[component] = keys.textOf(component);
     }
     return list;
 }

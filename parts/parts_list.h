@@ -159,6 +159,7 @@ struct PartsList {
     std::vector<ListWarning> warnings = {};
     std::vector<std::string> componentNames = {};    ///< of every component of the design
     std::vector<std::string> componentNumbers = {};  ///< their part numbers, else their names
+    std::vector<std::string> componentKeys = {};     ///< what they are merged by, of those in it
 };
 
 /// Makes the list that is asked for. Throws a `RequestError` for columns that the design has not,

@@ -12,10 +12,6 @@
 namespace parts {
 namespace {
 
-bool hasBodies(const ListContext& context, std::size_t component) {
-    return context.at(component).geometry != nullptr;
-}
-
 /// The component that a row is named after: it does not depend on the order of the design.
 std::size_t firstByName(const ListContext& context, const std::vector<Member>& members) {
     const auto isBefore = [&](const Member& left, const Member& right) {
@@ -123,7 +119,8 @@ std::vector<PartsRow> flatRows(ListContext& context, ItemKeys& keys) {
         const bool isOpened = context.tree.isOpened(component);
         if (!isOpened || (view == View::All && !isRoot)) {
             rows.add(component, isOpened ? RowKind::Assembly : RowKind::Part);
-        } else if ((view == View::Parts || isRoot) && hasBodies(context, component)) {
+        }
+        if (isOpened && context.hasBodies(component)) {
             rows.add(component, RowKind::OwnBodies);
         }
     }
@@ -140,18 +137,23 @@ public:
         root.quantity = context_.request.multiply;
         root.members = {{.component = 0, .quantity = root.quantity}};
         root.level = 0;
-        if (hasBodies(context_, 0)) {
-            PartsRow bodies = root;
-            bodies.kind = RowKind::OwnBodies;
-            bodies.level = 1;
-            bodies.perParent = 1;
-            rows_.push_back(std::move(bodies));
-        }
         addBelow(root, std::nullopt);
         return std::move(rows_);
     }
 
 private:
+    /// The bodies that an assembly has of its own: all of its members have some, or none has.
+    void addOwnBodies(const PartsRow& parent, std::optional<std::size_t> index) {
+        if (context_.hasBodies(parent.members.front().component)) {
+            PartsRow bodies = parent;
+            bodies.kind = RowKind::OwnBodies;
+            bodies.level = parent.level + 1;
+            bodies.parent = index;
+            bodies.perParent = 1;
+            rows_.push_back(std::move(bodies));
+        }
+    }
+
     /// The rows that are directly in a row, one for each item.
     std::vector<PartsRow> childrenOf(const PartsRow& parent, std::optional<std::size_t> index) {
         std::vector<PartsRow> children;
@@ -182,6 +184,7 @@ private:
     }
 
     void addBelow(const PartsRow& parent, std::optional<std::size_t> index) {
+        addOwnBodies(parent, index);
         for (PartsRow& child : childrenOf(parent, index)) {
             const std::size_t place = rows_.size();
             rows_.push_back(child);

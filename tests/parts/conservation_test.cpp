@@ -9,6 +9,7 @@
 #include <map>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 using parts::MergeBy;
@@ -49,6 +50,26 @@ std::map<std::size_t, std::int64_t> countsOf(const PartsList& list, RowKind kind
         }
     }
     return counts;
+}
+
+/// Of each item that is not opened, by what it is merged by and by what kind of row it is.
+struct RollUp {
+    using Item = std::pair<std::string, RowKind>;
+
+    std::map<Item, std::int64_t> quantities;
+    std::map<Item, double> masses;
+};
+
+RollUp rollUpOf(const PartsList& list) {
+    RollUp sum;
+    for (const PartsRow& row : list.rows) {
+        if (row.kind != RowKind::Assembly) {
+            const RollUp::Item item(list.componentKeys[row.component], row.kind);
+            sum.quantities[item] += row.quantity;
+            sum.masses[item] += *row.totalMass;
+        }
+    }
+    return sum;
 }
 
 /// The cells of all rows, whatever their order.
@@ -93,10 +114,24 @@ TEST_F(RandomDesigns, TheMassesAddUpToThoseOfThePlainTree) {
         const PartsList list = listOf(design, View::Parts);
 
         EXPECT_NEAR(massOf(list), walked.listed, 1e-9 * (1 + walked.listed));
-        EXPECT_NEAR(*list.totals.massKg, walked.listed, 1e-9 * (1 + walked.listed));
-        // The tree and the first level hold what is Divided as well.
-        EXPECT_NEAR(*listOf(design, View::All).totals.massKg, walked.listed,
-                    1e-9 * (1 + walked.listed));
+    });
+}
+
+TEST_F(RandomDesigns, AllViewsWeighTheSame) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        const double walked = massesByWalk(design).listed;
+        for (const View view : {View::Parts, View::Indented, View::Top, View::All}) {
+            EXPECT_NEAR(*listOf(design, view).totals.massKg, walked, 1e-9 * (1 + walked));
+        }
+        EXPECT_NEAR(massOf(listOf(design, View::Top)), walked, 1e-9 * (1 + walked));
+    });
+}
+
+TEST_F(RandomDesigns, AllViewsOverAllLevelsCountTheSame) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        const std::int64_t parts = listOf(design, View::Parts).totals.quantity;
+        EXPECT_EQ(listOf(design, View::Indented).totals.quantity, parts);
+        EXPECT_EQ(listOf(design, View::All).totals.quantity, parts);
     });
 }
 
@@ -111,8 +146,20 @@ TEST_F(RandomDesigns, TheCountsAreThoseOfThePlainWalk) {
 
 TEST_F(RandomDesigns, ThePartsAreTheRollUpOfTheTree) {
     forEach([](const host::DesignData& design, unsigned /*seed*/) {
-        EXPECT_EQ(countsOf(listOf(design, View::Indented), RowKind::Part),
-                  countsOf(listOf(design, View::Parts), RowKind::Part));
+        const RollUp leaves = rollUpOf(listOf(design, View::Indented));
+        const RollUp parts = rollUpOf(listOf(design, View::Parts));
+        EXPECT_EQ(leaves.quantities, parts.quantities);
+        ASSERT_EQ(leaves.masses.size(), parts.masses.size());
+        for (const auto& [item, mass] : parts.masses) {
+            EXPECT_NEAR(leaves.masses.at(item), mass, 1e-9 * (1 + mass));
+        }
+    });
+}
+
+TEST_F(RandomDesigns, TheRowsOfPartsAndAssembliesHoldThoseOfParts) {
+    forEach([](const host::DesignData& design, unsigned /*seed*/) {
+        EXPECT_EQ(rollUpOf(listOf(design, View::All)).quantities,
+                  rollUpOf(listOf(design, View::Parts)).quantities);
     });
 }
 

@@ -114,8 +114,24 @@ TEST(Merging, ByShapeTakesEqualShapesTogetherWhateverTheyAreCalled) {
     EXPECT_EQ(rowsOf(list), text(R"(
         1 | Disc | Disc | 2
         2 | Rod | Rod | 1)"));
-    EXPECT_EQ(list.duplicates,
+    // They are one item, and no possible duplicates of one another any more.
+    EXPECT_TRUE(list.duplicates.empty());
+}
+
+TEST(Merging, PartsOfOneShapeThatAreOtherItemsArePossibleDuplicates) {
+    const host::DesignData design = drawn(R"(
+        Magnet  number=M-1
+        Magnet (1)  number=M-2
+        Disc  number=D-1
+        Rod  number=R-1)");
+    const parts::PartShapes shapes{.classOf = {std::nullopt, 4, 4, 4, std::nullopt}};
+
+    EXPECT_EQ(
+        parts::buildPartsList(design, merging("part-number"), shapes).duplicates,
+        (std::vector<parts::PossibleDuplicate>{{.shape = 4, .items = {"D-1", "M-1", "M-2"}}}));
+    EXPECT_EQ(parts::buildPartsList(design, merging("name"), shapes).duplicates,
               (std::vector<parts::PossibleDuplicate>{{.shape = 4, .items = {"Disc", "Magnet"}}}));
+    EXPECT_TRUE(parts::buildPartsList(design, merging("part-number")).duplicates.empty());
 }
 
 TEST(Merging, ByShapeLooksAtNoAssembly) {
@@ -129,7 +145,8 @@ TEST(Merging, ByShapeLooksAtNoAssembly) {
     const PartsList list =
         parts::buildPartsList(design, merging("shape", View::All, "Part Name,Quantity"), shapes);
 
-    EXPECT_EQ(rowsOf(list), "Cart | 1\nWheel | 1\nTable | 1\nLeg | 1");
+    // Each with the bodies of its own.
+    EXPECT_EQ(rowsOf(list), "Cart | 1\nCart | 1\nWheel | 1\nTable | 1\nTable | 1\nLeg | 1");
     EXPECT_TRUE(list.conflicts.empty());
     EXPECT_TRUE(list.duplicates.empty());
 }

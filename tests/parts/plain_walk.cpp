@@ -31,7 +31,7 @@ public:
         const std::string structure = index == 0 ? "Produce" : structureOf(component);
         const bool isDivided = structure == "Divided";
         masses.all += ownMass(component);
-        masses.listed += isListed && isDivided ? 0 : ownMass(component);
+        masses.listed += isDivided ? 0 : ownMass(component);
         const bool isOpened =
             index == 0 || isDivided || (structure == "Produce" && holdsItems(index));
         if (isListed && index != 0 && !isDivided) {

@@ -21,7 +21,7 @@ WalkedCounts countsByWalk(const host::DesignData& design);
 /// In kg.
 struct WalkedMasses {
     double all = 0;     ///< of the tree without Reference
-    double listed = 0;  ///< the same without the own bodies of Divided components that are no line
+    double listed = 0;  ///< the same without the own bodies of Divided components
 };
 
 WalkedMasses massesByWalk(const host::DesignData& design);

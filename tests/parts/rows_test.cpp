@@ -140,7 +140,7 @@ TEST(Filters, KeepWhatAMatchIsIn) {
     PartsRequest asked = request(View::Indented, "Item,Part Name");
     asked.filters = {parts::parseFilter("Part Name=Pin", {})};
     const PartsList list = parts::buildPartsList(drawn(R"(
-        Hinge  box=1x1x1
+        Hinge
           Leaf  box=1x1x1 material=S:0.01
           Pin  box=1x1x1 material=S:0.01
         Lid)"),
@@ -219,13 +219,37 @@ TEST(OwnBodies, OfAnOpenedAssemblyAreAnItem) {
           Rib  box=2x1x1 material=S:0.01
         Weldment)";
 
-    // In the tree its mass is that of all in it.
+    // As an assembly its mass is that of all in it.
     EXPECT_EQ(rowsOf(outline, request(View::Parts, kMeasured)),
               "Weldment | 2 | 0.01 | 0.02\nRib | 2 | 0.02 | 0.04");
     EXPECT_EQ(rowsOf(outline, request(View::Indented, kMeasured)),
-              "Weldment | 2 | 0.03 | 0.06\nRib | 2 | 0.02 | 0.04");
+              "Weldment | 2 | 0.03 | 0.06\nWeldment | 2 | 0.01 | 0.02\nRib | 2 | 0.02 | 0.04");
     EXPECT_EQ(rowsOf(outline, request(View::All, kMeasured)),
-              "Weldment | 2 | 0.03 | 0.06\nRib | 2 | 0.02 | 0.04");
+              "Weldment | 2 | 0.03 | 0.06\nWeldment | 2 | 0.01 | 0.02\nRib | 2 | 0.02 | 0.04");
+    EXPECT_EQ(rowsOf(outline, request(View::Top, kMeasured)), "Weldment | 2 | 0.03 | 0.06");
+}
+
+TEST(OwnBodies, AreTheFirstRowBelowTheirAssembly) {
+    const std::string outline = R"(
+        Cart
+          Weldment  box=1x1x1
+            Rib)";
+
+    EXPECT_EQ(rowsOf(outline, request(View::Indented, "Item,Part Name,Level,Path")),
+              "1 | Cart | 1 | Cart:1\n"
+              "1.1 | Weldment | 2 | Cart:1+Weldment:1\n"
+              "1.1.1 | Weldment | 3 | Cart:1+Weldment:1\n"
+              "1.1.2 | Rib | 3 | Cart:1+Weldment:1+Rib:1");
+}
+
+TEST(OwnBodies, TellAssembliesApartThatAreEqualOtherwise) {
+    EXPECT_EQ(rowsOf(R"(
+        Left  number=W box=1x1x1
+          Rib
+        Right  number=W
+          Rib)",
+                     request(View::Indented, "Part Name,Quantity")),
+              "Left | 1\nLeft | 1\nRib | 1\nRight | 1\nRib | 1");
 }
 
 TEST(OwnBodies, AreReported) {
@@ -275,6 +299,25 @@ TEST(Divided, BodiesOfItsOwnAreInNoLineAndReported) {
     ASSERT_EQ(list.warnings.size(), 1U);
     EXPECT_EQ(list.warnings[0].code, "divided-bodies");
     EXPECT_EQ(list.warnings[0].component, "Set");
+}
+
+TEST(Divided, BodiesOfItsOwnAreInTheMassOfNoParent) {
+    const host::DesignData design = drawn(R"(
+        Frame
+          Set  box=5x1x1 material=S:0.01 structure=Divided
+            Bolt  box=1x1x1 material=S:0.01
+        Motor  structure=Buy
+          Kit  box=7x1x1 material=S:0.01 structure=Divided
+            Rotor  box=2x1x1 material=S:0.01)");
+
+    const std::string columns = "Part Name,Total mass,Bodies,X";
+    const PartsList top = parts::buildPartsList(design, request(View::Top, columns));
+    EXPECT_EQ(rowsOf(top), "Frame | 0.01 | 1 | 10\nMotor | 0.02 | 1 | 20");
+    ASSERT_EQ(top.warnings.size(), 2U);
+    EXPECT_EQ(top.warnings[0].component, "Set");
+    EXPECT_EQ(top.warnings[1].component, "Kit");
+    EXPECT_EQ(rowsOf(parts::buildPartsList(design, request(View::Parts, columns))),
+              "Bolt | 0.01 | 1 | 10\nMotor | 0.02 | 1 | 20");
 }
 
 TEST(Reference, InABoughtAssemblyIsNotInItsMass) {
