@@ -247,7 +247,9 @@ void applyProfile(CLI::App& command, const std::vector<ProfileEntry>& entries,
         try {
             give(*option, entry);
         } catch (const CLI::ParseError& error) {
-            fail(file, entry.line, error.what());
+            // A key has no dashes.
+            const std::string why = error.what();
+            fail(file, entry.line, why.starts_with("--") ? why.substr(2) : why);
         } catch (const Failure& failure) {
             fail(file, entry.line, failure.what());
         }

@@ -2,9 +2,11 @@
 #include "workbench/cli/exit_code.h"
 #include "workbench/cli/input_files.h"
 #include "workbench/cli/profile.h"
+#include "workbench/cli/quiet.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/parts_options.h"
 #include "workbench/commands/parts_run.h"
+#include "workbench/output/display_text.h"
 
 #include "host/base/utf8_path.h"
 
@@ -43,21 +45,44 @@ const ProfileKeys kOutputKeys = {.excluded = {"max-seconds", "max-memory", "max-
                                               "material", "strict", "no-cache", "jobs"},
                                  .lists = kLists};
 
-/// The profile that the user named, else one beside the first design; one without a file where
-/// there is none.
-Profile findProfile(const PartsCommand& options) {
+/// Where a profile that nobody named may lie: in the first folder that was given, beside the first
+/// design.
+std::vector<std::filesystem::path> profileFolders(const PartsCommand& options,
+                                                  const std::vector<std::string>& files) {
+    namespace fs = std::filesystem;
+    std::vector<fs::path> folders;
+    std::error_code ignored;
+    if (const fs::path given = host::fromUtf8(options.files.front());
+        fs::is_directory(given, ignored)) {
+        folders.push_back(given);
+    }
+    folders.push_back(host::fromUtf8(files.front()).parent_path());
+    return folders;
+}
+
+/// The profile that the user named, else one that is found; one without a file where there is none.
+Profile findProfile(const PartsCommand& options, const std::vector<std::string>& files) {
     if (!options.profile.empty()) {
         return readProfile(options.profile);
     }
     if (options.noProfile || options.files.front() == "-") {
         return {};
     }
-    namespace fs = std::filesystem;
-    const fs::path first = host::fromUtf8(options.files.front());
-    std::error_code ignored;
-    const fs::path folder = fs::is_directory(first, ignored) ? first : first.parent_path();
-    const fs::path file = folder / kProfileName;
-    return fs::exists(file, ignored) ? readProfile(host::toUtf8(file)) : Profile();
+    for (const std::filesystem::path& folder : profileFolders(options, files)) {
+        const std::filesystem::path file = folder / kProfileName;
+        std::error_code ignored;
+        if (std::filesystem::exists(file, ignored)) {
+            return readProfile(host::toUtf8(file));
+        }
+    }
+    return {};
+}
+
+/// Without this line the options of a profile that nobody named would come as a surprise.
+void reportFoundProfile(const PartsCommand& options, const Profile& profile) {
+    if (options.profile.empty() && !profile.file.empty() && !isQuiet()) {
+        std::cerr << "profile: " << printable(profile.file) << "\n";
+    }
 }
 
 /// The options of one output, made of the command line, what the profile has for the output, and
@@ -159,16 +184,16 @@ void printProfile(const PartsCommand& options, const Profile& profile) {
 }
 
 void runParts(const PartsCommand& options) {
-    const Profile profile = findProfile(options);
+    PartsRun run;
+    run.files = expandInputs(options.files);
+    const Profile profile = findProfile(options, run.files);
+    run.tasks = tasksOf(options, profile);
+    reportFoundProfile(options, profile);
     if (options.printProfile) {
-        tasksOf(options, profile);
         printProfile(options, profile);
         return;
     }
     const Choice common(*options.command, profile);
-    PartsRun run;
-    run.tasks = tasksOf(options, profile);
-    run.files = expandInputs(options.files);
     run.reading = common.words().reading;
     run.jobs = static_cast<std::size_t>(common.jobs());
     checkOutputs(run);
@@ -195,8 +220,8 @@ void addOutputs(CLI::App& command, PartsCommand& options) {
         ->allow_extra_args(false);
     command
         .add_option("--profile", options.profile,
-                    "Take options from this file; by default from tarnix.toml beside the first\n"
-                    "FILE, or in it, where there is one. Options given here win")
+                    "Take options from this file; by default from tarnix.toml in the first FILE,\n"
+                    "where that is a folder, or beside the first design. Options given here win")
         ->type_name("FILE.toml");
     command.add_flag("--no-profile", options.noProfile, "Do not look for tarnix.toml");
     command.add_flag("--print-profile", options.printProfile,

@@ -107,7 +107,7 @@ TEST_F(Profile, AValueOfAnotherTypeIsRefusedWithItsLine) {
     EXPECT_EQ(refusal("view = [\"parts\"]"), "p.toml:1: view: expected one value, not an array");
     EXPECT_EQ(refusal("view = 1979-05-27"),
               "p.toml:1: view: expected a string, a number, true, false or an array");
-    EXPECT_EQ(refusal("view = \"tree\"").rfind("p.toml:1: --view: tree not in {", 0), 0U)
+    EXPECT_EQ(refusal("view = \"tree\"").rfind("p.toml:1: view: tree not in {", 0), 0U)
         << refusal("view = \"tree\"");
     EXPECT_EQ(refusal("multiply = \"many\"").rfind("p.toml:1: ", 0), 0U);
 }
