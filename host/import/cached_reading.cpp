@@ -61,12 +61,12 @@ std::string CachedReading::keyOf(const std::vector<fs::path>& files) const {
     for (const fs::path& file : files) {
         text += file.filename().string() + "\n" + sha256OfFile(file) + "\n";
     }
-    // Time and memory are left out: they decide only whether the reader responds.
+    // Time, memory and threads are left out: they decide only whether and when the reader responds.
     constexpr std::size_t kOccurrences = 2;
     constexpr std::size_t kSeconds = 4;
-    constexpr std::size_t kMegabytes = 5;
+    constexpr std::size_t kThreads = 6;
     for (std::size_t at = kOccurrences; at < arguments_.size(); ++at) {
-        text += at == kSeconds || at == kMegabytes ? "" : arguments_[at] + "\n";
+        text += at >= kSeconds && at <= kThreads ? "" : arguments_[at] + "\n";
     }
     return sha256Of(text);
 }

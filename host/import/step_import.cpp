@@ -102,7 +102,8 @@ std::vector<std::string> argumentsFor(const ReadableFile& source, const ReadingL
             std::to_string(limits.occurrences),
             std::to_string(limits.levels),
             std::to_string(seconds),
-            std::to_string(limits.megabytes)};
+            std::to_string(limits.megabytes),
+            std::to_string(limits.threads)};
 }
 
 OccurrenceData occurrenceOf(const json& use) {

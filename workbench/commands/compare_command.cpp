@@ -7,6 +7,7 @@
 #include "workbench/commands/edited_parts_list.h"
 #include "workbench/commands/parts_options.h"
 #include "workbench/output/comparison_text.h"
+#include "workbench/output/remarks.h"
 #include "workbench/output/result_stream.h"
 
 #include "parts/bom_structure.h"
@@ -52,7 +53,10 @@ std::vector<parts::Column> comparedColumns(const CompareOptions& options,
     if (!columns.empty()) {
         return columns;
     }
-    columns = parts::parseColumns("Part Name,Description,Quantity,Mass,Material,BOM Structure");
+    const bool isTree = parts::parseView(options.list.view) == parts::View::Indented;
+    columns = parts::parseColumns(std::string("Part Name,Description,") +
+                                  (isTree ? "Quantity per parent" : "Quantity") +
+                                  ",Mass,Material,BOM Structure");
     for (const std::string& name : names) {
         columns.push_back(
             {.field = parts::Field::Property, .property = name, .isChosenProperty = true});
@@ -69,9 +73,21 @@ std::vector<parts::ComparedColumn> aboutColumns(const parts::PartsList& list, st
     return columns;
 }
 
-host::ShapeData shapesOf(const host::DesignData& design) {
-    return host::readShapes(design, {.classes = true});
-}
+/// A design with the list of it that is compared. What there is to remark is reported.
+struct ListedDesign {
+    ListedDesign(const std::string& file, const host::DesignData& design,
+                 const parts::PartsRequest& request)
+        : shapes(host::readShapes(design, {.classes = true})),
+          list(listOf(design, request, parts::partShapesOf(shapes, parts::Pictures::None))) {
+        Remarks remarks;
+        addProblems(remarks, design, shapes);
+        addWarnings(remarks, list.warnings);
+        reportRemarks(remarks, file);
+    }
+
+    host::ShapeData shapes;
+    parts::PartsList list;
+};
 
 parts::ListComparison compareDesigns(const CompareOptions& options) {
     const host::DesignData before = readDesign(options.before, options.reading);
@@ -80,19 +96,25 @@ parts::ListComparison compareDesigns(const CompareOptions& options) {
     request.columns = comparedColumns(options, {&before, &after});
     const std::size_t count = request.columns.size();
     const parts::PartsRequest whole = parts::comparisonRequest(request);
-    const parts::PartsList old = listOf(before, whole);
-    return parts::compareLines(parts::linesOf(old, count, shapesOf(before)),
-                               parts::linesOf(listOf(after, whole), count, shapesOf(after)),
-                               aboutColumns(old, count));
+    const ListedDesign old(options.before, before, whole);
+    const ListedDesign now(options.after, after, whole);
+    return parts::compareLines(parts::linesOf(old.list, count, old.shapes),
+                               parts::linesOf(now.list, count, now.shapes),
+                               aboutColumns(old.list, count));
 }
 
 /// A design and a list of it that was edited in a spreadsheet.
 parts::ListComparison compareWithList(const CompareOptions& options, bool isListOld) {
-    const EditedPartsList edited(isListOld ? options.before : options.after,
-                                 requestOf(options.list));
-    const host::DesignData design =
-        readDesign(isListOld ? options.after : options.before, options.reading);
-    const parts::PartsList list = listOf(design, edited.request());
+    const parts::PartsRequest request = requestOf(options.list);
+    if (request.view == parts::View::Indented) {
+        refuse(
+            "--view indented: compares two designs, by what their lines are in; for a list there "
+            "are parts, top, all");
+    }
+    const EditedPartsList edited(isListOld ? options.before : options.after, request);
+    const std::string& file = isListOld ? options.after : options.before;
+    const host::DesignData design = readDesign(file, options.reading);
+    const parts::PartsList list = ListedDesign(file, design, edited.request()).list;
     const std::vector<parts::ComparedLine> ofDesign = edited.linesOf(list);
     std::vector<parts::ComparedColumn> columns = aboutColumns(list, list.columns.size());
     for (parts::ComparedColumn& column : columns) {
@@ -150,9 +172,10 @@ void addLists(CLI::App& command, CompareOptions& options) {
                     "Significant digits that the list was written with")
         ->check(CLI::Range(1, 17))
         ->capture_default_str();
-    command.add_option("--view", options.list.view, "Which lines are compared, as for parts")
-        ->check(CLI::IsMember({"parts", "all", "top"}))
-        ->capture_default_str();
+    addView(command, options.list,
+            "Which lines are compared, as for parts; those of the tree by what they are in");
+    addMerging(command, options.list,
+               "What lines are matched by, and what makes components one of them, as for parts");
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "workbench/cli/common_options.h"
 #include "workbench/cli/exit_code.h"
 #include "workbench/cli/input_files.h"
+#include "workbench/cli/machine.h"
 #include "workbench/cli/profile.h"
 #include "workbench/cli/quiet.h"
 #include "workbench/commands/commands.h"
 #include "workbench/commands/parts_options.h"
 #include "workbench/commands/parts_run.h"
+#include "workbench/commands/reader_share.h"
 #include "workbench/output/display_text.h"
 
 #include "host/base/utf8_path.h"
@@ -15,7 +17,6 @@
 #include <iostream>
 #include <string>
 #include <system_error>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -31,7 +32,7 @@ struct PartsCommand {
     std::string profile;
     bool noProfile = false;
     bool printProfile = false;
-    int jobs = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+    int jobs = static_cast<int>(machine::processors());
 };
 
 const std::vector<std::string> kLists = {"columns", "sort", "units", "merge-by"};
@@ -108,7 +109,7 @@ public:
         command
             .add_option("--jobs", jobs,
                         "Designs to read at once, each in a reader of its own; by default one for\n"
-                        "each processor")
+                        "each processor. They share the processors and the machine's memory")
             ->type_name("COUNT")
             ->check(CLI::Range(1, 1024));
     }
@@ -153,7 +154,7 @@ private:
     std::vector<ProfileEntry> output_;
     CLI::App app_{"", "parts"};
     PartsOptions words_;
-    int jobs_ = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+    int jobs_ = static_cast<int>(machine::processors());
 };
 
 /// What goes where: "--output" takes the place of all outputs in the profile.
@@ -195,7 +196,11 @@ void runParts(const PartsCommand& options) {
     }
     const Choice common(*options.command, profile);
     run.reading = common.words().reading;
-    run.jobs = static_cast<std::size_t>(common.jobs());
+    run.jobs = std::min(static_cast<std::size_t>(common.jobs()), run.files.size());
+    run.reading.limits =
+        shareOf(run.reading.limits, {.readers = run.jobs,
+                                     .processors = machine::processors(),
+                                     .memoryMegabytes = machine::memoryMegabytes()});
     checkOutputs(run);
     listParts(run);
 }

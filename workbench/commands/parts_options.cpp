@@ -94,19 +94,12 @@ void checkDelimiter(const std::string& delimiter) {
 
 /// What is listed.
 void addContent(CLI::App& command, PartsOptions& options) {
-    command
-        .add_option(
-            "--view", options.view,
+    addView(command, options,
             "What is listed: every item that is not opened, over all levels; the tree; the\n"
-            "first level; or parts and assemblies, each once")
-        ->type_name("parts|indented|top|all")
-        ->capture_default_str();
-    command
-        .add_option("--merge-by", options.mergeBy,
-                    "What makes components one item: part-number (the name where it is empty),\n"
-                    "name, component, shape, or columns with commas between")
-        ->type_name("WHAT")
-        ->capture_default_str();
+            "first level; or parts and assemblies, each once");
+    addMerging(command, options,
+               "What makes components one item: their part-number (the name where it is empty),\n"
+               "name, or shape; nothing but the component; or columns with commas between");
     command
         .add_option("--columns", options.columns,
                     "The columns, with commas between, as in 'Item,Part Number=Number,Mass[g]:2':\n"
@@ -126,7 +119,9 @@ void addContent(CLI::App& command, PartsOptions& options) {
         ->type_name("COLUMNS");
     command.add_flag("--shapes", options.comparesShapes,
                      "Compare the shapes of parts: report items of one shape under different\n"
-                     "numbers, and different shapes under one number");
+                     "numbers, and different shapes under one number. --merge-by shape and the\n"
+                     "column Thumbnail compare them too, but what is merged by shape has no\n"
+                     "different numbers to report");
     command.add_option("--multiply", options.multiply, "List what so many of the design need")
         ->type_name("COUNT")
         ->check(CLI::Range(std::int64_t{1}, parts::kMostMultiply))
@@ -163,6 +158,19 @@ void addWriting(CLI::App& command, PartsOptions& options) {
 }
 
 }  // namespace
+
+void addView(CLI::App& command, PartsOptions& options, const std::string& description) {
+    command.add_option("--view", options.view, description)
+        ->check(CLI::IsMember({"parts", "indented", "top", "all"}))
+        ->capture_default_str();
+}
+
+void addMerging(CLI::App& command, PartsOptions& options, const std::string& description) {
+    // What is between braces is offered by the completions of shells.
+    command.add_option("--merge-by", options.mergeBy, description)
+        ->type_name("{part-number,name,component,shape}|COLUMNS")
+        ->capture_default_str();
+}
 
 void addPartsOptions(CLI::App& command, PartsOptions& options) {
     addContent(command, options);

@@ -33,6 +33,10 @@ struct PartsOptions {
 
 void addPartsOptions(CLI::App& command, PartsOptions& options);
 
+/// "--view", one of the names, and "--merge-by", which are among them.
+void addView(CLI::App& command, PartsOptions& options, const std::string& description);
+void addMerging(CLI::App& command, PartsOptions& options, const std::string& description);
+
 /// What is to be listed. Throws a `Failure` with the name of the option that makes no sense.
 parts::PartsRequest requestOf(const PartsOptions& options);
 

@@ -1,13 +1,10 @@
 #include "workbench/commands/parts_page.h"
 
-#include "workbench/cli/quiet.h"
-
 #include "parts/glb_writer.h"
 #include "parts/page_writer.h"
 #include "web/page_template.h"
 
 #include <algorithm>
-#include <iostream>
 #include <sstream>
 
 namespace workbench {
@@ -26,15 +23,15 @@ std::string modelOf(const host::DesignData& design, const host::ShapeData& meshe
     return model.str();
 }
 
-void reportSize(const host::ShapeData& meshes, std::size_t bytes) {
+Remark sizeOf(const host::ShapeData& meshes, std::size_t bytes) {
     std::size_t triangles = 0;
     for (const host::Shape& shape : meshes.shapes) {
         triangles += shape.mesh ? shape.mesh->triangles() : 0;
     }
-    if (!isQuiet()) {
-        std::cerr << "model: " << std::ranges::count_if(meshes.shapes, isDrawn) << " shapes, "
-                  << triangles << " triangles, " << bytes / kBytesInKb << " kB\n";
-    }
+    return {.kind = "model",
+            .text = std::to_string(std::ranges::count_if(meshes.shapes, isDrawn)) + " shapes, " +
+                    std::to_string(triangles) + " triangles, " +
+                    std::to_string(bytes / kBytesInKb) + " kB"};
 }
 
 }  // namespace
@@ -44,9 +41,9 @@ std::vector<parts::View> pageViews() {
 }
 
 void writePage(const host::DesignData& design, const host::ShapeData& meshes,
-               const std::vector<parts::PartsList>& lists, std::ostream& stream) {
+               const std::vector<parts::PartsList>& lists, std::ostream& stream, Remarks& remarks) {
     const std::string model = modelOf(design, meshes);
-    reportSize(meshes, model.size());
+    remarks.push_back(sizeOf(meshes, model.size()));
     parts::writePage(web::pageTemplate(), design, lists, model, stream);
 }
 

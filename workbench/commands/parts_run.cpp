@@ -7,6 +7,7 @@
 #include "workbench/commands/parts_page.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/output_names.h"
+#include "workbench/output/remarks.h"
 #include "workbench/output/reports.h"
 #include "workbench/output/staged_files.h"
 
@@ -30,7 +31,7 @@ namespace {
 struct FileOutcome {
     std::vector<std::string> contents;  ///< one for each task
     std::vector<host::ReadingWarning> warnings;
-    std::vector<parts::ListWarning> remarks;
+    Remarks remarks;
     std::optional<Failure> failure;
 };
 
@@ -66,7 +67,7 @@ host::DesignData readOne(const PartsRun& run, const std::string& file, FileOutco
 }
 
 /// What the lists of a design need to know of its shapes, read once for all of them.
-parts::PartShapes shapesFor(const PartsRun& run, const host::DesignData& design) {
+parts::PartShapes shapesFor(const PartsRun& run, const host::DesignData& design, Remarks& remarks) {
     parts::PartsRequest request;
     bool isNeeded = false;
     for (const ListTask& task : run.tasks) {
@@ -75,16 +76,7 @@ parts::PartShapes shapesFor(const PartsRun& run, const host::DesignData& design)
         request.columns.insert(request.columns.end(), task.request.columns.begin(),
                                task.request.columns.end());
     }
-    return isNeeded ? readPartShapes(design, request) : parts::PartShapes();
-}
-
-/// Lists of one design mostly have the same warnings.
-void addRemarks(const parts::PartsList& list, FileOutcome& outcome) {
-    for (const parts::ListWarning& warning : list.warnings) {
-        if (std::ranges::find(outcome.remarks, warning) == outcome.remarks.end()) {
-            outcome.remarks.push_back(warning);
-        }
-    }
+    return isNeeded ? readPartShapes(design, request, remarks) : parts::PartShapes();
 }
 
 /// Whether a format says where its list comes from.
@@ -112,22 +104,22 @@ std::string pageOf(const ListTask& task, const host::DesignData& design,
         request.view = view;
         lists.push_back(listOf(design, request, shapes));
         lists.back().source = source;
-        addRemarks(lists.back(), outcome);
+        addWarnings(outcome.remarks, lists.back().warnings);
     }
     std::ostringstream page;
-    writePage(design, readMeshes(design), lists, page);
+    writePage(design, readMeshes(design, outcome.remarks), lists, page, outcome.remarks);
     return std::move(page).str();
 }
 
 void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcome) {
     const host::DesignData design = readOne(run, file, outcome);
-    const parts::PartShapes shapes = shapesFor(run, design);
+    const parts::PartShapes shapes = shapesFor(run, design, outcome.remarks);
     const parts::PartShapes none;
     const parts::ListSource source = sourceOf(run, file);
     for (const ListTask& task : run.tasks) {
         if (task.format.kind == PartsFormatKind::Model) {
             std::ostringstream model;
-            writeModel(design, file, model);
+            writeModel(design, file, model, outcome.remarks);
             outcome.contents.push_back(std::move(model).str());
             continue;
         }
@@ -141,7 +133,7 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
         std::ostringstream content;
         writeParts(list, task.format, content);
         outcome.contents.push_back(std::move(content).str());
-        addRemarks(list, outcome);
+        addWarnings(outcome.remarks, list.warnings);
     }
 }
 
@@ -212,17 +204,6 @@ private:
     std::vector<std::thread> threads_;
 };
 
-/// Of several files each remark names its own.
-void reportRemarks(const std::string& file, const std::vector<parts::ListWarning>& remarks) {
-    for (const parts::ListWarning& each : remarks) {
-        if (!isQuiet()) {
-            const std::string where = file.empty() ? "" : file + ": ";
-            const std::string part = each.component.empty() ? "" : "\"" + each.component + "\" ";
-            std::cerr << "warning: " << printable(where + part + each.text) << "\n";
-        }
-    }
-}
-
 /// Writes the lists, and keeps count.
 class Delivery {
 public:
@@ -230,7 +211,7 @@ public:
 
     void deliver(const std::string& file, const FileOutcome& outcome) {
         reportWarnings(outcome.warnings);
-        reportRemarks(isSeveral(run_) ? file : "", outcome.remarks);
+        reportRemarks(outcome.remarks, isSeveral(run_) ? file : "");
         try {
             if (outcome.failure) {
                 throw Failure(*outcome.failure);

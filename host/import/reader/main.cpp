@@ -2,6 +2,7 @@
 #include "host/import/reader/colours.h"
 #include "host/import/reader/declared_bodies.h"
 #include "host/import/reader/iges.h"
+#include "host/import/reader/parallel_results.h"
 #include "host/import/reader/process_limits.h"
 #include "host/import/reader/protocol.h"
 #include "host/import/reader/shapes.h"
@@ -15,7 +16,7 @@
 #include <new>
 #include <string>
 
-/// step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES [tree]
+/// step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES THREADS [tree]
 ///
 /// Reads a STEP file (or an IGES file), sends what it holds, and answers requests about its
 /// shapes; see protocol.h. With "tree" it builds shapes of a lone part only. It is a program of its
@@ -108,17 +109,20 @@ int runOrReport(const Task& task) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    if (count != 7 && count != 8) {
-        std::cerr << "usage: step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES [tree]\n";
+    if (count != 8 && count != 9) {
+        std::cerr << "usage: step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES THREADS "
+                     "[tree]\n";
         return EXIT_FAILURE;
     }
     std::ios::sync_with_stdio(false);
     step::endWithStarter();
     const host::ReadingLimits limits = {.seconds = std::stod(arguments[5]),
                                         .megabytes = std::stoul(arguments[6]),
+                                        .threads = std::stoul(arguments[7]),
                                         .occurrences = std::stoul(arguments[3]),
                                         .levels = std::stoul(arguments[4])};
     step::boundProcess(limits);
+    step::useThreads(limits.threads);
     step::endProcess(runOrReport(
-        {.file = arguments[1], .folder = arguments[2], .limits = limits, .treeOnly = count == 8}));
+        {.file = arguments[1], .folder = arguments[2], .limits = limits, .treeOnly = count == 9}));
 }

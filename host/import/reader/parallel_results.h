@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
@@ -13,7 +14,18 @@
 
 namespace step {
 
-/// Results by number, each worked out once and on all processors.
+/// How many threads work out results beside those that ask for them; 0: one for each processor. To
+/// be set before anything is worked out.
+inline std::atomic<std::size_t> threadSetting = 0;
+
+inline void useThreads(std::size_t count) { threadSetting = count; }
+
+inline std::size_t threadCount() {
+    const std::size_t chosen = threadSetting;
+    return chosen > 0 ? chosen : std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
+}
+
+/// Results by number, each worked out once and by `threadCount` threads.
 ///
 /// The first question starts the work on the others: who asks for one usually asks for all. Each
 /// result is worked out whole by one thread, so it is that of working in sequence.
@@ -61,10 +73,9 @@ public:
     }
 
 private:
-    /// One for each processor: who asks mostly waits for them.
+    /// Who asks mostly waits for them.
     void startOthers() {
-        const auto helpers = std::min<std::size_t>(
-            std::max(std::thread::hardware_concurrency(), 1U), results_.size());
+        const std::size_t helpers = std::min(threadCount(), results_.size());
         try {
             for (std::size_t helper = 0; helper < helpers; ++helper) {
                 others_.emplace_back([this] { runAll(); });

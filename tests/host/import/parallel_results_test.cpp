@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <numeric>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -34,6 +36,32 @@ TEST(ParallelResults, AreWorkedOutAgainWhereTheyWereTaken) {
     EXPECT_EQ(results.take(0), 2);
     EXPECT_EQ(results.of(0), 3);
     EXPECT_EQ(results.of(0), 3);
+}
+
+/// How many results were being worked out at the same time, at the most.
+int mostAtOnce(std::size_t threads) {
+    step::useThreads(threads);
+    std::atomic<int> running = 0;
+    std::atomic<int> most = 0;
+    step::ParallelResults<int> results(20, [&](std::size_t) {
+        const int now = ++running;
+        for (int seen = most; seen < now && !most.compare_exchange_weak(seen, now);) {
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        return --running;
+    });
+    for (std::size_t number = 0; number < results.size(); ++number) {
+        static_cast<void>(results.of(number));
+    }
+    step::useThreads(0);
+    return most;
+}
+
+TEST(ParallelResults, AreWorkedOutByAsManyThreadsAsAreAllowed) {
+    // With the thread that asks.
+    EXPECT_LE(mostAtOnce(1), 2);
+    EXPECT_GT(mostAtOnce(4), 2);
+    EXPECT_LE(mostAtOnce(4), 5);
 }
 
 TEST(ParallelResults, EndWithWorkUnderWay) {

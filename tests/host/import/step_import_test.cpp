@@ -392,7 +392,7 @@ TEST_F(StepImport, TheReaderEndsWhenItsParentIsGone) {
         ::dup2(ends[1], STDIN_FILENO);
         ::dup2(ends[1], STDOUT_FILENO);
         ::execl(reader.c_str(), "step-reader", file.c_str(), folder.path().c_str(), "10", "10",
-                "60", "3072", nullptr);
+                "60", "3072", "0", nullptr);
         ::_exit(99);
     }
     ::close(ends[1]);

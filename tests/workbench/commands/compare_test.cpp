@@ -222,6 +222,98 @@ TEST_F(CompareCommand, ChosenCaptionsAreUnderstoodWithTheSameColumns) {
               "0 added, 0 removed, 1 change in other lines, 0 unchanged\n");
 }
 
+TEST_F(CompareCommand, WhatTheListsWarnOfIsPrintedWithItsFile) {
+    const std::string set = "Set  box=1x1x1 structure=Divided\n  Bolt";
+    const std::string warning =
+        ": \"Set\" is Divided: the bodies of its own are in no line and in no mass\n";
+
+    EXPECT_EQ(compare("Bolt", set).errors, "warning: " + path("new.design.json") + warning);
+    EXPECT_EQ(compare("Bolt", set, {"--quiet"}).errors, "");
+    EXPECT_EQ(run({"compare", edited(design(set), {}), design(set)}).errors,
+              "warning: " + path("sample.design.json") + warning);
+}
+
+TEST_F(CompareCommand, ByNameAPartWithAnotherNumberIsTheSame) {
+    const std::string before = "Axle  number=A-1\n  Wheel  number=W-1";
+    const std::string after = "Axle  number=A-2\n  Wheel  number=W-2";
+
+    EXPECT_EQ(
+        compare(before, after,
+                {"--merge-by", "name", "--format", "markdown", "--columns", "Part Number,Quantity"})
+            .output,
+        "| Change | Item | What | Old | New |\n"
+        "| --- | --- | --- | --- | --- |\n"
+        "| changed | Wheel | Part Number | W-1 | W-2 |\n\n"
+        "0 added, 0 removed, 1 change in other lines, 0 unchanged\n");
+    EXPECT_EQ(compare(before, after, {"--merge-by", "name"}).output, "No differences, 1 line\n");
+}
+
+TEST_F(CompareCommand, ByColumnsTheirValuesMatchLines) {
+    EXPECT_EQ(compare("Bolt  number=B-1 property=Norm/933\nBolt (1)  number=B-2 property=Norm/931",
+                      "Screw  number=S-1 property=Norm/931\nPin  number=S-2 property=Norm/933\nPin",
+                      {"--merge-by", "Norm,BOM Structure", "--columns", "Quantity", "--format",
+                       "markdown"})
+                  .output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| quantity | 933, Produce | Quantity | 1 | 2 |\n\n"
+              "0 added, 0 removed, 1 change in other lines, 1 unchanged\n");
+}
+
+TEST_F(CompareCommand, TheTreeIsComparedPlaceByPlace) {
+    const ProgramResult result = compare(R"(
+        Left
+          Bolt
+        Right
+          Bolt)",
+                                         R"(
+        Right
+          Nut
+        Left
+          Bolt
+          Bolt)",
+                                         {"--view", "indented", "--format", "markdown"});
+
+    EXPECT_EQ(result.output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| quantity | Left / Bolt | Quantity per parent | 1 | 2 |\n"
+              "| removed | Right / Bolt |  | 1 |  |\n"
+              "| added | Right / Nut |  |  | 1 |\n\n"
+              "1 added, 1 removed, 1 change in other lines, 2 unchanged\n")
+        << result.errors;
+}
+
+TEST_F(CompareCommand, MoreOfAnAssemblyIsNoChangeOfWhatIsInIt) {
+    EXPECT_EQ(compare("Axle\n  Wheel", "Axle\n  Wheel\nAxle",
+                      {"--view", "indented", "--format", "markdown"})
+                  .output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| quantity | Axle | Quantity per parent | 1 | 2 |\n\n"
+              "0 added, 0 removed, 1 change in other lines, 1 unchanged\n");
+}
+
+TEST_F(CompareCommand, AListIsNotComparedWithATree) {
+    const std::string file = design("Bolt");
+    const std::string list = edited(file, {});
+
+    expectFailure(
+        run({"compare", file, list, "--view", "indented"}), 2,
+        "tarnix-workbench: --view indented: compares two designs, by what their lines are "
+        "in; for a list there are parts, top, all\n");
+}
+
+TEST_F(CompareCommand, AnotherShapeIsInMarkdownToo) {
+    EXPECT_EQ(compare("Block  box=4x2x1 material=Steel:0.008",
+                      "Block  box=2x2x2 material=Steel:0.008", {"--format", "markdown"})
+                  .output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| shape | Block | Area \\[cm\xC2\xB2\\] | 28 | 24 |\n\n"
+              "0 added, 0 removed, 1 change in other lines, 0 unchanged\n");
+}
+
 TEST_F(CompareCommand, TwoListsAreRefused) {
     expectFailure(run({"compare", "a.csv", "b.csv"}), 2,
                   "tarnix-workbench: OLD and NEW are both lists; one of them has to be a design\n");

@@ -1,6 +1,7 @@
-#include "samples/product.h"
 #include "samples/samples.h"
+#include "tests/host/import/drawn_parts.h"
 #include "tests/support/text.h"
+#include "tests/workbench/reader_fixture.h"
 #include "tests/workbench/workbench_fixture.h"
 
 #include <gtest/gtest.h>
@@ -12,20 +13,53 @@
 /// Parts that are recognised by their shapes.
 namespace {
 
-using samples::Product;
-using samples::rectangle;
-using samples::Solid;
+using drafts::part;
+using drafts::plate;
 using test_support::ProgramResult;
 using test_support::text;
 
-Product plate(const std::string& name, double width, double depth, double height) {
-    return {.key = name,
-            .id = name,
-            .name = name,
-            .description = "",
-            .material = {},
-            .solid = Solid{{{rectangle(width, depth), height}}, {}},
-            .uses = {}};
+/// A part whose shape cannot be compared, which a.step is the last to say.
+constexpr const char* kNoSurface = R"sh(
+case "$1" in */a.step) sleep 0.5 ;; esac
+echo '{"design": {"unit": "mm", "files": [], "roots": [0], "components": [' \
+    '{"id": "", "name": "Vase", "description": "", "shape": 0, "bodies": 1,' \
+    '"material": "Steel", "density": 0.00785, "uses": []}]}}'
+while read -r verb rest; do
+    case "$verb" in
+        measure) echo '{"area": 6, "volume": 1}' ;;
+        *) echo '{"error": "no surface"}' ;;
+    esac
+done
+)sh";
+
+class PartShapesOfSeveralFiles : public test_support::WorkbenchWithReader {
+protected:
+    void SetUp() override {
+        WorkbenchWithReader::SetUp();
+        readerIs(kNoSurface);
+        std::filesystem::create_directory(folder.path() / "in");
+        folder.write("in/a.step", "ISO-10303-21;");
+        folder.write("in/b.step", "ISO-10303-21; ");
+    }
+
+    [[nodiscard]] std::string warning(const std::string& name) const {
+        return "warning: " + path("in/" + name) + ": \"Vase\": cannot be compared: no surface\n";
+    }
+};
+
+TEST_F(PartShapesOfSeveralFiles, AreWarnedOfInTheOrderOfTheFiles) {
+    const ProgramResult result = run({"parts", path("in"), "--shapes", "--jobs", "2", "--columns",
+                                      "Part Number", "--format", "jsonl"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, warning("a.step") + warning("b.step") + "2 files listed\n");
+}
+
+TEST_F(PartShapesOfSeveralFiles, AreWarnedOfWhereTwoAreCompared) {
+    const ProgramResult result = run({"compare", path("in/a.step"), path("in/b.step")});
+
+    EXPECT_EQ(result.output, "No differences, 1 line\n");
+    EXPECT_EQ(result.errors, warning("a.step") + warning("b.step"));
 }
 
 class PartShapes : public test_support::Workbench {
@@ -34,8 +68,9 @@ protected:
     std::string plates() {
         return folder.write(
             "Plates.step",
-            samples::stepFile("x", {plate("Plate", 10, 20, 5), plate("Plate (1)", 20, 5, 10),
-                                    plate("Panel", 20, 10, 5), plate("Other", 20, 10, 6)}));
+            samples::stepFile("x",
+                              {part("Plate", plate(10, 20, 5)), part("Plate (1)", plate(20, 5, 10)),
+                               part("Panel", plate(20, 10, 5)), part("Other", plate(20, 10, 6))}));
     }
 };
 

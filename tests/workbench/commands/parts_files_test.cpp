@@ -76,7 +76,8 @@ TEST_F(PartsOfFiles, ARemarkNamesItsFile) {
 
     EXPECT_EQ(list({"--output", path("out/{stem}.csv")}).errors,
               "warning: " + path("in/kit.design.json") +
-                  ": \"Set\" is Divided: the bodies of its own are in no line\n3 files listed\n");
+                  ": \"Set\" is Divided: the bodies of its own are in no line and in no mass\n3 "
+                  "files listed\n");
 }
 
 TEST_F(PartsOfFiles, ADesignThatFailsIsReportedAndTheOthersAreListed) {
@@ -169,6 +170,35 @@ TEST_F(PartsOfFiles, ANamedProfileTakesThePlaceOfTheOneBesideTheDesign) {
     EXPECT_EQ(list({"--no-profile"}).status, 0);
 }
 
+TEST_F(PartsOfFiles, AProfileThatWasFoundIsNamed) {
+    profile("multiply = 2\n");
+    const std::string cart = path("in/cart.design.json");
+
+    EXPECT_EQ(run({"parts", cart}).errors, "profile: " + path("in/tarnix.toml") + "\n");
+    EXPECT_EQ(run({"parts", cart, "--quiet"}).errors, "");
+    EXPECT_EQ(run({"parts", cart, "--profile", path("in/tarnix.toml")}).errors, "");
+    EXPECT_EQ(run({"parts", cart, "--no-profile"}).errors, "");
+}
+
+TEST_F(PartsOfFiles, AProfileIsFoundBesideTheFirstDesignOfAPattern) {
+    profile("columns = \"Part Number,Quantity\"\nmultiply = 4\n");
+
+    const ProgramResult result = run({"parts", path("*/cart*"), "--format", "tsv"});
+
+    EXPECT_EQ(result.errors, "profile: " + path("in/tarnix.toml") + "\n");
+    EXPECT_EQ(result.output, "Part Number\tQuantity\nBolt\t8\n");
+}
+
+TEST_F(PartsOfFiles, AProfileIsFoundInTheFolderBeforeTheOneBesideADesignInIt) {
+    profile("multiply = 4\n");
+    EXPECT_EQ(run({"parts", path(""), "--output", path("a.jsonl")}).errors,
+              "profile: " + path("in/tarnix.toml") + "\n2 files listed\n");
+
+    writeFile(folder.path() / "tarnix.toml", "multiply = 5\n");
+    EXPECT_EQ(run({"parts", path(""), "--output", path("b.jsonl")}).errors,
+              "profile: " + path("tarnix.toml") + "\n2 files listed\n");
+}
+
 TEST_F(PartsOfFiles, ABadProfileIsRefusedWithItsLineBeforeAnythingIsWritten) {
     profile("multiply = 2\n\n[[output]]\nfile = '" + path("out/a.csv") + "'\nvew = \"all\"\n");
 
@@ -178,7 +208,7 @@ TEST_F(PartsOfFiles, ABadProfileIsRefusedWithItsLineBeforeAnythingIsWritten) {
     profile("view = \"tree\"\n");
     expectFailure(run({"parts", path("in/cart.design.json")}), 1,
                   "tarnix-workbench: " + path("in/tarnix.toml") +
-                      ":1: view \"tree\": no such view; there are parts, indented, top, all\n");
+                      ":1: view: tree not in {parts,indented,top,all}\n");
 }
 
 TEST_F(PartsOfFiles, ThePrintedProfileReadsBackTheSame) {

@@ -81,7 +81,8 @@ TEST_F(PartsCommand, ReportsWhatIsInNoLine) {
                                       "--columns", "Part Number"});
 
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.errors, "warning: \"Set\" is Divided: the bodies of its own are in no line\n");
+    EXPECT_EQ(result.errors,
+              "warning: \"Set\" is Divided: the bodies of its own are in no line and in no mass\n");
 }
 
 TEST_F(PartsCommand, RefusesWhatMakesNoSenseWithTheOptionAndWhatWouldBeRight) {

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
+#include <thread>
 
 namespace {
 
@@ -128,6 +130,20 @@ TEST_F(ReadingCacheInRuns, ALimitThatWouldBeExceededStillIs) {
 }
 
 /// A cart of two files; its wheel has so many spokes.
+TEST_F(ReadingCacheInRuns, ReadersAtTheSameTimeShareTheProcessors) {
+    fs::create_directory(folder.path() / "in");
+    folder.write("in/a.step", samples::cameraSlider());
+    folder.write("in/b.step", samples::cameraSlider());
+
+    EXPECT_EQ(run({"parts", path("in"), "--jobs", "2", "--no-cache"}).status, 0);
+
+    const std::string threads =
+        " " + std::to_string(std::max(std::thread::hardware_concurrency() / 2, 1U));
+    ASSERT_EQ(starts(), 2U);
+    EXPECT_TRUE(arguments()[0].ends_with(threads)) << arguments()[0];
+    EXPECT_TRUE(arguments()[1].ends_with(threads)) << arguments()[1];
+}
+
 class ReadingCacheOfSeveralFiles : public ReadingCacheInRuns {
 protected:
     void writeWheel(int spokes) const {
