@@ -6,8 +6,6 @@
 #include <array>
 #include <string>
 
-namespace {
-
 bool isKnown(const host::UncaughtException& thrown) {
     static const std::array<std::string, 7> kTexts = {"",
                                                       "invalid stoi argument",
@@ -19,8 +17,6 @@ bool isKnown(const host::UncaughtException& thrown) {
     const bool known = std::find(kTexts.begin(), kTexts.end(), thrown.text) != kTexts.end();
     return known && thrown.type.rfind("std::", 0) == 0;
 }
-
-}  // namespace
 
 void expectOnlyKnownThrown(const host::Session& session) {
     for (const host::UncaughtException& thrown : session.uncaughtExceptions()) {

@@ -2,8 +2,11 @@
 
 #include "host/session/session.h"
 
-/// Expects that the add-in threw nothing but what it throws where a host call returns nothing: the
-/// plain exception of a null handle, and the failures of numbers, lists and texts.
+/// Whether an exception is what the add-in throws where a host call returns nothing: the plain
+/// exception of a null handle, and the failures of numbers, lists and texts.
+bool isKnown(const host::UncaughtException& thrown);
+
+/// Expects that the add-in threw nothing but known exceptions.
 void expectOnlyKnownThrown(const host::Session& session);
 
 /// Expects that the add-in threw nothing but the plain exception of a null handle.

@@ -93,15 +93,4 @@ std::optional<Refusal> pickRefusal(const std::vector<CallsOfAction>& actions,
     return refusal;
 }
 
-bool isOrdinary(const host::UncaughtException& thrown) {
-    static const std::set<std::string> texts = {"",
-                                                "invalid stoi argument",
-                                                "stoi argument out of range",
-                                                "invalid stod argument",
-                                                "stod argument out of range",
-                                                "invalid vector subscript",
-                                                "invalid string position"};
-    return thrown.type.starts_with("std::") && texts.contains(thrown.text);
-}
-
 }  // namespace test_support

@@ -32,7 +32,4 @@ struct Refusal {
 /// Any call of any action; none where no action makes calls.
 std::optional<Refusal> pickRefusal(const std::vector<CallsOfAction>& actions, std::mt19937& random);
 
-/// Whether the add-in throws this where it finds nothing, or a string that is no number.
-bool isOrdinary(const host::UncaughtException& thrown);
-
 }  // namespace test_support
