@@ -6,7 +6,7 @@ if(CMAKE_CROSSCOMPILING)
     # Only the folders named here may be seen: the system's own headers are not for this compiler.
     set(third_party_include ${PROJECT_BINARY_DIR}/third_party)
     file(MAKE_DIRECTORY ${third_party_include})
-    foreach(folder nlohmann CLI toml++)
+    foreach(folder nlohmann rapidjson CLI toml++)
         file(CREATE_LINK /usr/include/${folder} ${third_party_include}/${folder} SYMBOLIC)
     endforeach()
     add_library(json_headers INTERFACE)

@@ -25,30 +25,35 @@ std::string placeOf(std::size_t component, std::size_t child) {
     return placeOf(component) + ".children[" + std::to_string(child) + "]";
 }
 
-void checkTransform(const Transform& transform, const std::string& place) {
+/// What is wrong with a placement, null for nothing.
+const char* faultOf(const Transform& transform) {
     const auto& cells = transform.cells;
     if (!std::all_of(cells.begin(), cells.end(), [](double cell) { return std::isfinite(cell); })) {
-        refuse(place + ".transform", "sixteen finite numbers are needed");
+        return "sixteen finite numbers are needed";
     }
-    if (cells[12] != 0 || cells[13] != 0 || cells[14] != 0 || cells[15] != 1) {
-        refuse(place + ".transform", "the last four numbers must be 0, 0, 0, 1");
-    }
+    const bool isAffine = cells[12] == 0 && cells[13] == 0 && cells[14] == 0 && cells[15] == 1;
+    return isAffine ? nullptr : "the last four numbers must be 0, 0, 0, 1";
 }
 
-void checkAttributes(const std::vector<AttributeData>& attributes, const std::string& place) {
+/// A place is made only where something is wrong: a large design has hundreds of thousands.
+template <class Place>
+void checkAttributes(const std::vector<AttributeData>& attributes, const Place& place) {
+    if (attributes.empty()) {
+        return;
+    }
     std::vector<std::pair<std::string_view, std::string_view>> names;
     names.reserve(attributes.size());
     for (const AttributeData& attribute : attributes) {
         if (attribute.group.empty() || attribute.name.empty()) {
-            refuse(place + ".attributes", "an attribute needs a group and a name");
+            refuse(place() + ".attributes", "an attribute needs a group and a name");
         }
         names.emplace_back(attribute.group, attribute.name);
     }
     std::sort(names.begin(), names.end());
     const auto twice = std::adjacent_find(names.begin(), names.end());
     if (twice != names.end()) {
-        refuse(place + ".attributes", "\"" + std::string(twice->second) + "\" of the group \"" +
-                                          std::string(twice->first) + "\" may appear only once");
+        refuse(place() + ".attributes", "\"" + std::string(twice->second) + "\" of the group \"" +
+                                            std::string(twice->first) + "\" may appear only once");
     }
 }
 
@@ -70,7 +75,9 @@ void checkChildren(const DesignData& data, std::size_t index) {
         if (child.instance < 1) {
             refuse(placeOf(index, at), "the instance must be 1 or more");
         }
-        checkTransform(child.transform, placeOf(index, at));
+        if (const char* const fault = faultOf(child.transform)) {
+            refuse(placeOf(index, at) + ".transform", fault);
+        }
     }
 }
 
@@ -84,7 +91,7 @@ void checkComponent(const DesignData& data, std::size_t index) {
         !(std::isfinite(component.material->density) && component.material->density >= 0)) {
         refuse(placeOf(index) + ".material", "the density must be a number of 0 or more");
     }
-    checkAttributes(component.attributes, placeOf(index));
+    checkAttributes(component.attributes, [&] { return placeOf(index); });
     checkChildren(data, index);
 }
 
@@ -129,7 +136,7 @@ void checkDesign(const DesignData& data) {
     if (data.components.empty()) {
         refuse("components", "a design needs at least its root component");
     }
-    checkAttributes(data.attributes, "the design");
+    checkAttributes(data.attributes, [] { return std::string("the design"); });
     for (std::size_t index = 0; index < data.components.size(); ++index) {
         checkComponent(data, index);
     }

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <fstream>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -21,23 +20,14 @@ namespace fs = std::filesystem;
 constexpr const char* kFormat = "standin-host-design";
 constexpr std::size_t kVersion = 1;
 
-// What a byte of text can become while it is parsed: "0," is a number of 16 bytes in a list that is
-// being moved to twice its size, "[]," a list beside it.
+// What a byte of text can become while it is parsed: "0," is a value of 16 bytes in a list that is
+// being moved to twice its size, and a child of two members its 160 bytes of a design.
 constexpr std::uintmax_t kBytesPerByte = 32;
 constexpr std::uintmax_t kMegabyte = std::uintmax_t{1} << 20;
-
-// Lists in lists are the one thing that takes more: a hundred bytes for each bracket.
-constexpr std::size_t kDeepestNesting = 100;
 
 [[noreturn]] void refuse(const fs::path& path, const std::string& reason,
                          std::optional<ReadingLimit> limit = {}) {
     throw DesignError(toUtf8(path) + ": " + reason, limit);
-}
-
-/// The prefix that a library puts before its message is of no use to the user.
-std::string withoutOrigin(const std::string& text) {
-    const std::size_t end = text.find("] ");
-    return text.starts_with('[') && end != std::string::npos ? text.substr(end + 2) : text;
 }
 
 std::string readAll(const fs::path& path, std::size_t megabytes) {
@@ -45,46 +35,25 @@ std::string readAll(const fs::path& path, std::size_t megabytes) {
     if (!fs::is_regular_file(path, error)) {
         refuse(path, fs::exists(path, error) ? "is no file" : "is not there");
     }
-    if (fs::file_size(path, error) > megabytes * kMegabyte / kBytesPerByte) {
+    const std::uintmax_t size = fs::file_size(path, error);
+    if (size > megabytes * kMegabyte / kBytesPerByte) {
         refuse(path,
                "may take more than " + std::to_string(megabytes) +
                    " megabytes of memory; open a smaller design, or increase the limit",
                ReadingLimit::Megabytes);
     }
+    std::string content(static_cast<std::size_t>(size), '\0');
     std::ifstream stream(path, std::ios::binary);
-    std::ostringstream content;
-    content << stream.rdbuf();
-    if (!stream || (content.str().empty() && content.fail())) {
+    stream.read(content.data(), static_cast<std::streamsize>(content.size()));
+    content.resize(static_cast<std::size_t>(stream.gcount()));
+    if (stream.bad() || content.empty()) {
         refuse(path, "cannot be read, or is empty");
     }
-    return std::move(content).str();
+    return content;
 }
 
-/// The deepest nesting of brackets; those in strings do not count.
-std::size_t nestingOf(const std::string& text) {
-    std::size_t open = 0;
-    std::size_t most = 0;
-    bool quoted = false;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char c = text[at];
-        if (c == '"') {
-            quoted = !quoted;
-        } else if (quoted) {
-            at += c == '\\' ? 1 : 0;
-        } else if (c == '[' || c == '{') {
-            most = std::max(most, ++open);
-        } else if ((c == ']' || c == '}') && open > 0) {
-            --open;
-        }
-    }
-    return most;
-}
-
-ReadDesign parse(const std::string& text, std::size_t occurrences) {
-    if (nestingOf(text) > kDeepestNesting) {
-        throw DesignError("is not a design file: brackets are nested too deep");
-    }
-    const nlohmann::json json = nlohmann::json::parse(text);
+ReadDesign parse(std::string text) {
+    const JsonDocument json(std::move(text));
     const JsonNode whole(json);
     if (whole.member("format").text() != kFormat) {
         whole.member("format").refuse("should be \"" + std::string(kFormat) + "\"");
@@ -93,14 +62,16 @@ ReadDesign parse(const std::string& text, std::size_t occurrences) {
         whole.member("version").refuse("should be " + std::to_string(kVersion) +
                                        ": the file was written by another version");
     }
-    ReadDesign design = fromJson(json);
-    checkDesign(design.data);
-    if (countOccurrences(design.data) > occurrences) {
+    return fromJson(json);
+}
+
+void check(const DesignData& design, std::size_t occurrences) {
+    checkDesign(design);
+    if (countOccurrences(design) > occurrences) {
         throw DesignError("would become more than " + std::to_string(occurrences) +
                               " occurrences; open a part of the assembly, or increase the limit",
                           ReadingLimit::Occurrences);
     }
-    return design;
 }
 
 /// Where the source is now: at its path, or beside the design file when both were moved.
@@ -161,12 +132,11 @@ void saveDesignFile(const fs::path& path, const DesignData& data) {
 
 DesignData loadDesignFile(const fs::path& path, const ReadSource& readSource,
                           const ReadingLimits& limits) {
-    const std::string text = readAll(path, limits.megabytes);
+    std::string text = readAll(path, limits.megabytes);
     ReadDesign design;
     try {
-        design = parse(text, limits.occurrences);
-    } catch (const nlohmann::json::exception& error) {
-        refuse(path, "is no design file: " + withoutOrigin(error.what()));
+        design = parse(std::move(text));
+        check(design.data, limits.occurrences);
     } catch (const DesignError& error) {
         refuse(path, error.what(), error.limit());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/design/design_data.h"
+#include "host/design/json_document.h"
 
 #include <nlohmann/json.hpp>
 
@@ -21,6 +22,6 @@ struct ReadDesign {
 
 /// Reads a design; what it holds is well-formed, but not yet checked as a design. Throws
 /// `DesignError` that names the place and what is expected there.
-ReadDesign fromJson(const nlohmann::json& json);
+ReadDesign fromJson(const JsonDocument& json);
 
 }  // namespace host

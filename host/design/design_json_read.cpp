@@ -108,6 +108,7 @@ ComponentData readComponent(const JsonNode& node) {
 }
 
 void readComponents(const JsonNode& node, ReadDesign& design) {
+    design.data.components.reserve(node.size());
     node.forEach([&](const JsonNode& each) {
         ComponentData component = readComponent(each);
         bool inSource = false;
@@ -125,7 +126,7 @@ void readComponents(const JsonNode& node, ReadDesign& design) {
 
 }  // namespace
 
-ReadDesign fromJson(const nlohmann::json& json) {
+ReadDesign fromJson(const JsonDocument& json) {
     const JsonNode whole(json);
     ReadDesign design;
     design.data.name = whole.member("name").text();

@@ -2,69 +2,68 @@
 
 #include "host/design/design_check.h"
 
+#include <string_view>
+
 namespace host {
 
-JsonNode JsonNode::member(const char* key) const {
-    if (!value_.is_object()) {
+using Kind = JsonDocument::Kind;
+
+std::size_t JsonNode::find(const char* key) const {
+    if (value().kind != Kind::Object) {
         refuse("should be an object");
     }
-    const auto found = value_.find(key);
-    if (found == value_.end()) {
+    const std::string_view wanted = key;
+    const std::size_t end = document_.after(place_);
+    std::size_t found = kNowhere;
+    for (std::size_t at = place_ + 1; at < end; at = document_.after(at + 1)) {
+        if (document_.textAt(at) == wanted) {
+            found = at + 1;
+        }
+    }
+    return found;
+}
+
+JsonNode JsonNode::member(const char* key) const {
+    const std::size_t found = find(key);
+    if (found == kNowhere) {
         refuse("\"" + std::string(key) + "\" is missing");
     }
-    return {*found, this, key, 0};
-}
-
-void JsonNode::ifMember(const char* key, const std::function<void(const JsonNode&)>& read) const {
-    if (!value_.is_object()) {
-        refuse("should be an object");
-    }
-    const auto found = value_.find(key);
-    if (found != value_.end() && !found->is_null()) {
-        read({*found, this, key, 0});
-    }
-}
-
-void JsonNode::forEach(const std::function<void(const JsonNode&)>& read) const {
-    const std::size_t count = size();
-    for (std::size_t index = 0; index < count; ++index) {
-        read({value_[index], this, nullptr, index});
-    }
+    return {*this, found, key, /*index=*/0};
 }
 
 std::size_t JsonNode::size() const {
-    if (!value_.is_array()) {
+    if (value().kind != Kind::List) {
         refuse("should be a list");
     }
-    return value_.size();
+    return value().size;
 }
 
 std::string JsonNode::text() const {
-    if (!value_.is_string()) {
+    if (value().kind != Kind::Text) {
         refuse("should be a text");
     }
-    return value_.get<std::string>();
+    return std::string(document_.textAt(place_));
 }
 
 double JsonNode::number() const {
-    if (!value_.is_number()) {
+    if (value().kind != Kind::Number && value().kind != Kind::Whole) {
         refuse("should be a number");
     }
-    return value_.get<double>();
+    return value().number();
 }
 
 bool JsonNode::flag() const {
-    if (!value_.is_boolean()) {
+    if (value().kind != Kind::Flag) {
         refuse("should be true or false");
     }
-    return value_.get<bool>();
+    return value().content != 0;
 }
 
 std::size_t JsonNode::whole(std::size_t highest) const {
-    if (!value_.is_number_unsigned() || value_.get<std::size_t>() > highest) {
+    if (value().kind != Kind::Whole || value().content > highest) {
         refuse("should be a whole number from 0 to " + std::to_string(highest));
     }
-    return value_.get<std::size_t>();
+    return static_cast<std::size_t>(value().content);
 }
 
 std::string JsonNode::textOr(const char* key, const std::string& otherwise) const {
@@ -80,15 +79,15 @@ bool JsonNode::flagOr(const char* key, bool otherwise) const {
 }
 
 void JsonNode::refuse(const std::string& reason) const {
-    const std::string where = place();
+    const std::string where = way();
     throw DesignError((where.empty() ? "the whole" : where) + ": " + reason);
 }
 
-std::string JsonNode::place() const {
+std::string JsonNode::way() const {
     if (parent_ == nullptr) {
         return {};
     }
-    const std::string above = parent_->place();
+    const std::string above = parent_->way();
     if (key_ == nullptr) {
         return above + "[" + std::to_string(index_) + "]";
     }

@@ -1,27 +1,42 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "host/design/json_document.h"
 
 #include <cstddef>
-#include <functional>
 #include <string>
 
 namespace host {
 
-/// A place in a JSON text, which knows the way to it: what is asked of it and is not there is
+/// A place in a JSON document, which knows the way to it: what is asked of it and is not there is
 /// refused with a `DesignError` that names the place and what is expected there.
+///
+/// It refers to the document and to the node that it was reached from.
 class JsonNode {
 public:
-    explicit JsonNode(const nlohmann::json& value) : value_(value) {}
+    explicit JsonNode(const JsonDocument& document) : document_(document) {}
 
-    /// A member that has to be there; this has to be an object.
+    /// A member that has to be there; this has to be an object. Of two of one name the last counts.
     [[nodiscard]] JsonNode member(const char* key) const;
 
     /// Calls `read` with a member if it is there and not null.
-    void ifMember(const char* key, const std::function<void(const JsonNode&)>& read) const;
+    template <class Read>
+    void ifMember(const char* key, const Read& read) const {
+        const std::size_t found = find(key);
+        if (found != kNowhere && document_.at(found).kind != JsonDocument::Kind::Null) {
+            read(JsonNode(*this, found, key, /*index=*/0));
+        }
+    }
 
     /// Calls `read` with each element in turn; this has to be an array.
-    void forEach(const std::function<void(const JsonNode&)>& read) const;
+    template <class Read>
+    void forEach(const Read& read) const {
+        const std::size_t count = size();
+        std::size_t next = place_ + 1;
+        for (std::size_t index = 0; index < count; ++index) {
+            read(JsonNode(*this, next, /*key=*/nullptr, index));
+            next = document_.after(next);
+        }
+    }
 
     [[nodiscard]] std::size_t size() const;
     [[nodiscard]] std::string text() const;
@@ -38,13 +53,17 @@ public:
     [[noreturn]] void refuse(const std::string& reason) const;
 
 private:
-    JsonNode(const nlohmann::json& value, const JsonNode* parent, const char* key,
-             std::size_t index)
-        : value_(value), parent_(parent), key_(key), index_(index) {}
+    static constexpr std::size_t kNowhere = 0;  ///< the whole is no member
 
-    [[nodiscard]] std::string place() const;
+    JsonNode(const JsonNode& parent, std::size_t place, const char* key, std::size_t index)
+        : document_(parent.document_), place_(place), parent_(&parent), key_(key), index_(index) {}
 
-    const nlohmann::json& value_;
+    [[nodiscard]] const JsonDocument::Value& value() const { return document_.at(place_); }
+    [[nodiscard]] std::size_t find(const char* key) const;
+    [[nodiscard]] std::string way() const;
+
+    const JsonDocument& document_;
+    std::size_t place_ = 0;
     const JsonNode* parent_ = nullptr;
     const char* key_ = nullptr;
     std::size_t index_ = 0;

@@ -16,7 +16,7 @@ set(rules
     "tarnix|(host|workbench|tests|bench)/.*||the add-in knows the published API alone"
     "tarnix|${system_headers}|tarnix/platform|the system is asked in platform/ alone"
     "tarnix|StandIn/.*|tarnix/platform/hosted|only what a session answers asks the loading process"
-    "tarnix|nlohmann/.*||the add-in has no third-party library"
+    "tarnix|(nlohmann|rapidjson)/.*||the add-in has no third-party library"
     "tarnix/text|tarnix/(addin|bom|properties|settings|helpdesk|commands|platform)/.*||text/ depends on nothing"
     "tarnix/platform|tarnix/(addin|bom|properties|settings|helpdesk|commands|text)/.*||platform/ depends on nothing"
     "tarnix/settings|tarnix/(bom|properties|helpdesk|commands)/.*||settings/ serves the others"

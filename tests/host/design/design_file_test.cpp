@@ -227,6 +227,47 @@ TEST_F(DesignFile, InvalidJsonIsRefused) {
     EXPECT_TRUE(complaint("{\"a\": \"\xff\"}").starts_with("is no design file: parse error"));
 }
 
+TEST_F(DesignFile, InvalidJsonAfterAWholeDesignIsRefused) {
+    const std::string design = with(R"([{"name":"D","partNumber":""}])");
+
+    EXPECT_EQ(complaint(design + " \n"), "none");
+    EXPECT_TRUE(complaint(design + "x").starts_with("is no design file: parse error at line 1"));
+    EXPECT_EQ(complaint(design + std::string(1, '\0') + "x"),
+              "is no design file: parse error at byte " + std::to_string(design.size()));
+}
+
+TEST_F(DesignFile, EscapedHalfOfAPairIsRefused) {
+    EXPECT_TRUE(complaint(R"({"a": "\udc00"})").starts_with("is no design file: parse error"));
+    EXPECT_TRUE(complaint(R"({"a": "\ud800"})").starts_with("is no design file: parse error"));
+}
+
+TEST_F(DesignFile, TextsAreReadWithEscapesAndLettersOfSeveralBytes) {
+    folder.write(kFile, "\xEF\xBB\xBF" + with(R"([{"name":"D","partNumber":"",
+        "description":"\ud83d\udd29 \u00e9\n\" šroub"}])"));
+
+    EXPECT_EQ(loadDesignFile(path).components[0].description,
+              "\xF0\x9F\x94\xA9 \xC3\xA9\n\" \xC5\xA1roub");
+}
+
+TEST_F(DesignFile, OfTwoMembersOfOneNameTheLastCounts) {
+    folder.write(kFile, with(R"([{"name":"D","partNumber":"first","partNumber":"last"}])"));
+
+    EXPECT_EQ(loadDesignFile(path).components[0].partNumber, "last");
+}
+
+TEST_F(DesignFile, WholeNumbersHaveNoSignFractionOrExponent) {
+    const std::string reason =
+        "components[0].children[0].component: should be a whole number from 0 to 2147483647";
+    const auto withComponent = [&](const std::string& number) {
+        return with(R"([{"name":"D","partNumber":"D","children":[{"component":)" + number + "}]}]");
+    };
+    EXPECT_EQ(complaint(withComponent("-0")), reason);
+    EXPECT_EQ(complaint(withComponent("1.0")), reason);
+    EXPECT_EQ(complaint(withComponent("1e0")), reason);
+    EXPECT_EQ(complaint(withComponent("2147483648")), reason);
+    EXPECT_EQ(complaint(withComponent("18446744073709551616")), reason);
+}
+
 TEST_F(DesignFile, EndlesslyNestedBracketsAreRefused) {
     const std::string reason = "is not a design file: brackets are nested too deep";
 
