@@ -83,6 +83,9 @@ protected:
     Object() = default;
     ~Object() override = default;
 
+    /// How many handles there are.
+    [[nodiscard]] unsigned references() const { return references_; }
+
     /// Reads a value as the operation `Name`: an empty one when the call is refused or the object
     /// was deleted. A class template has to write `this->template get<...>(...)`.
     template <CallName Name, class T>

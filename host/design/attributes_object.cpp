@@ -24,7 +24,20 @@ bool fits(const std::string& value) {
 }  // namespace
 
 AttributeObject::AttributeObject(AttributesObject& owner, AttributeData data)
-    : owner_(&owner), data_(std::move(data)) {}
+    : owner_(&owner),
+      group_(owner.share(data.group)),
+      name_(owner.share(data.name)),
+      value_(std::move(data.value)) {}
+
+std::string AttributeObject::groupName() const {
+    if (closed<"groupName">(*this)) return {};
+    return *group_;
+}
+
+std::string AttributeObject::name() const {
+    if (closed<"name">(*this)) return {};
+    return *name_;
+}
 
 bool AttributeObject::value(const std::string& value) {
     if (closed<"value">(*this)) return {};
@@ -35,7 +48,7 @@ bool AttributeObject::setValue(const std::string& value) {
     if (!fits(value)) {
         return false;
     }
-    data_.value = value;
+    value_ = value;
     owner_->countEdit();
     return true;
 }
@@ -56,9 +69,9 @@ void AttributeObject::dispose() {
     invalidate();
 }
 
-AttributesObject::AttributesObject(core::Base& parent, Edits& edits,
+AttributesObject::AttributesObject(core::Base& parent, Edits& edits, StringPool& pool,
                                    std::vector<AttributeData> data)
-    : parent_(&parent), edits_(&edits) {
+    : parent_(&parent), edits_(&edits), pool_(&pool) {
     items_.reserve(data.size());
     for (AttributeData& each : data) {
         items_.push_back(make<AttributeObject>(*this, std::move(each)));
@@ -88,7 +101,7 @@ std::vector<core::Ptr<core::Attribute>> AttributesObject::itemsByGroup(
     std::vector<core::Ptr<core::Attribute>> found;
     found.reserve(items_.size());
     for (const core::Ptr<AttributeObject>& each : items_) {
-        if (each->state().group == groupName) {
+        if (each->ownGroup() == groupName) {
             found.emplace_back(each);
         }
     }
@@ -100,8 +113,8 @@ std::vector<std::string> AttributesObject::groupNames() const {
     std::vector<std::string> names;
     std::unordered_set<std::string_view> seen;
     for (const core::Ptr<AttributeObject>& each : items_) {
-        if (seen.insert(each->state().group).second) {
-            names.push_back(each->state().group);
+        if (seen.insert(each->ownGroup()).second) {
+            names.push_back(each->ownGroup());
         }
     }
     return names;
@@ -132,14 +145,16 @@ std::vector<AttributeData> AttributesObject::snapshot() const {
     std::vector<AttributeData> all;
     all.reserve(items_.size());
     for (const core::Ptr<AttributeObject>& each : items_) {
-        all.push_back(each->state());
+        all.push_back(each->snapshot());
     }
     return all;
 }
 
 void AttributesObject::take(AttributeObject& attribute) {
     const core::Ptr<AttributeObject> kept(&attribute);
-    byName_.erase(keyOf(attribute.state().group, attribute.state().name));
+    if (byName_) {
+        byName_->erase(keyOf(attribute.ownGroup(), attribute.ownName()));
+    }
     std::erase(items_, kept);
     attribute.dispose();
     countEdit();
@@ -150,17 +165,17 @@ void AttributesObject::dispose() {
         each->dispose();
     }
     items_.clear();
-    byName_.clear();
+    byName_.reset();
     invalidate();
 }
 
 AttributeObject* AttributesObject::find(const std::string& group, const std::string& name) const {
-    if (!byName_.empty()) {
-        const auto found = byName_.find(keyOf(group, name));
-        return found == byName_.end() ? nullptr : found->second;
+    if (byName_) {
+        const auto found = byName_->find(keyOf(group, name));
+        return found == byName_->end() ? nullptr : found->second;
     }
     for (const core::Ptr<AttributeObject>& each : items_) {
-        if (each->state().group == group && each->state().name == name) {
+        if (each->ownGroup() == group && each->ownName() == name) {
             return each.get();
         }
     }
@@ -168,15 +183,16 @@ AttributeObject* AttributesObject::find(const std::string& group, const std::str
 }
 
 void AttributesObject::index(AttributeObject& attribute) {
-    if (byName_.empty() && items_.size() <= kLookedThrough) {
+    if (!byName_ && items_.size() <= kLookedThrough) {
         return;
     }
-    if (byName_.empty()) {
+    if (!byName_) {
+        byName_ = std::make_unique<std::unordered_map<std::string, AttributeObject*>>();
         for (const core::Ptr<AttributeObject>& each : items_) {
-            byName_[keyOf(each->state().group, each->state().name)] = each.get();
+            (*byName_)[keyOf(each->ownGroup(), each->ownName())] = each.get();
         }
     }
-    byName_[keyOf(attribute.state().group, attribute.state().name)] = &attribute;
+    (*byName_)[keyOf(attribute.ownGroup(), attribute.ownName())] = &attribute;
 }
 
 }  // namespace host

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "host/base/object.h"
+#include "host/base/string_pool.h"
 #include "host/design/design_data.h"
 #include "host/design/edits.h"
 
 #include <Core/Attributes.h>
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -20,14 +22,21 @@ class AttributeObject final : public Object<core::Attribute> {
 public:
     AttributeObject(AttributesObject& owner, AttributeData data);
 
-    [[nodiscard]] std::string groupName() const override { return get<"groupName">(data_.group); }
-    [[nodiscard]] std::string name() const override { return get<"name">(data_.name); }
-    [[nodiscard]] std::string value() const override { return get<"value">(data_.value); }
+    [[nodiscard]] std::string groupName() const override;
+    [[nodiscard]] std::string name() const override;
+    [[nodiscard]] std::string value() const override { return get<"value">(value_); }
     bool value(const std::string& value) override;
     [[nodiscard]] core::Ptr<core::Base> parent() const override;
     bool deleteMe() override;
 
-    [[nodiscard]] const AttributeData& state() const { return data_; }
+    /// @name For the host itself, as long as it is valid
+    /// @{
+    [[nodiscard]] const std::string& ownGroup() const { return *group_; }
+    [[nodiscard]] const std::string& ownName() const { return *name_; }
+    [[nodiscard]] AttributeData snapshot() const {
+        return {.group = *group_, .name = *name_, .value = value_};
+    }
+    /// @}
 
     /// Sets the value as the API does; false for one that is too long.
     bool setValue(const std::string& value);
@@ -37,15 +46,18 @@ public:
 
 private:
     AttributesObject* owner_;
-    AttributeData data_;
+    const std::string* group_;  ///< of the document's pool: most attributes are called alike
+    const std::string* name_;   ///< of the same
+    std::string value_;
 };
 
 /// The attributes of a component or of a design.
 class AttributesObject final : public Object<core::Attributes> {
 public:
-    /// `parent` is what they belong to, and `edits` counts the changes; both outlive the
-    /// collection, or dispose of it.
-    AttributesObject(core::Base& parent, Edits& edits, std::vector<AttributeData> data);
+    /// `parent` is what they belong to, `edits` counts the changes, and `pool` has the names; all
+    /// outlive the collection, or dispose of it.
+    AttributesObject(core::Base& parent, Edits& edits, StringPool& pool,
+                     std::vector<AttributeData> data);
 
     [[nodiscard]] std::size_t count() const override;
     [[nodiscard]] core::Ptr<core::Attribute> item(std::size_t index) const override;
@@ -60,6 +72,7 @@ public:
     [[nodiscard]] std::vector<AttributeData> snapshot() const;
     [[nodiscard]] core::Base* parentObject() const { return parent_; }
     void countEdit() { ++edits_->all; }
+    const std::string* share(const std::string& text) { return pool_->share(text); }
     void take(AttributeObject& attribute);
 
     /// Disposes of the collection and all attributes.
@@ -71,9 +84,10 @@ private:
 
     core::Base* parent_;
     Edits* edits_;
+    StringPool* pool_;
     std::vector<core::Ptr<AttributeObject>> items_;
-    /// Found by group and name; filled once there are too many to be looked through.
-    std::unordered_map<std::string, AttributeObject*> byName_;
+    /// Found by group and name; made once there are too many to be looked through.
+    std::unique_ptr<std::unordered_map<std::string, AttributeObject*>> byName_;
 };
 
 }  // namespace host

@@ -59,7 +59,7 @@ bool ComponentObject::description(const std::string& value) {
 core::Ptr<core::Attributes> ComponentObject::attributes() const {
     if (closed<"attributes">(*this)) return {};
     if (!attributes_) {
-        attributes_ = make<AttributesObject>(self(), model_->edits,
+        attributes_ = make<AttributesObject>(self(), model_->edits, model_->texts,
                                              std::exchange(self().data_.attributes, {}));
     }
     return attributes_;

@@ -17,11 +17,11 @@ namespace host {
 template <class Interface>
 class ProductBase : public Object<Interface> {
 public:
-    ProductBase(core::Document& document, std::string type, Edits& edits,
+    ProductBase(core::Document& document, std::string type, Edits& edits, StringPool& texts,
                 std::vector<AttributeData> attributes)
         : document_(&document),
           type_(std::move(type)),
-          attributes_(make<AttributesObject>(*this, edits, std::move(attributes))) {}
+          attributes_(make<AttributesObject>(*this, edits, texts, std::move(attributes))) {}
 
     [[nodiscard]] core::Ptr<core::Document> parentDocument() const override {
         return this->template get<"Product::parentDocument">(document_);
@@ -54,9 +54,10 @@ private:
 /// A document's design.
 class DesignObject final : public ProductBase<fusion::Design> {
 public:
-    DesignObject(core::Document& document, ComponentObject& root, Edits& edits,
+    DesignObject(core::Document& document, ComponentObject& root, Edits& edits, StringPool& texts,
                  std::vector<AttributeData> attributes)
-        : ProductBase(document, "DesignProductType", edits, std::move(attributes)), root_(&root) {}
+        : ProductBase(document, "DesignProductType", edits, texts, std::move(attributes)),
+          root_(&root) {}
 
     [[nodiscard]] core::Ptr<fusion::Component> rootComponent() const override {
         return get<"rootComponent">(root_);
@@ -69,8 +70,8 @@ private:
 /// What another workspace shows of a document: a product that is no design.
 class ProductObject final : public ProductBase<core::Product> {
 public:
-    ProductObject(core::Document& document, Edits& edits)
-        : ProductBase(document, "CAMProductType", edits, {}) {}
+    ProductObject(core::Document& document, Edits& edits, StringPool& texts)
+        : ProductBase(document, "CAMProductType", edits, texts, {}) {}
 };
 
 }  // namespace host

@@ -68,16 +68,18 @@ FusionDocumentObject::FusionDocumentObject(DesignData data,
     std::vector<AttributeData> attributes = std::move(data.attributes);
     data.attributes.clear();
     model_ = std::make_unique<Model>(std::move(data));
-    design_ = make<DesignObject>(*this, model_->component(0), model_->edits, std::move(attributes));
-    other_ = make<ProductObject>(*this, model_->edits);
+    design_ = make<DesignObject>(*this, model_->component(0), model_->edits, model_->texts,
+                                 std::move(attributes));
+    other_ = make<ProductObject>(*this, model_->edits, model_->texts);
     openReferences();
 }
 
 FusionDocumentObject::FusionDocumentObject(const FusionDocumentObject& opened,
                                            ComponentObject& root)
     : name_(root.state().document), parent_(opened.parent_) {
-    design_ = make<DesignObject>(*this, root, opened.model_->edits, std::vector<AttributeData>());
-    other_ = make<ProductObject>(*this, opened.model_->edits);
+    design_ = make<DesignObject>(*this, root, opened.model_->edits, opened.model_->texts,
+                                 std::vector<AttributeData>());
+    other_ = make<ProductObject>(*this, opened.model_->edits, opened.model_->texts);
 }
 
 FusionDocumentObject::~FusionDocumentObject() { dispose(); }

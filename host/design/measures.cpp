@@ -57,13 +57,13 @@ std::optional<Box> measuredBox(ComponentObject& component, const Transform& plac
                                      [&](Geometry& geometry) { return geometry.box(placement); });
 }
 
-std::optional<Box> ownBox(ComponentObject& component) {
+MeasureCache::Boxes& boxesOf(ComponentObject& component) {
     MeasureCache& cache = component.measureCache();
-    if (!cache.ownBoxKnown) {
-        cache.ownBox = measuredBox(component, {});
-        cache.ownBoxKnown = true;
+    if (!cache.boxes) {
+        cache.boxes = std::make_unique<MeasureCache::Boxes>();
+        cache.boxes->own = measuredBox(component, {});
     }
-    return cache.ownBox;
+    return *cache.boxes;
 }
 
 /// The box around a placed component.
@@ -105,20 +105,19 @@ Measures measure(ComponentObject& component) {
 }
 
 std::optional<Box> boxOf(ComponentObject& component) {
-    MeasureCache& cache = component.measureCache();
+    MeasureCache::Boxes& boxes = boxesOf(component);
     const std::uint64_t edits = component.model().edits.placements;
-    if (!cache.boxKnown || cache.boxEdits != edits) {
-        std::optional<Box> sum = ownBox(component);
+    if (boxes.allEdits != edits) {
+        std::optional<Box> sum = boxes.own;
         for (const OccurrenceData& child : component.state().children) {
             if (!child.absent) {
                 include(sum, placedBox(component.childComponent(child), child.transform));
             }
         }
-        cache.box = sum;
-        cache.boxKnown = true;
-        cache.boxEdits = edits;
+        boxes.all = sum;
+        boxes.allEdits = edits;
     }
-    return cache.box;
+    return boxes.all;
 }
 
 }  // namespace host

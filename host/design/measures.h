@@ -3,6 +3,7 @@
 #include "host/design/design_data.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 namespace host {
@@ -25,11 +26,14 @@ struct MeasureCache {
     std::optional<Measures> total;
     std::uint64_t totalEdits = 0;  ///< the count of `Edits::materials` that `total` fits
 
-    bool ownBoxKnown = false;
-    std::optional<Box> ownBox;  ///< its own bodies as they are modelled
-    bool boxKnown = false;
-    std::optional<Box> box;
-    std::uint64_t boxEdits = 0;  ///< the count of `Edits::placements` that `box` fits
+    /// What few designs are asked for.
+    struct Boxes {
+        std::optional<Box> own;  ///< its own bodies as they are modelled
+        std::optional<std::uint64_t>
+            allEdits;  ///< the count of `Edits::placements` that `all` fits
+        std::optional<Box> all;
+    };
+    std::unique_ptr<Boxes> boxes;
 
     bool failed = false;  ///< its own bodies could not be measured
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/base/api_names.h"
+#include "host/base/string_pool.h"
 #include "host/design/design_data.h"
 #include "host/design/edits.h"
 #include "host/design/material_object.h"
@@ -42,6 +43,7 @@ public:
     [[nodiscard]] DesignData snapshot() const;
 
     Edits edits;
+    StringPool texts;  ///< what attributes are called
     ComponentNames names;
     Materials materials{edits};
     std::vector<Unmeasured> unmeasured;  ///< each component once, in the order they came up

@@ -60,7 +60,7 @@ std::vector<std::string> prefixes(const std::string& text) {
 
 bool isReadOnly(const InputState& input) {
     if (input.kind == InputKind::String) {
-        return static_cast<const ui::StringValueCommandInputObject&>(input).state().readOnly;
+        return static_cast<const ui::StringValueCommandInputObject&>(input).refusesUser();
     }
     return static_cast<const ui::TextBoxCommandInputObject&>(input).state().readOnly;
 }
@@ -108,7 +108,7 @@ std::string itemNames(const ui::ListState& list) {
 
 void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
     selectRowOf(list);
-    const bool unselects = list.isMultiSelect() && list.entries()[index].selected;
+    const bool unselects = list.isMultiSelect() && list.isSelected(index);
     if (list.select(index, !unselects)) {
         acting.runner().changed(list);
     }

@@ -80,6 +80,7 @@ void CommandObject::focus(InputState* selection) {
 }
 
 void CommandObject::forget(const InputState& input) {
+    extras_.erase(&input);
     if (activeTab_ == &input) {
         activeTab_ = nullptr;
     }

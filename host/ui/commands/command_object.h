@@ -1,14 +1,15 @@
 #pragma once
 
+#include "host/base/string_pool.h"
 #include "host/ui/commands/command_definition_object.h"
 #include "host/ui/commands/command_events.h"
 #include "host/ui/commands/dialog_size.h"
 #include "host/ui/inputs/command_inputs_object.h"
-#include "host/ui/inputs/string_pool.h"
 #include "host/ui/inputs/tab_bar.h"
 
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 
 namespace host::ui {
 
@@ -127,8 +128,15 @@ public:
     [[nodiscard]] InputState* focus() const;
     void focus(InputState* selection);
 
-    /// An input is being disposed of: it is no longer the active tab or the focused selection.
+    /// An input is being disposed of: it is no longer the active tab or the focused selection, and
+    /// has no extras.
     void forget(const InputState& input);
+
+    /// What an input has that few have; those of one that has any are made with the first change.
+    [[nodiscard]] const InputState::Extras& extrasOf(const InputState& input) const {
+        return extras_.at(&input);
+    }
+    InputState::Extras& changeExtrasOf(const InputState& input) { return extras_[&input]; }
 
     /// Reports that code changed the value of an input, or selected an item of its list.
     void changedByCode(InputState& input, CodeChange what);
@@ -164,6 +172,7 @@ private:
     InputState* activeTab_ = nullptr;
     InputState* focus_ = nullptr;
     bool focusChosen_ = false;
+    std::unordered_map<const InputState*, InputState::Extras> extras_;
     CommandState state_;
 };
 

@@ -15,12 +15,17 @@ public:
     [[nodiscard]] core::CommandInput* api() override { return this; }
 
     void dispose() override {
+        // The collection that lets go of it has one handle.
+        if (this->references() > 1) {
+            this->keepId();
+        }
         State::dispose();
         this->invalidate();
     }
 
     [[nodiscard]] std::string id() const override {
-        return this->template get<"CommandInput::id">(State::id());
+        if (closed<"CommandInput::id">(*this)) return {};
+        return State::id();
     }
 
     [[nodiscard]] std::string name() const override {
@@ -59,7 +64,9 @@ public:
     }
 
     bool tooltip(const std::string& value) override {
-        return this->template set<"CommandInput::tooltip">(this->changeExtras().tooltip, value);
+        if (closed<"CommandInput::tooltip">(*this)) return {};
+        this->changeExtras().tooltip = value;
+        return true;
     }
 
     [[nodiscard]] std::string tooltipDescription() const override {
@@ -68,8 +75,9 @@ public:
     }
 
     bool tooltipDescription(const std::string& value) override {
-        return this->template set<"CommandInput::tooltipDescription">(
-            this->changeExtras().tooltipDescription, value);
+        if (closed<"CommandInput::tooltipDescription">(*this)) return {};
+        this->changeExtras().tooltipDescription = value;
+        return true;
     }
 
     [[nodiscard]] std::string toolClipFilename() const override {
@@ -78,8 +86,9 @@ public:
     }
 
     bool toolClipFilename(const std::string& value) override {
-        return this->template set<"CommandInput::toolClipFilename">(
-            this->changeExtras().toolClipFilename, value);
+        if (closed<"CommandInput::toolClipFilename">(*this)) return {};
+        this->changeExtras().toolClipFilename = value;
+        return true;
     }
 
     [[nodiscard]] core::Ptr<core::CommandInputs> commandInputs() const override {
@@ -106,8 +115,8 @@ public:
 
 protected:
     /// Sets a value as the operation `Name`, and reports that code changed it.
-    template <CallName Name, class T>
-    bool change(T& member, const T& value) {
+    template <CallName Name, class T, class Value>
+    bool change(T& member, const Value& value) {
         if (closed<Name>(*this)) return false;
         if (member != value) {
             member = value;

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace host::ui {
 namespace {
@@ -139,6 +140,12 @@ core::Ptr<core::SelectionCommandInput> CommandInputsObject::addSelectionInput(
 }
 
 InputState* CommandInputsObject::find(const std::string& id) const {
+    if (command_ == nullptr) return nullptr;
+    const std::optional<InputId> known = InputId::find(id, command_->strings());
+    return known ? find(*known) : nullptr;
+}
+
+InputState* CommandInputsObject::find(const InputId& id) const {
     if (InputState* own = index_.find(id)) return own;
     for (const InputState* each : landmarks_) {
         const CommandInputsObject* inside = each->inside();

@@ -79,6 +79,8 @@ public:
     /// @}
 
 private:
+    [[nodiscard]] InputState* find(const InputId& id) const;
+
     template <class T, class... Arguments>
     core::Ptr<T> append(const std::string& id, const std::string& name,
                         const Arguments&... arguments);

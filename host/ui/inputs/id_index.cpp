@@ -2,48 +2,52 @@
 
 #include "host/ui/inputs/input_state.h"
 
-#include <cstdint>
-#include <functional>
+#include <utility>
 
 namespace host::ui {
 namespace {
 
 constexpr std::size_t kFirstSize = 16;
 
+/// At most three quarters of the places are used.
+bool isFull(std::size_t used, std::size_t places) { return 4 * used > 3 * places; }
+
 }  // namespace
 
-std::size_t IdIndex::placeOf(const std::string& id, std::uint32_t hash) const {
-    const std::size_t mask = places_.size() - 1;
-    std::size_t place = hash & mask;
-    while (places_[place].first != nullptr &&
-           (places_[place].hash != hash || places_[place].first->id() != id)) {
-        place = (place + 1) & mask;
+std::size_t IdIndex::placeOf(const InputId& id) const {
+    const std::uint32_t hash = id.hash();
+    std::size_t place = hash & mask();
+    while (firsts_[place] != nullptr &&
+           (hashes_[place] != hash || firsts_[place]->compactId() != id)) {
+        place = (place + 1) & mask();
     }
     return place;
 }
 
 void IdIndex::grow() {
-    const std::vector<Place> old = std::exchange(
-        places_, std::vector<Place>(places_.empty() ? kFirstSize : 2 * places_.size()));
-    const std::size_t mask = places_.size() - 1;
-    for (const Place& each : old) {
-        if (each.first == nullptr) continue;
-        std::size_t place = each.hash & mask;
-        while (places_[place].first != nullptr) {
-            place = (place + 1) & mask;
+    const std::size_t size = firsts_.empty() ? kFirstSize : 2 * firsts_.size();
+    const auto firsts = std::exchange(firsts_, std::vector<InputState*>(size));
+    const auto hashes = std::exchange(hashes_, std::vector<std::uint32_t>(size));
+    for (std::size_t old = 0; old < firsts.size(); ++old) {
+        if (firsts[old] == nullptr) continue;
+        std::size_t place = hashes[old] & mask();
+        while (firsts_[place] != nullptr) {
+            place = (place + 1) & mask();
         }
-        places_[place] = each;
+        firsts_[place] = firsts[old];
+        hashes_[place] = hashes[old];
     }
 }
 
 void IdIndex::add(InputState& input) {
-    if (2 * (used_ + 1) > places_.size()) {
+    if (isFull(used_ + 1, firsts_.size())) {
         grow();
     }
-    Place& place = places_[placeOf(input.id(), input.hash)];
-    InputState* first = place.first;
+    const std::size_t place = placeOf(input.compactId());
+    InputState* first = firsts_[place];
     if (first == nullptr) {
-        place = {&input, input.hash};
+        firsts_[place] = &input;
+        hashes_[place] = input.compactId().hash();
         input.previousSameId = &input;
         ++used_;
         return;
@@ -55,15 +59,15 @@ void IdIndex::add(InputState& input) {
 }
 
 void IdIndex::remove(InputState& input) {
-    const std::size_t place = placeOf(input.id(), input.hash);
-    InputState* first = places_[place].first;
+    const std::size_t place = placeOf(input.compactId());
+    InputState* first = firsts_[place];
     InputState* next = input.nextSameId;
     if (first == &input) {
         if (next == nullptr) {
             vacate(place);
         } else {
             next->previousSameId = input.previousSameId;
-            places_[place].first = next;
+            firsts_[place] = next;
         }
     } else {
         input.previousSameId->nextSameId = next;
@@ -76,26 +80,26 @@ void IdIndex::remove(InputState& input) {
 // Moves up the entries after a place that becomes free, as far as they were kept from their own
 // one.
 void IdIndex::vacate(std::size_t place) {
-    const std::size_t mask = places_.size() - 1;
     --used_;
-    for (std::size_t next = (place + 1) & mask; places_[next].first != nullptr;
-         next = (next + 1) & mask) {
-        const std::size_t wanted = places_[next].hash & mask;
-        if (((next - wanted) & mask) >= ((next - place) & mask)) {
-            places_[place] = places_[next];
+    for (std::size_t next = (place + 1) & mask(); firsts_[next] != nullptr;
+         next = (next + 1) & mask()) {
+        const std::size_t wanted = hashes_[next] & mask();
+        if (((next - wanted) & mask()) >= ((next - place) & mask())) {
+            firsts_[place] = firsts_[next];
+            hashes_[place] = hashes_[next];
             place = next;
         }
     }
-    places_[place] = {};
+    firsts_[place] = nullptr;
 }
 
-InputState* IdIndex::find(const std::string& id) const {
-    if (places_.empty()) return nullptr;
-    return places_[placeOf(id, static_cast<std::uint32_t>(std::hash<std::string>()(id)))].first;
+InputState* IdIndex::find(const InputId& id) const {
+    return firsts_.empty() ? nullptr : firsts_[placeOf(id)];
 }
 
 void IdIndex::clear() {
-    places_.clear();
+    firsts_.clear();
+    hashes_.clear();
     used_ = 0;
 }
 

@@ -5,20 +5,32 @@
 #include "host/ui/inputs/table_command_input_object.h"
 #include "host/ui/inputs/table_lines.h"
 
-#include <functional>
+#include <memory>
+#include <utility>
 
 namespace host::ui {
 
 InputState::InputState(const InputOrigin& origin, InputKind inputKind)
-    : hash(static_cast<std::uint32_t>(std::hash<std::string>()(*origin.id))),
-      serial(origin.owner->owningCommand()->nextSerial()),
+    : serial(origin.owner->owningCommand()->nextSerial()),
       kind(inputKind),
-      id_(*origin.id),
       name_(origin.name),
-      owner_(origin.owner) {}
+      owner_(origin.owner),
+      id_(*origin.id, origin.owner->owningCommand()->strings()) {}
 
 InputState* InputState::of(const core::Ptr<core::CommandInput>& input) {
     return dynamic_cast<InputState*>(input.get());
+}
+
+InputState::~InputState() {
+    if (keepsId_) {
+        const std::unique_ptr<const std::string> kept(id_.stem());
+    }
+}
+
+void InputState::keepId() {
+    if (!std::exchange(keepsId_, true)) {
+        id_ = InputId::of(*std::make_unique<std::string>(id_.text()).release());
+    }
 }
 
 void InputState::dispose() {
@@ -48,14 +60,13 @@ void InputState::changedByCode(CodeChange what) {
 
 const InputState::Extras& InputState::extras() const {
     static const Extras kNone;
-    return extras_ ? *extras_ : kNone;
+    const CommandObject* const owning = hasExtras_ ? command() : nullptr;
+    return owning != nullptr ? owning->extrasOf(*this) : kNone;
 }
 
 InputState::Extras& InputState::changeExtras() {
-    if (!extras_) {
-        extras_ = std::make_unique<Extras>();
-    }
-    return *extras_;
+    hasExtras_ = true;
+    return command()->changeExtrasOf(*this);
 }
 
 const std::string* InputState::shared(const std::string& text) const {

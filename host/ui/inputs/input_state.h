@@ -2,18 +2,20 @@
 
 #include "host/base/object.h"
 
+#include "host/ui/inputs/input_id.h"
+
 #include <Core/CommandInputs.h>
 #include <Core/Commands.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 
 /// What all inputs of a dialog have in common.
 ///
-/// A dialog can hold millions of inputs, so an input carries only what it needs: captions are
-/// shared through the command's pool, and what few inputs have is kept aside.
+/// A dialog can hold millions of inputs, so an input carries only what it needs: captions and ids
+/// are shared through the command's pool, what few inputs have is kept aside, and the members are
+/// in an order with few gaps.
 namespace host::ui {
 
 class CommandObject;
@@ -55,7 +57,7 @@ public:
     InputState(const InputOrigin& origin, InputKind inputKind);
     InputState(const InputState&) = delete;
     InputState& operator=(const InputState&) = delete;
-    virtual ~InputState() = default;
+    virtual ~InputState();
 
     /// The state of an input of the API; null for null.
     static InputState* of(const core::Ptr<core::CommandInput>& input);
@@ -82,7 +84,8 @@ public:
     /// Reports that code, not the user, changed its value.
     void changedByCode(CodeChange what = CodeChange::Value);
 
-    [[nodiscard]] const std::string& id() const { return id_; }
+    [[nodiscard]] std::string id() const { return id_.text(); }
+    [[nodiscard]] const InputId& compactId() const { return id_; }
     [[nodiscard]] const std::string& name() const { return *name_; }
     [[nodiscard]] CommandInputsObject* owner() const { return owner_; }
 
@@ -91,12 +94,11 @@ public:
     InputState* nextSameId = nullptr;
     InputState* previousSameId = nullptr;  ///< of the first one: the last one
     TableLine* inLine = nullptr;           ///< its row, or the table's toolbar
-    int inColumn = 0;
-    std::uint32_t hash = 0;  ///< of its id
     std::uint32_t slot = 0;
     /// @}
 
     const std::uint32_t serial;  ///< counts the inputs of the command
+    std::int16_t inColumn = 0;   ///< in its row
     const InputKind kind;
     bool visible = true;
     bool enabled = true;
@@ -113,14 +115,19 @@ public:
     Extras& changeExtras();
 
 protected:
+    /// Keeps the id when the command's pool may end before this: for an input that is disposed of
+    /// while there are handles to it.
+    void keepId();
+
     /// The string in the command's pool.
     [[nodiscard]] const std::string* shared(const std::string& text) const;
 
 private:
-    std::string id_;
+    bool hasExtras_ = false;
+    bool keepsId_ = false;  ///< the text of `id_` is its own
     const std::string* name_;
     CommandInputsObject* owner_;
-    std::unique_ptr<Extras> extras_;
+    [[no_unique_address]] InputId id_;  ///< last: what derives from it begins in its gap
 };
 
 /// The collection that an input belongs to, and its command, as the API sees them.

@@ -23,7 +23,7 @@ bool ListItemObject::name(const std::string& value) {
 
 bool ListItemObject::isSelected() const {
     if (closed<"isSelected">(*this)) return {};
-    return entry().selected;
+    return list_->isSelected(index_);
 }
 
 bool ListItemObject::isSelected(bool value) {
@@ -52,7 +52,8 @@ bool ListItemObject::icon(const std::string& value) {
 
 bool ListItemObject::deleteMe() {
     if (closed<"deleteMe">(*this)) return {};
-    if (list_->kind == InputKind::DropDown && entry().selected && !list_->isMultiSelect()) {
+    if (list_->kind == InputKind::DropDown && list_->isSelected(index_) &&
+        !list_->isMultiSelect()) {
         return fail(core::OperationFailed,
                     "ListItem::deleteMe: the selected item of a drop-down stays");
     }

@@ -6,6 +6,13 @@
 #include <algorithm>
 
 namespace host::ui {
+namespace {
+
+// The list of a cell has a few items and takes no more memory than they need; a long one grows in
+// leaps.
+constexpr std::size_t kShort = 8;
+
+}  // namespace
 
 ListState::~ListState() = default;
 
@@ -18,21 +25,18 @@ void ListState::dispose() {
 }
 
 int ListState::selectedIndex() const {
-    if (!multiSelect_) return selected_;
-    const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [](const Entry& each) { return each.selected; });
-    return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+    if (!isMultiSelect()) return selected_;
+    const auto found = std::find(chosen_->begin(), chosen_->end(), true);
+    return found == chosen_->end() ? -1 : static_cast<int>(found - chosen_->begin());
 }
 
 bool ListState::select(std::size_t index, bool selected) {
-    if (entries_[index].selected == selected) return false;
-    if (!multiSelect_) {
-        if (selected_ >= 0) {
-            entries_[static_cast<std::size_t>(selected_)].selected = false;
-        }
+    if (isSelected(index) == selected) return false;
+    if (isMultiSelect()) {
+        (*chosen_)[index] = selected;
+    } else {
         selected_ = selected ? static_cast<int>(index) : -1;
     }
-    entries_[index].selected = selected;
     return true;
 }
 
@@ -47,12 +51,18 @@ std::size_t ListState::add(const std::string& name, bool selected, const std::st
     const std::size_t end = entries_.size();
     const bool inside = before >= 0 && static_cast<std::size_t>(before) < end;
     const std::size_t index = inside ? static_cast<std::size_t>(before) : end;
-    entries_.insert(
-        entries_.begin() + static_cast<std::ptrdiff_t>(index),
-        {.name = shared(name), .icon = shared(icon), .item = nullptr, .selected = false});
-    if (inside) {
-        renumber(index + 1);
+    const auto offset = static_cast<std::ptrdiff_t>(index);
+    if (end < kShort) {
+        entries_.reserve(end + 1);
     }
+    entries_.insert(entries_.begin() + offset,
+                    {.name = shared(name), .icon = shared(icon), .item = nullptr});
+    if (isMultiSelect()) {
+        chosen_->insert(chosen_->begin() + offset, false);
+    } else if (selected_ >= static_cast<int>(index)) {
+        ++selected_;
+    }
+    moveItems(index + 1);
     if (selected) {
         select(index, true);
     }
@@ -63,8 +73,16 @@ void ListState::remove(std::size_t index) {
     if (ListItemObject* item = entries_[index].item) {
         item->dispose();
     }
-    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
-    renumber(index);
+    const auto offset = static_cast<std::ptrdiff_t>(index);
+    entries_.erase(entries_.begin() + offset);
+    if (isMultiSelect()) {
+        chosen_->erase(chosen_->begin() + offset);
+    } else if (selected_ == static_cast<int>(index)) {
+        selected_ = -1;
+    } else if (selected_ > static_cast<int>(index)) {
+        --selected_;
+    }
+    moveItems(index);
 }
 
 void ListState::clear() {
@@ -75,17 +93,16 @@ void ListState::clear() {
     }
     entries_.clear();
     selected_ = -1;
+    if (isMultiSelect()) {
+        chosen_->clear();
+    }
 }
 
 // The items from `from` on have other indices than before.
-void ListState::renumber(std::size_t from) {
-    selected_ = -1;
-    for (std::size_t index = 0; index < entries_.size(); ++index) {
-        if (index >= from && entries_[index].item != nullptr) {
+void ListState::moveItems(std::size_t from) {
+    for (std::size_t index = from; index < entries_.size(); ++index) {
+        if (entries_[index].item != nullptr) {
             entries_[index].item->moved(index);
-        }
-        if (!multiSelect_ && entries_[index].selected) {
-            selected_ = static_cast<int>(index);
         }
     }
 }

@@ -5,6 +5,7 @@
 #include <Core/ListInputs.h>
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,8 @@ class ListItemsObject;
 class ListState : public InputState {
 public:
     ListState(const InputOrigin& origin, InputKind inputKind, bool multiSelect)
-        : InputState(origin, inputKind), multiSelect_(multiSelect) {}
+        : InputState(origin, inputKind),
+          chosen_(multiSelect ? std::make_unique<std::vector<bool>>() : nullptr) {}
     ~ListState() override;
 
     void dispose() override;
@@ -31,13 +33,16 @@ public:
         const std::string* icon = nullptr;  ///< of the command's pool
         mutable ListItemObject* item =
             nullptr;  ///< the object of the API while there is a handle to it
-        bool selected = false;
     };
 
     [[nodiscard]] const std::vector<Entry>& entries() const { return entries_; }
 
     /// Whether several items can be selected at a time.
-    [[nodiscard]] bool isMultiSelect() const { return multiSelect_; }
+    [[nodiscard]] bool isMultiSelect() const { return chosen_ != nullptr; }
+
+    [[nodiscard]] bool isSelected(std::size_t index) const {
+        return isMultiSelect() ? (*chosen_)[index] : selected_ == static_cast<int>(index);
+    }
 
     /// The first selected item, -1 for none.
     [[nodiscard]] int selectedIndex() const;
@@ -64,13 +69,13 @@ private:
     friend class ListItemObject;
     friend class ListItemsObject;
 
-    void renumber(std::size_t from);
+    void moveItems(std::size_t from);
 
+    int selected_ = -1;                          ///< where only one item can be selected: its place
+    std::unique_ptr<std::vector<bool>> chosen_;  ///< where several can be selected: which are
     std::vector<Entry> entries_;
     mutable ListItemsObject* items_ =
-        nullptr;         ///< the object of the API while there is a handle to it
-    int selected_ = -1;  ///< where only one item can be selected: its place
-    bool multiSelect_;
+        nullptr;  ///< the object of the API while there is a handle to it
 };
 
 }  // namespace host::ui

@@ -2,6 +2,9 @@
 
 #include "host/ui/inputs/input_state.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace host::ui {
 
 InputState* TableLines::cell(std::size_t row, std::size_t column) const {
@@ -18,6 +21,8 @@ void TableLines::place(InputState& input, std::size_t row, std::size_t column) {
     }
     TableLine& line = *lines_.at(row);
     if (line.cells.size() <= column) {
+        // As many as the table has columns, and no more: there are as many rows as parts.
+        line.cells.reserve(std::max(column, static_cast<std::size_t>(lastColumn_)) + 1);
         line.cells.resize(column + 1);
     }
     if (InputState* before = line.cells[column]) {
@@ -27,7 +32,7 @@ void TableLines::place(InputState& input, std::size_t row, std::size_t column) {
     }
     line.cells[column] = &input;
     input.inLine = &line;
-    input.inColumn = static_cast<int>(column);
+    input.inColumn = static_cast<std::int16_t>(column);
 }
 
 void TableLines::take(TableLine& line, std::size_t column) {

@@ -134,6 +134,34 @@ TEST_F(Inputs, OfSeveralWithOneIdTheFirstOwnOneIsFoundBeforeThoseInside) {
     EXPECT_EQ(all->itemById("same")->name(), "In tab");
 }
 
+TEST_F(Inputs, IdsThatEndInNumbersAreToldApartByTheirTexts) {
+    const std::vector<std::string> ids = {"",
+                                          "0",
+                                          "7",
+                                          "c_",
+                                          "c_0",
+                                          "c_00",
+                                          "c_7",
+                                          "c_07",
+                                          "c_70",
+                                          "c_007",
+                                          "c_123456789",
+                                          "c_1234567890",
+                                          "c_0123456789",
+                                          "18446744073709551616"};
+    std::vector<Ptr<CommandInput>> made;
+    for (const std::string& id : ids) {
+        made.emplace_back(all->addStringValueInput("x" + id, ""));
+    }
+    for (std::size_t index = 0; index < ids.size(); ++index) {
+        EXPECT_EQ(made[index]->id(), "x" + ids[index]);
+        EXPECT_EQ(all->itemById("x" + ids[index]), made[index]) << ids[index];
+    }
+    EXPECT_FALSE(all->itemById("xc_000"));
+    EXPECT_FALSE(all->itemById("xc_8"));
+    EXPECT_FALSE(all->itemById("unknown_7"));
+}
+
 TEST_F(Inputs, ADeletedOneLeavesItsCollectionAndItsTable) {
     const Ptr<TableCommandInput> table = all->itemById("table");
     const Ptr<CommandInput> cell = all->itemById("cell");

@@ -73,10 +73,10 @@ TEST_F(Scale, RowsAreDeletedAtRandom) {
 }
 
 TEST(InputSize, StaysSmallEnoughForMillions) {
-    EXPECT_LE(sizeof(ui::StringValueCommandInputObject), 200U);
-    EXPECT_LE(sizeof(ui::BoolValueCommandInputObject), 200U);
-    EXPECT_LE(sizeof(ui::ListState::Entry), 32U);
-    EXPECT_LE(sizeof(ui::DropDownCommandInputObject), 208U);
+    EXPECT_LE(sizeof(ui::StringValueCommandInputObject), 104U);
+    EXPECT_LE(sizeof(ui::BoolValueCommandInputObject), 120U);
+    EXPECT_LE(sizeof(ui::ListState::Entry), 24U);
+    EXPECT_LE(sizeof(ui::DropDownCommandInputObject), 152U);
 }
 
 }  // namespace
