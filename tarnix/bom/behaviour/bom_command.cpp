@@ -110,7 +110,8 @@ void BomCmdInputChangedHandler::notify(const Ptr<InputChangedEventArgs>& eventAr
         return;
     }
     BomModel model;
-    walkOccurrences(model, root->occurrences()->asList(), /*level=*/1);
+    // What follows needs occurrences and levels alone.
+    walkOccurrences(model, root->occurrences()->asList(), /*level=*/1, RowProperties::Dropped);
     rows = std::move(model.rows);
     if (route(eventArgs, input, id)) {
         onBomSelectionChange(eventArgs, rows);
@@ -153,6 +154,7 @@ void BomCmdCreateEventHandler::notify(const Ptr<CommandCreatedEventArgs>& eventA
         return;
     }
     buildBomDialog(model, command->commandInputs());
+    dropProperties(model.rows);
     command->setDialogInitialSize(/*width=*/800, /*height=*/600);
     command->inputChanged()->add(&inputChangedHandler);
     command->execute()->add(&executeHandler);

@@ -42,7 +42,8 @@ private:
     void selectRowInDesign(adsk::core::Ptr<adsk::core::CommandInput> input,
                            adsk::core::Ptr<adsk::core::Product> product) const;
 
-    std::vector<BomRow> rows;  ///< the plain walk of the last notification
+    /// The plain walk of the last notification, without properties.
+    std::vector<BomRow> rows;
 };
 
 /// Answers "Save Changes and Close" of the BOM dialog.
@@ -65,7 +66,7 @@ public:
 private:
     BomCmdInputChangedHandler inputChangedHandler;
     BomCmdExecuteHandler executeHandler;
-    BomModel model;  ///< of the last opening
+    BomModel model;  ///< of the last opening; its rows lose their properties once they are shown
 };
 
 /// Walks the active design into `model` and builds the three tabs of the BOM dialog: "Data of

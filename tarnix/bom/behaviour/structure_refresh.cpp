@@ -70,7 +70,9 @@ void refreshStructureTab(const Ptr<CommandInputs>& inputs, const Ptr<TableComman
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
     BomModel model;
     buildStructureTab(inputs);
-    showTotalMass(table, totalMass(table, walkOccurrencesMerged(model, occurrences, /*level=*/1)));
+    const std::vector<BomRow>& rows =
+        walkOccurrencesMerged(model, occurrences, /*level=*/1, RowProperties::Dropped);
+    showTotalMass(table, totalMass(table, rows));
     table->columnRatio(makeColumnRatio(table, columns));
 }
 
@@ -133,14 +135,16 @@ void fillStructureTable(Ptr<CommandInputs> inputs, Ptr<TableCommandInput> table)
     const Ptr<OccurrenceList> occurrences = root->occurrences()->asList();
     const bool isStructure = table->id() == kStructureRows.tableId;
     BomModel model;
-    const std::vector<BomRow>& rows = isStructure
-                                          ? walkOccurrencesMerged(model, occurrences, /*level=*/1)
-                                          : walkOccurrences(model, occurrences, /*level=*/1);
+    if (isStructure) {
+        walkOccurrencesMerged(model, occurrences, /*level=*/1);
+    } else {
+        walkOccurrences(model, occurrences, /*level=*/1);
+    }
     const std::vector<Column> columns = readColumns();
     if (isStructure) {
         buildStructureTableHeader(table, columns);
     }
-    fillStructureRows(table, rows, columns);
+    fillStructureRows(table, std::move(model.rows), columns);
 }
 
 std::string formatMass(double kilograms) { return formatFixed(kilograms, 3); }

@@ -61,6 +61,10 @@ inline constexpr std::array<const char*, 5> kBomStructures = {"Produce", "Buy", 
 /// another value does not end the search.
 bool isPropertySet(const BomRow& row, const std::string& key);
 
+/// Gives the memory of a row's properties back, where it is kept for what was visited alone.
+void dropProperties(BomRow& row);
+void dropProperties(std::vector<BomRow>& rows);
+
 /// The key of the row's first entry whose value is exactly "1", an empty string where there is
 /// none. All entries are looked at: a part number, or a custom property, of "1" ahead of the
 /// structure's keys wins.

@@ -34,6 +34,12 @@ BomRow makeRow(BomModel& model, const Ptr<Occurrence>& occurrence,
     return row;
 }
 
+void dropUnlessKept(BomRow& row, RowProperties properties) {
+    if (properties == RowProperties::Dropped) {
+        dropProperties(row);
+    }
+}
+
 /// The walk itself; `append` puts a row into the model.
 template <class Append>
 void walk(BomModel& model, const Ptr<OccurrenceList>& occurrences, int level, Append& append) {
@@ -59,7 +65,8 @@ void walk(BomModel& model, const Ptr<OccurrenceList>& occurrences, int level, Ap
 /// length.
 class MergingAppender {
 public:
-    MergingAppender(BomModel& model, std::size_t expected) : model_(model) {
+    MergingAppender(BomModel& model, std::size_t expected, RowProperties properties)
+        : model_(model), properties_(properties) {
         index_.reserve(model.rows.size() + expected);
         for (const BomRow& row : model.rows) {
             index_.add(row.component->partNumber(), row.occurrence->fullPathName());
@@ -67,6 +74,7 @@ public:
     }
 
     void operator()(BomRow row) {
+        dropUnlessKept(row, properties_);
         const std::string partNumber = row.component->partNumber();
         if (const std::optional<std::size_t> target = index_.add(partNumber, row.pathName)) {
             mergeInto(at(model_.rows, *target), row);
@@ -76,6 +84,7 @@ public:
 
 private:
     BomModel& model_;
+    RowProperties properties_;
     ItemIndex index_;
 };
 
@@ -87,17 +96,20 @@ bool isReserved(const std::string& key) {
 }  // namespace
 
 const std::vector<BomRow>& walkOccurrences(BomModel& model, Ptr<OccurrenceList> occurrences,
-                                           int level) {
+                                           int level, RowProperties properties) {
     if (occurrences) {
-        auto append = [&model](BomRow row) { model.rows.push_back(std::move(row)); };
+        auto append = [&model, properties](BomRow row) {
+            dropUnlessKept(row, properties);
+            model.rows.push_back(std::move(row));
+        };
         walk(model, occurrences, level, append);
     }
     return model.rows;
 }
 
 const std::vector<BomRow>& walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
-                                                 int level) {
-    MergingAppender append(model, occurrences->count());
+                                                 int level, RowProperties properties) {
+    MergingAppender append(model, occurrences->count(), properties);
     walk(model, occurrences, level, append);
     return model.rows;
 }

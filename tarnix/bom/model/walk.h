@@ -6,6 +6,10 @@
 
 namespace tarnix {
 
+/// Whether rows keep their properties: who only counts does without most of the memory of a walk.
+/// The host is asked for the same, in the same order, either way.
+enum class RowProperties { Kept, Dropped };
+
 /// Appends a row to `model.rows` for every occurrence of the list and everything below it, and
 /// returns all its rows. They are the model's own, and copying many rows takes as long as walking
 /// them: bind them to a reference, or move them out of a model that is not needed any more.
@@ -15,7 +19,8 @@ namespace tarnix {
 /// then in the list gets `kSubtreeEnd` as its `pathName`. An index at which the host has no
 /// occurrence is skipped, and counts for the ordinals of the others. A null list adds nothing.
 const std::vector<BomRow>& walkOccurrences(
-    BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
+    BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level,
+    RowProperties properties = RowProperties::Kept);
 
 /// The same with identical items merged: the first row of an item takes count of the further ones
 /// (`mergeInto` of merging.h), which may change descriptions in the design. Every occurrence has
@@ -23,7 +28,8 @@ const std::vector<BomRow>& walkOccurrences(
 ///
 /// A null list throws a plain `std::exception`.
 const std::vector<BomRow>& walkOccurrencesMerged(
-    BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level);
+    BomModel& model, adsk::core::Ptr<adsk::fusion::OccurrenceList> occurrences, int level,
+    RowProperties properties = RowProperties::Kept);
 
 /// Adds to `model.userPropertyNames` the names of those properties that are custom ones, without
 /// their prefix. Throws `std::out_of_range` ("invalid string position") for such a key that is

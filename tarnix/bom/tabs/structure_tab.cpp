@@ -80,7 +80,7 @@ void buildStructureTableHeader(const Ptr<TableCommandInput>& table,
     buildTableHeader(table, headerIds, columns);
 }
 
-void fillStructureRows(const Ptr<TableCommandInput>& table, const std::vector<BomRow>& rows,
+void fillStructureRows(const Ptr<TableCommandInput>& table, std::vector<BomRow> rows,
                        const std::vector<Column>& columns) {
     if (!table) {
         return;
@@ -89,15 +89,16 @@ void fillStructureRows(const Ptr<TableCommandInput>& table, const std::vector<Bo
     StructureFilter filter;
     int tableRow = 1;
     int r = 0;
-    for (const BomRow& row : rows) {
+    for (BomRow& row : rows) {
         ++r;
-        if (!filter.accept(row)) {
-            continue;
+        if (filter.accept(row)) {
+            const std::string image = structureImage(row, filter.isUnderDivided());
+            placeCells(table, tableRow, makeCells(inputs, row, decimal(r), tableRow, image));
+            fillConfiguredCells(row, table, tableRow, r, columns);
+            ++tableRow;
         }
-        const std::string image = structureImage(row, filter.isUnderDivided());
-        placeCells(table, tableRow, makeCells(inputs, row, decimal(r), tableRow, image));
-        fillConfiguredCells(row, table, tableRow, r, columns);
-        ++tableRow;
+        // The cells of the next rows take the memory.
+        dropProperties(row);
     }
 }
 

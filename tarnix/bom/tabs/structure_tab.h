@@ -28,7 +28,7 @@ void buildStructureTableHeader(const adsk::core::Ptr<adsk::core::TableCommandInp
 /// materials. The ids of cells end in the place of their row in `rows`, counted from 1, so that
 /// they have gaps. A null table takes nothing.
 void fillStructureRows(const adsk::core::Ptr<adsk::core::TableCommandInput>& table,
-                       const std::vector<BomRow>& rows, const std::vector<Column>& columns);
+                       std::vector<BomRow> rows, const std::vector<Column>& columns);
 
 /// The image of a row that is shown; `underDivided`: it was handed up.
 std::string structureImage(const BomRow& row, bool underDivided);

@@ -197,6 +197,24 @@ TEST(Merging, LeavesTheAttributesOfTheDesignAlone) {
               "red");
 }
 
+TEST(Merging, CountsTheSameWhereRowsDropTheirProperties) {
+    const OpenDesign design(R"(
+        Bolt  number=B description=long
+        Screw  number=B description=short
+        Nut  number=N)");
+    BomModel model;
+
+    walkOccurrencesMerged(model, design.occurrences(), 1, RowProperties::Dropped);
+
+    ASSERT_EQ(model.rows.size(), 3U);
+    EXPECT_EQ(model.rows[0].quantity, 2);
+    EXPECT_TRUE(model.rows[0].combined);
+    EXPECT_EQ(model.rows[0].component->description(), "***different***long");
+    EXPECT_EQ(model.rows[2].quantity, 1);
+    EXPECT_TRUE(model.rows[0].properties.empty());
+    EXPECT_TRUE(model.rows[2].properties.empty());
+}
+
 TEST(FindBomRow, ReturnsTheFirstRowOfTheItemOrNone) {
     const OpenDesign design(R"(
         Nut
