@@ -10,17 +10,13 @@
 // "first" and "second" are two runs with an empty cache: reading, measuring and keeping what was
 // found, then the same with what was kept. "second_ratio" divides the second by the first.
 
+#include "bench/comparison/bare_open_cascade.h"
 #include "host/import/read_design.h"
 #include "host/import/read_tree.h"
 #include "samples/product.h"
 
-#include <BRepGProp.hxx>
-#include <GProp_GProps.hxx>
 #include <Message.hxx>
 #include <Message_Messenger.hxx>
-#include <STEPControl_Reader.hxx>
-#include <TopExp_Explorer.hxx>
-#include <TopTools_IndexedMapOfShape.hxx>
 
 #include <benchmark/benchmark.h>
 
@@ -29,7 +25,6 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -71,31 +66,6 @@ std::string differentParts(std::int64_t count) {
     return samples::stepFile("Top", products);
 }
 
-/// Reads and transfers in this process, nothing else.
-TopoDS_Shape bareRead(const fs::path& file) {
-    STEPControl_Reader reader;
-    if (reader.ReadFile(file.c_str()) != IFSelect_RetDone) {
-        throw std::runtime_error(file.string() + ": Open CASCADE cannot read it");
-    }
-    reader.TransferRoots();
-    return reader.OneShape();
-}
-
-/// Each solid once, however often it is placed.
-void bareMeasure(const TopoDS_Shape& whole) {
-    TopTools_IndexedMapOfShape solids;
-    for (TopExp_Explorer each(whole, TopAbs_SOLID); each.More(); each.Next()) {
-        solids.Add(each.Current().Located(TopLoc_Location()));
-    }
-    for (int number = 1; number <= solids.Extent(); ++number) {
-        GProp_GProps surface;
-        BRepGProp::SurfaceProperties(solids(number), surface);
-        GProp_GProps volume;
-        BRepGProp::VolumeProperties(solids(number), volume);
-        benchmark::DoNotOptimize(volume.Mass());
-    }
-}
-
 host::DesignData readOurs(const fs::path& file, const host::ReadingCache& cache = {}) {
     std::vector<host::ReadingWarning> warnings;
     return host::readDesign(file, {}, {}, warnings, cache);
@@ -128,8 +98,9 @@ void compare(benchmark::State& state, const fs::path& file) {
     for (auto iteration : state) {
         (void)iteration;
         TopoDS_Shape whole;
-        const double bare = millisecondsOf([&] { whole = bareRead(file); });
-        const double bareAll = bare + millisecondsOf([&] { bareMeasure(whole); });
+        const double bare = millisecondsOf([&] { whole = bench::bareRead(file); });
+        const double bareAll =
+            bare + millisecondsOf([&] { benchmark::DoNotOptimize(bench::bareMeasure(whole)); });
         host::DesignData design;
         const double read = millisecondsOf([&] { design = readOurs(file); });
         const double all = read + millisecondsOf([&] { measureOurs(design); });
