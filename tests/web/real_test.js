@@ -3,7 +3,7 @@
 //   node real_test.js PROGRAM DATA [NAME...]    NAME: only files with one of these in their name
 'use strict';
 const assert = require('assert');
-const {spawnSync} = require('child_process');
+const {execFile} = require('child_process');
 const fs = require('fs');
 const path = require('path');
 const {inFront} = require('./front');
@@ -22,12 +22,16 @@ function filesBelow(folder) {
   }).sort();
 }
 
-const run = (...args) => spawnSync(program, ['parts', ...args], {encoding: 'utf8', maxBuffer: 1 << 28, env: {...process.env, XDG_CACHE_HOME: cache}});
+const run = (...args) => new Promise((resolve, reject) => {
+  const done = (error, stdout, stderr) => error ? reject(new Error(stderr || error.message)) : resolve({stdout, stderr});
+  execFile(program, ['parts', ...args], {encoding: 'utf8', maxBuffer: 1 << 28, env: {...process.env, XDG_CACHE_HOME: cache}}, done);
+});
 
-/// How many occurrences have bodies, by the list, which knows nothing of meshes.
-function occurrencesWithBodies(file) {
-  const {rows} = JSON.parse(run(file, '--format', 'json', '--columns', 'Part Number,Bodies').stdout);
-  return rows.reduce((sum, row) => sum + (row.cells.bodies > 0 ? row.quantity : 0), 0);
+/// Writes the page; what the program said, and how many occurrences have bodies by the list, which knows nothing of meshes.
+async function write(file, html) {
+  const {stderr} = await run(file, '--output', html);
+  const {rows} = JSON.parse((await run(file, '--format', 'json', '--columns', 'Part Number,Bodies')).stdout);
+  return {file, html, report: stderr, withBodies: rows.reduce((sum, row) => sum + (row.cells.bodies > 0 ? row.quantity : 0), 0)};
 }
 
 /// The list in the page's file, and the row of its first view that stands for a path or for what is above it.
@@ -44,15 +48,13 @@ const pathOf = (page, instance) => page.evaluate(i => {
   return occurrences[instances[i].occurrence].path;
 }, instance);
 
-async function opened(file, html, viewport) {
-  const {status, stderr} = run(file, '--output', html);
-  assert.strictEqual(status, 0, stderr);
+async function opened({file, html, report, withBodies}, viewport) {
   const page = await openFile(html, {viewport});
   const {stats, inShapes} = await page.evaluate(() => ({
     stats: partsPage.viewer.stats(),
     inShapes: partsPage.viewer.model.shapes.reduce((sum, each) => sum + ((each.opaque?.indices.length ?? 0) + (each.transparent?.indices.length ?? 0)) / 3, 0)}));
-  assert.strictEqual(stats.instances, occurrencesWithBodies(file));
-  assert.match(stderr, new RegExp(`\\b${inShapes} triangles`));
+  assert.strictEqual(stats.instances, withBodies);
+  assert.match(report, new RegExp(`\\b${inShapes} triangles`));
   assert.strictEqual(await page.getAttribute('[role=treegrid]', 'aria-rowcount'), String(readList(html).rowCount + 2));
   assert.match(await page.textContent('.facts'), new RegExp(`· ${stats.triangles.toLocaleString('en')} triangles`));
   console.log(`${path.basename(file)}: ${stats.instances} instances, ${stats.triangles} triangles, ${stats.drawCalls} draw calls, ${fs.statSync(html).size} bytes`);
@@ -88,9 +90,9 @@ async function draggingTurnsIt(page) {
   assert.notStrictEqual(before.picture, after.picture);
 }
 
-async function check(file, html) {
-  const isClicked = clicked.includes(path.basename(file));
-  const page = await opened(file, html, isClicked ? {width: 1200, height: 700} : {width: 700, height: 400});
+async function check(written) {
+  const {file, html} = written, isClicked = clicked.includes(path.basename(file));
+  const page = await opened(written, isClicked ? {width: 1200, height: 700} : {width: 700, height: 400});
   if (isClicked) {
     await aClickOnWhatIsInFrontSelectsItsRow(page, html);
     await draggingTurnsIt(page);
@@ -107,8 +109,13 @@ async function main() {
   }
   const browser = await startBrowser();
   let failed = 0;
-  for (const file of files) {
-    await check(file, path.join(folder, `${path.parse(file).name}.html`)).catch(async error => {
+  // The next page is written while the browser has this one.
+  const start = file => file && write(file, path.join(folder, `${path.parse(file).name}.html`)).catch(error => ({error}));
+  let next = start(files[0]);
+  for (const [i, file] of files.entries()) {
+    const written = await next;
+    next = start(files[i + 1]);
+    await (written.error ? Promise.reject(written.error) : check(written)).catch(async error => {
       ++failed;
       console.error(`${path.basename(file)}: ${error.stack}`);
       await closeTabs();
