@@ -43,11 +43,11 @@ int mostAtOnce(std::size_t threads) {
     step::useThreads(threads);
     std::atomic<int> running = 0;
     std::atomic<int> most = 0;
-    step::ParallelResults<int> results(20, [&](std::size_t) {
+    step::ParallelResults<int> results(100, [&](std::size_t) {
         const int now = ++running;
         for (int seen = most; seen < now && !most.compare_exchange_weak(seen, now);) {
         }
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
         return --running;
     });
     for (std::size_t number = 0; number < results.size(); ++number) {
