@@ -115,6 +115,7 @@ public:
         }
         writeTotals();
         setColumns();
+        setPages();
         return close();
     }
 
@@ -327,6 +328,13 @@ private:
                                             rangeOfRows().c_str()),
                   "the columns");
         }
+    }
+
+    /// Printed sheets have all columns, and the header on each.
+    void setPages() {
+        ::worksheet_set_landscape(sheet_);
+        ::worksheet_fit_to_pages(sheet_, /*width=*/1, /*height=*/0);
+        check(::worksheet_repeat_rows(sheet_, 0, 0), "the pages");
     }
 
     std::string close() {

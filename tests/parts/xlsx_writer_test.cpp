@@ -64,6 +64,16 @@ TEST(Xlsx, AFlatListIsSummedByItsColumns) {
     expectContains(sheet, "<pane ySplit=\"1\"");
 }
 
+TEST(Xlsx, APrintedPageHasAllColumnsAndTheHeader) {
+    const parts::PartsList list =
+        buildPartsList(drawn(kGate), request(View::Parts, "Part Number,Quantity"));
+
+    const std::string sheet = sheetOf(list);
+    expectContains(sheet, "<pageSetUpPr fitToPage=\"1\"/>");
+    expectContains(sheet, "<pageSetup fitToHeight=\"0\" orientation=\"landscape\"/>");
+    expectContains(entryOf(xlsxOf(list, {}), "xl/workbook.xml"), "Parts!$1:$1");
+}
+
 TEST(Xlsx, TextsOfDigitsAreNotMarkedAsWrong) {
     const std::string sheet =
         sheetOf(buildPartsList(drawn(kGate), request(View::Parts, "Item,Part Number,Quantity")));
