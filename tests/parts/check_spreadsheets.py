@@ -212,7 +212,9 @@ def main():
             check_csv_in_python(file, delimiter)
             check_csv_as_text(check, file, delimiter)
         english, german = 1033, 1031
+        # Commas alone; commas, semicolons and tabs, which the import dialog proposes; semicolons alone.
         check_csv_as_users_open_it(check, comma, "44", english)
+        check_csv_as_users_open_it(check, comma, "44/59/9", english)
         check_csv_as_users_open_it(check, semicolon, "59", german)
     print("the spreadsheets are read as they were written")
 
