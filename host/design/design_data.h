@@ -50,6 +50,13 @@ public:
     virtual std::optional<Box> box(const Transform& placement) = 0;
 };
 
+/// Curves of a component that has no bodies. They have no measures and no part in what a design
+/// says of itself; who reads its shapes can draw them.
+class Curves {
+public:
+    virtual ~Curves() = default;
+};
+
 struct MaterialData {
     std::string name;
     double density = 0;  ///< kg/cm3
@@ -102,6 +109,7 @@ struct ComponentData {
     std::vector<AttributeData> attributes;  ///< in the order they were made
     std::vector<OccurrenceData> children;
     std::shared_ptr<Geometry> geometry;  ///< null for a component without bodies of its own
+    std::shared_ptr<Curves> curves;      ///< null for a component with bodies, and mostly without
     std::vector<SketchData> sketches;
     std::string document;  ///< the other document that it belongs to; empty for this design's own
     bool hasExplicitPartNumber =

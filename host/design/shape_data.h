@@ -55,6 +55,7 @@ struct MeshGroup {
     std::size_t firstIndex = 0;  ///< into `ShapeMesh::indices`
     std::size_t indexCount = 0;  ///< three for each triangle
     std::optional<Rgba> colour;  ///< none where the file gives none
+    bool ofFaces = false;        ///< it is stated for faces, not for what these are part of
 
     bool operator==(const MeshGroup&) const = default;
 };
@@ -75,6 +76,7 @@ struct ShapeMesh {
                                           ///< last one
 
     [[nodiscard]] std::size_t triangles() const { return indices.size() / 3; }
+    [[nodiscard]] bool isVisible() const { return !indices.empty() || !edgeEnds.empty(); }
 
     bool operator==(const ShapeMesh&) const = default;
 };
@@ -89,10 +91,28 @@ struct Shape {
     std::string problem;  ///< why something is missing or a box; empty where nothing is wrong
 };
 
+/// One step from a component to what is in it.
+struct InstanceStep {
+    std::size_t component = 0;
+    std::size_t child = 0;  ///< the index in its children
+
+    bool operator==(const InstanceStep&) const = default;
+};
+
+/// The colour of an instance that differs from that of its part. It holds for all in the instance
+/// but for faces that have a colour of their own; outer instances win.
+struct InstanceColour {
+    std::vector<InstanceStep> path;  ///< the last steps that lead to it, one at least
+    Rgba colour;
+
+    bool operator==(const InstanceColour&) const = default;
+};
+
 struct ShapeData {
     /// For each component of the design the index of its shape; none without bodies of its own.
     std::vector<std::optional<std::size_t>> ofComponent;
     std::vector<Shape> shapes;
+    std::vector<InstanceColour> instanceColours;
 
     /// The shape of a component, which may be beyond `ofComponent`; null without any.
     [[nodiscard]] const Shape* of(std::size_t component) const {

@@ -92,8 +92,10 @@ ShapeMesh meshFrom(const json& answer) {
     std::size_t first = 0;
     for (const json& group : answer.at("groups")) {
         const std::size_t count = group.at("indexCount");
-        mesh.groups.push_back(
-            {.firstIndex = first, .indexCount = count, .colour = colourFrom(group.at("colour"))});
+        mesh.groups.push_back({.firstIndex = first,
+                               .indexCount = count,
+                               .colour = colourFrom(group.at("colour")),
+                               .ofFaces = group.value("ofFaces", false)});
         first += count;
     }
     check(mesh);
@@ -103,7 +105,7 @@ ShapeMesh meshFrom(const json& answer) {
 /// The shapes of one design and the reader that holds them.
 class ShapesReader {
 public:
-    ShapesReader(const DesignData& design, ShapeData& data) : data_(data) {
+    ShapesReader(const DesignData& design, ShapeData& data) : design_(design), data_(data) {
         data.ofComponent.resize(design.components.size());
         std::map<const Geometry*, std::size_t> numbers;
         for (std::size_t component = 0; component < design.components.size(); ++component) {
@@ -142,15 +144,11 @@ public:
 
     void readMeshes(const ShapeRequest& request) {
         const std::string limits =
-            " " + std::to_string(request.maximumTriangles) + " " + json(request.seconds).dump();
-        ask("mesh", limits, "drawn", [](Shape& shape, const json& answer) {
-            if (answer.contains("problem")) {
-                note(shape, answer["problem"]);
-            }
-            if (answer.contains("indices")) {
-                shape.mesh = meshFrom(answer);
-            }
-        });
+            " " + json(request.deflection).dump() + " " + json(request.angle).dump() + " " +
+            std::to_string(request.maximumTriangles) + " " + json(request.seconds).dump();
+        ask("mesh", limits, "drawn", takeMesh);
+        readCurves(limits);
+        readInstances();
     }
 
 private:
@@ -159,14 +157,69 @@ private:
              const Take& take) {
         for (std::size_t at = 0; at < geometries_.size(); ++at) {
             const StepGeometry& geometry = *geometries_[at];
-            Shape& shape = data_.shapes[at];
-            try {
-                take(shape, answerOf(geometry.reader(),
-                                     verb + " " + std::to_string(geometry.shape()) + words));
-            } catch (const std::exception& failure) {
-                note(shape, "cannot be " + purpose + ": " + failure.what());
-            }
+            askFor(data_.shapes[at], geometry.reader(),
+                   verb + " " + std::to_string(geometry.shape()) + words, purpose, take);
         }
+    }
+
+    template <class Take>
+    static void askFor(Shape& shape, ReaderConnection& reader, const std::string& request,
+                       const std::string& purpose, const Take& take) {
+        try {
+            take(shape, answerOf(reader, request));
+        } catch (const std::exception& failure) {
+            note(shape, "cannot be " + purpose + ": " + failure.what());
+        }
+    }
+
+    static void takeMesh(Shape& shape, const json& answer) {
+        if (answer.contains("problem")) {
+            note(shape, answer["problem"]);
+        }
+        if (answer.contains("indices")) {
+            shape.mesh = meshFrom(answer);
+        }
+    }
+
+    void readCurves(const std::string& limits) {
+        for (std::size_t component = 0; component < design_.components.size(); ++component) {
+            const auto* const curves =
+                dynamic_cast<StepCurves*>(design_.components[component].curves.get());
+            if (curves == nullptr || data_.ofComponent[component]) {
+                continue;
+            }
+            data_.ofComponent[component] = data_.shapes.size();
+            Shape& shape = data_.shapes.emplace_back();
+            askFor(shape, curves->reader(), "curves " + std::to_string(curves->number()) + limits,
+                   "drawn", takeMesh);
+        }
+    }
+
+    /// Without them instances have the colours of their parts: nothing that is worth a failure.
+    void readInstances() {
+        if (geometries_.empty()) {
+            return;
+        }
+        try {
+            const json answer = answerOf(geometries_.front()->reader(), "instances");
+            // Several roots got a component above them, which the reader does not know.
+            const std::size_t first =
+                design_.components.size() - answer.value("components", design_.components.size());
+            for (const json& each : answer.value("instances", json::array())) {
+                data_.instanceColours.push_back(instanceFrom(each, first));
+            }
+        } catch (const std::exception&) {
+            data_.instanceColours.clear();
+        }
+    }
+
+    static InstanceColour instanceFrom(const json& answer, std::size_t firstComponent) {
+        InstanceColour result = {.path = {}, .colour = colourFrom(answer.at("colour")).value()};
+        for (const json& step : answer.at("path")) {
+            result.path.push_back({.component = step.at(0).get<std::size_t>() + firstComponent,
+                                   .child = step.at(1).get<std::size_t>()});
+        }
+        return result;
     }
 
     static void note(Shape& shape, const std::string& problem) {
@@ -175,6 +228,7 @@ private:
         }
     }
 
+    const DesignData& design_;
     ShapeData& data_;
     std::vector<StepGeometry*> geometries_;
 };
@@ -184,7 +238,9 @@ private:
 ShapeData readShapes(const DesignData& design, const ShapeRequest& request) {
     ShapeData data;
     ShapesReader reader(design, data);
-    reader.measure();
+    if (request.measures) {
+        reader.measure();
+    }
     if (request.classes) {
         reader.readClasses();
     }

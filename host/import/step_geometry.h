@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace host {
 
@@ -38,6 +39,21 @@ private:
     std::string failure_;  ///< why it could not be measured; empty when it could
     double area_ = 0;
     double volume_ = 0;
+};
+
+/// Curves that a reader holds.
+class StepCurves final : public Curves {
+public:
+    /// The number of the curves is the reader's.
+    StepCurves(std::shared_ptr<ReaderConnection> reader, int number)
+        : reader_(std::move(reader)), number_(number) {}
+
+    [[nodiscard]] ReaderConnection& reader() const { return *reader_; }
+    [[nodiscard]] int number() const { return number_; }
+
+private:
+    std::shared_ptr<ReaderConnection> reader_;
+    int number_;
 };
 
 }  // namespace host

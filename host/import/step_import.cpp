@@ -150,6 +150,9 @@ public:
             component.children.push_back(occurrenceOf(use));
         }
         component.geometry = geometryOf(from.at("shape"), from);
+        if (from.contains("curves")) {
+            component.curves = std::make_shared<StepCurves>(reader_, from["curves"].get<int>());
+        }
         return component;
     }
 

@@ -43,6 +43,7 @@ struct Component {
     std::vector<Handle(StepRepr_RepresentationItem)> bodies;  ///< what is declared there as bodies
     int shape = -1;                      ///< its bodies, once shapes are built; -1 without any
     std::size_t bodyCount = 0;           ///< how many these are
+    int curves = -1;                     ///< index in `Assembly::curves`, where it has no bodies
     std::optional<std::size_t> content;  ///< the component of another file that fills it
 };
 
@@ -50,6 +51,7 @@ struct Assembly {
     std::vector<Component> components;
     std::vector<std::size_t> roots;
     std::vector<std::unique_ptr<StepFile>> files;  ///< the first is the one that was asked for
+    std::vector<TopoDS_Shape> curves;  ///< of components without bodies, once shapes are built
     std::vector<Warning> warnings;
 };
 

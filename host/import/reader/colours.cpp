@@ -7,6 +7,7 @@
 #include <StepVisual_Colour.hxx>
 #include <StepVisual_ContextDependentOverRidingStyledItem.hxx>
 #include <StepVisual_OverRidingStyledItem.hxx>
+#include <StepVisual_PresentationStyleByContext.hxx>
 #include <StepVisual_StyledItem.hxx>
 #include <TopoDS_Iterator.hxx>
 #include <TopoDS_Shape.hxx>
@@ -26,37 +27,9 @@ std::uint8_t byteOf(double value) {
     return static_cast<std::uint8_t>(std::lround(std::clamp(value, 0.0, 1.0) * kFull));
 }
 
-/// What a style says of surfaces; nothing for one of curves alone.
-std::optional<host::Rgba> colourOf(const STEPConstruct_Styles& styles,
-                                   const Handle(StepVisual_StyledItem) & style) {
-    Handle(StepVisual_Colour) surface;
-    Handle(StepVisual_Colour) boundary;
-    Handle(StepVisual_Colour) curve;
-    Handle(StepVisual_Colour) rendering;
-    double transparency = 0;
-    bool isUnused = false;
-    Quantity_Color colour;
-    if (!styles.GetColors(style, surface, boundary, curve, rendering, transparency, isUnused)) {
-        return std::nullopt;
-    }
-    const Handle(StepVisual_Colour)& chosen = rendering.IsNull() ? surface : rendering;
-    if (chosen.IsNull() || !STEPConstruct_Styles::DecodeColor(chosen, colour)) {
-        return std::nullopt;
-    }
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    colour.Values(red, green, blue, Quantity_TOC_sRGB);
-    return host::Rgba{.red = byteOf(red),
-                      .green = byteOf(green),
-                      .blue = byteOf(blue),
-                      .alpha = byteOf(rendering.IsNull() ? 1 : 1 - transparency)};
-}
-
-/// An instance may be coloured apart from the others of its part; those are drawn alike here.
+/// An instance may be coloured apart from the others of its part: see instance_colours.h.
 bool isOfPart(const Handle(StepVisual_StyledItem) & style) {
-    return !style.IsNull() && !style->Item().IsNull() &&
-           !style->IsKind(STANDARD_TYPE(StepVisual_ContextDependentOverRidingStyledItem));
+    return !style.IsNull() && !style->Item().IsNull() && !isOfInstance(style);
 }
 
 /// A compound passes its colour on to the bodies in it: it is taken apart later.
@@ -73,7 +46,7 @@ void setColour(const TopoDS_Shape& shape, const host::Rgba& colour, Colours& col
 void addColour(const STEPConstruct_Styles& styles, const Handle(StepVisual_StyledItem) & style,
                Colours& colours) {
     const TopoDS_Shape shape = STEPConstruct::FindShape(styles.TransientProcess(), style->Item());
-    const std::optional<host::Rgba> colour = colourOf(styles, style);
+    const std::optional<host::Rgba> colour = surfaceColourOf(styles, style);
     if (shape.IsNull() || !colour) {
         return;
     }
@@ -101,6 +74,45 @@ void addColours(const StepFile& file, Colours& colours) {
 }
 
 }  // namespace
+
+bool isOfInstance(const Handle(StepVisual_StyledItem) & style) {
+    if (style->IsKind(STANDARD_TYPE(StepVisual_ContextDependentOverRidingStyledItem))) {
+        return true;
+    }
+    for (int number = 1; !style->Styles().IsNull() && number <= style->NbStyles(); ++number) {
+        const Handle(StepVisual_PresentationStyleAssignment) each = style->StylesValue(number);
+        if (!each.IsNull() && each->IsKind(STANDARD_TYPE(StepVisual_PresentationStyleByContext))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::optional<host::Rgba> surfaceColourOf(const STEPConstruct_Styles& styles,
+                                          const Handle(StepVisual_StyledItem) & style) {
+    Handle(StepVisual_Colour) surface;
+    Handle(StepVisual_Colour) boundary;
+    Handle(StepVisual_Colour) curve;
+    Handle(StepVisual_Colour) rendering;
+    double transparency = 0;
+    bool isUnused = false;
+    Quantity_Color colour;
+    if (!styles.GetColors(style, surface, boundary, curve, rendering, transparency, isUnused)) {
+        return std::nullopt;
+    }
+    const Handle(StepVisual_Colour)& chosen = rendering.IsNull() ? surface : rendering;
+    if (chosen.IsNull() || !STEPConstruct_Styles::DecodeColor(chosen, colour)) {
+        return std::nullopt;
+    }
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    colour.Values(red, green, blue, Quantity_TOC_sRGB);
+    return host::Rgba{.red = byteOf(red),
+                      .green = byteOf(green),
+                      .blue = byteOf(blue),
+                      .alpha = byteOf(rendering.IsNull() ? 1 : 1 - transparency)};
+}
 
 Colours coloursOf(const Assembly& assembly) {
     Colours colours;

@@ -4,8 +4,11 @@
 
 #include "host/design/shape_data.h"
 
+#include <STEPConstruct_Styles.hxx>
+#include <StepVisual_StyledItem.hxx>
 #include <TopoDS_TShape.hxx>
 
+#include <optional>
 #include <unordered_map>
 
 namespace step {
@@ -14,7 +17,14 @@ namespace step {
 /// they are placed.
 using Colours = std::unordered_map<const TopoDS_TShape*, host::Rgba>;
 
-/// The colours of an assembly whose shapes are built.
+/// The colours of an assembly whose shapes are built. Those of instances are left out.
 Colours coloursOf(const Assembly& assembly);
+
+/// Whether a style is for an instance alone, and not for its part.
+bool isOfInstance(const Handle(StepVisual_StyledItem) & style);
+
+/// What a style says of surfaces; nothing for one of curves alone.
+std::optional<host::Rgba> surfaceColourOf(const STEPConstruct_Styles& styles,
+                                          const Handle(StepVisual_StyledItem) & style);
 
 }  // namespace step

@@ -40,7 +40,8 @@ bool looksLikeIges(const std::filesystem::path& file) {
            line[kSectionColumn] == 'S';
 }
 
-json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes) {
+json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes,
+              std::vector<TopoDS_Shape>& curves) {
     // What it prints would be among the responses.
     Message::DefaultMessenger()->ChangePrinters().Clear();
     IGESControl_Reader reader;
@@ -50,12 +51,18 @@ json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& sha
     reader.TransferRoots();
     const TopoDS_Shape whole = reader.OneShape();
     const Bodies bodies = whole.IsNull() ? Bodies() : bodiesOf(whole);
-    const json component = {{"id", ""},
-                            {"name", file.stem().string()},
-                            {"description", ""},
-                            {"uses", json::array()},
-                            {"shape", bodies.shape.IsNull() ? -1 : shapes.Add(bodies.shape) - 1},
-                            {"bodies", bodies.count}};
+    json component = {{"id", ""},
+                      {"name", file.stem().string()},
+                      {"description", ""},
+                      {"uses", json::array()},
+                      {"shape", bodies.shape.IsNull() ? -1 : shapes.Add(bodies.shape) - 1},
+                      {"bodies", bodies.count}};
+    const TopoDS_Shape lines =
+        whole.IsNull() || !bodies.shape.IsNull() ? TopoDS_Shape() : curvesOf(whole);
+    if (!lines.IsNull()) {
+        component["curves"] = curves.size();
+        curves.push_back(lines);
+    }
     return {{"unit", unitOf(reader)},
             {"files", {file.string()}},
             {"roots", {0}},

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
+#include <vector>
 
 namespace step {
 
@@ -12,7 +13,9 @@ namespace step {
 bool looksLikeIges(const std::filesystem::path& file);
 
 /// Reads an IGES file: what it holds, as `designOf` returns it, is one component with all bodies,
-/// which are added to `shapes`. Throws `ReadError`.
-nlohmann::json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes);
+/// which are added to `shapes`, else with its curves, which are added to `curves`. Throws
+/// `ReadError`.
+nlohmann::json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes,
+                        std::vector<TopoDS_Shape>& curves);
 
 }  // namespace step

@@ -15,6 +15,7 @@
 #include <iostream>
 #include <new>
 #include <string>
+#include <vector>
 
 /// step-reader FILE FOLDER OCCURRENCES LEVELS SECONDS MEGABYTES THREADS [tree]
 ///
@@ -49,12 +50,16 @@ struct Task {
 
 void runIges(const std::string& file) {
     TopTools_IndexedMapOfShape shapes;
-    const nlohmann::json design = step::readIges(file, shapes);
+    std::vector<TopoDS_Shape> curves;
+    const nlohmann::json design = step::readIges(file, shapes, curves);
     if (shapes.IsEmpty()) {
         step::sendWarning({.code = "no-body", .text = "holds no body that can be built"});
     }
     step::sendLine({{"design", design}});
-    step::answerRequests(std::cin, shapes, [] { return step::Colours(); });
+    step::answerRequests(std::cin, shapes,
+                         {.colours = [] { return step::Colours(); },
+                          .instances = [] { return nlohmann::json::object(); },
+                          .curves = curves});
 }
 
 /// An assembly need not be built to know its tree; a lone part is all that its file holds.
@@ -85,7 +90,10 @@ void run(const Task& task) {
         step::sendWarning(warning);
     }
     step::sendLine({{"design", step::designOf(assembly)}});
-    step::answerRequests(std::cin, shapes, [&assembly] { return step::coloursOf(assembly); });
+    step::answerRequests(std::cin, shapes,
+                         {.colours = [&assembly] { return step::coloursOf(assembly); },
+                          .instances = [&assembly] { return step::instancesOf(assembly); },
+                          .curves = assembly.curves});
 }
 
 int runOrReport(const Task& task) {

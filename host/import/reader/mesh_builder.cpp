@@ -11,6 +11,7 @@
 #include <TopTools_ShapeMapHasher.hxx>
 #include <TopoDS.hxx>
 #include <TopoDS_Iterator.hxx>
+#include <gp_Pln.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -23,7 +24,10 @@
 namespace step {
 namespace {
 
-using Colour = std::optional<host::Rgba>;
+struct Colour {
+    std::optional<host::Rgba> value;
+    bool ofFaces = false;
+};
 
 void append(std::vector<float>& values, const gp_XYZ& point) {
     for (int axis = 1; axis <= 3; ++axis) {
@@ -51,7 +55,8 @@ public:
         for (std::size_t number = 0; number < indices_.size(); ++number) {
             mesh.groups.push_back({.firstIndex = mesh.indices.size(),
                                    .indexCount = indices_[number].size(),
-                                   .colour = colours_[number]});
+                                   .colour = colours_[number].value,
+                                   .ofFaces = colours_[number].ofFaces});
             mesh.indices.insert(mesh.indices.end(), indices_[number].begin(),
                                 indices_[number].end());
         }
@@ -59,9 +64,13 @@ public:
 
 private:
     static std::int64_t keyOf(const Colour& colour) {
-        return colour ? (std::int64_t{colour->red} << 24U) + (std::int64_t{colour->green} << 16U) +
-                            (std::int64_t{colour->blue} << 8U) + colour->alpha
-                      : -1;
+        if (!colour.value) {
+            return -1;
+        }
+        return (std::int64_t{colour.ofFaces ? 1 : 0} << 32U) +
+               (std::int64_t{colour.value->red} << 24U) +
+               (std::int64_t{colour.value->green} << 16U) +
+               (std::int64_t{colour.value->blue} << 8U) + colour.value->alpha;
     }
 
     std::map<std::int64_t, std::size_t> numbers_;
@@ -76,7 +85,7 @@ public:
     /// The nearest colour above a face is its own.
     void addFaces(const TopoDS_Shape& original, const TopoDS_Shape& meshed, Colour colour) {
         if (const auto found = colours_.find(original.TShape().get()); found != colours_.end()) {
-            colour = found->second;
+            colour = {.value = found->second, .ofFaces = original.ShapeType() == TopAbs_FACE};
         }
         if (meshed.ShapeType() == TopAbs_FACE) {
             addFace(TopoDS::Face(meshed), colour);
@@ -132,11 +141,25 @@ private:
         }
     }
 
-    /// Those of the surface; where it has none, as at the tip of a cone, those of the triangles.
     void addNormals(const TopoDS_Face& face, Poly_Triangulation& triangulation, double sign) {
+        const BRepAdaptor_Surface surface(face);
+        if (surface.GetType() == GeomAbs_Plane) {
+            // Most faces are plane.
+            const gp_Ax3 frame = surface.Plane().Position();
+            const gp_XYZ normal = frame.XDirection().Crossed(frame.YDirection()).XYZ() * sign;
+            for (int node = 1; node <= triangulation.NbNodes(); ++node) {
+                append(mesh_.normals, normal);
+            }
+            return;
+        }
+        addCurvedNormals(surface, face.Location().Transformation(), triangulation, sign);
+    }
+
+    /// Those of the surface; where it has none, as at the tip of a cone, those of the triangles.
+    void addCurvedNormals(const BRepAdaptor_Surface& surface, const gp_Trsf& placement,
+                          Poly_Triangulation& triangulation, double sign) {
         triangulation.ComputeNormals();
-        const gp_Trsf placement = face.Location().Transformation();
-        BRepLProp_SLProps properties(BRepAdaptor_Surface(face), 1, Precision::Confusion());
+        BRepLProp_SLProps properties(surface, 1, Precision::Confusion());
         for (int node = 1; node <= triangulation.NbNodes(); ++node) {
             gp_Dir normal = triangulation.Normal(node).Transformed(placement);
             if (triangulation.HasUVNodes()) {
@@ -212,7 +235,7 @@ private:
 BuiltMesh meshFrom(const TopoDS_Shape& original, const TopoDS_Shape& meshed,
                    const Colours& colours) {
     MeshBuilder builder(colours);
-    builder.addFaces(original, meshed, std::nullopt);
+    builder.addFaces(original, meshed, {});
     builder.addEdges(meshed);
     return builder.result();
 }

@@ -12,7 +12,9 @@
 namespace step {
 namespace {
 
-constexpr std::array<std::string_view, 2> kWanted = {"PRODUCT", "DESCRIPTIVE_REPRESENTATION_ITEM"};
+constexpr std::string_view kStyle = "CONTEXT_DEPENDENT_OVER_RIDING_STYLED_ITEM";
+constexpr std::array<std::string_view, 3> kWanted = {"PRODUCT", "DESCRIPTIVE_REPRESENTATION_ITEM",
+                                                     kStyle};
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
@@ -36,6 +38,7 @@ public:
     }
 
     [[nodiscard]] int label() const { return label_; }
+    [[nodiscard]] bool isStyle() const { return isStyle_; }
 
     /// The strings among the parameters, as spelt between their quotes.
     std::vector<std::string> parameters() {
@@ -59,6 +62,28 @@ public:
             }
         }
         return found;
+    }
+
+    /// The labels in the last list among the parameters.
+    std::vector<int> lastReferences() {
+        std::vector<int> labels;
+        for (int depth = 0; !rest_.empty();) {
+            const char c = rest_.front();
+            depth += c == '(' ? 1 : c == ')' ? -1 : 0;
+            if (c == '(' && depth == 2) {
+                labels.clear();
+            }
+            if (c == '#') {
+                int label = 0;
+                std::from_chars(rest_.data() + 1, rest_.data() + rest_.size(), label);
+                labels.push_back(label);
+            }
+            step();
+            if (depth == 0) {
+                break;
+            }
+        }
+        return labels;
     }
 
 private:
@@ -121,6 +146,7 @@ private:
             ++length;
         }
         const std::string_view keyword = rest_.substr(0, length);
+        isStyle_ = keyword == kStyle;
         drop(length);
         skipBlanks();
         return rest_.starts_with('(') &&
@@ -129,6 +155,7 @@ private:
 
     std::string_view rest_;
     int label_ = 0;
+    bool isStyle_ = false;
 };
 
 }  // namespace
@@ -137,6 +164,10 @@ Part21Texts::Part21Texts(std::string_view file) {
     StringReader strings;
     Scanner scanner(file);
     while (scanner.next()) {
+        if (scanner.isStyle()) {
+            contexts_[scanner.label()] = scanner.lastReferences();
+            continue;
+        }
         std::vector<std::string>& parameters = instances_[scanner.label()];
         parameters = scanner.parameters();
         for (const std::string& literal : parameters) {
@@ -157,6 +188,11 @@ std::optional<std::string> Part21Texts::text(int label, std::size_t parameter) c
         return std::nullopt;
     }
     return parameter < found->second.size() ? found->second[parameter] : std::string();
+}
+
+std::vector<int> Part21Texts::contextsOf(int label) const {
+    const auto found = contexts_.find(label);
+    return found == contexts_.end() ? std::vector<int>() : found->second;
 }
 
 }  // namespace step

@@ -1,6 +1,7 @@
 #include "host/import/reader/protocol.h"
 
 #include "host/import/reader/failure_text.h"
+#include "host/import/reader/instance_colours.h"
 #include "host/import/reader/lengths.h"
 #include "host/import/reader/measurements.h"
 #include "host/import/reader/shape_classes.h"
@@ -77,6 +78,9 @@ json componentJson(const Component& component,
     json result = {
         {"id", component.id}, {"name", component.name},   {"description", component.description},
         {"uses", uses},       {"shape", component.shape}, {"bodies", component.bodyCount}};
+    if (component.curves >= 0) {
+        result["curves"] = component.curves;
+    }
     if (component.material) {
         result["material"] = component.material->name;
         if (component.material->density) {
@@ -89,14 +93,20 @@ json componentJson(const Component& component,
 /// What is worked out of the shapes, on request.
 class Answers {
 public:
-    Answers(const TopTools_IndexedMapOfShape& shapes, const std::function<Colours()>& colours)
-        : shapes_(shapes), readColours_(colours), measurements_(shapes), marks_(shapes) {}
+    Answers(const TopTools_IndexedMapOfShape& shapes, const DrawingSource& drawing)
+        : shapes_(shapes), drawing_(drawing), measurements_(shapes), marks_(shapes) {}
 
     json answer(const std::string& request) {
         std::istringstream words(request);
         std::string verb;
         int shape = -1;
         words >> verb >> shape;
+        if (verb == "instances") {
+            return drawing_.instances();
+        }
+        if (verb == "curves") {
+            return curvesOf(shape, words);
+        }
         if (shape < 0 || shape >= shapes_.Extent()) {
             return {{"error", "no such shape"}};
         }
@@ -157,11 +167,12 @@ private:
     }
 
     json meshOf(std::size_t shape, std::istream& words) {
-        if (!tessellations_) {
-            TessellationLimits limits;
-            words >> limits.triangles >> limits.seconds;
+        const TessellationLimits limits = limitsOf(words);
+        if (!tessellations_ || limits != limits_) {
+            limits_ = limits;
+            tessellations_.reset();  // with its threads
             // Where it fails, meshes are without colours.
-            const bool isByLimit = failureIn([this] { colours_ = readColours_(); }).isByLimit;
+            const bool isByLimit = failureIn([this] { colours_ = drawing_.colours(); }).isByLimit;
             tessellations_.emplace(static_cast<std::size_t>(shapes_.Extent()),
                                    [this, limits, isByLimit](std::size_t number) {
                                        Tessellation result = tessellate(
@@ -173,9 +184,24 @@ private:
         return step::jsonOf(tessellations_->take(shape));
     }
 
+    static TessellationLimits limitsOf(std::istream& words) {
+        TessellationLimits limits;
+        words >> limits.deflection >> limits.angle >> limits.triangles >> limits.seconds;
+        return limits;
+    }
+
+    json curvesOf(int number, std::istream& words) {
+        if (number < 0 || static_cast<std::size_t>(number) >= drawing_.curves.size()) {
+            return {{"error", "no such curves"}};
+        }
+        return step::jsonOf(
+            tessellateCurves(drawing_.curves[static_cast<std::size_t>(number)], limitsOf(words)));
+    }
+
     const TopTools_IndexedMapOfShape& shapes_;
-    const std::function<Colours()>& readColours_;
+    const DrawingSource& drawing_;
     Colours colours_;
+    TessellationLimits limits_;
     Measurements measurements_;
     AllMarks marks_;
     std::vector<std::optional<int>> classes_;
@@ -221,9 +247,27 @@ json designOf(const Assembly& assembly) {
             {"components", components}};
 }
 
+json instancesOf(const Assembly& assembly) {
+    const TreeOrder order(assembly);
+    json instances = json::array();
+    for (const InstanceColour& each : instanceColoursOf(assembly)) {
+        json path = json::array();
+        for (const UseIndex& use : each.path) {
+            if (const auto found = order.index.find(use.component); found != order.index.end()) {
+                path.push_back({found->second, use.use});
+            }
+        }
+        // What no root leads to is not in the design.
+        if (path.size() == each.path.size()) {
+            instances.push_back({{"path", path}, {"colour", jsonOf(each.colour)}});
+        }
+    }
+    return {{"components", order.components.size()}, {"instances", instances}};
+}
+
 void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes,
-                    const std::function<Colours()>& colours) {
-    Answers answers(shapes, colours);
+                    const DrawingSource& drawing) {
+    Answers answers(shapes, drawing);
     for (std::string request; std::getline(requests, request);) {
         json line;
         const std::string failure = failureIn([&] { line = answers.answer(request); }).text;

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <istream>
+#include <vector>
 
 /// What the reader sends, a line of JSON each, in this order:
 ///
@@ -23,12 +24,20 @@
 ///                                    extent
 ///     invariants SHAPE               {"volume": cm3, ...}: the members of host::ShapeInvariants
 ///     class SHAPE                    {"class": number}, equal for equal shapes
-///     mesh SHAPE TRIANGLES SECONDS   {"positionsMm": "...", ...}: the members of host::ShapeMesh,
+///     mesh SHAPE DEFLECTION ANGLE TRIANGLES SECONDS
+///                                    {"positionsMm": "...", ...}: the members of host::ShapeMesh,
 ///                                    or {} without any; and {"problem": "..."} where it is not
 ///                                    as asked for
+///     curves CURVES DEFLECTION ANGLE TRIANGLES SECONDS
+///                                    the same of curves
+///     instances                      {"components": number of all components, "instances":
+///                                    [{"path": [[component, use], ...], "colour": [r, g, b, a]},
+///                                    ...]}: instances with a colour of their own, see
+///                                    host::InstanceColour
 ///
 /// A component of the design has the number of its shape, or -1 where it has none, and of its
-/// bodies; bodies without a shape were not built.
+/// bodies; bodies without a shape were not built. One that has neither may have "curves", a number
+/// of its own kind.
 ///
 /// A response that a limit of time or memory has made what it is begins with "again": true, and is
 /// not to be kept: the same request may have a better one another time.
@@ -38,7 +47,8 @@
 ///
 /// In a mesh, "detail" is the number of host::MeshDetail, a group is {"indexCount": number,
 /// "colour": [r, g, b, a] or null}, and points and indices are the base64 of their bytes in memory.
-/// TRIANGLES and SECONDS of the first such request hold for all.
+/// DEFLECTION is a part of the shape's diagonal, ANGLE is in radians; meshes that are asked for in
+/// the same way one after the other are worked out on all processors.
 namespace step {
 
 /// Sends one line to the process that started the program.
@@ -50,8 +60,18 @@ void sendWarning(const Warning& warning);
 /// The tree with the components that its roots lead to.
 nlohmann::json designOf(const Assembly& assembly);
 
-/// Answers requests until there are no more. `colours` is asked for when something is to be drawn.
+/// What is asked for when something is to be drawn.
+struct DrawingSource {
+    std::function<Colours()> colours;
+    std::function<nlohmann::json()> instances;  ///< the response
+    const std::vector<TopoDS_Shape>& curves;
+};
+
+/// The response to "instances".
+nlohmann::json instancesOf(const Assembly& assembly);
+
+/// Answers requests until there are no more.
 void answerRequests(std::istream& requests, const TopTools_IndexedMapOfShape& shapes,
-                    const std::function<Colours()>& colours);
+                    const DrawingSource& drawing);
 
 }  // namespace step

@@ -19,14 +19,15 @@ std::string packed(const std::vector<Number>& numbers) {
 }
 
 json jsonOf(const std::optional<host::Rgba>& colour) {
-    return colour ? json::array({colour->red, colour->green, colour->blue, colour->alpha})
-                  : json(nullptr);
+    return colour ? step::jsonOf(*colour) : json(nullptr);
 }
 
 json jsonOf(const host::ShapeMesh& mesh) {
     json groups = json::array();
     for (const host::MeshGroup& group : mesh.groups) {
-        groups.push_back({{"indexCount", group.indexCount}, {"colour", jsonOf(group.colour)}});
+        groups.push_back({{"indexCount", group.indexCount},
+                          {"colour", jsonOf(group.colour)},
+                          {"ofFaces", group.ofFaces}});
     }
     return {{"detail", static_cast<int>(mesh.detail)},
             {"positionsMm", packed(mesh.positionsMm)},
@@ -50,6 +51,10 @@ json jsonOf(const host::ShapeInvariants& invariants) {
             {"edges", invariants.edges},
             {"vertices", invariants.vertices},
             {"faceAreas", invariants.faceAreas}};
+}
+
+json jsonOf(const host::Rgba& colour) {
+    return json::array({colour.red, colour.green, colour.blue, colour.alpha});
 }
 
 json jsonOf(const Tessellation& tessellation) {

@@ -69,15 +69,19 @@ public:
     TopTools_IndexedMapOfShape build(const Message_ProgressRange& progress) {
         transfer(progress);
         for (Component& component : assembly_.components) {
-            const Bodies bodies = place(component, fileOf(component).shapeOf(component.definition));
+            const TopoDS_Shape own =
+                place(component, fileOf(component).shapeOf(component.definition));
+            const Bodies bodies = own.IsNull() ? Bodies() : bodiesOf(own);
             component.shape = bodies.shape.IsNull() ? -1 : shapes_.Add(bodies.shape) - 1;
             component.bodyCount = bodies.count;
+            keepCurves(component, own);
         }
         for (Component& component : assembly_.components) {
             for (auto from = component.content; from && component.shape < 0;
                  from = assembly_.components[*from].content) {
                 component.shape = assembly_.components[*from].shape;
                 component.bodyCount = assembly_.components[*from].bodyCount;
+                component.curves = assembly_.components[*from].curves;
             }
         }
         if (unplaced_ > 0) {
@@ -109,8 +113,18 @@ private:
         }
     }
 
-    /// Notes the placements of what hangs below the component; returns its own bodies.
-    Bodies place(Component& component, const TopoDS_Shape& whole) {
+    void keepCurves(Component& component, const TopoDS_Shape& own) {
+        if (component.shape >= 0 || own.IsNull()) {
+            return;
+        }
+        if (const TopoDS_Shape curves = curvesOf(own); !curves.IsNull()) {
+            component.curves = static_cast<int>(assembly_.curves.size());
+            assembly_.curves.push_back(curves);
+        }
+    }
+
+    /// Notes the placements of what hangs below the component; returns what is its own.
+    TopoDS_Shape place(Component& component, const TopoDS_Shape& whole) {
         TopTools_MapOfShape below;
         for (Use& use : component.uses) {
             if (use.usage.IsNull()) {
@@ -127,7 +141,7 @@ private:
             const TopLoc_Location own = plain.IsNull() ? TopLoc_Location() : plain.Location();
             use.placement = (used.Location() * own.Inverted()).Transformation();
         }
-        return whole.IsNull() ? Bodies() : bodiesOf(without(whole, below));
+        return whole.IsNull() ? whole : without(whole, below);
     }
 
     static TopoDS_Shape without(const TopoDS_Shape& whole, const TopTools_MapOfShape& below) {
@@ -152,6 +166,17 @@ private:
 };
 
 }  // namespace
+
+TopoDS_Shape curvesOf(const TopoDS_Shape& shape) {
+    TopoDS_Compound all;
+    BRep_Builder().MakeCompound(all);
+    bool isEmpty = true;
+    for (TopExp_Explorer edges(shape, TopAbs_EDGE, TopAbs_FACE); edges.More(); edges.Next()) {
+        BRep_Builder().Add(all, edges.Current());
+        isEmpty = false;
+    }
+    return isEmpty ? TopoDS_Shape() : all;
+}
 
 Bodies bodiesOf(const TopoDS_Shape& shape) { return BodyCollector(shape).bodies(); }
 

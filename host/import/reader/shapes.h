@@ -12,7 +12,8 @@ namespace step {
 /// and returns the shapes (number 0 is the first). Components with the same shape share a number.
 ///
 /// A component's bodies are its solids and the faces that belong to none of these. Curves and
-/// points that are beside them are construction and no bodies. What hangs below it by a usage is
+/// points that are beside them are construction and no bodies; where there are no bodies the curves
+/// are kept, to be drawn. What hangs below it by a usage is
 /// not its own. Bodies that the file declares and that cannot be built whole are warned of.
 TopTools_IndexedMapOfShape buildShapes(Assembly& assembly, const Message_ProgressRange& progress);
 
@@ -23,5 +24,8 @@ struct Bodies {
 };
 
 Bodies bodiesOf(const TopoDS_Shape& shape);
+
+/// The edges in a shape that bound no face; null where there are none.
+TopoDS_Shape curvesOf(const TopoDS_Shape& shape);
 
 }  // namespace step

@@ -5,13 +5,19 @@
 
 #include "host/design/box_mesh.h"
 
+#include <BRepAdaptor_Curve.hxx>
 #include <BRepBndLib.hxx>
 #include <BRepBuilderAPI_Copy.hxx>
 #include <BRepMesh_IncrementalMesh.hxx>
+#include <BRep_Tool.hxx>
 #include <Bnd_Box.hxx>
+#include <GCPnts_TangentialDeflection.hxx>
 #include <IMeshTools_Parameters.hxx>
 #include <Message_ProgressIndicator.hxx>
 #include <Precision.hxx>
+#include <TColStd_Array1OfReal.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopoDS.hxx>
 
 #include <algorithm>
 #include <array>
@@ -25,13 +31,15 @@ namespace {
 
 struct Attempt {
     host::MeshDetail detail;
-    double deflection;  ///< of the shape's diagonal
-    double angle;       ///< between neighbouring segments, in radians
+    double deflection;  ///< times `TessellationLimits::deflection`
+    double angle;       ///< times `TessellationLimits::angle`
     double time;        ///< of `TessellationLimits::seconds`
 };
 
 constexpr std::array<Attempt, 2> kAttempts = {
-    {{host::MeshDetail::Fine, 0.001, 0.35, 1}, {host::MeshDetail::Coarse, 0.01, 1, 0.5}}};
+    {{host::MeshDetail::Fine, 1, 1, 1}, {host::MeshDetail::Coarse, 10, 3, 0.5}}};
+
+constexpr double kLargestAngle = 1.5;  // nearly a right angle
 
 /// Interrupts the mesher when its time is over.
 class Deadline final : public Message_ProgressIndicator {
@@ -69,8 +77,9 @@ Tessellation meshBy(const Attempt& attempt, const TopoDS_Shape& shape, double si
     // The triangles are kept in the shape, which others read meanwhile, or share parts of.
     const TopoDS_Shape copy = BRepBuilderAPI_Copy(shape, /*copyGeom=*/Standard_False).Shape();
     IMeshTools_Parameters parameters;
-    parameters.Deflection = std::max(attempt.deflection * size, Precision::Confusion());
-    parameters.Angle = attempt.angle;
+    parameters.Deflection =
+        std::max(attempt.deflection * limits.deflection * size, Precision::Confusion());
+    parameters.Angle = std::min(attempt.angle * limits.angle, kLargestAngle);
     BRepMesh_IncrementalMesh mesher;
     mesher.SetShape(copy);
     mesher.ChangeParameters() = parameters;
@@ -90,6 +99,49 @@ Tessellation meshBy(const Attempt& attempt, const TopoDS_Shape& shape, double si
     }
     return {.mesh = std::move(built.mesh),
             .problem = built.facesWithout == 0 ? "" : "some of its faces cannot be drawn"};
+}
+
+float finite(double value) {
+    const auto result = static_cast<float>(value);
+    if (!std::isfinite(result)) {
+        throw std::runtime_error("a point of its curves is nowhere");
+    }
+    return result;
+}
+
+void addCurve(host::ShapeMesh& mesh, const BRepAdaptor_Curve& curve, double angle,
+              double deflection) {
+    TColStd_Array1OfReal bounds(1, curve.NbIntervals(GeomAbs_C1) + 1);
+    curve.Intervals(bounds, GeomAbs_C1);
+    for (int interval = 1; interval < bounds.Upper(); ++interval) {
+        // Around a corner there would be points without end.
+        const GCPnts_TangentialDeflection points(curve, bounds(interval), bounds(interval + 1),
+                                                 angle, deflection);
+        for (int number = interval == 1 ? 1 : 2; number <= points.NbPoints(); ++number) {
+            const gp_Pnt point = points.Value(number);
+            for (int axis = 1; axis <= 3; ++axis) {
+                mesh.edgePointsMm.push_back(finite(point.Coord(axis)));
+            }
+        }
+    }
+    mesh.edgeEnds.push_back(static_cast<std::uint32_t>(mesh.edgePointsMm.size() / 3));
+}
+
+/// Throws where there would be too many lines.
+host::ShapeMesh linesBy(const TopoDS_Shape& curves, double size, const TessellationLimits& limits) {
+    host::ShapeMesh mesh;
+    const double deflection = std::max(limits.deflection * size, Precision::Confusion());
+    for (TopExp_Explorer edges(curves, TopAbs_EDGE); edges.More(); edges.Next()) {
+        const TopoDS_Edge& edge = TopoDS::Edge(edges.Current());
+        if (!BRep_Tool::Degenerated(edge)) {
+            addCurve(mesh, BRepAdaptor_Curve(edge), limits.angle, deflection);
+        }
+        if (mesh.edgePointsMm.size() / 3 > limits.triangles) {
+            throw std::runtime_error("it needs more than " + std::to_string(limits.triangles) +
+                                     " lines");
+        }
+    }
+    return mesh;
 }
 
 host::ShapeMesh boxOf(const Bnd_Box& box) {
@@ -123,6 +175,21 @@ Tessellation tessellate(const TopoDS_Shape& shape, const Colours& colours,
         isByLimit = isByLimit || failure.isByLimit;
     }
     return {.mesh = boxOf(box), .problem = failure.text, .isByLimit = isByLimit};
+}
+
+Tessellation tessellateCurves(const TopoDS_Shape& curves, const TessellationLimits& limits) {
+    Bnd_Box box;
+    Failure failure = failureIn([&] { box = boxAround(curves); });
+    if (!failure.text.empty()) {
+        return {.mesh = {}, .problem = failure.text, .isByLimit = failure.isByLimit};
+    }
+    Tessellation result;
+    const double size = std::sqrt(box.SquareExtent());
+    failure = failureIn([&] { result.mesh = linesBy(curves, size, limits); });
+    if (failure.text.empty()) {
+        return result;
+    }
+    return {.mesh = boxOf(box), .problem = failure.text, .isByLimit = failure.isByLimit};
 }
 
 }  // namespace step

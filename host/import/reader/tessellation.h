@@ -12,10 +12,14 @@
 
 namespace step {
 
-/// What drawing a shape may take.
+/// How close triangles are to a shape, and what drawing it may take.
 struct TessellationLimits {
+    double deflection = 0.001;  ///< of the shape's diagonal
+    double angle = 0.35;        ///< between neighbouring segments, in radians
     std::size_t triangles = 200'000;
     double seconds = 60;  ///< for the fine attempt; half of it again for the coarse one
+
+    bool operator==(const TessellationLimits&) const = default;
 };
 
 /// What came of a shape that is to be drawn.
@@ -29,5 +33,9 @@ struct Tessellation {
 /// beyond a limit it is drawn more coarsely, else as its box.
 Tessellation tessellate(const TopoDS_Shape& shape, const Colours& colours,
                         const TessellationLimits& limits);
+
+/// The edges of a shape that has no faces, as lines. Beyond the limit of triangles, here of lines,
+/// it is its box.
+Tessellation tessellateCurves(const TopoDS_Shape& curves, const TessellationLimits& limits);
 
 }  // namespace step

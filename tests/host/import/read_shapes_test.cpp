@@ -211,6 +211,131 @@ TEST_F(ReadShapes, HasNoColourFromAStyleOfCurves) {
     EXPECT_EQ(shapes.of(0)->mesh.value().groups.size(), 1U);
 }
 
+constexpr host::Rgba kOrange = {.red = 255, .green = 128, .blue = 0, .alpha = 255};
+
+/// Orange, for the item; takes the numbers from 9100 to 9107.
+std::string orange(const std::string& item) {
+    return style(9100, item,
+                 "#9104=SURFACE_STYLE_FILL_AREA(#9106);\n#9106=FILL_AREA_STYLE('',(#9107));\n"
+                 "#9107=FILL_AREA_STYLE_COLOUR('',#9105);\n");
+}
+
+/// The same in the context of usages; takes the number 9000 too.
+std::string instanceStyle(const std::string& item, const std::string& contexts) {
+    return orange(item) + "#9000=CONTEXT_DEPENDENT_OVER_RIDING_STYLED_ITEM('',(#9101)," + item +
+           ",#9100,(" + contexts + "));\n";
+}
+
+Product assembly(const std::string& name, const std::vector<samples::Use>& uses) {
+    return {.key = name, .id = name, .name = name, .description = "", .uses = uses};
+}
+
+/// Two frames with two plates each.
+std::string frames() {
+    return samples::stepFile(
+        "x",
+        {part("Plate", plate(10, 20, 5)),
+         assembly("Frame", {{.key = "Plate", .placement = {}}, {.key = "Plate", .placement = {}}}),
+         assembly("Rack", {{.key = "Frame", .placement = {}}, {.key = "Frame", .placement = {}}})});
+}
+
+std::string usageOf(const std::string& text, std::size_t which) {
+    return drafts::labelOf(text, "CONTEXT_DEPENDENT_SHAPE_REPRESENTATION", which);
+}
+
+/// The index of a component.
+std::size_t indexOf(const DesignData& design, const std::string& name) {
+    const auto found = std::ranges::find(design.components, name, &host::ComponentData::name);
+    return static_cast<std::size_t>(found - design.components.begin());
+}
+
+TEST_F(ReadShapes, KnowsTheColourOfAnInstance) {
+    const std::string text = frames();
+    // The usages of the frame are written first.
+    const DesignData design = designOf(drafts::withEntities(
+        text, instanceStyle(drafts::labelOf(text, "MANIFOLD_SOLID_BREP"), usageOf(text, 1))));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    const std::vector<host::InstanceColour> expected = {
+        {.path = {{.component = indexOf(design, "Frame"), .child = 1}}, .colour = kOrange}};
+    EXPECT_EQ(shapes.instanceColours, expected);
+}
+
+TEST_F(ReadShapes, KnowsTheColourOfAnInstanceByItsWholePath) {
+    const std::string text = frames();
+    const std::string solid = drafts::labelOf(text, "MANIFOLD_SOLID_BREP");
+    const std::string outer = usageOf(text, 3);
+    const std::string inner = usageOf(text, 0);
+    const DesignData outwards =
+        designOf(drafts::withEntities(text, instanceStyle(solid, inner + "," + outer)));
+    const DesignData inwards =
+        designOf(drafts::withEntities(text, instanceStyle(solid, outer + "," + inner)));
+
+    const std::vector<host::InstanceColour> expected = {
+        {.path = {{.component = indexOf(inwards, "Rack"), .child = 1},
+                  {.component = indexOf(inwards, "Frame"), .child = 0}},
+         .colour = kOrange}};
+    EXPECT_EQ(host::readShapes(inwards, {.meshes = true}).instanceColours, expected);
+    EXPECT_EQ(host::readShapes(outwards, {.meshes = true}).instanceColours, expected);
+}
+
+// As programs that use Open CASCADE write it: in the context of a representation of the usage.
+TEST_F(ReadShapes, KnowsTheColourOfAnInstanceByItsRepresentation) {
+    const std::string text = frames();
+    const std::string usage = drafts::labelOf(text, "NEXT_ASSEMBLY_USAGE_OCCURRENCE", 1);
+    const std::string solid = drafts::labelOf(text, "MANIFOLD_SOLID_BREP");
+    const DesignData design = designOf(
+        drafts::withEntities(text, "#9000=STYLED_ITEM('',(#9001)," + solid +
+                                       ");\n#9001=PRESENTATION_STYLE_BY_CONTEXT((#9102),#9011);\n"
+                                       "#9010=PRODUCT_DEFINITION_SHAPE('',''," +
+                                       usage +
+                                       ");\n#9011=SHAPE_REPRESENTATION('',(),#9);\n"
+                                       "#9012=SHAPE_DEFINITION_REPRESENTATION(#9010,#9011);\n" +
+                                       orange(solid)));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    const std::vector<host::InstanceColour> expected = {
+        {.path = {{.component = indexOf(design, "Frame"), .child = 1}}, .colour = kOrange}};
+    EXPECT_EQ(shapes.instanceColours, expected);
+}
+
+TEST_F(ReadShapes, IgnoresTheColourOfUsagesThatAreNoWay) {
+    const std::string text = frames();
+    const DesignData design = designOf(
+        drafts::withEntities(text, instanceStyle(drafts::labelOf(text, "MANIFOLD_SOLID_BREP"),
+                                                 usageOf(text, 0) + "," + usageOf(text, 1))));
+
+    EXPECT_TRUE(host::readShapes(design, {.meshes = true}).instanceColours.empty());
+}
+
+/// A part of curves alone: two lines, 10 and 5 mm long.
+std::string wireFile() {
+    std::string text = samples::stepFile("x", {part("Wire", plate(10, 20, 5))});
+    drafts::damage(text, "ADVANCED_BREP_SHAPE_REPRESENTATION('Wire',(", ")",
+                   "GEOMETRICALLY_BOUNDED_WIREFRAME_SHAPE_REPRESENTATION('Wire',(#9000)");
+    return drafts::withEntities(
+        text,
+        "#9000=GEOMETRIC_CURVE_SET('',(#9001));\n#9001=POLYLINE('',(#9002,#9003,#9004));\n"
+        "#9002=CARTESIAN_POINT('',(0.,0.,0.));\n#9003=CARTESIAN_POINT('',(10.,0.,0.));\n"
+        "#9004=CARTESIAN_POINT('',(10.,5.,0.));\n");
+}
+
+TEST_F(ReadShapes, DrawsTheCurvesOfAPartWithoutBodies) {
+    const DesignData design = designOf(wireFile());
+
+    const ShapeData shapes = host::readShapes(design, {.classes = true, .meshes = true});
+
+    EXPECT_EQ(design.components[0].geometry, nullptr);
+    ASSERT_NE(shapes.of(0), nullptr);
+    const host::ShapeMesh& mesh = shapes.of(0)->mesh.value();
+    EXPECT_EQ(mesh.triangles(), 0U);
+    const std::vector<float> corners = {0, 0, 0, 10, 0, 0, 10, 5, 0};
+    EXPECT_EQ(mesh.edgePointsMm, corners);
+    EXPECT_FALSE(shapes.classOf(0).has_value());
+}
+
 TEST_F(ReadShapes, SharesAShapeThatPartsHaveInCommon) {
     const DesignData design = designOf(
         samples::stepFile("x", {part("Plate", plate(10, 20, 5)), part("Cube", plate(10, 10, 10))}));

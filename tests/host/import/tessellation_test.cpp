@@ -2,15 +2,19 @@
 
 #include "tests/host/import/drawn_shapes.h"
 
+#include <BRepBuilderAPI_MakeEdge.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
 #include <BRepPrimAPI_MakeSphere.hxx>
 #include <BRep_Builder.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopoDS_Compound.hxx>
+#include <gp_Ax2.hxx>
+#include <gp_Circ.hxx>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <numbers>
 #include <vector>
@@ -101,7 +105,7 @@ TEST(Tessellation, ColoursAFaceOtherThanItsSolid) {
         meshOf(solid, {{solid.TShape().get(), kRed}, {face.TShape().get(), kGlass}});
 
     const std::vector<host::MeshGroup> expected = {
-        {.firstIndex = 0, .indexCount = 6, .colour = kGlass},
+        {.firstIndex = 0, .indexCount = 6, .colour = kGlass, .ofFaces = true},
         {.firstIndex = 6, .indexCount = 30, .colour = kRed}};
     EXPECT_EQ(mesh.groups, expected);
 }
@@ -141,6 +145,42 @@ TEST(Tessellation, DrawsABoxForWhatTakesTooLong) {
     EXPECT_EQ(box.mesh.value().detail, MeshDetail::Box);
     EXPECT_EQ(box.problem, "its triangles take too long");
     EXPECT_TRUE(box.isByLimit);
+}
+
+TEST(Tessellation, IsAsCloseAsAskedFor) {
+    const TopoDS_Shape sphere = BRepPrimAPI_MakeSphere(1).Shape();
+    const auto triangles = [&](double deflection, double angle) {
+        return step::tessellate(sphere, {}, {.deflection = deflection, .angle = angle})
+            .mesh.value()
+            .triangles();
+    };
+
+    EXPECT_LT(triangles(0.01, 0.8), triangles(0.001, 0.8));
+    EXPECT_LT(triangles(0.01, 0.8), triangles(0.01, 0.2));
+}
+
+TopoDS_Shape circle(double radius) {
+    return BRepBuilderAPI_MakeEdge(gp_Circ(gp_Ax2(), radius)).Edge();
+}
+
+TEST(CurveTessellation, FollowsACircle) {
+    const ShapeMesh mesh =
+        step::tessellateCurves(circle(10), {.deflection = 0.001, .angle = 0.35}).mesh.value();
+
+    EXPECT_TRUE(mesh.indices.empty());
+    ASSERT_EQ(mesh.edgeEnds.size(), 1U);
+    // 2 pi by 0.35 is 18 segments at least.
+    EXPECT_GE(mesh.edgeEnds[0], 19U);
+    for (std::size_t at = 0; at < mesh.edgePointsMm.size(); at += 3) {
+        EXPECT_NEAR(std::hypot(mesh.edgePointsMm[at], mesh.edgePointsMm[at + 1]), 10, 1e-5);
+    }
+}
+
+TEST(CurveTessellation, DrawsABoxForWhatNeedsTooManyLines) {
+    const step::Tessellation box = step::tessellateCurves(circle(10), {.triangles = 12});
+
+    EXPECT_EQ(box.mesh.value().detail, MeshDetail::Box);
+    EXPECT_EQ(box.problem, "it needs more than 12 lines");
 }
 
 TEST(Tessellation, HasNothingToDrawOfNothing) {
