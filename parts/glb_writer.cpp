@@ -1,15 +1,20 @@
 #include "parts/glb_writer.h"
 
 #include "parts/glb_meshes.h"
+#include "parts/glb_packing.h"
+#include "parts/glb_placement.h"
+#include "parts/material_colour.h"
 
 #include <nlohmann/json.hpp>
 
-#include <array>
+#include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace parts {
@@ -17,30 +22,50 @@ namespace {
 
 using nlohmann::json;
 
-constexpr double kMillimetresPerCentimetre = 10;
 constexpr double kMetresPerMillimetre = 0.001;
 
-/// Column by column, in mm; nothing for a part that stays where it is.
-json matrixOf(const host::Transform& placement) {
-    if (placement == host::Transform()) {
-        return {};
-    }
-    json cells = json::array();
-    for (std::size_t column = 0; column < 4; ++column) {
-        for (std::size_t row = 0; row < 4; ++row) {
-            const bool isShift = column == 3 && row < 3;
-            cells.push_back(placement.cells[4 * row + column] *
-                            (isShift ? kMillimetresPerCentimetre : 1));
+using Colour = std::optional<host::Rgba>;
+
+/// The colours of instances, by the last step that leads to them.
+class InstanceColours {
+public:
+    explicit InstanceColours(const std::vector<host::InstanceColour>& colours) {
+        for (const host::InstanceColour& each : colours) {
+            if (!each.path.empty()) {
+                byLast_[{each.path.back().component, each.path.back().child}].push_back(&each);
+            }
         }
     }
-    return cells;
-}
+
+    /// Of an instance: the one that is said of the longest part of its way.
+    [[nodiscard]] Colour of(const std::vector<host::InstanceStep>& steps) const {
+        const auto found = byLast_.find({steps.back().component, steps.back().child});
+        const host::InstanceColour* best = nullptr;
+        for (const host::InstanceColour* const each :
+             found == byLast_.end() ? std::vector<const host::InstanceColour*>() : found->second) {
+            const bool isLonger = best == nullptr || each->path.size() > best->path.size();
+            if (isLonger && each->path.size() <= steps.size() &&
+                std::equal(each->path.rbegin(), each->path.rend(), steps.rbegin())) {
+                best = each;
+            }
+        }
+        return best == nullptr ? std::nullopt : Colour(best->colour);
+    }
+
+private:
+    using Key = std::pair<std::size_t, std::size_t>;
+    std::map<Key, std::vector<const host::InstanceColour*>> byLast_;
+};
 
 class Model {
 public:
-    Model(const host::DesignData& design, const host::ShapeData& shapes)
-        : design_(design), shapes_(shapes), meshOf_(shapes.shapes.size()) {
-        addMeshes();
+    Model(const host::DesignData& design, const host::ShapeData& shapes, const GlbOptions& options)
+        : design_(design),
+          shapes_(shapes),
+          options_(options),
+          colours_(shapes.instanceColours),
+          shapeOf_(shapes.shapes.size()),
+          meshes_(options.packing) {
         constexpr double kHalf = 0.70710678118654757;
         // Of a drawing in mm with Z up.
         nodes_.push_back(
@@ -48,84 +73,113 @@ public:
              {"rotation", {-kHalf, 0, 0, kHalf}},
              {"scale", {kMetresPerMillimetre, kMetresPerMillimetre, kMetresPerMillimetre}},
              {"extras", extrasOf(0, "")}});
-        fill(0, 0, "");
+        fill({.number = 0, .component = 0, .path = "", .colour = {}});
     }
 
-    [[nodiscard]] json description() const {
-        json model = {{"asset", {{"version", "2.0"}, {"generator", "Tarnix"}}},
-                      {"scene", 0},
-                      {"scenes", {{{"nodes", {0}}}}},
-                      {"nodes", nodes_}};
-        meshes_.addTo(model);
-        return model;
+    /// Sets all members. Returns the bytes of the first buffer.
+    std::string moveTo(json& model) {
+        model = {{"asset", {{"version", "2.0"}, {"generator", "Tarnix"}}},
+                 {"scene", 0},
+                 {"scenes", {{{"nodes", {0}}}}}};
+        model["nodes"] = std::move(nodes_);
+        return meshes_.moveTo(model);
     }
 
-    [[nodiscard]] const std::string& bytes() const { return meshes_.bytes(); }
+    [[nodiscard]] const GlbCounts& counts() const { return meshes_.counts(); }
 
 private:
-    /// Each shape that can be seen, under the name of the first component that has it.
-    void addMeshes() {
-        for (std::size_t component = 0; component < shapes_.ofComponent.size(); ++component) {
-            const std::optional<std::size_t> shape = shapes_.ofComponent[component];
-            if (!shape || meshOf_[*shape] || !shapes_.shapes[*shape].mesh) {
-                continue;
-            }
-            const host::ShapeMesh& mesh = *shapes_.shapes[*shape].mesh;
-            if (!mesh.indices.empty() || !mesh.edgeEnds.empty()) {
-                meshOf_[*shape] = meshes_.size();
-                meshes_.add(mesh, design_.components[component].name);
-            }
-        }
-    }
+    struct Node {
+        std::size_t number = 0;
+        std::size_t component = 0;
+        std::string path;
+        Colour colour;  ///< of all in it, where an instance has one of its own
+    };
 
     [[nodiscard]] json extrasOf(std::size_t component, const std::string& path) const {
         const host::ComponentData& data = design_.components[component];
+        if (options_.extras == GlbExtras::PathAlone) {
+            return {{"path", path}};
+        }
         return {{"path", path}, {"component", data.name}, {"partNumber", data.partNumber}};
     }
 
-    /// What is in a node. As deep as the design, whose levels are limited.
-    void fill(std::size_t node, std::size_t component, const std::string& path) {
-        const std::optional<std::size_t> shape =
-            component < shapes_.ofComponent.size() ? shapes_.ofComponent[component] : std::nullopt;
-        if (shape && meshOf_[*shape]) {
-            nodes_[node]["mesh"] = *meshOf_[*shape];
+    /// The colours of a component's mesh, one for each group.
+    [[nodiscard]] std::vector<host::Rgba> coloursOf(const host::ShapeMesh& mesh,
+                                                    const Node& node) const {
+        const std::optional<host::MaterialData>& material =
+            design_.components[node.component].material;
+        const bool isStated = material && !material->nameAssumed;
+        std::vector<host::Rgba> colours;
+        for (const host::MeshGroup& group : mesh.groups) {
+            const bool isReplaced = node.colour && !(group.colour && group.ofFaces);
+            const Colour colour = isReplaced ? node.colour : group.colour;
+            colours.push_back(colour ? *colour : colourOfMaterial(isStated ? material->name : ""));
         }
+        return colours;
+    }
+
+    void setMesh(const Node& node) {
+        const host::Shape* const shape = shapes_.of(node.component);
+        if (shape == nullptr || !shape->mesh || !shape->mesh->isVisible()) {
+            return;
+        }
+        std::optional<std::size_t>& number = shapeOf_[*shapes_.ofComponent[node.component]];
+        if (!number) {
+            number = meshes_.addShape(*shape->mesh);
+        }
+        nodes_[node.number]["mesh"] = meshes_.meshOf(*number, coloursOf(*shape->mesh, node),
+                                                     design_.components[node.component].name);
+    }
+
+    /// What is in a node. As deep as the design, whose levels are limited.
+    void fill(const Node& node) {
+        setMesh(node);
         json children = json::array();
-        for (const host::OccurrenceData& child : design_.components[component].children) {
-            if (!child.absent) {
-                children.push_back(place(child, path));
+        const std::vector<host::OccurrenceData>& occurrences =
+            design_.components[node.component].children;
+        for (std::size_t child = 0; child < occurrences.size(); ++child) {
+            if (!occurrences[child].absent) {
+                children.push_back(place(node, child));
             }
         }
         if (!children.empty()) {
-            nodes_[node]["children"] = std::move(children);
+            nodes_[node.number]["children"] = std::move(children);
         }
     }
 
-    std::size_t place(const host::OccurrenceData& occurrence, const std::string& parent) {
+    std::size_t place(const Node& parent, std::size_t child) {
+        const host::OccurrenceData& occurrence =
+            design_.components[parent.component].children[child];
         const std::string name = design_.components[occurrence.component].name + ":" +
                                  std::to_string(occurrence.instance);
-        const std::string path = parent.empty() ? name : parent + "+" + name;
+        const std::string path = parent.path.empty() ? name : parent.path + "+" + name;
         json node = {{"name", name}, {"extras", extrasOf(occurrence.component, path)}};
-        if (json matrix = matrixOf(occurrence.transform); !matrix.is_null()) {
-            node["matrix"] = std::move(matrix);
-        }
+        setPlacement(node, occurrence.transform);
         const std::size_t number = nodes_.size();
         nodes_.push_back(std::move(node));
-        fill(number, occurrence.component, path);
+        steps_.push_back({.component = parent.component, .child = child});
+        fill({.number = number,
+              .component = occurrence.component,
+              .path = path,
+              .colour = parent.colour ? parent.colour : colours_.of(steps_)});
+        steps_.pop_back();
         return number;
     }
 
     const host::DesignData& design_;
     const host::ShapeData& shapes_;
-    std::vector<std::optional<std::size_t>> meshOf_;  ///< of each shape
+    GlbOptions options_;
+    InstanceColours colours_;
+    std::vector<host::InstanceStep> steps_;  ///< from the root to the node that is being filled
+    std::vector<std::optional<std::size_t>> shapeOf_;  ///< in the model, of each shape
     GlbMeshes meshes_;
     std::vector<json> nodes_;
 };
 
 void writeNumber(std::ostream& stream, std::uint64_t value) {
-    constexpr unsigned kByte = 8;
+    constexpr unsigned kBits = 8;
     for (unsigned byte = 0; byte < 4; ++byte) {
-        stream.put(static_cast<char>(value >> byte * kByte & 255U));
+        stream.put(static_cast<char>(value >> byte * kBits & 255U));
     }
 }
 
@@ -137,14 +191,18 @@ void writeChunk(std::ostream& stream, const char* kind, const std::string& bytes
 
 }  // namespace
 
-void writeGlb(const host::DesignData& design, const host::ShapeData& shapes, std::ostream& stream) {
-    const Model model(design, shapes);
-    std::string text =
-        model.description().dump(-1, ' ', /*ensure_ascii=*/false, json::error_handler_t::replace);
+GlbCounts writeGlb(const host::DesignData& design, const host::ShapeData& shapes,
+                   const GlbOptions& options, std::ostream& stream) {
+    GlbOptions possible = options;
+    possible.packing = canPack() ? options.packing : GlbPacking::Plain;
+    json model;
+    Model written(design, shapes, possible);
+    const std::string bytes = written.moveTo(model);
+    std::string text = model.dump(-1, ' ', /*ensure_ascii=*/false, json::error_handler_t::replace);
     text.resize((text.size() + 3) / 4 * 4, ' ');
     constexpr std::uint64_t kHeader = 12;
     constexpr std::uint64_t kChunkHeader = 8;
-    const std::uint64_t binary = model.bytes().empty() ? 0 : kChunkHeader + model.bytes().size();
+    const std::uint64_t binary = bytes.empty() ? 0 : kChunkHeader + bytes.size();
     const std::uint64_t size = kHeader + kChunkHeader + text.size() + binary;
     if (size > std::numeric_limits<std::uint32_t>::max()) {
         throw std::runtime_error("the model is larger than the 4 GB that glTF can hold");
@@ -154,8 +212,9 @@ void writeGlb(const host::DesignData& design, const host::ShapeData& shapes, std
     writeNumber(stream, size);
     writeChunk(stream, "JSON", text);
     if (binary > 0) {
-        writeChunk(stream, "BIN\0", model.bytes());
+        writeChunk(stream, "BIN\0", bytes);
     }
+    return written.counts();
 }
 
 }  // namespace parts

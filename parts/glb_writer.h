@@ -1,5 +1,8 @@
 #pragma once
 
+#include "parts/glb_meshes.h"
+#include "parts/glb_streams.h"
+
 #include "host/design/design_data.h"
 #include "host/design/shape_data.h"
 
@@ -7,13 +10,27 @@
 
 namespace parts {
 
-/// Writes a design as binary glTF 2.0 without extensions, for viewers and for the offline page
-/// (docs/page.md says what that reads).
+/// What a node says of its occurrence.
+enum class GlbExtras {
+    All,        ///< path, component and part number
+    PathAlone,  ///< for the offline page, which has the rest in its lists
+};
+
+struct GlbOptions {
+    /// Of a build that cannot compress, all models are plain (`canPack` in glb_packing.h).
+    GlbPacking packing = GlbPacking::Compressed;
+    GlbExtras extras = GlbExtras::All;
+};
+
+/// Writes a design as binary glTF 2.0, for viewers and for the offline page (docs/page.md says what
+/// that reads). Plain, it needs no extension; compressed, it needs KHR_mesh_quantization and
+/// EXT_meshopt_compression.
 ///
-/// Every occurrence is a node with its name and with its path, component and part number as extras;
-/// every shape that has a mesh is one mesh, which its occurrences share, with its feature edges as
-/// lines. Metres, Y up, as glTF wants it. Throws a `std::runtime_error` for a model of 4 GB or
-/// more.
-void writeGlb(const host::DesignData& design, const host::ShapeData& shapes, std::ostream& stream);
+/// Every occurrence is a node with its name, its placement, and extras; every shape that has a mesh
+/// is one mesh, which its occurrences share, with its feature edges as lines. It is one more mesh,
+/// of the same numbers, for an instance that has another colour. Metres, Y up, as glTF wants it.
+/// Returns what the model has. Throws a `std::runtime_error` for a model of 4 GB or more.
+GlbCounts writeGlb(const host::DesignData& design, const host::ShapeData& shapes,
+                   const GlbOptions& options, std::ostream& stream);
 
 }  // namespace parts

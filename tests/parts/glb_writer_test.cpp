@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <cstdint>
 #include <cstring>
 #include <sstream>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -37,9 +39,10 @@ Drawing frameWithBolts() {
     return drawing;
 }
 
-std::string glbOf(const Drawing& drawing) {
+std::string glbOf(const Drawing& drawing,
+                  const parts::GlbOptions& options = {.packing = parts::GlbPacking::Plain}) {
     std::ostringstream stream;
-    parts::writeGlb(drawing.design, drawing.shapes, stream);
+    parts::writeGlb(drawing.design, drawing.shapes, options, stream);
     return stream.str();
 }
 
@@ -72,9 +75,157 @@ TEST(GlbWriter, HasANodeForEachOccurrence) {
     EXPECT_EQ(nodes[1].at("name"), "Bolt:1");
     EXPECT_EQ(nodes[2].at("extras"),
               (json{{"path", "Bolt:2"}, {"component", "Bolt"}, {"partNumber", "B-1"}}));
-    EXPECT_FALSE(nodes[1].contains("matrix"));
+    EXPECT_FALSE(nodes[1].contains("translation"));
+    EXPECT_EQ(nodes[2].at("translation"), (json{20.0, 0.0, 0.0}));  // in mm
+}
+
+TEST(GlbWriter, SaysNothingButThePathForAPage) {
+    const json nodes =
+        descriptionOf(glbOf(frameWithBolts(), {.packing = parts::GlbPacking::Plain,
+                                               .extras = parts::GlbExtras::PathAlone}))
+            .at("nodes");
+
+    EXPECT_EQ(nodes.at(2).at("extras"), (json{{"path", "Bolt:2"}}));
+}
+
+TEST(GlbWriter, TurnsAnOccurrence) {
+    Drawing drawing = frameWithBolts();
+    // A quarter turn about z, and a half turn about x.
+    drawing.design.components[0].children[0].transform.cells = {0, -1, 0, 0, 1, 0, 0, 0,
+                                                                0, 0,  1, 0, 0, 0, 0, 1};
+    drawing.design.components[0].children[1].transform.cells = {1, 0, 0,  0, 0, -1, 0, 0,
+                                                                0, 0, -1, 0, 0, 0,  0, 1};
+
+    const json nodes = descriptionOf(glbOf(drawing)).at("nodes");
+
+    EXPECT_EQ(nodes.at(1).at("rotation"), (json{0.0, 0.0, 0.707106781, 0.707106781}));
+    EXPECT_EQ(nodes.at(2).at("rotation"), (json{1.0, 0.0, 0.0, 0.0}));
+}
+
+TEST(GlbWriter, HasAMatrixForAMirroredOccurrence) {
+    Drawing drawing = frameWithBolts();
+    drawing.design.components[0].children[1].transform.cells[0] = -1;
+
+    const json node = descriptionOf(glbOf(drawing)).at("nodes").at(2);
+
+    EXPECT_FALSE(node.contains("rotation"));
     // Column by column: the shift is the last but three of 16 numbers, in mm.
-    EXPECT_EQ(nodes[2].at("matrix").at(12), 20.0);
+    EXPECT_EQ(node.at("matrix").at(0), -1.0);
+    EXPECT_EQ(node.at("matrix").at(12), 20.0);
+}
+
+host::Rgba rgb(int red, int green, int blue) {
+    return {.red = static_cast<std::uint8_t>(red),
+            .green = static_cast<std::uint8_t>(green),
+            .blue = static_cast<std::uint8_t>(blue),
+            .alpha = 255};
+}
+
+/// The colour of the first primitive that a node leads to, proportional to light.
+json colourOf(const json& model, std::size_t node) {
+    const json& mesh =
+        model.at("meshes").at(model.at("nodes").at(node).at("mesh").get<std::size_t>());
+    const json& material =
+        model.at("materials").at(mesh.at("primitives")[0].at("material").get<std::size_t>());
+    return material.at("pbrMetallicRoughness").at("baseColorFactor");
+}
+
+TEST(GlbWriter, GivesAnInstanceAMeshOfItsOwnForItsColour) {
+    Drawing drawing = frameWithBolts();
+    drawing.shapes.instanceColours = {
+        {.path = {{.component = 0, .child = 1}}, .colour = rgb(255, 0, 0)}};
+
+    const json model = descriptionOf(glbOf(drawing));
+
+    EXPECT_EQ(model.at("meshes").size(), 2U);
+    EXPECT_NE(colourOf(model, 1), (json{1.0, 0.0, 0.0, 1.0}));
+    EXPECT_EQ(colourOf(model, 2), (json{1.0, 0.0, 0.0, 1.0}));
+    // The numbers are there once.
+    EXPECT_EQ(model["meshes"][0].at("primitives")[0].at("attributes"),
+              model["meshes"][1].at("primitives")[0].at("attributes"));
+}
+
+TEST(GlbWriter, LeavesTheColourOfAFaceInAnInstance) {
+    Drawing drawing = frameWithBolts();
+    host::ShapeMesh& mesh = *drawing.shapes.shapes[0].mesh;
+    mesh.groups = {{.firstIndex = 0, .indexCount = 6, .colour = rgb(0, 0, 255), .ofFaces = true},
+                   {.firstIndex = 6, .indexCount = 30, .colour = rgb(0, 255, 0)}};
+    drawing.shapes.instanceColours = {
+        {.path = {{.component = 0, .child = 0}}, .colour = rgb(255, 0, 0)}};
+
+    const json model = descriptionOf(glbOf(drawing));
+
+    EXPECT_EQ(colourOf(model, 1), (json{0.0, 0.0, 1.0, 1.0}));
+    const json& primitives =
+        model["meshes"][model["nodes"][1].at("mesh").get<std::size_t>()].at("primitives");
+    EXPECT_EQ(model["materials"][primitives[1].at("material").get<std::size_t>()]
+                  .at("pbrMetallicRoughness")
+                  .at("baseColorFactor"),
+              (json{1.0, 0.0, 0.0, 1.0}));
+}
+
+TEST(GlbWriter, ColoursTheInstanceThatAWholePathNames) {
+    Drawing drawing = frameWithBolts();
+    // Two frames in a rack; the first bolt of the second one is red.
+    drawing.design.components.resize(3);
+    drawing.design.components[2].name = "Rack";
+    std::swap(drawing.design.components[0], drawing.design.components[2]);
+    drawing.design.components[0].children.resize(2);
+    drawing.design.components[0].children[0].component = 2;
+    drawing.design.components[0].children[1].component = 2;
+    drawing.design.components[0].children[1].instance = 2;
+    drawing.shapes.ofComponent = {std::nullopt, 0, std::nullopt};
+    drawing.shapes.instanceColours = {
+        {.path = {{.component = 0, .child = 1}, {.component = 2, .child = 0}},
+         .colour = rgb(255, 0, 0)}};
+
+    const json model = descriptionOf(glbOf(drawing));
+
+    // Nodes: rack, frame, its bolts, frame, its bolts.
+    const json red = {1.0, 0.0, 0.0, 1.0};
+    EXPECT_NE(colourOf(model, 2), red);
+    EXPECT_EQ(colourOf(model, 5), red);
+    EXPECT_NE(colourOf(model, 6), red);
+}
+
+TEST(GlbWriter, ColoursByMaterialWhatHasNoColour) {
+    Drawing drawing = frameWithBolts();
+    drawing.design.components[1].material = {.name = "Brass, naval", .density = 0.0084};
+    const json brass = colourOf(descriptionOf(glbOf(drawing)), 1);
+    drawing.design.components[1].material->name = "CuZn37 brass";
+
+    EXPECT_EQ(colourOf(descriptionOf(glbOf(drawing)), 1), brass);
+
+    drawing.design.components[1].material->nameAssumed = true;
+    EXPECT_NE(colourOf(descriptionOf(glbOf(drawing)), 1), brass);
+}
+
+TEST(GlbWriter, DrawsEdgesAlongTheCornersOfTriangles) {
+    const json model = descriptionOf(glbOf(frameWithBolts()));
+
+    // Twelve edges of two points, in the 24 corners of the sides.
+    const json& lines = model.at("meshes")[0].at("primitives")[1];
+    EXPECT_EQ(lines.at("attributes").at("POSITION"),
+              model["meshes"][0]["primitives"][0].at("attributes").at("POSITION"));
+    EXPECT_EQ(model.at("accessors").at(lines.at("indices").get<std::size_t>()).at("count"), 24);
+    EXPECT_EQ(model["accessors"][lines["attributes"]["POSITION"].get<std::size_t>()].at("count"),
+              24);
+}
+
+TEST(GlbWriter, DrawsCurvesWithoutTriangles) {
+    Drawing drawing = frameWithBolts();
+    host::ShapeMesh wire;
+    wire.edgePointsMm = {0, 0, 0, 10, 0, 0, 10, 5, 0};
+    wire.edgeEnds = {3};
+    drawing.shapes.shapes[0].mesh = wire;
+
+    const json model = descriptionOf(glbOf(drawing));
+
+    const json& primitives = model.at("meshes").at(0).at("primitives");
+    ASSERT_EQ(primitives.size(), 1U);
+    EXPECT_EQ(primitives[0].at("mode"), 1);
+    EXPECT_EQ(model.at("accessors").at(primitives[0].at("indices").get<std::size_t>()).at("count"),
+              4);
 }
 
 TEST(GlbWriter, SharesTheMeshOfAShape) {
@@ -106,6 +257,19 @@ TEST(GlbWriter, HasAMaterialForEachColour) {
     EXPECT_EQ(model["materials"][0].at("alphaMode"), "BLEND");
     EXPECT_EQ(model["materials"][0].at("pbrMetallicRoughness").at("baseColorFactor"),
               (json{1.0, 0.0, 0.0, 0.2}));
+}
+
+TEST(GlbWriter, CountsEachMeshOnce) {
+    Drawing drawing = frameWithBolts();
+    std::ostringstream stream;
+    const parts::GlbOptions plain = {.packing = parts::GlbPacking::Plain};
+    const parts::GlbCounts once = {.meshes = 1, .triangles = 12};
+    EXPECT_EQ(parts::writeGlb(drawing.design, drawing.shapes, plain, stream), once);
+
+    drawing.shapes.instanceColours = {
+        {.path = {{.component = 0, .child = 1}}, .colour = rgb(255, 0, 0)}};
+    const parts::GlbCounts twice = {.meshes = 2, .triangles = 24};
+    EXPECT_EQ(parts::writeGlb(drawing.design, drawing.shapes, plain, stream), twice);
 }
 
 TEST(GlbWriter, WritesADesignWithoutShapes) {

@@ -1,8 +1,5 @@
 #include "workbench/commands/part_shapes.h"
 
-#include "workbench/cli/exit_code.h"
-
-#include "parts/glb_writer.h"
 #include "parts/parts_list.h"
 
 #include "host/import/read_shapes.h"
@@ -27,23 +24,6 @@ parts::PartShapes readPartShapes(const host::DesignData& design, const parts::Pa
     const host::ShapeData shapes = host::readShapes(design, {.classes = true, .meshes = isDrawn});
     addProblems(remarks, design, shapes);
     return parts::partShapesOf(shapes, isDrawn ? parts::Pictures::Drawn : parts::Pictures::None);
-}
-
-void writeModel(const host::DesignData& design, const std::string& file, std::ostream& stream,
-                Remarks& remarks) {
-    const host::ShapeData shapes = host::readShapes(design, {.meshes = true});
-    if (shapes.shapes.empty()) {
-        throw Failure(ExitCode::BadInput,
-                      file + ": has no shapes to make a model of; open a STEP or IGES file");
-    }
-    addProblems(remarks, design, shapes);
-    parts::writeGlb(design, shapes, stream);
-}
-
-host::ShapeData readMeshes(const host::DesignData& design, Remarks& remarks) {
-    host::ShapeData shapes = host::readShapes(design, {.meshes = true});
-    addProblems(remarks, design, shapes);
-    return shapes;
 }
 
 }  // namespace workbench

@@ -92,6 +92,12 @@ void checkDelimiter(const std::string& delimiter) {
     }
 }
 
+ModelDetail detailOf(const std::string& name) {
+    return name == "coarse" ? ModelDetail::Coarse
+           : name == "fine" ? ModelDetail::Fine
+                            : ModelDetail::Normal;
+}
+
 /// What is listed.
 void addContent(CLI::App& command, PartsOptions& options) {
     addView(command, options,
@@ -157,6 +163,25 @@ void addWriting(CLI::App& command, PartsOptions& options) {
                      "apostrophe marks them in CSV and TSV");
 }
 
+/// What the assembly in 3D is like.
+void addModel(CLI::App& command, PartsOptions& options) {
+    command
+        .add_option("--detail", options.detail,
+                    "How closely the model of glb and html follows the shapes")
+        ->type_name("coarse|normal|fine")
+        ->check(CLI::IsMember({"coarse", "normal", "fine"}))
+        ->capture_default_str();
+    command
+        .add_option("--max-triangles", options.writing.model.maximumTriangles,
+                    "Triangles of one shape: one that needs more is drawn more coarsely, then as\n"
+                    "its box")
+        ->type_name("COUNT")
+        ->check(CLI::Range(std::size_t{12}, std::size_t{100'000'000}))
+        ->capture_default_str();
+    command.add_flag("--plain", options.writing.model.isPlain,
+                     "Do not compress the model, for readers without extensions of glTF");
+}
+
 }  // namespace
 
 void addView(CLI::App& command, PartsOptions& options, const std::string& description) {
@@ -175,6 +200,7 @@ void addMerging(CLI::App& command, PartsOptions& options, const std::string& des
 void addPartsOptions(CLI::App& command, PartsOptions& options) {
     addContent(command, options);
     addWriting(command, options);
+    addModel(command, options);
     addReading(command, options.reading);
 }
 
@@ -208,6 +234,7 @@ PartsFormat formatOf(const PartsOptions& options, const std::string& output) {
     format.guardFormulas = !options.rawTexts;
     checkDelimiter(format.delimiter);
     format.isForFile = !output.empty();
+    format.model.detail = detailOf(options.detail);
     format.kind = options.format.empty() ? partsFormatOf(output) : parsePartsFormat(options.format);
     return format;
 }

@@ -1,13 +1,10 @@
 #pragma once
 
-#include "workbench/output/remarks.h"
-
 #include "host/design/design_data.h"
-#include "host/design/shape_data.h"
 #include "parts/parts_list.h"
 
-#include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The offline page of `parts`: lists, and the assembly in 3D.
@@ -16,9 +13,8 @@ namespace workbench {
 /// The views that a page has.
 std::vector<parts::View> pageViews();
 
-/// Writes a page with these lists of the design, with a remark how large its model is. Without
-/// meshes it is a list alone.
-void writePage(const host::DesignData& design, const host::ShapeData& meshes,
-               const std::vector<parts::PartsList>& lists, std::ostream& stream, Remarks& remarks);
+/// A page with these lists of the design, and with a model as binary glTF, which may be empty.
+std::string pageFrom(const host::DesignData& design, const std::vector<parts::PartsList>& lists,
+                     std::string_view model);
 
 }  // namespace workbench

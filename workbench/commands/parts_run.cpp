@@ -4,6 +4,7 @@
 #include "workbench/cli/quiet.h"
 #include "workbench/commands/design_reading.h"
 #include "workbench/commands/part_shapes.h"
+#include "workbench/commands/parts_model.h"
 #include "workbench/commands/parts_page.h"
 #include "workbench/output/display_text.h"
 #include "workbench/output/output_names.h"
@@ -94,10 +95,52 @@ parts::ListSource sourceOf(const PartsRun& run, const std::string& file) {
     return {.file = file, .hash = hash.empty() ? "" : "sha256:" + hash};
 }
 
+/// A model alone says nothing of masses.
+ShapeMeasures measuresFor(const PartsRun& run) {
+    const bool isNeeded = std::ranges::any_of(
+        run.tasks, [](const ListTask& task) { return task.format.kind != PartsFormatKind::Model; });
+    return isNeeded ? ShapeMeasures::Needed : ShapeMeasures::NotNeeded;
+}
+
+/// The meshes of a design, read again only where another output wants others.
+class DesignMeshes {
+public:
+    DesignMeshes(const host::DesignData& design, ShapeMeasures measures, Remarks& remarks)
+        : design_(design), measures_(measures), remarks_(remarks) {}
+
+    const host::ShapeData& like(const ModelRequest& request) {
+        if (!meshes_ || request.detail != request_.detail ||
+            request.maximumTriangles != request_.maximumTriangles) {
+            meshes_ = readMeshes(design_, request, measures_, remarks_);
+            request_ = request;
+        }
+        return *meshes_;
+    }
+
+private:
+    const host::DesignData& design_;
+    ShapeMeasures measures_;
+    Remarks& remarks_;
+    std::optional<host::ShapeData> meshes_;
+    ModelRequest request_;
+};
+
+std::string modelFile(const ListTask& task, const host::DesignData& design,
+                      const host::ShapeData& meshes, const std::string& file,
+                      FileOutcome& outcome) {
+    if (meshes.shapes.empty()) {
+        throw Failure(ExitCode::BadInput,
+                      file + ": has no shapes to make a model of; open a STEP or IGES file");
+    }
+    Model model = modelOf(design, meshes, task.format.model, parts::GlbExtras::All);
+    outcome.remarks.push_back(model.size);
+    return std::move(model.bytes);
+}
+
 /// A page has all views, whatever the view of the request is.
 std::string pageOf(const ListTask& task, const host::DesignData& design,
-                   const parts::ListSource& source, const parts::PartShapes& shapes,
-                   FileOutcome& outcome) {
+                   const host::ShapeData& meshes, const parts::ListSource& source,
+                   const parts::PartShapes& shapes, FileOutcome& outcome) {
     std::vector<parts::PartsList> lists;
     parts::PartsRequest request = task.request;
     for (const parts::View view : pageViews()) {
@@ -106,9 +149,14 @@ std::string pageOf(const ListTask& task, const host::DesignData& design,
         lists.back().source = source;
         addWarnings(outcome.remarks, lists.back().warnings);
     }
-    std::ostringstream page;
-    writePage(design, readMeshes(design, outcome.remarks), lists, page, outcome.remarks);
-    return std::move(page).str();
+    Model model;
+    if (isDrawn(meshes)) {
+        model = modelOf(design, meshes, task.format.model, parts::GlbExtras::PathAlone);
+        outcome.remarks.push_back(model.size);
+    }
+    std::string page = pageFrom(design, lists, model.bytes);
+    outcome.remarks.push_back({.kind = "page", .text = sizeText(page.size())});
+    return page;
 }
 
 void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcome) {
@@ -116,16 +164,17 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
     const parts::PartShapes shapes = shapesFor(run, design, outcome.remarks);
     const parts::PartShapes none;
     const parts::ListSource source = sourceOf(run, file);
+    DesignMeshes meshes(design, measuresFor(run), outcome.remarks);
     for (const ListTask& task : run.tasks) {
         if (task.format.kind == PartsFormatKind::Model) {
-            std::ostringstream model;
-            writeModel(design, file, model, outcome.remarks);
-            outcome.contents.push_back(std::move(model).str());
+            outcome.contents.push_back(
+                modelFile(task, design, meshes.like(task.format.model), file, outcome));
             continue;
         }
         const parts::PartShapes& known = needsShapes(task) ? shapes : none;
         if (task.format.kind == PartsFormatKind::Page) {
-            outcome.contents.push_back(pageOf(task, design, source, known, outcome));
+            outcome.contents.push_back(
+                pageOf(task, design, meshes.like(task.format.model), source, known, outcome));
             continue;
         }
         parts::PartsList list = listOf(design, task.request, known);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/output/model_request.h"
+
 #include "parts/number_text.h"
 #include "parts/parts_list.h"
 
@@ -19,6 +21,7 @@ struct PartsFormat {
     std::string delimiter = {};  ///< of CSV, one character; empty: "," or ";" with a decimal comma
     bool byteOrderMark = false;
     bool guardFormulas = true;
+    ModelRequest model = {};
     bool isForFile = false;  ///< not for stdout, so that a terminal's size and signs do not matter
 };
 

@@ -128,6 +128,33 @@ TEST_F(PartShapes, MakeAModel) {
     EXPECT_NE(model.find(R"("path":"Plate (1):1")"), std::string::npos);
 }
 
+TEST_F(PartShapes, MakeAModelWhoseSizeIsReported) {
+    const ProgramResult result = run({"parts", plates(), "--output", path("plates.glb")});
+
+    // Four plates of six sides.
+    EXPECT_NE(result.errors.find("model: 4 meshes, 48 triangles, "), std::string::npos)
+        << result.errors;
+    EXPECT_EQ(run({"parts", plates(), "--quiet", "--output", path("plates.glb")}).errors, "");
+}
+
+TEST_F(PartShapes, MakeAModelWithExtensionsUnlessAPlainOneIsAskedFor) {
+    const std::string compression = "EXT_meshopt_compression";
+    run({"parts", plates(), "--output", path("small.glb")});
+    run({"parts", plates(), "--plain", "--output", path("plain.glb")});
+
+    EXPECT_NE(test_support::readFile(path("small.glb")).find(compression), std::string::npos);
+    EXPECT_EQ(test_support::readFile(path("plain.glb")).find("extensions"), std::string::npos);
+}
+
+TEST_F(PartShapes, AreDrawnInOneOfThreeDetails) {
+    const ProgramResult result =
+        run({"parts", plates(), "--detail", "rough", "--output", path("plates.glb")});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_NE(result.errors.find("--detail"), std::string::npos) << result.errors;
+    EXPECT_NE(result.errors.find("coarse"), std::string::npos) << result.errors;
+}
+
 TEST_F(PartShapes, OfADesignFileMakeNoModel) {
     const std::string file = design("Bolt");
 
