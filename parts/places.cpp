@@ -63,7 +63,8 @@ private:
         }
         const bool isOpened = tree_.isOpened(component);
         const Row row = place(above, component, isOpened ? RowKind::Assembly : RowKind::Part, path);
-        if (isOpened) {
+        // In a tree, a filter that dropped an assembly has dropped all below it.
+        if (isOpened && (row || !isTree_)) {
             visitOpened(component, path, isTree_ ? row : std::nullopt);
         }
     }

@@ -84,6 +84,20 @@ TEST(Places, ARowOfTheTreeIsAtThePlacesOfTheRowAboveIt) {
         3.1.1 | Frame:1+Axle assembly:3+Wheel:2 Frame:1+Axle assembly:3+Wheel:3)"));
 }
 
+TEST(Places, WhatAFilterDroppedIsNowhereInTheTree) {
+    parts::PartsRequest onlyThree = request(View::Indented, "Item");
+    onlyThree.filters.push_back(parts::parseFilter("Quantity=3", onlyThree.units));
+    EXPECT_EQ(places(drawn(R"(
+                  Wheel
+                  Wheel
+                  Wheel
+                  Axle assembly
+                    Wheel
+                    Wheel)"),
+                     onlyThree),
+              "1 | Wheel:1 Wheel:2 Wheel:3");
+}
+
 TEST(Places, BodiesOfAnAssemblyHaveAPathOfTheirOwn) {
     EXPECT_EQ(places(R"(
         Frame  box=1x1x1
