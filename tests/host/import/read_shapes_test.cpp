@@ -30,6 +30,7 @@ using drafts::part;
 using drafts::plate;
 using host::DesignData;
 using host::ShapeData;
+using samples::Product;
 
 /// The names that share a class, in the order of the design.
 std::vector<std::vector<std::string>> equalOnes(const DesignData& design, const ShapeData& shapes) {
