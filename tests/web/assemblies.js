@@ -134,4 +134,16 @@ function hostile() {
   return made;
 }
 
-module.exports = {block, brackets, catalogue, hostile, hostileNames, odd};
+/// The list with its masses in grams, as `--units g` writes it.
+function inGrams(list) {
+  const made = JSON.parse(JSON.stringify(list));
+  for (const {list: {columns, rows}} of made.views) {
+    for (const column of columns.filter(({unit}) => unit === 'kg')) {
+      Object.assign(column, {unit: 'g', caption: column.caption.replace('[kg]', '[g]')});
+      for (const {cells} of rows) if (cells[column.key] !== null) cells[column.key] *= 1000;
+    }
+  }
+  return made;
+}
+
+module.exports = {block, brackets, catalogue, hostile, hostileNames, inGrams, odd};

@@ -5,7 +5,7 @@
 const assert = require('assert');
 const fs = require('fs');
 const {violations} = require('../site/browser');
-const {block, brackets, catalogue, hostile, hostileNames, odd} = require('./assemblies');
+const {block, brackets, catalogue, hostile, hostileNames, inGrams, odd} = require('./assemblies');
 const {compare} = require('./golden');
 const {startBrowser, open, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance, at, visible,
        remember, changedInstances, withPixels} = require('./page');
@@ -238,6 +238,18 @@ const tests = {
     assert.deepStrictEqual(await totals(), ['Total', '14', '0.1592', '0 / 2']);
   },
 
+  async totalsAreInTheUnitOfTheirColumn() {
+    const page = await open(inGrams(sample.list), sample.glb);
+    // 4212 + 2 * 612.4 + 6 * 19.7 + 8 * 5.13 + 123.3
+    const totals = selector => page.$$eval(selector, cells => cells.map(each => each.textContent).filter(Boolean));
+    assert.deepStrictEqual(await totals('.foot .cell'), ['Total', '18', '5719', '0 / 5']);
+    await row(page, 'BR-110').click();
+    assert.strictEqual(await summary(page), '1 row selected · 2 pcs · 1225 g');
+    await page.evaluate(() => dispatchEvent(new Event('beforeprint')));
+    assert.deepStrictEqual(await totals('.paper tfoot td'), ['Total', '18', '5719', '0 / 5']);
+    await page.evaluate(() => dispatchEvent(new Event('afterprint')));
+  },
+
   async pointsOfNumbersAreOneBelowTheOther() {
     const page = await openSample();
     const points = await page.$$eval('.body .cell.number', cells => cells.flatMap(cell => {
@@ -383,6 +395,39 @@ const tests = {
     assert.deepStrictEqual(await selectedRows(page), ['BR-110']);
   },
 
+  async marksOfAnotherExportAreTakenOverByPartNumber() {
+    const page = await openSample({});
+    const read = async json => {
+      await page.click('header .menu .tool');
+      const [chooser] = await Promise.all([page.waitForEvent('filechooser'), page.click('.panel button:has-text("Read marks")')]);
+      await chooser.setFiles({name: 'work.json', mimeType: 'application/json', buffer: Buffer.from(JSON.stringify(json))});
+      await page.waitForSelector('dialog');
+    };
+    const ordered = () => page.$$eval('.body .row', rows => rows.filter(each => each.querySelector('[aria-label=Ordered]').checked).map(each => each.querySelector('.text').textContent));
+    await page.click('.row:has-text("BR-100") [aria-label=Ordered]');
+    const other = {schema: 1, file: {name: 'older.step', sha256: '0'.repeat(64)}, state: 'search=nothing', items: {
+      'BR-110': {ordered: true}, 'BR-120': {ordered: true}, 'GONE-1': {note: 'x'}}};
+    await read(other);
+    assert.match(await page.textContent('dialog p'), /belong to another file: older.step.*3 items, 2 of them are in this list/s);
+    await page.click('dialog button:text-is("Close")');
+    assert.deepStrictEqual(await ordered(), ['BR-100']);
+    await read(other);
+    await page.click('dialog button:text-is("Take over by part number")');
+    await page.waitForSelector('dialog:has-text("2 items were taken over, 1 is not in this list")');
+    assert.match(await page.textContent('dialog'), /GONE-1/);
+    await page.click('dialog button:text-is("Close")');
+    assert.strictEqual(await page.locator('dialog').count(), 0);
+    assert.deepStrictEqual(await ordered(), ['BR-120', 'BR-110', 'BR-100']);
+    // An older export of this very file lacks all three: it asks as well.
+    await read({...other, file: sample.list.file, state: '', items: {'BR-100': {ordered: true}}});
+    await page.click('dialog button:text-is("Add to them")');
+    await page.click('dialog:has-text("1 item was taken over.") button:text-is("Close")');
+    assert.deepStrictEqual(await ordered(), ['BR-120', 'BR-110', 'BR-100']);
+    await read({...other, file: sample.list.file, state: '', items: {'BR-100': {ordered: true}}});
+    await page.click('dialog button:text-is("Replace them")');
+    assert.deepStrictEqual(await ordered(), ['BR-100']);
+  },
+
   async whatIsShownIsExportedAsCsv() {
     const page = await openSample();
     await page.fill('.list input[type=search]', 'iso');
@@ -395,14 +440,31 @@ const tests = {
   async paperGetsThePictureAndTheWholeList() {
     const made = catalogue(200);
     const page = await open(made.list, made.glb);
-    await page.evaluate(() => window.print = () => { window.printed = document.querySelectorAll('.paper tbody tr').length; });
+    await page.evaluate(() => window.print = () => dispatchEvent(new Event('beforeprint')));
     await page.click('header .menu .tool');
     await page.click('.panel button:text-is("Print")');
-    await page.waitForFunction(() => window.printed === 200);
-    assert.deepStrictEqual(await page.$$eval('.paper tfoot td', cells => cells.map(each => each.textContent).filter(Boolean)), ['Total', '200', '9.527', '0 / 200']);
     await page.emulateMedia({media: 'print'});
-    assert.deepStrictEqual([await page.isVisible('.paper img'), await page.isVisible('main')], [true, false]);
+    assert.strictEqual(await page.locator('.paper tbody tr').count(), 200);
+    assert.deepStrictEqual(await page.$$eval('.paper tfoot td', cells => cells.map(each => each.textContent).filter(Boolean)), ['Total', '200', '9.527', '0 / 200']);
+    assert.deepStrictEqual([await page.isVisible('.paper canvas'), await page.isVisible('main')], [true, false]);
+    // Cut to what is drawn: there is ink in its first line and in its last.
+    const [first, last] = await page.$eval('.paper canvas', canvas => {
+      const {data, width} = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+      return [data.subarray(0, width * 4), data.subarray(-width * 4)].map(line => line.filter((value, i) => i % 4 === 3 && value > 0).length);
+    });
+    assert.ok(first > 0 && last > 0, `${[first, last]}`);
     await page.evaluate(() => dispatchEvent(new Event('afterprint')));
+    assert.strictEqual(await page.locator('.paper').count(), 0);
+  },
+
+  async theBrowsersOwnPrintingGetsThemToo() {
+    const made = catalogue(200);
+    const page = await open(made.list, made.glb);
+    await page.evaluate(() => addEventListener('beforeprint', () => { window.paperRows = document.querySelectorAll('.paper tbody tr').length; }));
+    const pages = pdf => pdf.toString('latin1').match(/\/Type\s*\/Page\b/g).length;
+    const count = pages(await page.pdf({format: 'A4'}));
+    assert.strictEqual(await page.evaluate(() => window.paperRows), 200);
+    assert.ok(count > 2, `${count} pages`);
     assert.strictEqual(await page.locator('.paper').count(), 0);
   },
 

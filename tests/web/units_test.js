@@ -13,6 +13,7 @@ const {readGlb} = load('model/glb.ts');
 const {featureEdges} = load('model/edges.ts');
 const {arrange} = load('list/arrange.ts');
 const {csv, digitsOf, formatNumber} = load('list/format.ts');
+const {fieldOf, massIn, massUnit} = load('list/mass.ts');
 const {readPartsList, sum, total} = load('list/parts_list.ts');
 const {decode, encode} = load('page/address.ts');
 const {Links} = load('page/links.ts');
@@ -130,6 +131,15 @@ const tests = {
     // The rod's assembly and its nuts: the nuts are in it.
     const some = total(view, new Set([0, 2]));
     assert.deepStrictEqual([some.quantity, some.mass.toFixed(5)], [2, (0.1233 + 2 * 0.00513).toFixed(5)]);
+  },
+
+  massesAreInTheUnitsOfTheirColumns() {
+    const of = (...units) => units.map(unit => massIn(2, unit));
+    assert.deepStrictEqual(of('kg', 'g', 'mg', 't', 'mm', 'toString', null), [2, 2000, 2e6, 0.002, null, null, null]);
+    assert.deepStrictEqual(of('lb', 'oz').map(each => each.toFixed(4)), ['4.4092', '70.5479']);  // 1 lb is 0.45359237 kg, 16 oz
+    assert.deepStrictEqual(['totalMass 2', 'totalMass', 'Bolt 2 x'].map(fieldOf), ['totalMass', 'totalMass', 'Bolt 2 x']);
+    const columns = [{id: 'x', unit: 'mm'}, {id: 'mass', unit: 'oz'}, {id: 'totalMass', unit: 'g'}, {id: 'totalMass 2', unit: 't'}];
+    assert.deepStrictEqual([4, 2, 1].map(count => massUnit(columns.slice(0, count))), ['g', 'oz', 'kg']);
   },
 
   captionsAndSizesAreReadable() {

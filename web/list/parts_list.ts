@@ -3,6 +3,7 @@
 export interface Column {
   id: string;
   caption: string;  ///< with the unit
+  unit: string | null;
   kind: 'text' | 'number' | 'picture';
 }
 
@@ -69,7 +70,8 @@ function union(lists: any[][]): Column[] {
   const known = new Map<string, Column>();
   for (const column of lists.flat()) {
     const id = String(column.key);
-    if (!known.has(id)) known.set(id, {id, caption: String(column.caption ?? id), kind: id === pictureId ? 'picture' : 'text'});
+    if (!known.has(id)) known.set(id, {id, caption: String(column.caption ?? id), unit: column.unit === undefined ? null : String(column.unit),
+                                            kind: id === pictureId ? 'picture' : 'text'});
   }
   return [...known.values()];
 }

@@ -3,6 +3,7 @@ import {arrange, Query} from '../list/arrange.ts';
 import {download, element} from '../list/dom.ts';
 import {formatCell, formatNumber, csv} from '../list/format.ts';
 import {Grid, GridColumn} from '../list/grid.ts';
+import {fieldOf, massIn, massUnit} from '../list/mass.ts';
 import {PartsList, Row, sum, total, View} from '../list/parts_list.ts';
 import type {Model} from '../model/model.ts';
 import {Look, Viewer} from '../viewer/viewer.ts';
@@ -12,11 +13,11 @@ import {box, button, menu, press} from './controls.ts';
 import {Links} from './links.ts';
 import {Panel3d} from './panel_3d.ts';
 import {Pictures} from './pictures.ts';
-import {print} from './print.ts';
+import {printAs, Sheet} from './print.ts';
 import {splitter} from './splitter.ts';
 import {language, texts} from './texts.ts';
 import {Triad} from './triad.ts';
-import {Mark, marks, Work} from './work.ts';
+import {Mark, marks, readWork, Work, WorkDocument} from './work.ts';
 
 const addressDelay = 250;
 const lowRow = 26, highRow = 44;
@@ -120,6 +121,7 @@ export class App {
     this.search.addEventListener('input', () => this.seek());
     this.tabs.addEventListener('keydown', event => this.tabKey(event));
     addEventListener('hashchange', () => this.restore(location.hash));
+    printAs(() => this.sheet());
     if (!this.viewer) return;
     this.viewer.onHover = instance => this.hoverInstance(instance);
     this.viewer.onClick = (instance, event) => this.clickInstance(instance, event.ctrlKey || event.metaKey);
@@ -171,8 +173,10 @@ export class App {
     const shown = new Set(this.order);
     if ((marks as string[]).includes(id)) return `${this.order.filter(i => this.work.marked(this.rows[i].key, id as Mark)).length} / ${this.order.length}`;
     const {quantity, mass} = total(this.shownView, shown);
-    if (id === 'quantity') return formatNumber(quantity, null, language);
-    return id === 'totalMass' && mass !== null ? formatNumber(mass, null, language) : '';
+    if (fieldOf(id) === 'quantity') return formatNumber(quantity, null, language);
+    if (fieldOf(id) !== 'totalMass' || mass === null) return '';
+    const inUnit = massIn(mass, this.columns.unit(id));
+    return inUnit === null ? '' : formatNumber(inUnit, null, language);
   }
 
   private arrange(fromTop: boolean): void {
@@ -349,7 +353,8 @@ export class App {
     this.showMarks();
     const {quantity, mass, unknown} = sum(this.rows, this.selection);
     const count = (n: number) => formatNumber(n, null, language);
-    const facts = this.selection.size ? [`${texts.rows(this.selection.size)} ${texts.selected}`, `${count(quantity)} ${texts.pieces}`, `${count(mass)} kg`,
+    const unit = massUnit(this.list.columns);
+    const facts = this.selection.size ? [`${texts.rows(this.selection.size)} ${texts.selected}`, `${count(quantity)} ${texts.pieces}`, `${count(massIn(mass, unit)!)} ${unit}`,
                                          ...unknown ? [texts.unknownMass(unknown)] : []] : [];
     this.summary.textContent = facts.join(' · ');
     this.showStepper();
@@ -464,7 +469,7 @@ export class App {
   private exportMenu() {
     const entry = (caption: string, act: () => void) => element('button', {type: 'button', onclick: act}, caption);
     return [entry(texts.exportCsv, () => this.exportCsv()), entry(texts.exportWork, () => this.exportWork()), entry(texts.importWork, () => this.importWork()),
-            this.viewer && entry(texts.exportPicture, () => this.exportPicture()), entry(texts.print, () => this.print())];
+            this.viewer && entry(texts.exportPicture, () => this.exportPicture()), entry(texts.print, () => window.print())];
   }
 
   private get stem(): string { return this.list.file.name.replace(/\.[^.]*$/, '') || 'parts'; }
@@ -493,30 +498,50 @@ export class App {
 
   private takeWork(text: string): void {
     try {
-      const {state, otherFile} = this.work.import(text);
-      if (otherFile !== null) box(texts.importWork, texts.close, element('p', {}, texts.otherFile + otherFile));
-      else this.restore(state);
-      this.arrange(false);
+      this.offerWork(readWork(text));
     } catch (error) {
-      box(texts.importWork, texts.close, element('p', {}, texts.badWork + (error as Error).message));
+      box(texts.importWork, texts.close, [element('p', {}, texts.badWork + (error as Error).message)]);
     }
   }
 
-  private print(): void {
+  // Nothing that is marked here is lost without being asked for.
+  private offerWork(document: WorkDocument): void {
+    const items = new Set([...this.list.views.values()].flatMap(({rows}) => rows.map(row => row.key)));
+    const [known, unknown] = [true, false].map(isKnown => [...document.entries.keys()].filter(key => items.has(key) === isKnown));
+    const merge = () => {
+      this.work.merge(document, key => items.has(key));
+      this.arrange(false);
+      box(texts.importWork, texts.close, [element('p', {}, texts.taken(known.length, unknown.length)),
+                                          element('div', {class: 'lines', tabindex: 0}, element('ul', {}, ...unknown.map(key => element('li', {}, key))))]);
+    };
+    const replace = () => {
+      this.work.replace(document);
+      this.restore(document.state);
+    };
+    if (!this.work.isOf(document)) {
+      box(texts.importWork, texts.close, [element('p', {}, texts.otherFile(document.name, document.entries.size, known.length))], known.length ? [[texts.takeOver, merge]] : []);
+    } else if (this.work.wouldLose(document)) {
+      box(texts.importWork, texts.close, [element('p', {}, texts.wouldLose)], [[texts.add, merge], [texts.replace, replace]]);
+    } else {
+      replace();
+    }
+  }
+
+  private sheet(): Sheet {
     const columns = this.columns.all.filter(each => this.shownColumns.has(each.id) && each.kind !== 'picture');
     const cells = this.order.map(i => columns.map(({id, kind}) => this.text(this.rows[i], id) || (kind === 'check' ? '☐' : '')));
-    print({title: this.list.file.name, picture: this.viewer?.picture() ?? null, columns, cells, levels: this.order.map(i => this.rows[i].level),
-           totals: columns.map(({id}, i) => this.total(id) || (i === 0 ? texts.total : ''))});
+    return {title: this.list.file.name, picture: this.viewer?.drawn() ?? null, columns, cells, levels: this.order.map(i => this.rows[i].level),
+            totals: columns.map(({id}, i) => this.total(id) || (i === 0 ? texts.total : ''))};
   }
 
   private showMessages(): void {
     const part = (title: string, lines: string[]) => lines.length ? [element('h3', {}, title), element('ul', {}, ...lines.map(line => element('li', {}, line)))] : [];
     box(texts.messages(this.list.warnings.length + this.list.conflicts.length), texts.close,
-        element('div', {class: 'lines', tabindex: 0}, ...part(texts.conflicts, this.list.conflicts), ...part(texts.warnings, this.list.warnings)));
+        [element('div', {class: 'lines', tabindex: 0}, ...part(texts.conflicts, this.list.conflicts), ...part(texts.warnings, this.list.warnings))]);
   }
 
   private showKeys(): void {
-    box(texts.help, texts.close, element('dl', {}, ...texts.keys.flatMap(([key, what]) => [element('dt', {}, ...key.split(' ').map(each => each === '…' ? each : element('kbd', {}, each))), element('dd', {}, what)])));
+    box(texts.help, texts.close, [element('dl', {}, ...texts.keys.flatMap(([key, what]) => [element('dt', {}, ...key.split(' ').map(each => each === '…' ? each : element('kbd', {}, each))), element('dd', {}, what)]))]);
   }
 
   // Keys

@@ -72,6 +72,9 @@ export class Columns {
     return index === undefined ? null : row.cells[index];
   }
 
+  unit(id: string): string | null {
+    return this.list.columns[this.indices.get(id) ?? -1]?.unit ?? null;
+  }
 }
 
 function checkColumn(mark: Mark): GridColumn {

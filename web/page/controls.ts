@@ -62,11 +62,11 @@ export function menu(sign: keyof typeof icons, caption: string, fill: () => Chil
   return whole;
 }
 
-/// A window over the page, gone when closed.
-export function box(title: string, close: string, ...content: Child[]): void {
-  const dialog = element('dialog', {'aria-label': title, onclose: () => dialog.remove()},
-                         element('h2', {}, title), ...content,
-                         element('form', {method: 'dialog'}, element('button', {class: 'tool text'}, close)));
+/// A window over the page, gone when closed; each of the choices closes it, then acts.
+export function box(title: string, close: string, content: Child[], choices: [string, () => void][] = []): void {
+  const choice = ([caption, act]: [string, () => void]) => element('button', {type: 'button', class: 'tool text', onclick: () => { dialog.close(); act(); }}, caption);
+  const dialog: HTMLDialogElement = element('dialog', {'aria-label': title, onclose: () => dialog.remove()}, element('h2', {}, title), ...content,
+                         element('div', {class: 'choices'}, ...[...choices, [close, () => {}] as [string, () => void]].map(choice)));
   document.body.append(dialog);
   dialog.showModal();
 }

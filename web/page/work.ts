@@ -53,15 +53,41 @@ export class Work {
     return JSON.stringify({schema, file: this.file, state, items: Object.fromEntries(this.entries)}, null, 2) + '\n';
   }
 
-  /// Takes the entries of an exported document in place of these, and returns its state. Throws an Error when it is none.
-  import(text: string): {state: string; otherFile: string | null} {
-    const json = JSON.parse(text);
-    if (json?.schema !== schema || typeof json.items !== 'object') throw new Error('no marks of such a page');
-    this.entries = read(json.items);
-    this.keep();
-    const other = json.file?.sha256 !== this.file.sha256;
-    return {state: typeof json.state === 'string' ? json.state : '', otherFile: other ? String(json.file?.name) : null};
+  isOf(document: WorkDocument): boolean { return document.sha256 === this.file.sha256; }
+
+  /// Whether something that is marked or noted here is not in the document.
+  wouldLose({entries}: WorkDocument): boolean {
+    return [...this.entries].some(([key, {note, ...own}]) => {
+      const other = entries.get(key) ?? {};
+      return note !== undefined && note !== other.note || (Object.keys(own) as Mark[]).some(mark => !other[mark]);
+    });
   }
+
+  replace({entries}: WorkDocument): void {
+    this.entries = new Map(entries);
+    this.keep();
+  }
+
+  /// Adds the document's entries of these items to those here: what is marked stays marked, different notes are joined.
+  merge({entries}: WorkDocument, isItem: (key: string) => boolean): void {
+    for (const [key, entry] of entries) if (isItem(key)) this.entries.set(key, joined(this.entries.get(key) ?? {}, entry));
+    this.keep();
+  }
+}
+
+/// Marks and notes that were exported, with the page's state at that time.
+export interface WorkDocument { name: string; sha256: string; state: string; entries: Map<string, Entry> }
+
+/// Throws an Error when the text is no such document.
+export function readWork(text: string): WorkDocument {
+  const json = JSON.parse(text);
+  if (json?.schema !== schema || typeof json.items !== 'object') throw new Error('no marks of such a page');
+  return {name: String(json.file?.name), sha256: String(json.file?.sha256), state: typeof json.state === 'string' ? json.state : '', entries: read(json.items)};
+}
+
+function joined(here: Entry, there: Entry): Entry {
+  const notes = [...new Set([here.note, there.note].filter(Boolean))];
+  return {...here, ...there, ...notes.length ? {note: notes.join(' / ')} : {}};
 }
 
 function read(items: Record<string, any>): Map<string, Entry> {

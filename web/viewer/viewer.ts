@@ -301,8 +301,13 @@ export class Viewer {
 
   /// The canvas as it is now, as the address of a PNG.
   picture(): string {
+    return this.drawn().toDataURL();
+  }
+
+  /// The canvas, drawn; what is in it is there until the caller returns to the browser.
+  drawn(): HTMLCanvasElement {
     this.draw();
-    return this.canvas.toDataURL();
+    return this.canvas;
   }
 
   /// A picture of these instances alone, seen as in the view "iso", on nothing; the address of a PNG.
