@@ -96,6 +96,32 @@ const tests = {
     assert.deepStrictEqual(shown(screws, {search: 'm 3'}), ['M10']);
   },
 
+  marksAreFilteredByTheWordsOfBothLanguages() {
+    const ticked = [['A', true], ['B', false]];
+    const by = text => shown(ticked, {filters: new Map([['mass', text]])}).join('');
+    assert.deepStrictEqual(['yes', 'Y', 'ano', 'a', '=yes', '!=no'].map(by), ['A', 'A', 'A', 'A', 'A', 'A']);
+    assert.deepStrictEqual(['no', 'NE', 'n', '!=ano'].map(by), ['B', 'B', 'B', 'B']);
+    assert.deepStrictEqual(['perhaps', '>1', '='].map(by), ['AB', 'AB', 'AB']);
+  },
+
+  searchSeesWhatIsShown() {
+    const lines = [['False friend', false], ['B', true], ['C', 'falset']];
+    assert.deepStrictEqual(shown(lines, {search: 'false'}), ['False friend', 'C']);
+    assert.deepStrictEqual(arrange(table(lines), [{id: 'mass'}], query({search: 'friend'}), (row, id) => lines[row][id === 'name' ? 0 : 1], 'en'), []);
+  },
+
+  aNumberIsFoundAsItIsShownAndAsItIs() {
+    const lines = [['A', 0.041719999], ['B', 0.5], ['C', 12345.6], ['D', 1.0004]];
+    const by = (text, language) => arrange(table(lines), columns, query({filters: new Map([['mass', text]])}), (row, id) => lines[row][id === 'name' ? 0 : 1], language)
+        .map(i => lines[i][0]).join('');
+    const seek = (search, language) => arrange(table(lines), columns, query({search}), (row, id) => lines[row][id === 'name' ? 0 : 1], language).map(i => lines[i][0]).join('');
+    for (const language of ['en', 'cs']) {
+      assert.deepStrictEqual(['0,5', '0.5', '0,04172', '0.04172', '0.041719999', '12346', '12345.6'].map(text => seek(text, language)), ['B', 'B', 'A', 'A', 'A', 'C', 'C']);
+      assert.deepStrictEqual(['0,5', '=0.04172', '=0,041719999', '>=12346', '<=0.04172', '0.04172..0.5'].map(text => by(text, language)), ['B', 'A', 'A', 'C', 'A', 'AB']);
+      assert.deepStrictEqual(['<0.04172', '>12346', '>12345', '!=0.04172', '=1', '>'].map(text => by(text, language)), ['', '', 'C', 'BCD', 'D', 'ABCD']);
+    }
+  },
+
   aTreeKeepsWhatIsAboveAHitAndUnfoldsIt() {
     const {views} = readPartsList(brackets().list);
     const rows = views.get('indented').rows, names = order => order.map(i => rows[i].cells[2]);
@@ -172,9 +198,9 @@ const tests = {
   },
 
   numbersKeepFourSignificantDigits() {
-    const written = value => formatNumber(value, null, 'en');
+    const written = value => formatNumber(value, 'en');
     assert.deepStrictEqual([0.000012345, 0.0197, 1.23456, 12345.678, 100, 0, -0.5].map(written), ['0.00001235', '0.0197', '1.235', '12346', '100', '0', '-0.5']);
-    assert.strictEqual(formatNumber(1.5, 2, 'cs'), '1,50');
+    assert.strictEqual(formatNumber(1.5, 'cs'), '1,5');
   },
 
   aColumnHasRoomForItsNumbers() {

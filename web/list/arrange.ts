@@ -1,4 +1,5 @@
 // Which rows are shown, and in what order: search, filters, sort order, folded rows.
+import {formatCell, shownNumber} from './format.ts';
 import type {Cell, Column, Row} from './parts_list.ts';
 
 export interface Query {
@@ -12,10 +13,11 @@ export interface Query {
 export type CellOf = (row: number, column: string) => Cell | boolean;
 
 /// The indices of the shown rows, in order. A row that fits keeps those above it; in a tree the rows below
-/// one parent are sorted among themselves. Folding does not hide what was searched for.
-export function arrange(rows: Row[], columns: Pick<Column, 'id'>[], query: Query, cellOf: CellOf, language: string): number[] {
-  const wanted = fitting(rows, columns, query, cellOf);
-  const seeking = query.search.trim() !== '' || [...query.filters.values()].some(each => each.trim() !== '');
+/// one parent are sorted among themselves. Folding does not hide what was searched for. `searched`: the columns that the
+/// search looks in.
+export function arrange(rows: Row[], searched: Pick<Column, 'id'>[], query: Query, cellOf: CellOf, language: string): number[] {
+  const wanted = fitting(rows, searched, query, cellOf, language);
+  const seeking = isSeeking(query);
   const compare = order(query, cellOf, language);
   const tops = rows.flatMap((row, i) => row.parent < 0 ? [i] : []);
   const result: number[] = [];
@@ -29,18 +31,20 @@ export function arrange(rows: Row[], columns: Pick<Column, 'id'>[], query: Query
   return result;
 }
 
+/// Whether search or filters may hide rows.
+export function isSeeking({search, filters}: Query): boolean {
+  return search.trim() !== '' || [...filters.values()].some(each => each.trim() !== '');
+}
+
 function sorted(rows: number[], compare: ((a: number, b: number) => number) | null): number[] {
   return compare ? [...rows].sort(compare) : [...rows];
 }
 
-function fitting(rows: Row[], columns: Pick<Column, 'id'>[], query: Query, cellOf: CellOf): boolean[] {
+function fitting(rows: Row[], searched: Pick<Column, 'id'>[], query: Query, cellOf: CellOf, language: string): boolean[] {
   const words = plain(query.search).split(/\s+/).filter(Boolean);
-  const tests = [...query.filters].flatMap(([id, text]) => text.trim() ? [{id, test: predicate(text.trim())}] : []);
-  const wanted = rows.map((_, i) => {
-    if (!tests.every(({id, test}) => test(cellOf(i, id)))) return false;
-    const text = words.length ? plain(columns.map(({id}) => cellOf(i, id) ?? '').join('\n')) : '';
-    return words.every(word => text.includes(word));
-  });
+  const tests = [...query.filters].flatMap(([id, text]) => text.trim() ? [{id, test: predicate(text.trim(), language)}] : []);
+  const wanted = rows.map((_, i) => tests.every(({id, test}) => test(cellOf(i, id))) &&
+                                    words.every(word => searched.some(({id}) => contains(cellOf(i, id), word, language))));
   for (let i = rows.length - 1; i >= 0; --i) if (wanted[i] && rows[i].parent >= 0) wanted[rows[i].parent] = true;
   return wanted;
 }
@@ -50,29 +54,58 @@ export function plain(text: string): string {
   return text.normalize('NFD').replace(/[\u0300-\u036f]/g, '').toLowerCase();
 }
 
+const withPoint = (text: string) => text.replaceAll(',', '.');
+
+// A number has the digits that are shown, and those that it has; a box that is ticked or not has no text.
+function contains(cell: Cell | boolean, wanted: string, language: string): boolean {
+  if (cell === null || typeof cell === 'boolean') return false;
+  if (typeof cell === 'string') return plain(cell).includes(wanted);
+  return [String(cell), withPoint(formatCell(cell, language))].some(text => text.includes(withPoint(wanted)));
+}
+
+type Test = (cell: Cell | boolean) => boolean;
+
 // "> 2", "<=5", "=M5", "1..3", else what the cell contains; "yes" and "no" for marks.
-function predicate(text: string): (cell: Cell | boolean) => boolean {
-  const range = /^(-?[\d.,]+)\s*\.\.\s*(-?[\d.,]+)$/.exec(text);
-  if (range) return cell => typeof cell === 'number' && cell >= number(range[1]) && cell <= number(range[2]);
+function predicate(text: string, language: string): Test {
+  const marked = markPredicate(text), other = range(text) ?? comparison(text, language);
+  return cell => typeof cell === 'boolean' ? marked(cell) : other(cell);
+}
+
+const yes = ['yes', 'ano'], no = ['no', 'ne'];
+
+// In either language, as far as it is typed; what is neither hides nothing.
+function markPredicate(text: string): (cell: boolean) => boolean {
+  const [, sign, word] = /^(!=|=)?\s*(.*)$/s.exec(plain(text))!;
+  const wanted = [yes, no].map(words => word !== '' && words.some(each => each.startsWith(word)));
+  return cell => !wanted.includes(true) || wanted[cell ? 0 : 1] === (sign !== '!=');
+}
+
+function range(text: string): Test | null {
+  const [, low, high] = /^(-?[\d.,]+)\s*\.\.\s*(-?[\d.,]+)$/.exec(text)?.map(number) ?? [];
+  if (low === undefined) return null;
+  return cell => typeof cell === 'number' && (cell >= low && cell <= high || isNumber(cell, low) || isNumber(cell, high));
+}
+
+function comparison(text: string, language: string): Test {
   const [, sign, operand] = /^(<=|>=|!=|<|>|=)?\s*(.*)$/s.exec(text)!;
-  const value = number(operand);
-  const wanted = plain(operand);
+  const value = number(operand), wanted = plain(operand);
+  const compare = (test: (cell: number) => boolean): Test => operand === '' ? () => true : cell => typeof cell === 'number' && test(cell);
+  const equal: Test = cell => typeof cell === 'number' && !Number.isNaN(value) ? isNumber(cell, value) : plain(String(cell ?? '')) === wanted;
   switch (sign) {
-    case '<': return cell => typeof cell === 'number' && cell < value;
-    case '>': return cell => typeof cell === 'number' && cell > value;
-    case '<=': return cell => typeof cell === 'number' && cell <= value;
-    case '>=': return cell => typeof cell === 'number' && cell >= value;
-    case '=': return cell => equal(cell, wanted, value);
-    case '!=': return cell => !equal(cell, wanted, value);
-    default: return cell => typeof cell === 'boolean' ? cell === (wanted === 'yes') : plain(String(cell ?? '')).includes(wanted);
+    case '<': return compare(cell => cell < value && !isNumber(cell, value));
+    case '>': return compare(cell => cell > value && !isNumber(cell, value));
+    case '<=': return compare(cell => cell < value || isNumber(cell, value));
+    case '>=': return compare(cell => cell > value || isNumber(cell, value));
+    case '=': return equal;
+    case '!=': return cell => !equal(cell);
+    default: return cell => contains(cell, wanted, language);
   }
 }
 
-const number = (text: string) => text.trim() === '' ? NaN : Number(text.trim().replace(',', '.'));
+const number = (text: string) => text.trim() === '' ? NaN : Number(withPoint(text.trim()));
 
-function equal(cell: Cell | boolean, wanted: string, value: number): boolean {
-  return typeof cell === 'number' && !Number.isNaN(value) ? Math.abs(cell - value) <= Math.abs(value) * 5e-4 : plain(String(cell ?? '')) === wanted;
-}
+// 0.041719999 is shown as 0.04172 and is found as that.
+const isNumber = (cell: number, value: number) => cell === value || shownNumber(cell) === value;
 
 // Empty cells are last in both directions.
 function order(query: Query, cellOf: CellOf, language: string): ((a: number, b: number) => number) | null {

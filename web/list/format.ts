@@ -3,10 +3,18 @@ import type {Cell} from './parts_list.ts';
 
 const significantDigits = 4;
 
-/// A number with the column's decimals, else with four significant digits; no digit before the point is lost.
-export function formatNumber(value: number, decimals: number | null, language: string): string {
-  const [minimumFractionDigits, maximumFractionDigits] = decimals === null ? [0, fractionDigits(value)] : [decimals, decimals];
-  return new Intl.NumberFormat(language, {minimumFractionDigits, maximumFractionDigits, useGrouping: false}).format(value);
+const formatters = new Map<string, Intl.NumberFormat>();  // one takes as long to make as hundreds of numbers to write
+
+/// A number with four significant digits; no digit before the point is lost.
+export function formatNumber(value: number, language: string): string {
+  const maximumFractionDigits = fractionDigits(value), key = `${language} ${maximumFractionDigits}`;
+  if (!formatters.has(key)) formatters.set(key, new Intl.NumberFormat(language, {maximumFractionDigits, useGrouping: false}));
+  return formatters.get(key)!.format(value);
+}
+
+/// The number that is read when this one is shown.
+export function shownNumber(value: number): number {
+  return Number(value.toFixed(fractionDigits(value)));
 }
 
 function fractionDigits(value: number): number {
@@ -28,7 +36,7 @@ export function digitsOf(values: number[]): {whole: number; fraction: number} {
 export function formatCell(cell: Cell | boolean, language: string): string {
   if (cell === null) return '';
   if (typeof cell === 'boolean') return cell ? '✓' : '';
-  return typeof cell === 'number' ? formatNumber(cell, null, language) : cell;
+  return typeof cell === 'number' ? formatNumber(cell, language) : cell;
 }
 
 /// Records as RFC 4180 has them. Text that a spreadsheet would run as a formula gets an apostrophe.

@@ -173,14 +173,14 @@ export class App {
     const shown = new Set(this.order);
     if ((marks as string[]).includes(id)) return `${this.order.filter(i => this.work.marked(this.rows[i].key, id as Mark)).length} / ${this.order.length}`;
     const {quantity, mass} = total(this.shownView, shown);
-    if (fieldOf(id) === 'quantity') return formatNumber(quantity, null, language);
+    if (fieldOf(id) === 'quantity') return formatNumber(quantity, language);
     if (fieldOf(id) !== 'totalMass' || mass === null) return '';
     const inUnit = massIn(mass, this.columns.unit(id));
-    return inUnit === null ? '' : formatNumber(inUnit, null, language);
+    return inUnit === null ? '' : formatNumber(inUnit, language);
   }
 
   private arrange(fromTop: boolean): void {
-    this.order = arrange(this.rows, this.columns.all, this.query, (row, id) => this.columns.cell(this.rows[row], id), language);
+    this.order = arrange(this.rows, this.columns.all.filter(each => this.shownColumns.has(each.id)), this.query, (row, id) => this.columns.cell(this.rows[row], id), language);
     this.grid.show(this.source(), fromTop);
     this.nothing.hidden = this.order.length > 0 || this.rows.length === 0;
     this.counted.textContent = texts.shown(this.order.length, this.rows.length);
@@ -352,7 +352,7 @@ export class App {
   private showSelection(): void {
     this.showMarks();
     const {quantity, mass, unknown} = sum(this.rows, this.selection);
-    const count = (n: number) => formatNumber(n, null, language);
+    const count = (n: number) => formatNumber(n, language);
     const unit = massUnit(this.list.columns);
     const facts = this.selection.size ? [`${texts.rows(this.selection.size)} ${texts.selected}`, `${count(quantity)} ${texts.pieces}`, `${count(massIn(mass, unit)!)} ${unit}`,
                                          ...unknown ? [texts.unknownMass(unknown)] : []] : [];

@@ -2,7 +2,7 @@
 
 const english = {
   parts: 'Parts', indented: 'Indented', top: 'Top level', all: 'All items',
-  views: 'View of the list', search: 'Search', searchHint: 'Search in all columns', filters: 'Filters', columns: 'Columns',
+  views: 'View of the list', search: 'Search', searchHint: 'Search in the columns shown', filters: 'Filters', columns: 'Columns',
   list: 'Parts list', total: 'Total', fold: 'Fold', unfold: 'Unfold', filterFor: (caption: string) => `Filter: ${caption}`,
   thumbnail: 'Picture', ordered: 'Ordered', made: 'Made', mounted: 'Mounted', note: 'Note',
   model: 'Assembly in 3D', modelHelp: 'Arrow keys turn, Shift with arrow keys moves, plus and minus zoom, F fits.',
@@ -39,7 +39,7 @@ const plural = (n: number, one: string, few: string, many: string) => `${n} ${n 
 
 const czech: Texts = {
   parts: 'Díly', indented: 'Struktura', top: 'Nejvyšší úroveň', all: 'Všechny položky',
-  views: 'Pohled na seznam', search: 'Hledat', searchHint: 'Hledat ve všech sloupcích', filters: 'Filtry', columns: 'Sloupce',
+  views: 'Pohled na seznam', search: 'Hledat', searchHint: 'Hledat v zobrazených sloupcích', filters: 'Filtry', columns: 'Sloupce',
   list: 'Kusovník', total: 'Celkem', fold: 'Sbalit', unfold: 'Rozbalit', filterFor: caption => `Filtr: ${caption}`,
   thumbnail: 'Náhled', ordered: 'Objednáno', made: 'Vyrobeno', mounted: 'Namontováno', note: 'Poznámka',
   model: 'Sestava ve 3D', modelHelp: 'Šipky otáčejí, Shift se šipkami posouvá, plus a minus přibližují a oddalují, F zobrazí vše.',
