@@ -250,6 +250,27 @@ const tests = {
     await page.evaluate(() => dispatchEvent(new Event('afterprint')));
   },
 
+  async whatIsInDoubtHasASign() {
+    const made = JSON.parse(JSON.stringify(sample.list));
+    const [nut, bolt] = ['ISO 4032 M8', 'ISO 4017 M8x30'].map(number => made.views[0].list.rows.find(({cells}) => cells.partNumber === number));
+    nut.assumed = true;
+    Object.assign(bolt, {unmeasured: true, massKg: null, totalMassKg: null});
+    Object.assign(bolt.cells, {mass: null, totalMass: null});
+    Object.assign(made.views[0].list.totals, {massKg: 5.60044, assumed: true, unmeasured: true});
+    const page = await open(made, sample.glb);
+    const signs = selector => page.$$eval(selector, cells => cells.map(each => `${each.getAttribute('aria-label')}: ${each.parentElement.textContent}`));
+    assert.deepStrictEqual(await signs('.body .row:has-text("ISO 4032") .doubt, .body .row:has-text("ISO 4017") .doubt'), [
+      'material or density assumed: ≈0.00513', 'material or density assumed: ≈0.04104', 'material or density assumed: ≈Brass', 'cannot be measured: –', 'cannot be measured: –']);
+    assert.deepStrictEqual(await signs('.foot .doubt'), ['at least: a mass is missing: ≥5.6']);
+    assert.strictEqual(await page.textContent('.counted'), '5 rows · at least: 1 without mass · materials assumed');
+    await row(page, 'ISO 4032 M8').click();
+    assert.strictEqual(await summary(page), '1 row selected · 8 pcs · 0.04104 kg · materials assumed');
+    await page.evaluate(() => dispatchEvent(new Event('beforeprint')));
+    assert.match(await page.textContent('.paper'), /≈ 0.04104.*≥ 5.6.*≈ material or density assumed · – cannot be measured/s);
+    await page.evaluate(() => dispatchEvent(new Event('afterprint')));
+    assert.strictEqual(await violations(page), '');
+  },
+
   async pointsOfNumbersAreOneBelowTheOther() {
     const page = await openSample();
     const points = await page.$$eval('.body .cell.number', cells => cells.flatMap(cell => {
@@ -541,7 +562,9 @@ const tests = {
     assert.strictEqual(await page.getAttribute('html', 'lang'), 'cs');
     assert.deepStrictEqual(await page.$$eval('[role=tab]', tabs => tabs.map(each => each.textContent)), ['Díly', 'Struktura', 'Nejvyšší úroveň']);
     await row(page, 'ISO 4032 M8').click();
-    assert.strictEqual(await summary(page), '1 řádek vybráno · 8 ks · 0,04104 kg');
+    assert.strictEqual(await summary(page), 'Vybráno: 1 řádek · 8 ks · 0,04104 kg');
+    await row(page, 'BR-100').click({modifiers: ['Control']});
+    assert.match(await summary(page), /^Vybráno: 2 řádky · 9 ks · /);
     const {text} = await download(page, 'Seznam jako CSV');
     assert.match(text, /^\ufeffČíslo dílu;Název;Počet;Hmotnost \[kg\];/);
     assert.match(text, /ISO 4032 M8;Nut;8;0,00513;0,04104;Brass;0;\r\n/);

@@ -12,6 +12,7 @@ const web = path.join(__dirname, '../../web');
 const {readGlb} = load('model/glb.ts');
 const {featureEdges} = load('model/edges.ts');
 const {arrange} = load('list/arrange.ts');
+const {doubtOf, doubtOfTotal} = load('list/doubt.ts');
 const {csv, digitsOf, formatNumber} = load('list/format.ts');
 const {fieldOf, massIn, massUnit} = load('list/mass.ts');
 const {readPartsList, sum, total} = load('list/parts_list.ts');
@@ -132,10 +133,34 @@ const tests = {
   },
 
   aSumCountsNothingTwice() {
-    const rows = readPartsList(brackets().list).views.get('indented').rows;
-    const {quantity, mass} = sum(rows, new Set([3, 4, 6]));
+    const {views, paths} = readPartsList(brackets().list);
+    const {quantity, mass} = sum(views.get('indented'), new Set([3, 4, 6]), paths);
     assert.strictEqual(quantity, 2);
     assert.ok(Math.abs(mass - 2 * (0.6124 + 3 * (0.0197 + 0.00513))) < 1e-12);
+  },
+
+  anAssemblyBesideItsPartsIsNotCountedTwice() {
+    const paths = ['A:1', 'A:1+Nut:1', 'Nut:2', 'A:1#bodies'];
+    const row = (kind, quantity, totalMassKg, number) => ({item: number, kind, quantity, totalMassKg, components: [{partNumber: number}], cells: {}});
+    const rows = [row('assembly', 1, 1.5, 'A'), row('part', 2, 1, 'NUT'), row('own-bodies', 1, 1, 'A')];
+    const {views, paths: read} = readPartsList({schema: 'tarnix-page', version: 1, file: {}, paths, views: [
+      {list: {schema: 'tarnix-parts', version: 1, view: 'all', columns: [], rows, totals: {massKg: 2}}, occurrences: [[0], [1, 2], [3]]}]});
+    const of = (...chosen) => { const {quantity, mass} = sum(views.get('all'), new Set(chosen), read); return [quantity, mass]; };
+    assert.deepStrictEqual([of(0), of(1), of(0, 1), of(0, 2), of(1, 2), of(0, 1, 2)], [[1, 1.5], [2, 1], [2, 2], [1, 1.5], [3, 2], [2, 2]]);
+  },
+
+  whatIsInDoubtIsSaid() {
+    const {list} = brackets();
+    const [nut, bolt] = [1, 3];  // rod, nut, bracket, bolt, plate
+    Object.assign(list.views[0].list.rows[nut], {assumed: true});
+    Object.assign(list.views[0].list.rows[bolt], {unmeasured: true, totalMassKg: null});
+    Object.assign(list.views[0].list.rows[bolt].cells, {mass: null, totalMass: null});
+    const {views, paths} = readPartsList(list), view = views.get('parts');
+    const doubts = row => ['partNumber', 'mass', 'totalMass 2', 'material', 'volume'].map(id => doubtOf(view.rows[row], id, id === 'volume' ? null : row === bolt && id !== 'material' ? null : 'x'));
+    assert.deepStrictEqual([0, nut, bolt].map(doubts), [Array(5).fill(null), [null, 'assumed', 'assumed', 'assumed', null], [null, 'unmeasured', 'unmeasured', null, 'unmeasured']]);
+    const of = (...rows) => doubtOfTotal(total(view, new Set(rows), paths));
+    assert.deepStrictEqual([of(0), of(0, nut), of(0, nut, bolt), of(0, 1, 2, 3, 4)], [null, 'assumed', 'atLeast', 'atLeast']);
+    assert.strictEqual(sum(view, new Set([nut, bolt]), paths).unknown, 1);
   },
 
   aListThatIsNotAsDescribedIsRefused() {
@@ -150,12 +175,12 @@ const tests = {
   },
 
   aTotalCountsWhatIsNotOpened() {
-    const view = readPartsList(brackets().list).views.get('indented');
-    const all = total(view, new Set(view.rows.keys()));
+    const {views, paths} = readPartsList(brackets().list), view = views.get('indented');
+    const all = total(view, new Set(view.rows.keys()), paths);
     assert.strictEqual(all.quantity, 18);
     assert.ok(Math.abs(all.mass - (4.212 + 2 * 0.6124 + 6 * 0.0197 + 8 * 0.00513 + 0.1233)) < 1e-12);
     // The rod's assembly and its nuts: the nuts are in it.
-    const some = total(view, new Set([0, 2]));
+    const some = total(view, new Set([0, 2]), paths);
     assert.deepStrictEqual([some.quantity, some.mass.toFixed(5)], [2, (0.1233 + 2 * 0.00513).toFixed(5)]);
   },
 

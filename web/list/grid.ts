@@ -1,6 +1,7 @@
 // A table of any length: only the rows in sight are elements. Focus stays on the table, which says which cell
 // is active, so that a row that scrolls out of sight takes no focus with it.
 import {element} from './dom.ts';
+import {Doubt, doubtSigns} from './doubt.ts';
 
 export interface GridColumn {
   id: string;
@@ -27,6 +28,8 @@ export interface GridSource {
   hovered(row: number): boolean;
   sort(column: GridColumn): 'ascending' | 'descending' | 'none';
   total(column: GridColumn): string;
+  doubt(row: number, column: GridColumn): Doubt | null;
+  totalDoubt(column: GridColumn): Doubt | null;
   filter(column: GridColumn): string;
 }
 
@@ -40,7 +43,7 @@ export interface GridActions {
   filter(column: GridColumn, text: string): void;
 }
 
-export interface GridTexts { label: string; filter(caption: string): string; fold: string; unfold: string; total: string }
+export interface GridTexts { label: string; filter(caption: string): string; fold: string; unfold: string; total: string; doubts: Record<Doubt, string> }
 
 const overscan = 4;
 
@@ -95,7 +98,7 @@ export class Grid {
   drawFoot(): void {
     const cells = this.source.columns.map((column, i) => {
       const text = this.source.total(column) || (i === 0 ? this.texts.total : '');
-      const cell = element('div', {role: 'gridcell', class: `cell ${column.kind}`, 'aria-colindex': i + 1}, text);
+      const cell = element('div', {role: 'gridcell', class: `cell ${column.kind}`, 'aria-colindex': i + 1}, this.makeSign(this.source.totalDoubt(column)), text);
       align(cell, text, column);
       return cell;
     });
@@ -173,11 +176,15 @@ export class Grid {
       this.source.picture(row, address => cell.replaceChildren(element('img', {src: address, alt: ''})));
     } else {
       const text = this.source.text(row, column);
-      cell.append(text);
+      cell.append(this.makeSign(this.source.doubt(row, column)) ?? '', text);
       align(cell, text, column);
       if (text.length > 12) cell.title = text;
     }
     return cell;
+  }
+
+  private makeSign(doubt: Doubt | null): HTMLElement | null {
+    return doubt && element('span', {class: 'doubt', role: 'img', title: this.texts.doubts[doubt], 'aria-label': this.texts.doubts[doubt]}, doubtSigns[doubt]);
   }
 
   private addTwisty(cell: HTMLElement, row: number): void {

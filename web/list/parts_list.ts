@@ -19,7 +19,8 @@ export interface Row {
   quantity: number;       ///< in all of the assembly
   mass: number | null;    ///< of one, in kg
   totalMass: number | null;
-  marked: boolean;        ///< its mass rests on what is assumed
+  assumed: boolean;       ///< its mass rests on an assumed material or density
+  unmeasured: boolean;    ///< a body in it has no measures
   occurrences: number[];  ///< indices in `paths`
 }
 
@@ -105,7 +106,7 @@ function readRow(row: any, columns: Column[], occurrences: unknown, level: numbe
   return {key: `${first.partNumber || first.name || row.item}${row.kind === 'own-bodies' ? ' (own bodies)' : ''}`,
           cells: columns.map(({id}) => readCell(row.cells?.[id])), level, parent, children: [], opened: row.kind === 'assembly',
           quantity: Number(row.quantity ?? 0), mass: numberOrNull(row.massKg), totalMass: numberOrNull(row.totalMassKg),
-          marked: row.assumed === true || row.unmeasured === true, occurrences: array(occurrences, 'of occurrences').map(Number)};
+          assumed: row.assumed === true, unmeasured: row.unmeasured === true, occurrences: array(occurrences, 'of occurrences').map(Number)};
 }
 
 /// Gives rows that stand for one item the same key in all views, and different items of one part number, which lists merged
@@ -140,31 +141,57 @@ function messages(lists: any[]): {conflicts: string[]; warnings: string[]} {
   return {conflicts: once(conflicts), warnings: once(warnings)};
 }
 
-/// Quantity and mass of these rows; a row below another one of them is in it already. `unknown`: rows without a mass.
-export function sum(rows: Row[], chosen: Set<number>): {quantity: number; mass: number; unknown: number} {
-  const result = {quantity: 0, mass: 0, unknown: 0};
+export interface Sum {
+  quantity: number;
+  mass: number | null;  ///< null where the list has no masses
+  unknown: number;      ///< rows without a mass
+  assumed: boolean;     ///< a material or density is assumed
+}
+
+/// Quantity and mass of these rows; what is in another one of them is in its sum already.
+export function sum(view: View, chosen: Set<number>, paths: string[]): Sum {
+  const {rows} = view, result: Sum = {quantity: 0, mass: view.totalMass === null ? null : 0, unknown: 0, assumed: false};
+  const places = new Set([...chosen].filter(index => rows[index].opened).flatMap(index => rows[index].occurrences.map(path => paths[path])));
   for (const index of chosen) {
-    const row = rows[index];
-    if (hasAncestorIn(rows, index, chosen)) continue;
-    result.quantity += row.quantity;
-    result.mass += row.totalMass ?? 0;
+    const row = rows[index], share = hasAncestorIn(rows, index, chosen) ? 0 : shareBeside(places, row, paths);
+    if (!share) continue;
+    result.quantity += Math.round(row.quantity * share);
+    result.assumed ||= row.assumed;
+    if (result.mass === null) continue;
+    result.mass += (row.totalMass ?? 0) * share;
     result.unknown += row.totalMass === null ? 1 : 0;
   }
   return result;
 }
 
-export function hasAncestorIn(rows: Row[], index: number, chosen: Set<number>): boolean {
+function hasAncestorIn(rows: Row[], index: number, chosen: Set<number>): boolean {
   for (let at = rows[index].parent; at >= 0; at = rows[at].parent) if (chosen.has(at)) return true;
   return false;
 }
 
+const ownMark = '#bodies';
+
+/// How much of a row is in none of these places of assemblies: a flat list has an assembly beside its parts.
+function shareBeside(places: Set<string>, row: Row, paths: string[]): number {
+  if (!places.size || !row.occurrences.length) return 1;
+  const beside = row.occurrences.filter(index => !above(paths[index]).some(path => places.has(path)));
+  return beside.length / row.occurrences.length;
+}
+
+/// The paths of what an occurrence is in.
+function above(path: string): string[] {
+  const result = path.endsWith(ownMark) ? [path.slice(0, -ownMark.length)] : [];
+  for (let at = path.lastIndexOf('+'); at > 0; at = path.lastIndexOf('+', at - 1)) result.push(path.slice(0, at));
+  return result;
+}
+
 /// What a list that shows these rows adds up to: as `parts` counts, items that are not opened, and nothing twice.
-export function total(view: View, shown: Set<number>): {quantity: number; mass: number | null} {
+export function total(view: View, shown: Set<number>, paths: string[]): Sum {
   const rows = [...shown].map(index => view.rows[index]);
   const quantity = rows.reduce((whole, row) => whole + (row.opened ? 0 : row.quantity), 0);
-  if (shown.size === view.rows.length) return {quantity, mass: view.totalMass};
   // In a flat list an opened assembly stands beside its parts.
   const isTree = view.rows.some(row => row.parent >= 0);
   const counted = new Set([...shown].filter(index => isTree || !view.rows[index].opened || rows.every(row => row.opened)));
-  return {quantity, mass: sum(view.rows, counted).mass};
+  const added = sum(view, counted, paths);
+  return {...added, quantity, mass: shown.size === view.rows.length ? view.totalMass : added.mass};
 }

@@ -1,10 +1,11 @@
 // The page: the list on one side, the assembly on the other, and what leads from one to the other.
 import {arrange, Query} from '../list/arrange.ts';
 import {download, element} from '../list/dom.ts';
+import {Doubt, doubtOf, doubtOfTotal, doubtSigns} from '../list/doubt.ts';
 import {formatCell, formatNumber, csv} from '../list/format.ts';
 import {Grid, GridColumn} from '../list/grid.ts';
 import {fieldOf, massIn, massUnit} from '../list/mass.ts';
-import {PartsList, Row, sum, total, View} from '../list/parts_list.ts';
+import {PartsList, Row, Sum, sum, total, View} from '../list/parts_list.ts';
 import type {Model} from '../model/model.ts';
 import {Look, Viewer} from '../viewer/viewer.ts';
 import {Address, decode, encode} from './address.ts';
@@ -36,6 +37,7 @@ export class App {
   private query: Query = {search: '', filters: new Map(), sort: null, folded: new Set()};
   private shownColumns: Set<string>;
   private order: number[] = [];       // rows of the view, as shown
+  private shownSum: Sum = {quantity: 0, mass: null, unknown: 0, assumed: false};  // of these
   private selection = new Set<number>();
   private anchor = -1;                // row that a range of rows begins with
   private step = -1;                  // place of the selected row; -1: all of them
@@ -67,7 +69,7 @@ export class App {
     }
     this.columns = new Columns(list, this.work, this.viewer !== null);
     this.shownColumns = new Set(this.columns.all.map(each => each.id).filter(id => this.columns.shownAtFirst(id)));
-    this.grid = new Grid(this.source(), this.actions(), {label: texts.list, filter: texts.filterFor, fold: texts.fold, unfold: texts.unfold, total: texts.total});
+    this.grid = new Grid(this.source(), this.actions(), {label: texts.list, filter: texts.filterFor, fold: texts.fold, unfold: texts.unfold, total: texts.total, doubts: texts.doubts});
     if (this.viewer) this.panel = new Panel3d(this.viewer, this, () => this.keepAddress());
     this.lay(modelProblem);
     this.connect();
@@ -151,6 +153,8 @@ export class App {
       hovered: (at: number) => this.order[at] === this.hovered,
       sort: (column: GridColumn) => this.query.sort?.id !== column.id ? 'none' as const : this.query.sort.descending ? 'descending' as const : 'ascending' as const,
       total: (column: GridColumn) => this.total(column.id),
+      doubt: (at: number, column: GridColumn) => this.doubt(rowOf(at), column.id),
+      totalDoubt: (column: GridColumn) => fieldOf(column.id) === 'totalMass' ? this.totalDoubt() : null,
       filter: (column: GridColumn) => this.query.filters.get(column.id) ?? ''};
   }
 
@@ -169,21 +173,29 @@ export class App {
     return formatCell(this.columns.cell(row, id), language);
   }
 
+  private doubt(row: Row, id: string): Doubt | null {
+    return doubtOf(row, id, this.columns.cell(row, id));
+  }
+
+  private totalDoubt(): Doubt | null {
+    return this.shownSum.mass === null ? null : doubtOfTotal(this.shownSum);
+  }
+
   private total(id: string): string {
-    const shown = new Set(this.order);
     if ((marks as string[]).includes(id)) return `${this.order.filter(i => this.work.marked(this.rows[i].key, id as Mark)).length} / ${this.order.length}`;
-    const {quantity, mass} = total(this.shownView, shown);
-    if (fieldOf(id) === 'quantity') return formatNumber(quantity, language);
-    if (fieldOf(id) !== 'totalMass' || mass === null) return '';
-    const inUnit = massIn(mass, this.columns.unit(id));
+    if (fieldOf(id) === 'quantity') return formatNumber(this.shownSum.quantity, language);
+    if (fieldOf(id) !== 'totalMass') return '';
+    const {mass} = this.shownSum, inUnit = mass === null ? null : massIn(mass, this.columns.unit(id));
     return inUnit === null ? '' : formatNumber(inUnit, language);
   }
 
   private arrange(fromTop: boolean): void {
     this.order = arrange(this.rows, this.columns.all.filter(each => this.shownColumns.has(each.id)), this.query, (row, id) => this.columns.cell(this.rows[row], id), language);
+    this.shownSum = total(this.shownView, new Set(this.order), this.list.paths);
     this.grid.show(this.source(), fromTop);
     this.nothing.hidden = this.order.length > 0 || this.rows.length === 0;
-    this.counted.textContent = texts.shown(this.order.length, this.rows.length);
+    const {mass, unknown, assumed} = this.shownSum;
+    this.counted.textContent = [texts.shown(this.order.length, this.rows.length), ...mass === null ? [] : doubts(unknown, assumed)].join(' · ');
     this.keepAddress();
   }
 
@@ -351,11 +363,11 @@ export class App {
 
   private showSelection(): void {
     this.showMarks();
-    const {quantity, mass, unknown} = sum(this.rows, this.selection);
+    const {quantity, mass, unknown, assumed} = sum(this.shownView, this.selection, this.list.paths);
     const count = (n: number) => formatNumber(n, language);
     const unit = massUnit(this.list.columns);
-    const facts = this.selection.size ? [`${texts.rows(this.selection.size)} ${texts.selected}`, `${count(quantity)} ${texts.pieces}`, `${count(massIn(mass, unit)!)} ${unit}`,
-                                         ...unknown ? [texts.unknownMass(unknown)] : []] : [];
+    const facts = this.selection.size ? [texts.selectedRows(this.selection.size), `${count(quantity)} ${texts.pieces}`,
+                                         ...mass === null ? [] : [`${count(massIn(mass, unit)!)} ${unit}`, ...doubts(unknown, assumed)]] : [];
     this.summary.textContent = facts.join(' · ');
     this.showStepper();
   }
@@ -529,9 +541,11 @@ export class App {
 
   private sheet(): Sheet {
     const columns = this.columns.all.filter(each => this.shownColumns.has(each.id) && each.kind !== 'picture');
-    const cells = this.order.map(i => columns.map(({id, kind}) => this.text(this.rows[i], id) || (kind === 'check' ? '☐' : '')));
+    const signed = (doubt: Doubt | null, text: string) => [...doubt ? [doubtSigns[doubt]] : [], ...text ? [text] : []].join(' ');
+    const cells = this.order.map(i => columns.map(({id, kind}) => signed(this.doubt(this.rows[i], id), this.text(this.rows[i], id) || (kind === 'check' ? '☐' : ''))));
     return {title: this.list.file.name, picture: this.viewer?.drawn() ?? null, columns, cells, levels: this.order.map(i => this.rows[i].level),
-            totals: columns.map(({id}, i) => this.total(id) || (i === 0 ? texts.total : ''))};
+            totals: columns.map(({id}, i) => signed(fieldOf(id) === 'totalMass' ? this.totalDoubt() : null, this.total(id) || (i === 0 ? texts.total : ''))),
+            legend: (Object.keys(doubtSigns) as Doubt[]).map(each => `${doubtSigns[each]} ${texts.doubts[each]}`).join(' · ')};
   }
 
   private showMessages(): void {
@@ -577,6 +591,8 @@ export class App {
     event.preventDefault();
   }
 }
+
+const doubts = (unknown: number, assumed: boolean) => [...unknown ? [texts.unknownMass(unknown)] : [], ...assumed ? [texts.assumed] : []];
 
 function flipped(set: Set<number>, value: number): Set<number> {
   const result = new Set(set);

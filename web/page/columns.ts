@@ -1,4 +1,5 @@
 // The columns that the page offers: those of the list, and the reader's own marks and notes.
+import {doubtOf} from '../list/doubt.ts';
 import {digitsOf} from '../list/format.ts';
 import type {GridColumn} from '../list/grid.ts';
 import type {Cell, Column, PartsList, Row} from '../list/parts_list.ts';
@@ -16,6 +17,7 @@ const margin = 20;  // beside a caption, which has to fit
 
 const mostDigits = 7;   // after the point; a few tiny numbers shall not push all others away
 const digitWidth = 8.4;
+const signWidth = 12;   // of what is in doubt
 
 const ruler = document.createElement('canvas').getContext('2d')!;
 
@@ -51,7 +53,8 @@ export class Columns {
     const rows = [...this.list.views.values()].flatMap(view => view.rows);
     const {whole, fraction: all} = digitsOf(rows.flatMap(({cells}) => typeof cells[index] === 'number' ? [cells[index] as number] : []));
     const fraction = Math.min(mostDigits, all);
-    return {width: fitting(caption, Math.max(72, Math.ceil((whole + fraction + 1) * digitWidth) + margin)), fraction};
+    const sign = rows.some(row => doubtOf(row, column.id, row.cells[index])) ? signWidth : 0;
+    return {width: fitting(caption, Math.max(72, Math.ceil((whole + fraction + 1) * digitWidth) + margin + sign)), fraction};
   }
 
   // The tree is shown where the eye looks first.

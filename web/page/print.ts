@@ -9,6 +9,7 @@ export interface Sheet {
   cells: string[][];
   levels: number[];
   totals: string[];
+  legend: string;  ///< shown if any of its signs is in the table
 }
 
 /// Puts the sheet on paper whenever the browser prints, by its own keys and menus too.
@@ -34,12 +35,14 @@ function paperOf(sheet: Sheet): HTMLElement {
     if (tree && level) tree.style.paddingInlineStart = `${level * 10}px`;
     return made;
   };
+  const isSigned = [...sheet.cells.flat(), ...sheet.totals].some(text => /^[≈≥–]/.test(text));
   return element('div', {class: 'paper'},
       element('h1', {}, sheet.title), sheet.picture && cropped(sheet.picture),
       element('table', {},
           element('thead', {}, element('tr', {}, ...sheet.columns.map((column, i) => cell('th', column.caption, i)))),
           element('tbody', {}, ...sheet.cells.map((texts, i) => row(texts, sheet.levels[i]))),
-          element('tfoot', {}, element('tr', {}, ...sheet.totals.map((text, i) => cell('td', text, i))))));
+          element('tfoot', {}, element('tr', {}, ...sheet.totals.map((text, i) => cell('td', text, i))))),
+      isSigned && element('p', {}, sheet.legend));
 }
 
 /// A copy without what is empty around the drawing, so that it fills its place on the paper; null of an empty picture.

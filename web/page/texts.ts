@@ -13,8 +13,9 @@ const english = {
   exportPicture: 'Picture as PNG', print: 'Print', help: 'Keys', close: 'Close', messages: (n: number) => n === 1 ? '1 message' : `${n} messages`,
   conflicts: 'Conflicts', warnings: 'Warnings', splitter: 'Width of the list',
   occurrence: (n: number, of: number) => `${n} of ${of}`, previous: 'Previous occurrence', next: 'Next occurrence',
-  rows: (n: number) => n === 1 ? '1 row' : `${n} rows`, selected: 'selected', pieces: 'pcs', clear: 'Clear the selection',
-  places: (n: number) => n === 1 ? '1 place' : `${n} places`, unknownMass: (n: number) => `${n} without mass`,
+  selectedRows: (n: number) => n === 1 ? '1 row selected' : `${n} rows selected`, pieces: 'pcs', clear: 'Clear the selection',
+  places: (n: number) => n === 1 ? '1 place' : `${n} places`, unknownMass: (n: number) => `at least: ${n} without mass`, assumed: 'materials assumed',
+  doubts: {assumed: 'material or density assumed', unmeasured: 'cannot be measured', atLeast: 'at least: a mass is missing'},
   shown: (n: number, of: number) => n === of ? `${of} rows` : `${n} of ${of} rows`,
   nothing: 'No row fits the search and the filters.', showRows: 'Show all rows',
   instances: (n: number) => n === 1 ? '1 part' : `${n} parts`, triangles: (n: string) => `${n} triangles`,
@@ -29,7 +30,7 @@ const english = {
   keys: [['↑ ↓ PgUp PgDn Home End', 'move in the list'], ['Enter', 'select and fit; again: the next occurrence'], ['Shift+Enter', 'the previous occurrence'],
          ['Space', 'add to the selection; tick the box'], ['← →', 'unfold, fold; cell by cell (Ctrl: always)'], ['/', 'search'], ['Esc', 'clear selection and search'],
          ['F', 'fit'], ['1 … 7', 'isometric, front, back, left, right, top, bottom'], ['P', 'perspective or parallel'], ['E', 'edges'], ['X', 'section'],
-         ['I', 'isolate'], ['H', 'hide'], ['G', 'dim the others'], ['A', 'show all'], ['?', 'this list'],
+         ['I', 'isolate'], ['H', 'hide'], ['G', 'dim the others'], ['A', 'show all'], ['≈ – ≥', 'a material or density is assumed; not measured; at least'], ['?', 'this list'],
          ['Mouse', 'left: turn; right, middle or Shift: move; wheel: zoom; Ctrl+click: add']] as [string, string][],
 };
 
@@ -49,8 +50,9 @@ const czech: Texts = {
   exportCsv: 'Seznam jako CSV', exportWork: 'Značky a poznámky jako JSON', importWork: 'Načíst značky a poznámky…', exportPicture: 'Obrázek jako PNG',
   print: 'Tisk', help: 'Klávesy', close: 'Zavřít', messages: n => plural(n, 'zpráva', 'zprávy', 'zpráv'), conflicts: 'Rozpory', warnings: 'Upozornění', splitter: 'Šířka seznamu',
   occurrence: (n, of) => `${n}. z ${of}`, previous: 'Předchozí výskyt', next: 'Další výskyt',
-  rows: n => plural(n, 'řádek', 'řádky', 'řádků'), selected: 'vybráno', pieces: 'ks', clear: 'Zrušit výběr',
-  places: n => plural(n, 'místo', 'místa', 'míst'), unknownMass: n => `${n} bez hmotnosti`,
+  selectedRows: n => `Vybráno: ${plural(n, 'řádek', 'řádky', 'řádků')}`, pieces: 'ks', clear: 'Zrušit výběr',
+  places: n => plural(n, 'místo', 'místa', 'míst'), unknownMass: n => `nejméně: ${n} bez hmotnosti`, assumed: 'předpokládaný materiál',
+  doubts: {assumed: 'předpokládaný materiál nebo hustota', unmeasured: 'nelze změřit', atLeast: 'nejméně: některá hmotnost chybí'},
   shown: (n, of) => n === of ? plural(of, 'řádek', 'řádky', 'řádků') : `${n} z ${of} řádků`,
   nothing: 'Hledání a filtrům neodpovídá žádný řádek.', showRows: 'Zobrazit všechny řádky',
   instances: n => plural(n, 'díl', 'díly', 'dílů'), triangles: n => `${n} trojúhelníků`,
@@ -65,7 +67,7 @@ const czech: Texts = {
   keys: [['↑ ↓ PgUp PgDn Home End', 'pohyb v seznamu'], ['Enter', 'vybrat a přiblížit; znovu: další výskyt'], ['Shift+Enter', 'předchozí výskyt'],
          ['Mezerník', 'přidat k výběru; zaškrtnout'], ['← →', 'rozbalit, sbalit; po buňkách (Ctrl: vždy)'], ['/', 'hledat'], ['Esc', 'zrušit výběr a hledání'],
          ['F', 'zobrazit vše'], ['1 … 7', 'izometrie, zepředu, zezadu, zleva, zprava, shora, zdola'], ['P', 'perspektiva nebo rovnoběžné promítání'], ['E', 'hrany'],
-         ['X', 'řez'], ['I', 'izolovat'], ['H', 'skrýt'], ['G', 'ztlumit ostatní'], ['A', 'odkrýt vše'], ['?', 'tento přehled'],
+         ['X', 'řez'], ['I', 'izolovat'], ['H', 'skrýt'], ['G', 'ztlumit ostatní'], ['A', 'odkrýt vše'], ['≈ – ≥', 'předpokládaný materiál nebo hustota; nezměřeno; nejméně'], ['?', 'tento přehled'],
          ['Myš', 'levé tlačítko: otáčení; pravé, prostřední nebo Shift: posun; kolečko: zvětšení; Ctrl+klik: přidat']],
 };
 
