@@ -220,6 +220,27 @@ const tests = {
     assert.strictEqual(await page.getAttribute('[role=columnheader]:has-text("Quantity")', 'aria-sort'), 'descending');
   },
 
+  async filtersOfHiddenColumnsAreSeenAndUndone() {
+    const page = await openSample();
+    const isOffered = () => page.isVisible('footer button:has-text("Show all rows")');
+    assert.strictEqual(await isOffered(), false);
+    await page.click('[aria-label=Filters]');
+    assert.strictEqual(await page.getAttribute('[aria-label="Filter: Quantity"]', 'placeholder'), '>2  1..3');
+    await page.fill('[aria-label="Filter: Quantity"]', '>2');
+    await page.click('.list .menu .tool');
+    await page.click('.panel label:has-text("Quantity")');
+    await page.keyboard.press('Escape');
+    assert.deepStrictEqual(await shownRows(page), ['ISO 4032 M8', 'ISO 4017 M8x30']);
+    await press(page, '6');
+    await clickInstance(page, rod);
+    assert.strictEqual(await summary(page), '1 row selected · 1 pcs · 0.1233 kg · hidden by search or filters');
+    assert.deepStrictEqual(await selectedRows(page), []);
+    await page.click('footer button:has-text("Show all rows")');
+    assert.deepStrictEqual(await selectedRows(page), ['BR-120']);
+    assert.strictEqual(await summary(page), '1 row selected · 1 pcs · 0.1233 kg');
+    assert.strictEqual(await isOffered(), false);
+  },
+
   async columnsAreChosen() {
     const page = await openSample();
     await page.click('.list .menu .tool');
@@ -317,6 +338,52 @@ const tests = {
     await press(page, 'x');
     const both = Object.keys(await visible(page)).map(Number);
     assert.ok(both.includes(3) && both.includes(10));
+  },
+
+  async aSectionRunsAsTheDesignersAxesDo() {
+    const page = await openSample();
+    // Across y, from -75 mm to 75 mm, the bolts are at -22 mm, 0 mm and 22 mm.
+    const [near, far] = [[4, 15], [8, 11]];
+    const seen = async () => { const counts = await visible(page); return [near, far].map(each => each.map(bolt => counts[bolt] > 0)); };
+    await press(page, '6');
+    await press(page, 'x');
+    await page.selectOption('select.cutting', '2');
+    await setRange(page, 'input.cutting', 0.45);
+    assert.deepStrictEqual(await seen(), [[true, true], [false, false]]);
+    await settled(page);
+    await page.evaluate(() => partsPage.panel.sync());
+    assert.deepStrictEqual([await page.inputValue('input.cutting'), await page.getAttribute('[aria-label="Other side"]', 'aria-pressed')], ['0.45', 'false']);
+    await page.click('[aria-label="Other side"]');
+    assert.deepStrictEqual(await seen(), [[false, false], [true, true]]);
+  },
+
+  async aViewIsChosenAgainAfterTurning() {
+    const page = await openSample();
+    const view = () => page.$eval('.views', select => select.value);
+    const pose = () => page.evaluate(() => partsPage.viewer.pose);
+    const before = await pose();
+    assert.strictEqual(await view(), 'iso');
+    await page.focus('canvas');
+    await page.keyboard.press('ArrowLeft');
+    assert.strictEqual(await view(), '');
+    await page.selectOption('.views', 'iso');
+    assert.deepStrictEqual([await view(), (await pose()).yaw], ['iso', before.yaw]);
+    await press(page, '6');
+    assert.strictEqual(await view(), 'top');
+  },
+
+  async aLostPictureIsSaidAndComesBack() {
+    const page = await openSample({});
+    await page.evaluate(() => { window.loss = partsPage.viewer.renderer.getContext().getExtension('WEBGL_lose_context'); loss.loseContext(); });
+    await page.waitForSelector('.stage .problem');
+    assert.strictEqual(await page.textContent('.problem'), 'The browser has taken the 3D picture away; it comes back by itself.');
+    await page.evaluate(() => loss.restoreContext());
+    await page.waitForFunction(() => !document.querySelector('.problem'));
+    await press(page, '6');
+    await clickInstance(page, rod);
+    assert.deepStrictEqual(await selectedRows(page), ['BR-120']);
+    assert.ok((await visible(page))[plate] > 1000);
+    page.complaints.splice(0);  // three.js reports the loss
   },
 
   async partsAreIsolatedHiddenAndShown() {

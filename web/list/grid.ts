@@ -43,7 +43,7 @@ export interface GridActions {
   filter(column: GridColumn, text: string): void;
 }
 
-export interface GridTexts { label: string; filter(caption: string): string; fold: string; unfold: string; total: string; doubts: Record<Doubt, string> }
+export interface GridTexts { label: string; filter(caption: string): string; fold: string; unfold: string; total: string; doubts: Record<Doubt, string>; filterHelp: string; filterHints: Record<GridColumn['kind'], string> }
 
 const overscan = 4;
 
@@ -239,7 +239,8 @@ export class Grid {
   private makeFilter(column: GridColumn): HTMLElement {
     const cell = element('div', {role: 'gridcell', class: `cell ${column.kind}`});
     if (column.kind === 'picture') return cell;
-    const input = element('input', {type: 'search', 'aria-label': this.texts.filter(column.caption), 'data-head': `filter ${column.id}`,
+    const input = element('input', {type: 'search', 'aria-label': this.texts.filter(column.caption), placeholder: this.texts.filterHints[column.kind],
+                                    title: this.texts.filterHelp, 'data-head': `filter ${column.id}`,
                                     oninput: () => this.actions.filter(column, input.value)});
     input.value = this.source.filter(column);
     cell.append(input);

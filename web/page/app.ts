@@ -1,5 +1,5 @@
 // The page: the list on one side, the assembly on the other, and what leads from one to the other.
-import {arrange, Query} from '../list/arrange.ts';
+import {arrange, isSeeking, Query} from '../list/arrange.ts';
 import {download, element} from '../list/dom.ts';
 import {Doubt, doubtOf, doubtOfTotal, doubtSigns} from '../list/doubt.ts';
 import {formatCell, formatNumber, csv} from '../list/format.ts';
@@ -53,6 +53,8 @@ export class App {
   private readonly stepper = element('div', {class: 'stepper'});
   private readonly counted = element('span', {class: 'counted'});
   private readonly nothing = element('div', {class: 'nothing', hidden: true}, texts.nothing, button('clear', texts.showRows, () => this.showAllRows(), {text: true}));
+  private readonly allRows = button('clear', texts.showRows, () => this.showAllRows(), {text: true});
+  private readonly lost = element('p', {class: 'problem', role: 'status'}, texts.contextLost);
   private readonly facts = element('span', {class: 'facts'});
   private readonly tabs = element('div', {class: 'tabs', role: 'tablist', 'aria-label': texts.views});
   private readonly search = element('input', {type: 'search', placeholder: `${texts.search}  /`, 'aria-label': texts.searchHint});
@@ -69,7 +71,8 @@ export class App {
     }
     this.columns = new Columns(list, this.work, this.viewer !== null);
     this.shownColumns = new Set(this.columns.all.map(each => each.id).filter(id => this.columns.shownAtFirst(id)));
-    this.grid = new Grid(this.source(), this.actions(), {label: texts.list, filter: texts.filterFor, fold: texts.fold, unfold: texts.unfold, total: texts.total, doubts: texts.doubts});
+    this.grid = new Grid(this.source(), this.actions(), {label: texts.list, filter: texts.filterFor, fold: texts.fold, unfold: texts.unfold, total: texts.total, doubts: texts.doubts,
+                                                       filterHelp: texts.filterHelp, filterHints: texts.filterHints});
     if (this.viewer) this.panel = new Panel3d(this.viewer, this, () => this.keepAddress());
     this.lay(modelProblem);
     this.connect();
@@ -102,7 +105,7 @@ export class App {
     const listBar = element('div', {class: 'bar'}, this.tabs, element('span', {class: 'gap'}), this.search,
         this.filterButton, menu('columns', texts.columns, () => this.columnMenu()));
     const listSide = element('section', {class: 'side list', 'aria-label': texts.list}, listBar, this.grid.root, this.nothing,
-        element('footer', {}, this.counted, this.summary, this.stepper));
+        element('footer', {}, this.counted, this.allRows, this.summary, this.stepper));
     const modelSide = element('section', {class: 'side model', 'aria-label': texts.model}, this.panel?.bar, this.stage);
     if (problem) this.stage.append(element('p', {class: 'problem', role: 'alert'}, problem));
     if (this.viewer) this.stage.append(new Triad(this.viewer).root);
@@ -127,8 +130,9 @@ export class App {
     if (!this.viewer) return;
     this.viewer.onHover = instance => this.hoverInstance(instance);
     this.viewer.onClick = (instance, event) => this.clickInstance(instance, event.ctrlKey || event.metaKey);
-    this.viewer.onMove = () => this.keepAddress();
-    this.canvas.addEventListener('webglcontextlost', event => event.preventDefault());
+    this.viewer.onMove = () => { this.panel?.showView(); this.keepAddress(); };
+    this.canvas.addEventListener('webglcontextlost', event => { event.preventDefault(); this.stage.append(this.lost); });
+    this.canvas.addEventListener('webglcontextrestored', () => this.lost.remove());
     const colors = () => this.viewer!.setPalette(palette());
     matchMedia('(prefers-color-scheme: dark)').addEventListener('change', colors);
     colors();
@@ -195,7 +199,9 @@ export class App {
     this.grid.show(this.source(), fromTop);
     this.nothing.hidden = this.order.length > 0 || this.rows.length === 0;
     const {mass, unknown, assumed} = this.shownSum;
+    this.allRows.hidden = !isSeeking(this.query);
     this.counted.textContent = [texts.shown(this.order.length, this.rows.length), ...mass === null ? [] : doubts(unknown, assumed)].join(' · ');
+    this.showSummary();
     this.keepAddress();
   }
 
@@ -226,6 +232,8 @@ export class App {
     this.query.filters.clear();
     this.search.value = '';
     this.seek();
+    const [first] = this.selection;
+    if (first !== undefined) this.revealRow(first);
     this.search.focus();
   }
 
@@ -363,13 +371,19 @@ export class App {
 
   private showSelection(): void {
     this.showMarks();
+    this.showSummary();
+    this.showStepper();
+  }
+
+  private showSummary(): void {
+    const shown = new Set(this.order), isHidden = isSeeking(this.query) && [...this.selection].some(row => !shown.has(row));
     const {quantity, mass, unknown, assumed} = sum(this.shownView, this.selection, this.list.paths);
     const count = (n: number) => formatNumber(n, language);
     const unit = massUnit(this.list.columns);
     const facts = this.selection.size ? [texts.selectedRows(this.selection.size), `${count(quantity)} ${texts.pieces}`,
-                                         ...mass === null ? [] : [`${count(massIn(mass, unit)!)} ${unit}`, ...doubts(unknown, assumed)]] : [];
+                                         ...mass === null ? [] : [`${count(massIn(mass, unit)!)} ${unit}`, ...doubts(unknown, assumed)],
+                                         ...isHidden ? [texts.hiddenRows] : []] : [];
     this.summary.textContent = facts.join(' · ');
-    this.showStepper();
   }
 
   private showStepper(): void {

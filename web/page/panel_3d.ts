@@ -1,7 +1,7 @@
 // The assembly's side of the page: the canvas and its tool bar.
 import {element} from '../list/dom.ts';
-import {viewNames} from '../viewer/camera.ts';
-import type {Viewer, ViewName} from '../viewer/viewer.ts';
+import {direction, viewNames} from '../viewer/camera.ts';
+import type {Section, Viewer, ViewName} from '../viewer/viewer.ts';
 import {button, press} from './controls.ts';
 import {texts} from './texts.ts';
 
@@ -15,12 +15,15 @@ export interface Visibility {
 
 const captions: Record<ViewName, string> = {iso: texts.iso, front: texts.front, back: texts.back, left: texts.left, right: texts.right,
                                             top: texts.topView, bottom: texts.bottom};
+const same = 1e-4;  // radians
 const axisNames = ['X', 'Y', 'Z'];
 // glTF's up is Y, that of a CAD system Z: the page names the axes as the designer knows them.
 const axisOrder = [0, 2, 1] as const;
+const backwards = 2;  // the designer's Y runs against glTF's Z
 
 export class Panel3d {
   readonly bar = element('div', {class: 'bar', role: 'toolbar', 'aria-label': texts.model});
+  private readonly views = element('select', {'aria-label': texts.view, class: 'views'}, ...viewNames.map(name => element('option', {value: name}, captions[name])));
   private readonly perspective = button('perspective', texts.perspective, () => this.toggle('perspective'), {pressed: true, key: 'P'});
   private readonly edges = button('edges', texts.edges, () => this.toggle('edges'), {pressed: true, key: 'E'});
   private readonly cut = button('section', texts.section, () => this.toggleSection(), {pressed: false, key: 'X'});
@@ -32,9 +35,7 @@ export class Panel3d {
   private readonly flip = button('flip', texts.flip, () => this.applySection(), {pressed: false});
 
   constructor(private readonly viewer: Viewer, private readonly visibility: Visibility, private readonly changed: () => void) {
-    const views = element('select', {'aria-label': texts.view, class: 'views', onchange: () => this.choose(views)},
-                          ...viewNames.map(name => element('option', {value: name}, captions[name])));
-    viewer.canvas.addEventListener('pointerup', () => views.selectedIndex = -1);
+    this.views.addEventListener('change', () => this.choose());
     this.dim = button('dim', texts.dim, () => this.toggleDim(), {pressed: false, key: 'G'});
     this.explode.addEventListener('input', () => { viewer.explode = Number(this.explode.value); changed(); });
     this.axis.addEventListener('change', () => this.applySection());
@@ -43,16 +44,26 @@ export class Panel3d {
     this.flip.classList.add('cutting');
     const group = (...tools: HTMLElement[]) => element('div', {class: 'group'}, ...tools);
     this.bar.append(
-        group(button('fit', texts.fit, () => viewer.fit(), {key: 'F'}), views, this.perspective, this.edges, this.cut, this.axis, this.place, this.flip),
+        group(button('fit', texts.fit, () => viewer.fit(), {key: 'F'}), this.views, this.perspective, this.edges, this.cut, this.axis, this.place, this.flip),
         group(element('label', {class: 'slider', for: 'explode'}, texts.explode), this.explode), element('span', {class: 'gap'}),
         group(button('isolate', texts.isolate, () => visibility.isolate(), {key: 'I'}), button('hide', texts.hide, () => visibility.hide(), {key: 'H'}), this.dim,
               button('show', texts.showAll, () => visibility.showAll(), {key: 'A'})));
     this.sync();
   }
 
+  /// Names the view that the camera has, if it is one of those, so that each other one can be chosen.
+  showView(): void {
+    const {yaw, pitch} = this.viewer.pose;
+    this.views.selectedIndex = viewNames.findIndex(name => {
+      const wanted = direction(name);
+      return Math.abs(pitch - wanted.pitch) < same && Math.abs(Math.sin((yaw - wanted.yaw) / 2)) < same;
+    });
+  }
+
   /// Shows in the bar what the viewer does.
   sync(): void {
     const {viewer} = this;
+    this.showView();
     press(this.perspective, viewer.perspective);
     press(this.edges, viewer.edges);
     press(this.cut, viewer.section !== null);
@@ -61,8 +72,9 @@ export class Panel3d {
     this.bar.classList.toggle('cut', viewer.section !== null);
     if (!viewer.section) return;
     this.axis.value = String(viewer.section.axis);
-    this.place.value = String(viewer.section.share);
-    press(this.flip, viewer.section.flipped);
+    const isBackwards = viewer.section.axis === backwards;
+    this.place.value = String(isBackwards ? 1 - viewer.section.share : viewer.section.share);
+    press(this.flip, viewer.section.flipped !== isBackwards);
   }
 
   /// Does what a key stands for; false for a key that stands for nothing here.
@@ -75,8 +87,8 @@ export class Panel3d {
     return key.toLowerCase() in actions;
   }
 
-  private choose(views: HTMLSelectElement): void {
-    this.viewer.look(views.value as ViewName);
+  private choose(): void {
+    this.viewer.look(this.views.value as ViewName);
     this.changed();
   }
 
@@ -92,14 +104,20 @@ export class Panel3d {
   }
 
   private toggleSection(): void {
-    this.viewer.section = this.viewer.section ? null : {axis: Number(this.axis.value) as 0 | 1 | 2, share: Number(this.place.value), flipped: false};
+    if (!this.viewer.section) press(this.flip, false);
+    this.viewer.section = this.viewer.section ? null : this.chosenSection();
     this.sync();
     this.changed();
   }
 
   private applySection(): void {
     if (!this.viewer.section) return;
-    this.viewer.section = {axis: Number(this.axis.value) as 0 | 1 | 2, share: Number(this.place.value), flipped: this.flip.getAttribute('aria-pressed') === 'true'};
+    this.viewer.section = this.chosenSection();
     this.changed();
+  }
+
+  private chosenSection(): Section {
+    const axis = Number(this.axis.value) as Section['axis'], share = Number(this.place.value), flipped = this.flip.getAttribute('aria-pressed') === 'true';
+    return axis === backwards ? {axis, share: 1 - share, flipped: !flipped} : {axis, share, flipped};
   }
 }
