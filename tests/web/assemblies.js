@@ -114,6 +114,14 @@ function odd(name = 'odd.step') {
   return made;
 }
 
+/// A pane of blue glass on a red block, and another pane with nothing below.
+function panes(name = 'panes.step') {
+  const meshes = [{name: 'pane', parts: [box(40, 40, 2, [...blue.slice(0, 3), 0.5])]}, {name: 'block', parts: [box(30, 30, 10, red)]}];
+  const part = (number, mesh) => ({number, name: number, mass: 0.1, material: 'Glass', mesh});
+  return assembly(name, {pane: part('PANE', 0), block: part('BLOCK', 1)}, meshes,
+                  [{part: 'pane', at: [0, 0, 12]}, {part: 'block'}, {part: 'pane', at: [60, 0, 12]}]);
+}
+
 /// `count` different items, each one box of the same shape.
 function catalogue(count, name = `catalogue-${count}.step`) {
   const parts = Object.fromEntries(Array.from({length: count}, (_, i) => [`c${i}`, {
@@ -146,4 +154,4 @@ function inGrams(list) {
   return made;
 }
 
-module.exports = {block, brackets, catalogue, hostile, hostileNames, inGrams, odd};
+module.exports = {block, brackets, catalogue, hostile, hostileNames, inGrams, odd, panes};

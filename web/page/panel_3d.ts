@@ -19,7 +19,8 @@ const same = 1e-4;  // radians
 const axisNames = ['X', 'Y', 'Z'];
 // glTF's up is Y, that of a CAD system Z: the page names the axes as the designer knows them.
 const axisOrder = [0, 2, 1] as const;
-const backwards = 2;  // the designer's Y runs against glTF's Z
+// The designer's Y runs against glTF's Z. Across it the far half is kept, as the isometric view then sees the cut.
+const backwards = 2;
 
 export class Panel3d {
   readonly bar = element('div', {class: 'bar', role: 'toolbar', 'aria-label': texts.model});
@@ -72,9 +73,8 @@ export class Panel3d {
     this.bar.classList.toggle('cut', viewer.section !== null);
     if (!viewer.section) return;
     this.axis.value = String(viewer.section.axis);
-    const isBackwards = viewer.section.axis === backwards;
-    this.place.value = String(isBackwards ? 1 - viewer.section.share : viewer.section.share);
-    press(this.flip, viewer.section.flipped !== isBackwards);
+    this.place.value = String(viewer.section.axis === backwards ? 1 - viewer.section.share : viewer.section.share);
+    press(this.flip, viewer.section.flipped);
   }
 
   /// Does what a key stands for; false for a key that stands for nothing here.
@@ -118,6 +118,6 @@ export class Panel3d {
 
   private chosenSection(): Section {
     const axis = Number(this.axis.value) as Section['axis'], share = Number(this.place.value), flipped = this.flip.getAttribute('aria-pressed') === 'true';
-    return axis === backwards ? {axis, share: 1 - share, flipped: !flipped} : {axis, share, flipped};
+    return {axis, share: axis === backwards ? 1 - share : share, flipped};
   }
 }
