@@ -13,6 +13,9 @@ constexpr int kRows = 4000;
 /// The file's size from which on the process is killed.
 constexpr std::uintmax_t kSomeLines = 200;
 
+/// An export may be over before this process has its turn.
+constexpr int kAttempts = 10;
+
 inline std::string outline() {
     std::string text;
     for (int i = 1; i <= kRows; ++i) {
