@@ -42,6 +42,21 @@ const tests = {
     }
   },
 
+  async aClickOnAPartOfNoRowSaysSo() {
+    const made = JSON.parse(JSON.stringify(sample.list));
+    const {list, occurrences} = made.views[0];
+    const at = list.rows.findIndex(({cells}) => cells.partNumber === 'BR-120');
+    list.rows.splice(at, 1);
+    occurrences.splice(at, 1);
+    const page = await open(made, sample.glb);
+    await press(page, '6');
+    await clickInstance(page, rod);
+    assert.strictEqual(await summary(page), 'This part is in no row of the list.');
+    await page.click('[data-view=indented]');
+    await clickInstance(page, rod);
+    assert.deepStrictEqual(await selectedRows(page), ['BR-120']);
+  },
+
   async aClickOnAPartOfATopLayerSelectsItsRow() {
     const made = block(27);
     const page = await open(made.list, made.glb);

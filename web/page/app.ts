@@ -297,6 +297,7 @@ export class App {
     const found = instance < 0 ? null : this.links!.rowOf(this.rows, instance);
     if (!found) {
       this.select(new Set(), -1);
+      if (instance >= 0) this.summary.textContent = texts.noRow;
       return;
     }
     this.anchor = found.row;
