@@ -242,7 +242,7 @@ std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount
             }
         }
         const host::Shape* const shape = shapes.of(row.component);
-        if (shape != nullptr && row.kind == RowKind::Part) {
+        if (shape != nullptr && row.kind != RowKind::Assembly) {
             line.invariants = shape->invariants;
         }
         lines.push_back(std::move(line));

@@ -54,10 +54,11 @@ std::string valueOf(const Cell& cell, const NumberFormat& numbers, bool guardFor
     return isText && guardFormulas ? guardedFormula(value) : value;
 }
 
-/// Captions and rows, with what goes between values and at the end of lines.
+/// Captions and rows, with what goes between values, at the end of lines, and into a line whose one
+/// value is empty.
 template <class ToText>
 void writeLines(const PartsList& list, std::ostream& stream, char delimiter, const char* lineEnd,
-                ToText toText) {
+                const char* emptyLine, ToText toText) {
     std::string line;
     const auto finishLine = [&] {
         line += lineEnd;
@@ -73,6 +74,8 @@ void writeLines(const PartsList& list, std::ostream& stream, char delimiter, con
         for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
             line += (cell == 0 ? "" : std::string(1, delimiter)) + toText(row.cells[cell]);
         }
+        // A line without anything is none to most readers.
+        line += line.empty() ? emptyLine : "";
         finishLine();
     }
 }
@@ -83,14 +86,14 @@ void writeCsv(const PartsList& list, const CsvFormat& format, std::ostream& stre
     stream << (format.byteOrderMark ? kByteOrderMark : "");
     const std::string inNumbers = std::string("\"\r\n") + format.delimiter;
     const std::string inTexts = inNumbers + kSeparators;
-    writeLines(list, stream, format.delimiter, "\r\n", [&](const Cell& cell) {
+    writeLines(list, stream, format.delimiter, "\r\n", "\"\"", [&](const Cell& cell) {
         return quotedWhereNeeded(valueOf(cell, format.numbers, format.guardFormulas),
                                  std::holds_alternative<std::string>(cell) ? inTexts : inNumbers);
     });
 }
 
 void writeTsv(const PartsList& list, const TsvFormat& format, std::ostream& stream) {
-    writeLines(list, stream, '\t', "\n", [&](const Cell& cell) {
+    writeLines(list, stream, '\t', "\n", "", [&](const Cell& cell) {
         return escapedForTsv(valueOf(cell, format.numbers, format.guardFormulas));
     });
 }

@@ -15,6 +15,10 @@ bool isPlainNumber(std::string_view text) {
             return false;
         }
     }
+    // What reads numbers takes "inf" and "nan(...)" for some too.
+    if (text.find_first_not_of("0123456789.-") != std::string_view::npos) {
+        return false;
+    }
     double number = 0;
     const char* const end = text.data() + text.size();
     const auto [last, failure] =

@@ -48,8 +48,11 @@ std::string ListContext::baseNameOf(std::size_t component) const {
 
 std::optional<int> ListContext::shapeOf(std::size_t component) const {
     // What else is in it is not in its shape: two assemblies on one kind of plate are not equal.
-    const bool isWhole = tree.lines(component).empty();
-    return isWhole && component < shapes.classOf.size() ? shapes.classOf[component] : std::nullopt;
+    return tree.lines(component).empty() ? ownShapeOf(component) : std::nullopt;
+}
+
+std::optional<int> ListContext::ownShapeOf(std::size_t component) const {
+    return component < shapes.classOf.size() ? shapes.classOf[component] : std::nullopt;
 }
 
 }  // namespace parts

@@ -44,6 +44,9 @@ struct ListContext {
 
     /// The class of its shape, where that is all there is of it.
     [[nodiscard]] std::optional<int> shapeOf(std::size_t component) const;
+
+    /// The class of the bodies that it has of its own, whatever else is in it.
+    [[nodiscard]] std::optional<int> ownShapeOf(std::size_t component) const;
 };
 
 }  // namespace parts

@@ -131,7 +131,11 @@ Value RowValues::numberOf(Field field, const PartsRow& row) {
     }
 }
 
+/// Nothing where not all of the bodies have measures: the box around the others would be too small.
 Value RowValues::sizeOf(Field field, const PartsRow& row) {
+    if (measured(row, row.component).isUnmeasured) {
+        return {};
+    }
     const std::optional<host::Box> box = row.kind == RowKind::OwnBodies
                                              ? context_.measures.ownBox(row.component)
                                              : context_.measures.wholeBox(row.component);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 #include <map>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -35,12 +36,24 @@ void combine(std::vector<Counted>& all) {
     all = std::move(sums);
 }
 
+/// No assembly's shape was compared.
+std::optional<int> shapeOf(const ListContext& context, const PartsRow& row) {
+    switch (row.kind) {
+        case RowKind::Part:
+            return context.shapeOf(row.component);
+        case RowKind::OwnBodies:
+            return context.ownShapeOf(row.component);
+        case RowKind::Assembly:
+            break;
+    }
+    return std::nullopt;
+}
+
 void finish(const ListContext& context, PartsRow& row) {
     combine(row.members);
     combine(row.usedIn);
     row.component = firstByName(context, row.members);
-    // Bodies of its own and an assembly's shape are not what was compared.
-    row.shape = row.kind == RowKind::Part ? context.shapeOf(row.component) : std::nullopt;
+    row.shape = shapeOf(context, row);
 }
 
 /// The parents of each component, and how many of it one of them has.
@@ -150,6 +163,7 @@ private:
             bodies.level = parent.level + 1;
             bodies.parent = index;
             bodies.perParent = 1;
+            bodies.shape = shapeOf(context_, bodies);
             rows_.push_back(std::move(bodies));
         }
     }

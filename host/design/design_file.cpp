@@ -17,7 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kFormat = "standin-host-design";
 constexpr std::size_t kVersion = 1;
 
 // What a byte of text can become while it is parsed: "0," is a value of 16 bytes in a list that is
@@ -55,8 +54,8 @@ std::string readAll(const fs::path& path, std::size_t megabytes) {
 ReadDesign parse(std::string text) {
     const JsonDocument json(std::move(text));
     const JsonNode whole(json);
-    if (whole.member("format").text() != kFormat) {
-        whole.member("format").refuse("should be \"" + std::string(kFormat) + "\"");
+    if (whole.member("format").text() != kDesignFileFormat) {
+        whole.member("format").refuse("should be \"" + std::string(kDesignFileFormat) + "\"");
     }
     if (whole.member("version").number() != kVersion) {
         whole.member("version").refuse("should be " + std::to_string(kVersion) +
@@ -109,7 +108,7 @@ void readBodies(const fs::path& path, ReadDesign& design, const ReadSource& read
 AtomicFile stageDesignFile(const fs::path& path, const DesignData& data) {
     try {
         checkDesign(data);
-        nlohmann::ordered_json json = {{"format", kFormat}, {"version", kVersion}};
+        nlohmann::ordered_json json = {{"format", kDesignFileFormat}, {"version", kVersion}};
         json.update(toJson(data));
         // One line for each component would be best to compare; an indent of one comes near.
         return {path, json.dump(/*indent=*/1, /*indent_char=*/' ', /*ensure_ascii=*/false,

@@ -16,6 +16,9 @@ namespace host {
 /// The ending of a design file's name.
 inline constexpr const char* kDesignFileEnding = ".design.json";
 
+/// The value of "format" in every design file.
+inline constexpr const char* kDesignFileFormat = "standin-host-design";
+
 /// Reads the source of a design again, with its `source` telling the fingerprint that it has now.
 /// What it throws leaves `loadDesignFile` as it is.
 using ReadSource = std::function<DesignData(const SourceFile&)>;

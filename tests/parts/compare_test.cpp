@@ -134,4 +134,35 @@ TEST(Compare, AMirrorImageIsAnotherShapeThoughItsMeasuresAreEqual) {
               (std::vector<Change>{{.kind = ChangeKind::Shape, .item = "P", .column = "Shape"}}));
 }
 
+host::DesignData lonePart() {
+    host::DesignData design = test_support::drawn("Plate  box=1x1x1");
+    design.components[0] = design.components[1];
+    design.components.resize(1);
+    return design;
+}
+
+TEST(Compare, TheInvariantsOfALonePartAndOfOwnBodiesAreTaken) {
+    host::ShapeInvariants invariants;
+    invariants.volume = 6;
+    host::ShapeData lone;
+    lone.ofComponent = {0};
+    lone.shapes.resize(1);
+    lone.shapes[0].invariants = invariants;
+    host::ShapeData weldment = lone;
+    weldment.ofComponent = {std::nullopt, 0, std::nullopt};
+    const auto lines = [](const host::DesignData& design, const host::ShapeData& shapes) {
+        const parts::PartsRequest all = test_support::request(parts::View::All, "Quantity");
+        return parts::linesOf(parts::buildPartsList(design, all), 1, shapes);
+    };
+
+    EXPECT_EQ(lines(lonePart(), lone).at(0).invariants, invariants);
+    const std::vector<ComparedLine> both =
+        lines(test_support::drawn("Weldment  box=1x1x1\n  Rib"), weldment);
+    // The assembly, its own bodies, the rib.
+    ASSERT_EQ(both.size(), 3U);
+    EXPECT_EQ(both[0].invariants, std::nullopt);
+    EXPECT_EQ(both[1].invariants, invariants);
+    EXPECT_EQ(both[2].invariants, std::nullopt);
+}
+
 }  // namespace

@@ -289,6 +289,37 @@ TEST(OwnBodies, ALonePartIsTheOneItemOfItsDesign) {
     }
 }
 
+TEST(OwnBodies, HaveTheShapeAndThePictureOfTheirComponent) {
+    const host::DesignData design = drawn("Weldment  box=1x1x1\n  Rib  box=2x1x1");
+    parts::PartShapes shapes{.classOf = {std::nullopt, 7, 5}};
+    shapes.pictures[7] = std::make_shared<const std::string>("PNG");
+
+    for (const View view : {View::Indented, View::All}) {
+        const PartsList list =
+            parts::buildPartsList(design, request(view, "Part Name,Thumbnail"), shapes);
+        ASSERT_EQ(list.rows.size(), 3U);
+        // An assembly's shape is not only that of its own bodies.
+        EXPECT_EQ(list.rows[0].shape, std::nullopt);
+        EXPECT_EQ(list.rows[1].kind, parts::RowKind::OwnBodies);
+        EXPECT_EQ(list.rows[1].shape, 7);
+        EXPECT_EQ(std::get<parts::Picture>(list.rows[1].cells[1]).shape, 7);
+        EXPECT_EQ(list.rows[2].shape, 5);
+    }
+}
+
+TEST(OwnBodies, OfALonePartHaveItsShape) {
+    host::DesignData design = drawn("Plate  box=1x1x1");
+    design.components[0] = design.components[1];
+    design.components.resize(1);
+    const parts::PartShapes shapes{.classOf = {3}};
+
+    for (const View view : {View::Parts, View::Indented, View::Top, View::All}) {
+        const PartsList list = parts::buildPartsList(design, request(view, "Item"), shapes);
+        ASSERT_EQ(list.rows.size(), 1U);
+        EXPECT_EQ(list.rows[0].shape, 3);
+    }
+}
+
 TEST(Divided, BodiesOfItsOwnAreInNoLineAndReported) {
     const PartsList list = parts::buildPartsList(drawn(R"(
         Set  box=1x1x1 structure=Divided
@@ -345,6 +376,17 @@ TEST(Unmeasured, BodiesLeaveTheirCellsEmptyAndTheTotalsSaySo) {
               (std::vector<parts::ListWarning>{{.code = "unmeasured",
                                                 .text = "no closed shell; its mass is in no sum",
                                                 .component = "Bad"}}));
+}
+
+TEST(Unmeasured, BodiesLeaveTheExtentsOfWhatTheyAreInEmpty) {
+    host::DesignData design = drawn(R"(
+        Motor  structure=Buy
+          Good  box=1x2x3
+          Bad  box=1x1x1)");
+    design.components[3].geometry = std::make_shared<Broken>();
+
+    EXPECT_EQ(rowsOf(parts::buildPartsList(design, request(View::Parts, "Part Name,X,Y,Z,Size"))),
+              "Motor |  |  |  | ");
 }
 
 TEST(Unmeasured, BodiesAreNotAskedWhereNoColumnNeedsThem) {

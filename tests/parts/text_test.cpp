@@ -78,8 +78,8 @@ TEST(NumberText, WhatIsNoNumberIsEmpty) {
 }
 
 TEST(FormulaGuard, MarksWhatASpreadsheetWouldRun) {
-    for (const char* const text :
-         {"=cmd|'/c calc'!A1", "+1+2", "-2+3", "@SUM(1)", "\t=1", "\r=1", "-", "+-3"}) {
+    for (const char* const text : {"=cmd|'/c calc'!A1", "+1+2", "-2+3", "@SUM(1)", "\t=1", "\r=1",
+                                   "-", "+-3", "-inf", "+infinity", "-nan(cmd)", "-nan"}) {
         EXPECT_EQ(guardedFormula(text), std::string("'") + text);
     }
 }

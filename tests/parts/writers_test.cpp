@@ -75,6 +75,15 @@ TEST(Csv, QuotesWhatWouldSeparate) {
     EXPECT_EQ(csv(cell("a|b"), {.delimiter = '|'}), "Name\r\n\"a|b\"\r\n");
 }
 
+TEST(Csv, QuotesAnEmptyValueThatIsTheOnlyOneOfItsLine) {
+    PartsList list = cell("");
+    list.rows.push_back({.cells = {parts::Cell()}});
+
+    EXPECT_EQ(csv(list), "Name\r\n\"\"\r\n\"\"\r\n");
+    EXPECT_EQ(csv(listOf("Bolt", "Part Number,Description")),
+              "Part Number,Description\r\nBolt,\r\n");
+}
+
 TEST(Csv, QuotesTextsThatASpreadsheetWouldSplit) {
     EXPECT_EQ(csv(cell("a;=cmd")), "Name\r\n\"a;=cmd\"\r\n");
     EXPECT_EQ(csv(cell("a\t=cmd")), "Name\r\n\"a\t=cmd\"\r\n");

@@ -5,6 +5,7 @@
 #include "workbench/cli/usage_error.h"
 #include "workbench/commands/commands.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/output_names.h"
 #include "workbench/output/result_stream.h"
 
 #include "host/base/utf8_path.h"
@@ -96,6 +97,7 @@ void addOutput(CLI::App& command, ResultStream& results) {
                 "--output",
                 [&results, &command](const std::string& file) {
                     refuseFileInUse(command, file);
+                    refuseToReplaceDesign(file);
                     results.writeTo(file);
                 },
                 "Write what is printed into this file instead, which is replaced where it\n"

@@ -9,6 +9,7 @@
 #include "workbench/commands/parts_run.h"
 #include "workbench/commands/reader_share.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/reports.h"
 
 #include "host/base/utf8_path.h"
 
@@ -186,7 +187,10 @@ void printProfile(const PartsCommand& options, const Profile& profile) {
 
 void runParts(const PartsCommand& options) {
     PartsRun run;
-    run.files = expandInputs(options.files);
+    run.files = expandInputs(options.files, run.unreadable);
+    if (run.files.empty()) {
+        refuseObstacles(ExitCode::BadInput, run.unreadable);
+    }
     const Profile profile = findProfile(options, run.files);
     run.tasks = tasksOf(options, profile);
     reportFoundProfile(options, profile);

@@ -321,9 +321,18 @@ private:
 
     void reportSummary() const {
         const std::size_t count = run_.files.size();
+        const std::size_t folders = run_.unreadable.size();
+        std::string missing;
         if (listed_ < count) {
-            throw Failure(worst_, std::to_string(count - listed_) + " of " + std::to_string(count) +
-                                      " files could not be listed");
+            missing = std::to_string(count - listed_) + " of " + std::to_string(count) +
+                      " files could not be listed";
+        }
+        if (folders > 0) {
+            missing += (missing.empty() ? "" : ", ") + std::to_string(folders) +
+                       (folders == 1 ? " folder" : " folders") + " could not be read";
+        }
+        if (!missing.empty()) {
+            throw Failure(std::max(worst_, ExitCode::BadInput), missing);
         }
         if (isSeveral(run_) && !isQuiet()) {
             std::cerr << count << " files listed\n";
@@ -375,6 +384,7 @@ void checkOutputs(const PartsRun& run) {
 
 void listParts(const PartsRun& run) {
     Delivery delivery(run);
+    reportFailures(run.unreadable);
     if (isSeveral(run)) {
         Workers workers(run);
         for (std::size_t file = 0; file < run.files.size(); ++file) {

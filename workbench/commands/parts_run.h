@@ -18,7 +18,8 @@ struct ListTask {
 };
 
 struct PartsRun {
-    std::vector<std::string> files;
+    std::vector<std::string> files;       ///< one at least
+    std::vector<std::string> unreadable;  ///< of each folder that could not be searched, why
     std::vector<ListTask> tasks;
     ReadingOptions reading;
     std::size_t jobs = 1;  ///< designs that are read at once
@@ -28,9 +29,9 @@ struct PartsRun {
 /// files. Nothing has been read then.
 void checkOutputs(const PartsRun& run);
 
-/// Reads the designs and writes their lists, those of a design all or none. A design that fails is
-/// reported, and the others are listed all the same; then a `Failure` is thrown with the worst
-/// status. What is printed is in the order of the files.
+/// Reads the designs and writes their lists, those of a design all or none. A design that fails and
+/// a folder that could not be searched are reported, and the others are listed all the same; then a
+/// `Failure` is thrown with the worst status. What is printed is in the order of the files.
 void listParts(const PartsRun& run);
 
 }  // namespace workbench

@@ -5,10 +5,17 @@
 #include "workbench/cli/nearest_word.h"
 
 #include "host/base/utf8_path.h"
+#include "host/design/design_file.h"
+#include "host/import/file_check.h"
+
+#include <nlohmann/json.hpp>
 
 #include <cstddef>
+#include <exception>
+#include <fstream>
 #include <map>
 #include <set>
+#include <string_view>
 #include <system_error>
 
 namespace workbench {
@@ -38,13 +45,6 @@ std::string replacement(const std::string& word, const std::string& pattern,
                             : "; did you mean {" + nearest + "}?"));
 }
 
-/// One spelling for a file, whether it is there or not.
-fs::path settled(const std::string& name) {
-    std::error_code error;
-    const fs::path path = fs::weakly_canonical(host::fromUtf8(name), error);
-    return error ? fs::absolute(host::fromUtf8(name), error).lexically_normal() : path;
-}
-
 /// A device or a folder is there already and cannot be replaced by a list.
 void refuseWhatIsNoFile(const std::string& name, const fs::path& path) {
     std::error_code ignored;
@@ -53,7 +53,58 @@ void refuseWhatIsNoFile(const std::string& name, const fs::path& path) {
     }
 }
 
+/// The first bytes of a file.
+std::string firstBytes(const fs::path& file, std::size_t size) {
+    std::ifstream stream(file, std::ios::binary);
+    std::string start(size, '\0');
+    stream.read(start.data(), static_cast<std::streamsize>(size));
+    start.resize(static_cast<std::size_t>(stream.gcount()));
+    return start;
+}
+
+/// A list is never packed.
+bool isPackedDesign(const fs::path& file) {
+    return hasDesignEnding(host::toUtf8(file)) && firstBytes(file, 2) == "\x1F\x8B";
+}
+
+/// The reader takes any file for IGES whose first line has an S in column 73, as a list may have:
+/// under the name of a list the number of that line has to follow.
+bool isStepOrIges(const fs::path& file) {
+    try {
+        host::checkStepFile(file, host::toUtf8(file));
+    } catch (const std::exception&) {
+        return false;
+    }
+    constexpr std::size_t kLine = 80;
+    constexpr std::size_t kNumber = 73;
+    const std::string line = firstBytes(file, kLine);
+    const bool isNumbered = line.size() == kLine && line.back() == '1' &&
+                            line.find_first_not_of(" 01", kNumber) == std::string::npos;
+    return hasDesignEnding(host::toUtf8(file)) || isNumbered ||
+           line.find("ISO-10303-21") != std::string::npos;
+}
+
+/// JSON lists have another format.
+bool holdsDesignFile(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    const auto isNearTop = [](int depth, nlohmann::json::parse_event_t /*event*/,
+                              nlohmann::json& /*value*/) { return depth <= 1; };
+    const nlohmann::json json =
+        nlohmann::json::parse(stream, isNearTop, /*allow_exceptions=*/false);
+    const auto format = json.find("format");
+    return format != json.end() && *format == host::kDesignFileFormat;
+}
+
 }  // namespace
+
+void refuseToReplaceDesign(const std::string& name) {
+    std::error_code ignored;
+    const fs::path file = host::fromUtf8(name);
+    if (fs::is_regular_file(file, ignored) &&
+        (isPackedDesign(file) || isStepOrIges(file) || holdsDesignFile(file))) {
+        refuse("--output " + name + ": is a design; the output needs a file of its own");
+    }
+}
 
 std::string outputName(const std::string& pattern, const std::string& file) {
     std::string name;
@@ -89,6 +140,7 @@ void checkOutputNames(const std::vector<std::string>& names,
         if (read.contains(path)) {
             refuse(names[index] + ": is one of the designs; the output needs a file of its own");
         }
+        refuseToReplaceDesign(names[index]);
         const auto [first, isNew] = written.try_emplace(path, index);
         if (!isNew) {
             refuse(names[index] + ": would be written twice, for " + sources[first->second] +

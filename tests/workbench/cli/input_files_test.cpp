@@ -10,8 +10,14 @@
 namespace {
 
 using test_support::refusal;
-using workbench::expandInputs;
 using Names = std::vector<std::string>;
+
+Names expandInputs(const Names& arguments) {
+    Names unreadable;
+    Names files = workbench::expandInputs(arguments, unreadable);
+    EXPECT_EQ(unreadable, Names());
+    return files;
+}
 
 class InputFiles : public testing::Test {
 protected:
@@ -66,6 +72,12 @@ TEST_F(InputFiles, TwoStarsMatchAnyNumberOfFolders) {
 TEST_F(InputFiles, WhatIsNamedTwiceIsThereOnce) {
     EXPECT_EQ(expanded({"b.step", "*.step", "sub"}),
               (Names{"b.step", "sub/c.p21", "sub/c.step.gz", "sub/deep/d.design.json"}));
+}
+
+TEST_F(InputFiles, WhatIsSpeltDifferentlyIsThereOnce) {
+    EXPECT_EQ(expanded({"b.step", "./b.step", "sub/../b.step", "missing.step", "./missing.step"}),
+              (Names{"b.step", "missing.step"}));
+    EXPECT_EQ(expandInputs({"-", "-"}), Names{"-"});
 }
 
 TEST_F(InputFiles, AFileIsItselfWhateverItsName) {

@@ -49,4 +49,34 @@ TEST(OutputNames, ADesignIsNotOverwritten) {
               design + ": is one of the designs; the output needs a file of its own");
 }
 
+/// What is said of an output in the place of a file.
+std::string refusalToReplace(const std::string& name, const std::string& content) {
+    const test_support::TemporaryFolder folder;
+    const std::string file = folder.write(name, content);
+    const std::string said = refusal([&] { checkOutputNames({file}, {"a.step"}, {"a.step"}); });
+    return said.empty() ? said : said.substr(said.rfind(": is a "));
+}
+
+TEST(OutputNames, AnyOtherDesignIsNotOverwritten) {
+    const std::string wanted = ": is a design; the output needs a file of its own";
+    const std::string iges = std::string(72, ' ') + "S      1\n";
+
+    EXPECT_EQ(
+        refusalToReplace("b.design.json", "{\"name\": {}, \"format\": \"standin-host-design\"}"),
+        wanted);
+    EXPECT_EQ(refusalToReplace("list.csv", "ISO-10303-21;\nHEADER;\n"), wanted);
+    EXPECT_EQ(refusalToReplace("list.csv", iges), wanted);
+    EXPECT_EQ(refusalToReplace("b.step.gz", "\x1F\x8B packed"), wanted);
+}
+
+TEST(OutputNames, AListThatIsThereIsReplaced) {
+    EXPECT_EQ(refusalToReplace("list.json",
+                               "{\"format\": \"tarnix-parts\", \"rows\": "
+                               "[{\"format\": \"standin-host-design\"}]}"),
+              "");
+    // Column 73 of the captions is the S of "Size".
+    EXPECT_EQ(refusalToReplace("list.csv", std::string(72, 'x') + "Size [mm],Mass [kg]\r\n"), "");
+    EXPECT_EQ(refusalToReplace("b.design.json", ""), "");
+}
+
 }  // namespace
