@@ -176,7 +176,9 @@ export class Grid {
       this.source.picture(row, address => cell.replaceChildren(element('img', {src: address, alt: ''})));
     } else {
       const text = this.source.text(row, column);
-      cell.append(this.makeSign(this.source.doubt(row, column)) ?? '', text);
+      const sign = this.makeSign(this.source.doubt(row, column));
+      if (sign) cell.append(sign);
+      cell.append(text);
       align(cell, text, column);
       if (text.length > 12) cell.title = text;
     }
