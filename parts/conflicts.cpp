@@ -29,6 +29,7 @@ public:
         : context_(context), keys_(keys), group_(group), found_(found) {}
 
     void run() {
+        check("part number", [&](std::size_t each) { return ownNumberOf(each); });
         if (context_.request.merging.by != MergeBy::Shape) {
             // What is merged by its shape is so whatever it is called.
             check("name", [&](std::size_t each) { return context_.baseNameOf(each); });
@@ -63,6 +64,12 @@ private:
                           .item = keys_.textOf(group_.front()),
                           .values = std::move(values),
                           .components = inOrder(names)});
+    }
+
+    /// One that is the name is given by the file's writer and not by whoever orders parts.
+    [[nodiscard]] std::string ownNumberOf(std::size_t component) const {
+        const host::ComponentData& data = context_.at(component);
+        return data.partNumber == data.name ? "" : data.partNumber;
     }
 
     [[nodiscard]] std::string materialOf(std::size_t component) const {

@@ -91,13 +91,14 @@ struct PartsRow {
     std::optional<std::size_t> parent = {};  ///< index of a row; in the indented view alone
     std::string path = {};                   ///< of the first occurrence, as in "Asm:1+Bolt:2"
     std::size_t component = 0;               ///< that the row is named after
-    std::vector<Member> members = {};        ///< by component
-    std::vector<Use> usedIn = {};            ///< by component; not in the indented view
-    std::optional<double> mass = {};         ///< kg, of one; nothing where it is not measured
-    std::optional<double> totalMass = {};    ///< kg
-    std::optional<int> shape = {};           ///< class of its shape
-    bool isAssumed = false;                  ///< a material or a density in it is assumed
-    bool isUnmeasured = false;               ///< a body in it has no measures: sums are too small
+    /// By component; in the tree the one that is at `path` comes first.
+    std::vector<Member> members = {};
+    std::vector<Use> usedIn = {};          ///< by component; not in the indented view
+    std::optional<double> mass = {};       ///< kg, of one; nothing where it is not measured
+    std::optional<double> totalMass = {};  ///< kg
+    std::optional<int> shape = {};         ///< class of its shape
+    bool isAssumed = false;                ///< a material or a density in it is assumed
+    bool isUnmeasured = false;             ///< a body in it has no measures: sums are too small
 };
 
 struct ListColumn {
@@ -117,9 +118,10 @@ struct Totals {
 
 /// Components that are one item though they differ.
 struct Conflict {
-    std::string what;                 ///< "name", "material", "mass", "shape", "contents", "kind"
-    std::string item;                 ///< what they are merged by, such as the part number
-    std::vector<std::string> values;  ///< those that differ, in order
+    /// "part number", "name", "material", "mass", "shape", "contents", "kind"
+    std::string what;
+    std::string item;                     ///< what they are merged by, such as the part number
+    std::vector<std::string> values;      ///< those that differ, in order
     std::vector<std::string> components;  ///< names, in order
 
     bool operator==(const Conflict&) const = default;

@@ -3,6 +3,7 @@
 #include "parts/natural_order.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <optional>
@@ -47,6 +48,12 @@ std::optional<int> shapeOf(const ListContext& context, const PartsRow& row) {
             break;
     }
     return std::nullopt;
+}
+
+/// The paths below a row are those in the component that made its own.
+void putFirst(std::vector<Member>& members, std::size_t component) {
+    const auto first = std::ranges::find(members, component, &Member::component);
+    std::rotate(members.begin(), first, std::next(first));
 }
 
 void finish(const ListContext& context, PartsRow& row) {
@@ -189,10 +196,12 @@ private:
             }
         }
         for (PartsRow& child : children) {
+            const std::size_t first = child.members.front().component;
             child.perParent = child.quantity / parent.quantity;
             const bool isOpened = context_.tree.isOpened(child.members.front().component);
             child.kind = isOpened ? RowKind::Assembly : RowKind::Part;
             finish(context_, child);
+            putFirst(child.members, first);
         }
         return children;
     }

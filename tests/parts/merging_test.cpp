@@ -223,6 +223,31 @@ TEST(Conflicts, NameWhatDiffersInOneItem) {
                                                       .components = {"Cap screw", "Screw"}}}));
 }
 
+TEST(Conflicts, PartNumbersThatDifferInOneItem) {
+    const host::DesignData design = drawn(R"(
+        Bolt  number=B-1
+        Bolt (1)  number=B-2
+        Bolt (2)  number=""
+        Bolt (3))");
+    const parts::PartShapes shapes{.classOf = {std::nullopt, 4, 4, 4, 4}};
+    for (const char* const by : {"name", "shape", "BOM Structure"}) {
+        const PartsList list =
+            parts::buildPartsList(design, merging(by, View::Parts, "Part Number,Quantity"), shapes);
+
+        EXPECT_EQ(rowsOf(list), "B-1 | 4") << by;
+        ASSERT_EQ(list.conflicts.size(), 1U) << by;
+        EXPECT_EQ(list.conflicts[0].what, "part number");
+        EXPECT_EQ(list.conflicts[0].values, (std::vector<std::string>{"B-1", "B-2"}));
+    }
+    EXPECT_TRUE(parts::buildPartsList(design, merging("component")).conflicts.empty());
+}
+
+TEST(Conflicts, PartNumbersThatAreTheNamesDoNotDiffer) {
+    EXPECT_TRUE(parts::buildPartsList(drawn("Pin  number=Pin\nPin (1)  number=\"Pin (1)\""),
+                                      merging("name"))
+                    .conflicts.empty());
+}
+
 TEST(Conflicts, MassesWithinATenthOfAPercentAreEqual) {
     const auto conflicts = [](const std::string& lengths) {
         return parts::buildPartsList(

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -21,6 +20,7 @@ using parts::PartsList;
 using parts::PartsRow;
 using parts::View;
 using test_support::randomDesign;
+using test_support::shuffled;
 
 constexpr unsigned kDesigns = 1000;
 
@@ -31,14 +31,6 @@ parts::PartsRequest sorted(View view) {
     request.merging.by = parts::MergeBy::Component;
     request.sort = parts::parseSort("Part Name,Mass,Quantity");
     return request;
-}
-
-host::DesignData shuffled(host::DesignData design, unsigned seed) {
-    std::mt19937 random(seed);
-    for (host::ComponentData& component : design.components) {
-        std::shuffle(component.children.begin(), component.children.end(), random);
-    }
-    return design;
 }
 
 /// Paths of the components' first places, as they are met from the root down, children before the
@@ -91,6 +83,19 @@ TEST(OrderOfChildren, DecidesWhichPlaceAPathNames) {
             }
         }
     }
+}
+
+TEST(OrderOfChildren, DecidesInWhichOfEqualAssembliesThePathsAre) {
+    host::DesignData design = test_support::drawn(R"(
+        Left  number=W
+          Left rib  number=R
+        Right  number=W
+          Right rib  number=R)");
+    std::ranges::reverse(design.components[0].children);
+
+    EXPECT_EQ(test_support::rowsOf(parts::buildPartsList(
+                  design, test_support::request(View::Indented, "Part Number,Quantity,Path"))),
+              "W | 2 | Right:1\nR | 2 | Right:1+Right rib:1");
 }
 
 TEST(OrderOfChildren, IsThatOfTheRowsUnlessTheyAreSorted) {

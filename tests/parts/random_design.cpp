@@ -3,10 +3,15 @@
 #include "host/design/geometry.h"
 #include "host/design/naming.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
+#include <numeric>
 #include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace test_support {
 namespace {
@@ -75,6 +80,25 @@ host::DesignData randomDesign(unsigned seed) {
         addChildren(design, index, dice);
     }
     host::numberInstances(design);
+    return design;
+}
+
+host::DesignData shuffled(host::DesignData design, unsigned seed) {
+    std::mt19937 random(seed);
+    std::vector<std::size_t> order(design.components.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    // The first one is the root component.
+    std::shuffle(std::next(order.begin()), order.end(), random);
+    std::vector<host::ComponentData> components(order.size());
+    for (std::size_t index = 0; index < order.size(); ++index) {
+        host::ComponentData& component = components[order[index]];
+        component = std::move(design.components[index]);
+        for (host::OccurrenceData& child : component.children) {
+            child.component = order[child.component];
+        }
+        std::shuffle(component.children.begin(), component.children.end(), random);
+    }
+    design.components = std::move(components);
     return design;
 }
 

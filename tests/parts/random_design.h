@@ -9,4 +9,7 @@ namespace test_support {
 /// numbers are repeated or empty, and places are absent.
 host::DesignData randomDesign(unsigned seed);
 
+/// The same design with its components, and the children of each, in another order.
+host::DesignData shuffled(host::DesignData design, unsigned seed);
+
 }  // namespace test_support
