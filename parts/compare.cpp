@@ -53,6 +53,12 @@ bool isSameText(const std::string& left, const std::string& right) {
     return left == right || guardedFormula(left) == right || left == guardedFormula(right);
 }
 
+/// A list may have been written with a decimal comma.
+bool isShownAs(const Extents& extents, std::string text, const NumberFormat& format) {
+    std::ranges::replace(text, ',', '.');
+    return cellText(extents, format) == text;
+}
+
 bool isSame(const Cell& left, const Cell& right, const ComparedColumn& about) {
     const NumberFormat format{.significantDigits = about.shownDigits};
     const auto* const one = std::get_if<Number>(&left);
@@ -65,6 +71,12 @@ bool isSame(const Cell& left, const Cell& right, const ComparedColumn& about) {
     }
     if (about.isAsShown && other != nullptr) {
         return isShownAs(*other, cellText(left, format), format);
+    }
+    if (const auto* const extents = std::get_if<Extents>(&left); about.isAsShown && extents) {
+        return isShownAs(*extents, cellText(right, format), format);
+    }
+    if (const auto* const extents = std::get_if<Extents>(&right); about.isAsShown && extents) {
+        return isShownAs(*extents, cellText(left, format), format);
     }
     return isSameText(cellText(left, format), cellText(right, format));
 }
@@ -214,6 +226,65 @@ std::optional<double> numberIn(const Cell& cell) {
     return number == nullptr ? std::nullopt : std::optional(number->value);
 }
 
+/// How unlikely it is that two lines of one item are the same one.
+std::size_t distance(const ComparedLine& before, const ComparedLine& after,
+                     const std::vector<ComparedColumn>& columns) {
+    const bool isOtherKind = before.kind && after.kind && *before.kind != *after.kind;
+    Comparer comparer(columns);
+    comparer.compare(before, after);
+    // More than there are changes in a line: its columns, its parents, its shape.
+    return comparer.changes.size() + (isOtherKind ? columns.size() + 3 : 0);
+}
+
+using Pairs = std::map<std::size_t, std::size_t>;  // of indices, before and after
+
+/// Which lines of one item belong together, the nearest ones first.
+Pairs pairsOf(const Namesakes& lines, const std::vector<ComparedColumn>& columns) {
+    // Nobody tells hundreds of lines of one item apart: those are taken in their order.
+    constexpr std::size_t kMost = 10'000;
+    const std::size_t count = lines.before.size() * lines.after.size();
+    std::vector<std::array<std::size_t, 3>> candidates;
+    for (std::size_t before = 0; before < lines.before.size(); ++before) {
+        for (std::size_t after = 0; after < lines.after.size() && count <= kMost; ++after) {
+            candidates.push_back(
+                {count == 1 ? 0 : distance(*lines.before[before], *lines.after[after], columns),
+                 before, after});
+        }
+        if (count > kMost && before < lines.after.size()) {
+            candidates.push_back({0, before, before});
+        }
+    }
+    std::ranges::sort(candidates);
+    Pairs pairs;
+    std::vector<bool> isTaken(lines.after.size());
+    for (const auto& [cost, before, after] : candidates) {
+        if (!isTaken[after] && pairs.try_emplace(before, after).second) {
+            isTaken[after] = true;
+        }
+    }
+    return pairs;
+}
+
+void compareNamesakes(const Namesakes& lines, const std::vector<ComparedColumn>& columns,
+                      Comparer& comparer) {
+    const Pairs pairs = pairsOf(lines, columns);
+    std::vector<bool> isPaired(lines.after.size());
+    for (const auto& [before, after] : pairs) {
+        comparer.compare(*lines.before[before], *lines.after[after]);
+        isPaired[after] = true;
+    }
+    for (std::size_t before = 0; before < lines.before.size(); ++before) {
+        if (!pairs.contains(before)) {
+            comparer.addLine(ChangeKind::Removed, *lines.before[before]);
+        }
+    }
+    for (std::size_t after = 0; after < lines.after.size(); ++after) {
+        if (!isPaired[after]) {
+            comparer.addLine(ChangeKind::Added, *lines.after[after]);
+        }
+    }
+}
+
 }  // namespace
 
 std::string changeName(ChangeKind kind) { return kChangeNames.at(static_cast<std::size_t>(kind)); }
@@ -229,6 +300,7 @@ std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount
     std::vector<ComparedLine> lines;
     for (const PartsRow& row : list.rows) {
         ComparedLine line{.item = itemOf(list, row),
+                          .kind = row.kind,
                           .parents = parentsOf(list, row),
                           .quantity = row.quantity,
                           .hasParents = list.request.view != View::Indented};
@@ -262,16 +334,7 @@ ListComparison compareLines(const std::vector<ComparedLine>& before,
     }
     Comparer comparer(columns);
     for (const auto& [item, lines] : items) {
-        const std::size_t common = std::min(lines.before.size(), lines.after.size());
-        for (std::size_t index = 0; index < common; ++index) {
-            comparer.compare(*lines.before[index], *lines.after[index]);
-        }
-        for (std::size_t index = common; index < lines.before.size(); ++index) {
-            comparer.addLine(ChangeKind::Removed, *lines.before[index]);
-        }
-        for (std::size_t index = common; index < lines.after.size(); ++index) {
-            comparer.addLine(ChangeKind::Added, *lines.after[index]);
-        }
+        compareNamesakes(lines, columns, comparer);
     }
     return {.before = {},
             .after = {},

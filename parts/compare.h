@@ -30,11 +30,12 @@ struct ComparedLine {
     /// By what a parent is matched by: how many of the item are in one of it.
     using Parents = std::map<std::string, std::int64_t>;
 
-    std::string item;              ///< what lines are matched by
-    std::vector<Cell> cells = {};  ///< one for each column that is compared
-    Parents parents = {};          ///< what it is used in
-    std::int64_t quantity = 0;     ///< in the whole design, where the parents are known
-    bool hasParents = false;       ///< whether those are known
+    std::string item;                  ///< what lines are matched by
+    std::optional<RowKind> kind = {};  ///< of a design's line
+    std::vector<Cell> cells = {};      ///< one for each column that is compared
+    Parents parents = {};              ///< what it is used in
+    std::int64_t quantity = 0;         ///< in the whole design, where the parents are known
+    bool hasParents = false;           ///< whether those are known
     std::optional<ShapeMeasures> shape = {};
     std::optional<host::ShapeInvariants> invariants = {};  ///< where shapes were looked at
 };
@@ -79,7 +80,8 @@ std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount
 /// The request with what shapes are told apart by: columns Volume and Area behind the others.
 PartsRequest comparisonRequest(PartsRequest request);
 
-/// Compares lines with the same columns; lines of one item in their order.
+/// Compares lines with the same columns. Of several lines of one item those belong together that
+/// are of one kind, and then those that differ in the least columns.
 ListComparison compareLines(const std::vector<ComparedLine>& before,
                             const std::vector<ComparedLine>& after,
                             const std::vector<ComparedColumn>& columns);

@@ -1,28 +1,9 @@
 #include "parts/markdown_writer.h"
 
-#include <string>
-#include <string_view>
-
 namespace parts {
 namespace {
 
 constexpr std::string_view kSpecial = "\\`*_{}[]<>()#+!|~&$";
-
-/// What Markdown would take for markup, and what would end the line.
-std::string escapedForMarkdown(std::string_view text) {
-    std::string result;
-    for (const char each : text) {
-        if (each == '\n' || each == '\r' || each == '\t') {
-            result += ' ';
-            continue;
-        }
-        if (kSpecial.find(each) != std::string_view::npos) {
-            result += '\\';
-        }
-        result += each;
-    }
-    return result;
-}
 
 bool isNumeric(const ListColumn& column) { return infoOf(column.column.field).isNumber; }
 
@@ -71,6 +52,21 @@ void writeConflicts(const PartsList& list, std::ostream& stream) {
 }
 
 }  // namespace
+
+std::string escapedForMarkdown(std::string_view text) {
+    std::string result;
+    for (const char each : text) {
+        if (each == '\n' || each == '\r' || each == '\t') {
+            result += ' ';
+            continue;
+        }
+        if (kSpecial.find(each) != std::string_view::npos) {
+            result += '\\';
+        }
+        result += each;
+    }
+    return result;
+}
 
 void writeMarkdown(const PartsList& list, const NumberFormat& numbers, std::ostream& stream) {
     writeHead(list, stream);

@@ -91,7 +91,46 @@ TEST(Compare, TheMarkOfATextThatASpreadsheetWouldRunIsNoDifference) {
     EXPECT_EQ(changes(parts::Field::Description, "cmd", "'cmd").size(), 1U);
 }
 
-TEST(Compare, LinesOfOneItemBelongTogetherInTheirOrder) {
+TEST(Compare, LinesOfOneItemThatAreEqualBelongTogetherWhateverTheirOrder) {
+    const std::vector<parts::ComparedColumn> columns = {
+        {.field = parts::Field::Mass, .caption = "Mass"},
+        {.field = parts::Field::Material, .caption = "Material"}};
+    const ComparedLine assembly{.item = "S", .cells = {Number{.value = 3}, ""}};
+    const ComparedLine bodies{.item = "S", .cells = {Number{.value = 1}, "Steel"}};
+    ComparedLine painted = bodies;
+    painted.cells[1] = "Brass";
+
+    EXPECT_EQ(parts::compareLines({assembly, bodies}, {bodies, assembly}, columns).unchanged, 2U);
+    EXPECT_EQ(parts::compareLines({assembly, bodies}, {painted, assembly}, columns).changes,
+              (std::vector<Change>{{.kind = ChangeKind::Value,
+                                    .item = "S",
+                                    .column = "Material",
+                                    .before = "Steel",
+                                    .after = "Brass"}}));
+}
+
+TEST(Compare, LinesOfOneItemAndOneKindBelongTogether) {
+    const std::vector<parts::ComparedColumn> columns = {
+        {.field = parts::Field::Mass, .caption = "Mass"}};
+    const ComparedLine assembly{
+        .item = "S", .kind = parts::RowKind::Assembly, .cells = {Number{.value = 1}}};
+    const ComparedLine part{
+        .item = "S", .kind = parts::RowKind::Part, .cells = {Number{.value = 2}}};
+    ComparedLine heavyAssembly = assembly;
+    heavyAssembly.cells[0] = Number{.value = 2};
+    ComparedLine heavyPart = part;
+    heavyPart.cells[0] = Number{.value = 4};
+
+    // 1 and 2 became 2 and 4, the part listed first.
+    const parts::ListComparison comparison =
+        parts::compareLines({assembly, part}, {heavyPart, heavyAssembly}, columns);
+
+    ASSERT_EQ(comparison.changes.size(), 2U);
+    EXPECT_EQ(comparison.changes[0].after, parts::Cell(Number{.value = 2}));
+    EXPECT_EQ(comparison.changes[1].after, parts::Cell(Number{.value = 4}));
+}
+
+TEST(Compare, OfLinesOfOneItemTheOneTooManyIsRemoved) {
     const std::vector<parts::ComparedColumn> quantity = {
         {.field = parts::Field::Quantity, .caption = "Quantity"}};
     const ComparedLine one{.item = "M5", .cells = {Number{.value = 1, .decimals = 0}}};

@@ -73,11 +73,14 @@ std::vector<parts::ComparedColumn> aboutColumns(const parts::PartsList& list, st
     return columns;
 }
 
+enum class Shapes { NotRead, Read };
+
 /// A design with the list of it that is compared. What there is to remark is reported.
 struct ListedDesign {
     ListedDesign(const std::string& file, const host::DesignData& design,
-                 const parts::PartsRequest& request)
-        : shapes(host::readShapes(design, {.classes = true})),
+                 const parts::PartsRequest& request, Shapes wanted)
+        : shapes(wanted == Shapes::Read ? host::readShapes(design, {.classes = true})
+                                        : host::ShapeData()),
           list(listOf(design, request, parts::partShapesOf(shapes, parts::Pictures::None))) {
         Remarks remarks;
         addProblems(remarks, design, shapes);
@@ -96,8 +99,8 @@ parts::ListComparison compareDesigns(const CompareOptions& options) {
     request.columns = comparedColumns(options, {&before, &after});
     const std::size_t count = request.columns.size();
     const parts::PartsRequest whole = parts::comparisonRequest(request);
-    const ListedDesign old(options.before, before, whole);
-    const ListedDesign now(options.after, after, whole);
+    const ListedDesign old(options.before, before, whole, Shapes::Read);
+    const ListedDesign now(options.after, after, whole, Shapes::Read);
     return parts::compareLines(parts::linesOf(old.list, count, old.shapes),
                                parts::linesOf(now.list, count, now.shapes),
                                aboutColumns(old.list, count));
@@ -114,7 +117,9 @@ parts::ListComparison compareWithList(const CompareOptions& options, bool isList
     const EditedPartsList edited(isListOld ? options.before : options.after, request);
     const std::string& file = isListOld ? options.after : options.before;
     const host::DesignData design = readDesign(file, options.reading);
-    const parts::PartsList list = ListedDesign(file, design, edited.request()).list;
+    // A list has no shapes to compare with.
+    const Shapes shapes = parts::needsShapes(edited.request()) ? Shapes::Read : Shapes::NotRead;
+    const parts::PartsList list = ListedDesign(file, design, edited.request(), shapes).list;
     const std::vector<parts::ComparedLine> ofDesign = edited.linesOf(list);
     std::vector<parts::ComparedColumn> columns = aboutColumns(list, list.columns.size());
     for (parts::ComparedColumn& column : columns) {

@@ -42,6 +42,24 @@ std::optional<std::size_t> indexOf(const parts::PartsRequest& request, Field fie
                : std::optional(static_cast<std::size_t>(found - request.columns.begin()));
 }
 
+/// What tells the lines of a list apart. Classes of shapes are in no list.
+std::vector<parts::Column> keyColumns(const parts::Merging& merging) {
+    switch (merging.by) {
+        case parts::MergeBy::Name:
+        case parts::MergeBy::Component:
+            return {{.field = Field::PartName}};
+        case parts::MergeBy::Columns:
+            return merging.columns;
+        case parts::MergeBy::PartNumber:
+        case parts::MergeBy::Shape:
+            break;
+    }
+    return {{.field = Field::PartNumber}};
+}
+
+/// What a list may have with a decimal comma.
+bool isMeasure(Field field) { return field == Field::Size || parts::infoOf(field).isNumber; }
+
 }  // namespace
 
 bool isEditedPartsList(const std::string& file) {
@@ -59,12 +77,7 @@ EditedPartsList::EditedPartsList(const std::string& file, const parts::PartsRequ
         addColumn(list.captions[field], known);
         fields_.resize(request_.columns.size(), field);
     }
-    if (!indexOf(request_, Field::PartNumber)) {
-        throw Failure(ExitCode::BadInput,
-                      file +
-                          ": has no column \"Part Number\", by which lines are matched; where "
-                          "it has another caption, give --columns as the list was written with");
-    }
+    findKeys(file);
     for (const EditedList::Line& line : list.lines) {
         parts::ComparedLine compared;
         for (const std::size_t field : fields_) {
@@ -73,6 +86,22 @@ EditedPartsList::EditedPartsList(const std::string& file, const parts::PartsRequ
         }
         compared.item = itemOf(compared.cells);
         lines_.push_back(std::move(compared));
+    }
+}
+
+void EditedPartsList::findKeys(const std::string& file) {
+    for (const parts::Column& key : keyColumns(request_.merging)) {
+        const auto found = std::ranges::find_if(request_.columns, [&](const parts::Column& each) {
+            return each.field == key.field && each.property == key.property;
+        });
+        if (found == request_.columns.end()) {
+            throw Failure(
+                ExitCode::BadInput,
+                file + ": has no column \"" + parts::captionOf(key, request_.units) +
+                    "\", by which lines are matched; where it has another caption, give --columns "
+                    "as the list was written with");
+        }
+        keys_.push_back(static_cast<std::size_t>(found - request_.columns.begin()));
     }
 }
 
@@ -101,14 +130,19 @@ std::vector<parts::ComparedLine> EditedPartsList::linesOf(const parts::PartsList
 }
 
 std::string EditedPartsList::itemOf(const std::vector<parts::Cell>& cells) const {
-    for (const Field field : {Field::PartNumber, Field::PartName}) {
-        const std::optional<std::size_t> column = indexOf(request_, field);
-        std::string text = column ? parts::cellText(cells[*column], {}) : "";
-        if (!text.empty()) {
-            return text;
+    std::string item;
+    for (const std::size_t key : keys_) {
+        std::string text = parts::cellText(cells[key], {});
+        if (isMeasure(request_.columns[key].field)) {
+            std::ranges::replace(text, ',', '.');
         }
+        item += (item.empty() || text.empty() ? "" : ", ") + text;
     }
-    return {};
+    if (item.empty()) {
+        const std::optional<std::size_t> name = indexOf(request_, Field::PartName);
+        item = name ? parts::cellText(cells[*name], {}) : "";
+    }
+    return item;
 }
 
 }  // namespace workbench

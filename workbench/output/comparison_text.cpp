@@ -3,17 +3,19 @@
 #include "workbench/output/display_text.h"
 #include "workbench/output/text_table.h"
 
+#include "parts/markdown_writer.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace workbench {
 namespace {
 
 using parts::Change;
 using parts::ChangeKind;
+using parts::escapedForMarkdown;
 using parts::ListComparison;
 
 /// Differences of small numbers show in more digits than a list has.
@@ -41,20 +43,6 @@ std::string summary(const ListComparison& comparison) {
 std::string noDifferences(const ListComparison& comparison) {
     return "No differences, " + std::to_string(comparison.unchanged) +
            (comparison.unchanged == 1 ? " line\n" : " lines\n");
-}
-
-std::string escapedForMarkdown(std::string_view text) {
-    std::string escaped;
-    for (const char each : text) {
-        constexpr std::string_view kMarkup = "\\|`*_{}[]<>#";
-        if (each == '\n' || each == '\r') {
-            escaped += ' ';
-            continue;
-        }
-        escaped += kMarkup.find(each) == std::string_view::npos ? "" : "\\";
-        escaped += each;
-    }
-    return escaped;
 }
 
 constexpr std::array kCaptions = {"Change", "Item", "What", "Old", "New"};

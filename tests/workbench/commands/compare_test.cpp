@@ -222,6 +222,48 @@ TEST_F(CompareCommand, ChosenCaptionsAreUnderstoodWithTheSameColumns) {
               "0 added, 0 removed, 1 change in other lines, 0 unchanged\n");
 }
 
+TEST_F(CompareCommand, ByNameTheLinesOfAListAreMatchedByTheirNames) {
+    const std::string columns = "Part Number,Part Name,Quantity";
+    const std::string file = design("Bolt  number=B-1\nNut  number=N-1");
+    const std::string list = edited(file, {{"B-1,", "B-9,"}}, columns);
+
+    EXPECT_EQ(run({"compare", file, list, "--merge-by", "name", "--format", "markdown"}).output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| changed | Bolt | Part Number | B-1 | B-9 |\n\n"
+              "0 added, 0 removed, 1 change in other lines, 1 unchanged\n");
+    expectFailure(run({"compare", file, edited(file, {}, "Part Number"), "--merge-by", "name"}), 1,
+                  "tarnix-workbench: " + path("list.csv") +
+                      ": has no column \"Part Name\", by which lines are matched; where it has "
+                      "another caption, give --columns as the list was written with\n");
+}
+
+TEST_F(CompareCommand, ByColumnsTheLinesOfAListAreMatchedByTheirValues) {
+    const std::string file =
+        design("Red knob  number=K property=Colour/red\nBlue knob  number=K property=Colour/blue");
+    run({"parts", file, "--merge-by", "Part Number,Colour", "--columns",
+         "Part Number,Colour,Quantity", "--output", path("list.csv")});
+    writeFile(folder.path() / "list.csv", "Part Number,Colour,Quantity\r\nK,blue,1\r\nK,red,2\r\n");
+
+    EXPECT_EQ(run({"compare", file, path("list.csv"), "--merge-by", "Part Number,Colour",
+                   "--format", "markdown"})
+                  .output,
+              "| Change | Item | What | Old | New |\n"
+              "| --- | --- | --- | --- | --- |\n"
+              "| quantity | K, red | Quantity | 1 | 2 |\n\n"
+              "0 added, 0 removed, 1 change in other lines, 1 unchanged\n");
+}
+
+TEST_F(CompareCommand, AListWithADecimalCommaIsThatOfTheDesign) {
+    const std::string file = design("Bolt  box=1.25x1x0.5 material=Steel:0.0081234");
+    run({"parts", file, "--columns", "Part Number,Mass[g],X,Size", "--decimal-comma", "--output",
+         path("list.csv")});
+
+    EXPECT_NE(folder.read("list.csv").find("12,5 x 10 x 5"), std::string::npos)
+        << folder.read("list.csv");
+    EXPECT_EQ(run({"compare", file, path("list.csv")}).output, "No differences, 1 line\n");
+}
+
 TEST_F(CompareCommand, WhatTheListsWarnOfIsPrintedWithItsFile) {
     const std::string set = "Set  box=1x1x1 structure=Divided\n  Bolt";
     const std::string warning =

@@ -23,6 +23,16 @@ TEST(ComparisonText, AShapeThatChangedUnderItsNumberIsInMarkdown) {
               "0 added, 0 removed, 1 change in other lines, 3 unchanged\n");
 }
 
+TEST(ComparisonText, WhatWouldBeMarkupIsEscapedAsInAList) {
+    parts::ListComparison comparison = mirrored();
+    comparison.changes[0].item = "![x](y)~a~&lt;$1+2\tb";
+
+    EXPECT_NE(workbench::comparisonMarkdown(comparison, {})
+                  .find("| \\!\\[x\\]\\(y\\)\\~a\\~\\&lt;\\$1\\+2 b |"),
+              std::string::npos)
+        << workbench::comparisonMarkdown(comparison, {});
+}
+
 TEST(ComparisonText, AShapeThatChangedUnderItsNumberIsInJson) {
     EXPECT_EQ(json::parse(workbench::comparisonJson(mirrored())),
               (json{{"format", "tarnix-comparison"},
