@@ -158,16 +158,21 @@ private:
     int jobs_ = static_cast<int>(machine::processors());
 };
 
-/// What goes where: "--output" takes the place of all outputs in the profile.
+constexpr const char* kStdout = "-";
+
+/// What goes where: "--output" takes the place of all outputs in the profile, whose mistakes are
+/// refused all the same.
 std::vector<ListTask> tasksOf(const PartsCommand& options, const Profile& profile) {
     std::vector<ListTask> tasks;
     const Choice common(*options.command, profile);
     for (const std::string& output : options.outputs) {
-        tasks.push_back(common.task(output == "-" ? "" : output));
+        tasks.push_back(common.task(output == kStdout ? "" : output));
     }
-    if (tasks.empty()) {
-        for (const ProfileOutput& output : profile.outputs) {
-            tasks.push_back(Choice(*options.command, profile, output.entries).task(output.file));
+    for (const ProfileOutput& output : profile.outputs) {
+        const Choice choice(*options.command, profile, output.entries);
+        ListTask task = choice.task(output.file == kStdout ? "" : output.file);
+        if (options.outputs.empty()) {
+            tasks.push_back(std::move(task));
         }
     }
     if (tasks.empty()) {
@@ -180,7 +185,12 @@ std::vector<ListTask> tasksOf(const PartsCommand& options, const Profile& profil
 void printProfile(const PartsCommand& options, const Profile& profile) {
     const Choice common(*options.command, profile);
     std::cout << profileText(common.app(), kProfileKeys);
-    for (const ProfileOutput& output : profile.outputs) {
+    std::vector<ProfileOutput> outputs =
+        options.outputs.empty() ? profile.outputs : std::vector<ProfileOutput>();
+    for (const std::string& file : options.outputs) {
+        outputs.push_back({.file = file, .entries = {}, .line = 0});
+    }
+    for (const ProfileOutput& output : outputs) {
         std::cout << "\n[[output]]\n" << outputText(output);
     }
 }

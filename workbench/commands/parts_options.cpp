@@ -126,8 +126,8 @@ void addContent(CLI::App& command, PartsOptions& options) {
     command.add_flag("--shapes", options.comparesShapes,
                      "Compare the shapes of parts: report items of one shape under different\n"
                      "numbers, and different shapes under one number. --merge-by shape and the\n"
-                     "column Thumbnail compare them too, but what is merged by shape has no\n"
-                     "different numbers to report");
+                     "column Thumbnail compare them too; what is merged by shape is one item\n"
+                     "and no duplicate");
     command.add_option("--multiply", options.multiply, "List what so many of the design need")
         ->type_name("COUNT")
         ->check(CLI::Range(std::int64_t{1}, parts::kMostMultiply))

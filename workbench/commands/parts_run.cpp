@@ -215,6 +215,7 @@ public:
             const std::scoped_lock lock(mutex_);
             next_ = outcomes_.size();
         }
+        taken_.notify_all();
         for (std::thread& thread : threads_) {
             thread.join();
         }
@@ -224,6 +225,8 @@ public:
     FileOutcome take(std::size_t file) {
         std::unique_lock lock(mutex_);
         done_.wait(lock, [&] { return outcomes_[file].has_value(); });
+        wanted_ = file + 1;
+        taken_.notify_all();
         return *std::exchange(outcomes_[file], std::nullopt);
     }
 
@@ -232,8 +235,9 @@ private:
         for (;;) {
             std::size_t file = 0;
             {
-                const std::scoped_lock lock(mutex_);
-                if (next_ == outcomes_.size()) {
+                std::unique_lock lock(mutex_);
+                taken_.wait(lock, [&] { return next_ < wanted_ + ahead() || isOver(); });
+                if (isOver()) {
                     return;
                 }
                 file = next_++;
@@ -245,10 +249,20 @@ private:
         }
     }
 
+    [[nodiscard]] bool isOver() const { return next_ == outcomes_.size(); }
+
+    /// How many lists may wait for that of a large design before them: they are kept in memory.
+    [[nodiscard]] std::size_t ahead() const {
+        constexpr std::size_t kForEachJob = 4;
+        return kForEachJob * run_.jobs;
+    }
+
     const PartsRun& run_;
     std::mutex mutex_;  ///< guards what follows
     std::condition_variable done_;
+    std::condition_variable taken_;
     std::size_t next_ = 0;
+    std::size_t wanted_ = 0;  ///< by whoever takes the outcomes, in their order
     std::vector<std::optional<FileOutcome>> outcomes_;
     std::vector<std::thread> threads_;
 };

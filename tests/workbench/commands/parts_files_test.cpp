@@ -211,6 +211,35 @@ TEST_F(PartsOfFiles, ABadProfileIsRefusedWithItsLineBeforeAnythingIsWritten) {
                       ":1: view: tree not in {parts,indented,top,all}\n");
 }
 
+TEST_F(PartsOfFiles, ABadOutputOfAProfileIsRefusedAlsoWhereAnotherTakesItsPlace) {
+    profile("[[output]]\nfile = 'a.csv'\nvew = \"all\"\n");
+
+    expectFailure(run({"parts", path("in/cart.design.json"), "--output", path("out/b.csv")}), 1,
+                  "tarnix-workbench: " + path("in/tarnix.toml") +
+                      ":3: no key \"vew\"; did you mean \"view\"?\n");
+}
+
+TEST_F(PartsOfFiles, ThePrintedProfileHasTheOutputsThatHold) {
+    profile("[[output]]\nfile = 'profile.csv'\nmultiply = 2\n");
+    const std::string cart = path("in/cart.design.json");
+    const auto outputs = [&](const std::vector<std::string>& chosen) {
+        std::vector<std::string> arguments = {"parts", cart, "--print-profile"};
+        arguments.insert(arguments.end(), chosen.begin(), chosen.end());
+        const std::string text = run(arguments).output;
+        return text.substr(std::min(text.find("\n[["), text.size()));
+    };
+
+    EXPECT_EQ(outputs({}), "\n[[output]]\nfile = 'profile.csv'\nmultiply = 2\n");
+    EXPECT_EQ(outputs({"--output", "q.csv", "--output", "-"}),
+              "\n[[output]]\nfile = 'q.csv'\n\n[[output]]\nfile = '-'\n");
+}
+
+TEST_F(PartsOfFiles, AnOutputOfAProfileMayBePrinted) {
+    profile("columns = \"Quantity\"\n[[output]]\nfile = '-'\nformat = \"tsv\"\n");
+
+    EXPECT_EQ(run({"parts", path("in/cart.design.json")}).output, "Quantity\n2\n");
+}
+
 TEST_F(PartsOfFiles, ThePrintedProfileReadsBackTheSame) {
     profile(
         "columns = [\"Part Number\", \"Quantity\"]\nfilter = [\"Quantity>1\"]\n"
