@@ -85,8 +85,8 @@ TEST_F(CompareCommand, APartBelowAnotherAssemblyHasMoved) {
     EXPECT_EQ(result.output,
               "| Change | Item | What | Old | New |\n"
               "| --- | --- | --- | --- | --- |\n"
-              "| moved | Bolt | Used in | Left (1) | Right (1) |\n"
-              "| moved | Nut | Used in | Right (1) | Left (1) |\n\n"
+              "| moved | Bolt | Used in | Left \\(1\\) | Right \\(1\\) |\n"
+              "| moved | Nut | Used in | Right \\(1\\) | Left \\(1\\) |\n\n"
               "0 added, 0 removed, 2 changes in other lines, 0 unchanged\n");
 }
 
