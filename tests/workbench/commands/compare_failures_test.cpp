@@ -75,8 +75,8 @@ TEST_F(CompareFailures, AnUnknownColumnKeepsTheResultThatWasThere) {
 TEST_F(CompareFailures, AMissingDesignKeepsTheResultThatWasThere) {
     writeFile(folder.path() / "changes.txt", "old");
 
-    expectFailure(run({"compare", old_, path("none.step"), "--output", path("changes.txt")}), 1,
-                  "tarnix-workbench: " + path("none.step") + ": no such file\n");
+    expectFailure(run({"compare", old_, path("none.design.json"), "--output", path("changes.txt")}),
+                  1, "tarnix-workbench: " + path("none.design.json") + ": no such file\n");
     EXPECT_EQ(folder.read("changes.txt"), "old");
 }
 
