@@ -26,7 +26,7 @@ struct PartsOptions {
     std::string units;
     std::int64_t multiply = 1;
     bool comparesShapes = false;
-    std::string format;     ///< empty: by the ending of the output
+    std::string format;  ///< empty: by the ending of the output
     std::string detail = "normal";
     bool rawTexts = false;  ///< texts that a spreadsheet would run are not marked
     PartsFormat writing;
