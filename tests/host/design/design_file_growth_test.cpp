@@ -1,42 +1,12 @@
 #include "host/design/design_file.h"
 #include "host/design/geometry.h"
+#include "tests/support/allocations.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstdlib>
-#include <new>
 #include <string>
-
-namespace {
-
-std::size_t allocations = 0;
-
-void* allocate(std::size_t size) {
-    ++allocations;
-    void* const memory = std::malloc(size != 0 ? size : 1);
-    if (memory == nullptr) {
-        throw std::bad_alloc();
-    }
-    return memory;
-}
-
-}  // namespace
-
-// Those of the whole program.
-void* operator new(std::size_t size) { return allocate(size); }
-void* operator new[](std::size_t size) { return allocate(size); }
-void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return std::malloc(size != 0 ? size : 1);
-}
-void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return std::malloc(size != 0 ? size : 1);
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace host {
 namespace {
@@ -62,10 +32,10 @@ std::size_t allocationsToLoad(std::size_t parts) {
     const test_support::TemporaryFolder folder;
     const std::filesystem::path file = folder.path() / "flat.design.json";
     saveDesignFile(file, flatDesign(parts));
-    const std::size_t before = allocations;
+    const std::size_t before = test_support::allocations();
     const DesignData loaded = loadDesignFile(file);
     EXPECT_EQ(loaded.components.size(), 1 + parts);
-    return allocations - before;
+    return test_support::allocations() - before;
 }
 
 // Time depends on the machine; what a design costs more than once would show in the count as well.

@@ -1,4 +1,4 @@
-#include "tests/tarnix/settings/failing_allocation.h"
+#include "tests/support/allocations.h"
 #include "tests/tarnix/settings/settings_fixture.h"
 
 #include <exception>
@@ -26,7 +26,7 @@ protected:
             bool hasRaised = false;
             bool hasFailed = false;
             {
-                const test::FailingAllocation failing(nth);
+                const test_support::FailingAllocation failing(nth);
                 try {
                     write();
                 } catch (const std::exception&) {

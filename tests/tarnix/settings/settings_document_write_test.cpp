@@ -1,4 +1,4 @@
-#include "tests/tarnix/settings/failing_allocation.h"
+#include "tests/support/allocations.h"
 #include "tests/tarnix/settings/settings_fixture.h"
 
 #include <stdexcept>
@@ -167,7 +167,7 @@ protected:
             bool hasFailed = false;
             bool isThere = false;
             {
-                const test::FailingAllocation failing(nth);
+                const test_support::FailingAllocation failing(nth);
                 isThere = static_cast<bool>(appendCategory(document, element, attribute, value));
                 hasFailed = failing.hasFailed();
             }

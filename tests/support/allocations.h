@@ -1,6 +1,13 @@
 #pragma once
 
-namespace tarnix::test {
+#include <cstddef>
+
+/// What a program allocates with `new`, for those that link `counted_allocations`. On Windows the
+/// allocations of a DLL are not among them.
+namespace test_support {
+
+/// How many there were since the program started.
+std::size_t allocations();
 
 /// While it lives, the `nth` allocation from its beginning (1 is the next) throws `std::bad_alloc`.
 class FailingAllocation {
@@ -14,4 +21,4 @@ public:
     [[nodiscard]] bool hasFailed() const;
 };
 
-}  // namespace tarnix::test
+}  // namespace test_support
