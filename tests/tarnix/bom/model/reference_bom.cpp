@@ -70,10 +70,8 @@ void merge(BomRow& target, const BomRow& current) {
     mergeProperties(target, current);
 }
 
-}  // namespace
-
-std::vector<BomRow> walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
-                                          int level) {
+/// What the merged walk adds to the rows of the model.
+void addMergedRows(BomModel& model, const Ptr<OccurrenceList>& occurrences, int level) {
     for (std::size_t i = 0; i < occurrences->count(); ++i) {
         const Ptr<Occurrence> occurrence = occurrences->item(i);
         if (!occurrence) {
@@ -96,10 +94,17 @@ std::vector<BomRow> walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> o
         }
         model.rows.push_back(row);
         if (occurrence->childOccurrences()->count() > 0) {
-            reference::walkOccurrencesMerged(model, occurrence->childOccurrences(), level + 1);
+            addMergedRows(model, occurrence->childOccurrences(), level + 1);
             model.rows.back().pathName = "-1";
         }
     }
+}
+
+}  // namespace
+
+std::vector<BomRow> walkOccurrencesMerged(BomModel& model, Ptr<OccurrenceList> occurrences,
+                                          int level) {
+    addMergedRows(model, occurrences, level);
     return model.rows;
 }
 
