@@ -42,6 +42,7 @@ export class Viewer {
   private travel = 0;
   private pointer: {x: number; y: number} | null = null;
   private marks = {selected: none as Iterable<number>, hovered: none as Iterable<number>};
+  private readonly observer = new ResizeObserver(() => this.resize());
 
   /// Throws an Error when the browser draws no WebGL 2.
   constructor(readonly canvas: HTMLCanvasElement, readonly model: Model) {
@@ -56,9 +57,21 @@ export class Viewer {
     new Controls(canvas, {
       camera: this.camera, moved: () => this.moved(), leave: () => this.point(null),
       hover: (x, y) => this.point({x, y}), click: (x, y, event) => this.onClick(this.pick(x, y), event)});
-    new ResizeObserver(() => this.resize()).observe(canvas.parentElement!);
+    this.observer.observe(canvas.parentElement!);
     canvas.addEventListener('webglcontextrestored', () => this.changed());
     this.resize();
+  }
+
+  /// Gives back what the picture took of the graphics card. The viewer and its canvas are of no use afterwards.
+  dispose(): void {
+    this.observer.disconnect();
+    cancelAnimationFrame(this.scheduled);
+    cancelAnimationFrame(this.travel);
+    this.scheduled = -1;
+    this.pointer = null;
+    this.onHover = this.onClick = this.onMove = this.onFrame = () => {};
+    this.renderer.dispose();
+    this.renderer.forceContextLoss();
   }
 
   // What is shown
