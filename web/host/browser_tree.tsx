@@ -87,7 +87,7 @@ function Node({row, index, expanded, selected, active, fold, pick, hover}: NodeP
                     .filter(Boolean).join(' · ');
   return (
     <div class={`node${selected ? ' selected' : ''}${active ? ' active' : ''}`} role="treeitem" id={`node-${index}`} aria-level={row.depth + 1}
-         aria-expanded={row.parent ? expanded : undefined} aria-selected={selected} aria-label={title} title={title}
+         aria-expanded={row.parent ? expanded : undefined} aria-selected={selected} title={title}
          style={{top: `${index * rowHeight}px`, paddingLeft: `${4 + row.depth * indent}px`}}
          onClick={pick} onPointerEnter={hover}>
       <span class={`twisty${row.parent ? expanded ? ' open' : ' closed' : ''}`} aria-hidden="true"
@@ -95,6 +95,6 @@ function Node({row, index, expanded, selected, active, fold, pick, hover}: NodeP
       <Icon sign={row.document ? 'document' : row.parent ? 'assembly' : 'part'}/>
       <span class="name">{name}</span>
       {partNumber && partNumber !== bare && <span class="number">{partNumber}</span>}
-      {row.grounded && <Icon sign="ground" class="grounded"/>}
+      {row.grounded && <Icon sign="ground" class="grounded" label={texts.grounded}/>}
     </div>);
 }

@@ -26,7 +26,7 @@ export function CommandDialog({dialog, line, frozen, room}: Props) {
     event.preventDefault();
   };
   return (
-    <Frame key={dialog.command} title={dialog.caption} name="command-dialog" class="command" box={placed(dialog, room())} focusAtFirst close={cancel} closeLabel={dialog.cancel.text} keys={keys}
+    <Frame key={dialog.command} title={dialog.caption} name="command-dialog" class="command-window" box={placed(dialog, room())} focusAtFirst close={cancel} closeLabel={dialog.cancel.text} keys={keys}
            moved={(left, top) => places.set(dialog.command, {left, top})} sized={(width, height) => void line.act('resize', {width, height})}>
       {tabs.length > 0 && <Tabs tabs={tabs} active={active} line={line} frozen={frozen}/>}
       <div class="contents" role={active ? 'tabpanel' : undefined} aria-labelledby={active ? `tab-${active.key}` : undefined}>

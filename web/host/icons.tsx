@@ -28,8 +28,9 @@ const paths = {
 
 export type Sign = keyof typeof paths;
 
-export function Icon({sign, class: name = ''}: {sign: Sign; class?: string}) {
-  return <svg viewBox="0 0 16 16" class={`icon ${name}`} aria-hidden="true"><path d={paths[sign]}/></svg>;
+/// A drawing; with a label it says what nothing beside it does.
+export function Icon({sign, class: name = '', label}: {sign: Sign; class?: string; label?: string}) {
+  return <svg viewBox="0 0 16 16" class={`icon ${name}`} role={label ? 'img' : undefined} aria-label={label} aria-hidden={label ? undefined : 'true'}><path d={paths[sign]}/></svg>;
 }
 
 /// The picture of a command or an item, from its folder of pictures.

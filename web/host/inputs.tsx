@@ -21,7 +21,7 @@ function Field({input, line, frozen}: InputProps) {
   if (input.kind === 'Group') return <Group input={input} line={line} frozen={frozen}/>;
   if (input.kind === 'Table') return <DataTable table={input as Table} line={line} frozen={frozen ?? false}/>;
   const isWide = input.fullWidth || !input.caption || input.kind === 'Button' || input.kind === 'RadioButtonGroup';
-  const isLabelled = input.kind !== 'Button' && input.kind !== 'CheckBox' && input.caption !== '';
+  const isLabelled = input.kind !== 'Button' && input.kind !== 'CheckBox' && Boolean(input.caption);
   return (
     <div class={`field ${input.kind}${isWide ? ' wide' : ''}`} title={input.tooltip || undefined}>
       {isLabelled && !listKinds.has(input.kind) && <label class="caption" for={`input-${input.key}`} id={`caption-${input.key}`}>{input.caption}</label>}
@@ -41,13 +41,13 @@ export function Control({input, line, cell = false, frozen = false}: InputProps)
     case 'ButtonRow': return <ButtonRow input={input} line={line} frozen={frozen}/>;
     case 'RadioButtonGroup': return <RadioButtons input={input} line={line} frozen={frozen}/>;
     case 'Selection': return <Selection input={input} line={line} frozen={frozen}/>;
-    case 'Image': return input.image ? <img class="image" src={input.image} alt={input.caption} title={input.tooltip || undefined}/> : null;
+    case 'Image': return input.image ? <img class="image" src={input.image} alt={input.caption ?? ''} title={input.tooltip ?? ''}/> : null;
     default: return null;
   }
 }
 
 function ActionButton({input, line, cell, frozen}: InputProps) {
-  const text = input.text || (cell || !input.icon ? input.caption : '');
+  const text = input.text || (cell || !input.icon ? input.caption ?? '' : '');
   const label = input.text || input.caption || input.tooltip;
   if (cell && !text && !input.icon) return null;
   return (
@@ -105,8 +105,8 @@ function ButtonRow({input, line, frozen}: InputProps) {
   const items = input.items ?? [];
   const first = Math.max(0, items.findIndex(each => each.selected));
   const one = (item: Item, i: number) => (
-    <button key={i} type="button" class="push with-icon" role={input.multiple ? undefined : 'radio'} title={item.name} aria-label={item.name} tabIndex={i === first ? 0 : -1}
-            {...{[input.multiple ? 'aria-pressed' : 'aria-checked']: item.selected}} disabled={!input.enabled || frozen}
+    <button key={i} type="button" class="push with-icon" role={input.multiple ? undefined : 'radio'} title={item.name ?? ''} aria-label={item.name ?? ''} tabIndex={i === first ? 0 : -1}
+            {...{[input.multiple ? 'aria-pressed' : 'aria-checked']: item.selected === true}} disabled={!input.enabled || frozen}
             onClick={() => void line.act('choose', {input: input.key, item: i})}>
       {item.icon ? <Picture folder={item.icon} size={16}/> : item.name}
     </button>);
@@ -118,7 +118,7 @@ function RadioButtons({input, line, frozen}: InputProps) {
     <div class="radios" role="radiogroup" aria-label={input.caption || input.id}>
       {(input.items ?? []).map((item, i) => (
         <label key={i} class="check">
-          <input type="radio" name={`radio-${input.key}`} checked={item.selected} disabled={!input.enabled || frozen}
+          <input type="radio" name={`radio-${input.key}`} checked={item.selected === true} disabled={!input.enabled || frozen}
                  onClick={() => void line.act('choose', {input: input.key, item: i})}/>
           <span>{item.name}</span>
         </label>))}

@@ -15,14 +15,15 @@ export type Child = [number, number, boolean] | null;
 
 export interface TreeComponent { name: string; partNumber: string; children: Child[]; document?: string }
 
-export interface Item { name: string; icon: string; selected: boolean }
+export interface Item { name?: string; icon?: string; selected?: boolean }
 
 export interface Row { cells: Cell[] }
 
+/// What is empty, 0 or false is left out.
 export interface Input {
   kind: 'Button' | 'ButtonRow' | 'CheckBox' | 'DropDown' | 'Group' | 'Image' | 'RadioButtonGroup' | 'Selection' | 'StringValue' | 'Tab' | 'Table' | 'TextBox';
-  key: number; id: string; caption: string; tooltip: string;
-  visible: boolean; enabled: boolean; fullWidth?: boolean;
+  key: number; id: string; caption?: string; tooltip?: string;
+  visible?: boolean; enabled?: boolean; fullWidth?: boolean;
   value?: boolean | string;
   text?: string; icon?: string; image?: string;
   items?: Item[]; multiple?: boolean;
@@ -32,14 +33,14 @@ export interface Input {
   inputs?: Input[];
 }
 
-export interface Cell extends Input { column: number; span: number }
+export interface Cell extends Input { column?: number; span?: number }
 
 export interface Table extends Input {
-  columns: number; ratio: string; shownColumns: number[];
-  minimumRows: number; maximumRows: number;
-  rowCount: number; shownCount: number; selectedRow: number;
+  columns?: number; ratio?: string; shownColumns?: number[];
+  minimumRows?: number; maximumRows?: number;
+  rowCount?: number; shownCount?: number; selectedRow?: number;
   window: {first: number; from: number; order: number[]; rows: Record<string, Row>};
-  toolbar: Input[];
+  toolbar?: Input[];
 }
 
 export interface Dialog {

@@ -22,25 +22,25 @@ export function DataTable({table, line, frozen}: Props) {
   const box = useRef<HTMLDivElement>(null);
   const asked = useRef({from: 0, count: 0});
   const focused = useRef<{at: number; number: number; row: Row} | null>(null);
-  const {window: shown} = table;
+  const {window: shown, shownCount = 0, selectedRow = 0, toolbar = []} = table;
   const heading = shown.first >= 0 && isHeading(shown.rows[shown.first]) ? shown.rows[shown.first] : null;
   const skipped = heading ? 1 : 0;  // the heading is no row of the body
-  const count = Math.max(0, table.shownCount - skipped);
+  const count = Math.max(0, shownCount - skipped);
   const covered = heading ? rowHeight : 0;
   const sight = useSight(box, rowHeight, count, around, covered);
 
   useEffect(() => {
     const [from, last] = [sight.first + skipped, sight.last + skipped];
     const [have, end] = [shown.from, shown.from + shown.order.length];
-    const isCovered = from >= have && Math.min(last, table.shownCount) <= end;
+    const isCovered = from >= have && Math.min(last, shownCount) <= end;
     const want = {from: Math.max(0, from - margin), count: last - from + 2 * margin};
     if (isCovered || asked.current.from === want.from && asked.current.count === want.count && line.pending > 0) return;
     asked.current = want;
     void line.ask('view', {input: table.key, ...want});
   });
 
-  const columns = table.shownColumns;
-  const widths = table.ratio.split(':').map(Number);
+  const columns = table.shownColumns ?? [];
+  const widths = (table.ratio ?? '').split(':').map(Number);
   const share = (column: number) => widths[column] > 0 ? widths[column] : 1;
   const template = columns.map(each => `minmax(${each === columns[0] && share(each) <= 3 ? 34 : 40}px, ${share(each)}fr)`).join(' ');
   // What the scroll bar takes of the body it takes of the heading as well: they are in one box.
@@ -70,24 +70,24 @@ export function DataTable({table, line, frozen}: Props) {
   });
 
   const select = (number: number, cell: Cell) => {
-    if (table.selectedRow !== number && cell.kind !== 'Button' && cell.kind !== 'CheckBox' && cell.enabled && !frozen) void line.ask('click', {input: cell.key});
+    if (selectedRow !== number && cell.kind !== 'Button' && cell.kind !== 'CheckBox' && cell.enabled && !frozen) void line.ask('click', {input: cell.key});
   };
   const label = table.caption || table.id;
   return (
     <div class="table-frame">
-      <div class="table" role="grid" aria-label={label} aria-rowcount={table.shownCount} aria-colcount={columns.length} ref={box} onKeyDown={keyed}
+      <div class="table" role="grid" aria-label={label} aria-rowcount={shownCount} aria-colcount={columns.length} ref={box} onKeyDown={keyed}
            onFocusIn={hold} onFocusOut={() => { focused.current = null; }}
-           style={{'--least-rows': String(Math.max(2, table.minimumRows))}}>
+           style={{'--least-rows': String(Math.max(2, table.minimumRows ?? 0))}}>
         {heading && <div class="head" role="rowgroup"><Cells row={heading} number={shown.first} index={0} columns={columns} template={template} line={line} frozen={frozen} heading/></div>}
         <div class="body" role="rowgroup" style={{height: `${count * rowHeight}px`}}>
           {rows.map(({at, number, row}) => row
             ? <Cells key={`row-${number}`} row={row} number={number} index={at + skipped} top={at * rowHeight} columns={columns} template={template} line={line} frozen={frozen}
-                     selected={number === table.selectedRow} select={cell => select(number, cell)}/>
+                     selected={number === selectedRow} select={cell => select(number, cell)}/>
             : <div key={`place-${at}`} class="row absent" role="presentation" style={{top: `${at * rowHeight}px`}}/>)}
         </div>
       </div>
-      {(table.toolbar.some(each => each.visible) || count > 30) && (
-        <div class="table-bar">{table.toolbar.filter(each => each.visible).map(each => <Control key={each.key} input={each} line={line} frozen={frozen}/>)}
+      {(toolbar.some(each => each.visible) || count > 30) && (
+        <div class="table-bar">{toolbar.filter(each => each.visible).map(each => <Control key={each.key} input={each} line={line} frozen={frozen}/>)}
           <span class="gap"/>{count > 30 && <span class="count">{texts.rows(count)}</span>}</div>)}
     </div>);
 }
@@ -104,10 +104,10 @@ function Cells({row, number, index, top, columns, template, line, frozen, headin
          style={{gridTemplateColumns: template, top: top === undefined ? undefined : `${top}px`}}>
       {columns.map((column, i) => {
         if (covered.has(column)) return null;
-        const cell = row.cells.find(each => each.column === column);
-        const across = cell?.visible ? columns.filter(each => each > column && each <= column + cell.span) : [];
+        const cell = row.cells.find(each => (each.column ?? 0) === column);
+        const across = cell?.visible ? columns.filter(each => each > column && each <= column + (cell.span ?? 0)) : [];
         across.forEach(each => covered.add(each));
-        const role = heading ? 'columnheader' : 'gridcell';
+        const role = heading && (cell?.text || cell?.caption) ? 'columnheader' : 'gridcell';
         const style = across.length ? {gridColumn: `span ${across.length + 1}`} : undefined;
         return (
           <div key={column} class={`cell ${cell?.visible ? cell.kind : 'empty'}${cell?.readOnly ? ' fixed' : ''}${cell?.icon ? ' pictured' : ''}`} role={role} aria-colindex={i + 1} style={style}
