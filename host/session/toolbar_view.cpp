@@ -100,6 +100,16 @@ ToolbarView readToolbars() {
     return view;
 }
 
+ControlView readCommand(const std::string& id) {
+    const Ptr<ui::CommandDefinitionObject> definition =
+        runningApplication().ui().state().definitions->find(id);
+    if (definition) return readCommand(*definition);
+    ControlView view;
+    view.command = id;
+    view.isDeleted = true;
+    return view;
+}
+
 std::vector<std::string> commandIds() {
     std::vector<std::string> ids;
     for (const auto& each : runningApplication().ui().state().definitions->all()) {

@@ -48,6 +48,10 @@ struct ToolbarView {
 /// Reads the toolbars of all workspaces at this moment; throws a `MisuseError` where no host runs.
 ToolbarView readToolbars();
 
+/// A command as its button would show it; without function where no command has this id. Throws a
+/// `MisuseError` where no host runs.
+ControlView readCommand(const std::string& id);
+
 /// The ids of all commands, in the order of their creation; throws a `MisuseError` where no host
 /// runs.
 std::vector<std::string> commandIds();

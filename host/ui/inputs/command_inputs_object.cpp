@@ -155,6 +155,30 @@ InputState* CommandInputsObject::find(const InputId& id) const {
     return nullptr;
 }
 
+InputState* CommandInputsObject::withSerial(std::uint32_t serial) const {
+    // Members are appended as they are made, so their serial numbers ascend.
+    std::size_t first = 0;
+    std::size_t end = members_.count();
+    while (first < end) {
+        const std::size_t middle = first + (end - first) / 2;
+        InputState* const found = InputState::of(members_.at(middle));
+        if (found->serial == serial) return found;
+        if (found->serial < serial) {
+            first = middle + 1;
+        } else {
+            end = middle;
+        }
+    }
+    return nullptr;
+}
+
+std::vector<InputState*> CommandInputsObject::containers() const {
+    std::vector<InputState*> found;
+    std::copy_if(landmarks_.begin(), landmarks_.end(), std::back_inserter(found),
+                 [](const InputState* each) { return each->inside() != nullptr; });
+    return found;
+}
+
 void CommandInputsObject::remove(InputState& input) {
     index_.remove(input);
     if (isLandmark(input.kind)) {

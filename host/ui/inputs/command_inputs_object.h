@@ -7,6 +7,7 @@
 #include <Core/CommandInputs.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -66,6 +67,12 @@ public:
 
     /// What `itemById` finds.
     [[nodiscard]] InputState* find(const std::string& id) const;
+
+    /// The member of that serial number, null where there is none here.
+    [[nodiscard]] InputState* withSerial(std::uint32_t serial) const;
+
+    /// The tabs and groups among the members, in order.
+    [[nodiscard]] std::vector<InputState*> containers() const;
 
     /// Takes a member out and disposes of it.
     void remove(InputState& input);
