@@ -166,6 +166,13 @@ host::DesignData readDesign(const std::string& file, const ReadingOptions& readi
     return design;
 }
 
+host::DesignData readReporting(const std::string& file, const ReadingOptions& reading,
+                               const host::ImportProgress& progress, Warnings& warnings) {
+    host::DesignData design = readFile(host::readDesign, file, reading, progress, warnings);
+    applyMaterial(file, reading, design, warnings);
+    return design;
+}
+
 host::DesignData readSilently(const std::string& file, const ReadingOptions& reading,
                               ReadingDepth depth, Warnings& warnings) {
     Read& read = depth == ReadingDepth::Whole ? host::readDesign : host::readTree;

@@ -20,6 +20,12 @@ host::ReadingCache readingCache();
 host::DesignData readDesign(const std::string& file, const ReadingOptions& reading,
                             std::vector<host::ReadingWarning>* warnings = nullptr);
 
+/// Reads a design and reports its progress to the caller; otherwise as `readSilently`, but that a
+/// warning is never a failure.
+host::DesignData readReporting(const std::string& file, const ReadingOptions& reading,
+                               const host::ImportProgress& progress,
+                               std::vector<host::ReadingWarning>& warnings);
+
 /// What to read of a file: everything, or its tree alone.
 enum class ReadingDepth { Whole, Tree };
 

@@ -1,0 +1,240 @@
+#include "tests/workbench/serve/page_client.h"
+#include "tests/workbench/serve/raw_connection.h"
+#include "tests/workbench/workbench_fixture.h"
+
+#include <httplib.h>
+
+namespace test_support {
+namespace {
+
+constexpr const char* kBom = "QM_TX_BOM";
+
+Json press(const std::string& command) { return {{"action", "press"}, {"command", command}}; }
+
+Json onInput(const std::string& action, const Json& input) {
+    return {{"action", action}, {"input", input["key"]}};
+}
+
+/// The captions of the open dialog's tabs, the active one in brackets.
+std::string tabsOf(const Json& state) {
+    std::string tabs;
+    for (const Json& each : state["dialog"]["inputs"]) {
+        const std::string caption = each["caption"];
+        tabs += each.value("active", false) ? "[" + caption + "] " : caption + " ";
+    }
+    return tabs;
+}
+
+/// The program with a small design, and its pages.
+class ServedPages : public Workbench {
+protected:
+    void serve(const std::string& outline = kSmallDesign) {
+        program = std::make_unique<ServedProgram>(std::vector<std::string>{design(outline)});
+        ASSERT_NE(program->port(), 0);
+    }
+
+    std::unique_ptr<ServedProgram> program;
+};
+
+TEST_F(ServedPages, PageBeginsWithTheWholeState) {
+    serve();
+    const PageClient page(*program);
+
+    const Json state = page.state();
+
+    EXPECT_EQ(state["document"]["name"], "sample");
+    EXPECT_EQ(state["document"]["changed"], false);
+    EXPECT_EQ(state["addin"]["running"], true);
+    EXPECT_EQ(state["dialog"], nullptr);
+    EXPECT_EQ(state["tree"]["components"][0]["name"], "sample");
+    EXPECT_EQ(state["tree"]["components"][0]["children"],
+              Json::parse("[[1, 1, false], [2, 1, false], [2, 2, false]]"));
+    EXPECT_EQ(state["tree"]["components"][2]["name"], "Bolt");
+    EXPECT_EQ(state["selection"], Json::array());
+}
+
+TEST_F(ServedPages, ButtonOpensTheDialogForAllPages) {
+    serve();
+    PageClient one(*program);
+    const PageClient other(*program);
+
+    const Json answer = one.act(press(kBom));
+
+    EXPECT_EQ(answer["ok"], true);
+    const Json seen = other.waitFor([](const Json& state) { return state["dialog"].is_object(); });
+    EXPECT_EQ(seen["dialog"], one.state()["dialog"]);
+    EXPECT_EQ(tabsOf(seen), "[Data of Model] Structure BOM Configuration ");
+}
+
+TEST_F(ServedPages, WhatTheScreenDoesNotOfferIsRefusedWithTheReason) {
+    serve();
+    PageClient page(*program);
+
+    EXPECT_EQ(page.refusal({{"action", "ok"}}), "409 cannot press OK: no dialog is open");
+    EXPECT_EQ(page.refusal({{"action", "click"}, {"input", 3}}), "409 no dialog is open");
+    EXPECT_EQ(page.refusal({{"action", "workspace"}, {"id", "Nowhere"}}),
+              "409 cannot show the workspace Nowhere: no workspace has this id");
+    page.act(press(kBom));
+    EXPECT_EQ(page.refusal({{"action", "click"}, {"input", 1'000'000}}),
+              "409 the dialog has no input with the key 1000000");
+}
+
+TEST_F(ServedPages, RowsAreSentForTheWindowOfThePage) {
+    std::string outline;
+    for (int part = 1; part <= 300; ++part) {
+        outline += "Part" + std::to_string(part) + "  box=1x1x1\n";
+    }
+    serve(outline);
+    PageClient page(*program);
+    const PageClient other(*program);
+
+    page.act(press(kBom));
+    const Json table = page.state()["dialog"]["inputs"][0]["inputs"][0];
+    ASSERT_EQ(table["kind"], "Table");
+    EXPECT_EQ(table["shownCount"], 301);
+    EXPECT_EQ(table["window"]["order"].size(), 60U);
+    Json view = onInput("view", table);
+    view["from"] = 250;
+    view["count"] = 20;
+    page.act(view);
+
+    const Json window = page.state()["dialog"]["inputs"][0]["inputs"][0]["window"];
+    EXPECT_EQ(window["from"], 250);
+    EXPECT_EQ(window["order"][0], 250);
+    EXPECT_EQ(window["order"].size(), 20U);
+    EXPECT_EQ(window["rows"].size(), 21U);  // with the headings
+    EXPECT_EQ(window["first"], 0);
+    const Json others =
+        other.waitFor([](const Json& state) { return state["dialog"].is_object(); });
+    EXPECT_EQ(others["dialog"]["inputs"][0]["inputs"][0]["window"]["from"], 0);
+}
+
+TEST_F(ServedPages, PageThatIsClosedInADialogCanBeOpenedAgain) {
+    serve();
+    {
+        PageClient page(*program);
+        page.act(press(kBom));
+    }
+
+    PageClient again(*program);
+
+    EXPECT_EQ(again.state()["dialog"]["command"], kBom);
+    EXPECT_EQ(again.act({{"action", "cancel"}})["ok"], true);
+    EXPECT_EQ(again.state()["dialog"], nullptr);
+}
+
+TEST_F(ServedPages, ProgramEndsOnASignalWithADialogOpen) {
+    serve();
+    PageClient page(*program);
+    page.act(press(kBom));
+
+    EXPECT_EQ(program->stop(), 0);
+    page.waitForEnd();
+}
+
+TEST_F(ServedPages, FileDialogWaitsForItsAnswerAndRefusesAllElse) {
+    serve();
+    PageClient page(*program);
+
+    EXPECT_EQ(page.act(press("QEMA_OpenLocalCmd_QAT"))["waiting"], true);
+
+    const Json dialog = page.state()["fileDialog"];
+    ASSERT_TRUE(dialog.is_object());
+    EXPECT_EQ(page.refusal(press(kBom)), "409 a file dialog is open: answer it first");
+    EXPECT_EQ(
+        page.refusal(
+                {{"action", "answerFile"}, {"id", dialog["id"]}, {"files", {"../settings.xml"}}})
+            .substr(0, 3),
+        "404");
+    EXPECT_EQ(page.act({{"action", "answerFile"}, {"id", dialog["id"]}, {"files", nullptr}})["ok"],
+              true);
+    EXPECT_FALSE(
+        page.waitFor([](const Json& state) { return state["fileDialog"].is_null(); }).is_null());
+}
+
+TEST_F(ServedPages, ProgramEndsOnASignalWhileAFileDialogWaits) {
+    serve();
+    PageClient page(*program);
+    page.act(press("QEMA_OpenLocalCmd_QAT"));
+
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(ServedPages, SavingAsksBeforeItReplaces) {
+    serve();
+    PageClient page(*program);
+    const Json save = {{"action", "save"}, {"file", "Local/kept.design.json"}};
+
+    EXPECT_EQ(page.act(save)["ok"], true);
+    const Json again = page.act(save);
+
+    EXPECT_EQ(again["status"], 409);
+    EXPECT_EQ(again["exists"], true);
+    EXPECT_EQ(again["error"], "\"Local/kept.design.json\" exists already");
+    Json replacing = save;
+    replacing["replace"] = true;
+    EXPECT_EQ(page.act(replacing)["ok"], true);
+    EXPECT_EQ(page.state()["document"]["file"], "Local/kept.design.json");
+    EXPECT_EQ(page.refusal({{"action", "save"}, {"file", "Local/kept.txt"}}),
+              "409 \"Local/kept.txt\": the name of a design file must end in .json");
+    EXPECT_EQ(page.refusal({{"action", "save"}, {"file", "../kept.json"}}).substr(0, 3), "404");
+}
+
+TEST_F(ServedPages, FileThatCannotBeReadLeavesTheDesign) {
+    serve();
+    writeFile(folder.path() / "data/tarnix-workbench/Projects/Local/broken.step", "nothing");
+    PageClient page(*program);
+
+    const std::string refusal = page.refusal({{"action", "open"}, {"file", "Local/broken.step"}});
+
+    EXPECT_EQ(refusal.substr(0, 4), "409 ");
+    EXPECT_NE(refusal.find("broken.step"), std::string::npos) << refusal;
+    EXPECT_EQ(page.state()["document"]["name"], "sample");
+    EXPECT_EQ(page.state()["busy"], nullptr);
+    EXPECT_EQ(page.act({{"action", "open"}, {"file", nullptr}})["ok"], true);
+}
+
+TEST_F(ServedPages, AddinIsLoadedAgainAndTheDesignStays) {
+    serve();
+    PageClient page(*program);
+    page.act(press(kBom));
+
+    EXPECT_EQ(page.act({{"action", "reloadAddin"}})["ok"], true);
+
+    EXPECT_EQ(page.state()["dialog"], nullptr);
+    EXPECT_EQ(page.state()["document"]["name"], "sample");
+    EXPECT_EQ(page.act(press(kBom))["ok"], true);
+    EXPECT_EQ(page.state()["dialog"]["command"], kBom);
+}
+
+TEST_F(ServedPages, ClientThatReadsNothingDisturbsNoOne) {
+    serve();
+    RawConnection silent(program->port());
+    silent.send("GET /events HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(program->port()) +
+                "\r\nCookie: " + program->cookie() + "\r\n\r\n");
+    PageClient page(*program);
+
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_EQ(page.act(press(kBom))["ok"], true);
+        ASSERT_EQ(page.act({{"action", "cancel"}})["ok"], true);
+    }
+
+    EXPECT_EQ(page.state()["dialog"], nullptr);
+}
+
+TEST_F(ServedPages, MoreThanSixteenAreRefused) {
+    serve();
+    std::vector<std::unique_ptr<PageClient>> pages;
+    for (int i = 0; i < 16; ++i) {
+        pages.push_back(std::make_unique<PageClient>(*program));
+    }
+    httplib::Client client("127.0.0.1", program->port());
+
+    const auto response = client.Get("/events", {{"Cookie", program->cookie()}});
+
+    ASSERT_TRUE(response);
+    EXPECT_EQ(response->status, 503);
+}
+
+}  // namespace
+}  // namespace test_support

@@ -1,0 +1,433 @@
+#include "workbench/serve/http_server.h"
+
+#include "workbench/cli/exit_code.h"
+#include "workbench/serve/model_bytes.h"
+#include "workbench/serve/palette_pages.h"
+#include "workbench/serve/protocol_error.h"
+#include "workbench/serve/rate_limit.h"
+#include "workbench/serve/request_guard.h"
+#include "workbench/serve/served_files.h"
+
+#include "host/base/utf8_path.h"
+
+#include <httplib.h>
+
+#include <charconv>
+#include <fstream>
+#include <future>
+#include <iterator>
+#include <optional>
+#include <thread>
+#include <utility>
+
+namespace workbench::serve {
+namespace {
+
+using httplib::Request;
+using httplib::Response;
+
+constexpr std::size_t kThreads = 32;
+constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
+constexpr const char* kAddress = "127.0.0.1";
+
+/// Of the page itself: nothing from elsewhere, and no script or style but its own files.
+constexpr const char* kPagePolicy =
+    "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data: blob:; "
+    "connect-src 'self'; frame-src 'self'; base-uri 'none'; form-action 'none'; "
+    "frame-ancestors 'none'";
+
+/// Of a palette's page: it has script and style of its own, and reaches nothing.
+constexpr const char* kSitePolicy =
+    "default-src 'none'; script-src 'unsafe-inline'; style-src 'unsafe-inline'; img-src data:; "
+    "form-action 'none'; base-uri 'none'; frame-ancestors 'self'; sandbox allow-scripts "
+    "allow-forms allow-popups";
+
+/// Of what is no page.
+constexpr const char* kClosedPolicy = "default-src 'none'; sandbox; frame-ancestors 'none'";
+
+constexpr const char* kJsonType = "application/json; charset=utf-8";
+constexpr const char* kHtmlType = "text/html; charset=utf-8";
+
+void answerJson(Response& response, int status, const Json& json) {
+    response.status = status;
+    response.set_content(textOf(json) + "\n", kJsonType);
+}
+
+void refuse(Response& response, const ProtocolError& error) {
+    Json body = {{"error", error.what()}};
+    if (error.exists()) {
+        body["exists"] = true;
+    }
+    answerJson(response, error.status(), body);
+}
+
+std::string typeOf(const std::string& name) {
+    const std::string ending = name.substr(std::min(name.rfind('.'), name.size()));
+    if (ending == ".js") return "text/javascript; charset=utf-8";
+    if (ending == ".css") return "text/css; charset=utf-8";
+    if (ending == ".svg") return "image/svg+xml";
+    if (ending == ".png" || ending == ".gif") return "image/" + ending.substr(1);
+    if (ending == ".jpg" || ending == ".jpeg") return "image/jpeg";
+    return kHtmlType;
+}
+
+std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) {
+        throw ProtocolError(kNotFound, "the file cannot be read");
+    }
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string event(const char* name, const Json& data) {
+    return "event: " + std::string(name) + "\ndata: " + textOf(data) + "\n\n";
+}
+
+/// What the server's threads ask of the host, done on the main thread.
+class HostCalls {
+public:
+    HostCalls(MainQueue& queue, ServedHost& host) : queue_(queue), host_(host) {}
+
+    /// Does `work` with the host, and returns what it returned or throws what it threw.
+    template <class Result>
+    Result run(std::function<Result(ServedHost&)> work) const {
+        const auto promise = std::make_shared<std::promise<Result>>();
+        std::future<Result> result = promise->get_future();
+        post([promise, work = std::move(work), &host = host_] {
+            try {
+                promise->set_value(work(host));
+            } catch (...) {
+                promise->set_exception(std::current_exception());
+            }
+        });
+        return result.get();
+    }
+
+    /// Does an action; returns its answer, which may come before the action is over.
+    [[nodiscard]] Json act(Action action) const {
+        const auto promise = std::make_shared<std::promise<Json>>();
+        std::future<Json> result = promise->get_future();
+        post([promise, action = std::move(action), &host = host_] {
+            try {
+                host.act(action, [promise](const Json& answer) { promise->set_value(answer); });
+            } catch (...) {
+                promise->set_exception(std::current_exception());
+            }
+        });
+        return result.get();
+    }
+
+    /// Shows a new page what it opens with.
+    void greet(const std::shared_ptr<Page>& page) const {
+        post([page, &host = host_] { host.greet(page); });
+    }
+
+    [[nodiscard]] const DataFolder& data() const { return host_.data(); }
+
+private:
+    void post(MainQueue::Work work) const {
+        if (queue_.isClosed()) {
+            throw ProtocolError(kUnavailable, "the program is ending");
+        }
+        if (!queue_.post(std::move(work))) {
+            throw ProtocolError(kTooManyRequests, "too many requests wait; try again");
+        }
+    }
+
+    MainQueue& queue_;
+    ServedHost& host_;
+};
+
+std::size_t numberIn(const std::string& text) {
+    std::size_t number = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (failure != std::errc() || end != text.data() + text.size()) {
+        throw ProtocolError(kNotFound, "there is nothing of this name");
+    }
+    return number;
+}
+
+/// The stream of one page.
+class EventStream {
+public:
+    EventStream(Pages& pages, std::shared_ptr<Page> page) : pages_(pages), page_(std::move(page)) {}
+    EventStream(const EventStream&) = delete;
+    EventStream& operator=(const EventStream&) = delete;
+    ~EventStream() { pages_.remove(*page_); }
+
+    /// Sends the next event, or a sign of life; false at the end of the stream.
+    bool sendNext(httplib::DataSink& sink) {
+        const std::shared_ptr<const State> next = page_->next(sent_ ? sent_->revision : 0);
+        if (page_->isClosed()) {
+            sink.done();
+            return true;
+        }
+        const std::string text = next ? textOfChange(*next) : ": still there\n\n";
+        if (next) {
+            sent_ = next;
+        }
+        return sink.write(text.data(), text.size());
+    }
+
+private:
+    [[nodiscard]] std::string textOfChange(const State& next) const {
+        if (!sent_) {
+            return event("state", {{"version", 1},
+                                   {"page", page_->number()},
+                                   {"revision", next.revision},
+                                   {"state", documentOf(next)}});
+        }
+        return event("change",
+                     {{"revision", next.revision}, {"patch", patchBetween(*sent_, next)}});
+    }
+
+    Pages& pages_;
+    std::shared_ptr<Page> page_;
+    std::shared_ptr<const State> sent_;
+};
+
+}  // namespace
+
+struct HttpServer::Parts {
+    Parts(MainQueue& mainQueue, Pages& allPages) : queue(mainQueue), pages(allPages) {}
+
+    void configure();
+    void route();
+    httplib::Server::HandlerResponse check(const Request& request, Response& response);
+    void begin(const Request& request, Response& response) const;
+    void page(const std::string& name, Response& response) const;
+    void site(const Request& request, Response& response) const;
+    void events(Response& response) const;
+    void action(const Request& request, Response& response);
+    void files(const Request& request, Response& response) const;
+    void model(Response& response);
+    void resource(const Request& request, Response& response) const;
+    void opened(const Request& request, Response& response) const;
+
+    MainQueue& queue;
+    Pages& pages;
+    httplib::Server server;
+    int port = 0;
+    std::string token = randomToken();
+    std::optional<RequestGuard> guard;
+    std::optional<HostCalls> host;
+    RateLimit actions{500, 1000};
+    RateLimit strangers{20, 100};
+    ModelBytes modelBytes;
+    std::filesystem::path addinFolder;
+    std::thread thread;
+};
+
+void HttpServer::Parts::configure() {
+    server.new_task_queue = [] { return new httplib::ThreadPool(kThreads); };
+    server.set_payload_max_length(kMostBytes);
+    server.set_tcp_nodelay(true);
+    server.set_keep_alive_max_count(1000);
+    constexpr time_t kSeconds = 10;
+    server.set_read_timeout(kSeconds);
+    server.set_write_timeout(kSeconds);
+    // By default two servers could share a port, and take each other's requests.
+    server.set_socket_options([](socket_t socket) {
+        const int yes = 1;
+        ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, reinterpret_cast<const char*>(&yes),
+                     sizeof yes);
+    });
+    server.set_default_headers({{"X-Content-Type-Options", "nosniff"},
+                                {"Referrer-Policy", "no-referrer"},
+                                {"Cache-Control", "no-store"},
+                                {"Cross-Origin-Resource-Policy", "same-origin"}});
+    server.set_exception_handler([](const Request&, Response& response, std::exception_ptr error) {
+        try {
+            std::rethrow_exception(error);
+        } catch (const ProtocolError& refusal) {
+            refuse(response, refusal);
+        } catch (const std::exception& failure) {
+            refuse(response, {kConflict, failure.what()});
+        }
+    });
+    server.set_error_handler([](const Request&, Response& response) {
+        if (response.body.empty() && response.status >= kBadRequest) {
+            refuse(response, {response.status, response.status == kNotFound
+                                                   ? "there is nothing of this name"
+                                                   : "the request cannot be answered"});
+        }
+    });
+}
+
+httplib::Server::HandlerResponse HttpServer::Parts::check(const Request& request,
+                                                          Response& response) {
+    using Result = httplib::Server::HandlerResponse;
+    response.set_header("Content-Security-Policy", kClosedPolicy);
+    const RequestOrigin origin = {.method = request.method,
+                                  .host = request.get_header_value("Host"),
+                                  .origin = request.get_header_value("Origin"),
+                                  .cookie = request.get_header_value("Cookie"),
+                                  .hasOneHost = request.get_header_value_count("Host") == 1};
+    std::string why = guard->whyForeign(origin);
+    const bool asksForCookie = request.path == "/" && request.has_param("token");
+    if (why.empty() && !asksForCookie && !guard->hasCookie(origin.cookie)) {
+        why = "open the address that the program printed";
+    }
+    if (why.empty()) {
+        return Result::Unhandled;
+    }
+    refuse(response, strangers.take() ? ProtocolError(kForbidden, why)
+                                      : ProtocolError(kTooManyRequests, "too many requests"));
+    return Result::Handled;
+}
+
+void HttpServer::Parts::route() {
+    server.set_pre_routing_handler(
+        [this](const Request& request, Response& response) { return check(request, response); });
+    server.Get("/", [this](const Request& request, Response& response) {
+        request.has_param("token") ? begin(request, response) : page("host.html", response);
+    });
+    for (const char* const name : {"host.js", "host.css"}) {
+        server.Get(std::string("/") + name,
+                   [this, name](const Request&, Response& response) { page(name, response); });
+    }
+    server.Get("/events", [this](const Request&, Response& response) { events(response); });
+    server.Post("/actions",
+                [this](const Request& request, Response& response) { action(request, response); });
+    server.Get("/files",
+               [this](const Request& request, Response& response) { files(request, response); });
+    server.Get("/model.glb", [this](const Request&, Response& response) { model(response); });
+    server.Get("/resources/(.*)",
+               [this](const Request& request, Response& response) { resource(request, response); });
+    server.Get("/site/(.*)",
+               [this](const Request& request, Response& response) { site(request, response); });
+    server.Get("/opened/(.*)",
+               [this](const Request& request, Response& response) { opened(request, response); });
+}
+
+void HttpServer::Parts::begin(const Request& request, Response& response) const {
+    if (!guard->isToken(request.get_param_value("token"))) {
+        throw ProtocolError(kForbidden,
+                            "the token is not that of this program; open the address that it "
+                            "printed last");
+    }
+    constexpr int kSeeOther = 303;
+    response.set_header("Set-Cookie", guard->setCookie());
+    response.set_redirect("/", kSeeOther);
+}
+
+void HttpServer::Parts::page(const std::string& name, Response& response) const {
+    const auto found = pageFiles().find(name);
+    if (found == pageFiles().end()) {
+        throw ProtocolError(kNotFound, "this build has no page");
+    }
+    response.headers.erase("Content-Security-Policy");
+    response.set_header("Content-Security-Policy", kPagePolicy);
+    response.set_content(found->second, typeOf(name));
+}
+
+void HttpServer::Parts::site(const Request& request, Response& response) const {
+    const std::string* const content = pageContent(request.matches[1]);
+    if (content == nullptr) {
+        throw ProtocolError(kNotFound, "there is no such page");
+    }
+    response.headers.erase("Content-Security-Policy");
+    response.set_header("Content-Security-Policy", kSitePolicy);
+    response.set_content(*content, kHtmlType);
+}
+
+void HttpServer::Parts::events(Response& response) const {
+    const std::shared_ptr<Page> page = pages.open();
+    if (!page) {
+        throw ProtocolError(kUnavailable, "too many pages are open; close one");
+    }
+    const auto stream = std::make_shared<EventStream>(pages, page);
+    host->greet(page);
+    response.set_chunked_content_provider(
+        "text/event-stream",
+        [stream](std::size_t, httplib::DataSink& sink) { return stream->sendNext(sink); });
+}
+
+void HttpServer::Parts::action(const Request& request, Response& response) {
+    if (!actions.take()) {
+        throw ProtocolError(kTooManyRequests, "too many actions at a time; try again");
+    }
+    const Action action = parseAction(request.body);
+    if (!pages.find(action.page)) {
+        throw ProtocolError(kNotFound, "no such page: " + std::to_string(action.page));
+    }
+    constexpr int kFine = 200;
+    answerJson(response, kFine, host->act(action));
+}
+
+void HttpServer::Parts::files(const Request& request, Response& response) const {
+    const std::string folder = request.get_param_value("folder");
+    constexpr int kFine = 200;
+    answerJson(response, kFine, host->data().list(folder));
+}
+
+void HttpServer::Parts::model(Response& response) {
+    const ModelSource source =
+        host->run<ModelSource>([](ServedHost& served) { return served.model(); });
+    const std::shared_ptr<const std::string> bytes = modelBytes.of(source);
+    response.set_header("Model-Revision", std::to_string(source.revision));
+    if (bytes->empty()) {
+        constexpr int kNoContent = 204;
+        response.status = kNoContent;
+        return;
+    }
+    response.set_content_provider(
+        bytes->size(), "model/gltf-binary",
+        [bytes](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
+            return sink.write(bytes->data() + offset, length);
+        });
+}
+
+void HttpServer::Parts::resource(const Request& request, Response& response) const {
+    const auto file = pictureFile(addinFolder, request.matches[1]);
+    if (!file) {
+        throw ProtocolError(kNotFound, "there is no such picture");
+    }
+    response.set_content(bytesOf(*file), typeOf(host::toUtf8(file->filename())).c_str());
+}
+
+void HttpServer::Parts::opened(const Request& request, Response& response) const {
+    const std::size_t number = numberIn(request.matches[1]);
+    const auto file = host->run<std::optional<std::filesystem::path>>(
+        [number](ServedHost& served) { return served.openedFile(number); });
+    if (!file) {
+        throw ProtocolError(kNotFound, "there is no such file");
+    }
+    response.set_header("Content-Disposition",
+                        "attachment; filename*=UTF-8''" + encoded(host::toUtf8(file->filename())));
+    response.set_content(bytesOf(*file), "application/octet-stream");
+}
+
+HttpServer::HttpServer(int port, MainQueue& queue, Pages& pages)
+    : parts_(std::make_unique<Parts>(queue, pages)) {
+    parts_->configure();
+    const bool isBound = port == 0 || parts_->server.bind_to_port(kAddress, port);
+    parts_->port = port == 0 ? parts_->server.bind_to_any_port(kAddress) : port;
+    if (!isBound || parts_->port < 0) {
+        throw Failure(ExitCode::BadUsage, "--port " + std::to_string(port) +
+                                              ": the port is in use; name another one, or 0 for "
+                                              "any that is free");
+    }
+    parts_->guard.emplace(parts_->token, parts_->port);
+    parts_->route();
+}
+
+HttpServer::~HttpServer() {
+    parts_->pages.closeAll();
+    parts_->server.stop();
+    if (parts_->thread.joinable()) {
+        parts_->thread.join();
+    }
+}
+
+void HttpServer::start(ServedHost& host) {
+    parts_->host.emplace(parts_->queue, host);
+    parts_->addinFolder = host.addinFolder();
+    parts_->thread = std::thread([this] { parts_->server.listen_after_bind(); });
+}
+
+std::string HttpServer::address() const {
+    return "http://127.0.0.1:" + std::to_string(parts_->port) + "/?token=" + parts_->token;
+}
+
+}  // namespace workbench::serve

@@ -1,0 +1,41 @@
+#include "workbench/serve/serve.h"
+
+#include "workbench/cli/exit_code.h"
+#include "workbench/cli/quiet.h"
+#include "workbench/cli/stop_signals.h"
+#include "workbench/output/reports.h"
+#include "workbench/serve/http_server.h"
+
+#include <iostream>
+#include <utility>
+
+namespace workbench::serve {
+
+void serve(ServeRequest request) {
+    host::DesignData design = std::move(request.design);
+    const std::vector<host::ReadingWarning> warnings = std::move(request.warnings);
+    MainQueue queue;
+    Pages pages;
+    const int port = request.port;
+    ServedHost host(std::move(request), queue, pages);
+    {
+        HttpServer server(port, queue, pages);
+        try {
+            host.begin(std::move(design), warnings);
+        } catch (const host::SessionError& error) {
+            throw Failure(ExitCode::NoAddin, error.what());
+        }
+        const StopSignals signals([&queue] { queue.close(); });
+        server.start(host);
+        std::cout << server.address() << "\n";
+        flushOutput();
+        if (!isQuiet()) {
+            std::cerr << "Open this address in a browser. Ctrl-C ends the program.\n";
+        }
+        host.runAddin();
+        host.loop();
+    }
+    host.stop();
+}
+
+}  // namespace workbench::serve

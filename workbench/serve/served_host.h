@@ -1,0 +1,158 @@
+#pragma once
+
+#include "workbench/serve/action.h"
+#include "workbench/serve/addin_pictures.h"
+#include "workbench/serve/changes.h"
+#include "workbench/serve/data_folder.h"
+#include "workbench/serve/event_log.h"
+#include "workbench/serve/main_queue.h"
+#include "workbench/serve/pages.h"
+#include "workbench/serve/serve_request.h"
+
+#include "host/design/design_data.h"
+#include "host/design/shape_data.h"
+#include "host/session/dialog_answers.h"
+#include "host/session/dialog_view.h"
+#include "host/session/session.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace workbench::serve {
+
+/// A design and its shapes, to be written as a model by any thread.
+struct ModelSource {
+    std::uint64_t revision = 0;
+    std::shared_ptr<const host::DesignData> design;
+    std::shared_ptr<const host::ShapeData> shapes;
+};
+
+/// Takes the answer to an action: once, and from the main thread.
+using Answer = std::function<void(const Json& answer)>;
+
+/// The host as several pages use it: does their actions, and shows them its state. It lives on the
+/// main thread.
+///
+/// While the module waits for an answer, or for the host, the queue is emptied from inside the call
+/// in which it waits; the actions that are being done are then answered as waiting.
+class ServedHost {
+public:
+    /// `request` without its design, which `begin` takes.
+    ServedHost(ServeRequest request, MainQueue& queue, Pages& pages);
+    ServedHost(const ServedHost&) = delete;
+    ServedHost& operator=(const ServedHost&) = delete;
+    ~ServedHost();
+
+    /// Loads the add-in and shows the design. Throws a `SessionError` where it cannot be loaded.
+    void begin(host::DesignData design, const std::vector<host::ReadingWarning>& warnings);
+
+    /// Calls the add-in's `run`, in which it may show messages already. One that fails to start is
+    /// listed in the log.
+    void runAddin();
+
+    /// Does what pages and the clock ask for, until the queue is closed.
+    void loop();
+
+    /// Stops the add-in and ends the session.
+    void stop();
+
+    /// Does an action. Throws a `ProtocolError`, `MisuseError` or `SessionError` for what cannot be
+    /// done; then `answer` was not called, unless the module had waited before.
+    void act(const Action& action, const Answer& answer);
+
+    /// Shows all pages what is now.
+    void publish();
+
+    /// What a page opens with is shown to it.
+    void greet(const std::shared_ptr<Page>& page);
+
+    /// What the model of the newest revision is made of. Reads the shapes where that was not done.
+    ModelSource model();
+
+    /// The file that the add-in asked the system to open, by its number in `opened`; none for what
+    /// is not a file of the add-in's.
+    [[nodiscard]] std::optional<std::filesystem::path> openedFile(std::size_t number) const;
+
+    [[nodiscard]] const DataFolder& data() const { return data_; }
+    /// The session's copy of the add-in.
+    [[nodiscard]] const std::filesystem::path& addinFolder() const {
+        return session_->addin().folder;
+    }
+
+private:
+    struct Waiting;
+    class InAction;
+
+    void load();
+    void showDesign(host::DesignData design, const std::filesystem::path& file);
+    Json perform(const Action& action);
+    void performInput(const Action& action);
+    void refuseWhileWaiting(const Action& action) const;
+    Json performOther(const Action& action);
+    void openFile(const Action& action);
+    void save(const Action& action);
+    void breathe();
+    void reload();
+    Json menu();
+    void setWindow(const Action& action);
+    [[nodiscard]] adsk::core::Ptr<adsk::core::CommandInput> input(const InputName& name) const;
+
+    adsk::core::DialogResults askMessage(const host::Message& message);
+    host::PickedFiles askFiles(const host::FileDialogShown& dialog);
+    void waitForAnswer(Waiting& waiting);
+    Waiting& waitingFor(int id, bool isMessage);
+    void answerMessage(const Action& action);
+    void answerFiles(const Action& action);
+    void answerWaiting();
+    void watchProgress();
+
+    [[nodiscard]] bool readState();
+    void showAll();
+    void readDesignState(std::map<std::string, Json>& fresh);
+    [[nodiscard]] Json documentJson() const;
+    [[nodiscard]] Json openedJson() const;
+    [[nodiscard]] bool readDialogState();
+    void showTo(Page& page);
+    [[nodiscard]] Json dialogFor(Page& page) const;
+    void addWindows(Json& inputs, const std::vector<host::InputView>& views, const Page& page,
+                    bool isShown) const;
+    [[nodiscard]] Json windowJson(const host::InputView& table, const RowWindow& window) const;
+    [[nodiscard]] std::filesystem::path saveTarget() const;
+    [[nodiscard]] std::string nameOf(const std::filesystem::path& file) const;
+
+    ServeRequest setup_;
+    MainQueue& queue_;
+    Pages& pages_;
+    DataFolder data_;
+    std::unique_ptr<host::Session> session_;
+    std::unique_ptr<AddinPictures> pictures_;
+    EventLog log_;
+    bool running_ = false;
+    std::string busy_;
+
+    std::filesystem::path file_;  ///< of the open design, absolute; empty for none
+    std::uint64_t savedEdits_ = 0;
+    adsk::core::Ptr<adsk::core::Document> document_;
+    std::uint64_t readEdits_ = 0;
+    std::shared_ptr<const host::DesignData> design_;
+    std::uint64_t modelDigest_ = 0;
+    std::uint64_t modelRevision_ = 0;
+    std::shared_ptr<const host::ShapeData> shapes_;
+
+    Waiting* waiting_ = nullptr;  ///< what the module waits for; null for nothing
+    int newestQuestion_ = 0;
+    std::vector<InAction*> inAction_;
+
+    std::uint64_t revision_ = 0;
+    Sections sections_;
+    adsk::core::Ptr<adsk::core::Command> shownDialog_;
+    std::optional<host::DialogView> dialog_;
+    Json dialogJson_;
+};
+
+}  // namespace workbench::serve
