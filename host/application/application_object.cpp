@@ -1,5 +1,6 @@
 #include "host/application/application_object.h"
 
+#include "host/application/log.h"
 #include "host/application/running_host.h"
 #include "host/base/host_state.h"
 #include "host/base/last_error.h"
@@ -55,6 +56,14 @@ int ApplicationObject::getLastError(std::string* description) const {
         *description = lastError().description;
     }
     return lastError().code;
+}
+
+void ApplicationObject::log(const std::string& message, core::LogLevels level,
+                            core::LogTypes logType) {
+    if (closed<"log">(*this)) return;
+    if (auto* log = HostState::currentPart<Log>()) {
+        log->lines.push_back({.text = message, .level = level, .type = logType});
+    }
 }
 
 void ApplicationObject::setActiveDocument(const core::Ptr<core::Document>& document,

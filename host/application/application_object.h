@@ -50,6 +50,7 @@ public:
         return get<"preferences">(preferences_);
     }
     int getLastError(std::string* description) const override;
+    void log(const std::string& message, core::LogLevels level, core::LogTypes logType) override;
 
     /// @name For the code that started the host
     /// @{

@@ -11,6 +11,7 @@
 
 #include <exception>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -19,6 +20,8 @@ namespace {
 /// What the module that runs has asked for, a part of the host's state.
 struct ModuleRequests {
     bool unloadAfterRun = true;
+    bool terminate = false;
+    std::function<void()> stop;
 };
 
 }  // namespace
@@ -58,6 +61,20 @@ void setUnloadsAfterRun(bool value) {
     }
 }
 
+void setModuleStop(std::function<void()> stop) {
+    if (auto* requests = HostState::currentPart<ModuleRequests>()) {
+        requests->stop = std::move(stop);
+    }
+}
+
+void stopIfRequested() {
+    auto* requests = HostState::currentPart<ModuleRequests>();
+    if (requests == nullptr || gate::isModuleRunning()) return;
+    if (std::exchange(requests->terminate, false) && requests->stop) {
+        requests->stop();
+    }
+}
+
 }  // namespace host
 
 namespace adsk {
@@ -84,7 +101,9 @@ void autoTerminate(bool value) {
 
 void terminate() {
     if (host::refused<"adsk::terminate">()) return;
-    host::notImplemented("adsk::terminate");
+    if (auto* requests = host::HostState::currentPart<host::ModuleRequests>()) {
+        requests->terminate = true;
+    }
 }
 
 }  // namespace adsk

@@ -2,6 +2,8 @@
 
 #include "host/base/posted_work.h"
 
+#include <functional>
+
 /// The turn of the host's main thread: what it does while a module waits.
 namespace host {
 
@@ -14,5 +16,11 @@ bool unloadsAfterRun();
 
 /// Sets it as a module does: true where another module is about to run.
 void setUnloadsAfterRun(bool value);
+
+/// Sets what stops the module, for one that asks for that with `adsk::terminate`.
+void setModuleStop(std::function<void()> stop);
+
+/// Stops the module if it has asked for that. Nothing happens while it still runs.
+void stopIfRequested();
 
 }  // namespace host

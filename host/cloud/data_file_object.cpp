@@ -4,6 +4,7 @@
 #include "host/base/utf8_path.h"
 #include "host/cloud/data_folder_object.h"
 #include "host/cloud/data_project_object.h"
+#include "host/cloud/file_name.h"
 #include "host/design/document.h"
 
 #include <utility>
@@ -25,9 +26,21 @@ DataFileObject::DataFileObject(DataFolderObject& folder, const std::filesystem::
                                std::string id)
     : state_{.folder = &folder, .path = path, .name = titleOf(path), .id = std::move(id)} {}
 
-bool DataFileObject::name(const std::string& /*value*/) {
+bool DataFileObject::name(const std::string& value) {
+    constexpr const char* kOperation = "DataFile::name";
     if (closed<"name">(*this)) return {};
-    return notImplemented("DataFile::name: to rename a file");
+    if (!isFileName(value)) {
+        return fail(core::BadApiCallError,
+                    std::string(kOperation) + ": \"" + value + "\" cannot name a file");
+    }
+    const std::string ending = toUtf8(state_.path.filename()).substr(state_.name.size());
+    const std::filesystem::path renamed = state_.path.parent_path() / fromUtf8(value + ending);
+    if (!renameInFolder(state_.path, renamed, kOperation)) return false;
+    state_.folder->fileRenamed(state_.path.filename(), renamed.filename());
+    state_.folder->project().keepId(state_.id);
+    state_.path = renamed;
+    state_.name = value;
+    return true;
 }
 
 core::Ptr<core::DataFolder> DataFileObject::parentFolder() const {

@@ -45,6 +45,11 @@ public:
     /// Becomes the data file of the documents that wait for it.
     void becomeKnown();
 
+    /// Its folder is another one, or is called differently.
+    void moveTo(const std::filesystem::path& folder) {
+        state_.path = folder / state_.path.filename();
+    }
+
     /// The file or its folder no longer exists.
     void dispose();
     /// @}

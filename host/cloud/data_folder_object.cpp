@@ -5,6 +5,7 @@
 #include "host/cloud/data_file_future_object.h"
 #include "host/cloud/data_list_object.h"
 #include "host/cloud/data_project_object.h"
+#include "host/cloud/file_name.h"
 
 #include <set>
 #include <system_error>
@@ -74,9 +75,38 @@ std::string DataFolderObject::name() const {
     return toUtf8(path_.filename());
 }
 
-bool DataFolderObject::name(const std::string& /*value*/) {
+bool DataFolderObject::name(const std::string& value) {
+    constexpr const char* kOperation = "DataFolder::name";
     if (closed<"name">(*this)) return {};
-    return notImplemented("DataFolder::name: to rename a folder");
+    if (parent_ == nullptr) return project_->rename(value, kOperation);
+    if (!isFileName(value)) {
+        return fail(core::BadApiCallError,
+                    std::string(kOperation) + ": \"" + value + "\" cannot name a folder");
+    }
+    const fs::path renamed = path_.parent_path() / fromUtf8(value);
+    if (!renameInFolder(path_, renamed, kOperation)) return false;
+    auto entry = parent_->folders_.extract(path_.filename());
+    entry.key() = renamed.filename();
+    parent_->folders_.insert(std::move(entry));
+    moveTo(renamed);
+    return true;
+}
+
+void DataFolderObject::fileRenamed(const fs::path& from, const fs::path& to) {
+    auto entry = files_.extract(from);
+    entry.key() = to;
+    files_.insert(std::move(entry));
+}
+
+void DataFolderObject::moveTo(const fs::path& path) {
+    path_ = path;
+    for (const auto& [name, each] : files_) {
+        project_->keepId(each->state().id);
+        each->moveTo(path_);
+    }
+    for (const auto& [name, each] : folders_) {
+        each->moveTo(path_ / name);
+    }
 }
 
 bool DataFolderObject::isRoot() const {

@@ -48,6 +48,12 @@ public:
     /// The first file of a name here or below, folders before files; null for none.
     [[nodiscard]] core::Ptr<DataFileObject> findByName(const std::string& name);
 
+    /// A file in it was renamed on the disk.
+    void fileRenamed(const std::filesystem::path& from, const std::filesystem::path& to);
+
+    /// It is at another place of the disk, with all that is in it.
+    void moveTo(const std::filesystem::path& path);
+
     /// Disposes of all that is in it, and of itself.
     void dispose();
     /// @}

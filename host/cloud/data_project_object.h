@@ -6,6 +6,7 @@
 #include <Core/Data.h>
 
 #include <filesystem>
+#include <set>
 #include <string>
 
 namespace host {
@@ -26,6 +27,7 @@ public:
     /// @{
     struct State {
         std::string name;
+        std::string firstName;  ///< which ids are made of
         core::Ptr<DataFolderObject> root;
     };
     [[nodiscard]] const State& state() const { return state_; }
@@ -33,11 +35,18 @@ public:
     /// The id of a file in it, which no other file of the user has.
     [[nodiscard]] std::string idOfFile(const std::filesystem::path& path) const;
 
+    /// A file keeps its id although its path has changed: no other file gets it.
+    void keepId(const std::string& id) { keptIds_.insert(id); }
+
+    /// Renames its folder on the disk; false as `renameInFolder`.
+    bool rename(const std::string& name, const std::string& operation);
+
     void dispose();
     /// @}
 
 private:
     State state_;
+    std::set<std::string> keptIds_;
 };
 
 }  // namespace host

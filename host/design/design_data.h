@@ -77,9 +77,24 @@ struct AttributeData {
     bool operator==(const AttributeData&) const = default;
 };
 
+/// What a curve of a sketch is.
+enum class SketchCurveKind {
+    Unknown,
+    Line,
+    Arc,
+    Circle,
+    Ellipse,
+    EllipticalArc,
+    ConicCurve,
+    FittedSpline,
+    FixedSpline,
+    ControlPointSpline,
+};
+
 struct SketchCurveData {
     bool reference = false;     ///< projected from elsewhere
     bool construction = false;  ///< only helps to draw
+    SketchCurveKind kind = SketchCurveKind::Unknown;
 
     bool operator==(const SketchCurveData&) const = default;
 };

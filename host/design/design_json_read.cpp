@@ -1,7 +1,9 @@
 #include "host/design/design_json.h"
 #include "host/design/geometry.h"
 #include "host/design/json_node.h"
+#include "host/design/sketch_curve_kinds.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -46,12 +48,22 @@ OccurrenceData readOccurrence(const JsonNode& node) {
     return occurrence;
 }
 
+SketchCurveKind readCurveKind(const JsonNode& node) {
+    const std::string kind = node.textOr("kind", "");
+    const auto* const found = std::find(kSketchCurveKinds.begin(), kSketchCurveKinds.end(), kind);
+    if (found == kSketchCurveKinds.end()) {
+        node.member("kind").refuse("is no kind of curve, such as \"line\" or \"circle\"");
+    }
+    return static_cast<SketchCurveKind>(found - kSketchCurveKinds.begin());
+}
+
 SketchData readSketch(const JsonNode& node) {
     SketchData sketch;
     sketch.name = node.member("name").text();
     node.member("curves").forEach([&](const JsonNode& each) {
-        sketch.curves.push_back(
-            {each.member("reference").flag(), each.member("construction").flag()});
+        sketch.curves.push_back({.reference = each.member("reference").flag(),
+                                 .construction = each.member("construction").flag(),
+                                 .kind = readCurveKind(each)});
     });
     return sketch;
 }

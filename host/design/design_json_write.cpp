@@ -1,5 +1,8 @@
 #include "host/design/design_json.h"
 #include "host/design/geometry.h"
+#include "host/design/sketch_curve_kinds.h"
+
+#include <cstddef>
 
 namespace host {
 namespace {
@@ -32,6 +35,9 @@ Json sketchToJson(const SketchData& sketch) {
     Json curves = Json::array();
     for (const SketchCurveData& each : sketch.curves) {
         curves.push_back({{"reference", each.reference}, {"construction", each.construction}});
+        if (each.kind != SketchCurveKind::Unknown) {
+            curves.back()["kind"] = kSketchCurveKinds.at(static_cast<std::size_t>(each.kind));
+        }
     }
     return {{"name", sketch.name}, {"curves", curves}};
 }

@@ -107,6 +107,10 @@ bool FusionDocumentObject::name(const std::string& value) {
         return fail(core::BadApiCallError,
                     "a document needs a name, and one that is only referred to keeps its own");
     }
+    if (dataFile_) {
+        return fail(core::OperationFailed,
+                    "Document::name: a saved document is called like its file");
+    }
     name_ = value;
     model_->component(0).rename(value);
     return true;

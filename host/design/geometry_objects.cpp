@@ -85,6 +85,10 @@ private:
 
 }  // namespace
 
+core::Ptr<core::Point3D> makePoint(const std::array<double, 3>& place) {
+    return make<Point3DObject>(place);
+}
+
 core::Ptr<core::BoundingBox3D> makeBoundingBox(const Box& box) {
     return make<BoundingBox3DObject>(box);
 }

@@ -5,10 +5,13 @@
 
 #include <Core/Geometry.h>
 
+#include <array>
 #include <optional>
 
 /// The plain values of geometry, as objects of the public API.
 namespace host {
+
+core::Ptr<core::Point3D> makePoint(const std::array<double, 3>& place);
 
 core::Ptr<core::BoundingBox3D> makeBoundingBox(const Box& box);
 

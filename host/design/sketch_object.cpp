@@ -1,11 +1,8 @@
 #include "host/design/sketch_object.h"
 
-#include "host/base/last_error.h"
-
 namespace host {
 
-bool SketchCurveObject::isReference(bool value) {
-    if (closed<"SketchEntity::isReference">(*this)) return {};
+bool SketchCurveState::setReference(bool value) {
     if (value && !data_.reference) {
         return fail(core::BadApiCallError, "a drawn curve cannot be made a projected one");
     }
@@ -14,17 +11,48 @@ bool SketchCurveObject::isReference(bool value) {
     return true;
 }
 
-bool SketchCurveObject::isConstruction(bool value) {
-    if (closed<"isConstruction">(*this)) return {};
+bool SketchCurveState::setConstruction(bool value) {
     data_.construction = value;
     ++edits_->all;
     return true;
 }
 
+template <class Interface>
+SketchCurvesObject::Item SketchCurvesObject::makeCurve(Edits& edits, const SketchCurveData& data) {
+    const auto curve = make<SketchCurveObject<Interface>>(edits, data);
+    return {.api = curve, .state = curve.get()};
+}
+
+SketchCurvesObject::Item SketchCurvesObject::makeItem(Edits& edits, const SketchCurveData& data) {
+    switch (data.kind) {
+        case SketchCurveKind::Line:
+            return makeCurve<fusion::SketchLine>(edits, data);
+        case SketchCurveKind::Arc:
+            return makeCurve<fusion::SketchArc>(edits, data);
+        case SketchCurveKind::Circle:
+            return makeCurve<fusion::SketchCircle>(edits, data);
+        case SketchCurveKind::Ellipse:
+            return makeCurve<fusion::SketchEllipse>(edits, data);
+        case SketchCurveKind::EllipticalArc:
+            return makeCurve<fusion::SketchEllipticalArc>(edits, data);
+        case SketchCurveKind::ConicCurve:
+            return makeCurve<fusion::SketchConicCurve>(edits, data);
+        case SketchCurveKind::FittedSpline:
+            return makeCurve<fusion::SketchFittedSpline>(edits, data);
+        case SketchCurveKind::FixedSpline:
+            return makeCurve<fusion::SketchFixedSpline>(edits, data);
+        case SketchCurveKind::ControlPointSpline:
+            return makeCurve<fusion::SketchControlPointSpline>(edits, data);
+        case SketchCurveKind::Unknown:
+            break;
+    }
+    return makeCurve<fusion::SketchCurve>(edits, data);
+}
+
 SketchCurvesObject::SketchCurvesObject(Edits& edits, const std::vector<SketchCurveData>& curves) {
     items_.reserve(curves.size());
     for (const SketchCurveData& curve : curves) {
-        items_.push_back(make<SketchCurveObject>(edits, curve));
+        items_.push_back(makeItem(edits, curve));
     }
 }
 
@@ -35,21 +63,21 @@ std::size_t SketchCurvesObject::count() const {
 
 core::Ptr<fusion::SketchCurve> SketchCurvesObject::item(std::size_t index) const {
     if (closed<"item">(*this) || index >= items_.size()) return {};
-    return items_[index];
+    return items_[index].api;
 }
 
 std::vector<SketchCurveData> SketchCurvesObject::snapshot() const {
     std::vector<SketchCurveData> all;
     all.reserve(items_.size());
-    for (const core::Ptr<SketchCurveObject>& each : items_) {
-        all.push_back(each->state());
+    for (const Item& each : items_) {
+        all.push_back(each.state->state());
     }
     return all;
 }
 
 void SketchCurvesObject::dispose() {
-    for (const core::Ptr<SketchCurveObject>& each : items_) {
-        each->dispose();
+    for (const Item& each : items_) {
+        each.state->dispose();
     }
     items_.clear();
     invalidate();

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "host/base/last_error.h"
 #include "host/base/object.h"
 #include "host/design/design_data.h"
 #include "host/design/edits.h"
 
+#include <Core/Enums.h>
 #include <Fusion/Sketch.h>
 
 #include <cstddef>
@@ -12,28 +14,55 @@
 
 namespace host {
 
-class SketchObject;
-
-/// One curve of a sketch.
-class SketchCurveObject final : public Object<fusion::SketchCurve> {
+/// One curve of a sketch, without its interface.
+class SketchCurveState {
 public:
-    SketchCurveObject(Edits& edits, SketchCurveData data) : edits_(&edits), data_(data) {}
+    SketchCurveState(Edits& edits, SketchCurveData data) : edits_(&edits), data_(data) {}
+    SketchCurveState(const SketchCurveState&) = delete;
+    SketchCurveState& operator=(const SketchCurveState&) = delete;
+    virtual ~SketchCurveState() = default;
 
-    [[nodiscard]] bool isReference() const override {
-        return get<"SketchEntity::isReference">(data_.reference);
-    }
-    bool isReference(bool value) override;
-    [[nodiscard]] bool isConstruction() const override {
-        return get<"isConstruction">(data_.construction);
-    }
-    bool isConstruction(bool value) override;
+    /// This curve as the API sees it.
+    [[nodiscard]] virtual fusion::SketchCurve* api() = 0;
+
+    /// Cuts it off from its document.
+    virtual void dispose() = 0;
 
     [[nodiscard]] const SketchCurveData& state() const { return data_; }
-    void dispose() { invalidate(); }
+
+protected:
+    bool setReference(bool value);
+    bool setConstruction(bool value);
 
 private:
     Edits* edits_;
     SketchCurveData data_;
+};
+
+/// A curve of one kind.
+template <class Interface>
+class SketchCurveObject final : public Object<Interface>, public SketchCurveState {
+public:
+    using SketchCurveState::SketchCurveState;
+
+    [[nodiscard]] fusion::SketchCurve* api() override { return this; }
+
+    [[nodiscard]] bool isReference() const override {
+        return this->template get<"SketchEntity::isReference">(state().reference);
+    }
+    bool isReference(bool value) override {
+        if (closed<"SketchEntity::isReference">(*this)) return {};
+        return setReference(value);
+    }
+    [[nodiscard]] bool isConstruction() const override {
+        return this->template get<"SketchCurve::isConstruction">(state().construction);
+    }
+    bool isConstruction(bool value) override {
+        if (closed<"SketchCurve::isConstruction">(*this)) return {};
+        return setConstruction(value);
+    }
+
+    void dispose() override { this->invalidate(); }
 };
 
 class SketchCurvesObject final : public Object<fusion::SketchCurves> {
@@ -47,7 +76,15 @@ public:
     void dispose();
 
 private:
-    std::vector<core::Ptr<SketchCurveObject>> items_;
+    struct Item {
+        core::Ptr<fusion::SketchCurve> api;
+        SketchCurveState* state;  ///< the same object
+    };
+    template <class Interface>
+    static Item makeCurve(Edits& edits, const SketchCurveData& data);
+    static Item makeItem(Edits& edits, const SketchCurveData& data);
+
+    std::vector<Item> items_;
 };
 
 class SketchObject final : public Object<fusion::Sketch> {

@@ -240,7 +240,7 @@ DialogView readDialog(TableRows rows) {
             .width = size.width,
             .height = size.height,
             .okText = dialog.state().okText,
-            .cancelText = dialog.state().cancelText,
+            .cancelText = dialog.state().cancelCaption(),
             .okVisible = dialog.state().okVisible,
             .whyOkRefused = runningApplication().ui().runner().whyOkRefused(),
             .inputs = readInputs(dialog.commandInputs(), rows)};

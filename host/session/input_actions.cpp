@@ -124,6 +124,14 @@ void showTab(UserAction& acting, InputState& tab) {
     acting.finish();
 }
 
+void toggle(ui::GroupCommandInputObject& group) {
+    if (group.state().expanded && !group.canCollapse()) {
+        throw MisuseError("cannot click " + ui::describe(group) +
+                          ": a group within a group without a check box cannot be collapsed");
+    }
+    group.toggle();
+}
+
 /// What a click does besides selecting a row; true where it has to be reported.
 bool clicked(InputState& input) {
     switch (input.kind) {
@@ -131,7 +139,7 @@ bool clicked(InputState& input) {
             static_cast<ui::BoolValueCommandInputObject&>(input).toggle();
             return true;
         case InputKind::Group:
-            static_cast<ui::GroupCommandInputObject&>(input).toggle();
+            toggle(static_cast<ui::GroupCommandInputObject&>(input));
             return false;
         case InputKind::Selection:
             shownDialog().focus(&input);
@@ -165,7 +173,7 @@ void passFocus(ui::CommandObject& dialog, const ui::SelectionCommandInputObject&
     }
 }
 
-void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity) {
+void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity, const ui::Place& place) {
     ui::CommandObject& dialog = shownDialog();
     ui::SelectionCommandInputObject& target = pickTarget(dialog);
     if (target.picks().holds(entity)) {
@@ -182,7 +190,7 @@ void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity) {
         if (target.isFull()) {
             target.dropAll();
         }
-        target.take(entity);
+        target.take(entity, place);
     }
     const Ptr<core::CommandInput> kept(target.api());
     acting.runner().changed(target);
@@ -267,16 +275,16 @@ void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
     state.select(state.lines().at(static_cast<std::size_t>(row)));
 }
 
-void pick(const Ptr<core::Base>& entity) {
+void pick(const Ptr<core::Base>& entity, const ui::Place& place) {
     UserAction acting;
     if (!entity || !entity->isValid()) {
         throw MisuseError("cannot pick: no such entity");
     }
     if (openDialog()) {
-        pickInDialog(acting, entity);
+        pickInDialog(acting, entity, place);
     } else {
         acting.ui().state().selections->list.clear();
-        acting.ui().state().selections->list.add(entity);
+        acting.ui().state().selections->list.add(entity, place);
     }
     acting.finish();
 }

@@ -5,6 +5,7 @@
 
 #include <Core/CommandInputs.h>
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -42,10 +43,10 @@ void activateTab(const core::Ptr<core::TabCommandInput>& tab);
 /// Selects a row of a table, which is not reported.
 void selectRow(const core::Ptr<core::TableCommandInput>& table, int row);
 
-/// Picks an entity in the model. With a dialog it goes to the selection that has the focus, which
-/// is reported; an entity that is already picked there is removed. Without one it becomes all that
-/// is selected.
-void pick(const core::Ptr<core::Base>& entity);
+/// Picks an entity in the model, at a place of it in cm; the browser tree has no places. With a
+/// dialog it goes to the selection that has the focus, which is reported; an entity that is already
+/// picked there is removed. Without one it becomes all that is selected.
+void pick(const core::Ptr<core::Base>& entity, const std::array<double, 3>& place = {});
 
 /// Selects entities in the model, in place of those that are selected. Only without a dialog.
 void selectInModel(const std::vector<core::Ptr<core::Base>>& entities);

@@ -81,6 +81,7 @@ void Session::begin() {
         options_.language);
     newDesign();
     module_ = LoadedModule(addin_.module());
+    setModuleStop([this] { stop(); });
 }
 
 void Session::end() noexcept {
@@ -107,6 +108,7 @@ bool Session::call(const char* entry, const char* context) {
     if (function != nullptr) {
         enterModule(entry, "", [&] { result = function(context); });
         drainRequests();
+        stopIfRequested();
     }
     return result;
 }
@@ -270,6 +272,11 @@ void Session::schedule(double seconds, std::function<void()> action) {
 }
 
 const std::vector<Message>& Session::messages() const { return host::messages(); }
+
+std::vector<LogLine> Session::log() const {
+    const auto* log = HostState::currentPart<Log>();
+    return log == nullptr ? std::vector<LogLine>() : log->lines;
+}
 
 const std::vector<std::string>& Session::openedByShell() const {
     return shell_requests::recorded();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/application/log.h"
 #include "host/application/running_host.h"
 #include "host/base/dispatcher.h"
 #include "host/base/gate.h"
@@ -229,6 +230,9 @@ public:
 
     /// The messages that were shown, oldest first.
     [[nodiscard]] const std::vector<Message>& messages() const;
+
+    /// What the module wrote with `Application::log`, oldest first.
+    [[nodiscard]] std::vector<LogLine> log() const;
 
     /// What the module asked the shell to open, as it spelt it, oldest first.
     [[nodiscard]] const std::vector<std::string>& openedByShell() const;

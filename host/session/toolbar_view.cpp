@@ -93,7 +93,7 @@ ToolbarView readToolbars() {
     }
     const std::unordered_set<std::string> placed = commandsWithButton(view.workspaces);
     for (const Ptr<ui::CommandDefinitionObject>& each : state.definitions->all()) {
-        if (!placed.contains(each->state().id)) {
+        if (!each->state().native && !placed.contains(each->state().id)) {
             view.withoutButton.push_back(readCommand(*each));
         }
     }
@@ -113,7 +113,9 @@ ControlView readCommand(const std::string& id) {
 std::vector<std::string> commandIds() {
     std::vector<std::string> ids;
     for (const auto& each : runningApplication().ui().state().definitions->all()) {
-        ids.push_back(each->state().id);
+        if (!each->state().native) {
+            ids.push_back(each->state().id);
+        }
     }
     return ids;
 }

@@ -42,7 +42,7 @@ struct WorkspaceView {
 
 struct ToolbarView {
     std::vector<WorkspaceView> workspaces;
-    std::vector<ControlView> withoutButton;  ///< commands that no workspace has a button for
+    std::vector<ControlView> withoutButton;  ///< of modules, those that no panel has a button for
 };
 
 /// Reads the toolbars of all workspaces at this moment; throws a `MisuseError` where no host runs.
@@ -52,8 +52,8 @@ ToolbarView readToolbars();
 /// `MisuseError` where no host runs.
 ControlView readCommand(const std::string& id);
 
-/// The ids of all commands, in the order of their creation; throws a `MisuseError` where no host
-/// runs.
+/// The ids of the commands of all modules, in the order of their creation; throws a `MisuseError`
+/// where no host runs.
 std::vector<std::string> commandIds();
 
 }  // namespace host

@@ -1,5 +1,6 @@
 #include "host/session/user_action.h"
 
+#include "host/application/main_queue.h"
 #include "host/base/misuse.h"
 
 namespace host {
@@ -17,6 +18,11 @@ UserAction::UserAction() : application_(&runningApplication()) {
         throw MisuseError("a command is at work: wait until it has answered");
     }
     runner().beginUserAction();
+}
+
+void UserAction::finish() {
+    runner().drainRequests();
+    stopIfRequested();
 }
 
 ui::CommandObject& shownDialog() {

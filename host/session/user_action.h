@@ -23,8 +23,9 @@ public:
     [[nodiscard]] ui::UserInterfaceObject& ui() const { return application_->ui(); }
     [[nodiscard]] ui::CommandRunner& runner() const { return ui().runner(); }
 
-    /// Starts the requested commands: the last step of each action.
-    void finish() { runner().drainRequests(); }
+    /// Starts the requested commands and stops the module if it asked for that: the last step of
+    /// each action.
+    void finish();
 
 private:
     core::Ptr<ApplicationObject> application_;

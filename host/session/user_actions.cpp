@@ -40,7 +40,9 @@ void press(UserAction& acting, const Ptr<ui::CommandDefinitionObject>& definitio
 std::string knownIds(const ui::CommandDefinitionsObject& definitions) {
     std::string ids;
     for (const Ptr<ui::CommandDefinitionObject>& each : definitions.all()) {
-        ids += (ids.empty() ? "" : ", ") + each->state().id;
+        if (!each->state().native) {
+            ids += (ids.empty() ? "" : ", ") + each->state().id;
+        }
     }
     return ids.empty() ? "there are none" : ids;
 }

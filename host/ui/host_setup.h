@@ -39,7 +39,11 @@ struct HostSetup {
     /// wait ends without a user too.
     double longestWait = 86400;
 
-    /// Whether the host's own command "SelectCommand" is announced whenever no other runs.
+    /// The bars around the window that belong to no workspace.
+    std::vector<std::string> toolbars = {"QAT", "NavToolbar"};
+
+    /// Whether the host's own command "SelectCommand", which runs while no other does, is announced
+    /// by `commandStarting` each time.
     bool selectCommand = false;
 
     /// Whether the panel for scripts and add-ins holds the control "RepeatCommand".

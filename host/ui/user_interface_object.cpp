@@ -17,6 +17,7 @@ UserInterfaceState makeState(UserInterfaceObject& ui, CommandRunner& runner,
     return {.definitions = make<CommandDefinitionsObject>(&runner),
             .workspaces = workspaces,
             .panels = make<ToolbarPanelListObject>(workspaces.get()),
+            .toolbars = make<ToolbarsObject>(setup.toolbars),
             .palettes = make<PalettesObject>(),
             .selections = make<SelectionsObject>()};
 }
@@ -30,9 +31,8 @@ UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveMod
 
 // What the toolbars hold before any module is loaded.
 void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
-    if (setup.selectCommand) {
-        runner_.setIdleCommand(state_.definitions->addNative("SelectCommand", "Select"));
-    }
+    runner_.setIdleCommand(state_.definitions->addNative("SelectCommand", "Select"),
+                           setup.selectCommand);
     if (!state_.workspaces->active()) return;
     const core::Ptr<ToolbarPanelObject> panel = state_.workspaces->active()->toolsTab().add(
         "SolidScriptsAddinsPanel", "Add-Ins", /*native=*/true, /*place=*/0);
@@ -82,7 +82,7 @@ bool UserInterfaceObject::terminateActiveCommand() {
 
 std::string UserInterfaceObject::activeCommand() const {
     if (closed<"activeCommand">(*this)) return {};
-    return runner_.active() ? runner_.active()->definition()->state().id : "";
+    return runner_.activeId();
 }
 
 bool UserInterfaceObject::isRootComponent(const core::Ptr<core::Base>& entity) const {
@@ -107,6 +107,7 @@ void UserInterfaceObject::dispose() {
     state_.panels->dispose();
     disposeEntries(tabLists_);
     state_.workspaces->dispose();
+    state_.toolbars->dispose();
     state_.palettes->dispose();
     state_.selections->dispose();
     model_ = nullptr;

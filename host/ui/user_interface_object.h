@@ -7,6 +7,7 @@
 #include "host/ui/dialogs/palettes_object.h"
 #include "host/ui/host_setup.h"
 #include "host/ui/toolbar/marking_menu.h"
+#include "host/ui/toolbar/toolbars_object.h"
 #include "host/ui/toolbar/workspaces_object.h"
 
 #include <Core/UserInterface.h>
@@ -31,6 +32,7 @@ struct UserInterfaceState {
     core::Ptr<CommandDefinitionsObject> definitions;
     core::Ptr<WorkspacesObject> workspaces;
     core::Ptr<ToolbarPanelListObject> panels;
+    core::Ptr<ToolbarsObject> toolbars;
     core::Ptr<PalettesObject> palettes;
     core::Ptr<SelectionsObject> selections;
 };
@@ -49,6 +51,9 @@ public:
     }
     [[nodiscard]] core::Ptr<core::ToolbarTabList> toolbarTabsByProductType(
         const std::string& productType) const override;
+    [[nodiscard]] core::Ptr<core::Toolbars> toolbars() const override {
+        return get<"toolbars">(state_.toolbars);
+    }
     [[nodiscard]] core::Ptr<core::Palettes> palettes() const override {
         return get<"palettes">(state_.palettes);
     }

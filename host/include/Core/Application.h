@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Core/Base.h>
+#include <Core/Enums.h>
 
 #include <string>
 
@@ -52,6 +53,11 @@ public:
     /// yet. A call that succeeds does not reset it. `description` may be null; otherwise it
     /// receives the message.
     virtual int getLastError(std::string* description = nullptr) const = 0;
+
+    /// Writes a line to the host's log file, and with `ConsoleLogType` to its text window too. An
+    /// empty line is written as such.
+    virtual void log(const std::string& message, LogLevels level = InfoLogLevel,
+                     LogTypes logType = FileLogType) = 0;
 };
 
 }  // namespace adsk::core

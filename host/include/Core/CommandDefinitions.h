@@ -2,12 +2,11 @@
 
 #include <Core/Collection.h>
 #include <Core/Commands.h>
+#include <Core/Values.h>
 
 #include <string>
 
 namespace adsk::core {
-
-class NamedValues;
 
 /// The definition of a command, as a button shows it: each press creates a new `Command` from it.
 class CommandDefinition : public Base {
@@ -38,8 +37,8 @@ public:
     [[nodiscard]] virtual Ptr<CommandCreatedEvent> commandCreated() const = 0;
 
     /// Does what a press of the button does; true also when a handler then cancels the start.
-    /// Within a notification the command starts only after the notification has returned. The
-    /// argument is ignored and may be null.
+    /// Within a notification the command starts only after the notification has returned. That of
+    /// "SelectCommand" ends the running command. The argument is ignored and may be null.
     virtual bool execute(const Ptr<NamedValues>& input = nullptr) = 0;
 
     /// Removes it from the host; its controls stay, without function, until they are deleted too.
@@ -58,12 +57,6 @@ public:
                                                        const std::string& name,
                                                        const std::string& tooltip,
                                                        const std::string& resourceFolder = "") = 0;
-};
-
-/// Named values that could be passed to an execution; none are used.
-class NamedValues : public Base {
-public:
-    static const char* classType();  ///< "adsk::core::NamedValues"
 };
 
 }  // namespace adsk::core

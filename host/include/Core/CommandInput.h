@@ -174,7 +174,8 @@ public:
 
     /// Whether its inputs show, true at first.
     [[nodiscard]] virtual bool isExpanded() const = 0;
-    /// The flags of the inputs themselves do not change.
+    /// The flags of the inputs themselves do not change. False is refused for a group within
+    /// another one whose heading has no check box.
     virtual bool isExpanded(bool value) = 0;
 
     /// Whether the heading has a check box, false at first.

@@ -198,7 +198,7 @@ public:
 
     /// True at first.
     [[nodiscard]] virtual bool isOKButtonVisible() const = 0;
-    /// With false the user can only cancel the dialog.
+    /// With false the user can only cancel the dialog, and a "Cancel" button is called "Close".
     virtual bool isOKButtonVisible(bool value) = 0;
 
     /// Whether a command without inputs executes by itself once created, true at first. Ignored for
@@ -227,8 +227,9 @@ public:
     virtual bool setDialogMinimumSize(int width, int height) = 0;
 
     /// Executes the command as if the user had accepted the dialog, once the running notification
-    /// has returned, and ends it if `terminate` is true. False while no dialog is open and while
-    /// its inputs are not valid.
+    /// has returned, and ends it if `terminate` is true. A command without inputs, called while it
+    /// is created, is executed so whatever its `isAutoExecute`. False for a command that does not
+    /// run, and while the inputs of its dialog are not valid.
     virtual bool doExecute(bool terminate) = 0;
 };
 

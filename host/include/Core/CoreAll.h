@@ -16,6 +16,7 @@
 #include <Core/Event.h>
 #include <Core/Geometry.h>
 #include <Core/Import.h>
+#include <Core/LanguageLevel.h>
 #include <Core/ListInputs.h>
 #include <Core/Material.h>
 #include <Core/Memory.h>
@@ -28,4 +29,5 @@
 #include <Core/Toolbars.h>
 #include <Core/UserInterface.h>
 #include <Core/Utils.h>
+#include <Core/Values.h>
 #include <Core/Workspaces.h>

@@ -36,7 +36,8 @@ public:
 
     /// The name as the user sees it.
     [[nodiscard]] virtual std::string name() const = 0;
-    /// Renames the project. Not implemented here: false, with `OperationFailed`.
+    /// Renames the project; its id stays. False for an empty name, for one that a file system
+    /// cannot have, and for one that is in use.
     virtual bool name(const std::string& value) = 0;
 
     /// The folder that holds all others of the project; never null.
@@ -50,7 +51,7 @@ public:
 
     /// The name as the user sees it; that of a root folder is its project's.
     [[nodiscard]] virtual std::string name() const = 0;
-    /// Renames the folder. Not implemented here: false, with `OperationFailed`.
+    /// Renames the folder; that of a root folder renames its project. False as `DataProject::name`.
     virtual bool name(const std::string& value) = 0;
 
     /// Whether this is the root folder of its project.
@@ -87,7 +88,7 @@ public:
 
     /// The name as the user sees it, without a file extension.
     [[nodiscard]] virtual std::string name() const = 0;
-    /// Renames the file. Not implemented here: false, with `OperationFailed`.
+    /// Renames the file; its id stays. False as `DataProject::name`.
     virtual bool name(const std::string& value) = 0;
 
     /// The folder that contains it; never null.

@@ -23,8 +23,8 @@ public:
 
     /// The document's name, which is also that of the root component of its design.
     [[nodiscard]] virtual std::string name() const = 0;
-    /// Renames the root component too. False for an empty name, and for a document that is open
-    /// only because another one refers to it.
+    /// Renames the root component too. False for an empty name, for a document that was saved, and
+    /// for one that is open only because another one refers to it.
     virtual bool name(const std::string& value) = 0;
 
     /// Whether it has a file in the user's data.

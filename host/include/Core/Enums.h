@@ -105,6 +105,27 @@ enum GenericErrors {
     FunctionSpecificError = 200,
 };
 
+/// What a line of the log is about.
+enum LogLevels {
+    InfoLogLevel = 0,
+    WarningLogLevel = 1,
+    ErrorLogLevel = 2,
+};
+
+/// Where a line of the log is written.
+enum LogTypes {
+    FileLogType = 0,     ///< to the log file alone
+    ConsoleLogType = 1,  ///< to the text window as well
+};
+
+/// What a `ValueInput` was created from.
+enum ValueTypes {
+    StringValueType = 0,
+    RealValueType = 1,
+    ObjectValueType = 2,
+    BooleanValueType = 3,
+};
+
 /// How a table draws its cells.
 enum TablePresentationStyles {
     nameValueTablePresentationStyle = 0,

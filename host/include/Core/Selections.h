@@ -18,7 +18,8 @@ public:
     /// What is selected, such as an occurrence or a component; never null.
     [[nodiscard]] virtual Ptr<Base> entity() const = 0;
 
-    /// Where the user picked it, in cm. Not implemented here: null, with the last error set.
+    /// Where the user picked it, in cm; the origin for an entity that was selected in the browser
+    /// tree or by code.
     [[nodiscard]] virtual Ptr<Point3D> point() const = 0;
 };
 
@@ -73,7 +74,8 @@ public:
 
     /// Whether picks go to this input; of a dialog's selection inputs the first has it at first.
     [[nodiscard]] virtual bool hasFocus() const = 0;
-    /// True takes the focus from the other inputs, false leaves it with none.
+    /// True takes the focus from the other inputs, false leaves it with none. True is refused for
+    /// an input that is hidden.
     virtual bool hasFocus(bool value) = 0;
 
     /// Whether it takes over what was selected before the command started, true at first.

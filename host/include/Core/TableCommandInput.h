@@ -28,7 +28,8 @@ public:
     /// in a table. False as `addCommandInput`.
     virtual bool addToolbarCommandInput(const Ptr<CommandInput>& input) = 0;
 
-    /// The input at a place; null for an empty place and outside the table.
+    /// The input at a place, for one that spans several columns at each of them; null for an empty
+    /// place and outside the table.
     [[nodiscard]] virtual Ptr<CommandInput> getInputAtPosition(int row, int column) const = 0;
 
     /// The place of an input. False, with the arguments unchanged, for null and for an input that
@@ -43,7 +44,7 @@ public:
     /// row deletes the last row. False for a negative number and an empty table.
     virtual bool deleteRow(int row) = 0;
 
-    /// Deletes all rows together with their inputs.
+    /// Deletes all rows and what is in the toolbar, together with the inputs.
     virtual bool clear() = 0;
 
     /// The number of rows that contain inputs.

@@ -76,6 +76,8 @@ public:
 
     /// The caption of the panel.
     [[nodiscard]] virtual std::string name() const = 0;
+    /// Shown at once; the id stays.
+    virtual bool name(const std::string& value) = 0;
 
     /// The controls of the panel; never null.
     [[nodiscard]] virtual Ptr<ToolbarControls> controls() const = 0;
@@ -113,6 +115,8 @@ public:
 
     /// The caption of the tab.
     [[nodiscard]] virtual std::string name() const = 0;
+    /// Shown at once; the id stays.
+    virtual bool name(const std::string& value) = 0;
 
     /// The panels of the tab; never null.
     [[nodiscard]] virtual Ptr<ToolbarPanels> toolbarPanels() const = 0;
@@ -128,6 +132,30 @@ public:
 class ToolbarTabList : public CollectionById<ToolbarTab> {
 public:
     static const char* classType();  ///< "adsk::core::ToolbarTabList"
+};
+
+/// A bar of controls around the window that belongs to no workspace: "QAT", the quick access bar
+/// above the tabs, or "NavToolbar", the navigation bar below the model.
+class Toolbar : public Base {
+public:
+    static const char* classType();  ///< "adsk::core::Toolbar"
+
+    /// Unique among the toolbars; never empty.
+    [[nodiscard]] virtual std::string id() const = 0;
+
+    /// The controls of the bar; never null.
+    [[nodiscard]] virtual Ptr<ToolbarControls> controls() const = 0;
+
+    /// Whether it shows, true at first.
+    [[nodiscard]] virtual bool isVisible() const = 0;
+    /// A hidden bar keeps its controls.
+    virtual bool isVisible(bool value) = 0;
+};
+
+/// The toolbars of the host; modules cannot add any.
+class Toolbars : public CollectionById<Toolbar> {
+public:
+    static const char* classType();  ///< "adsk::core::Toolbars"
 };
 
 /// The list part of the context menu.

@@ -34,6 +34,9 @@ public:
     [[nodiscard]] virtual Ptr<ToolbarTabList> toolbarTabsByProductType(
         const std::string& productType) const = 0;
 
+    /// The bars around the window that belong to no workspace, such as "QAT"; never null.
+    [[nodiscard]] virtual Ptr<Toolbars> toolbars() const = 0;
+
     /// The palettes of all modules; never null.
     [[nodiscard]] virtual Ptr<Palettes> palettes() const = 0;
 
@@ -85,7 +88,8 @@ public:
     /// Cancels the running command; true also when none runs. False within any event of a command.
     virtual bool terminateActiveCommand() = 0;
 
-    /// The id of the running command's definition; empty when none runs.
+    /// The id of the running command's definition; "SelectCommand", the host's own, when no other
+    /// runs.
     [[nodiscard]] virtual std::string activeCommand() const = 0;
 };
 

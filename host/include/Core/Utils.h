@@ -14,7 +14,8 @@ bool autoTerminate();
 /// With false, set during `run`, the module stays loaded and its handlers stay in effect.
 void autoTerminate(bool value);
 
-/// Asks the host to stop the calling module. Not implemented here: it only sets the last error.
+/// Asks the host to stop the calling module: its `stop` is called once the running notification,
+/// or its `run`, has returned. The module stays in the process until that ends.
 void terminate();
 
 }  // namespace adsk

@@ -19,9 +19,16 @@ class Design;
 class Occurrence;
 class Occurrences;
 
+/// What components have in common with what else a design is made of. This host has components
+/// alone.
+class BaseComponent : public core::Base {
+public:
+    static const char* classType();  ///< "adsk::fusion::BaseComponent"
+};
+
 /// A part or an assembly: modelled once, used by any number of occurrences. It and all that belongs
 /// to it are valid until its document is closed.
-class Component : public core::Base {
+class Component : public BaseComponent {
 public:
     static const char* classType();  ///< "adsk::fusion::Component"
 

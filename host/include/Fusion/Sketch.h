@@ -27,7 +27,8 @@ public:
     virtual bool isReference(bool value) = 0;
 };
 
-/// A curve of a sketch.
+/// A curve of a sketch: one of the classes below, or of no class of its own where a file does not
+/// say which.
 class SketchCurve : public SketchEntity {
 public:
     static const char* classType();  ///< "adsk::fusion::SketchCurve"
@@ -36,6 +37,60 @@ public:
     [[nodiscard]] virtual bool isConstruction() const = 0;
     /// Also possible for a projected curve.
     virtual bool isConstruction(bool value) = 0;
+};
+
+/// A straight line.
+class SketchLine : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchLine"
+};
+
+/// An arc of a circle.
+class SketchArc : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchArc"
+};
+
+/// A full circle.
+class SketchCircle : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchCircle"
+};
+
+/// A full ellipse.
+class SketchEllipse : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchEllipse"
+};
+
+/// An arc of an ellipse.
+class SketchEllipticalArc : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchEllipticalArc"
+};
+
+/// A conic curve: an arc of an ellipse, a parabola or a hyperbola.
+class SketchConicCurve : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchConicCurve"
+};
+
+/// A spline through points.
+class SketchFittedSpline : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchFittedSpline"
+};
+
+/// A spline whose shape is fixed, as of projected or imported geometry.
+class SketchFixedSpline : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchFixedSpline"
+};
+
+/// A spline given by its control points.
+class SketchControlPointSpline : public SketchCurve {
+public:
+    static const char* classType();  ///< "adsk::fusion::SketchControlPointSpline"
 };
 
 /// All curves of a sketch, in order of creation.

@@ -44,7 +44,7 @@ bool CommandObject::setDialogMinimumSize(int width, int height) {
 
 bool CommandObject::doExecute(bool terminate) {
     if (closed<"doExecute">(*this)) return {};
-    return runner_->executeByCode(terminate);
+    return runner_->executeByCode(*this, terminate);
 }
 
 UserInterfaceObject& CommandObject::ui() const { return runner_->ui(); }

@@ -24,6 +24,11 @@ struct CommandState {
     bool autoExecute = true;
     bool executedWhenPreEmpted = true;
     bool repeatable = true;
+    /// What the button that cancels is called.
+    [[nodiscard]] std::string cancelCaption() const {
+        return !okVisible && cancelText == "Cancel" ? "Close" : cancelText;
+    }
+
     DialogSize initialSize;
     DialogSize minimumSize;
     bool customized = false;  ///< has a size or a button text, and so shows even without inputs
@@ -69,7 +74,7 @@ public:
     }
     bool okButtonText(const std::string& value) override;
     [[nodiscard]] std::string cancelButtonText() const override {
-        return get<"cancelButtonText">(state_.cancelText);
+        return get<"cancelButtonText">(state_.cancelCaption());
     }
     bool cancelButtonText(const std::string& value) override;
     [[nodiscard]] bool isOKButtonVisible() const override {

@@ -50,6 +50,10 @@ void CommandRunner::request(const core::Ptr<CommandDefinitionObject>& definition
 
 void CommandRunner::drainRequests() {
     if (busy_ > 0 || gate::isModuleRunning()) return;
+    if (deferred_ != Deferred::Nothing) {
+        const ScopedIncrement busy(busy_);
+        runDeferredRequests();
+    }
     do {
         while (!requested_.empty()) {
             const core::Ptr<CommandDefinitionObject> next = requested_.front();
@@ -62,7 +66,7 @@ void CommandRunner::drainRequests() {
 
 // The idle command cannot be cancelled: what handlers answer is ignored.
 void CommandRunner::enterIdle() {
-    if (!idle_ || active_ || std::exchange(isIdle_, true)) return;
+    if (!idle_ || !announcesIdle_ || active_ || std::exchange(isIdle_, true)) return;
     const ScopedIncrement busy(busy_);
     announce(idle_);
 }
@@ -74,8 +78,20 @@ void CommandRunner::countStart(const std::string& id) {
                       " times without an action of the user in between: it keeps starting itself");
 }
 
+std::string CommandRunner::activeId() const {
+    if (active_) return active_->definition()->state().id;
+    return idle_ ? idle_->state().id : "";
+}
+
 void CommandRunner::start(const core::Ptr<CommandDefinitionObject>& definition) {
     if (!definition->isValid()) return;
+    if (definition == idle_) {
+        // It has no life of its own: to start it is to end what runs.
+        if (active_) {
+            preEmpt();
+        }
+        return;
+    }
     countStart(definition->state().id);
     const ScopedIncrement busy(busy_);
     if (!announce(definition)) return;
@@ -115,9 +131,11 @@ void CommandRunner::create(const core::Ptr<CommandDefinitionObject>& definition)
         show();
     } else if (!quiet) {
         end(core::AbortedTerminationReason);
-    } else if (command->state().autoExecute) {
-        const bool executed = execute();
-        end(command, executed ? core::CompletedTerminationReason : core::AbortedTerminationReason);
+    } else {
+        if (command->state().autoExecute) {
+            deferred_ = Deferred::ExecuteAndEnd;
+        }
+        runDeferredRequests();
     }
 }
 
@@ -192,8 +210,11 @@ bool CommandRunner::execute() {
     return !arguments->state().failed;
 }
 
-bool CommandRunner::executeByCode(bool terminate) {
-    if (!active_ || !active_->state().shown || !inputs_.whyInvalid().empty()) {
+bool CommandRunner::executeByCode(const CommandObject& command, bool terminate) {
+    if (active_.get() != &command) {
+        return fail(core::OperationFailed, "Command::doExecute: the command does not run");
+    }
+    if (command.state().shown && !inputs_.whyInvalid().empty()) {
         return fail(core::OperationFailed, "Command::doExecute: the dialog cannot be accepted");
     }
     deferred_ = terminate ? Deferred::ExecuteAndEnd : Deferred::Execute;

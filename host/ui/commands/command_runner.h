@@ -26,8 +26,15 @@ public:
     CommandRunner(UserInterfaceObject* ui, CodeChanges codeChanges)
         : ui_(ui), inputs_(*this, codeChanges) {}
 
-    /// Announces `idle` from now on whenever no other command runs.
-    void setIdleCommand(const core::Ptr<CommandDefinitionObject>& idle) { idle_ = idle; }
+    /// `idle` is the command that runs from now on whenever no other does; it ends the one that
+    /// runs. Each of its starts is announced if `announces` is true.
+    void setIdleCommand(const core::Ptr<CommandDefinitionObject>& idle, bool announces) {
+        idle_ = idle;
+        announcesIdle_ = announces;
+    }
+
+    /// The id of the command that runs, that of the idle command while no other does.
+    [[nodiscard]] std::string activeId() const;
 
     /// The command that runs, null for none.
     [[nodiscard]] const core::Ptr<CommandObject>& active() const { return active_; }
@@ -47,7 +54,7 @@ public:
     void request(const core::Ptr<CommandDefinitionObject>& definition);
 
     /// Executes the running command after the running notification; false where it cannot be.
-    bool executeByCode(bool terminate);
+    bool executeByCode(const CommandObject& command, bool terminate);
 
     /// Cancels the running command; false inside any event of a command.
     bool terminate();
@@ -110,6 +117,7 @@ private:
     DialogInputs inputs_;
     core::Ptr<CommandObject> active_;
     core::Ptr<CommandDefinitionObject> idle_;
+    bool announcesIdle_ = false;
     bool isIdle_ = false;  ///< `idle_` was announced since a command ended
     std::deque<core::Ptr<CommandDefinitionObject>> requested_;
     std::map<std::string, int> starts_;  ///< since the user acted last

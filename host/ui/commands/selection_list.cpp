@@ -15,9 +15,9 @@ core::Ptr<core::Selection> SelectionList::at(std::size_t index) const {
     return index < selections_.size() ? selections_[index] : nullptr;
 }
 
-bool SelectionList::add(const core::Ptr<core::Base>& entity) {
+bool SelectionList::add(const core::Ptr<core::Base>& entity, const Place& place) {
     if (!held_.insert(entity.get()).second) return false;
-    selections_.push_back(make<SelectionObject>(entity));
+    selections_.push_back(make<SelectionObject>(entity, place));
     return true;
 }
 

@@ -17,8 +17,8 @@ public:
     /// The selection at an index, null outside the list.
     [[nodiscard]] core::Ptr<core::Selection> at(std::size_t index) const;
 
-    /// False for an entity that is there already.
-    bool add(const core::Ptr<core::Base>& entity);
+    /// Adds an entity that was picked at that place; false for one that is there already.
+    bool add(const core::Ptr<core::Base>& entity, const Place& place = {});
     void remove(const core::Ptr<core::Base>& entity);
 
     /// Empties the list and disposes of the selections.

@@ -1,6 +1,6 @@
 #include "host/ui/commands/selection_object.h"
 
-#include "host/base/last_error.h"
+#include "host/design/geometry_objects.h"
 
 #include <Core/CoreAll.h>
 
@@ -8,8 +8,7 @@ namespace host::ui {
 
 core::Ptr<core::Point3D> SelectionObject::point() const {
     if (closed<"point">(*this)) return {};
-    notImplemented("Selection::point");
-    return {};
+    return makePoint(state_.place);
 }
 
 }  // namespace host::ui

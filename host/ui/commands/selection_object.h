@@ -4,17 +4,23 @@
 
 #include <Core/Selections.h>
 
+#include <array>
 #include <utility>
 
 namespace host::ui {
 
+/// A place in the model, in cm.
+using Place = std::array<double, 3>;
+
 struct SelectionState {
     core::Ptr<core::Base> entity;
+    Place place = {};  ///< where it was picked
 };
 
 class SelectionObject final : public Object<core::Selection> {
 public:
-    explicit SelectionObject(core::Ptr<core::Base> entity) : state_{std::move(entity)} {}
+    SelectionObject(core::Ptr<core::Base> entity, const Place& place)
+        : state_{.entity = std::move(entity), .place = place} {}
 
     [[nodiscard]] core::Ptr<core::Base> entity() const override {
         return get<"entity">(state_.entity);

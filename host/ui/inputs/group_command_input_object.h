@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/base/last_error.h"
 #include "host/ui/inputs/command_input_object.h"
 #include "host/ui/inputs/container_state.h"
 
@@ -22,7 +23,15 @@ public:
         return get<"children">(insideApi());
     }
     [[nodiscard]] bool isExpanded() const override { return get<"isExpanded">(state_.expanded); }
-    bool isExpanded(bool value) override { return set<"isExpanded">(state_.expanded, value); }
+    bool isExpanded(bool value) override {
+        if (closed<"isExpanded">(*this)) return {};
+        if (!value && !canCollapse()) {
+            return fail(core::OperationFailed,
+                        "GroupCommandInput::isExpanded: a group within a group stays expanded");
+        }
+        state_.expanded = value;
+        return true;
+    }
     [[nodiscard]] bool isEnabledCheckBoxDisplayed() const override {
         return get<"isEnabledCheckBoxDisplayed">(state_.checkBoxDisplayed);
     }
@@ -37,6 +46,12 @@ public:
     }
 
     [[nodiscard]] const GroupState& state() const { return state_; }
+
+    /// Whether it can be collapsed: within another group only if its heading has a check box.
+    [[nodiscard]] bool canCollapse() const {
+        return state_.checkBoxDisplayed || parent() == nullptr ||
+               parent()->kind != InputKind::Group;
+    }
 
     /// Clicks its heading, as the user does.
     void toggle() { state_.expanded = !state_.expanded; }

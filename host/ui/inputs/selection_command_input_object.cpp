@@ -83,6 +83,9 @@ bool SelectionCommandInputObject::hasFocus() const {
 
 bool SelectionCommandInputObject::hasFocus(bool value) {
     if (closed<"hasFocus">(*this)) return {};
+    if (value && !visible) {
+        return fail(core::OperationFailed, "SelectionCommandInput::hasFocus: the input is hidden");
+    }
     changeFocus(value);
     return true;
 }
@@ -135,9 +138,9 @@ SelectionList& SelectionCommandInputObject::activeSelections() const {
     return command()->ui().state().selections->list;
 }
 
-void SelectionCommandInputObject::take(const core::Ptr<core::Base>& entity) {
-    picks_.add(entity);
-    activeSelections().add(entity);
+void SelectionCommandInputObject::take(const core::Ptr<core::Base>& entity, const Place& place) {
+    picks_.add(entity, place);
+    activeSelections().add(entity, place);
 }
 
 void SelectionCommandInputObject::drop(const core::Ptr<core::Base>& entity) {

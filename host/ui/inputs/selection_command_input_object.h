@@ -64,8 +64,8 @@ public:
     [[nodiscard]] bool isFull() const { return picks_.count() >= maximum(); }
     [[nodiscard]] const SelectionList& picks() const { return picks_; }
 
-    /// Adds or removes an entity, here and among the active selections.
-    void take(const core::Ptr<core::Base>& entity);
+    /// Adds an entity, picked at that place, or removes one, here and among the active selections.
+    void take(const core::Ptr<core::Base>& entity, const Place& place = {});
     void drop(const core::Ptr<core::Base>& entity);
     void dropAll();
     /// @}

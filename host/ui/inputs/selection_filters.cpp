@@ -2,6 +2,8 @@
 
 #include "host/ui/user_interface_object.h"
 
+#include <Fusion/Sketch.h>
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -68,7 +70,10 @@ bool isSelectionFilter(const std::string& name) { return find(name) != nullptr; 
 bool passesFilter(const core::Ptr<core::Base>& entity, const std::string& filter,
                   const UserInterfaceObject& ui) {
     const Filter* known = find(filter);
-    if (known == nullptr || known->type != entity->objectType()) return false;
+    if (known == nullptr) return false;
+    // Of any class: each kind of curve has its own.
+    if (known->name == "SketchCurves") return core::Ptr<fusion::SketchCurve>(entity);
+    if (known->type != entity->objectType()) return false;
     return known->name != "RootComponents" || ui.isRootComponent(entity);
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <utility>
 
 namespace host::ui {
 namespace {
@@ -119,9 +120,20 @@ core::Ptr<core::CommandInput> TableCommandInputObject::getInputAtPosition(int ro
                                                                           int column) const {
     if (closed<"getInputAtPosition">(*this)) return {};
     if (row < 0 || column < 0) return nullptr;
-    InputState* found =
-        lines_.cell(static_cast<std::size_t>(row), static_cast<std::size_t>(column));
+    InputState* found = covering(static_cast<std::size_t>(row), static_cast<std::size_t>(column));
     return found == nullptr ? nullptr : found->api();
+}
+
+// The cell at a place, or the one to its left that reaches so far.
+InputState* TableCommandInputObject::covering(std::size_t row, std::size_t column) const {
+    if (column >= static_cast<std::size_t>(kMostColumns)) return nullptr;
+    for (std::size_t at = column + 1; at-- > 0;) {
+        if (InputState* cell = lines_.cell(row, at)) {
+            const auto span = static_cast<std::size_t>(cell->extras().columnSpan);
+            return at + span >= column ? cell : nullptr;
+        }
+    }
+    return nullptr;
 }
 
 bool TableCommandInputObject::getPosition(const core::Ptr<core::CommandInput>& input, int& row,
@@ -177,6 +189,10 @@ bool TableCommandInputObject::clear() {
     if (closed<"clear">(*this)) return {};
     while (lines_.count() > 0) {
         eraseWithInputs(lines_.at(lines_.count() - 1));
+    }
+    for (InputState* each : std::exchange(toolbar_.cells, {})) {
+        each->inLine = nullptr;
+        removeFromOwner(*each);
     }
     return true;
 }

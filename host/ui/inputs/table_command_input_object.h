@@ -5,6 +5,7 @@
 
 #include <Core/TableCommandInput.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -78,6 +79,7 @@ public:
 private:
     [[nodiscard]] InputState* acceptable(const core::Ptr<core::CommandInput>& input,
                                          const char* operation) const;
+    [[nodiscard]] InputState* covering(std::size_t row, std::size_t column) const;
     void eraseWithInputs(TableLine& line);
 
     int columns_;

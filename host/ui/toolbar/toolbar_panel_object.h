@@ -29,6 +29,7 @@ public:
 
     [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
     [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
+    bool name(const std::string& value) override { return set<"name">(state_.name, value); }
     [[nodiscard]] core::Ptr<core::ToolbarControls> controls() const override {
         return get<"controls">(state_.controls);
     }

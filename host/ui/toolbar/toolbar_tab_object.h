@@ -25,6 +25,7 @@ public:
 
     [[nodiscard]] std::string id() const override { return get<"id">(state_.id); }
     [[nodiscard]] std::string name() const override { return get<"name">(state_.name); }
+    bool name(const std::string& value) override { return set<"name">(state_.name, value); }
     [[nodiscard]] core::Ptr<core::ToolbarPanels> toolbarPanels() const override {
         return get<"toolbarPanels">(api_);
     }

@@ -119,6 +119,59 @@ TEST_F(UserDataTest, AFileKnowsItsFolderAndProject) {
     EXPECT_EQ(file->parentFolder()->parentFolder()->parentFolder(), nullptr);
 }
 
+// DataFile_name: the displayed name can be set; the id is that of all its versions.
+TEST_F(UserDataTest, AFileIsRenamedOnTheDiskAndKeepsItsId) {
+    store({"Alfa/Designs/Gearbox.design.json", "Alfa/Designs/Motor.step"});
+    open();
+    const Ptr<DataFile> file = fileAt("Alfa/Designs/Gearbox.design.json");
+    const std::string id = file->id();
+
+    EXPECT_TRUE(file->name("Drive"));
+
+    EXPECT_EQ(tree(root()), "Designs(Drive Motor)");
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "Alfa/Designs/Drive.design.json"));
+    EXPECT_EQ(file->name(), "Drive");
+    EXPECT_EQ(file->id(), id);
+    EXPECT_EQ(fileAt("Alfa/Designs/Drive.design.json"), file);
+    store({"Alfa/Designs/Gearbox.design.json"});
+    EXPECT_NE(fileAt("Alfa/Designs/Gearbox.design.json")->id(), id);
+}
+
+TEST_F(UserDataTest, ANameThatIsInUseOrNoNameIsRefused) {
+    store({"Alfa/Gearbox.step", "Alfa/Motor.step", "Alfa/Designs/a.step"});
+    open();
+    const Ptr<DataFile> file = fileAt("Alfa/Gearbox.step");
+
+    for (const char* refused : {"Motor", "", "a/b", ".hidden", "dot.", "what?"}) {
+        EXPECT_FALSE(file->name(refused)) << refused;
+    }
+    EXPECT_FALSE(file->parentFolder()->dataFolders()->item(0)->name("a\\b"));
+
+    EXPECT_EQ(tree(root()), "Designs(a) Gearbox Motor");
+    EXPECT_EQ(file->name(), "Gearbox");
+}
+
+// DataFolder_name, DataProject_name.
+TEST_F(UserDataTest, AFolderAndAProjectAreRenamedWithAllThatIsInThem) {
+    store({"Alfa/Designs/Motors/Gearbox.step"});
+    open();
+    const Ptr<DataFile> file = fileAt("Alfa/Designs/Motors/Gearbox.step");
+    const Ptr<DataProject> project = data->api()->activeProject();
+    const std::string id = project->id();
+
+    EXPECT_TRUE(file->parentFolder()->parentFolder()->name("Plans"));
+    EXPECT_TRUE(project->name("Beta"));
+
+    EXPECT_EQ(tree(root()), "Plans(Motors(Gearbox))");
+    EXPECT_EQ(fileAt("Beta/Plans/Motors/Gearbox.step"), file);
+    EXPECT_EQ(project->name(), "Beta");
+    EXPECT_EQ(project->id(), id);
+    EXPECT_EQ(root()->name(), "Beta");
+    EXPECT_TRUE(root()->name("Gamma"));
+    EXPECT_EQ(project->name(), "Gamma");
+    EXPECT_TRUE(file->isValid());
+}
+
 TEST_F(UserDataTest, ReturnsTheSameObjectForAFile) {
     store({"Alfa/a.step"});
     open();

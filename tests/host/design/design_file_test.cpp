@@ -89,7 +89,10 @@ TEST_F(DesignFile, HoldsEverythingOfADesign) {
     data.unit = "mm";
     data.attributes = {{.group = "G", .name = "whole", .value = "line\nbreak"}};
     data.components[1].hasExplicitPartNumber = true;
-    data.components[2].sketches = {{"Profile", {{true, false}, {false, true}}}, {"Empty", {}}};
+    data.components[2].sketches = {
+        {"Profile",
+         {{true, false}, {false, true, SketchCurveKind::Line}, {.kind = SketchCurveKind::Arc}}},
+        {"Empty", {}}};
 
     const DesignData loaded = saveAndLoad(data);
 

@@ -64,6 +64,17 @@ TEST_F(DocumentTest, IsSavedOnceItHasAFile) {
     EXPECT_EQ(component("Motor:1")->parentDesign()->parentDocument()->dataFile(), file);
 }
 
+// Document_name: a saved document is called like its file.
+TEST_F(DocumentTest, TheNameOfASavedDocumentCannotBeSet) {
+    open("Bolt");
+    EXPECT_TRUE(document->name("Gearbox"));
+    setDataFile(document, make<NamedFile>());
+
+    EXPECT_FALSE(document->name("Motor"));
+
+    EXPECT_EQ(document->name(), "Gearbox");
+}
+
 TEST_F(DocumentTest, UnnamedDesignTakesItsRootComponentsNameOrUntitled) {
     DesignData data = parseOutline("Bolt");
     data.name = "";

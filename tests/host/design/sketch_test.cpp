@@ -26,6 +26,31 @@ TEST_F(SketchTest, CurvesReportTheirKind) {
     EXPECT_EQ(std::string(sketch()->objectType()), "adsk::fusion::Sketch");
 }
 
+// SketchCurve: each curve is of the class of its kind.
+TEST_F(SketchTest, CurvesAreOfTheClassOfTheirKind) {
+    DesignData data = parseOutline("Bolt");
+    SketchData& drawn = data.components[1].sketches.emplace_back();
+    for (int kind = 0; kind < 10; ++kind) {
+        drawn.curves.push_back({.kind = static_cast<SketchCurveKind>(kind)});
+    }
+    open(std::move(data));
+
+    std::vector<std::string> classes;
+    for (const Ptr<SketchCurve>& each : sketch()->sketchCurves()) {
+        classes.emplace_back(each->objectType());
+    }
+
+    EXPECT_EQ(classes,
+              (std::vector<std::string>{
+                  "adsk::fusion::SketchCurve", "adsk::fusion::SketchLine",
+                  "adsk::fusion::SketchArc", "adsk::fusion::SketchCircle",
+                  "adsk::fusion::SketchEllipse", "adsk::fusion::SketchEllipticalArc",
+                  "adsk::fusion::SketchConicCurve", "adsk::fusion::SketchFittedSpline",
+                  "adsk::fusion::SketchFixedSpline", "adsk::fusion::SketchControlPointSpline"}));
+    EXPECT_TRUE(Ptr<SketchCircle>(sketch()->sketchCurves()->item(3)));
+    EXPECT_FALSE(Ptr<SketchLine>(sketch()->sketchCurves()->item(3)));
+}
+
 TEST_F(SketchTest, IsOneObject) {
     EXPECT_EQ(sketch(), sketch());
     EXPECT_EQ(sketch()->sketchCurves()->item(1), sketch()->sketchCurves()->item(1));

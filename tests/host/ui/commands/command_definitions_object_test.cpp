@@ -62,9 +62,10 @@ TEST_F(Definitions, AreCountedInOrderOfCreation) {
     add("First");
     add("Second");
 
-    EXPECT_EQ(all()->count(), 2U);
-    EXPECT_EQ(all()->item(1)->id(), "Second");
-    EXPECT_FALSE(all()->item(2));
+    EXPECT_EQ(all()->count(), 3U);
+    EXPECT_EQ(all()->item(0)->id(), "SelectCommand");
+    EXPECT_EQ(all()->item(2)->id(), "Second");
+    EXPECT_FALSE(all()->item(3));
 }
 
 TEST_F(Definitions, FireTheirOwnCreatedEventWithThemAsSender) {

@@ -104,6 +104,18 @@ TEST_F(CommandDialog, OkIsRefusedWhenTheButtonIsNotVisible) {
     EXPECT_EQ(misuseOf(pressOk), "cannot press OK: the dialog has no such button");
 }
 
+// Command_isOKButtonVisible: what is left closes the dialog, and says so.
+TEST_F(CommandDialog, WithoutOkTheOtherButtonIsCalledClose) {
+    const Ptr<Command> dialog = openBox();
+    EXPECT_EQ(dialog->cancelButtonText(), "Cancel");
+
+    dialog->isOKButtonVisible(false);
+    EXPECT_EQ(dialog->cancelButtonText(), "Close");
+
+    dialog->cancelButtonText("Leave");
+    EXPECT_EQ(dialog->cancelButtonText(), "Leave");
+}
+
 TEST_F(CommandDialog, OkAndCancelNeedADialog) {
     EXPECT_EQ(misuseOf(pressOk), "cannot press OK: no dialog is open");
     EXPECT_EQ(misuseOf(pressCancel), "cannot press Cancel: no command runs");

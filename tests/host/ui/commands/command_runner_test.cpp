@@ -242,7 +242,7 @@ TEST_F(CommandLife, ACommandThatKeepsRestartingItselfIsStoppedAfterTenStarts) {
               "it keeps starting itself");
 
     EXPECT_FALSE(openDialog());
-    EXPECT_EQ(ui()->activeCommand(), "");
+    EXPECT_EQ(ui()->activeCommand(), "SelectCommand");
 }
 
 TEST_F(CommandLife, RestartsBetweenUserActionsAreNotLimited) {
@@ -356,6 +356,76 @@ TEST_F(CommandLife, DoExecuteCanLeaveTheDialogOpen) {
 
     EXPECT_EQ(noted(), "execute");
     EXPECT_TRUE(openDialog());
+}
+
+// Command_doExecute: a command without inputs has nothing else that executes it.
+TEST_F(CommandLife, DoExecuteRunsACommandWithoutInputs) {
+    define("Button", [this](const Ptr<Command>& command) {
+        command->isAutoExecute(false);
+        traceLife(command);
+        EXPECT_TRUE(command->doExecute(true));
+    });
+
+    pressCommand("Button");
+
+    EXPECT_EQ(noted(), "execute deactivate destroy=1");
+}
+
+TEST_F(CommandLife, DoExecuteCanComeLaterAndLeaveTheCommandRunning) {
+    Ptr<Command> running;
+    define("Button", [&](const Ptr<Command>& command) {
+        command->isAutoExecute(false);
+        traceLife(command);
+        running = command;
+    });
+    pressCommand("Button");
+    EXPECT_EQ(noted(), "");
+
+    enterModule("elsewhere", "", [&] { EXPECT_TRUE(running->doExecute(false)); });
+    drainRequests();
+    EXPECT_EQ(noted(), "execute");
+    EXPECT_EQ(ui()->activeCommand(), "Button");
+
+    enterModule("elsewhere", "", [&] { EXPECT_TRUE(running->doExecute(true)); });
+    drainRequests();
+    EXPECT_EQ(noted(), "execute deactivate destroy=1");
+    EXPECT_FALSE(running->doExecute(true));
+    EXPECT_EQ(misused(), "Command::doExecute");
+}
+
+// Threading_UM: "SelectCommand" runs whenever no other command does, and to execute its definition
+// ends the one that runs.
+TEST_F(CommandLife, SelectCommandRunsWhileNoOtherDoes) {
+    EXPECT_EQ(ui()->activeCommand(), "SelectCommand");
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        command->isExecutedWhenPreEmpted(false);
+        traceLife(command);
+    });
+    EXPECT_EQ(ui()->activeCommand(), "Dialog");
+    noted();
+
+    EXPECT_TRUE(ui()->commandDefinitions()->itemById("SelectCommand")->execute());
+
+    EXPECT_EQ(noted(), "deactivate destroy=4");
+    EXPECT_EQ(ui()->activeCommand(), "SelectCommand");
+}
+
+TEST_F(CommandLife, SelectCommandEndsACommandThatItselfExecutesIt) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        command->isExecutedWhenPreEmpted(false);
+        traceLife(command);
+        on<OnChanged>(command->inputChanged(), [](const auto&) {
+            ui()->commandDefinitions()->itemById("SelectCommand")->execute();
+        });
+    });
+    noted();
+
+    click(openDialog()->commandInputs()->itemById("box"));
+
+    EXPECT_EQ(noted(), "inputChanged validateInputs deactivate destroy=4");
+    EXPECT_FALSE(openDialog());
 }
 
 TEST_F(CommandLife, APreviewThatCannotBeUndoneIsReported) {

@@ -93,6 +93,22 @@ TEST_F(Reachability, AnInputInACollapsedGroupCannotBeUsedUntilItIsExpanded) {
     EXPECT_EQ(misuseOf([this] { click(all->itemById("in")); }), "");
 }
 
+// GroupCommandInput_isExpanded: a group within a group has to have a check box to be collapsed.
+TEST_F(Reachability, AGroupInAGroupCollapsesOnlyWithACheckBox) {
+    const Ptr<GroupCommandInput> group = all->itemById("group");
+    const Ptr<GroupCommandInput> inner = group->children()->addGroupCommandInput("inner", "");
+
+    EXPECT_FALSE(inner->isExpanded(false));
+    EXPECT_EQ(misuseOf([&] { click(inner); }),
+              "cannot click \"inner\": a group within a group without a check box cannot be "
+              "collapsed");
+    EXPECT_TRUE(inner->isExpanded());
+
+    inner->isEnabledCheckBoxDisplayed(true);
+    EXPECT_TRUE(inner->isExpanded(false));
+    EXPECT_FALSE(inner->isExpanded());
+}
+
 TEST_F(Reachability, ACellInAColumnWithoutAWidthCannotBeUsed) {
     EXPECT_EQ(misuseOf([this] { click(all->itemById("narrow")); }),
               "cannot click \"narrow\": its column 1 of the table \"table\" has no width");

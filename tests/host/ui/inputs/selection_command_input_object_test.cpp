@@ -298,13 +298,38 @@ TEST_F(SelectionTest, AnExecutionThatEditsTheModelClearsTheSelections) {
     EXPECT_EQ(activeCount(), 0U);
 }
 
-TEST_F(SelectionTest, WhatIsNotImplementedRefusesByName) {
-    ui()->activeSelections()->add(root);
-    EXPECT_FALSE(ui()->activeSelections()->item(0)->point());
+// SelectionCommandInput_hasFocus: the input has to be visible.
+TEST_F(SelectionTest, AHiddenInputDoesNotTakeTheFocus) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addSelectionInput("first", "", "");
+        inputs->addSelectionInput("second", "", "")->isVisible(false);
+    });
+    const Ptr<SelectionCommandInput> second = openDialog()->commandInputs()->itemById("second");
 
+    EXPECT_FALSE(second->hasFocus(true));
+    EXPECT_TRUE(second->hasFocus(false));
+
+    EXPECT_FALSE(second->hasFocus());
     std::string text;
     adsk::core::Application::get()->getLastError(&text);
-    EXPECT_EQ(text, "Selection::point is not part of the stand-in host");
+    EXPECT_EQ(text, "SelectionCommandInput::hasFocus: the input is hidden");
+}
+
+std::vector<double> placeOf(const Ptr<Selection>& selection) {
+    const Ptr<Point3D> point = selection->point();
+    return {point->x(), point->y(), point->z()};
+}
+
+// Selection_point: where the user picked the entity.
+TEST_F(SelectionTest, KnowsWhereTheEntityWasPicked) {
+    const Ptr<SelectionCommandInput> input = openPicker({}, 1, 0);
+
+    pick(part(0), {1, 2.5, -3});
+    pick(part(1));
+
+    EXPECT_EQ(placeOf(input->selection(0)), (std::vector<double>{1, 2.5, -3}));
+    EXPECT_EQ(placeOf(input->selection(1)), (std::vector<double>{0, 0, 0}));
+    EXPECT_EQ(placeOf(ui()->activeSelections()->item(0)), (std::vector<double>{1, 2.5, -3}));
 }
 
 }  // namespace

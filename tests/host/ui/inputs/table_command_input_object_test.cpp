@@ -253,6 +253,31 @@ TEST_F(Table, ClearDeletesAllRows) {
     EXPECT_EQ(table->commandInputs()->count(), 1U);
 }
 
+// TableCommandInput_clear: the inputs of the toolbar go as well.
+TEST_F(Table, ClearDeletesTheToolbar) {
+    fill();
+    const Ptr<CommandInput> tool = make("tool");
+    table->addToolbarCommandInput(tool);
+
+    EXPECT_TRUE(table->clear());
+
+    EXPECT_TRUE(toolbarOf(table).empty());
+    EXPECT_FALSE(tool->isValid());
+    EXPECT_EQ(table->commandInputs()->count(), 1U);
+}
+
+// TableCommandInput_getInputAtPosition: a cell that spans columns is at each of them.
+TEST_F(Table, ASpanningCellIsReturnedFromEachPlaceThatItCovers) {
+    const Ptr<CommandInput> wide = make("wide");
+    table->addCommandInput(wide, 0, 1, 0, 1);
+
+    EXPECT_EQ(table->getInputAtPosition(0, 0), nullptr);
+    EXPECT_EQ(table->getInputAtPosition(0, 1), wide);
+    EXPECT_EQ(table->getInputAtPosition(0, 2), wide);
+    EXPECT_EQ(table->getInputAtPosition(0, 3), nullptr);
+    EXPECT_EQ(table->getInputAtPosition(1, 2), nullptr);
+}
+
 TEST_F(Table, HasNoSelectedRowAtFirst) {
     fill();
 

@@ -220,5 +220,36 @@ TEST_F(Toolbars, AnEmptyContextMenuIsNotShown) {
     EXPECT_EQ(showMarkingMenu(), std::vector<std::string>());
 }
 
+// ToolbarPanel_name, ToolbarTab_name.
+TEST_F(Toolbars, PanelsAndTabsAreRenamed) {
+    const Ptr<ToolbarPanel> panel = panels()->add("Mine", "My Panel");
+    const Ptr<ToolbarTab> tab =
+        ui()->toolbarTabsByProductType("DesignProductType")->itemById("ToolsTab");
+
+    EXPECT_TRUE(panel->name("Yours"));
+    EXPECT_TRUE(tab->name("Utilities"));
+
+    EXPECT_EQ(panel->name(), "Yours");
+    EXPECT_EQ(panel->id(), "Mine");
+    EXPECT_EQ(tab->name(), "Utilities");
+    EXPECT_EQ(tab->id(), "ToolsTab");
+}
+
+// UserInterface_toolbars.
+TEST_F(Toolbars, BarsAroundTheWindowTakeControls) {
+    const Ptr<adsk::core::Toolbars> bars = ui()->toolbars();
+    const Ptr<Toolbar> quickAccess = bars->itemById("QAT");
+
+    const Ptr<CommandControl> control = quickAccess->controls()->addCommand(command("Mine"));
+
+    EXPECT_EQ(control->parent(), quickAccess);
+    EXPECT_TRUE(quickAccess->controls()->itemById("Mine"));
+    EXPECT_TRUE(quickAccess->isVisible(false));
+    EXPECT_FALSE(quickAccess->isVisible());
+    EXPECT_EQ(bars->count(), 2U);
+    EXPECT_EQ(bars->item(1)->id(), "NavToolbar");
+    EXPECT_EQ(bars->itemById("Nowhere"), nullptr);
+}
+
 }  // namespace
 }  // namespace host

@@ -1,0 +1,61 @@
+#include "tests/conformance/idioms.h"
+#include "tests/host/ui/host_test.h"
+
+#include "host/session/environment.h"
+#include "host/session/session.h"
+
+namespace host {
+namespace {
+
+/// Sources written for the vendor's host, compiled against the headers of this one.
+class Conformance : public HostWithDesign {
+protected:
+    Conformance() : HostWithDesign("Bolt\nNut") {}
+};
+
+// CPPSpecific_UM: handles are used like pointers, and collections in range-based loops.
+TEST_F(Conformance, HandlesAreUsedLikePointersInCpp17) {
+    EXPECT_EQ(idioms_cpp17::wrongIdioms(Application::get()), std::vector<std::string>());
+}
+
+TEST_F(Conformance, HandlesAreUsedLikePointersInCpp20) {
+    EXPECT_EQ(idioms_cpp20::wrongIdioms(Application::get()), std::vector<std::string>());
+}
+
+/// A module of its own, in a session.
+class ConformanceModule : public testing::Test {
+protected:
+    static SessionOptions options() {
+        SessionOptions options;
+        options.addin = environment::programFolder() / CONFORMANCE_FOLDER;
+        return options;
+    }
+};
+
+TEST_F(ConformanceModule, RunsInASession) {
+    Session session(options());
+    session.openOutline("Bolt\nNut");
+
+    EXPECT_TRUE(session.run());
+
+    EXPECT_EQ(session.log(), (std::vector<LogLine>{{.text = "no idiom came out wrong"}}));
+    EXPECT_TRUE(session.uncaughtExceptions().empty());
+}
+
+// Threading_UM, adsk.terminate: the script ends once the notification has returned.
+TEST_F(ConformanceModule, StopsAfterTheNotificationThatTerminatesIt) {
+    Session session(options());
+    session.openOutline("Bolt\nNut");
+    session.run();
+
+    session.press("ConformanceTerminate");
+
+    const std::vector<LogLine> log = session.log();
+    ASSERT_EQ(log.size(), 3U);
+    EXPECT_EQ(log[1].text, "asked to terminate");
+    EXPECT_EQ(log[2],
+              (LogLine{.text = "stopped", .level = WarningLogLevel, .type = ConsoleLogType}));
+}
+
+}  // namespace
+}  // namespace host
