@@ -43,11 +43,11 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
       host.actions.push(action);
       try {
         const more = act(action, host);
-        if (host.held) await host.held;  // a slow program
+        if (host.held) await host.held;  // a slow program: the action is done, nobody knows yet
         change();
         answer(response, 200, {ok: true, revision, ...more});
       } catch (error) {
-        answer(response, 409, {error: error.message});
+        answer(response, 409, {error: error.message, ...error.exists ? {exists: true} : {}});
       }
     },
     'GET /files': (request, response) => {
@@ -69,6 +69,8 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
     if (name.startsWith('/resources/') && fs.existsSync(picture)) return response.writeHead(200, {'Content-Type': 'image/png'}).end(fs.readFileSync(picture));
     return response.writeHead(404).end();
   });
+  /// Ends the stream of events; the page opens another one.
+  host.drop = () => events.destroy();
   host.close = () => {
     server.closeAllConnections();
     server.close();

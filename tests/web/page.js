@@ -1,4 +1,4 @@
-// Opens the offline page in Chromium with software WebGL, without a network.
+// Opens the pages in Chromium with software WebGL: the offline one without a network, that of the host from its server.
 'use strict';
 const assert = require('assert');
 const fs = require('fs');
@@ -42,18 +42,36 @@ async function openFile(file, {locale = 'en-GB', colorScheme = 'light', ...size}
   return ready(page);
 }
 
-async function newTab(locale) {
-  const page = await (await browser.newContext({...profile, locale})).newPage();
-  tabs.set(locale, page);
+async function newTab(name, options = {...profile, locale: name}) {
+  const page = await (await browser.newContext(options)).newPage();
+  tabs.set(name, page);
   page.complaints = [];
+  page.isAllowed = address => /^(file|data|blob):/.test(address);
   page.on('pageerror', error => page.complaints.push(String(error)));
   page.on('console', message => ['error', 'warning'].includes(message.type()) && !isDriverNote(message.text()) && page.complaints.push(message.text()));
-  page.on('request', request => /^(file|data|blob):/.test(request.url()) || page.complaints.push(request.url()));
+  page.on('request', request => page.isAllowed(request.url()) || page.complaints.push(request.url()));
   return page;
 }
 
 // The software driver says that reading pixels is slow there, which it is.
-const isDriverNote = text => text.includes('GPU stall due to ReadPixels');
+const isDriverNote = text => text.includes('GPU stall due to ReadPixels') || isRefusal(text);
+
+// The browser notes each answer that refuses something, which a page of the host shows to its user.
+const isRefusal = text => text.includes('the server responded with a status of 409');
+
+/// Opens the page of a host at this address; `another` names a second tab. `page.complaints` as above: nothing is asked of anyone else.
+async function openHost(url, {colorScheme = 'light', viewport: size = {width: 1280, height: 800}, another = ''} = {}) {
+  const name = `host${another}`;
+  const page = tabs.get(name) ?? await newTab(name, {...profile, offline: false, locale: 'en-GB'});
+  const {origin} = new URL(url);
+  page.isAllowed = address => address.startsWith(`${origin}/`) || /^(data|blob|about):/.test(address);
+  await page.setViewportSize(size);
+  await page.emulateMedia({media: null, colorScheme});
+  await page.mouse.move(2, 2);
+  await page.goto(url);
+  await page.waitForFunction(() => document.querySelector('.quick') && (document.querySelector('.stage-note:not(.loading)') || window.hostPage?.scene?.viewer?.stats().frames > 0));
+  return page;
+}
 
 /// The page, once it has drawn its first picture, if it has any to draw.
 async function ready(page) {
@@ -162,5 +180,27 @@ const withPixels = page => page.evaluate(() => {
   };
 });
 
-module.exports = {startBrowser, open, openFile, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance,
+/// Runs the tests, or those of these names, one after another; says what failed.
+async function runTests(tests, names) {
+  const browser = await startBrowser();
+  let failed = 0;
+  for (const [name, test] of Object.entries(tests)) {
+    if (names.length && !names.includes(name)) continue;
+    const start = Date.now();
+    try {
+      await test();
+      checkComplaints();
+    } catch (error) {
+      ++failed;
+      await closeTabs();
+      console.error(`${name}: ${error.stack}`);
+    }
+    if (process.env.TIMES) console.log(`${name} ${Date.now() - start} ms`);
+  }
+  await browser.close();
+  console.log(`${Object.keys(tests).length} tests, ${failed} failed`);
+  process.exitCode = failed ? 1 : 0;
+}
+
+module.exports = {startBrowser, runTests, open, openFile, openHost, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance,
                   at, visible, remember, changedInstances, withPixels, folder};

@@ -7,7 +7,7 @@ const fs = require('fs');
 const {violations} = require('../site/browser');
 const {block, brackets, catalogue, hostile, hostileNames, inGrams, odd, panes} = require('./assemblies');
 const {compare} = require('./golden');
-const {startBrowser, open, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance, at, visible,
+const {runTests, open, openAgain, reload, settled, frames, row, selectedRows, shownRows, summary, clickInstance, at, visible,
        remember, changedInstances, withPixels} = require('./page');
 
 const sample = brackets();
@@ -763,25 +763,4 @@ const tests = {
   },
 };
 
-async function main(names) {
-  const browser = await startBrowser();
-  let failed = 0;
-  for (const [name, test] of Object.entries(tests)) {
-    if (names.length && !names.includes(name)) continue;
-    const start = Date.now();
-    try {
-      await test();
-      checkComplaints();
-    } catch (error) {
-      ++failed;
-      await closeTabs();
-      console.error(`${name}: ${error.stack}`);
-    }
-    if (process.env.TIMES) console.log(`${name} ${Date.now() - start} ms`);
-  }
-  await browser.close();
-  console.log(`${Object.keys(tests).length} tests, ${failed} failed`);
-  process.exitCode = failed ? 1 : 0;
-}
-
-main(process.argv.slice(2));
+runTests(tests, process.argv.slice(2));

@@ -96,12 +96,12 @@ function Host({line, state, notice, made}: Props & {state: State}) {
       <Docked palettes={state.palettes} side="right" line={line}/>
       {state.dialog && room && <CommandDialog dialog={state.dialog} line={line} frozen={isBusy} room={() => room}/>}
       {room && <Floating palettes={state.palettes} line={line} room={room}/>}
+      {state.progress && <ProgressBox progress={state.progress} line={line}/>}
+      {menu && <Menu entries={menu.entries} label={texts.menu} at={menu} close={() => setMenu(null)}/>}
+      <Notices notice={notice}/>
     </main>
     <StatusBar line={line} state={state}/>
-    <Notices notice={notice}/>
     {line.line !== 'open' && <p class="banner" role="alert">{line.line === 'refused' ? texts.refused : texts.lost}</p>}
-    {state.progress && <ProgressBox progress={state.progress} line={line}/>}
-    {menu && <Menu entries={menu.entries} label={texts.menu} at={menu} close={() => setMenu(null)}/>}
     {asking?.what === 'open' && <FilesBox title={texts.openTitle} filters={designs} line={line} cancel={() => setAsking(null)} pick={async ([file]) => { setAsking(null); await line.act('open', {file}); }}/>}
     {asking?.what === 'save' && <FilesBox title={texts.saveTitle} filters={[]} save={asking.name} line={line} cancel={() => setAsking(null)} pick={([file]) => void saveTo(file, false)}/>}
     {asking?.what === 'replace' && <AskBox title={texts.replaceTitle} text={texts.replaceText(asking.file)} yes={texts.replace} cancel={() => setAsking(null)} act={() => void saveTo(asking.file, true)}/>}

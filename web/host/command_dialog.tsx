@@ -30,8 +30,8 @@ export function CommandDialog({dialog, line, frozen, room}: Props) {
            moved={(left, top) => places.set(dialog.command, {left, top})} sized={(width, height) => void line.act('resize', {width, height})}>
       {tabs.length > 0 && <Tabs tabs={tabs} active={active} line={line} frozen={frozen}/>}
       <div class="contents" role={active ? 'tabpanel' : undefined} aria-labelledby={active ? `tab-${active.key}` : undefined}>
-        <Fields inputs={others} line={line} frozen={frozen}/>
-        {active && <Kept key={active.key}><Fields inputs={active.inputs ?? []} line={line} frozen={frozen}/></Kept>}
+        <Fields inputs={others} line={line}/>
+        {active && <Kept key={active.key}><Fields inputs={active.inputs ?? []} line={line}/></Kept>}
       </div>
       <footer>
         {dialog.ok.visible && <span class="ok" title={dialog.ok.why || undefined}>

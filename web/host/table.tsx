@@ -10,7 +10,7 @@ import {scrollTo, useSight} from './windowed.ts';
 const rowHeight = 26, around = 3;
 const margin = 40;  // rows that are asked for beyond those in sight, so that scrolling finds them there
 
-interface Props { table: Table; line: Connection; frozen: boolean }
+interface Props { table: Table; line: Connection }
 
 /// Whether a row is there to be read above the others: buttons alone, with texts on them.
 function isHeading(row: Row | undefined): boolean {
@@ -18,7 +18,7 @@ function isHeading(row: Row | undefined): boolean {
   return seen.length > 0 && seen.every(each => each.kind === 'Button' && !each.icon) && seen.some(each => each.text || each.caption);
 }
 
-export function DataTable({table, line, frozen}: Props) {
+export function DataTable({table, line}: Props) {
   const box = useRef<HTMLDivElement>(null);
   const asked = useRef({from: 0, count: 0});
   const focused = useRef<{at: number; number: number; row: Row} | null>(null);
@@ -42,7 +42,7 @@ export function DataTable({table, line, frozen}: Props) {
   const columns = table.shownColumns ?? [];
   const widths = (table.ratio ?? '').split(':').map(Number);
   const share = (column: number) => widths[column] > 0 ? widths[column] : 1;
-  const template = columns.map(each => `minmax(${each === columns[0] && share(each) <= 3 ? 34 : 40}px, ${share(each)}fr)`).join(' ');
+  const template = columns.map(each => `minmax(${each === columns[0] ? 34 : 56}px, ${share(each)}fr)`).join(' ');
   // What the scroll bar takes of the body it takes of the heading as well: they are in one box.
   const rows: {at: number; number: number; row: Row | null}[] = [];
   for (let at = sight.first; at < sight.last; ++at) {
@@ -70,7 +70,7 @@ export function DataTable({table, line, frozen}: Props) {
   });
 
   const select = (number: number, cell: Cell) => {
-    if (selectedRow !== number && cell.kind !== 'Button' && cell.kind !== 'CheckBox' && cell.enabled && !frozen) void line.ask('click', {input: cell.key});
+    if (selectedRow !== number && cell.kind !== 'Button' && cell.kind !== 'CheckBox' && cell.enabled) void line.ask('click', {input: cell.key});
   };
   const label = table.caption || table.id;
   return (
@@ -78,26 +78,26 @@ export function DataTable({table, line, frozen}: Props) {
       <div class="table" role="grid" aria-label={label} aria-rowcount={shownCount} aria-colcount={columns.length} ref={box} onKeyDown={keyed}
            onFocusIn={hold} onFocusOut={() => { focused.current = null; }}
            style={{'--least-rows': String(Math.max(2, table.minimumRows ?? 0))}}>
-        {heading && <div class="head" role="rowgroup"><Cells row={heading} number={shown.first} index={0} columns={columns} template={template} line={line} frozen={frozen} heading/></div>}
+        {heading && <div class="head" role="rowgroup"><Cells row={heading} number={shown.first} index={0} columns={columns} template={template} line={line} heading/></div>}
         <div class="body" role="rowgroup" style={{height: `${count * rowHeight}px`}}>
           {rows.map(({at, number, row}) => row
-            ? <Cells key={`row-${number}`} row={row} number={number} index={at + skipped} top={at * rowHeight} columns={columns} template={template} line={line} frozen={frozen}
+            ? <Cells key={`row-${number}`} row={row} number={number} index={at + skipped} top={at * rowHeight} columns={columns} template={template} line={line}
                      selected={number === selectedRow} select={cell => select(number, cell)}/>
             : <div key={`place-${at}`} class="row absent" role="presentation" style={{top: `${at * rowHeight}px`}}/>)}
         </div>
       </div>
       {(toolbar.some(each => each.visible) || count > 30) && (
-        <div class="table-bar">{toolbar.filter(each => each.visible).map(each => <Control key={each.key} input={each} line={line} frozen={frozen}/>)}
+        <div class="table-bar">{toolbar.filter(each => each.visible).map(each => <Control key={each.key} input={each} line={line}/>)}
           <span class="gap"/>{count > 30 && <span class="count">{texts.rows(count)}</span>}</div>)}
     </div>);
 }
 
 interface CellsProps {
-  row: Row; number: number; index: number; top?: number; columns: number[]; template: string; line: Connection; frozen: boolean;
+  row: Row; number: number; index: number; top?: number; columns: number[]; template: string; line: Connection;
   heading?: boolean; selected?: boolean; select?(cell: Cell): void;
 }
 
-function Cells({row, number, index, top, columns, template, line, frozen, heading, selected, select}: CellsProps) {
+function Cells({row, number, index, top, columns, template, line, heading, selected, select}: CellsProps) {
   const covered = new Set<number>();
   return (
     <div class={`row${selected ? ' selected' : ''}`} role="row" aria-rowindex={index + 1} aria-selected={heading ? undefined : selected === true} data-row={number}
@@ -112,7 +112,7 @@ function Cells({row, number, index, top, columns, template, line, frozen, headin
         return (
           <div key={column} class={`cell ${cell?.visible ? cell.kind : 'empty'}${cell?.readOnly ? ' fixed' : ''}${cell?.icon ? ' pictured' : ''}`} role={role} aria-colindex={i + 1} style={style}
                onFocusIn={cell && select ? () => select(cell) : undefined} onClick={cell?.visible && cell.kind === 'Image' && select ? () => select(cell) : undefined}>
-            {cell?.visible ? <Control key={cell.key} input={cell} line={line} frozen={frozen} cell/> : <Fragment/>}
+            {cell?.visible ? <Control key={cell.key} input={cell} line={line} cell/> : <Fragment/>}
           </div>);
       })}
     </div>);
@@ -129,7 +129,7 @@ function moveAmongCells(event: KeyboardEvent, box: HTMLElement, sight: {first: n
   const field = event.target as HTMLElement;
   const cell = field.closest('[role=gridcell], [role=columnheader]'), row = field.closest<HTMLElement>('[role=row]');
   if (!cell || !row || event.ctrlKey || event.altKey || event.metaKey) return;
-  const isText = field instanceof HTMLInputElement && field.type === 'text' || field instanceof HTMLTextAreaElement;
+  const isText = (field instanceof HTMLInputElement && field.type === 'text' || field instanceof HTMLTextAreaElement) && !field.readOnly;
   const cells = [...row.querySelectorAll<HTMLElement>('[role=gridcell], [role=columnheader]')];
   const beside = (by: number) => {
     for (let at = cells.indexOf(cell as HTMLElement) + by; at >= 0 && at < cells.length; at += by) {
@@ -151,7 +151,7 @@ function moveAmongCells(event: KeyboardEvent, box: HTMLElement, sight: {first: n
   const atEdge = (start: boolean) => !isText || (field as HTMLInputElement).selectionStart === (start ? 0 : (field as HTMLInputElement).value.length) && (field as HTMLInputElement).selectionStart === (field as HTMLInputElement).selectionEnd;
   const isList = field instanceof HTMLSelectElement;
   const actions: Record<string, (() => void) | false> = {
-    ArrowDown: !isList && (() => vertical(1)), ArrowUp: !isList && (() => vertical(-1)), Enter: isText && (() => vertical(event.shiftKey ? -1 : 1)),
+    ArrowDown: !isList && (() => vertical(1)), ArrowUp: !isList && (() => vertical(-1)), Enter: !isList && !(field instanceof HTMLButtonElement) && (() => vertical(event.shiftKey ? -1 : 1)),
     PageDown: () => vertical(Math.min(page, count - Number(row.getAttribute('aria-rowindex')))), PageUp: () => vertical(-Math.min(page, Math.max(0, Number(row.getAttribute('aria-rowindex')) - 2))),
     ArrowLeft: atEdge(true) && (() => beside(-1)), ArrowRight: atEdge(false) && (() => beside(1))};
   const action = actions[event.key];
