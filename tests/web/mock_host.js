@@ -65,6 +65,7 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
       const [file, type] = pages[name];
       return response.writeHead(200, {'Content-Type': type, 'Content-Security-Policy': policy}).end(fs.readFileSync(path.join(root, 'web/dist', file)));
     }
+    if (name === '/site/page.htm') return response.writeHead(200, {'Content-Type': 'text/html'}).end('<!DOCTYPE html><title>A page</title><p>A page of a palette');
     const picture = path.join(root, 'tarnix', path.normalize(name).replace('/resources/', ''));
     if (name.startsWith('/resources/') && fs.existsSync(picture)) return response.writeHead(200, {'Content-Type': 'image/png'}).end(fs.readFileSync(picture));
     return response.writeHead(404).end();

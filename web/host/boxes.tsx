@@ -13,9 +13,13 @@ export function Modal({title, class: style = '', children, escape, alert}: Modal
   const root = useRef<HTMLDialogElement>(null);
   useLayoutEffect(() => {
     const back = document.activeElement as HTMLElement | null;
-    root.current!.showModal();
-    root.current!.querySelector<HTMLElement>('[data-first]')?.focus();
-    return () => back?.focus();
+    const own = root.current!;
+    own.showModal();
+    own.querySelector<HTMLElement>('[data-first]')?.focus();
+    return () => {
+      own.close();
+      back?.focus();
+    };
   }, []);
   const cancel = (event: Event) => {
     event.preventDefault();
