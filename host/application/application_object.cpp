@@ -24,7 +24,40 @@ ApplicationObject::ApplicationObject(const HostSetup& setup)
     : ui_(make<ui::UserInterfaceObject>(setup, *this)),
       preferences_(make<ui::PreferencesObject>()),
       documents_(make<DocumentsObject>()),
-      importManager_(make<ImportManagerObject>()) {}
+      importManager_(make<ImportManagerObject>()) {
+    ui_->history = makeHistory();
+}
+
+// A document may be opened or closed while a record is open: the record is of the one that was
+// active when it was opened.
+ui::ModelHistory ApplicationObject::makeHistory() {
+    const auto take = [this](std::uint64_t number) {
+        const DocumentRecord record = records_[number];
+        records_.erase(number);
+        return record;
+    };
+    return {.begin =
+                [this] {
+                    records_[++newestRecord_] = {.document = document_,
+                                                 .record = beginRecord(document_)};
+                    return newestRecord_;
+                },
+            .end =
+                [this](std::uint64_t number) {
+                    const DocumentRecord& record = records_[number];
+                    endRecord(record.document, record.record);
+                },
+            .takeBack =
+                [take](std::uint64_t number) {
+                    const DocumentRecord record = take(number);
+                    takeBack(record.document, record.record);
+                },
+            .keep =
+                [take](std::uint64_t number) {
+                    const DocumentRecord record = take(number);
+                    keepRecord(record.document, record.record);
+                }};
+}
 
 core::Ptr<ApplicationObject> ApplicationObject::current() {
     const auto* running = HostState::currentPart<RunningApplication>();

@@ -17,6 +17,7 @@
 #include <Core/Product.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -90,6 +91,8 @@ public:
     void dispose();
 
 private:
+    [[nodiscard]] ui::ModelHistory makeHistory();
+
     core::Ptr<ui::UserInterfaceObject> ui_;
     core::Ptr<ui::PreferencesObject> preferences_;
     core::Ptr<DocumentsObject> documents_;
@@ -100,6 +103,14 @@ private:
     core::Ptr<core::Product> otherProduct_;
     core::Ptr<core::Base> root_;
     core::Ptr<core::Base> editObject_;
+
+    /// A record of a document's history.
+    struct DocumentRecord {
+        core::Ptr<core::Document> document;
+        std::uint64_t record = 0;
+    };
+    std::map<std::uint64_t, DocumentRecord> records_;  ///< that are not taken back or kept yet
+    std::uint64_t newestRecord_ = 0;
 };
 
 }  // namespace host

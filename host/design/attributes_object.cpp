@@ -2,6 +2,7 @@
 
 #include "host/base/last_error.h"
 
+#include <algorithm>
 #include <string_view>
 #include <unordered_set>
 #include <utility>
@@ -48,6 +49,7 @@ bool AttributeObject::setValue(const std::string& value) {
     if (!fits(value)) {
         return false;
     }
+    owner_->history().remember([owner = owner_, old = snapshot()] { owner->restore(old); });
     value_ = value;
     owner_->countEdit();
     return true;
@@ -137,6 +139,7 @@ core::Ptr<core::Attribute> AttributesObject::add(const std::string& groupName,
     items_.push_back(make<AttributeObject>(
         *this, AttributeData{.group = groupName, .name = name, .value = value}));
     index(*items_.back());
+    history().remember([this, groupName, name] { takeAdded(groupName, name); });
     countEdit();
     return items_.back();
 }
@@ -155,9 +158,30 @@ void AttributesObject::take(AttributeObject& attribute) {
     if (byName_) {
         byName_->erase(keyOf(attribute.ownGroup(), attribute.ownName()));
     }
-    std::erase(items_, kept);
+    const auto place = std::find(items_.begin(), items_.end(), kept);
+    history().remember([this, at = static_cast<std::size_t>(place - items_.begin()),
+                        data = kept->snapshot()] { putBack(at, data); });
+    items_.erase(place);
     attribute.dispose();
     countEdit();
+}
+
+// The one that was deleted stays so: handles to it are not valid any more.
+void AttributesObject::putBack(std::size_t place, const AttributeData& data) {
+    const auto at = items_.begin() + static_cast<std::ptrdiff_t>(std::min(place, items_.size()));
+    index(**items_.insert(at, make<AttributeObject>(*this, data)));
+}
+
+void AttributesObject::restore(const AttributeData& data) {
+    if (AttributeObject* present = find(data.group, data.name)) {
+        present->restore(data.value);
+    }
+}
+
+void AttributesObject::takeAdded(const std::string& group, const std::string& name) {
+    if (AttributeObject* present = find(group, name)) {
+        take(*present);
+    }
 }
 
 void AttributesObject::dispose() {

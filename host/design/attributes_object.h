@@ -41,6 +41,9 @@ public:
     /// Sets the value as the API does; false for one that is too long.
     bool setValue(const std::string& value);
 
+    /// Sets the value as it was before a change.
+    void restore(const std::string& value) { value_ = value; }
+
     /// Cuts it off from its collection.
     void dispose();
 
@@ -72,8 +75,18 @@ public:
     [[nodiscard]] std::vector<AttributeData> snapshot() const;
     [[nodiscard]] core::Base* parentObject() const { return parent_; }
     void countEdit() { ++edits_->all; }
+    [[nodiscard]] History& history() const { return edits_->history; }
     const std::string* share(const std::string& text) { return pool_->share(text); }
     void take(AttributeObject& attribute);
+
+    /// Makes an attribute again that was taken out of its place.
+    void putBack(std::size_t place, const AttributeData& data);
+
+    /// Sets the value of one, as before it was changed; nothing for one that is not there.
+    void restore(const AttributeData& data);
+
+    /// Takes one out again that was added.
+    void takeAdded(const std::string& group, const std::string& name);
 
     /// Disposes of the collection and all attributes.
     void dispose();

@@ -29,6 +29,11 @@ bool ComponentObject::name(const std::string& value) {
         return fail(core::BadApiCallError, "a component needs a name");
     }
     if (value != data_.name) {
+        model_->edits.history.remember([this, old = data_.name, number = data_.partNumber] {
+            model_->names.release(data_.name);
+            data_.name = model_->names.claim(old);
+            data_.partNumber = number;
+        });
         // Its old name is free for itself: asked for "Bolt", a "Bolt (1)" may stay.
         model_->names.release(data_.name);
         rename(model_->names.claim(value));
@@ -43,6 +48,11 @@ void ComponentObject::rename(const std::string& name) {
 
 bool ComponentObject::partNumber(const std::string& value) {
     if (closed<"partNumber">(*this)) return {};
+    model_->edits.history.remember(
+        [this, old = data_.partNumber, isExplicit = data_.hasExplicitPartNumber] {
+            data_.partNumber = old;
+            data_.hasExplicitPartNumber = isExplicit;
+        });
     data_.partNumber = value;
     data_.hasExplicitPartNumber = true;
     ++model_->edits.all;
@@ -51,6 +61,7 @@ bool ComponentObject::partNumber(const std::string& value) {
 
 bool ComponentObject::description(const std::string& value) {
     if (closed<"description">(*this)) return {};
+    model_->edits.history.remember([this, old = data_.description] { data_.description = old; });
     data_.description = value;
     ++model_->edits.all;
     return true;
@@ -100,6 +111,7 @@ bool ComponentObject::material(const core::Ptr<core::Material>& value) {
         return fail(core::BadApiCallError, "a material is needed");
     }
     // A material of another document comes along as one of this document's own.
+    model_->edits.history.remember([this, old = material_] { material_ = old; });
     const bool ours = model_->materials.holds(*material);
     material_ =
         ours ? core::Ptr<MaterialObject>(material) : model_->materials.like(material->state());
@@ -115,7 +127,7 @@ bool ComponentObject::transformOccurrences(
     if (!isRoot()) {
         return fail(core::BadApiCallError, "only the root component places occurrences");
     }
-    if (!placeOccurrences(*this, occurrences, transforms)) {
+    if (!placeOccurrences(*this, occurrences, transforms, model_->edits.history)) {
         return false;
     }
     ++model_->edits.all;

@@ -70,6 +70,12 @@ public:
     /// Takes a name that is free; what follows it goes along.
     void rename(const std::string& name);
 
+    /// Gives the root component back what it was called before its document was renamed.
+    void restoreName(const std::string& name, const std::string& partNumber) {
+        data_.name = name;
+        data_.partNumber = partNumber;
+    }
+
     void setDesign(DesignObject& design) { design_ = &design; }
     void dispose();
 

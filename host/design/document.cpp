@@ -111,8 +111,13 @@ bool FusionDocumentObject::name(const std::string& value) {
         return fail(core::OperationFailed,
                     "Document::name: a saved document is called like its file");
     }
+    ComponentObject& root = model_->component(0);
+    model_->edits.history.remember([this, &root, old = name_, number = root.state().partNumber] {
+        name_ = old;
+        root.restoreName(old, number);
+    });
     name_ = value;
-    model_->component(0).rename(value);
+    root.rename(value);
     return true;
 }
 
@@ -223,6 +228,32 @@ std::vector<Unmeasured> unmeasuredIn(const core::Ptr<core::Document>& document) 
 std::uint64_t editCount(const core::Ptr<core::Document>& document) {
     const Model* model = modelOf(document);
     return model != nullptr ? model->edits.all : 0;
+}
+
+History::Record beginRecord(const core::Ptr<core::Document>& document) {
+    Model* model = modelOf(document);
+    return model != nullptr ? model->edits.history.begin() : 0;
+}
+
+void endRecord(const core::Ptr<core::Document>& document, History::Record record) {
+    if (Model* model = modelOf(document)) {
+        model->edits.history.end(record);
+    }
+}
+
+void takeBack(const core::Ptr<core::Document>& document, History::Record record) {
+    if (Model* model = modelOf(document)) {
+        model->edits.history.takeBack(record);
+        ++model->edits.all;
+        ++model->edits.materials;
+        ++model->edits.placements;
+    }
+}
+
+void keepRecord(const core::Ptr<core::Document>& document, History::Record record) {
+    if (Model* model = modelOf(document)) {
+        model->edits.history.keep(record);
+    }
 }
 
 void endDocument(const core::Ptr<core::Document>& document) {

@@ -2,6 +2,7 @@
 
 #include "host/base/api_names.h"
 #include "host/design/design_data.h"
+#include "host/design/history.h"
 #include "host/design/unmeasured.h"
 
 #include <Core/Application.h>
@@ -55,6 +56,15 @@ std::vector<Unmeasured> unmeasuredIn(const core::Ptr<core::Document>& document);
 
 /// How often the design was changed since it was opened.
 std::uint64_t editCount(const core::Ptr<core::Document>& document);
+
+/// @name Taking back what was done to a document, as in `History`
+/// Nothing happens for null and after the end.
+/// @{
+History::Record beginRecord(const core::Ptr<core::Document>& document);
+void endRecord(const core::Ptr<core::Document>& document, History::Record record);
+void takeBack(const core::Ptr<core::Document>& document, History::Record record);
+void keepRecord(const core::Ptr<core::Document>& document, History::Record record);
+/// @}
 
 /// Closes a document and those it refers to. Everything handed out of it becomes invalid.
 void endDocument(const core::Ptr<core::Document>& document);

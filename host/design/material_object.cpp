@@ -6,6 +6,7 @@ namespace host {
 
 bool MaterialObject::name(const std::string& value) {
     if (closed<"name">(*this)) return {};
+    edits_->history.remember([this, old = data_] { data_ = old; });
     data_.name = value;
     data_.nameAssumed = false;
     ++edits_->all;

@@ -22,6 +22,7 @@ Model::Model(DesignData data) : emptyList_(make<OccurrenceListObject>(nullptr, n
 }
 
 Model::~Model() {
+    edits.history.clear();
     for (const auto& each : components_) {
         each->dispose();
     }

@@ -91,6 +91,8 @@ bool OccurrenceObject::isGrounded() const {
 
 bool OccurrenceObject::isGrounded(bool value) {
     if (closed<"isGrounded">(*this)) return {};
+    component_->model().edits.history.remember(
+        [place = place_, old = place_->grounded] { place->grounded = old; });
     place_->grounded = value;
     ++component_->model().edits.all;
     return true;

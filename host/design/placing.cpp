@@ -3,6 +3,7 @@
 #include "host/base/last_error.h"
 #include "host/design/component_object.h"
 #include "host/design/geometry_objects.h"
+#include "host/design/history.h"
 #include "host/design/transform.h"
 
 #include <Core/Enums.h>
@@ -48,7 +49,7 @@ bool apply(const Move& move) {
 
 bool placeOccurrences(const ComponentObject& top,
                       const std::vector<core::Ptr<fusion::Occurrence>>& occurrences,
-                      const std::vector<core::Ptr<core::Matrix3D>>& transforms) {
+                      const std::vector<core::Ptr<core::Matrix3D>>& transforms, History& history) {
     if (occurrences.size() != transforms.size()) {
         return fail(core::BadApiCallError, "each occurrence needs one transform");
     }
@@ -69,6 +70,11 @@ bool placeOccurrences(const ComponentObject& top,
         }
         return fail(core::InvalidGeometryError, "an assembly above it is flattened");
     }
+    history.remember([moves] {
+        for (const Move& move : moves) {
+            if (move.occurrence->isValid()) move.occurrence->localPlacement() = move.before;
+        }
+    });
     return true;
 }
 

@@ -6,12 +6,14 @@ bool SketchCurveState::setReference(bool value) {
     if (value && !data_.reference) {
         return fail(core::BadApiCallError, "a drawn curve cannot be made a projected one");
     }
+    edits_->history.remember([this, old = data_] { data_ = old; });
     data_.reference = value;
     ++edits_->all;
     return true;
 }
 
 bool SketchCurveState::setConstruction(bool value) {
+    edits_->history.remember([this, old = data_] { data_ = old; });
     data_.construction = value;
     ++edits_->all;
     return true;

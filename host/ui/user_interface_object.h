@@ -20,11 +20,13 @@
 
 namespace host::ui {
 
-/// How the host keeps and restores states of the model, for previews and failed executions. Both
-/// are empty in a host that cannot.
+/// How the host takes back what was done to the model, for previews and failed executions.
 struct ModelHistory {
-    std::function<void()> mark;      ///< keeps the state as it is
-    std::function<void()> takeBack;  ///< restores the state that was marked last
+    /// Notes the changes from now on, in a record of the returned number.
+    std::function<std::uint64_t()> begin;
+    std::function<void(std::uint64_t)> end;       ///< notes no more of them in that record
+    std::function<void(std::uint64_t)> takeBack;  ///< undoes them
+    std::function<void(std::uint64_t)> keep;      ///< lets them stay
 };
 
 /// What the user interface consists of.

@@ -187,9 +187,7 @@ bool CommandRunner::execute() {
     const core::Ptr<CommandObject> command = active_;
     inputs_.takeBackPreview();
     const std::uint64_t edits = ui_->editsOfModel();
-    if (ui_->history.mark) {
-        ui_->history.mark();
-    }
+    const std::uint64_t record = ui_->history.begin();
     const auto arguments = make<CommandEventArgsObject>(command->executeEvent, command);
     {
         const ScopedIncrement notifying(notifying_);
@@ -197,12 +195,11 @@ bool CommandRunner::execute() {
         command->executeEvent->fire(arguments);
         executing_.pop_back();
     }
+    ui_->history.end(record);
     if (arguments->state().failed) {
-        if (ui_->history.takeBack) {
-            ui_->history.takeBack();
-        } else {
-            notImplemented("CommandEventArgs::executeFailed: taking back what was done");
-        }
+        ui_->history.takeBack(record);
+    } else {
+        ui_->history.keep(record);
     }
     if (ui_->editsOfModel() != edits) {
         ui_->state().selections->list.clear();

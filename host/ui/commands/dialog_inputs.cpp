@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -119,28 +121,27 @@ void DialogInputs::preview() {
     const core::Ptr<CommandObject>& command = runner_.active();
     if (!command->previewEvent->hasHandlers() || !whyInvalid().empty()) return;
     const ModelHistory& history = runner_.ui().history;
-    if (!history.mark) {
-        misuse("Command::executePreview", "this host cannot undo previews");
-        return;
-    }
-    history.mark();
-    previewed_ = true;
     const auto arguments = make<CommandEventArgsObject>(command->previewEvent, command);
-    const ScopedIncrement notifying = runner_.enterCommandEvent();
-    command->previewEvent->fire(arguments);
+    const std::uint64_t record = history.begin();
+    previewed_ = record;
+    {
+        const ScopedIncrement notifying = runner_.enterCommandEvent();
+        command->previewEvent->fire(arguments);
+    }
+    history.end(record);
     previewAccepts_ = arguments->state().validResult;
 }
 
 void DialogInputs::takeBackPreview() {
-    if (std::exchange(previewed_, false)) {
-        runner_.ui().history.takeBack();
+    if (const auto record = std::exchange(previewed_, std::nullopt)) {
+        runner_.ui().history.takeBack(*record);
     }
     previewAccepts_ = false;
 }
 
 bool DialogInputs::acceptPreview() {
-    if (previewAccepts_) {
-        previewed_ = false;
+    if (previewAccepts_ && previewed_) {
+        runner_.ui().history.keep(*std::exchange(previewed_, std::nullopt));
     }
     return previewAccepts_;
 }

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 
 namespace host::ui {
@@ -62,7 +63,7 @@ private:
     std::uint32_t firstNewSerial_ = 0;  ///< of the inputs that the running handlers made
     bool inChangeEvent_ = false;
     bool valid_ = true;
-    bool previewed_ = false;       ///< what the last preview did has not been taken back
+    std::optional<std::uint64_t> previewed_;  ///< the record of a preview that was not taken back
     bool previewAccepts_ = false;  ///< the last preview can take the place of the execution
 };
 

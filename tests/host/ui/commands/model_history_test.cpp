@@ -1,0 +1,188 @@
+#include "tests/host/ui/host_test.h"
+
+#include "host/base/gate.h"
+#include "host/design/document.h"
+#include "host/design/geometry_objects.h"
+
+#include <Fusion/FusionAll.h>
+
+namespace host {
+namespace {
+
+using namespace adsk::core;
+using namespace adsk::fusion;
+
+/// Commands that change the design, and a host that takes changes back.
+class ModelHistory : public HostWithDesign {
+protected:
+    ModelHistory() : HostWithDesign("Frame  attribute=G/a/1\n  Bolt  material=Steel:0.00785\nNut") {
+        root = designOf(document)->rootComponent();
+        frame = root->occurrences()->item(0);
+        bolt = frame->childOccurrences()->item(0)->component();
+    }
+
+    /// All that a handler may change, each once.
+    void changeAll() {
+        bolt->name("Screw");
+        bolt->partNumber("M8");
+        bolt->description("changed");
+        bolt->material()->name("Zinc");
+        bolt->attributes()->add("G", "b", "2");
+        const Ptr<Attributes> attributes = frame->component()->attributes();
+        attributes->itemByName("G", "a")->value("3");
+        attributes->itemByName("G", "a")->deleteMe();
+        attributes->add("G", "c", "4");
+        frame->isGrounded(true);
+        root->transformOccurrences({frame}, {moved()}, false);
+        document->name("Renamed");
+    }
+
+    static Ptr<Matrix3D> moved() {
+        return makeMatrix({{1, 0, 0, 5, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}});
+    }
+
+    /// The design as a string, every value of it that `changeAll` changes.
+    [[nodiscard]] std::string text() const {
+        const DesignData data = snapshot(document);
+        std::string text = data.name;
+        for (const ComponentData& each : data.components) {
+            text += "|" + each.name + "," + each.partNumber + "," + each.description + "," +
+                    (each.material ? each.material->name : "");
+            for (const AttributeData& attribute : each.attributes) {
+                text += " " + attribute.group + "/" + attribute.name + "=" + attribute.value;
+            }
+            for (const OccurrenceData& child : each.children) {
+                text += child.grounded ? " grounded" : "";
+                text += " " + std::to_string(static_cast<int>(child.transform.cells[3]));
+            }
+        }
+        return text;
+    }
+
+    /// A dialog with a box, whose preview and execution change the description of the bolt.
+    void openDialogThatDescribes(bool previewIsValid) {
+        open([this, previewIsValid](const Ptr<Command>& command) {
+            command->commandInputs()->addBoolValueInput("box", "Box", true);
+            on<OnCommand>(command->executePreview(), [this, previewIsValid](const auto& args) {
+                note("sees:" + bolt->description());
+                bolt->description("preview");
+                args->isValidResult(previewIsValid);
+            });
+            on<OnCommand>(command->execute(), [this](const auto&) {
+                note("executes:" + bolt->description());
+                bolt->description("executed");
+            });
+        });
+    }
+
+    Ptr<Component> root;
+    Ptr<Occurrence> frame;
+    Ptr<Component> bolt;
+};
+
+// CommandEventArgs_executeFailed: true aborts the command, and what it changed is undone.
+TEST_F(ModelHistory, AFailedExecutionChangesNothing) {
+    const std::string before = text();
+    std::string inside;
+    define("Fails", [&](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [&](const auto& args) {
+            changeAll();
+            inside = text();
+            args->executeFailed(true);
+        });
+    });
+
+    pressCommand("Fails");
+
+    // All are of the same steel, so all are of zinc then.
+    EXPECT_EQ(inside,
+              "Renamed|Renamed,Renamed,,Zinc grounded 5 0|Frame,Frame,,Zinc G/c=4 0|"
+              "Screw,M8,changed,Zinc G/b=2|Nut,Nut,,Zinc");
+    EXPECT_EQ(text(), before);
+    EXPECT_FALSE(bolt->attributes()->itemByName("G", "b"));
+}
+
+TEST_F(ModelHistory, WhatAnExecutionDidStaysWhenItSucceeds) {
+    define("Works", [&](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [&](const auto&) { bolt->description("kept"); });
+    });
+    define("Fails", [&](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [&](const auto& args) {
+            bolt->name("Screw");
+            args->executeFailed(true);
+        });
+    });
+
+    pressCommand("Works");
+    pressCommand("Fails");
+
+    EXPECT_EQ(bolt->description(), "kept");
+    EXPECT_EQ(bolt->name(), "Bolt");
+    EXPECT_TRUE(bolt->name("Screw"));
+    EXPECT_EQ(bolt->name(), "Screw");
+}
+
+// Commands_UM: executePreview after each change of a valid dialog; it is taken back before the next
+// one and before execute.
+TEST_F(ModelHistory, APreviewIsTakenBackBeforeTheNextAndBeforeExecute) {
+    openDialogThatDescribes(/*previewIsValid=*/false);
+    EXPECT_EQ(bolt->description(), "preview");
+
+    click(openDialog()->commandInputs()->itemById("box"));
+    EXPECT_EQ(bolt->description(), "preview");
+    pressOk();
+
+    EXPECT_EQ(noted(), "sees: sees: executes:");
+    EXPECT_EQ(bolt->description(), "executed");
+}
+
+TEST_F(ModelHistory, CancelTakesBackThePreview) {
+    openDialogThatDescribes(/*previewIsValid=*/false);
+
+    pressCancel();
+
+    EXPECT_EQ(bolt->description(), "");
+}
+
+// CommandEventArgs_isValidResult: the preview takes the place of the execution.
+TEST_F(ModelHistory, AValidPreviewStaysAndNothingIsExecuted) {
+    openDialogThatDescribes(/*previewIsValid=*/true);
+
+    pressOk();
+
+    EXPECT_EQ(noted(), "sees:");
+    EXPECT_EQ(bolt->description(), "preview");
+}
+
+TEST_F(ModelHistory, APreviewIsShownOnlyWhileTheInputsAreValid) {
+    open([this](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnValidate>(command->validateInputs(), [](const Ptr<ValidateInputsEventArgs>& args) {
+            const Ptr<BoolValueCommandInput> box = args->inputs()->itemById("box");
+            args->areInputsValid(box->value());
+        });
+        on<OnCommand>(command->executePreview(), [this](const auto&) { note("preview"); });
+    });
+    EXPECT_EQ(noted(), "");
+
+    click(openDialog()->commandInputs()->itemById("box"));
+
+    EXPECT_EQ(noted(), "preview");
+}
+
+TEST_F(ModelHistory, ADocumentThatIsClosedMeanwhileIsNotTakenBack) {
+    define("Closes", [&](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [&](const auto& args) {
+            bolt->description("changed");
+            endDocument(document);
+            args->executeFailed(true);
+        });
+    });
+
+    pressCommand("Closes");
+
+    EXPECT_FALSE(bolt->isValid());
+}
+
+}  // namespace
+}  // namespace host
