@@ -1,6 +1,7 @@
 #include "host/import/cached_reading.h"
 
 #include "host/import/content_hash.h"
+#include "host/import/reader_libraries.h"
 #include "host/import/reader_process.h"
 
 #include <nlohmann/json.hpp>
@@ -57,7 +58,7 @@ std::string CachedReading::keyOf(const std::vector<fs::path>& files) const {
     if (cache_.folder.empty()) {
         return {};
     }
-    std::string text = sha256OfFile(program_) + "\n";
+    std::string text = sha256OfFile(program_) + "\n" + stampsOf(readerLibraries());
     for (const fs::path& file : files) {
         text += file.filename().string() + "\n" + sha256OfFile(file) + "\n";
     }

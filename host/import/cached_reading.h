@@ -12,10 +12,10 @@ namespace host {
 
 /// One reading of a STEP file through a cache.
 ///
-/// An entry's key stands for all that the reader's responses depend on: its program, its arguments,
-/// and the content of every file it reads. Which files a design refers to is known only once it is
-/// read, so one of several files has two entries: the first says that there are others, whereupon
-/// the tree is read to find them; the second is the reading.
+/// An entry's key stands for all that the reader's responses depend on: its program, the libraries
+/// that it runs with, its arguments, and the content of every file it reads. Which files a design
+/// refers to is known only once it is read, so one of several files has two entries: the first says
+/// that there are others, whereupon the tree is read to find them; the second is the reading.
 class CachedReading {
 public:
     /// `arguments` are those of the reader; the first is the file.

@@ -4,6 +4,8 @@
 #include "host/design/design_file.h"
 #include "host/import/step_source.h"
 
+#include <nlohmann/json.hpp>
+
 #include <fstream>
 #include <string>
 
@@ -29,6 +31,17 @@ bool looksLikeDesignFile(const ReadableFile& readable) {
     const std::size_t from = start.rfind(mark, 0) == 0 ? mark.size() : 0;
     const std::size_t first = start.find_first_not_of(" \t\r\n", from);
     return first != std::string::npos && start[first] == '{';
+}
+
+bool holdsDesignFile(const std::filesystem::path& file) {
+    using nlohmann::json;
+    std::ifstream stream(file, std::ios::binary);
+    const auto isNearTop = [](int depth, json::parse_event_t /*event*/, json& /*value*/) {
+        return depth <= 1;
+    };
+    const json read = json::parse(stream, isNearTop, /*allow_exceptions=*/false);
+    const auto format = read.find("format");
+    return format != read.end() && *format == kDesignFileFormat;
 }
 
 DesignData readDesignFrom(const ReadableFile& readable, const ReadingLimits& limits,

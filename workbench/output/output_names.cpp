@@ -5,10 +5,8 @@
 #include "workbench/cli/nearest_word.h"
 
 #include "host/base/utf8_path.h"
-#include "host/design/design_file.h"
+#include "host/import/design_source.h"
 #include "host/import/file_check.h"
-
-#include <nlohmann/json.hpp>
 
 #include <cstddef>
 #include <exception>
@@ -84,24 +82,13 @@ bool isStepOrIges(const fs::path& file) {
            line.find("ISO-10303-21") != std::string::npos;
 }
 
-/// JSON lists have another format.
-bool holdsDesignFile(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    const auto isNearTop = [](int depth, nlohmann::json::parse_event_t /*event*/,
-                              nlohmann::json& /*value*/) { return depth <= 1; };
-    const nlohmann::json json =
-        nlohmann::json::parse(stream, isNearTop, /*allow_exceptions=*/false);
-    const auto format = json.find("format");
-    return format != json.end() && *format == host::kDesignFileFormat;
-}
-
 }  // namespace
 
 void refuseToReplaceDesign(const std::string& name) {
     std::error_code ignored;
     const fs::path file = host::fromUtf8(name);
     if (fs::is_regular_file(file, ignored) &&
-        (isPackedDesign(file) || isStepOrIges(file) || holdsDesignFile(file))) {
+        (isPackedDesign(file) || isStepOrIges(file) || host::holdsDesignFile(file))) {
         refuse("--output " + name + ": is a design; the output needs a file of its own");
     }
 }

@@ -2,6 +2,7 @@
 
 #include "host/import/reader/long_string.h"
 #include "host/import/reader/needed_entities.h"
+#include "host/import/reader/work_library.h"
 
 #include <Interface_Check.hxx>
 #include <Message.hxx>
@@ -152,6 +153,7 @@ StepFile::StepFile(const std::filesystem::path& file) : path(file) {
     // The two have nothing in common but the bytes.
     std::future<Part21Texts> bytes =
         std::async(std::launch::async, [&file] { return Part21Texts(contentOf(file)); });
+    completeModels(reader);
     const IFSelect_ReturnStatus status = reader.ReadFile(path.c_str());
     texts = bytes.get();
     const std::vector<std::string>& syntax = listening.listener->syntax;

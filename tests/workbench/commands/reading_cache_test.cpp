@@ -1,3 +1,4 @@
+#include "host/import/reader_libraries.h"
 #include "samples/samples.h"
 #include "tests/host/import/drafts.h"
 #include "tests/support/real_files.h"
@@ -120,6 +121,25 @@ TEST_F(ReadingCacheInRuns, ACopyInAnotherPlaceIsTheSameFile) {
     EXPECT_EQ(starts(), 1U);
     const std::string saved = folder.read("copy.design.json");
     EXPECT_NE(saved.find(path("elsewhere/slider.step")), std::string::npos) << saved;
+}
+
+TEST_F(ReadingCacheInRuns, AnUpdateOfTheLibrariesThatTheReaderLoadsIsNoticed) {
+    const std::string file = slider();
+    const ProgramResult first = run({"bom", file});
+    expectEqual(run({"bom", file}), first);
+    ASSERT_EQ(starts(), 1U);
+    const fs::path library = host::readerLibraries().at(0);
+    // The folder comes first where the loader looks.
+    const fs::path other = folder.path() / "reader" / library.filename();
+    fs::copy_file(library, other);
+
+    expectEqual(run({"bom", file}), first);
+    expectEqual(run({"bom", file}), first);
+    EXPECT_EQ(starts(), 2U);
+
+    fs::last_write_time(other, fs::file_time_type::clock::now() - std::chrono::hours(1));
+    expectEqual(run({"bom", file}), first);
+    EXPECT_EQ(starts(), 3U);
 }
 
 TEST_F(ReadingCacheInRuns, ALimitThatWouldBeExceededStillIs) {
