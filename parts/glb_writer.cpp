@@ -26,6 +26,28 @@ constexpr double kMetresPerMillimetre = 0.001;
 
 using Colour = std::optional<host::Rgba>;
 
+/// What an instance says of the colours of all in it.
+struct InstancePaint {
+    Colour ofAll;
+    std::map<std::size_t, host::Rgba> ofBodies;  ///< by the numbers of groups in meshes
+
+    /// What an outer instance says counts more.
+    void overrideBy(const InstancePaint& outer) {
+        if (outer.ofAll) {
+            *this = outer;
+            return;
+        }
+        for (const auto& [body, colour] : outer.ofBodies) {
+            ofBodies[body] = colour;
+        }
+    }
+
+    [[nodiscard]] Colour of(const host::MeshGroup& group) const {
+        const auto found = group.body ? ofBodies.find(*group.body) : ofBodies.end();
+        return found == ofBodies.end() ? ofAll : Colour(found->second);
+    }
+};
+
 /// The colours of instances, by the last step that leads to them.
 class InstanceColours {
 public:
@@ -37,19 +59,28 @@ public:
         }
     }
 
-    /// Of an instance: the one that is said of the longest part of its way.
-    [[nodiscard]] Colour of(const std::vector<host::InstanceStep>& steps) const {
+    /// Of an instance: those that are said of the longest part of its way.
+    [[nodiscard]] InstancePaint of(const std::vector<host::InstanceStep>& steps) const {
+        InstancePaint paint;
         const auto found = byLast_.find({steps.back().component, steps.back().child});
-        const host::InstanceColour* best = nullptr;
-        for (const host::InstanceColour* const each :
-             found == byLast_.end() ? std::vector<const host::InstanceColour*>() : found->second) {
-            const bool isLonger = best == nullptr || each->path.size() > best->path.size();
-            if (isLonger && each->path.size() <= steps.size() &&
-                std::equal(each->path.rbegin(), each->path.rend(), steps.rbegin())) {
-                best = each;
+        if (found == byLast_.end()) {
+            return paint;
+        }
+        std::map<std::optional<std::size_t>, std::size_t> lengths;  // by body
+        for (const host::InstanceColour* const each : found->second) {
+            std::size_t& length = lengths[each->body];
+            if (each->path.size() <= length || each->path.size() > steps.size() ||
+                !std::equal(each->path.rbegin(), each->path.rend(), steps.rbegin())) {
+                continue;
+            }
+            length = each->path.size();
+            if (each->body) {
+                paint.ofBodies[*each->body] = each->colour;
+            } else {
+                paint.ofAll = each->colour;
             }
         }
-        return best == nullptr ? std::nullopt : Colour(best->colour);
+        return paint;
     }
 
 private:
@@ -73,7 +104,7 @@ public:
              {"rotation", {-kHalf, 0, 0, kHalf}},
              {"scale", {kMetresPerMillimetre, kMetresPerMillimetre, kMetresPerMillimetre}},
              {"extras", extrasOf(0, "")}});
-        fill({.number = 0, .component = 0, .path = "", .colour = {}});
+        fill({.number = 0, .component = 0, .path = "", .paint = {}});
     }
 
     /// Sets all members. Returns the bytes of the first buffer.
@@ -92,7 +123,7 @@ private:
         std::size_t number = 0;
         std::size_t component = 0;
         std::string path;
-        Colour colour;  ///< of all in it, where an instance has one of its own
+        InstancePaint paint;  ///< where an instance has colours of its own
     };
 
     [[nodiscard]] json extrasOf(std::size_t component, const std::string& path) const {
@@ -111,8 +142,9 @@ private:
         const bool isStated = material && !material->nameAssumed;
         std::vector<host::Rgba> colours;
         for (const host::MeshGroup& group : mesh.groups) {
-            const bool isReplaced = node.colour && !(group.colour && group.ofFaces);
-            const Colour colour = isReplaced ? node.colour : group.colour;
+            const Colour ofInstance = node.paint.of(group);
+            const bool isReplaced = ofInstance && !(group.colour && group.ofFaces);
+            const Colour colour = isReplaced ? ofInstance : group.colour;
             colours.push_back(colour ? *colour : colourOfMaterial(isStated ? material->name : ""));
         }
         return colours;
@@ -158,10 +190,12 @@ private:
         const std::size_t number = nodes_.size();
         nodes_.push_back(std::move(node));
         steps_.push_back({.component = parent.component, .child = child});
+        InstancePaint paint = colours_.of(steps_);
+        paint.overrideBy(parent.paint);
         fill({.number = number,
               .component = occurrence.component,
               .path = path,
-              .colour = parent.colour ? parent.colour : colours_.of(steps_)});
+              .paint = std::move(paint)});
         steps_.pop_back();
         return number;
     }

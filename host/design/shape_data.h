@@ -56,6 +56,7 @@ struct MeshGroup {
     std::size_t indexCount = 0;  ///< three for each triangle
     std::optional<Rgba> colour;  ///< none where the file gives none
     bool ofFaces = false;        ///< it is stated for faces, not for what these are part of
+    std::optional<std::size_t> body = {};  ///< of those that `InstanceColour::body` names
 
     bool operator==(const MeshGroup&) const = default;
 };
@@ -99,11 +100,13 @@ struct InstanceStep {
     bool operator==(const InstanceStep&) const = default;
 };
 
-/// The colour of an instance that differs from that of its part. It holds for all in the instance
-/// but for faces that have a colour of their own; outer instances win.
+/// The colour of an instance that differs from that of its part. It holds for all in the instance,
+/// or for one of several bodies, but for faces that have a colour of their own; outer instances
+/// win.
 struct InstanceColour {
     std::vector<InstanceStep> path;  ///< the last steps that lead to it, one at least
     Rgba colour;
+    std::optional<std::size_t> body = {};  ///< the body that it is for; none for all
 
     bool operator==(const InstanceColour&) const = default;
 };

@@ -56,6 +56,12 @@ std::optional<Rgba> colourFrom(const json& cells) {
         .red = cells.at(0), .green = cells.at(1), .blue = cells.at(2), .alpha = cells.at(3)};
 }
 
+/// The number of a body, where an answer names one.
+std::optional<std::size_t> bodyFrom(const json& answer) {
+    const auto found = answer.find("body");
+    return found == answer.end() ? std::nullopt : std::optional(found->get<std::size_t>());
+}
+
 bool areFinite(const std::vector<float>& values) {
     return std::all_of(values.begin(), values.end(),
                        [](float value) { return std::isfinite(value); });
@@ -95,7 +101,8 @@ ShapeMesh meshFrom(const json& answer) {
         mesh.groups.push_back({.firstIndex = first,
                                .indexCount = count,
                                .colour = colourFrom(group.at("colour")),
-                               .ofFaces = group.value("ofFaces", false)});
+                               .ofFaces = group.value("ofFaces", false),
+                               .body = bodyFrom(group)});
         first += count;
     }
     check(mesh);
@@ -129,7 +136,7 @@ public:
             try {
                 geometry->volume();
             } catch (const std::runtime_error&) {
-                // Whoever asks for it is told.
+                // It is thrown again where the volume is asked for.
             }
         }
     }
@@ -214,7 +221,9 @@ private:
     }
 
     static InstanceColour instanceFrom(const json& answer, std::size_t firstComponent) {
-        InstanceColour result = {.path = {}, .colour = colourFrom(answer.at("colour")).value()};
+        InstanceColour result = {.path = {},
+                                 .colour = colourFrom(answer.at("colour")).value(),
+                                 .body = bodyFrom(answer)};
         for (const json& step : answer.at("path")) {
             result.path.push_back({.component = step.at(0).get<std::size_t>() + firstComponent,
                                    .child = step.at(1).get<std::size_t>()});

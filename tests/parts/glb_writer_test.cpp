@@ -121,14 +121,23 @@ host::Rgba rgb(int red, int green, int blue) {
             .alpha = 255};
 }
 
-/// The colour of the first primitive that a node leads to, proportional to light.
-json colourOf(const json& model, std::size_t node) {
+/// The colours of the triangles that a node leads to, proportional to light.
+json coloursOf(const json& model, std::size_t node) {
     const json& mesh =
         model.at("meshes").at(model.at("nodes").at(node).at("mesh").get<std::size_t>());
-    const json& material =
-        model.at("materials").at(mesh.at("primitives")[0].at("material").get<std::size_t>());
-    return material.at("pbrMetallicRoughness").at("baseColorFactor");
+    json colours = json::array();
+    for (const json& primitive : mesh.at("primitives")) {
+        if (!primitive.contains("mode")) {
+            colours.push_back(model.at("materials")
+                                  .at(primitive.at("material").get<std::size_t>())
+                                  .at("pbrMetallicRoughness")
+                                  .at("baseColorFactor"));
+        }
+    }
+    return colours;
 }
+
+json colourOf(const json& model, std::size_t node) { return coloursOf(model, node).at(0); }
 
 TEST(GlbWriter, GivesAnInstanceAMeshOfItsOwnForItsColour) {
     Drawing drawing = frameWithBolts();
@@ -162,6 +171,37 @@ TEST(GlbWriter, LeavesTheColourOfAFaceInAnInstance) {
                   .at("pbrMetallicRoughness")
                   .at("baseColorFactor"),
               (json{1.0, 0.0, 0.0, 1.0}));
+}
+
+TEST(GlbWriter, ColoursOneBodyOfAnInstanceAlone) {
+    Drawing drawing = frameWithBolts();
+    host::ShapeMesh& mesh = *drawing.shapes.shapes[0].mesh;
+    mesh.groups = {{.firstIndex = 0, .indexCount = 6, .colour = rgb(0, 0, 255), .body = 0},
+                   {.firstIndex = 6, .indexCount = 30, .colour = rgb(0, 255, 0)}};
+    drawing.shapes.instanceColours = {
+        {.path = {{.component = 0, .child = 0}}, .colour = rgb(255, 0, 0), .body = 0}};
+
+    const json model = descriptionOf(glbOf(drawing));
+
+    EXPECT_EQ(coloursOf(model, 1), (json{{1.0, 0.0, 0.0, 1.0}, {0.0, 1.0, 0.0, 1.0}}));
+    EXPECT_EQ(coloursOf(model, 2), (json{{0.0, 0.0, 1.0, 1.0}, {0.0, 1.0, 0.0, 1.0}}));
+}
+
+TEST(GlbWriter, AnOuterInstanceColoursBodiesToo) {
+    Drawing drawing = frameWithBolts();
+    drawing.shapes.shapes[0].mesh->groups[0].body = 0;
+    drawing.design.components.resize(3);
+    drawing.design.components[2].name = "Rack";
+    std::swap(drawing.design.components[0], drawing.design.components[2]);
+    drawing.design.components[0].children = {drawing.design.components[2].children[0]};
+    drawing.design.components[0].children[0].component = 2;
+    drawing.shapes.ofComponent = {std::nullopt, 0, std::nullopt};
+    drawing.shapes.instanceColours = {
+        {.path = {{.component = 2, .child = 0}}, .colour = rgb(255, 0, 0), .body = 0},
+        {.path = {{.component = 0, .child = 0}}, .colour = rgb(0, 0, 255)}};
+
+    // Nodes: rack, frame, bolt.
+    EXPECT_EQ(colourOf(descriptionOf(glbOf(drawing)), 2), (json{0.0, 0.0, 1.0, 1.0}));
 }
 
 TEST(GlbWriter, ColoursTheInstanceThatAWholePathNames) {

@@ -8,6 +8,7 @@
 #include <StepVisual_StyledItem.hxx>
 #include <TopoDS_TShape.hxx>
 
+#include <cstddef>
 #include <optional>
 #include <unordered_map>
 
@@ -16,6 +17,16 @@ namespace step {
 /// The colours that a file gives to solids, shells and faces, by what these have in common wherever
 /// they are placed.
 using Colours = std::unordered_map<const TopoDS_TShape*, host::Rgba>;
+
+/// The bodies that an instance colours apart from others in its part, by what they have in common
+/// wherever they are placed, and their numbers.
+using BodyNumbers = std::unordered_map<const TopoDS_TShape*, std::size_t>;
+
+/// What decides how the faces of a shape are grouped.
+struct Paint {
+    Colours colours;
+    BodyNumbers bodies;
+};
 
 /// The colours of an assembly whose shapes are built. Those of instances are left out.
 Colours coloursOf(const Assembly& assembly);

@@ -1,7 +1,5 @@
 #include "host/import/reader/instance_colours.h"
 
-#include "host/import/reader/colours.h"
-
 #include <Interface_EntityIterator.hxx>
 #include <Interface_Graph.hxx>
 #include <StepRepr_ProductDefinitionShape.hxx>
@@ -15,6 +13,7 @@
 #include <StepVisual_ContextDependentOverRidingStyledItem.hxx>
 #include <StepVisual_PresentationStyleByContext.hxx>
 #include <StepVisual_StyleContextSelect.hxx>
+#include <TopoDS_Shape.hxx>
 #include <XSControl_WorkSession.hxx>
 
 #include <algorithm>
@@ -42,7 +41,7 @@ UseIndices indicesOf(const Assembly& assembly) {
 
 using Usages = std::unordered_map<int, const Standard_Transient*>;
 
-/// The usages of a file by the labels of all that stands for them in a context: the placement, and
+/// The usages of a file by the labels of all that refers to them in a context: the placement, and
 /// the relationship of representations that it uses.
 Usages usagesOf(const StepFile& file) {
     Usages usages;
@@ -121,7 +120,8 @@ private:
         for (int number = 1; number <= style->NbStyles(); ++number) {
             const auto context =
                 Handle(StepVisual_PresentationStyleByContext)::DownCast(style->StylesValue(number));
-            if (!context.IsNull() && !context->StyleContext().Representation().IsNull()) {
+            if (!context.IsNull() && !context->StyleContext().IsNull() &&
+                !context->StyleContext().Representation().IsNull()) {
                 return {usageOf(file_, context->StyleContext().Representation())};
             }
         }
@@ -149,7 +149,21 @@ bool isOfFace(const Style& style) {
     return !style->Item().IsNull() && style->Item()->IsKind(STANDARD_TYPE(StepShape_Face));
 }
 
-void addColours(const StepFile& file, PathFinder finder, std::vector<InstanceColour>& colours) {
+/// The number of the body that a style is for; none where it is for a whole instance, as the body
+/// of a part that has no other.
+std::optional<std::size_t> bodyOf(const Assembly& assembly, const StepFile& file,
+                                  const Style& style, const UseIndex& use, BodyNumbers& bodies) {
+    const Use& last = assembly.components[use.component].uses[use.use];
+    const TopoDS_Shape shape = file.shapeOf(style->Item());
+    if (assembly.components[last.component].bodyCount < 2 || shape.IsNull() ||
+        shape.ShapeType() == TopAbs_COMPOUND) {
+        return std::nullopt;
+    }
+    return bodies.try_emplace(shape.TShape().get(), bodies.size()).first->second;
+}
+
+void addColours(const Assembly& assembly, const StepFile& file, PathFinder finder,
+                InstanceColours& found) {
     const STEPConstruct_Styles styles(file.reader.WS());
     for (int number = 1; number <= file.model->NbEntities(); ++number) {
         const Style style = Style::DownCast(file.model->Value(number));
@@ -159,20 +173,22 @@ void addColours(const StepFile& file, PathFinder finder, std::vector<InstanceCol
         std::vector<UseIndex> path = finder.pathOf(style);
         const std::optional<host::Rgba> colour = surfaceColourOf(styles, style);
         if (!path.empty() && colour) {
-            colours.push_back({.path = std::move(path), .colour = *colour});
+            const std::optional<std::size_t> body =
+                bodyOf(assembly, file, style, path.back(), found.bodies);
+            found.colours.push_back({.path = std::move(path), .colour = *colour, .body = body});
         }
     }
 }
 
 }  // namespace
 
-std::vector<InstanceColour> instanceColoursOf(const Assembly& assembly) {
+InstanceColours instanceColoursOf(const Assembly& assembly) {
     const UseIndices indices = indicesOf(assembly);
-    std::vector<InstanceColour> colours;
+    InstanceColours found;
     for (const auto& file : assembly.files) {
-        addColours(*file, PathFinder(assembly, indices, *file), colours);
+        addColours(assembly, *file, PathFinder(assembly, indices, *file), found);
     }
-    return colours;
+    return found;
 }
 
 }  // namespace step

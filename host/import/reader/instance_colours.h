@@ -1,10 +1,12 @@
 #pragma once
 
 #include "host/import/reader/assembly.h"
+#include "host/import/reader/colours.h"
 
 #include "host/design/shape_data.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace step {
@@ -21,10 +23,16 @@ struct InstanceColour {
     /// in the tree.
     std::vector<UseIndex> path;
     host::Rgba colour;
+    std::optional<std::size_t> body;  ///< one of `InstanceColours::bodies`; none for all of it
 };
 
-/// The colours of instances, from styles that override in the context of usages. Those of single
-/// faces of an instance are left out.
-std::vector<InstanceColour> instanceColoursOf(const Assembly& assembly);
+struct InstanceColours {
+    std::vector<InstanceColour> colours;
+    BodyNumbers bodies;  ///< of parts that have several
+};
+
+/// The colours of instances of an assembly whose shapes are built, from styles that override in the
+/// context of usages. Those of single faces of an instance are left out.
+InstanceColours instanceColoursOf(const Assembly& assembly);
 
 }  // namespace step

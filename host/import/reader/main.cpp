@@ -2,6 +2,7 @@
 #include "host/import/reader/colours.h"
 #include "host/import/reader/declared_bodies.h"
 #include "host/import/reader/iges.h"
+#include "host/import/reader/instance_colours.h"
 #include "host/import/reader/parallel_results.h"
 #include "host/import/reader/process_limits.h"
 #include "host/import/reader/protocol.h"
@@ -57,7 +58,7 @@ void runIges(const std::string& file) {
     }
     step::sendLine({{"design", design}});
     step::answerRequests(std::cin, shapes,
-                         {.colours = [] { return step::Colours(); },
+                         {.paint = [] { return step::Paint(); },
                           .instances = [] { return nlohmann::json::object(); },
                           .curves = curves});
 }
@@ -91,7 +92,12 @@ void run(const Task& task) {
     }
     step::sendLine({{"design", step::designOf(assembly)}});
     step::answerRequests(std::cin, shapes,
-                         {.colours = [&assembly] { return step::coloursOf(assembly); },
+                         {.paint =
+                              [&assembly] {
+                                  return step::Paint{
+                                      .colours = step::coloursOf(assembly),
+                                      .bodies = step::instanceColoursOf(assembly).bodies};
+                              },
                           .instances = [&assembly] { return step::instancesOf(assembly); },
                           .curves = assembly.curves});
 }

@@ -19,6 +19,7 @@
 #include <map>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace step {
@@ -27,6 +28,7 @@ namespace {
 struct Colour {
     std::optional<host::Rgba> value;
     bool ofFaces = false;
+    std::optional<std::size_t> body;
 };
 
 void append(std::vector<float>& values, const gp_XYZ& point) {
@@ -56,36 +58,45 @@ public:
             mesh.groups.push_back({.firstIndex = mesh.indices.size(),
                                    .indexCount = indices_[number].size(),
                                    .colour = colours_[number].value,
-                                   .ofFaces = colours_[number].ofFaces});
+                                   .ofFaces = colours_[number].ofFaces,
+                                   .body = colours_[number].body});
             mesh.indices.insert(mesh.indices.end(), indices_[number].begin(),
                                 indices_[number].end());
         }
     }
 
 private:
-    static std::int64_t keyOf(const Colour& colour) {
-        if (!colour.value) {
-            return -1;
-        }
+    using Key = std::pair<std::int64_t, std::optional<std::size_t>>;
+
+    static Key keyOf(const Colour& colour) {
+        return {colour.value ? numberOf(colour) : -1, colour.body};
+    }
+
+    static std::int64_t numberOf(const Colour& colour) {
         return (std::int64_t{colour.ofFaces ? 1 : 0} << 32U) +
                (std::int64_t{colour.value->red} << 24U) +
                (std::int64_t{colour.value->green} << 16U) +
                (std::int64_t{colour.value->blue} << 8U) + colour.value->alpha;
     }
 
-    std::map<std::int64_t, std::size_t> numbers_;
+    std::map<Key, std::size_t> numbers_;
     std::vector<Colour> colours_;
     std::vector<std::vector<std::uint32_t>> indices_;
 };
 
 class MeshBuilder {
 public:
-    explicit MeshBuilder(const Colours& colours) : colours_(colours) {}
+    explicit MeshBuilder(const Paint& paint) : paint_(paint) {}
 
     /// The nearest colour above a face is its own.
     void addFaces(const TopoDS_Shape& original, const TopoDS_Shape& meshed, Colour colour) {
-        if (const auto found = colours_.find(original.TShape().get()); found != colours_.end()) {
-            colour = {.value = found->second, .ofFaces = original.ShapeType() == TopAbs_FACE};
+        const TopoDS_TShape* const part = original.TShape().get();
+        if (const auto found = paint_.colours.find(part); found != paint_.colours.end()) {
+            colour.value = found->second;
+            colour.ofFaces = original.ShapeType() == TopAbs_FACE;
+        }
+        if (const auto found = paint_.bodies.find(part); found != paint_.bodies.end()) {
+            colour.body = found->second;
         }
         if (meshed.ShapeType() == TopAbs_FACE) {
             addFace(TopoDS::Face(meshed), colour);
@@ -223,7 +234,7 @@ private:
         return true;
     }
 
-    const Colours& colours_;
+    const Paint& paint_;
     host::ShapeMesh mesh_;
     TriangleGroups groups_;
     std::size_t facesWithout_ = 0;
@@ -232,9 +243,8 @@ private:
 
 }  // namespace
 
-BuiltMesh meshFrom(const TopoDS_Shape& original, const TopoDS_Shape& meshed,
-                   const Colours& colours) {
-    MeshBuilder builder(colours);
+BuiltMesh meshFrom(const TopoDS_Shape& original, const TopoDS_Shape& meshed, const Paint& paint) {
+    MeshBuilder builder(paint);
     builder.addFaces(original, meshed, {});
     builder.addEdges(meshed);
     return builder.result();

@@ -16,9 +16,8 @@ struct BuiltMesh {
 };
 
 /// Collects the triangles that the faces of a shape have, and its feature edges: those where it
-/// bends or ends. `original` is the shape of which `meshed` is a copy; its parts have the colours.
+/// bends or ends. `original` is the shape of which `meshed` is a copy; the paint is of its parts.
 /// Throws a `std::runtime_error` where a point is nowhere.
-BuiltMesh meshFrom(const TopoDS_Shape& original, const TopoDS_Shape& meshed,
-                   const Colours& colours);
+BuiltMesh meshFrom(const TopoDS_Shape& original, const TopoDS_Shape& meshed, const Paint& paint);
 
 }  // namespace step

@@ -172,11 +172,11 @@ private:
             limits_ = limits;
             tessellations_.reset();  // with its threads
             // Where it fails, meshes are without colours.
-            const bool isByLimit = failureIn([this] { colours_ = drawing_.colours(); }).isByLimit;
+            const bool isByLimit = failureIn([this] { paint_ = drawing_.paint(); }).isByLimit;
             tessellations_.emplace(static_cast<std::size_t>(shapes_.Extent()),
                                    [this, limits, isByLimit](std::size_t number) {
                                        Tessellation result = tessellate(
-                                           shapes_(static_cast<int>(number) + 1), colours_, limits);
+                                           shapes_(static_cast<int>(number) + 1), paint_, limits);
                                        result.isByLimit = result.isByLimit || isByLimit;
                                        return result;
                                    });
@@ -200,7 +200,7 @@ private:
 
     const TopTools_IndexedMapOfShape& shapes_;
     const DrawingSource& drawing_;
-    Colours colours_;
+    Paint paint_;
     TessellationLimits limits_;
     Measurements measurements_;
     AllMarks marks_;
@@ -250,7 +250,7 @@ json designOf(const Assembly& assembly) {
 json instancesOf(const Assembly& assembly) {
     const TreeOrder order(assembly);
     json instances = json::array();
-    for (const InstanceColour& each : instanceColoursOf(assembly)) {
+    for (const InstanceColour& each : instanceColoursOf(assembly).colours) {
         json path = json::array();
         for (const UseIndex& use : each.path) {
             if (const auto found = order.index.find(use.component); found != order.index.end()) {
@@ -260,6 +260,9 @@ json instancesOf(const Assembly& assembly) {
         // What no root leads to is not in the design.
         if (path.size() == each.path.size()) {
             instances.push_back({{"path", path}, {"colour", jsonOf(each.colour)}});
+            if (each.body) {
+                instances.back()["body"] = *each.body;
+            }
         }
     }
     return {{"components", order.components.size()}, {"instances", instances}};

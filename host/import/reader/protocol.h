@@ -31,9 +31,9 @@
 ///     curves CURVES DEFLECTION ANGLE TRIANGLES SECONDS
 ///                                    the same of curves
 ///     instances                      {"components": number of all components, "instances":
-///                                    [{"path": [[component, use], ...], "colour": [r, g, b, a]},
-///                                    ...]}: instances with a colour of their own, see
-///                                    host::InstanceColour
+///                                    [{"path": [[component, use], ...], "colour": [r, g, b, a],
+///                                    "body": number}, ...]}: instances with a colour of their own,
+///                                    see host::InstanceColour; "body" where it is not for all
 ///
 /// A component of the design has the number of its shape, or -1 where it has none, and of its
 /// bodies; bodies without a shape were not built. One that has neither may have "curves", a number
@@ -46,9 +46,10 @@
 /// computed is {"error": "..."}.
 ///
 /// In a mesh, "detail" is the number of host::MeshDetail, a group is {"indexCount": number,
-/// "colour": [r, g, b, a] or null}, and points and indices are the base64 of their bytes in memory.
-/// DEFLECTION is a part of the shape's diagonal, ANGLE is in radians; meshes that are asked for in
-/// the same way one after the other are worked out on all processors.
+/// "colour": [r, g, b, a] or null, "body": number where there is one}, and points and indices are
+/// the base64 of their bytes in memory. DEFLECTION is a part of the shape's diagonal, ANGLE is in
+/// radians; meshes that are asked for in the same way one after the other are worked out on all
+/// processors.
 namespace step {
 
 /// Sends one line to the process that started the program.
@@ -62,7 +63,7 @@ nlohmann::json designOf(const Assembly& assembly);
 
 /// What is asked for when something is to be drawn.
 struct DrawingSource {
-    std::function<Colours()> colours;
+    std::function<Paint()> paint;
     std::function<nlohmann::json()> instances;  ///< the response
     const std::vector<TopoDS_Shape>& curves;
 };

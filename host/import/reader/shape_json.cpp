@@ -28,6 +28,9 @@ json jsonOf(const host::ShapeMesh& mesh) {
         groups.push_back({{"indexCount", group.indexCount},
                           {"colour", jsonOf(group.colour)},
                           {"ofFaces", group.ofFaces}});
+        if (group.body) {
+            groups.back()["body"] = *group.body;
+        }
     }
     return {{"detail", static_cast<int>(mesh.detail)},
             {"positionsMm", packed(mesh.positionsMm)},

@@ -51,7 +51,8 @@ public:
                std::chrono::duration_cast<std::chrono::steady_clock::duration>(
                    std::chrono::duration<double>(seconds))) {}
 
-    Standard_Boolean UserBreak() override { return std::chrono::steady_clock::now() > end_; }
+    [[nodiscard]] bool isOver() const { return std::chrono::steady_clock::now() > end_; }
+    Standard_Boolean UserBreak() override { return isOver(); }
 
 protected:
     void Show(const Message_ProgressScope& /*scope*/, Standard_Boolean /*force*/) override {}
@@ -59,6 +60,12 @@ protected:
 private:
     std::chrono::steady_clock::time_point end_;
 };
+
+void checkTime(const Deadline& deadline, const char* what) {
+    if (deadline.isOver()) {
+        throw TookTooLong(std::string(what) + " take too long");
+    }
+}
 
 /// Around the shape, by its surfaces; a little larger than it is.
 Bnd_Box boxAround(const TopoDS_Shape& shape) {
@@ -73,7 +80,7 @@ Bnd_Box boxAround(const TopoDS_Shape& shape) {
 
 /// Throws where the shape has no triangles, or too many.
 Tessellation meshBy(const Attempt& attempt, const TopoDS_Shape& shape, double size,
-                    const Colours& colours, const TessellationLimits& limits) {
+                    const Paint& paint, const TessellationLimits& limits) {
     // The triangles are kept in the shape, which others read meanwhile, or share parts of.
     const TopoDS_Shape copy = BRepBuilderAPI_Copy(shape, /*copyGeom=*/Standard_False).Shape();
     IMeshTools_Parameters parameters;
@@ -85,10 +92,8 @@ Tessellation meshBy(const Attempt& attempt, const TopoDS_Shape& shape, double si
     mesher.ChangeParameters() = parameters;
     const Handle(Deadline) deadline = new Deadline(limits.seconds * attempt.time);
     mesher.Perform(deadline->Start());
-    if (deadline->UserBreak()) {
-        throw TookTooLong("its triangles take too long");
-    }
-    BuiltMesh built = meshFrom(shape, copy, colours);
+    checkTime(*deadline, "its triangles");
+    BuiltMesh built = meshFrom(shape, copy, paint);
     built.mesh.detail = attempt.detail;
     if (built.mesh.indices.empty()) {
         throw std::runtime_error("its surfaces have no triangles");
@@ -110,10 +115,11 @@ float finite(double value) {
 }
 
 void addCurve(host::ShapeMesh& mesh, const BRepAdaptor_Curve& curve, double angle,
-              double deflection) {
+              double deflection, const Deadline& deadline) {
     TColStd_Array1OfReal bounds(1, curve.NbIntervals(GeomAbs_C1) + 1);
     curve.Intervals(bounds, GeomAbs_C1);
     for (int interval = 1; interval < bounds.Upper(); ++interval) {
+        checkTime(deadline, "its lines");
         // Around a corner there would be points without end.
         const GCPnts_TangentialDeflection points(curve, bounds(interval), bounds(interval + 1),
                                                  angle, deflection);
@@ -127,14 +133,15 @@ void addCurve(host::ShapeMesh& mesh, const BRepAdaptor_Curve& curve, double angl
     mesh.edgeEnds.push_back(static_cast<std::uint32_t>(mesh.edgePointsMm.size() / 3));
 }
 
-/// Throws where there would be too many lines.
+/// Throws where there would be too many lines, or where they take too long.
 host::ShapeMesh linesBy(const TopoDS_Shape& curves, double size, const TessellationLimits& limits) {
     host::ShapeMesh mesh;
     const double deflection = std::max(limits.deflection * size, Precision::Confusion());
+    const Handle(Deadline) deadline = new Deadline(limits.seconds);
     for (TopExp_Explorer edges(curves, TopAbs_EDGE); edges.More(); edges.Next()) {
         const TopoDS_Edge& edge = TopoDS::Edge(edges.Current());
         if (!BRep_Tool::Degenerated(edge)) {
-            addCurve(mesh, BRepAdaptor_Curve(edge), limits.angle, deflection);
+            addCurve(mesh, BRepAdaptor_Curve(edge), limits.angle, deflection, *deadline);
         }
         if (mesh.edgePointsMm.size() / 3 > limits.triangles) {
             throw std::runtime_error("it needs more than " + std::to_string(limits.triangles) +
@@ -156,7 +163,7 @@ host::ShapeMesh boxOf(const Bnd_Box& box) {
 
 }  // namespace
 
-Tessellation tessellate(const TopoDS_Shape& shape, const Colours& colours,
+Tessellation tessellate(const TopoDS_Shape& shape, const Paint& paint,
                         const TessellationLimits& limits) {
     Bnd_Box box;
     Failure failure = failureIn([&] { box = boxAround(shape); });
@@ -167,7 +174,7 @@ Tessellation tessellate(const TopoDS_Shape& shape, const Colours& colours,
     const double size = std::sqrt(box.SquareExtent());
     for (const Attempt& attempt : kAttempts) {
         Tessellation result;
-        failure = failureIn([&] { result = meshBy(attempt, shape, size, colours, limits); });
+        failure = failureIn([&] { result = meshBy(attempt, shape, size, paint, limits); });
         if (failure.text.empty()) {
             result.isByLimit = isByLimit;
             return result;

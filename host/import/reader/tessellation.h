@@ -31,7 +31,7 @@ struct Tessellation {
 
 /// Triangles and feature edges of a shape, which is not changed. The deflection follows its size;
 /// beyond a limit it is drawn more coarsely, else as its box.
-Tessellation tessellate(const TopoDS_Shape& shape, const Colours& colours,
+Tessellation tessellate(const TopoDS_Shape& shape, const Paint& paint,
                         const TessellationLimits& limits);
 
 /// The edges of a shape that has no faces, as lines. Beyond the limit of triangles, here of lines,

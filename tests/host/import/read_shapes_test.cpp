@@ -302,6 +302,44 @@ TEST_F(ReadShapes, KnowsTheColourOfAnInstanceByItsRepresentation) {
     EXPECT_EQ(shapes.instanceColours, expected);
 }
 
+// Two solids of one shell: what a part of several bodies is like, as far as colours go.
+TEST_F(ReadShapes, KnowsTheColourOfOneBodyOfAnInstance) {
+    std::string text = frames();
+    const std::size_t at = text.find("MANIFOLD_SOLID_BREP(");
+    const std::string copy = "#9500=" + text.substr(at, text.find(';', at) + 1 - at) + "\n";
+    drafts::damage(text, "ADVANCED_BREP_SHAPE_REPRESENTATION('Plate',(", "'Plate',(",
+                   "ADVANCED_BREP_SHAPE_REPRESENTATION('Plate',(#9500,");
+    const DesignData design =
+        designOf(drafts::withEntities(text, copy + instanceStyle("#9500", usageOf(text, 1))));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    const std::vector<host::InstanceColour> expected = {
+        {.path = {{.component = indexOf(design, "Frame"), .child = 1}},
+         .colour = kOrange,
+         .body = 0}};
+    EXPECT_EQ(shapes.instanceColours, expected);
+    // Each body has six sides of two triangles.
+    const std::vector<host::MeshGroup>& groups =
+        shapes.of(indexOf(design, "Plate"))->mesh.value().groups;
+    ASSERT_EQ(groups.size(), 2U);
+    EXPECT_EQ(groups[0].indexCount, 36U);
+    EXPECT_EQ(groups[1].indexCount, 36U);
+    EXPECT_EQ(std::ranges::count(groups, std::optional<std::size_t>(0), &host::MeshGroup::body), 1);
+}
+
+TEST_F(ReadShapes, SurvivesAStyleThatNamesNoContext) {
+    const std::string text = frames();
+    const std::string solid = drafts::labelOf(text, "MANIFOLD_SOLID_BREP");
+    const DesignData design = designOf(drafts::withEntities(text, instanceStyle(solid, "")));
+
+    const ShapeData shapes = host::readShapes(design, {.meshes = true});
+
+    EXPECT_TRUE(shapes.instanceColours.empty());
+    // The style that it overrides holds.
+    EXPECT_EQ(shapes.of(indexOf(design, "Plate"))->mesh.value().groups.at(0).colour, kOrange);
+}
+
 TEST_F(ReadShapes, IgnoresTheColourOfUsagesThatAreNoWay) {
     const std::string text = frames();
     const DesignData design = designOf(

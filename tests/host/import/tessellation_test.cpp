@@ -28,7 +28,7 @@ constexpr host::Rgba kRed = {.red = 255, .green = 0, .blue = 0, .alpha = 255};
 constexpr host::Rgba kGlass = {.red = 200, .green = 220, .blue = 255, .alpha = 128};
 
 ShapeMesh meshOf(const TopoDS_Shape& shape, const step::Colours& colours = {}) {
-    return step::tessellate(shape, colours, {}).mesh.value();
+    return step::tessellate(shape, {.colours = colours, .bodies = {}}, {}).mesh.value();
 }
 
 double coordinate(const ShapeMesh& mesh, std::size_t corner, std::size_t axis) {
@@ -181,6 +181,14 @@ TEST(CurveTessellation, DrawsABoxForWhatNeedsTooManyLines) {
 
     EXPECT_EQ(box.mesh.value().detail, MeshDetail::Box);
     EXPECT_EQ(box.problem, "it needs more than 12 lines");
+}
+
+TEST(CurveTessellation, DrawsABoxForWhatTakesTooLong) {
+    const step::Tessellation box = step::tessellateCurves(circle(10), {.seconds = 0});
+
+    EXPECT_EQ(box.mesh.value().detail, MeshDetail::Box);
+    EXPECT_EQ(box.problem, "its lines take too long");
+    EXPECT_TRUE(box.isByLimit);
 }
 
 TEST(Tessellation, HasNothingToDrawOfNothing) {
