@@ -240,7 +240,7 @@ using Pairs = std::map<std::size_t, std::size_t>;  // of indices, before and aft
 
 /// Which lines of one item belong together, the nearest ones first.
 Pairs pairsOf(const Namesakes& lines, const std::vector<ComparedColumn>& columns) {
-    // Nobody tells hundreds of lines of one item apart: those are taken in their order.
+    // Hundreds of lines of one item cannot be told apart: those are taken in their order.
     constexpr std::size_t kMost = 10'000;
     const std::size_t count = lines.before.size() * lines.after.size();
     std::vector<std::array<std::size_t, 3>> candidates;

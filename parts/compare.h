@@ -77,7 +77,7 @@ struct ListComparison {
 std::vector<ComparedLine> linesOf(const PartsList& list, std::size_t columnCount,
                                   const host::ShapeData& shapes = {});
 
-/// The request with what shapes are told apart by: columns Volume and Area behind the others.
+/// The request with what shapes are told apart by: columns Volume and Area after the others.
 PartsRequest comparisonRequest(PartsRequest request);
 
 /// Compares lines with the same columns. Of several lines of one item those belong together that

@@ -66,7 +66,7 @@ private:
                           .components = inOrder(names)});
     }
 
-    /// One that is the name is given by the file's writer and not by whoever orders parts.
+    /// A number that equals the name was made up by the file's writer, and orders nothing.
     [[nodiscard]] std::string ownNumberOf(std::size_t component) const {
         const host::ComponentData& data = context_.at(component);
         return data.partNumber == data.name ? "" : data.partNumber;

@@ -48,9 +48,11 @@ Measured ItemMeasures::measureOwn(std::size_t component) {
         return Measured{.area = geometry.area(),
                         .volume = volume,
                         .mass = data.material ? volume * data.material->density : 0,
-                        .bodies = geometry.bodies()};
+                        .bodies = geometry.bodies(),
+                        .hasGeometry = true};
     });
-    return measured.value_or(Measured{.isUnmeasured = hasOwnBodies(component)});
+    const bool hasFailed = hasOwnBodies(component);
+    return measured.value_or(Measured{.hasGeometry = hasFailed, .isUnmeasured = hasFailed});
 }
 
 Measured ItemMeasures::own(std::size_t component) {
@@ -73,6 +75,7 @@ Measured ItemMeasures::whole(std::size_t component) {
             sum.volume += below.volume;
             sum.mass += below.mass;
             sum.bodies += below.bodies;
+            sum.hasGeometry = sum.hasGeometry || below.hasGeometry;
             sum.isUnmeasured = sum.isUnmeasured || below.isUnmeasured;
         }
     }

@@ -17,6 +17,7 @@ struct Measured {
     double volume = 0;
     double mass = 0;
     std::size_t bodies = 0;
+    bool hasGeometry = false;   ///< there is something that can be measured, or should be
     bool isUnmeasured = false;  ///< some could not be measured, and count as nothing
 };
 

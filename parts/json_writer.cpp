@@ -55,6 +55,9 @@ Json toJson(const ListColumn& column) {
     if (column.unit != nullptr) {
         node["unit"] = column.unit->name;
     }
+    if (column.column.decimals) {
+        node["decimals"] = *column.column.decimals;
+    }
     return node;
 }
 

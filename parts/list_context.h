@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_set>
 
 namespace parts {
@@ -25,7 +26,7 @@ struct ListContext {
     ItemTree tree;
     ItemMeasures measures;
     bool isMeasured;  ///< the request needs the bodies: masses may be asked for
-    std::unordered_set<std::string> names;  ///< of all components
+    std::unordered_set<std::string_view> names;  ///< of all components
 
     [[nodiscard]] const host::ComponentData& at(std::size_t component) const {
         return design.components[component];

@@ -79,7 +79,7 @@ void fillRow(PartsRow& row, ListContext& context, RowValues& values) {
     if (context.isMeasured) {
         const Measured all = values.sum(row);
         row.isUnmeasured = all.isUnmeasured;
-        if (!all.isUnmeasured) {
+        if (all.hasGeometry && !all.isUnmeasured) {
             row.totalMass = all.mass;
             row.mass = all.mass / static_cast<double>(row.quantity);
         }

@@ -93,8 +93,9 @@ struct PartsRow {
     std::size_t component = 0;               ///< that the row is named after
     /// By component; in the tree the one that is at `path` comes first.
     std::vector<Member> members = {};
-    std::vector<Use> usedIn = {};          ///< by component; not in the indented view
-    std::optional<double> mass = {};       ///< kg, of one; nothing where it is not measured
+    std::vector<Use> usedIn = {};  ///< by component; not in the indented view
+    /// kg, of one; nothing where it is not measured, or has no shape.
+    std::optional<double> mass = {};
     std::optional<double> totalMass = {};  ///< kg
     std::optional<int> shape = {};         ///< class of its shape
     bool isAssumed = false;                ///< a material or a density in it is assumed

@@ -91,6 +91,15 @@ std::optional<double> numberOf(const Filter& filter, const Units& units, std::st
 
 bool needsBodies(const Column& column) { return infoOf(column.field).isMeasured; }
 
+/// Whether any column that the list shows, merges, filters or sorts by is such a one.
+template <class Is>
+bool looksAt(const PartsRequest& request, Is is) {
+    return std::ranges::any_of(columnsOf(request), is) ||
+           std::ranges::any_of(request.merging.columns, is) ||
+           std::ranges::any_of(request.filters, is, &Filter::column) ||
+           std::ranges::any_of(request.sort, is, &SortKey::column);
+}
+
 /// Refuses columns that say where or how often a component is: they cannot say which ones are
 /// equal.
 void checkMerging(const std::vector<Column>& columns) {
@@ -198,12 +207,22 @@ std::vector<SortKey> parseSort(std::string_view text) {
     return keys;
 }
 
+std::string filterText(const Filter& filter) {
+    const auto* const found =
+        std::ranges::find(kOperators, filter.comparison, &Operator::comparison);
+    return columnText(filter.column) + std::string(found->text) + filter.text;
+}
+
+bool restsOnMaterials(const PartsRequest& request) {
+    return looksAt(request, [](const Column& column) {
+        return column.field == Field::Mass || column.field == Field::TotalMass ||
+               column.field == Field::Density || column.field == Field::Material;
+    });
+}
+
 bool needsBodies(const PartsRequest& request) {
-    const auto isMeasured = [](const Column& column) { return needsBodies(column); };
-    return needsShapes(request) || std::ranges::any_of(columnsOf(request), isMeasured) ||
-           std::ranges::any_of(request.merging.columns, isMeasured) ||
-           std::ranges::any_of(request.filters, isMeasured, &Filter::column) ||
-           std::ranges::any_of(request.sort, isMeasured, &SortKey::column);
+    return needsShapes(request) ||
+           looksAt(request, [](const Column& column) { return needsBodies(column); });
 }
 
 bool needsShapes(const PartsRequest& request) {

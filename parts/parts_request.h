@@ -79,6 +79,13 @@ Filter parseFilter(std::string_view text, const Units& units);
 /// Columns with commas between, each with ":desc" or ":asc" after it or nothing.
 std::vector<SortKey> parseSort(std::string_view text);
 
+/// A filter as it was asked for, as in "Mass>5 g".
+std::string filterText(const Filter& filter);
+
+/// Whether the list shows, or filters, sorts or merges by, what rests on materials: masses,
+/// densities or the materials themselves.
+bool restsOnMaterials(const PartsRequest& request);
+
 /// Whether the list needs the bodies of the design measured, or no more than its tree.
 bool needsBodies(const PartsRequest& request);
 

@@ -4,11 +4,21 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <set>
 #include <utility>
 
 namespace parts {
 namespace {
+
+/// Different ones, as parents of one number may have.
+std::string together(const std::set<std::int64_t>& quantities) {
+    std::string result;
+    for (const std::int64_t quantity : quantities) {
+        result += (result.empty() ? "" : ", ") + std::to_string(quantity);
+    }
+    return result;
+}
 
 std::string together(const std::set<std::string, NaturalLess>& texts) {
     std::string result;
@@ -86,16 +96,18 @@ Measured RowValues::sum(const PartsRow& row) {
         sum.volume += count * one.volume;
         sum.mass += count * one.mass;
         sum.bodies += static_cast<std::size_t>(member.quantity) * one.bodies;
+        sum.hasGeometry = sum.hasGeometry || one.hasGeometry;
         sum.isUnmeasured = sum.isUnmeasured || one.isUnmeasured;
     }
     return sum;
 }
 
-/// Means over the members; nothing where not all of the bodies have measures.
+/// Means over the members; nothing where there is nothing to measure, as in a part without a shape,
+/// or where not all of the bodies have measures.
 Value RowValues::meanOf(Field field, const PartsRow& row) {
     const bool isOne = row.members.size() == 1;
     const Measured all = isOne ? measured(row, row.component) : sum(row);
-    if (all.isUnmeasured) {
+    if (all.isUnmeasured || (!all.hasGeometry && field != Field::Bodies)) {
         return {};
     }
     const double count = isOne ? 1 : static_cast<double>(row.quantity);
@@ -124,7 +136,7 @@ Value RowValues::numberOf(Field field, const PartsRow& row) {
             return whole(row.level);
         case Field::TotalMass: {
             const Measured all = sum(row);
-            return all.isUnmeasured ? Value() : Value(all.mass);
+            return all.isUnmeasured || !all.hasGeometry ? Value() : Value(all.mass);
         }
         default:
             return meanOf(field, row);
@@ -191,11 +203,15 @@ std::string RowValues::joined(const Column& column, const PartsRow& row) const {
 }
 
 std::string RowValues::usesText(const PartsRow& row) const {
-    std::set<std::string, NaturalLess> texts;
+    std::map<std::string, std::set<std::int64_t>, NaturalLess> parents;
     for (const Use& use : row.usedIn) {
-        texts.insert(context_.numberOf(use.component) + " (" + std::to_string(use.quantity) + ")");
+        parents[context_.numberOf(use.component)].insert(use.quantity);
     }
-    return together(texts);
+    std::string text;
+    for (const auto& [parent, quantities] : parents) {
+        text += (text.empty() ? "" : "; ") + parent + " (" + together(quantities) + ")";
+    }
+    return text;
 }
 
 Value RowValues::textOf(const Column& column, const PartsRow& row) {

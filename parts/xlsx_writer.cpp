@@ -1,5 +1,6 @@
 #include "parts/xlsx_writer.h"
 
+#include "parts/row_remarks.h"
 #include "parts/xlsx_totals.h"
 
 #include <xlsxwriter.h>
@@ -90,7 +91,12 @@ double sideOf(const std::string& png) {
 class XlsxWriter {
 public:
     XlsxWriter(const PartsList& list, const NumberFormat& numbers)
-        : list_(list), numbers_(numbers), file_(folder_.path() / "list.xlsx") {
+        : list_(list),
+          numbers_(numbers),
+          remarks_(rowRemarks(list)),
+          hasRemarks_(
+              std::ranges::any_of(remarks_, [](const auto& each) { return !each.empty(); })),
+          file_(folder_.path() / "list.xlsx") {
         std::string temporary = folder_.path().string();
         lxw_workbook_options options = {};
         options.tmpdir = temporary.data();
@@ -130,12 +136,19 @@ private:
 
     void checkSize() const {
         const std::size_t rows = list_.rows.size() + 2;  // header and totals
-        const std::size_t columns = list_.columns.size() + 2;
+        const std::size_t columns = shownColumns() + 2;
         if (rows > LXW_ROW_MAX || columns > LXW_COL_MAX) {
             throw XlsxError(
                 "XLSX cannot be written: a sheet holds 1048576 rows and 16384 columns "
                 "at the most; write CSV instead (.csv)");
         }
+    }
+
+    /// What is to be known of a row comes last, where it can be filtered and is printed.
+    std::size_t shownColumns() const { return list_.columns.size() + (hasRemarks_ ? 1 : 0); }
+
+    std::string captionOf(std::size_t column) const {
+        return column < list_.columns.size() ? list_.columns[column].caption : "Remark";
     }
 
     static std::string withoutNull(std::string text) {
@@ -178,7 +191,7 @@ private:
                                      withoutNull(text).c_str(), formatOf(isBold, kNoNumber));
         if (error == LXW_ERROR_MAX_STRING_LENGTH_EXCEEDED) {
             throw XlsxError("XLSX cannot be written: row " + std::to_string(row) + ", \"" +
-                            list_.columns[column].caption +
+                            captionOf(column) +
                             "\": a cell holds 32767 characters at the most; write CSV instead "
                             "(.csv)");
         }
@@ -212,9 +225,9 @@ private:
     }
 
     void writeHeader() {
-        widths_.assign(list_.columns.size(), kNarrowest);
-        for (std::size_t column = 0; column < list_.columns.size(); ++column) {
-            const std::string& caption = list_.columns[column].caption;
+        widths_.assign(shownColumns(), kNarrowest);
+        for (std::size_t column = 0; column < shownColumns(); ++column) {
+            const std::string caption = captionOf(column);
             writeText(0, column, caption, /*isBold=*/true);
             widen(column, widthOf(caption) + kFilterButton);
         }
@@ -234,6 +247,9 @@ private:
                 writeText(index + 1, column, text, /*isBold=*/false);
             }
         }
+        if (!remarks_[index].empty()) {
+            writeText(index + 1, row.cells.size(), remarks_[index], /*isBold=*/false);
+        }
         if (hasPicture) {
             check(::worksheet_set_row(sheet_, rowOf(index + 1), kPictureRow, nullptr),
                   "row " + std::to_string(index + 1));
@@ -242,7 +258,7 @@ private:
 
     void writeTotals() {
         bool hasTotal = false;
-        std::size_t markers = list_.columns.size();
+        std::size_t markers = shownColumns();
         for (std::size_t column = 0; column < list_.columns.size() && !list_.rows.empty();
              ++column) {
             if (const std::optional<ColumnTotal> total = totalOf(list_, column)) {
@@ -305,13 +321,14 @@ private:
         std::array<char, LXW_MAX_CELL_RANGE_LENGTH> text = {};
         ::lxw_rowcol_to_range(text.data(), rowOf(1), columnOf(0),
                               rowOf(std::max<std::size_t>(list_.rows.size(), 1)),
-                              columnOf(list_.columns.size() - 1));
+                              columnOf(shownColumns() - 1));
         return text.data();
     }
 
     void setColumns() {
         for (std::size_t column = 0; column < widths_.size(); ++column) {
-            const bool isPicture = list_.columns[column].column.field == Field::Thumbnail;
+            const bool isPicture = column < list_.columns.size() &&
+                                   list_.columns[column].column.field == Field::Thumbnail;
             const auto width = static_cast<double>(std::min(widths_[column], kWidest));
             check(::worksheet_set_column(sheet_, columnOf(column), columnOf(column),
                                          isPicture ? std::max(kPictureWidth, width) : width + 1,
@@ -321,7 +338,7 @@ private:
         ::worksheet_freeze_panes(sheet_, 1, 0);
         if (!list_.columns.empty()) {
             check(::worksheet_autofilter(sheet_, 0, 0, rowOf(list_.rows.size()),
-                                         columnOf(list_.columns.size() - 1)),
+                                         columnOf(shownColumns() - 1)),
                   "the filter");
             // Part numbers of digits are texts on purpose, which needs no mark in each cell.
             check(::worksheet_ignore_errors(sheet_, LXW_IGNORE_NUMBER_STORED_AS_TEXT,
@@ -358,6 +375,8 @@ private:
 
     const PartsList& list_;
     const NumberFormat& numbers_;
+    std::vector<std::string> remarks_;  ///< one for each row
+    bool hasRemarks_;
     TemporaryFolder folder_;
     fs::path file_;
     std::unique_ptr<lxw_workbook, CloseWorkbook> book_;

@@ -127,6 +127,12 @@ TEST(FilterText, KeepsTheOperator) {
     EXPECT_EQ(parseFilter("Part Name~a=b", {}).text, "a=b");
 }
 
+TEST(FilterText, ReadsBackTheSame) {
+    EXPECT_EQ(filterText(parseFilter("mass[g] >= 5", {})), "Mass[g]>=5");
+    EXPECT_EQ(filterText(parseFilter("Material != Steel", {})), "Material!=Steel");
+    EXPECT_EQ(filterText(parseFilter("Colour\\, outside=red", {})), "Colour\\, outside=red");
+}
+
 TEST(FilterText, IsRefusedWithWhatWouldBeRight) {
     EXPECT_EQ(filterRefusal("Steel"),
               "\"Steel\": expected COLUMN, one of = != ~ < > <= >=, and a value");

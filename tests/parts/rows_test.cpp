@@ -84,6 +84,29 @@ TEST(Columns, ShowWhereAComponentIs) {
               "Foot | 1 | Frame:1+Leg:1+Foot:1 | Design (1); Leg (1) | 1");
 }
 
+TEST(Columns, NameParentsOfOneNumberOnceWithAllTheirQuantities) {
+    EXPECT_EQ(rowsOf(R"(
+        Left   number=Leg
+          Foot
+        Right  number=Leg
+          Foot
+          Foot)",
+                     request(View::Parts, "Part Name,Used in")),
+              "Foot | Leg (1, 2)");
+}
+
+TEST(Columns, OfAPartWithoutAShapeHaveNoMeasures) {
+    const parts::PartsList list = parts::buildPartsList(
+        drawn("Label\nPin  box=1x1x1 material=Steel:0.01"),
+        request(View::Parts, "Part Name,Mass,Total mass,Volume,Area,Density,Size,Bodies"));
+
+    EXPECT_EQ(rowsOf(list),
+              "Label |  |  |  |  |  |  | 0\nPin | 0.01 | 0.01 | 1 | 6 | 10000 | 10 x 10 x 10 | 1");
+    EXPECT_EQ(list.rows[0].mass, std::nullopt);
+    EXPECT_FALSE(list.rows[0].isUnmeasured);
+    EXPECT_EQ(list.totals.massKg, 0.01);
+}
+
 TEST(Columns, HaveTheUnitsOfTheListInTheirCaptions) {
     PartsRequest asked = request(View::Parts, "Mass,Mass=Weight[t],Size,Quantity,Density");
     asked.units.choose("g");

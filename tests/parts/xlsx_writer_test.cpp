@@ -93,6 +93,38 @@ TEST(Xlsx, ATreeIsSummedByTheRowsThatCount) {
     expectContains(sheet, "<c r=\"D4\"><v>1</v></c><c r=\"E4\"><v>0</v></c>");
 }
 
+TEST(Xlsx, WhatARowIsNotToBeOrderedWithoutIsRemarkedInIt) {
+    host::DesignData design = drawn(R"(
+        Pin   number=P box=1x1x1 material=Brass:0.01
+        Bolt  number=P box=1x1x1 material=Steel:0.01
+        Lid   box=2x1x1 material=Steel:0.01)");
+    design.components[2].material->densityAssumed = true;
+    parts::PartsList list =
+        buildPartsList(design, request(View::Parts, "Part Number,Quantity,Mass"));
+    list.duplicates = {{.shape = 0, .items = {"Cap", "Lid"}}};
+
+    const std::string workbook = xlsxOf(list, {});
+
+    const std::string texts = entryOf(workbook, "xl/sharedStrings.xml");
+    expectContains(texts, "<si><t>Remark</t></si>");
+    expectContains(texts,
+                   "<si><t>material assumed; different name: Bolt, Pin; different material: Brass, "
+                   "Steel</t></si>");
+    expectContains(texts, "<si><t>same shape as Cap</t></si>");
+    expectContains(entryOf(workbook, "xl/worksheets/sheet1.xml"), "<autoFilter ref=\"A1:D3\"/>");
+}
+
+TEST(Xlsx, RemarksComeBeforeTheHiddenColumnsOfATree) {
+    host::DesignData design = drawn(kGate);
+    design.components[1].material->nameAssumed = true;
+
+    const std::string sheet =
+        sheetOf(buildPartsList(design, request(View::Indented, "Part Name,Quantity,Total mass")));
+
+    expectContains(sheet, "<f>SUMIF(E2:E4,1,B2:B4)</f><v>5</v>");
+    expectContains(sheet, "<autoFilter ref=\"A1:D4\"/>");
+}
+
 TEST(Xlsx, NumbersKeepTheirDigitsAndAreShownAsAsked) {
     const parts::PartsList list =
         buildPartsList(drawn("Rod  box=1x1x1 material=Steel:0.00785123"),

@@ -149,6 +149,10 @@ std::string pageOf(const ListTask& task, const host::DesignData& design,
         lists.back().source = source;
         addWarnings(outcome.remarks, lists.back().warnings);
     }
+    if (std::ranges::all_of(lists,
+                            [](const parts::PartsList& list) { return list.rows.empty(); })) {
+        addEmptyFilter(outcome.remarks, lists.front());
+    }
     Model model;
     if (isDrawn(meshes)) {
         model = modelOf(design, meshes, task.format.model, parts::GlbExtras::PathAlone);
@@ -183,6 +187,7 @@ void makeLists(const PartsRun& run, const std::string& file, FileOutcome& outcom
         writeParts(list, task.format, content);
         outcome.contents.push_back(std::move(content).str());
         addWarnings(outcome.remarks, list.warnings);
+        addEmptyFilter(outcome.remarks, list);
     }
 }
 
@@ -262,7 +267,7 @@ private:
     std::condition_variable done_;
     std::condition_variable taken_;
     std::size_t next_ = 0;
-    std::size_t wanted_ = 0;  ///< by whoever takes the outcomes, in their order
+    std::size_t wanted_ = 0;  ///< by the caller of `take`, in their order
     std::vector<std::optional<FileOutcome>> outcomes_;
     std::vector<std::thread> threads_;
 };

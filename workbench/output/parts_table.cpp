@@ -2,20 +2,18 @@
 
 #include "workbench/output/display_text.h"
 
+#include "parts/row_remarks.h"
+
 #include <algorithm>
 
 namespace workbench {
 namespace {
 
 constexpr std::size_t kLevelIndent = 2;
-constexpr std::size_t kMostValues = 5;  // of a conflict; JSON has them all
+constexpr std::size_t kWidestUses = 60;  // of the column "Used in", in terminal columns
 
-std::string remarkOf(const parts::PartsRow& row) {
-    if (row.isUnmeasured) {
-        return "unmeasured";
-    }
-    return row.isAssumed ? "material assumed" : "";
-}
+/// As many parents as there is room for: a screw may have hundreds. Other formats have them all.
+std::string usesText(const std::string& text) { return fitted(text, kWidestUses); }
 
 bool isIndented(parts::Field field) {
     return field == parts::Field::PartNumber || field == parts::Field::PartName;
@@ -37,13 +35,15 @@ std::size_t treeColumn(const parts::PartsList& list) {
     return static_cast<std::size_t>(found - list.columns.begin());
 }
 
-std::vector<std::string> cellsOf(const parts::PartsRow& row, const parts::NumberFormat& numbers,
-                                 std::size_t tree) {
+std::vector<std::string> cellsOf(const parts::PartsList& list, const parts::PartsRow& row,
+                                 const parts::NumberFormat& numbers, std::size_t tree) {
     std::vector<std::string> cells;
     for (const parts::Cell& cell : row.cells) {
-        const bool isTree = cells.size() == tree;
-        const std::size_t depth = isTree ? static_cast<std::size_t>(row.level - 1) : 0;
-        cells.push_back(std::string(kLevelIndent * depth, ' ') + parts::cellText(cell, numbers));
+        const std::size_t column = cells.size();
+        const std::size_t depth = column == tree ? static_cast<std::size_t>(row.level - 1) : 0;
+        const std::string text = parts::cellText(cell, numbers);
+        const bool isUses = list.columns[column].column.field == parts::Field::UsedIn;
+        cells.push_back(std::string(kLevelIndent * depth, ' ') + (isUses ? usesText(text) : text));
     }
     return cells;
 }
@@ -54,8 +54,9 @@ std::string linesText(const parts::PartsList& list, const parts::NumberFormat& n
     for (const parts::ListColumn& column : list.columns) {
         captions.push_back(column.caption);
     }
-    const bool hasRemarks = std::ranges::any_of(
-        list.rows, [](const parts::PartsRow& row) { return !remarkOf(row).empty(); });
+    const bool hasRemarks = std::ranges::any_of(list.rows, [&](const parts::PartsRow& row) {
+        return !parts::doubtAbout(list, row).empty();
+    });
     if (hasRemarks) {
         captions.emplace_back("Remark");
     }
@@ -67,9 +68,9 @@ std::string linesText(const parts::PartsList& list, const parts::NumberFormat& n
         }
     }
     for (const parts::PartsRow& row : list.rows) {
-        std::vector<std::string> cells = cellsOf(row, numbers, tree);
+        std::vector<std::string> cells = cellsOf(list, row, numbers, tree);
         if (hasRemarks) {
-            cells.push_back(remarkOf(row));
+            cells.push_back(parts::doubtAbout(list, row));
         }
         table.add(cells);
     }
@@ -90,24 +91,15 @@ std::string totalsText(const parts::PartsList& list, const parts::NumberFormat& 
     return text + "\n";
 }
 
-std::string shortList(const std::vector<std::string>& values) {
-    std::string text;
-    for (std::size_t index = 0; index < std::min(values.size(), kMostValues); ++index) {
-        text += (index == 0 ? "" : ", ") + values[index];
-    }
-    const std::size_t others = values.size() - std::min(values.size(), kMostValues);
-    return text + (others == 0 ? "" : " and " + std::to_string(others) + " more");
-}
-
 std::string conflictsText(const parts::PartsList& list) {
     std::string text;
     for (const parts::Conflict& conflict : list.conflicts) {
         const bool hasValues = !conflict.values.empty();
         text += "conflict: " + conflict.item + ": different " + conflict.what + ": " +
-                shortList(hasValues ? conflict.values : conflict.components) + "\n";
+                parts::shortList(hasValues ? conflict.values : conflict.components) + "\n";
     }
     for (const parts::PossibleDuplicate& duplicate : list.duplicates) {
-        text += "possible duplicates, of one shape: " + shortList(duplicate.items) + "\n";
+        text += "possible duplicates, of one shape: " + parts::shortList(duplicate.items) + "\n";
     }
     return text;
 }

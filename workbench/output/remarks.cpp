@@ -25,6 +25,18 @@ void addWarnings(Remarks& remarks, const std::vector<parts::ListWarning>& warnin
     }
 }
 
+void addEmptyFilter(Remarks& remarks, const parts::PartsList& list) {
+    if (list.request.filters.empty() || !list.rows.empty()) {
+        return;
+    }
+    std::string conditions;
+    for (const parts::Filter& filter : list.request.filters) {
+        conditions +=
+            (conditions.empty() ? "" : " and ") + ("\"" + parts::filterText(filter)) + "\"";
+    }
+    addOnce(remarks, "nothing matches --filter " + conditions);
+}
+
 void addProblems(Remarks& remarks, const host::DesignData& design, const host::ShapeData& shapes) {
     for (std::size_t component = 0; component < design.components.size(); ++component) {
         const host::Shape* const shape = shapes.of(component);

@@ -25,6 +25,9 @@ using Remarks = std::vector<Remark>;
 /// once.
 void addWarnings(Remarks& remarks, const std::vector<parts::ListWarning>& warnings);
 
+/// Adds that none of the rows is as the filters of a list say.
+void addEmptyFilter(Remarks& remarks, const parts::PartsList& list);
+
 /// Adds what is wrong with the shapes of a design, by the names of its components.
 void addProblems(Remarks& remarks, const host::DesignData& design, const host::ShapeData& shapes);
 

@@ -57,6 +57,25 @@ TEST_F(PartsCommand, AnEndingThatNoFormatHasIsRefusedWithThoseThatOneHas) {
     EXPECT_EQ(run({"parts", file, "--format", "csv", "--output", path("list.dat")}).status, 0);
 }
 
+TEST_F(PartsCommand, AFilterThatNothingMatchesIsSaidOnStderrForEachFile) {
+    const std::string none = design("Bolt", "a");
+    const std::string some = design("Nut", "b");
+
+    const ProgramResult one = run({"parts", none, "--format", "csv", "--columns", "Part Number",
+                                   "--filter", "Part Number=Nut", "--filter", "Quantity>1"});
+    const ProgramResult both =
+        run({"parts", none, some, "--columns", "Part Number", "--filter", "Part Number=Nut"});
+
+    EXPECT_EQ(one.status, 0);
+    EXPECT_EQ(one.output, "Part Number\r\n");
+    EXPECT_EQ(one.errors,
+              "warning: nothing matches --filter \"Part Number=Nut\" and \"Quantity>1\"\n");
+    EXPECT_EQ(both.status, 0);
+    EXPECT_EQ(both.errors, "warning: " + none +
+                               ": nothing matches --filter \"Part Number=Nut\"\n2 files "
+                               "listed\n");
+}
+
 TEST_F(PartsCommand, ListsWhatSeveralOfTheDesignNeed) {
     const ProgramResult result =
         run({"parts", design("Bolt\nBolt\nNut"), "--multiply", "5", "--format", "csv", "--columns",

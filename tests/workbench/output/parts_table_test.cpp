@@ -72,6 +72,38 @@ TEST(PartsTable, SaysWhatIsAssumed) {
         )") + "\n");
 }
 
+TEST(PartsTable, SaysNothingOfMaterialsThatNoColumnRestsOn) {
+    host::DesignData design = drawn("Pin  box=1x1x1 material=S:0.01");
+    design.components[1].material->nameAssumed = true;
+
+    EXPECT_EQ(partsTableOf(parts::buildPartsList(design, request(View::Parts, "Part Name"))),
+              text(R"(
+        Part Name
+        ---------
+        Pin
+
+        1 row, 1 item
+        )") + "\n");
+}
+
+TEST(PartsTable, NamesAsManyParentsAsThereIsRoomFor) {
+    std::string outline;
+    for (int number = 1; number <= 12; ++number) {
+        outline += "Carrier " + std::to_string(number) + "\n  Screw\n";
+    }
+    const PartsList list =
+        parts::buildPartsList(drawn(outline), request(View::Parts, "Part Name,Used in"));
+
+    EXPECT_EQ(partsTableOf(list), text(R"(
+        Part Name  Used in
+        ---------  ------------------------------------------------------------
+        Screw      Carrier 1 (1); Carrier 2 (1); Carrier 3 (1); Carrier 4 (1...
+
+        1 row, 12 items
+        )") + "\n");
+    EXPECT_TRUE(parts::cellText(list.rows[0].cells[1], {}).ends_with("; Carrier 12 (1)"));
+}
+
 TEST(PartsTable, EndsInConflictsAndPossibleDuplicates) {
     PartsList list = parts::buildPartsList(drawn("Pin  number=P\nBolt  number=P"),
                                            request(View::Parts, "Part Number"));
