@@ -10,6 +10,8 @@
 #include "workbench/output/remarks.h"
 #include "workbench/output/result_stream.h"
 
+#include "host/base/utf8_path.h"
+#include "parts/ascii.h"
 #include "parts/bom_structure.h"
 #include "parts/compare.h"
 
@@ -17,6 +19,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -24,7 +27,21 @@
 namespace workbench {
 namespace {
 
+constexpr const char* kTable = "table";
+constexpr const char* kMarkdown = "markdown";
+constexpr const char* kJson = "json";
+
+struct FormatOfEnding {
+    const char* ending;
+    const char* format;
+};
+
+constexpr FormatOfEnding kEndings[] = {{.ending = ".txt", .format = kTable},
+                                       {.ending = ".md", .format = kMarkdown},
+                                       {.ending = ".json", .format = kJson}};
+
 struct CompareOptions {
+    const CLI::App* command = nullptr;
     std::string before;
     std::string after;
     ReadingOptions reading;
@@ -139,21 +156,41 @@ parts::ListComparison compared(const CompareOptions& options) {
     return isOldList || isNewList ? compareWithList(options, isOldList) : compareDesigns(options);
 }
 
-std::string textOf(const parts::ListComparison& comparison, const CompareOptions& options) {
-    if (options.list.format == "json") {
+/// How the comparison is written: as asked for, else as the ending of the output says.
+std::string formatOf(const CompareOptions& options) {
+    if (!options.list.format.empty()) {
+        return options.list.format;
+    }
+    const CLI::results_t& output = options.command->get_option("--output")->results();
+    const std::string file = output.empty() ? "" : output.back();
+    const std::string ending = parts::lowerCase(host::toUtf8(host::fromUtf8(file).extension()));
+    if (ending.empty()) {
+        return kTable;
+    }
+    const auto* const found = std::ranges::find(kEndings, ending, &FormatOfEnding::ending);
+    if (found == std::end(kEndings)) {
+        refuse("--output " + file + ": no format of a comparison has the ending " + ending +
+               "; name one with --format, or end with .txt, .md or .json");
+    }
+    return found->format;
+}
+
+std::string textOf(const parts::ListComparison& comparison, const std::string& format,
+                   const CompareOptions& options) {
+    if (format == kJson) {
         return comparisonJson(comparison);
     }
-    return options.list.format == "markdown"
-               ? comparisonMarkdown(comparison, options.list.writing.numbers)
-               : comparisonTable(comparison, options.list.writing.numbers, console::charset(),
-                                 resultWidth());
+    return format == kMarkdown ? comparisonMarkdown(comparison, options.list.writing.numbers)
+                               : comparisonTable(comparison, options.list.writing.numbers,
+                                                 console::charset(), resultWidth());
 }
 
 void runCompare(const CompareOptions& options) {
+    const std::string format = formatOf(options);
     parts::ListComparison comparison = compared(options);
     comparison.before = options.before;
     comparison.after = options.after;
-    std::cout << textOf(comparison, options);
+    std::cout << textOf(comparison, format, options);
     if (options.exitCode && !comparison.changes.empty()) {
         setFinalStatus(ExitCode::Different);
     }
@@ -189,9 +226,12 @@ void addCompareCommand(CLI::App& program) {
     CLI::App& command = *program.add_subcommand(
         "compare", "Print what differs between the parts lists of two designs");
     CompareOptions& options = optionsFor(command, runCompare);
-    options.list.format = "table";
+    options.command = &command;
     addLists(command, options);
-    addFormat(command, options.list.format, {"table", "markdown", "json"});
+    command
+        .add_option("--format", options.list.format,
+                    "How to print it; by default as the ending of --output says, else a table")
+        ->check(CLI::IsMember(std::vector<std::string>{kTable, kMarkdown, kJson}));
     command.add_flag("--exit-code", options.exitCode, "End with status 6 where something differs");
     addReading(command, options.reading);
 }

@@ -72,14 +72,26 @@ TEST_F(CompareFailures, AnUnknownColumnKeepsTheResultThatWasThere) {
     EXPECT_EQ(folder.read("changes.txt"), "old");
 }
 
+TEST_F(CompareFailures, AnEndingThatNoComparisonHasKeepsTheResultThatWasThere) {
+    writeFile(folder.path() / "changes.csv", "old");
+
+    expectFailure(run({"compare", old_, new_, "--output", path("changes.csv")}), 2,
+                  "tarnix-workbench: --output " + path("changes.csv") +
+                      ": no format of a comparison has the ending .csv; name one with --format, "
+                      "or end with .txt, .md or .json\n");
+    EXPECT_EQ(folder.read("changes.csv"), "old");
+}
+
+TEST_F(CompareFailures, AMissingStepFileIsMissingOnEitherSystem) {
+    expectFailure(run({"compare", old_, path("none.step")}), 1,
+                  "tarnix-workbench: " + path("none.step") + ": no such file\n");
+}
+
 TEST_F(CompareFailures, AMissingDesignKeepsTheResultThatWasThere) {
     writeFile(folder.path() / "changes.txt", "old");
 
-    const auto result =
-        run({"compare", old_, path("none.design.json"), "--output", path("changes.txt")});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(result.errors.starts_with("tarnix-workbench: " + path("none.design.json") + ": "))
-        << result.errors;
+    expectFailure(run({"compare", old_, path("none.design.json"), "--output", path("changes.txt")}),
+                  1, "tarnix-workbench: " + path("none.design.json") + ": no such file\n");
     EXPECT_EQ(folder.read("changes.txt"), "old");
 }
 

@@ -147,6 +147,16 @@ TEST_F(CompareCommand, TheStatusSaysWhetherThereAreDifferencesWhenAsked) {
               std::string::npos);
 }
 
+TEST_F(CompareCommand, TheEndingOfTheOutputNamesTheFormat) {
+    for (const auto& [ending, format] :
+         {std::pair("md", "markdown"), std::pair("json", "json"), std::pair("txt", "table")}) {
+        const std::string file = std::string("changes.") + ending;
+        EXPECT_EQ(compare("Bolt", "Bolt\nBolt", {"--output", path(file)}).status, 0);
+        EXPECT_EQ(folder.read(file), compare("Bolt", "Bolt\nBolt", {"--format", format}).output);
+    }
+    EXPECT_EQ(folder.read("changes.md").rfind("| Change |", 0), 0U);
+}
+
 TEST_F(CompareCommand, WithoutDifferencesOneLineSaysSo) {
     EXPECT_EQ(compare(kCart, kCart).output, "No differences, 2 lines\n");
 }
