@@ -132,6 +132,19 @@ async function clickInstance(page, instance, options = {}) {
   await page.mouse.click(x, y, options);
 }
 
+/// Clicks a pixel that is of the instance: its centre may be behind another one, or beside it.
+async function clickWhereVisible(page, instance) {
+  const place = await page.evaluate(i => {
+    const {canvas} = partsPage.viewer, {left, top} = canvas.getBoundingClientRect(), step = 4;
+    for (let y = 0; y < canvas.clientHeight; y += step) {
+      for (let x = 0; x < canvas.clientWidth; x += step) if (partsPage.viewer.pick(x, y) === i) return {x: left + x, y: top + y};
+    }
+    return null;
+  }, instance);
+  assert.ok(place, `instance ${instance} is nowhere to be seen`);
+  await page.mouse.click(place.x, place.y);
+}
+
 async function at(page, instance) {
   return page.evaluate(i => {
     const {left, top} = partsPage.viewer.canvas.getBoundingClientRect();
@@ -202,5 +215,5 @@ async function runTests(tests, names) {
   process.exitCode = failed ? 1 : 0;
 }
 
-module.exports = {startBrowser, runTests, open, openFile, openHost, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance,
+module.exports = {startBrowser, runTests, open, openFile, openHost, openAgain, reload, checkComplaints, closeTabs, settled, frames, row, selectedRows, shownRows, summary, clickInstance, clickWhereVisible,
                   at, visible, remember, changedInstances, withPixels, folder};

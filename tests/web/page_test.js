@@ -7,13 +7,13 @@ const fs = require('fs');
 const {violations} = require('../site/browser');
 const {block, brackets, catalogue, hostile, hostileNames, inGrams, odd, panes} = require('./assemblies');
 const {compare} = require('./golden');
-const {runTests, open, openAgain, reload, settled, frames, row, selectedRows, shownRows, summary, clickInstance, at, visible,
+const {runTests, open, openAgain, reload, settled, frames, row, selectedRows, shownRows, summary, clickInstance, clickWhereVisible, at, visible,
        remember, changedInstances, withPixels} = require('./page');
 
 const sample = brackets();
 const openSample = options => options ? open(sample.list, sample.glb, options) : openAgain(sample.list, sample.glb);
 // In the order of the tree: rod, two nuts, then twice a bracket with three bolts and their nuts, the plate.
-const rod = 0, nuts = [1, 2, 5, 7, 9, 12, 14, 16], bolts = [4, 6, 8, 11, 13, 15], plate = 17;
+const rod = 0, bracket = 3, nuts = [1, 2, 5, 7, 9, 12, 14, 16], bolts = [4, 6, 8, 11, 13, 15], plate = 17;
 const press = (page, key) => page.evaluate(() => document.activeElement.blur()).then(() => page.keyboard.press(key));
 const setRange = (page, selector, value) => page.$eval(selector, (input, to) => { input.value = to; input.dispatchEvent(new Event('input')); }, value);
 
@@ -55,6 +55,40 @@ const tests = {
     await page.click('[data-view=indented]');
     await clickInstance(page, rod);
     assert.deepStrictEqual(await selectedRows(page), ['BR-120']);
+  },
+
+  // As components of the structure Reference are: in the model, and in no row of any view.
+  async aReferenceIsDrawnAndBelongsToTheAssemblyThatItIsIn() {
+    const made = JSON.parse(JSON.stringify(sample.list));
+    for (const view of made.views) {
+      const kept = view.list.rows.map(({cells}) => !['BR-110', 'BR-100'].includes(cells.partNumber));
+      view.list.rows = view.list.rows.filter((_, i) => kept[i]);
+      view.occurrences = view.occurrences.filter((_, i) => kept[i]);
+    }
+    const page = await open(made, sample.glb);
+    assert.strictEqual(await page.textContent('.facts'), '18 parts · 2,144 triangles');
+    await press(page, '6');
+    for (const view of ['parts', 'indented']) {
+      await page.click(`[data-view=${view}]`);
+      await clickWhereVisible(page, plate);
+      assert.strictEqual(await summary(page), 'This part is in no row of the list.');
+      assert.deepStrictEqual(await selectedRows(page), []);
+    }
+    await clickWhereVisible(page, bracket);
+    assert.deepStrictEqual(await selectedRows(page), ['BR-020']);
+    await page.click('[data-view=parts]');
+    await page.keyboard.press('Escape');
+    await clickWhereVisible(page, bracket);
+    assert.strictEqual(await summary(page), 'This part is in no row of the list.');
+  },
+
+  async numbersHaveTheDecimalsOfTheirColumn() {
+    const made = JSON.parse(JSON.stringify(sample.list));
+    for (const {list} of made.views) list.columns.find(({key}) => key === 'totalMass').decimals = 2;
+    const page = await open(made, sample.glb);
+    const cells = await page.$$eval('.body .row:has-text("ISO 4017") .cell.number', all => all.map(each => each.textContent));
+    assert.deepStrictEqual(cells, ['6', '0.0197', '0.12']);
+    assert.ok((await page.$$eval('.foot .cell', all => all.map(each => each.textContent))).includes('5.72'));
   },
 
   async aClickOnAPartOfATopLayerSelectsItsRow() {

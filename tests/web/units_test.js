@@ -228,6 +228,33 @@ const tests = {
     assert.strictEqual(formatNumber(1.5, 'cs'), '1,5');
   },
 
+  aColumnWithDecimalsShowsAndFindsThem() {
+    assert.deepStrictEqual([1.23456, 5, 0.004, -2.5].map(value => formatNumber(value, 'en', 2)), ['1.23', '5.00', '0.00', '-2.50']);
+    assert.strictEqual(formatNumber(12345.678, 'cs', 1), '12345,7');
+    assert.deepStrictEqual(digitsOf([5, 12.345], 2), {whole: 2, fraction: 2});
+    const lines = [['A', 1.2345], ['B', 1.24]];
+    const by = text => arrange(table(lines), columns, query({filters: new Map([['mass', text]])}), (row, id) => lines[row][id === 'name' ? 0 : 1], 'en', () => 2)
+        .map(i => lines[i][0]).join('');
+    assert.deepStrictEqual(['=1.23', '=1.24', '1.23', '>1.23', '=1.235'].map(by), ['A', 'B', 'A', 'B', '']);
+  },
+
+  decimalsAreReadWithTheirColumn() {
+    const {list} = brackets(), [{list: first}] = list.views;
+    first.columns = [{key: 'item', caption: 'Item'}, {key: 'mass', caption: 'Mass', decimals: 2}, {key: 'size', caption: 'Size', decimals: 1}];
+    first.rows[0].cells.size = [200, 10.04, 9.96];
+    const {columns: read, views} = readPartsList({...list, views: [list.views[0]]});
+    assert.deepStrictEqual(read.map(each => each.decimals), [null, 2, 1]);
+    assert.strictEqual(views.get('parts').rows[0].cells[2], '200.0 × 10.0 × 10.0');
+  },
+
+  whatHasNoShapeIsNotMissedInTheSum() {
+    const {list} = brackets();
+    Object.assign(list.views[0].list.rows[0], {massKg: null, totalMassKg: null});
+    const {views, paths} = readPartsList(list), {mass, unknown} = sum(views.get('parts'), new Set([0, 1]), paths);
+    assert.strictEqual(unknown, 0);
+    assert.ok(Math.abs(mass - 8 * 0.00513) < 1e-12);
+  },
+
   aColumnHasRoomForItsNumbers() {
     assert.deepStrictEqual(digitsOf([0.000475, 1.263, 571.2, 100]), {whole: 3, fraction: 6});
     assert.deepStrictEqual(digitsOf([8, 12]), {whole: 2, fraction: 0});

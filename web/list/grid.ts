@@ -88,7 +88,7 @@ export class Grid {
     this.drawHead();
   }
 
-  /// Draws what stands in the rows again.
+  /// Draws the contents of the rows again.
   redraw(): void {
     this.rows.forEach(row => row.remove());
     this.rows.clear();

@@ -12,7 +12,7 @@ export function massIn(kg: number, unit: string | null): number | null {
 /// The column that this one repeats, as in "totalMass 2", or its own id.
 export const fieldOf = (id: string) => id.replace(/ \d+$/, '');
 
-/// The unit in which masses of this list are told outside of its columns: that of its first column of total masses, else of masses.
+/// The unit in which masses of this list are shown outside of its columns: that of its first column of total masses, else of masses.
 export function massUnit(columns: Pick<Column, 'id' | 'unit'>[]): string {
   const isMass = (field: string) => columns.find(({id, unit}) => fieldOf(id) === field && massIn(1, unit) !== null);
   return (isMass('totalMass') ?? isMass('mass'))?.unit ?? usual;

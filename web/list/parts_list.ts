@@ -4,6 +4,7 @@ export interface Column {
   id: string;
   caption: string;  ///< with the unit
   unit: string | null;
+  decimals: number | null;  ///< of its numbers; null: significant digits
   kind: 'text' | 'number' | 'picture';
 }
 
@@ -72,9 +73,15 @@ function union(lists: any[][]): Column[] {
   for (const column of lists.flat()) {
     const id = String(column.key);
     if (!known.has(id)) known.set(id, {id, caption: String(column.caption ?? id), unit: column.unit === undefined ? null : String(column.unit),
-                                            kind: id === pictureId ? 'picture' : 'text'});
+                                            decimals: decimalsOf(column.decimals), kind: id === pictureId ? 'picture' : 'text'});
   }
   return [...known.values()];
+}
+
+const mostDecimals = 20;  // that numbers have in JavaScript of any age
+
+function decimalsOf(value: unknown): number | null {
+  return Number.isInteger(value) && Number(value) >= 0 ? Math.min(mostDecimals, Number(value)) : null;
 }
 
 function withKinds(columns: Column[], views: Map<string, View>): Column[] {
@@ -104,7 +111,7 @@ function readView(json: any, columns: Column[], paths: string[], where: string):
 function readRow(row: any, columns: Column[], occurrences: unknown, level: number, parent: number): Row {
   const first = row.components?.[0] ?? {};
   return {key: `${first.partNumber || first.name || row.item}${row.kind === 'own-bodies' ? ' (own bodies)' : ''}`,
-          cells: columns.map(({id}) => readCell(row.cells?.[id])), level, parent, children: [], opened: row.kind === 'assembly',
+          cells: columns.map(({id, decimals}) => readCell(row.cells?.[id], decimals)), level, parent, children: [], opened: row.kind === 'assembly',
           quantity: Number(row.quantity ?? 0), mass: numberOrNull(row.massKg), totalMass: numberOrNull(row.totalMassKg),
           assumed: row.assumed === true, unmeasured: row.unmeasured === true, occurrences: array(occurrences, 'of occurrences').map(Number)};
 }
@@ -126,8 +133,9 @@ function nameItems(views: Map<string, View>, paths: string[]): void {
 
 const numberOrNull = (value: unknown) => typeof value === 'number' ? value : null;
 
-function readCell(value: unknown): Cell {
-  if (Array.isArray(value)) return value.map(each => Number(Number(each).toPrecision(4))).join(' × ');
+function readCell(value: unknown, decimals: number | null): Cell {
+  const text = (each: unknown) => decimals === null ? Number(Number(each).toPrecision(4)) : Number(each).toFixed(decimals);
+  if (Array.isArray(value)) return value.map(text).join(' × ');
   return typeof value === 'number' || typeof value === 'string' ? value : null;
 }
 
@@ -144,7 +152,7 @@ function messages(lists: any[]): {conflicts: string[]; warnings: string[]} {
 export interface Sum {
   quantity: number;
   mass: number | null;  ///< null where the list has no masses
-  unknown: number;      ///< rows without a mass
+  unknown: number;      ///< rows whose mass cannot be measured
   assumed: boolean;     ///< a material or density is assumed
 }
 
@@ -159,7 +167,7 @@ export function sum(view: View, chosen: Set<number>, paths: string[]): Sum {
     result.assumed ||= row.assumed;
     if (result.mass === null) continue;
     result.mass += (row.totalMass ?? 0) * share;
-    result.unknown += row.totalMass === null ? 1 : 0;
+    result.unknown += row.unmeasured ? 1 : 0;  // what has no shape weighs nothing
   }
   return result;
 }
@@ -189,7 +197,7 @@ function above(path: string): string[] {
 export function total(view: View, shown: Set<number>, paths: string[]): Sum {
   const rows = [...shown].map(index => view.rows[index]);
   const quantity = rows.reduce((whole, row) => whole + (row.opened ? 0 : row.quantity), 0);
-  // In a flat list an opened assembly stands beside its parts.
+  // In a flat list an opened assembly is listed beside its parts.
   const isTree = view.rows.some(row => row.parent >= 0);
   const counted = new Set([...shown].filter(index => isTree || !view.rows[index].opened || rows.every(row => row.opened)));
   const added = sum(view, counted, paths);

@@ -32,7 +32,7 @@ export interface Occurrence {
   path: string;
   partNumber: string;
   component: string;
-  parent: number;  ///< -1 for what stands at the top
+  parent: number;  ///< -1 for what is at the top
   begin: number;
   end: number;
 }

@@ -174,7 +174,7 @@ export class App {
   }
 
   private text(row: Row, id: string): string {
-    return formatCell(this.columns.cell(row, id), language);
+    return formatCell(this.columns.cell(row, id), language, this.columns.decimals(id));
   }
 
   private doubt(row: Row, id: string): Doubt | null {
@@ -190,11 +190,12 @@ export class App {
     if (fieldOf(id) === 'quantity') return formatNumber(this.shownSum.quantity, language);
     if (fieldOf(id) !== 'totalMass') return '';
     const {mass} = this.shownSum, inUnit = mass === null ? null : massIn(mass, this.columns.unit(id));
-    return inUnit === null ? '' : formatNumber(inUnit, language);
+    return inUnit === null ? '' : formatNumber(inUnit, language, this.columns.decimals(id));
   }
 
   private arrange(fromTop: boolean): void {
-    this.order = arrange(this.rows, this.columns.all.filter(each => this.shownColumns.has(each.id)), this.query, (row, id) => this.columns.cell(this.rows[row], id), language);
+    this.order = arrange(this.rows, this.columns.all.filter(each => this.shownColumns.has(each.id)), this.query, (row, id) => this.columns.cell(this.rows[row], id), language,
+                         id => this.columns.decimals(id));
     this.shownSum = total(this.shownView, new Set(this.order), this.list.paths);
     this.grid.show(this.source(), fromTop);
     this.nothing.hidden = this.order.length > 0 || this.rows.length === 0;

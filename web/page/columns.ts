@@ -51,7 +51,8 @@ export class Columns {
   private layNumbers(column: Column, caption: string): {width: number; fraction: number} {
     const index = this.indices.get(column.id)!;
     const rows = [...this.list.views.values()].flatMap(view => view.rows);
-    const {whole, fraction: all} = digitsOf(rows.flatMap(({cells}) => typeof cells[index] === 'number' ? [cells[index] as number] : []));
+    const {whole, fraction: all} = digitsOf(rows.flatMap(({cells}) => typeof cells[index] === 'number' ? [cells[index] as number] : []),
+                                             column.decimals);
     const fraction = Math.min(mostDigits, all);
     const sign = rows.some(row => doubtOf(row, column.id, row.cells[index])) ? signWidth : 0;
     return {width: fitting(caption, Math.max(72, Math.ceil((whole + fraction + 1) * digitWidth) + margin + sign)), fraction};
@@ -77,6 +78,10 @@ export class Columns {
 
   unit(id: string): string | null {
     return this.list.columns[this.indices.get(id) ?? -1]?.unit ?? null;
+  }
+
+  decimals(id: string): number | null {
+    return this.list.columns[this.indices.get(id) ?? -1]?.decimals ?? null;
   }
 }
 

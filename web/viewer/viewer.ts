@@ -1,7 +1,7 @@
 // An assembly in 3D on a canvas. Draws when something has changed, and never otherwise.
 //
 // Instances are named by their numbers in the model. The viewer knows no list: it says what is under the
-// pointer and shows what it is told to.
+// pointer and shows what it is asked to.
 import {LinearSRGBColorSpace, OrthographicCamera, PerspectiveCamera, Vector3, WebGLRenderer, WebGLRenderTarget} from 'three';
 import {Model, triangleCount} from '../model/model.ts';
 import {axes, between, Camera, direction, Pose, Sphere, ViewName} from './camera.ts';
