@@ -27,7 +27,7 @@ namespace host {
 /// - `attribute=group/name/value`, any number of them
 /// - `material=Name:density` in kg/cm3, or `material=none`; else steel of 0.00785 kg/cm3
 /// - `box=1x2x3`, a box of these lengths from its origin, in cm
-/// - `measures=area:volume` in cm2 and cm3, with the box of `box=` if that stands too
+/// - `measures=area:volume` in cm2 and cm3, with the box of `box=` if that is given too
 /// - `document=` the other document that it comes from
 ///
 /// Of this use: `at=x,y,z` in cm, and `grounded`. A line `(absent)` is a place at which the host

@@ -76,7 +76,7 @@ fs::path fileOf(const ReadingCache& cache, const std::string& key) {
     return cache.folder / (key + std::string(kEnding));
 }
 
-/// Names of parts are nobody else's business: only the user may look into the folder.
+/// Names of parts may be confidential: only the user may look into the folder.
 void makeFolder(const fs::path& folder) {
     std::error_code error;
     if (fs::create_directories(folder, error)) {

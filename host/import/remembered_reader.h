@@ -19,7 +19,7 @@ namespace host {
 /// An entry of the cache holds what the reader sent up to the design, and its response to each
 /// request since. As long as all that is asked is in the entry, no reader is started; the first
 /// request that is not starts one. Errors are never remembered, and neither is what the reader
-/// marks as made by a limit of time or memory: who meets one asks again. Where an entry would be
+/// marks as made by a limit of time or memory: the next run asks again. Where an entry would be
 /// too large for the cache, the longest responses are left out, which are meshes.
 class RememberedReader final : public ReaderConnection {
 public:

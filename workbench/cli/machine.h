@@ -8,7 +8,7 @@ namespace workbench::machine {
 /// At least 1.
 std::size_t processors();
 
-/// Memory in megabytes, whoever uses it; 0 where the system does not say.
+/// Memory in megabytes, used or not; 0 where the system does not say.
 std::size_t memoryMegabytes();
 
 }  // namespace workbench::machine

@@ -47,8 +47,8 @@ const ProfileKeys kOutputKeys = {.excluded = {"max-seconds", "max-memory", "max-
                                               "material", "strict", "no-cache", "jobs"},
                                  .lists = kLists};
 
-/// Where a profile that nobody named may lie: in the first folder that was given, beside the first
-/// design.
+/// Where a profile is looked for that was not named: in the first folder that was given, beside the
+/// first design.
 std::vector<std::filesystem::path> profileFolders(const PartsCommand& options,
                                                   const std::vector<std::string>& files) {
     namespace fs = std::filesystem;
@@ -62,7 +62,7 @@ std::vector<std::filesystem::path> profileFolders(const PartsCommand& options,
     return folders;
 }
 
-/// The profile that the user named, else one that is found; one without a file where there is none.
+/// The profile that was named, else one that is found; one without a file where there is none.
 Profile findProfile(const PartsCommand& options, const std::vector<std::string>& files) {
     if (!options.profile.empty()) {
         return readProfile(options.profile);
@@ -80,7 +80,7 @@ Profile findProfile(const PartsCommand& options, const std::vector<std::string>&
     return {};
 }
 
-/// Without this line the options of a profile that nobody named would come as a surprise.
+/// Without this line the options of a profile that was not named would come as a surprise.
 void reportFoundProfile(const PartsCommand& options, const Profile& profile) {
     if (options.profile.empty() && !profile.file.empty() && !isQuiet()) {
         std::cerr << "profile: " << printable(profile.file) << "\n";

@@ -66,7 +66,7 @@ TEST_F(StepRefusal, AFolder) {
 }
 
 /// Ends the process with success when a file is refused with this line. The superuser may read
-/// everything, and asks as somebody else.
+/// everything, and asks as another user.
 [[noreturn]] void endWithRefusalOf(const std::string& path, const std::string& line) {
     constexpr uid_t kNobody = 65534;
     const bool asNobody = ::geteuid() != 0 || ::setuid(kNobody) == 0;

@@ -28,7 +28,7 @@ TEST(ReaderShare, SeveralReadersGetNoMoreMemoryThanThereIs) {
     EXPECT_EQ(shareOf(kLimits, {.readers = 4, .memoryMegabytes = 8000}).megabytes, 2000U);
     EXPECT_EQ(shareOf(kLimits, {.readers = 4, .memoryMegabytes = 64000}).megabytes, 3072U);
     EXPECT_EQ(shareOf(kLimits, {.readers = 1000, .memoryMegabytes = 8000}).megabytes, 16U);
-    EXPECT_EQ(shareOf(kLimits, {.readers = 4}).megabytes, 3072U);  // nobody knows how much there is
+    EXPECT_EQ(shareOf(kLimits, {.readers = 4}).megabytes, 3072U);  // how much there is is unknown
 }
 
 TEST(Machine, HasAProcessorAndMemory) {

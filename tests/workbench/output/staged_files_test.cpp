@@ -90,7 +90,7 @@ TEST_F(Staged, AChangedDesignFileIsSeenBeforeTheCommit) {
 
     EXPECT_THROW(changed.check(), workbench::Failure);
 
-    // That keeps nobody from the folder.
+    // Then the folder is not closed to anyone.
     StagedFiles unchanged;
     unchanged.addDesign(file("b.design.json"), host::parseOutline("Frame"), std::nullopt);
     unchanged.check();

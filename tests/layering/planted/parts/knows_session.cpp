@@ -1,4 +1,4 @@
-// Planted: the parts list is made of a plain design, whoever opened it.
+// Planted: the parts list is made of a plain design, however it was opened.
 #include <Fusion/FusionAll.h>
 #include "host/design/design_data.h"
 #include "host/session/session.h"
