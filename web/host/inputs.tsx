@@ -51,7 +51,7 @@ function ActionButton({input, line, cell}: InputProps) {
   const label = input.text || input.caption || input.tooltip;
   if (cell && !text && !input.icon) return null;
   return (
-    <button type="button" class={`push${input.icon ? ' with-icon' : ''}${input.value === true ? ' on' : ''}`} disabled={!input.enabled} title={input.tooltip || undefined}
+    <button type="button" class={`push${input.icon ? ' with-icon' : ''}`} disabled={!input.enabled} title={input.tooltip || undefined}
             tabIndex={cell ? -1 : undefined} aria-label={input.icon && (cell || !text) ? label || pictureName(input.icon) : undefined}
             onClick={() => void line.act('click', {input: input.key})}>
       {input.icon && <Picture folder={input.icon} size={16}/>}{!(cell && input.icon) && (text || (input.icon && !cell ? input.caption : ''))}

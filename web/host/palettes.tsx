@@ -33,11 +33,17 @@ function CloseButton({palette, line}: {palette: Palette; line: Connection}) {
   return <button type="button" class="tool" title={label} aria-label={label} onClick={() => void line.act('closePalette', {id: palette.id})}><Icon sign="close"/></button>;
 }
 
-/// Those that float, each where it was put, as far as the window reaches.
+// The window that the host says it has. What was put into its right or lower half stays as near to that edge of the page.
+const hostWindow = {width: 1280, height: 800};
+
+const placed = (at: number, size: number, host: number, room: number) =>
+  Math.max(8, Math.min(at + size / 2 > host / 2 ? room - (host - at) : at, room - size - 8));
+
+/// Those that float, each where it was put, as far as the page reaches.
 export function Floating({palettes, line, room}: {palettes: Palette[]; line: Connection; room: {width: number; height: number}}) {
   return <>{palettes.filter(each => each.dock === 'floating').map(palette => {
     const width = Math.min(palette.width, room.width - 16), height = Math.min(palette.height, room.height - 16);
-    const box = {width, height, left: Math.max(8, Math.min(palette.left, room.width - width - 8)), top: Math.max(8, Math.min(palette.top, room.height - height - 8))};
+    const box = {width, height, left: placed(palette.left, width, hostWindow.width, room.width), top: placed(palette.top, height, hostWindow.height, room.height)};
     return (
       <Frame key={palette.id} title={palette.name} name={`palette-${palette.id}`} class="palette" role="region" box={box} closeLabel={`${texts.close} ${palette.name}`}
              close={palette.closeButton ? () => void line.act('closePalette', {id: palette.id}) : undefined} sized={palette.resizable ? () => {} : undefined}>

@@ -92,6 +92,9 @@ export function DataTable({table, line}: Props) {
     </div>);
 }
 
+// Lines and shades make a picture where all characters have one width.
+const isDrawing = (cell: Cell | undefined) => typeof cell?.value === 'string' && /[\u2500-\u259f]/.test(cell.value);
+
 interface CellsProps {
   row: Row; number: number; index: number; top?: number; columns: number[]; template: string; line: Connection;
   heading?: boolean; selected?: boolean; select?(cell: Cell): void;
@@ -110,7 +113,7 @@ function Cells({row, number, index, top, columns, template, line, heading, selec
         const role = heading && (cell?.text || cell?.caption) ? 'columnheader' : 'gridcell';
         const style = across.length ? {gridColumn: `span ${across.length + 1}`} : undefined;
         return (
-          <div key={column} class={`cell ${cell?.visible ? cell.kind : 'empty'}${cell?.readOnly ? ' fixed' : ''}${cell?.icon ? ' pictured' : ''}`} role={role} aria-colindex={i + 1} style={style}
+          <div key={column} class={`cell ${cell?.visible ? cell.kind : 'empty'}${cell?.readOnly ? ' fixed' : ''}${cell?.icon ? ' pictured' : ''}${isDrawing(cell) ? ' drawn' : ''}`} role={role} aria-colindex={i + 1} style={style}
                onFocusIn={cell && select ? () => select(cell) : undefined} onClick={cell?.visible && cell.kind === 'Image' && select ? () => select(cell) : undefined}>
             {cell?.visible ? <Control key={cell.key} input={cell} line={line} cell/> : <Fragment/>}
           </div>);

@@ -52,6 +52,7 @@ host::SessionOptions servedSession(const AddinChoice& choice) {
     session.lockTimeout = kLockTimeout;
     session.unloadAtEnd = kUnloadsAddin;
     session.system.sleepTakesTime = true;
+    session.system.windows = {{{"Autodesk Fusion 360", {0, 0, 1280, 800}}}};  // the page
     session.host.clock = host::clock::ClockMode::Real;
     return session;
 }
