@@ -46,6 +46,7 @@ TEST(DialogJson, ATableHasItsRowsWithTheirCells) {
     table.table = {.columns = 3,
                    .ratio = "1:1:1",
                    .shownColumns = {0, 1, 2},
+                   .shownRows = {},
                    .rows = {{.row = 0, .shown = true, .selected = false, .cells = {cell}}},
                    .toolbar = {}};
     dialog.inputs.push_back(table);
