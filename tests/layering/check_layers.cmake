@@ -43,7 +43,7 @@ set(rules
     "workbench/output|workbench/(commands|dialogs)/.*||output/ writes what it is given"
     "workbench/dialogs|workbench/commands/.*||dialogs/ does not know which command asks for it"
     "workbench|(tarnix|tests|bench)/.*||the workbench reaches the add-in as a module alone"
-    "workbench|host/.*|host/session/,host/base/folder_lock.h,host/base/utf8_path.h,host/design/atomic_file.h,host/design/design_data.h,host/design/design_file.h,host/design/design_measures.h,host/design/reading_error.h,host/design/reading_limits.h,host/design/reading_warning.h,host/design/shape_data.h,host/import/content_hash.h,host/import/file_check.h,host/import/read_design.h,host/import/read_shapes.h,host/import/read_tree.h,host/import/reading_cache.h|the workbench talks to the session, and to plain designs, files and paths")
+    "workbench|host/.*|host/session/,host/base/folder_lock.h,host/base/utf8_path.h,host/design/atomic_file.h,host/design/design_data.h,host/design/design_file.h,host/design/design_measures.h,host/design/reading_error.h,host/design/reading_limits.h,host/design/reading_warning.h,host/design/shape_data.h,host/import/content_hash.h,host/import/design_source.h,host/import/file_check.h,host/import/read_design.h,host/import/read_shapes.h,host/import/read_tree.h,host/import/reading_cache.h|the workbench talks to the session, and to plain designs, files and paths")
 
 set(violations 0)
 
