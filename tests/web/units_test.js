@@ -18,6 +18,8 @@ const {fieldOf, massIn, massUnit} = load('list/mass.ts');
 const {readPartsList, sum, total} = load('list/parts_list.ts');
 const {decode, encode} = load('page/address.ts');
 const {Links} = load('page/links.ts');
+const {ancestors, treeRows} = load('host/tree_rows.ts');
+const {formatted, webAddress} = load('host/formatted.ts');
 
 const query = more => ({search: '', filters: new Map(), sort: null, folded: new Set(), ...more});
 const table = lines => lines.map(cells => ({children: [], parent: -1, level: 0, cells}));
@@ -277,6 +279,29 @@ const tests = {
   anAddressFromAnywhereHarmsNothing() {
     const {section, pose, explode, selected, hidden} = decode('#section=7,x&pose=1,2,NaN,0,0,0&explode=1e9&selected=5-1,x,-3&hidden=0-999999999999');
     assert.deepStrictEqual([section, pose, explode, selected, hidden], [null, null, 1, [], []]);
+  },
+
+  aComponentIsInTheTreeWhereverItIsUsed() {
+    const components = [
+      {name: 'root', partNumber: 'R', children: [[1, 1, true], [2, 1, false], null, [1, 2, false]]},
+      {name: 'pair', partNumber: 'P', children: [[2, 1, false], [2, 7, false]]}, {name: 'nut', partNumber: 'N', children: [null], document: 'bolts'}];
+    const rows = treeRows(components, new Set(['', 'pair:2']));
+    assert.deepStrictEqual(rows.map(({path, depth, grounded, parent}) => [path, depth, grounded, parent]), [
+      ['', 0, false, true], ['pair:1', 1, true, true], ['nut:1', 1, false, false], ['pair:2', 1, false, true],
+      ['pair:2+nut:1', 2, false, false], ['pair:2+nut:7', 2, false, false]]);
+    assert.deepStrictEqual(ancestors('pair:2+nut:7'), ['', 'pair:2']);
+    assert.deepStrictEqual(treeRows(components, new Set()).length, 1);
+  },
+
+  ofAFormattedTextTagsWithoutHarmAreKept() {
+    const plain = node => typeof node === 'string' ? node : Array.isArray(node) ? node.map(plain).join('') : `<${node.type}${node.props.href ? ` ${node.props.href}` : ''}>${plain([node.props.children ?? []].flat())}</>`;
+    const shown = text => plain(formatted(text));
+    assert.strictEqual(shown('a <B class="x" onclick="y()">b</B> &lt;i&gt; &#233;&#xe9;&nbsp;&no;'), 'a <b>b</> <i> \u00e9\u00e9\u00a0&no;');
+    assert.strictEqual(shown('<a href="javascript:x()">j</a><a href=\'https://e.com/?a=1&amp;b\'>w</a>'), '<a>j</><a https://e.com/?a=1&b>w</>');
+    assert.strictEqual(shown('<img src=x onerror="a>b"><script>s</script><!-- <b> -->1 < 2 > 0'), 's1 < 2 > 0');
+    assert.strictEqual(shown('<ul><li>one<li>two</ul>after</b>'), '<ul><li>one<li>two</></></>after');
+    assert.strictEqual(shown('<b>'.repeat(1000)).length < 1000, true);
+    assert.deepStrictEqual(['http://a', 'https://a b', ' javascript:1', 'HTTPS://A', 'file:///x'].map(webAddress), [true, false, false, true, false]);
   },
 };
 

@@ -68,9 +68,9 @@ export function Frame({title, name, box, children, class: style = '', role = 'di
   const at = place ?? {left: box.left, top: box.top};
   const {width, height} = size ?? box;
   return (
-    <section class={`frame ${style}`} role={role} aria-labelledby={`${name}-title`} id={name} tabIndex={-1} ref={root} onKeyDown={keys}
+    <section class={`frame ${style}`} role={role} aria-labelledby={`${name}-title`} id={name} tabIndex={-1} ref={root} onKeyDown={event => event.altKey ? arrows(event, moveBy) : keys?.(event)}
              style={{left: `${at.left}px`, top: `${at.top}px`, width: width ? `${width}px` : undefined, height: height ? `${height}px` : undefined}}>
-      <header onPointerDown={start} onPointerMove={move} onPointerUp={placed} onKeyDown={event => event.altKey && arrows(event, moveBy)}>
+      <header onPointerDown={start} onPointerMove={move} onPointerUp={placed}>
         <h2 id={`${name}-title`}>{title}</h2>
         {close && <button type="button" class="tool" title={closeLabel ?? texts.close} aria-label={closeLabel ?? texts.close} onClick={close}><Icon sign="close"/></button>}
       </header>

@@ -15,5 +15,4 @@ export const texts = {
   emptyFolder: 'No such files in this folder.', allFiles: 'All files', unfit: 'This file is of no type that is asked for.',
   opened: 'Opened by the add-in', noPage: 'This page is on the web:', working: 'Working…', menu: 'Context menu',
   kinds: {exception: 'Exception', misuse: 'Misuse', message: 'Message', warning: 'Warning'},
-  moved: 'Moved with the arrow keys',
 } as const;

@@ -35,8 +35,3 @@ export function ancestors(path: string): string[] {
   const names = path.split('+');
   return names.map((_, i) => names.slice(0, i).join('+'));
 }
-
-/// Whether the occurrence, or one that it is in, is among those.
-export function within(path: string, others: ReadonlySet<string>): boolean {
-  return others.has(path) || ancestors(path).some(each => others.has(each));
-}

@@ -1,0 +1,334 @@
+// The page of the host with the real program behind it: what a designer does in an hour, in a minute.
+//
+//   node host_test.js PROGRAM FILE.step
+//
+// The file is the camera slider of the samples. Pictures of all steps go to build/web/host/.
+'use strict';
+const assert = require('assert');
+const fs = require('fs');
+const path = require('path');
+const {serveHost} = require('./served');
+const {violations} = require('../site/browser');
+const {closeTabs, checkComplaints, openHost, startBrowser} = require('./page');
+
+const pictures = path.join(__dirname, '../../build/web/host');
+const [program, file] = process.argv.slice(2);
+const dialog = '#command-dialog';
+
+let page, host;
+
+const idle = (where = page) => where.waitForFunction(() => hostPage.line.pending === 0);
+const state = (where = page) => where.evaluate(() => hostPage.line.state);
+const texts = selector => page.$$eval(selector, found => found.map(each => each.textContent));
+const until = (test, given) => page.waitForFunction(test, given);
+
+async function picture(name) {
+  await idle();
+  await page.screenshot({path: path.join(pictures, `${name}.png`)});
+}
+
+async function press(command) {
+  const button = page.locator(`[data-command=${command}]`);
+  if (await button.count()) return button.click();
+  const {workspaces, commands} = await state();
+  const panel = workspaces.find(each => each.active).tabs.flatMap(each => each.panels).find(each => each.controls.some(control => control.command === command));
+  const {caption} = panel ? panel.controls.find(each => each.command === command) : commands.find(each => each.command === command);
+  await page.click(panel ? `.ribbon .caption:has-text("${panel.caption}")` : '.quick [aria-label=More]');
+  await page.getByRole('menuitem', {name: caption}).click();
+}
+
+async function openBom() {
+  await press('QM_TX_BOM');
+  await page.waitForSelector(`${dialog} .body [data-row="1"]`);
+  await idle();
+}
+
+const tab = async name => {
+  await page.getByRole('tab', {name, exact: true}).click();
+  await page.waitForSelector(`[role=tab][aria-selected=true]:text-is("${name}")`);
+  await idle();
+};
+const close = async () => {
+  await page.locator(`${dialog} footer .push`).last().click();
+  await page.waitForSelector(dialog, {state: 'detached'});
+};
+// The texts of a column, from the fields and lists in it; heading and hidden rows are left out.
+const column = caption => page.evaluate(wanted => {
+  const heads = [...document.querySelectorAll('.head [aria-colindex]')];
+  const at = heads.find(each => each.textContent === wanted)?.getAttribute('aria-colindex');
+  return [...document.querySelectorAll('.table .body > [data-row]')].map(row => {
+    const field = row.querySelector(`[aria-colindex="${at}"]`)?.querySelector('input, select');
+    return field instanceof HTMLSelectElement ? field.selectedOptions[0]?.text ?? '' : field?.value ?? '';
+  });
+}, caption);
+// In front of which part the middle of the canvas is, seen from there.
+const look = name => page.evaluate(view => hostPage.scene.viewer.look(view), name);
+
+async function clickOn(occurrence) {
+  const at = await page.evaluate(path => {
+    const {viewer} = hostPage.scene, {left, top} = viewer.canvas.getBoundingClientRect();
+    const wanted = new Set(hostPage.scene.instances(path));
+    for (let y = 4; y < viewer.canvas.clientHeight; y += 3) {
+      for (let x = 4; x < viewer.canvas.clientWidth; x += 3) {
+        const {x: pageX, y: pageY} = {x: left + x, y: top + y};
+        if (wanted.has(viewer.pick(x, y)) && document.elementFromPoint(pageX, pageY) === viewer.canvas) return {x: pageX, y: pageY};
+      }
+    }
+    return null;
+  }, occurrence);
+  assert.ok(at, `${occurrence} is nowhere in front`);
+  await page.mouse.click(at.x, at.y);
+  await idle();
+}
+
+const steps = {
+  async anAssemblyIsShown() {
+    const {tree, document: shown} = await state();
+    assert.strictEqual(shown.name, 'camera-slider');
+    assert.ok(tree.components.length > 5);
+    assert.deepStrictEqual(await texts('.command span'), ['Edit custom properties', 'BOM', 'Go to Helpdesk', 'Open Help']);
+    assert.ok(await page.evaluate(() => hostPage.scene.viewer.stats().instances) > 20);
+    assert.strictEqual(await violations(page), '');
+  },
+
+  async theBomIsUnfolded() {
+    await openBom();
+    const before = await column('Part Number');
+    const fold = page.locator('.body .pictured button[aria-label=ColapseAsm]').first();
+    await fold.click();
+    await until(count => document.querySelectorAll('.table .body > [data-row]').length > count, before.length);
+    const after = await column('Part Number');
+    assert.ok(after.length > before.length && before.every(each => after.includes(each)), after.join());
+    const {selection} = await state();  // the row that was clicked is lit in tree and model
+    assert.strictEqual(selection.length, 1);
+    assert.deepStrictEqual(await texts('.node.selected .name'), [selection[0].split('+').pop()]);
+    assert.ok(await page.evaluate(() => hostPage.scene.viewer.marks.selected.length) > 0);
+    assert.strictEqual(await violations(page), '');
+  },
+
+  async theStructureIsSortedBothWays() {
+    await tab('Structure');
+    assert.match(await page.getByLabel('Total mass of structure BOM [kg]').inputValue(), /^\d+\.\d+$/);
+    const unsorted = await column('Part Number');
+    const order = page.locator(`${dialog} .DropDown select`);
+    for (const [name, sorted] of [['Ascending', [...unsorted].sort()], ['Descending', [...unsorted].sort().reverse()]]) {
+      await order.selectOption(name);
+      await idle();
+      await page.locator('.head .push', {hasText: 'Part Number'}).click();
+      await idle();
+      assert.deepStrictEqual(await column('Part Number'), sorted, name);
+    }
+  },
+
+  async aHandlerThatThrowsIsInTheLog() {
+    const thrown = (await state()).log.filter(each => each.kind === 'exception');
+    assert.ok(thrown.some(each => each.event === 'OnInputChanged' && each.input === 'QEMA_droDown_AscDesc' && each.text.includes('stoi')), JSON.stringify(thrown));
+    await page.click('.quick [aria-label^=Log]');
+    await page.waitForSelector('.log .exception');
+    assert.match(await page.textContent('.log .exception .where'), /OnInputChanged/);
+    await picture('log');
+    await page.click('.log .tool');
+    assert.ok(await page.isVisible(dialog));  // and can be used as before
+  },
+
+  async theListIsExported() {
+    await page.getByRole('button', {name: 'Export BOM to MS Excel'}).click();
+    await until(() => hostPage.line.state.opened.some(each => each.target.endsWith('TarnixBOM.xlsm')));
+    const list = fs.readFileSync(path.join(host.home, 'Tarnix/TarnixBOM.csv'), 'utf8');
+    for (const part of await column('Part Number')) assert.ok(list.includes(`;${part};`) || list.includes(`${part};`), part);
+  },
+
+  async columnsAreChosenAndKept() {
+    await tab('BOM Configuration');
+    const free = page.locator('.table [data-row="2"] select').first();
+    await free.selectOption({label: 'Quantity'});
+    await idle();
+    await page.getByRole('button', {name: 'Save BOM Configuration'}).click();
+    await idle();
+    await picture('columns');
+    await close();
+    await openBom();
+    await tab('Structure');
+    assert.deepStrictEqual((await texts('.head [role=columnheader]')).slice(-1), ['Quantity']);
+    assert.ok((await column('Quantity')).every(each => /^\d+$/.test(each)));
+  },
+
+  async anEditedPartNumberComesBack() {
+    await tab('Data of Model');
+    const field = page.locator('.body [data-row="1"] .StringValue:not(.fixed) input').first();
+    await field.click();
+    await page.keyboard.press('Control+a');
+    await page.keyboard.type('NEW-1');
+    assert.strictEqual(await field.inputValue(), 'NEW-1');
+    await idle();
+    await page.getByRole('button', {name: 'Save Changes and Close'}).click();
+    await until(() => hostPage.line.pending === 0 && hostPage.line.state.document.changed && hostPage.line.state.dialog !== null);
+    assert.strictEqual((await column('Part Number'))[0], 'NEW-1');  // the dialog has come back with it
+    assert.ok((await state()).tree.components.some(each => each.partNumber === 'NEW-1'));
+    assert.ok((await texts('.node .number')).includes('NEW-1'));
+    await picture('saved-and-back');
+  },
+
+  async twoPagesShowTheSame() {
+    const other = await openHost(host.url, {another: 2});
+    await other.waitForSelector(dialog);  // also in the midst of a dialog
+    const field = '.body [data-row="1"] .StringValue:not(.fixed) input';
+    assert.strictEqual(await other.locator(field).first().inputValue(), 'NEW-1');
+    await other.locator(field).first().fill('NEW-2');
+    await until(selector => document.querySelector(selector).value === 'NEW-2', field);
+    await other.close();
+    await page.reload();
+    await page.waitForSelector(dialog);
+    assert.strictEqual(await page.locator(field).first().inputValue(), 'NEW-2');
+    await close();
+  },
+
+  async propertiesAreEditedByPickingInTheModel() {
+    await press('QEMA_EditPropertiesCmd');
+    await page.waitForSelector(dialog);
+    assert.match(await page.getAttribute('.ok', 'title'), /needs 1, and has 0/);
+    await page.evaluate(() => hostPage.scene.viewer.look('iso'));
+    const {tree} = await state();
+    const [[component, number]] = tree.components[0].children.filter(each => each && !tree.components[each[0]].children.length).slice(0, 1);
+    const occurrence = `${tree.components[component].name}:${number}`;
+    await clickOn(occurrence);
+    await page.waitForSelector('.selection .picked');
+    assert.deepStrictEqual((await state()).selection, [occurrence]);
+    assert.strictEqual(await page.getByLabel('Part Number').inputValue(), tree.components[component].partNumber);
+    await page.getByLabel('Description').fill('Picked in the model');
+    await idle();
+    await picture('properties');
+    await page.getByRole('button', {name: 'OK', exact: true}).click();
+    await page.waitForSelector(dialog, {state: 'detached'});
+    await press('QEMA_EditPropertiesCmd');
+    await page.waitForSelector(dialog);
+    await clickOn(occurrence);
+    assert.strictEqual(await page.getByLabel('Description').inputValue(), 'Picked in the model');
+  },
+
+  async aMessageDuringAHandlerIsAnswered() {
+    await tab('Settings');
+    await page.getByRole('button', {name: 'Delete Property'}).click();
+    const box = page.getByRole('alertdialog');
+    await box.getByText('Select one property to delete.').waitFor();
+    await picture('message');
+    await page.keyboard.press('Enter');
+    await box.waitFor({state: 'detached'});
+    await idle();
+    await close();
+  },
+
+  async aPartMovesToTheOrigin() {
+    await press('QM_TX_moveComponentToOrigin');
+    await page.waitForSelector(dialog);
+    await page.focus('[role=tree]');
+    await page.keyboard.press('End');
+    await page.keyboard.press('Enter');
+    await idle();
+    const [{path: moved}] = await page.evaluate(() => hostPage.line.state.selection.map(path => ({path})));
+    const place = () => page.evaluate(path => [...hostPage.scene.viewer.model.instances[hostPage.scene.instances(path)[0]].matrix.slice(12, 15)], moved);
+    const [before, revision] = [await place(), (await state()).model.revision];
+    await page.getByRole('button', {name: 'OK', exact: true}).click();
+    await until(old => hostPage.scene.shownRevision > old && hostPage.scene.viewer, revision);
+    assert.notDeepStrictEqual(await place(), before);
+    await picture('moved');
+  },
+
+  async whatTheHelpdeskCollectsIsThere() {
+    await press('QM_HD_systemInfo');
+    await idle();
+    await press('QM_HD_openFolder');
+    await until(() => hostPage.line.state.opened.length > 1);
+    const {opened} = await state();
+    const folder = opened[opened.length - 1].target;
+    assert.ok(fs.readdirSync(folder).length > 0, folder);
+    await press('QM_HD_captureScreen');
+    await idle();
+    assert.strictEqual((await state()).log.filter(each => each.kind === 'exception' && each.event === 'OnExecute').length, 0);
+  },
+
+  async unitsAreConvertedInAPalette() {
+    await press('QM_TX_unitsConversion');
+    const frame = page.frameLocator('iframe[title]').first();
+    await frame.locator('#result').waitFor();
+    const box = await page.locator('[id^=palette-]').boundingBox();
+    assert.ok(Math.abs(box.x + box.width - (1280 - 5)) <= 3 && box.width === 260, JSON.stringify(box));
+    const converted = async value => {
+      await frame.locator('#value').fill(value);
+      return parseFloat((await frame.locator('#result').textContent()).split('=').pop());
+    };
+    const [one, two] = [await converted('1'), await converted('2')];
+    assert.ok(one > 0 && Math.abs(two / one - 2) < 1e-6, `${one} ${two}`);
+    await picture('palettes');
+    await page.locator('[id^=palette-] .tool').click();
+    await page.waitForSelector('[id^=palette-]', {state: 'detached'});
+  },
+
+  async aCommandThatWaitsIsCancelled() {
+    await press('QEMA_OpenLocalCmd_QAT');
+    const box = page.locator('dialog.files');
+    await box.getByRole('option', {name: 'gears'}).dblclick();
+    await box.getByRole('option', {name: 'part.sldprt'}).click();
+    await box.getByRole('button', {name: 'Open'}).click();
+    await page.waitForSelector('.progress');
+    await picture('waiting');
+    await page.locator('.progress .push').click();
+    await page.getByRole('alertdialog').getByRole('button', {name: 'OK'}).click();
+    await page.waitForSelector('.progress', {state: 'detached'});
+  },
+
+  async theDesignIsSavedAndOpened() {
+    await page.keyboard.press('Control+s');
+    await page.waitForSelector('dialog.files');
+    await page.getByRole('option', {name: 'gears'}).dblclick();
+    await page.getByLabel('File name').fill('slider.json');
+    await page.locator('dialog.files').getByRole('button', {name: 'Save'}).click();
+    await until(() => !hostPage.line.state.document.changed);
+    assert.ok(fs.readFileSync(path.join(host.data, 'gears/slider.json'), 'utf8').includes('Picked in the model'));
+    await page.keyboard.press('Control+o');
+    await page.getByRole('option', {name: 'gears'}).dblclick();
+    await page.getByRole('option', {name: 'slider.json'}).dblclick();
+    await until(() => hostPage.line.state.document.file.endsWith('slider.json') && hostPage.line.pending === 0);
+    assert.ok((await state()).tree.components.some(each => each.partNumber === 'NEW-1'));
+  },
+
+  async theAddInIsLoadedAgain() {
+    await openBom();
+    await page.click('.quick [aria-label^="Reload add-in:"]');
+    await until(() => hostPage.line.state.dialog === null && hostPage.line.state.addin.running && hostPage.line.state.busy === null && hostPage.line.pending === 0);
+    assert.deepStrictEqual((await texts('.command span')).slice(0, 2), ['Edit custom properties', 'BOM']);
+    await openBom();
+    await host.stop();  // with a dialog open
+    await page.waitForSelector('.banner');
+    page.complaints.splice(0);
+  },
+};
+
+async function main() {
+  fs.mkdirSync(pictures, {recursive: true});
+  host = await serveHost(program, file);
+  const browser = await startBrowser();
+  let name = '';
+  try {
+    page = await openHost(host.url);
+    page.setDefaultTimeout(15_000);
+    for (const [each, step] of Object.entries(steps)) {
+      name = each;
+      const start = Date.now();
+      await step();
+      checkComplaints();
+      if (host.running) await picture(name);
+      if (process.env.TIMES) console.log(`${name} ${Date.now() - start} ms`);
+    }
+    console.log(`${Object.keys(steps).length} steps`);
+  } catch (error) {
+    console.error(`${name}: ${error.stack}`);
+    await page?.screenshot({path: path.join(pictures, 'failed.png')}).catch(() => {});
+    process.exitCode = 1;
+  }
+  await closeTabs();
+  await browser.close();
+  await host.stop();
+}
+
+main();

@@ -1,0 +1,86 @@
+// The pictures of the browser page in README and guide.
+//
+//   node screenshots.js PROGRAM FILE.step FOLDER
+'use strict';
+const path = require('path');
+const {checkComplaints, openHost, startBrowser} = require('./page');
+const {serveHost} = require('./served');
+
+const [program, file, folder] = process.argv.slice(2);
+
+async function main() {
+  const host = await serveHost(program, file);
+  const browser = await startBrowser();
+  const page = await openHost(host.url, {viewport: {width: 1280, height: 800}});
+  const idle = () => page.waitForFunction(() => hostPage.line.pending === 0 && !hostPage.scene.viewer.scheduled);
+  const picture = async name => {
+    await idle();
+    await page.mouse.move(640, 3);
+    await page.evaluate(() => document.activeElement.blur());
+    await page.screenshot({path: path.join(folder, `browser-${name}.png`)});
+  };
+  // The model in the part of the stage that a dialog leaves free.
+  const aside = (zoom, x, y) => page.evaluate(([by, right, up]) => {
+    const {viewer} = hostPage.scene;
+    viewer.home();
+    viewer.camera.zoom(by);
+    viewer.camera.pan(right, up);
+    viewer.moved();
+  }, [zoom, x, y]);
+  const dialog = async (width, height) => {
+    await page.waitForSelector('#command-dialog');
+    await page.evaluate(size => hostPage.line.act('resize', size), {width, height});
+  };
+  const close = async () => {
+    await page.locator('#command-dialog footer .push').last().click();
+    await page.waitForSelector('#command-dialog', {state: 'detached'});
+  };
+
+  await page.locator('.twisty.closed').first().click();
+  await picture('assembly');
+
+  await page.click('[data-command=QM_TX_BOM]');
+  await dialog(640, 420);
+  await aside(1.5, 0.35, -0.12);
+  await page.locator('.body .pictured button[aria-label=ColapseAsm]').first().click();
+  await picture('bom');
+
+  await page.getByRole('tab', {name: 'BOM Configuration'}).click();
+  for (const [i, name] of ['Quantity', 'Mass'].entries()) {
+    await page.locator('.table [data-row="2"] select').nth(i).selectOption({label: name});
+    await idle();
+  }
+  await page.getByRole('button', {name: 'Save BOM Configuration'}).click();
+  await idle();
+  await close();
+  await page.click('[data-command=QM_TX_BOM]');
+  await page.waitForSelector('#command-dialog');
+  await page.getByRole('tab', {name: 'Structure', exact: true}).click();
+  await page.locator('#command-dialog .DropDown select').selectOption('Ascending');
+  await idle();
+  await page.locator('.head .push', {hasText: 'Part Number'}).click();
+  await picture('structure');
+  await close();
+
+  await page.click('[data-command=QEMA_EditPropertiesCmd]');
+  await page.waitForSelector('#command-dialog');
+  await aside(1.1, 0.12, 0);
+  await page.focus('[role=tree]');
+  for (const key of ['Home', 'ArrowDown', 'Enter']) await page.keyboard.press(key);
+  await page.waitForSelector('.selection .picked');
+  await picture('properties');
+  await close();
+
+  await page.evaluate(() => hostPage.line.act('pick', {path: ''}));
+  await page.evaluate(() => hostPage.line.act('selectInModel', {paths: []}));
+  await aside(1, 0, 0);
+  await page.evaluate(() => hostPage.line.act('press', {command: 'QM_TX_unitsConversion'}));
+  await page.frameLocator('iframe').locator('#result').waitFor();
+  await page.click('.quick [aria-label^=Log]');
+  await picture('palette');
+  checkComplaints();
+  await browser.close();
+  await host.stop();
+}
+
+main();
