@@ -24,7 +24,7 @@ async function show(change = () => {}, options = {}, view = {}) {
   return {page, host: playing};
 }
 
-const idle = page => page.waitForFunction(() => hostPage.line.pending === 0);
+const idle = page => page.waitForFunction(() => hostPage.line.isSettled);
 const acted = (host, action) => host.actions.filter(each => each.action === action);
 const texts = (page, selector) => page.$$eval(selector, found => found.map(each => each.textContent));
 const elements = page => page.evaluate(() => document.querySelectorAll('*').length);

@@ -2,7 +2,7 @@
 //
 //   node host_test.js PROGRAM FILE.step
 //
-// The file is the camera slider of the samples. Pictures of all steps go to build/web/host/.
+// The file is the planetary gearbox of the samples. Pictures of all steps go to build/web/host/.
 'use strict';
 const assert = require('assert');
 const fs = require('fs');
@@ -17,7 +17,7 @@ const dialog = '#command-dialog';
 
 let page, host;
 
-const idle = (where = page) => where.waitForFunction(() => hostPage.line.pending === 0);
+const idle = (where = page) => where.waitForFunction(() => hostPage.line.isSettled);
 const state = (where = page) => where.evaluate(() => hostPage.line.state);
 const texts = selector => page.$$eval(selector, found => found.map(each => each.textContent));
 const until = (test, given) => page.waitForFunction(test, given);
@@ -61,30 +61,29 @@ const column = caption => page.evaluate(wanted => {
     return field instanceof HTMLSelectElement ? field.selectedOptions[0]?.text ?? '' : field?.value ?? '';
   });
 }, caption);
-// In front of which part the middle of the canvas is, seen from there.
-const look = name => page.evaluate(view => hostPage.scene.viewer.look(view), name);
-
-async function clickOn(occurrence) {
-  const at = await page.evaluate(path => {
-    const {viewer} = hostPage.scene, {left, top} = viewer.canvas.getBoundingClientRect();
-    const wanted = new Set(hostPage.scene.instances(path));
-    for (let y = 4; y < viewer.canvas.clientHeight; y += 3) {
-      for (let x = 4; x < viewer.canvas.clientWidth; x += 3) {
-        const {x: pageX, y: pageY} = {x: left + x, y: top + y};
-        if (wanted.has(viewer.pick(x, y)) && document.elementFromPoint(pageX, pageY) === viewer.canvas) return {x: pageX, y: pageY};
+/// Clicks on a part that is in front, away from its edges and from what is over the model; its path.
+async function clickOnAPart() {
+  const found = await page.evaluate(() => {
+    const {viewer} = hostPage.scene, {left, top} = viewer.canvas.getBoundingClientRect(), {instances, occurrences} = viewer.model;
+    for (let y = 12; y < viewer.canvas.clientHeight - 12; y += 8) {
+      for (let x = 12; x < viewer.canvas.clientWidth - 12; x += 8) {
+        const at = viewer.pick(x, y);
+        const isInside = at >= 0 && [[-6, 0], [6, 0], [0, -6], [0, 6]].every(([dx, dy]) => viewer.pick(x + dx, y + dy) === at);
+        if (isInside && document.elementFromPoint(left + x, top + y) === viewer.canvas) return {x: left + x, y: top + y, path: occurrences[instances[at].occurrence].path};
       }
     }
     return null;
-  }, occurrence);
-  assert.ok(at, `${occurrence} is nowhere in front`);
-  await page.mouse.click(at.x, at.y);
+  });
+  assert.ok(found, 'no part is in front');
+  await page.mouse.click(found.x, found.y);
   await idle();
+  return found.path;
 }
 
 const steps = {
   async anAssemblyIsShown() {
     const {tree, document: shown} = await state();
-    assert.strictEqual(shown.name, 'camera-slider');
+    assert.strictEqual(shown.name, 'planetary-gearbox');
     assert.ok(tree.components.length > 5);
     assert.deepStrictEqual(await texts('.command span'), ['Edit custom properties', 'BOM', 'Go to Helpdesk', 'Open Help']);
     assert.ok(await page.evaluate(() => hostPage.scene.viewer.stats().instances) > 20);
@@ -94,7 +93,7 @@ const steps = {
   async theBomIsUnfolded() {
     await openBom();
     const before = await column('Part Number');
-    const fold = page.locator('.body .pictured button[aria-label=ColapseAsm]').first();
+    const fold = page.locator('.body .pictured button:has(img[src*="/ColapseAsm/"])').first();
     await fold.click();
     await until(count => document.querySelectorAll('.table .body > [data-row]').length > count, before.length);
     const after = await column('Part Number');
@@ -110,7 +109,7 @@ const steps = {
     await tab('Structure');
     assert.match(await page.getByLabel('Total mass of structure BOM [kg]').inputValue(), /^\d+\.\d+$/);
     const unsorted = await column('Part Number');
-    const order = page.locator(`${dialog} .DropDown select`);
+    const order = page.locator(`${dialog} .field.DropDown select`);
     for (const [name, sorted] of [['Ascending', [...unsorted].sort()], ['Descending', [...unsorted].sort().reverse()]]) {
       await order.selectOption(name);
       await idle();
@@ -162,7 +161,7 @@ const steps = {
     assert.strictEqual(await field.inputValue(), 'NEW-1');
     await idle();
     await page.getByRole('button', {name: 'Save Changes and Close'}).click();
-    await until(() => hostPage.line.pending === 0 && hostPage.line.state.document.changed && hostPage.line.state.dialog !== null);
+    await until(() => hostPage.line.isSettled && hostPage.line.state.document.changed && hostPage.line.state.dialog !== null);
     assert.strictEqual((await column('Part Number'))[0], 'NEW-1');  // the dialog has come back with it
     assert.ok((await state()).tree.components.some(each => each.partNumber === 'NEW-1'));
     assert.ok((await texts('.node .number')).includes('NEW-1'));
@@ -185,24 +184,25 @@ const steps = {
 
   async propertiesAreEditedByPickingInTheModel() {
     await press('QEMA_EditPropertiesCmd');
-    await page.waitForSelector(dialog);
+    await page.waitForSelector('.choose[data-picked="1"]');  // what was selected before
+    await page.getByRole('button', {name: 'Clear the selection'}).click();
+    await page.waitForSelector('.choose[data-picked="0"]');
     assert.match(await page.getAttribute('.ok', 'title'), /needs 1, and has 0/);
-    await page.evaluate(() => hostPage.scene.viewer.look('iso'));
-    const {tree} = await state();
-    const [[component, number]] = tree.components[0].children.filter(each => each && !tree.components[each[0]].children.length).slice(0, 1);
-    const occurrence = `${tree.components[component].name}:${number}`;
-    await clickOn(occurrence);
-    await page.waitForSelector('.selection .picked');
-    assert.deepStrictEqual((await state()).selection, [occurrence]);
-    assert.strictEqual(await page.getByLabel('Part Number').inputValue(), tree.components[component].partNumber);
+    const picked = await clickOnAPart();
+    await page.waitForSelector('.choose[data-picked="1"]');
+    const {tree, selection} = await state();
+    assert.deepStrictEqual(selection, [picked]);
+    const component = tree.components.find(each => each.name === picked.split('+').pop().replace(/:\d+$/, ''));
+    assert.strictEqual(await page.getByLabel('Part Number').inputValue(), component.partNumber);
     await page.getByLabel('Description').fill('Picked in the model');
     await idle();
     await picture('properties');
     await page.getByRole('button', {name: 'OK', exact: true}).click();
     await page.waitForSelector(dialog, {state: 'detached'});
     await press('QEMA_EditPropertiesCmd');
-    await page.waitForSelector(dialog);
-    await clickOn(occurrence);
+    await page.waitForSelector('.choose[data-picked="0"]');
+    assert.strictEqual(await clickOnAPart(), picked);
+    await page.waitForSelector('.choose[data-picked="1"]');
     assert.strictEqual(await page.getByLabel('Description').inputValue(), 'Picked in the model');
   },
 
@@ -240,7 +240,7 @@ const steps = {
     await press('QM_HD_openFolder');
     await until(() => hostPage.line.state.opened.length > 1);
     const {opened} = await state();
-    const folder = opened[opened.length - 1].target;
+    const folder = opened[opened.length - 1].target.replaceAll('\\', '/');  // as the add-in spells it
     assert.ok(fs.readdirSync(folder).length > 0, folder);
     await press('QM_HD_captureScreen');
     await idle();
@@ -278,24 +278,29 @@ const steps = {
   },
 
   async theDesignIsSavedAndOpened() {
-    await page.keyboard.press('Control+s');
+    await page.click('.quick [aria-label=More]');
+    await page.getByRole('menuitem', {name: 'Save As'}).click();
     await page.waitForSelector('dialog.files');
     await page.getByRole('option', {name: 'gears'}).dblclick();
     await page.getByLabel('File name').fill('slider.json');
     await page.locator('dialog.files').getByRole('button', {name: 'Save'}).click();
     await until(() => !hostPage.line.state.document.changed);
     assert.ok(fs.readFileSync(path.join(host.data, 'gears/slider.json'), 'utf8').includes('Picked in the model'));
+    await page.waitForSelector('dialog.files', {state: 'detached'});
+    await page.keyboard.press('Control+s');  // the file is there by now
+    await page.getByRole('alertdialog', {name: 'Replace?'}).getByRole('button', {name: 'Replace'}).click();
+    await page.getByRole('alertdialog').waitFor({state: 'detached'});
     await page.keyboard.press('Control+o');
     await page.getByRole('option', {name: 'gears'}).dblclick();
     await page.getByRole('option', {name: 'slider.json'}).dblclick();
-    await until(() => hostPage.line.state.document.file.endsWith('slider.json') && hostPage.line.pending === 0);
+    await until(() => hostPage.line.state.document.file.endsWith('slider.json') && hostPage.line.isSettled);
     assert.ok((await state()).tree.components.some(each => each.partNumber === 'NEW-1'));
   },
 
   async theAddInIsLoadedAgain() {
     await openBom();
     await page.click('.quick [aria-label^="Reload add-in:"]');
-    await until(() => hostPage.line.state.dialog === null && hostPage.line.state.addin.running && hostPage.line.state.busy === null && hostPage.line.pending === 0);
+    await until(() => hostPage.line.state.dialog === null && hostPage.line.state.addin.running && hostPage.line.state.busy === null && hostPage.line.isSettled);
     assert.deepStrictEqual((await texts('.command span')).slice(0, 2), ['Edit custom properties', 'BOM']);
     await openBom();
     await host.stop();  // with a dialog open

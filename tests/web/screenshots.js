@@ -12,7 +12,7 @@ async function main() {
   const host = await serveHost(program, file);
   const browser = await startBrowser();
   const page = await openHost(host.url, {viewport: {width: 1280, height: 800}});
-  const idle = () => page.waitForFunction(() => hostPage.line.pending === 0 && !hostPage.scene.viewer.scheduled);
+  const idle = () => page.waitForFunction(() => hostPage.line.isSettled && !hostPage.scene.viewer.scheduled);
   const picture = async name => {
     await idle();
     await page.mouse.move(640, 3);
@@ -42,7 +42,7 @@ async function main() {
   await page.click('[data-command=QM_TX_BOM]');
   await dialog(640, 420);
   await aside(1.5, 0.35, -0.12);
-  await page.locator('.body .pictured button[aria-label=ColapseAsm]').first().click();
+  await page.locator('.body .pictured button:has(img[src*="/ColapseAsm/"])').first().click();
   await picture('bom');
 
   await page.getByRole('tab', {name: 'BOM Configuration'}).click();
@@ -56,7 +56,7 @@ async function main() {
   await page.click('[data-command=QM_TX_BOM]');
   await page.waitForSelector('#command-dialog');
   await page.getByRole('tab', {name: 'Structure', exact: true}).click();
-  await page.locator('#command-dialog .DropDown select').selectOption('Ascending');
+  await page.locator('#command-dialog .field.DropDown select').selectOption('Ascending');
   await idle();
   await page.locator('.head .push', {hasText: 'Part Number'}).click();
   await picture('structure');
@@ -67,7 +67,7 @@ async function main() {
   await aside(1.1, 0.12, 0);
   await page.focus('[role=tree]');
   for (const key of ['Home', 'ArrowDown', 'Enter']) await page.keyboard.press(key);
-  await page.waitForSelector('.selection .picked');
+  await page.waitForSelector('.choose[data-picked="1"]');
   await picture('properties');
   await close();
 

@@ -91,7 +91,6 @@ function Host({line, state, notice, made}: Props & {state: State}) {
         <Docked palettes={state.palettes} side="top" line={line}/>
         {stage}
         <Docked palettes={state.palettes} side="bottom" line={line}/>
-        {logShown && <Log state={state} close={() => setLogShown(false)}/>}
       </div>
       <Docked palettes={state.palettes} side="right" line={line}/>
       {state.dialog && room && <CommandDialog dialog={state.dialog} line={line} frozen={isBusy} room={() => room}/>}
@@ -100,6 +99,7 @@ function Host({line, state, notice, made}: Props & {state: State}) {
       {menu && <Menu entries={menu.entries} label={texts.menu} at={menu} close={() => setMenu(null)}/>}
       <Notices notice={notice}/>
     </main>
+    {logShown && <Log state={state} close={() => setLogShown(false)}/>}
     <StatusBar line={line} state={state}/>
     {line.line !== 'open' && <p class="banner" role="alert">{line.line === 'refused' ? texts.refused : texts.lost}</p>}
     {asking?.what === 'open' && <FilesBox title={texts.openTitle} filters={designs} line={line} cancel={() => setAsking(null)} pick={async ([file]) => { setAsking(null); await line.act('open', {file}); }}/>}

@@ -23,6 +23,7 @@ export class Connection {
   private page = 0;
   private queue: Waiting[] = [];
   private sending = false;
+  private answered = 0;  // the revision that has what the last action changed
   private readonly versions = new Map<string, number>();
 
   start(): void {
@@ -42,6 +43,9 @@ export class Connection {
 
   /// Actions that were asked for and not yet answered.
   get pending(): number { return this.queue.length + (this.sending ? 1 : 0); }
+
+  /// Nothing is on its way: all actions are answered, and the state has what they changed.
+  get isSettled(): boolean { return this.pending === 0 && this.revision >= this.answered; }
 
   /// Does an action after those asked for before; a refusal is shown to the user.
   async act(action: string, members: Members = {}): Promise<Answer> {
@@ -76,6 +80,7 @@ export class Connection {
     this.sending = true;
     for (let next = this.queue.shift(); next; next = this.queue.shift()) {
       const answer = await this.post(next.action, next.members);
+      this.answered = answer.revision ?? this.answered;
       for (const done of next.done) done(answer);
     }
     this.sending = false;
@@ -96,6 +101,7 @@ export class Connection {
   private begin({page, revision, state}: {page: number; revision: number; state: State}): void {
     this.page = page;
     this.revision = revision;
+    this.answered = 0;
     this.state = state;
     this.line = 'open';
     for (const member of Object.keys(state)) this.touch(member);

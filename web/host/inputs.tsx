@@ -134,13 +134,12 @@ function Selection({input, line}: InputProps) {
   const prompt = input.prompt || texts.picks;
   return (
     <div class="selection">
-      <button type="button" id={`input-${input.key}`} class={`push choose${input.active ? ' on' : ''}`} aria-pressed={input.active === true} title={prompt} disabled={!input.enabled}
+      <button type="button" id={`input-${input.key}`} class={`push choose${input.active ? ' on' : ''}`} aria-pressed={input.active === true} title={picked.length ? String(input.value) : prompt} data-picked={picked.length} disabled={!input.enabled}
               aria-label={`${input.caption}: ${picked.length ? `${texts.selected(picked.length)}, ${input.value}` : texts.pick}`}
               onClick={() => void line.act('click', {input: input.key})}>
-        <Icon sign="cursor"/><span>{picked.length ? texts.selected(picked.length) : texts.pick}</span>
+        <Icon sign="cursor"/><span>{picked.length === 1 ? String(input.value) : picked.length ? texts.selected(picked.length) : texts.pick}</span>
       </button>
       {picked.length > 0 && <button type="button" class="tool" title={texts.clear} aria-label={texts.clear} disabled={!input.enabled} onClick={() => void clear()}><Icon sign="clear"/></button>}
-      {picked.length > 0 && <span class="picked" title={String(input.value)}>{String(input.value)}</span>}
     </div>);
 }
 
