@@ -114,6 +114,88 @@ TEST_F(DialogViews, ATableHasItsCellsWithHiddenRowsMarkedAndItsToolbar) {
     EXPECT_EQ(summary(table.toolbar), "Button:add(false)");
 }
 
+TEST_F(DialogViews, RowsOfATableAreReadOnRequestAlone) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        const Ptr<TableCommandInput> table = inputs->addTableCommandInput("table", "", 1, "1:1");
+        for (int row = 0; row < 4; ++row) {
+            const std::string text = std::to_string(row);
+            const Ptr<CommandInput> cell = inputs->addStringValueInput("cell" + text, "", text);
+            cell->isVisible(row != 1);
+            table->addCommandInput(cell, row, 0, 0, row);
+        }
+        table->selectedRow(2);
+        table->maximumVisibleRows(7);
+    });
+
+    const InputView view = readDialog(TableRows::Skip).inputs.at(0);
+
+    EXPECT_TRUE(view.table.rows.empty());
+    EXPECT_EQ(view.table.rowCount, 4);
+    EXPECT_EQ(view.table.shownRows, (std::vector<int>{0, 2, 3}));
+    EXPECT_EQ(view.table.selectedRow, 2);
+    EXPECT_EQ(view.table.maximumRows, 7);
+    const std::vector<RowView> rows = readRows(inputOfKey(view.key), {3, 1, 2, -1, 4});
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(summary(rows[0].cells), "StringValue:cell3(3)");
+    EXPECT_EQ(rows[0].cells[0].columnSpan, 3);
+    EXPECT_EQ(summary(rows[1].cells), "StringValue:cell1(1)");
+    EXPECT_FALSE(rows[1].shown);
+    EXPECT_TRUE(rows[2].shown);
+    EXPECT_TRUE(rows[2].selected);
+}
+
+TEST_F(DialogViews, EachInputIsFoundByItsKey) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addStringValueInput("same", "", "outside");
+        const Ptr<CommandInputs> inside = inputs->addTabCommandInput("tab", "")->children();
+        const Ptr<CommandInputs> group = inside->addGroupCommandInput("group", "")->children();
+        group->addStringValueInput("same", "", "in the group");
+        const Ptr<CommandInput> gone = inside->addStringValueInput("gone", "");
+        inside->addStringValueInput("", "", "without an id");
+        gone->deleteMe();
+    });
+
+    const std::vector<InputView> inputs = readDialog().inputs;
+    const auto valueOf = [](std::uint32_t key) {
+        const Ptr<StringValueCommandInput> found = inputOfKey(key);
+        return found ? found->value() : "none";
+    };
+
+    const InputView& tab = inputs.at(1);
+    EXPECT_EQ(valueOf(inputs[0].key), "outside");
+    EXPECT_EQ(valueOf(tab.inputs.at(0).inputs.at(0).key), "in the group");
+    EXPECT_EQ(valueOf(tab.inputs.at(1).key), "without an id");
+    EXPECT_EQ(keyOf(inputOfKey(tab.key)), tab.key);
+    EXPECT_FALSE(inputOfKey(tab.inputs.at(1).key - 1));  // the deleted one
+    EXPECT_FALSE(inputOfKey(0));
+}
+
+TEST_F(DialogViews, WithoutADialogNoInputHasAKey) {
+    EXPECT_FALSE(inputOfKey(1));
+    EXPECT_EQ(keyOf(nullptr), 0U);
+}
+
+TEST_F(DialogViews, SelectionsTextBoxesAndListsSayWhatTheyTake) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        inputs->addSelectionInput("pick", "Pick", "Pick two")->setSelectionLimits(2, 5);
+        inputs->addTextBoxCommandInput("box", "Box", "<b>b</b>", 3, /*isReadOnly=*/true)
+            ->isFullWidth(true);
+        inputs->addButtonRowCommandInput("many", "", true);
+        inputs->addButtonRowCommandInput("one", "", false);
+    });
+
+    const std::vector<InputView> inputs = readDialog().inputs;
+
+    EXPECT_EQ(inputs[0].selection.prompt, "Pick two");
+    EXPECT_EQ(inputs[0].selection.minimum, 2U);
+    EXPECT_EQ(inputs[0].selection.maximum, 5U);
+    EXPECT_EQ(inputs[1].formatted, "<b>b</b>");
+    EXPECT_EQ(inputs[1].lines, 3);
+    EXPECT_TRUE(inputs[1].fullWidth);
+    EXPECT_TRUE(inputs[2].multiple);
+    EXPECT_FALSE(inputs[3].multiple);
+}
+
 TEST_F(DialogViews, ButtonsSizeAndTheReasonAgainstOkAreRead) {
     open([](const Ptr<Command>& command) {
         command->setDialogInitialSize(300, 200);

@@ -56,6 +56,13 @@ TEST_F(ToolbarViews, ACommandThatNoPanelHoldsIsWithoutAButton) {
     EXPECT_EQ(commandIds(), (std::vector<std::string>{"Alone"}));
 }
 
+TEST_F(ToolbarViews, CommandIsReadByItsId) {
+    ui()->commandDefinitions()->addButtonDefinition("Mine", "My command", "Does it", "./icons");
+
+    EXPECT_EQ(readCommand("Mine"), (ControlView{"Mine", "My command", "Does it", "./icons"}));
+    EXPECT_TRUE(readCommand("Nobodys").isDeleted);
+}
+
 TEST_F(ToolbarViews, AControlOutlivesItsCommand) {
     const Ptr<CommandDefinition> gone = command("Gone");
     ui()->allToolbarPanels()->item(0)->controls()->addCommand(gone);
