@@ -26,6 +26,14 @@ else()
     target_include_directories(toml_headers SYSTEM INTERFACE ${toml_include})
     find_package(GTest REQUIRED)
     find_package(LibXml2 REQUIRED)
+    # The packaged library is built with all it supports, on which the layout of its classes depends.
+    find_path(HTTPLIB_INCLUDE httplib.h REQUIRED)
+    find_library(HTTPLIB_LIBRARY cpp-httplib REQUIRED)
+    find_package(Threads REQUIRED)
+    add_library(http_library INTERFACE)
+    target_include_directories(http_library SYSTEM INTERFACE ${HTTPLIB_INCLUDE})
+    target_compile_definitions(http_library INTERFACE CPPHTTPLIB_OPENSSL_SUPPORT CPPHTTPLIB_ZLIB_SUPPORT CPPHTTPLIB_BROTLI_SUPPORT)
+    target_link_libraries(http_library INTERFACE ${HTTPLIB_LIBRARY} Threads::Threads)
 endif()
 
 # The compiler's runtime lies beside the Windows programs: all of them and the module share it.

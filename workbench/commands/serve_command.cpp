@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace workbench {
 namespace {
@@ -52,6 +53,10 @@ host::SessionOptions servedSession(const AddinChoice& choice) {
     session.lockTimeout = kLockTimeout;
     session.unloadAtEnd = kUnloadsAddin;
     session.system.sleepTakesTime = true;
+    // A module places its palettes by the host's window; the page has them at its nearer edges.
+    session.system.windows = std::vector<host::WindowShown>{
+        {.title = "Autodesk Fusion 360",
+         .inside = {.left = 0, .top = 0, .right = 1280, .bottom = 800}}};
     session.system.windows = {{{"Autodesk Fusion 360", {0, 0, 1280, 800}}}};  // the page
     session.host.clock = host::clock::ClockMode::Real;
     return session;

@@ -44,12 +44,13 @@ std::string encoded(const std::string& path) {
 
 std::optional<fs::path> fileInside(const fs::path& folder, const std::string& path) {
     std::error_code failure;
-    if (path.find('\0') != std::string::npos || host::fromUtf8(path).is_absolute()) {
+    const fs::path relative = host::fromUtf8(path);
+    if (path.find('\0') != std::string::npos || relative.has_root_path() ||
+        std::ranges::find(relative, "..") != relative.end()) {
         return std::nullopt;
     }
     const fs::path home = fs::canonical(folder, failure);
-    const fs::path file =
-        failure ? fs::path() : fs::canonical(home / host::fromUtf8(path), failure);
+    const fs::path file = failure ? fs::path() : fs::canonical(home / relative, failure);
     const bool isInside =
         !failure && std::ranges::mismatch(home, file).in1 == home.end() && file != home;
     return isInside && fs::is_regular_file(file, failure) ? std::optional(file) : std::nullopt;

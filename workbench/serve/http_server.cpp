@@ -1,6 +1,8 @@
 #include "workbench/serve/http_server.h"
 
 #include "workbench/cli/exit_code.h"
+#include "workbench/serve/event_stream.h"
+#include "workbench/serve/host_calls.h"
 #include "workbench/serve/model_bytes.h"
 #include "workbench/serve/palette_pages.h"
 #include "workbench/serve/protocol_error.h"
@@ -14,7 +16,6 @@
 
 #include <charconv>
 #include <fstream>
-#include <future>
 #include <iterator>
 #include <optional>
 #include <thread>
@@ -26,7 +27,7 @@ namespace {
 using httplib::Request;
 using httplib::Response;
 
-constexpr std::size_t kThreads = 32;
+constexpr std::size_t kThreads = 64;
 constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
 constexpr const char* kAddress = "127.0.0.1";
 
@@ -79,65 +80,6 @@ std::string bytesOf(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-std::string event(const char* name, const Json& data) {
-    return "event: " + std::string(name) + "\ndata: " + textOf(data) + "\n\n";
-}
-
-/// What the server's threads ask of the host, done on the main thread.
-class HostCalls {
-public:
-    HostCalls(MainQueue& queue, ServedHost& host) : queue_(queue), host_(host) {}
-
-    /// Does `work` with the host, and returns what it returned or throws what it threw.
-    template <class Result>
-    Result run(std::function<Result(ServedHost&)> work) const {
-        const auto promise = std::make_shared<std::promise<Result>>();
-        std::future<Result> result = promise->get_future();
-        post([promise, work = std::move(work), &host = host_] {
-            try {
-                promise->set_value(work(host));
-            } catch (...) {
-                promise->set_exception(std::current_exception());
-            }
-        });
-        return result.get();
-    }
-
-    /// Does an action; returns its answer, which may come before the action is over.
-    [[nodiscard]] Json act(Action action) const {
-        const auto promise = std::make_shared<std::promise<Json>>();
-        std::future<Json> result = promise->get_future();
-        post([promise, action = std::move(action), &host = host_] {
-            try {
-                host.act(action, [promise](const Json& answer) { promise->set_value(answer); });
-            } catch (...) {
-                promise->set_exception(std::current_exception());
-            }
-        });
-        return result.get();
-    }
-
-    /// Shows a new page what it opens with.
-    void greet(const std::shared_ptr<Page>& page) const {
-        post([page, &host = host_] { host.greet(page); });
-    }
-
-    [[nodiscard]] const DataFolder& data() const { return host_.data(); }
-
-private:
-    void post(MainQueue::Work work) const {
-        if (queue_.isClosed()) {
-            throw ProtocolError(kUnavailable, "the program is ending");
-        }
-        if (!queue_.post(std::move(work))) {
-            throw ProtocolError(kTooManyRequests, "too many requests wait; try again");
-        }
-    }
-
-    MainQueue& queue_;
-    ServedHost& host_;
-};
-
 std::size_t numberIn(const std::string& text) {
     std::size_t number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -146,45 +88,6 @@ std::size_t numberIn(const std::string& text) {
     }
     return number;
 }
-
-/// The stream of one page.
-class EventStream {
-public:
-    EventStream(Pages& pages, std::shared_ptr<Page> page) : pages_(pages), page_(std::move(page)) {}
-    EventStream(const EventStream&) = delete;
-    EventStream& operator=(const EventStream&) = delete;
-    ~EventStream() { pages_.remove(*page_); }
-
-    /// Sends the next event, or a sign of life; false at the end of the stream.
-    bool sendNext(httplib::DataSink& sink) {
-        const std::shared_ptr<const State> next = page_->next(sent_ ? sent_->revision : 0);
-        if (page_->isClosed()) {
-            sink.done();
-            return true;
-        }
-        const std::string text = next ? textOfChange(*next) : ": still there\n\n";
-        if (next) {
-            sent_ = next;
-        }
-        return sink.write(text.data(), text.size());
-    }
-
-private:
-    [[nodiscard]] std::string textOfChange(const State& next) const {
-        if (!sent_) {
-            return event("state", {{"version", 1},
-                                   {"page", page_->number()},
-                                   {"revision", next.revision},
-                                   {"state", documentOf(next)}});
-        }
-        return event("change",
-                     {{"revision", next.revision}, {"patch", patchBetween(*sent_, next)}});
-    }
-
-    Pages& pages_;
-    std::shared_ptr<Page> page_;
-    std::shared_ptr<const State> sent_;
-};
 
 }  // namespace
 
@@ -223,6 +126,7 @@ void HttpServer::Parts::configure() {
     server.set_payload_max_length(kMostBytes);
     server.set_tcp_nodelay(true);
     server.set_keep_alive_max_count(1000);
+    server.set_keep_alive_timeout(2);  // an idle connection keeps a thread, and the end waiting
     constexpr time_t kSeconds = 10;
     server.set_read_timeout(kSeconds);
     server.set_write_timeout(kSeconds);
@@ -339,8 +243,15 @@ void HttpServer::Parts::events(Response& response) const {
     const auto stream = std::make_shared<EventStream>(pages, page);
     host->greet(page);
     response.set_chunked_content_provider(
-        "text/event-stream",
-        [stream](std::size_t, httplib::DataSink& sink) { return stream->sendNext(sink); });
+        "text/event-stream", [stream](std::size_t, httplib::DataSink& sink) {
+            const std::optional<std::string> text = stream->next();
+            if (!text) {
+                sink.done();
+                return true;
+            }
+            // Nothing to say for a second: time to see whether the page is still there.
+            return text->empty() ? sink.is_writable() : sink.write(text->data(), text->size());
+        });
 }
 
 void HttpServer::Parts::action(const Request& request, Response& response) {

@@ -7,7 +7,7 @@ namespace workbench::serve {
 namespace {
 
 constexpr std::size_t kMostPages = 16;
-constexpr std::chrono::seconds kSignOfLife{15};
+constexpr std::chrono::seconds kPause{1};
 
 }  // namespace
 
@@ -30,7 +30,7 @@ void Page::close() {
 std::shared_ptr<const State> Page::next(std::uint64_t revision) {
     std::unique_lock lock(mutex_);
     const bool isThere = changed_.wait_for(
-        lock, kSignOfLife, [&] { return closed_ || (state_ && state_->revision > revision); });
+        lock, kPause, [&] { return closed_ || (state_ && state_->revision > revision); });
     return isThere && !closed_ ? state_ : nullptr;
 }
 

@@ -32,8 +32,8 @@ public:
     /// Ends the stream.
     void close();
 
-    /// Waits for a state that is newer than `revision`, for as long as the pause between two signs
-    /// of life. Null where none came; `isClosed` says whether one will come.
+    /// Waits for a state that is newer than `revision`, for a second at most. Null where none came;
+    /// `isClosed` says whether one will come.
     std::shared_ptr<const State> next(std::uint64_t revision);
 
     [[nodiscard]] bool isClosed() const;

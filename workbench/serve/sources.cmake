@@ -1,7 +1,4 @@
 # The host as a page in the browser, for `workbench_core`. Included: the embedded files are sources of that library.
-find_path(HTTPLIB_INCLUDE httplib.h REQUIRED)
-find_library(HTTPLIB_LIBRARY cpp-httplib REQUIRED)
-find_package(Threads REQUIRED)
 
 # What is served from the program itself: the built page, which is committed, and the pages of palettes.
 function(embed_files function root)
@@ -25,9 +22,9 @@ embed_files(siteFiles ${PROJECT_SOURCE_DIR}/site ${site})
 target_sources(workbench_core PRIVATE
     cli/${system}/stop_signals.cpp
     serve/action.cpp serve/addin_pictures.cpp serve/changes.cpp serve/data_folder.cpp serve/design_digest.cpp
-    serve/event_log.cpp serve/http_server.cpp serve/main_queue.cpp serve/model_bytes.cpp serve/pages.cpp
-    serve/palette_pages.cpp serve/request_guard.cpp serve/serve.cpp serve/served_host.cpp serve/state_json.cpp)
+    serve/event_log.cpp serve/event_stream.cpp serve/http_server.cpp serve/main_queue.cpp serve/model_bytes.cpp serve/pages.cpp
+    serve/palette_pages.cpp serve/request_guard.cpp serve/serve.cpp serve/served_host.cpp
+    serve/served_questions.cpp serve/served_state.cpp serve/state_json.cpp)
 set_source_files_properties(serve/http_server.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 target_compile_definitions(workbench_core PRIVATE TARNIX_SITE="${TARNIX_SITE}")
-target_include_directories(workbench_core SYSTEM PRIVATE ${HTTPLIB_INCLUDE})
-target_link_libraries(workbench_core PUBLIC Threads::Threads PRIVATE ${HTTPLIB_LIBRARY})
+target_link_libraries(workbench_core PRIVATE http_library)

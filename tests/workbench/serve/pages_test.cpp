@@ -25,6 +25,14 @@ std::string tabsOf(const Json& state) {
     return tabs;
 }
 
+/// The table of the dialog's first tab.
+Json tableOf(const Json& state) {
+    for (const Json& each : state["dialog"]["inputs"][0]["inputs"]) {
+        if (each["kind"] == "Table") return each;
+    }
+    return nullptr;
+}
+
 /// The program with a small design, and its pages.
 class ServedPages : public Workbench {
 protected:
@@ -89,8 +97,8 @@ TEST_F(ServedPages, RowsAreSentForTheWindowOfThePage) {
     const PageClient other(*program);
 
     page.act(press(kBom));
-    const Json table = page.state()["dialog"]["inputs"][0]["inputs"][0];
-    ASSERT_EQ(table["kind"], "Table");
+    const Json table = tableOf(page.state());
+    ASSERT_TRUE(table.is_object());
     EXPECT_EQ(table["shownCount"], 301);
     EXPECT_EQ(table["window"]["order"].size(), 60U);
     Json view = onInput("view", table);
@@ -98,7 +106,7 @@ TEST_F(ServedPages, RowsAreSentForTheWindowOfThePage) {
     view["count"] = 20;
     page.act(view);
 
-    const Json window = page.state()["dialog"]["inputs"][0]["inputs"][0]["window"];
+    const Json window = tableOf(page.state())["window"];
     EXPECT_EQ(window["from"], 250);
     EXPECT_EQ(window["order"][0], 250);
     EXPECT_EQ(window["order"].size(), 20U);
@@ -106,7 +114,7 @@ TEST_F(ServedPages, RowsAreSentForTheWindowOfThePage) {
     EXPECT_EQ(window["first"], 0);
     const Json others =
         other.waitFor([](const Json& state) { return state["dialog"].is_object(); });
-    EXPECT_EQ(others["dialog"]["inputs"][0]["inputs"][0]["window"]["from"], 0);
+    EXPECT_EQ(tableOf(others)["window"]["from"], 0);
 }
 
 TEST_F(ServedPages, PageThatIsClosedInADialogCanBeOpenedAgain) {
@@ -157,6 +165,25 @@ TEST_F(ServedPages, ProgramEndsOnASignalWhileAFileDialogWaits) {
     PageClient page(*program);
     page.act(press("QEMA_OpenLocalCmd_QAT"));
 
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(ServedPages, WaitingOfTheAddinIsShownAndEndsWithTheProgram) {
+    serve();
+    writeFile(folder.path() / "data/tarnix-workbench/Projects/Local/frame.ipt", "nothing");
+    PageClient page(*program);
+    page.act(press("QEMA_OpenLocalCmd_QAT"));
+
+    page.act({{"action", "answerFile"},
+              {"id", page.state()["fileDialog"]["id"]},
+              {"files", {"Local/frame.ipt"}}});
+
+    const Json waiting = page.waitFor([](const Json& state) {
+        return state["progress"].is_object() &&
+               state["progress"]["text"].get<std::string>().starts_with("Converting");
+    });
+    ASSERT_FALSE(waiting.is_null());
+    EXPECT_EQ(waiting["progress"]["cancelled"], false);
     EXPECT_EQ(program->stop(), 0);
 }
 

@@ -134,9 +134,9 @@ TEST_F(Server, PicturesOfTheAddinAreServedAndNothingElseOfItsFolder) {
 TEST_F(Server, NothingOutsideOfTheDataFolderIsListed) {
     EXPECT_EQ(getWithCookie("/files"), 200);
     EXPECT_EQ(getWithCookie("/files?folder=Local"), 200);
-    for (const char* const folder : {"..", "../Tarnix", "Local/../..", "/", "/etc", ".", "nowhere",
+    for (const char* const name : {"..", "../Tarnix", "Local/../..", "/", "/etc", ".", "nowhere",
                                      "Local%00", "%2e%2e%2fTarnix"}) {
-        EXPECT_EQ(getWithCookie(std::string("/files?folder=") + folder), 404) << folder;
+        EXPECT_EQ(getWithCookie(std::string("/files?folder=") + name), 404) << name;
     }
 }
 
