@@ -39,9 +39,10 @@ set(rules
     "parts|(tarnix|workbench|tests|bench)/.*||parts/ knows plain designs and nothing that shows or reads them"
     "parts|host/.*|host/base/base64.h,host/design/design_data.h,host/design/shape_invariants.h,host/design/shape_data.h,host/design/transform.h|parts/ knows plain designs and nothing that shows or reads them"
     "parts|(Core|Fusion)/.*||parts/ knows plain designs and nothing that shows or reads them"
-    "workbench/cli|workbench/(commands|dialogs|output)/.*|workbench/cli/main.cpp|cli/ serves the others, only the program lists the commands"
-    "workbench/output|workbench/(commands|dialogs)/.*||output/ writes what it is given"
-    "workbench/dialogs|workbench/commands/.*||dialogs/ does not know which command asks for it"
+    "workbench/cli|workbench/(commands|serve|dialogs|output)/.*|workbench/cli/main.cpp|cli/ serves the others, only the program lists the commands"
+    "workbench/output|workbench/(commands|serve|dialogs)/.*||output/ writes what it is given"
+    "workbench/dialogs|workbench/(commands|serve)/.*||dialogs/ does not know which command asks for it"
+    "workbench/serve|workbench/(commands|dialogs)/.*||serve/ knows no add-in in particular"
     "workbench|(tarnix|tests|bench)/.*||the workbench reaches the add-in as a module alone"
     "workbench|host/.*|host/session/,host/base/folder_lock.h,host/base/utf8_path.h,host/design/atomic_file.h,host/design/design_data.h,host/design/design_file.h,host/design/design_measures.h,host/design/reading_error.h,host/design/reading_limits.h,host/design/reading_warning.h,host/design/shape_data.h,host/import/content_hash.h,host/import/design_source.h,host/import/file_check.h,host/import/read_design.h,host/import/read_shapes.h,host/import/read_tree.h,host/import/reading_cache.h|the workbench talks to the session, and to plain designs, files and paths")
 
@@ -88,6 +89,13 @@ function(check_file file)
         file(STRINGS ${file} named REGEX "QEMA_|QM_TX_|QM_HD_|[Tt]arnix")
         foreach(line IN LISTS named)
             message("${name}: '${line}': the host knows nothing of an add-in")
+            math(EXPR violations "${violations} + 1")
+        endforeach()
+    endif()
+    if(name MATCHES "^workbench/serve/")
+        file(STRINGS ${file} named REGEX "QEMA_|QM_TX_|QM_HD_")
+        foreach(line IN LISTS named)
+            message("${name}: '${line}': serve/ knows no add-in in particular")
             math(EXPR violations "${violations} + 1")
         endforeach()
     endif()

@@ -1,0 +1,3 @@
+#include "workbench/dialogs/addin_ids.h"
+
+const char* const command = "QM_TX_BOM";
