@@ -251,7 +251,7 @@ const steps = {
     await press('QM_TX_unitsConversion');
     const frame = page.frameLocator('iframe[title]').first();
     await frame.locator('#result').waitFor();
-    const box = await page.locator('[id^=palette-]').boundingBox();
+    const box = await page.locator('section.palette').boundingBox();
     assert.ok(Math.abs(box.x + box.width - (1280 - 5)) <= 3 && box.width === 260, JSON.stringify(box));
     const converted = async value => {
       await frame.locator('#value').fill(value);
@@ -260,8 +260,8 @@ const steps = {
     const [one, two] = [await converted('1'), await converted('2')];
     assert.ok(one > 0 && Math.abs(two / one - 2) < 1e-6, `${one} ${two}`);
     await picture('palettes');
-    await page.locator('[id^=palette-] .tool').click();
-    await page.waitForSelector('[id^=palette-]', {state: 'detached'});
+    await page.locator('section.palette .tool').click();
+    await page.waitForSelector('section.palette', {state: 'detached'});
   },
 
   async aCommandThatWaitsIsCancelled() {
