@@ -37,6 +37,7 @@ async function main() {
   };
 
   await page.locator('.twisty.closed').first().click();
+  await aside(1.12, 0, -0.02);
   await picture('assembly');
 
   await page.click('[data-command=QM_TX_BOM]');
@@ -56,24 +57,24 @@ async function main() {
   await page.click('[data-command=QM_TX_BOM]');
   await page.waitForSelector('#command-dialog');
   await page.getByRole('tab', {name: 'Structure', exact: true}).click();
-  await page.locator('#command-dialog .field.DropDown select').selectOption('Ascending');
-  await idle();
-  await page.locator('.head .push', {hasText: 'Part Number'}).click();
+  await page.waitForSelector('#command-dialog .field.DropDown');
   await picture('structure');
   await close();
 
   await page.click('[data-command=QEMA_EditPropertiesCmd]');
   await page.waitForSelector('#command-dialog');
   await aside(1.1, 0.12, 0);
-  await page.focus('[role=tree]');
-  for (const key of ['Home', 'ArrowDown', 'Enter']) await page.keyboard.press(key);
+  await page.waitForSelector('.choose[data-picked]:not([data-picked="0"])');  // what was selected
+  await page.getByRole('button', {name: 'Clear the selection'}).click();
+  await page.waitForSelector('.choose[data-picked="0"]');
+  await page.locator('.node', {hasText: 'PG42-300'}).click();
   await page.waitForSelector('.choose[data-picked="1"]');
   await picture('properties');
   await close();
 
   await page.evaluate(() => hostPage.line.act('pick', {path: ''}));
   await page.evaluate(() => hostPage.line.act('selectInModel', {paths: []}));
-  await aside(1, 0, 0);
+  await aside(1.12, 0.1, -0.02);
   await page.evaluate(() => hostPage.line.act('press', {command: 'QM_TX_unitsConversion'}));
   await page.frameLocator('iframe').locator('#result').waitFor();
   await page.click('.quick [aria-label^=Log]');
