@@ -108,8 +108,8 @@ void addServeCommand(CLI::App& program) {
     addAddin(command, options.addin);
     addReading(command, options.reading);
     command.footer(
-        "Prints the address to open, which nobody else can use. Ctrl-C ends the program; what was\n"
-        "not saved on the page is lost then.");
+        "Prints the address to open, which has a secret token in it. Ctrl-C ends the program; what\n"
+        "was not saved on the page is lost then.");
 }
 
 }  // namespace workbench

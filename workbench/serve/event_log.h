@@ -22,7 +22,7 @@ public:
 
     void add(const host::ReadingWarning& warning);
 
-    /// Adds a line that is no one's event.
+    /// Adds a line of the program's own.
     void addWarning(const std::string& text);
 
     [[nodiscard]] const Json& json() const { return entries_; }

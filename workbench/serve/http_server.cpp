@@ -84,7 +84,7 @@ std::size_t numberIn(const std::string& text) {
     std::size_t number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (failure != std::errc() || end != text.data() + text.size()) {
-        throw ProtocolError(kNotFound, "there is nothing of this name");
+        throw ProtocolError(kNotFound, "no such address");
     }
     return number;
 }
@@ -152,7 +152,7 @@ void HttpServer::Parts::configure() {
     server.set_error_handler([](const Request&, Response& response) {
         if (response.body.empty() && response.status >= kBadRequest) {
             refuse(response, {response.status, response.status == kNotFound
-                                                   ? "there is nothing of this name"
+                                                   ? "no such address"
                                                    : "the request cannot be answered"});
         }
     });

@@ -38,7 +38,7 @@ bool endsIn(const std::string& text, const std::string& ending) {
     return text.size() > ending.size() && text.ends_with(ending);
 }
 
-/// Whether an action is one that waits for no one.
+/// Whether an action is possible while the module waits.
 bool isAnswer(ActionKind kind) {
     return kind == ActionKind::AnswerMessage || kind == ActionKind::AnswerFile ||
            kind == ActionKind::View;

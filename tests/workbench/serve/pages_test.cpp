@@ -234,7 +234,7 @@ TEST_F(ServedPages, AddinIsLoadedAgainAndTheDesignStays) {
     EXPECT_EQ(page.state()["dialog"]["command"], kBom);
 }
 
-TEST_F(ServedPages, ClientThatReadsNothingDisturbsNoOne) {
+TEST_F(ServedPages, ClientThatReadsNothingDoesNotDisturbOthers) {
     serve();
     RawConnection silent(program->port());
     silent.send("GET /events HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(program->port()) +
