@@ -75,6 +75,16 @@ core::Ptr<core::Document> DocumentsObject::open(const core::Ptr<core::DataFile>&
     }
 }
 
+core::Ptr<core::Document> DocumentsObject::add(core::DocumentTypes documentType, bool /*visible*/,
+                                               const core::Ptr<core::NamedValues>& /*options*/) {
+    if (closed<"add">(*this)) return {};
+    if (documentType != core::FusionDesignDocumentType) {
+        fail(core::BadApiCallError, "Documents::add: only designs can be created");
+        return {};
+    }
+    return ApplicationObject::current()->openInHost(emptyDesign());
+}
+
 void DocumentsObject::add(const core::Ptr<core::Document>& document) {
     if (document && std::find(all_.begin(), all_.end(), document) == all_.end()) {
         all_ = open();

@@ -17,6 +17,8 @@ public:
     [[nodiscard]] core::Ptr<core::Document> item(std::size_t index) const override;
     core::Ptr<core::Document> open(const core::Ptr<core::DataFile>& dataFile,
                                    bool visible) override;
+    core::Ptr<core::Document> add(core::DocumentTypes documentType, bool visible,
+                                  const core::Ptr<core::NamedValues>& options) override;
 
     /// @name For the host itself
     /// @{

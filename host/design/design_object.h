@@ -4,6 +4,7 @@
 #include "host/design/attributes_object.h"
 #include "host/design/component_object.h"
 #include "host/design/edits.h"
+#include "host/design/units_manager_object.h"
 
 #include <Core/Product.h>
 #include <Fusion/Design.h>
@@ -35,12 +36,17 @@ public:
         return this->template get<"Product::attributes">(attributes_);
     }
 
+    [[nodiscard]] core::Ptr<core::UnitsManager> unitsManager() const override {
+        return this->template get<"Product::unitsManager">(units_);
+    }
+
     [[nodiscard]] std::vector<AttributeData> attributeData() const {
         return attributes_->snapshot();
     }
 
     void dispose() {
         attributes_->dispose();
+        units_->invalidate();
         document_ = nullptr;
         this->invalidate();
     }
@@ -49,6 +55,7 @@ private:
     core::Document* document_;
     std::string type_;
     core::Ptr<AttributesObject> attributes_;
+    core::Ptr<UnitsManagerObject> units_ = make<UnitsManagerObject>();
 };
 
 /// A document's design.
@@ -63,8 +70,14 @@ public:
         return get<"rootComponent">(root_);
     }
 
+    [[nodiscard]] fusion::DesignTypes designType() const override {
+        return get<"designType">(designType_);
+    }
+    bool designType(fusion::DesignTypes value) override { return set<"designType">(designType_, value); }
+
 private:
     core::Ptr<ComponentObject> root_;
+    fusion::DesignTypes designType_ = fusion::ParametricDesignType;
 };
 
 /// What another workspace shows of a document: a product that is no design.

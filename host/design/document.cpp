@@ -181,6 +181,13 @@ core::Ptr<core::Document> makeDocument(DesignData data,
     return make<FusionDocumentObject>(std::move(data), parent);
 }
 
+DesignData emptyDesign() {
+    DesignData design;
+    design.name = "Untitled";
+    design.components.emplace_back().name = design.name;
+    return design;
+}
+
 core::Ptr<fusion::Design> designOf(const core::Ptr<core::Document>& document) {
     const FusionDocumentObject* object = objectOf(document);
     return object != nullptr ? core::Ptr<fusion::Design>(object->design()) : nullptr;

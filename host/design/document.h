@@ -28,6 +28,9 @@ namespace host {
 core::Ptr<core::Document> makeDocument(DesignData data,
                                        const core::Ptr<core::Application>& parent = nullptr);
 
+/// The design of a new document: "Untitled", with nothing in it.
+DesignData emptyDesign();
+
 /// The design of a document, null for null and after the end.
 core::Ptr<fusion::Design> designOf(const core::Ptr<core::Document>& document);
 

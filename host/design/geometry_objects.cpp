@@ -2,6 +2,7 @@
 
 #include "host/base/last_error.h"
 #include "host/base/object.h"
+#include "host/design/vector_objects.h"
 
 #include <Core/Enums.h>
 
@@ -13,30 +14,13 @@ namespace {
 
 using Corner = std::array<double, 3>;
 
-class Point3DObject final : public Object<core::Point3D> {
-public:
-    explicit Point3DObject(const Corner& corner) : corner_(corner) {}
-
-    [[nodiscard]] const Corner& corner() const { return corner_; }
-
-    [[nodiscard]] double x() const override { return get<"x">(corner_[0]); }
-    bool x(double value) override { return set<"x">(corner_[0], value); }
-    [[nodiscard]] double y() const override { return get<"y">(corner_[1]); }
-    bool y(double value) override { return set<"y">(corner_[1], value); }
-    [[nodiscard]] double z() const override { return get<"z">(corner_[2]); }
-    bool z(double value) override { return set<"z">(corner_[2], value); }
-
-private:
-    Corner corner_;
-};
-
 /// Copies a point's corner; false, with the failure noted, for null.
 bool readCorner(const core::Ptr<core::Point3D>& point, Corner& corner) {
     const auto* object = dynamic_cast<const Point3DObject*>(point.get());
     if (object == nullptr) {
         return fail(core::BadApiCallError, "a point is needed");
     }
-    corner = object->corner();
+    corner = object->place();
     return true;
 }
 
@@ -68,21 +52,6 @@ private:
     Box box_;
 };
 
-class Matrix3DObject final : public Object<core::Matrix3D> {
-public:
-    explicit Matrix3DObject(const Transform& transform) : transform_(transform) {}
-
-    [[nodiscard]] const Transform& transform() const { return transform_; }
-
-    [[nodiscard]] std::vector<double> asArray() const override {
-        if (closed<"asArray">(*this)) return {};
-        return {transform_.cells.begin(), transform_.cells.end()};
-    }
-
-private:
-    Transform transform_;
-};
-
 }  // namespace
 
 core::Ptr<core::Point3D> makePoint(const std::array<double, 3>& place) {
@@ -111,7 +80,7 @@ namespace adsk::core {
 
 Ptr<Point3D> Point3D::create(double x, double y, double z) {
     if (host::refused<"Point3D::create">()) return {};
-    return host::make<host::Point3DObject>(host::Corner{x, y, z});
+    return host::makePoint({x, y, z});
 }
 
 Ptr<BoundingBox3D> BoundingBox3D::create(const Ptr<Point3D>& minPoint,

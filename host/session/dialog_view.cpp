@@ -5,6 +5,7 @@
 #include "host/session/user_action.h"
 #include "host/session/user_actions.h"
 #include "host/ui/inputs/list_state.h"
+#include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/selection_command_input_object.h"
 #include "host/ui/inputs/table_command_input_object.h"
 
@@ -188,6 +189,27 @@ void read(InputView& view, const Ptr<core::TableCommandInput>& table, TableRows 
     view.table = readContents(table, rows);
 }
 
+/// A number shows the expression that was typed.
+template <class Number>
+void readNumber(InputView& view, const Ptr<Number>& number) {
+    view.kind = "StringValue";
+    view.value = ui::numberOf(InputState::of(number)).expression();
+}
+
+void read(InputView& view, const Ptr<core::ValueCommandInput>& input) { readNumber(view, input); }
+void read(InputView& view, const Ptr<core::DistanceValueCommandInput>& input) {
+    readNumber(view, input);
+}
+void read(InputView& view, const Ptr<core::AngleValueCommandInput>& input) {
+    readNumber(view, input);
+}
+void read(InputView& view, const Ptr<core::IntegerSpinnerCommandInput>& input) {
+    readNumber(view, input);
+}
+void read(InputView& view, const Ptr<core::FloatSpinnerCommandInput>& input) {
+    readNumber(view, input);
+}
+
 /// Reads it as the first of these interfaces that it has.
 template <class... Interfaces>
 void readAs(InputView& view, const Ptr<core::CommandInput>& input, TableRows rows) {
@@ -217,7 +239,9 @@ InputView readInput(const Ptr<core::CommandInput>& input, TableRows rows) {
     readAs<core::BoolValueCommandInput, core::StringValueCommandInput, core::TextBoxCommandInput,
            core::DropDownCommandInput, core::ImageCommandInput, core::RadioButtonGroupCommandInput,
            core::ButtonRowCommandInput, core::SelectionCommandInput, core::TabCommandInput,
-           core::GroupCommandInput, core::TableCommandInput>(view, input, rows);
+           core::GroupCommandInput, core::TableCommandInput, core::ValueCommandInput,
+           core::DistanceValueCommandInput, core::AngleValueCommandInput,
+           core::IntegerSpinnerCommandInput, core::FloatSpinnerCommandInput>(view, input, rows);
     return view;
 }
 

@@ -5,6 +5,7 @@
 #include "host/ui/inputs/bool_value_command_input_object.h"
 #include "host/ui/inputs/group_command_input_object.h"
 #include "host/ui/inputs/list_state.h"
+#include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/reachability.h"
 #include "host/ui/inputs/selection_command_input_object.h"
 #include "host/ui/inputs/string_value_command_input_object.h"
@@ -59,6 +60,7 @@ std::vector<std::string> prefixes(const std::string& text) {
 }
 
 bool isReadOnly(const InputState& input) {
+    if (input.kind == InputKind::Number) return false;
     if (input.kind == InputKind::String) {
         return static_cast<const ui::StringValueCommandInputObject&>(input).refusesUser();
     }
@@ -68,7 +70,8 @@ bool isReadOnly(const InputState& input) {
 /// A text that the user can change.
 InputState& writable(const Ptr<core::CommandInput>& input) {
     InputState& state = usable(input, "type into");
-    if (state.kind != InputKind::String && state.kind != InputKind::TextBox) {
+    if (state.kind != InputKind::String && state.kind != InputKind::TextBox &&
+        state.kind != InputKind::Number) {
         throw MisuseError("cannot type into " + ui::describe(state) + ": it holds no text");
     }
     if (isReadOnly(state)) {
@@ -80,6 +83,8 @@ InputState& writable(const Ptr<core::CommandInput>& input) {
 void enter(InputState& input, const std::string& text) {
     if (input.kind == InputKind::String) {
         static_cast<ui::StringValueCommandInputObject&>(input).enter(text);
+    } else if (input.kind == InputKind::Number) {
+        ui::numberOf(&input).enter(text);
     } else {
         static_cast<ui::TextBoxCommandInputObject&>(input).enter(text);
     }
@@ -227,6 +232,18 @@ void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
     InputState& state = writable(input);
     selectRowOf(state);
     enter(state, text);
+    acting.runner().changed(state);
+    acting.finish();
+}
+
+void spin(const Ptr<core::CommandInput>& input, int steps) {
+    UserAction acting;
+    InputState& state = usable(input, "spin");
+    if (state.kind != InputKind::Number || !ui::numberOf(&state).limits()) {
+        throw MisuseError("cannot spin " + ui::describe(state) + ": it has no arrows");
+    }
+    selectRowOf(state);
+    ui::numberOf(&state).spin(steps);
     acting.runner().changed(state);
     acting.finish();
 }

@@ -32,6 +32,10 @@ void typeText(const core::Ptr<core::CommandInput>& input, const std::string& tex
 /// Replaces the text by pasting; reported once.
 void pasteText(const core::Ptr<core::CommandInput>& input, const std::string& text);
 
+/// Clicks an arrow of a spinner so many times, the one that counts down for a negative number; the
+/// value stops at the limits. Reported once.
+void spin(const core::Ptr<core::CommandInput>& input, int steps);
+
 /// Chooses an item, which is reported; where several can be selected it unselects a selected one.
 /// Nothing happens for an item that is already chosen.
 void chooseItem(const core::Ptr<core::CommandInput>& input, const std::string& item);

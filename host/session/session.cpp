@@ -28,13 +28,6 @@ std::shared_ptr<const SessionFolder> folderFor(const SessionOptions& options) {
                              : SessionFolder::keep(options.home, options.lockTimeout));
 }
 
-DesignData emptyDesign() {
-    DesignData design;
-    design.name = "Untitled";
-    design.components.emplace_back().name = design.name;
-    return design;
-}
-
 /// Makes sure that the file will be loaded again: its statics are to be those of a new session.
 void unloadLeftModule(const std::filesystem::path& file) {
     auto& leftModules = processState().leftModules;

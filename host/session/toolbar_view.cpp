@@ -3,6 +3,7 @@
 #include "host/session/user_action.h"
 
 #include <unordered_set>
+#include <utility>
 
 namespace host {
 namespace {
@@ -45,7 +46,11 @@ PanelView readPanel(const ui::ToolbarPanelObject& panel) {
 ToolbarTabView readTab(const ui::ToolbarTabObject& tab) {
     ToolbarTabView view{.id = tab.state().id, .caption = tab.state().name, .panels = {}};
     for (const Ptr<ui::ToolbarPanelObject>& each : tab.panels()) {
-        view.panels.push_back(readPanel(*each));
+        // The host's own panels have no buttons here: they show once a module has added one.
+        if (tab.state().id == "ToolsTab" || !each->state().native ||
+            !each->state().controls->all().empty()) {
+            view.panels.push_back(readPanel(*each));
+        }
     }
     return view;
 }
@@ -57,7 +62,10 @@ WorkspaceView readWorkspace(const ui::WorkspaceObject& workspace, bool active) {
                        .active = active,
                        .tabs = {}};
     for (const Ptr<ui::ToolbarTabObject>& each : workspace.tabs()) {
-        view.tabs.push_back(readTab(*each));
+        ToolbarTabView tab = readTab(*each);
+        if (!tab.panels.empty() || each->panels().empty()) {
+            view.tabs.push_back(std::move(tab));
+        }
     }
     return view;
 }

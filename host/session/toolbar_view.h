@@ -32,6 +32,8 @@ struct ToolbarTabView {
     std::vector<PanelView> panels;
 };
 
+/// A workspace; of the host's own panels those that a module has added a button to, and all of the
+/// tab for tools.
 struct WorkspaceView {
     std::string id;
     std::string caption;

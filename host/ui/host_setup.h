@@ -15,6 +15,15 @@ struct WorkspaceSetup {
     std::string productType = "DesignProductType";  ///< of any other type: it shows no design
 };
 
+/// A panel of the host's own, empty until a module adds controls to it.
+struct PanelSetup {
+    std::string workspace;
+    std::string tab;
+    std::string tabName;
+    std::string id;
+    std::string name;
+};
+
 /// Which changes that code makes to inputs of the open dialog are reported to its handlers, as if
 /// the user had made them. They are reported after the running notification.
 enum class CodeChanges {
@@ -29,6 +38,14 @@ struct HostSetup {
         {"CAMEnvironment", "Manufacture", "CAMProductType"},
         {"FusionRenderEnvironment", "Render", "DesignProductType"},
         {"FusionDocumentationEnvironment", "Drawing", "DrawingProductType"},
+    };
+    /// The panels that add-ins look for, by tabs; "ToolsTab" comes after these.
+    std::vector<PanelSetup> panels = {
+        {"FusionSolidEnvironment", "SolidTab", "Solid", "SolidCreatePanel", "Create"},
+        {"FusionSolidEnvironment", "SolidTab", "Solid", "SolidModifyPanel", "Modify"},
+        {"FusionSolidEnvironment", "SolidTab", "Solid", "InspectPanel", "Inspect"},
+        {"FusionSolidEnvironment", "SketchTab", "Sketch", "SketchCreatePanel", "Create"},
+        {"CAMEnvironment", "MillingTab", "Milling", "CAMManagePanel", "Manage"},
     };
     CodeChanges codeChanges = CodeChanges::Lists;
 

@@ -33,6 +33,12 @@ UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveMod
 void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
     runner_.setIdleCommand(state_.definitions->addNative("SelectCommand", "Select"),
                            setup.selectCommand);
+    for (const PanelSetup& each : setup.panels) {
+        if (const auto workspace = state_.workspaces->find(each.workspace)) {
+            ToolbarTabObject& tab = workspace->tab(each.tab, each.tabName);
+            tab.add(each.id, each.name, /*native=*/true, tab.panels().size());
+        }
+    }
     if (!state_.workspaces->active()) return;
     const core::Ptr<ToolbarPanelObject> panel = state_.workspaces->active()->toolsTab().add(
         "SolidScriptsAddinsPanel", "Add-Ins", /*native=*/true, /*place=*/0);
@@ -68,6 +74,11 @@ core::DialogResults UserInterfaceObject::messageBox(const std::string& text,
 core::Ptr<core::FileDialog> UserInterfaceObject::createFileDialog() {
     if (closed<"createFileDialog">(*this)) return {};
     return make<FileDialogObject>();
+}
+
+core::Ptr<core::FolderDialog> UserInterfaceObject::createFolderDialog() {
+    if (closed<"createFolderDialog">(*this)) return {};
+    return make<FolderDialogObject>();
 }
 
 core::Ptr<core::ProgressDialog> UserInterfaceObject::createProgressDialog() {

@@ -93,6 +93,7 @@ public:
                                    core::MessageBoxButtonTypes buttons,
                                    core::MessageBoxIconTypes icon) override;
     core::Ptr<core::FileDialog> createFileDialog() override;
+    core::Ptr<core::FolderDialog> createFolderDialog() override;
     core::Ptr<core::ProgressDialog> createProgressDialog() override;
     bool terminateActiveCommand() override;
     [[nodiscard]] std::string activeCommand() const override;

@@ -57,5 +57,47 @@ TEST_F(ConformanceModule, StopsAfterTheNotificationThatTerminatesIt) {
               (LogLine{.text = "stopped", .level = WarningLogLevel, .type = ConsoleLogType}));
 }
 
+constexpr const char* kAllOperations =
+    "turned, 1 point, 2 cm, 26.000 mm, /target, visible, Untitled";
+
+TEST_F(ConformanceModule, CallsWhatAddInsAskMost) {
+    Session session(options());
+    session.openOutline("Bolt\nNut");
+    session.run();
+    session.press("ConformanceOperations");
+    session.type("value", "1 in");
+    answerNextFileDialog({{"/list.csv"}});
+    answerNextFileDialog({{"/target"}});
+
+    session.ok();
+
+    EXPECT_EQ(session.log().back().text, kAllOperations);
+    EXPECT_TRUE(session.uncaughtExceptions().empty());
+}
+
+// Whichever call returns nothing: the module may throw for a null handle, and the host goes on.
+TEST_F(ConformanceModule, SurvivesANullAtEveryHostCall) {
+    std::uint64_t call = 1;
+    for (bool refused = true; refused; ++call) {
+        Session session(options());
+        session.openOutline("Bolt\nNut");
+        session.run();
+        gate::reset();
+        gate::refuseAny(call);
+        answerNextFileDialog({{"/list.csv"}});
+        answerNextFileDialog({{"/target"}});
+        session.press("ConformanceOperations");
+        if (session.dialogOpen()) {
+            acceptAnyway();
+        }
+        refused = gate::refusedCall().has_value();
+        for (const UncaughtException& each : session.uncaughtExceptions()) {
+            EXPECT_EQ(each.type, "std::exception") << gate::refusedCall().value_or("");
+        }
+        EXPECT_FALSE(openDialog()) << gate::refusedCall().value_or("");
+    }
+    EXPECT_GT(call, 50U);
+}
+
 }  // namespace
 }  // namespace host

@@ -1,4 +1,5 @@
 #include "tests/conformance/idioms.h"
+#include "tests/conformance/operations.h"
 
 #include <Core/Application/Application.h>
 #include <Core/OSMacros.h>
@@ -42,6 +43,28 @@ public:
     }
 } onCreated;
 
+class OnExecuteOperations : public CommandEventHandler {
+public:
+    void notify(const Ptr<CommandEventArgs>& /*eventArgs*/) override {
+        app->log(operations::callAll(app));
+    }
+} onExecuteOperations;
+
+class OnCreatedOperations : public CommandCreatedEventHandler {
+public:
+    void notify(const Ptr<CommandCreatedEventArgs>& eventArgs) override {
+        Ptr<Command> command = eventArgs->command();
+        command->execute()->add(&onExecuteOperations);
+        operations::addInputs(command);
+    }
+} onCreatedOperations;
+
+bool addOperations() {
+    Ptr<CommandDefinition> definition = ui->commandDefinitions()->addButtonDefinition(
+        "ConformanceOperations", "Operations", "Calls what add-ins ask most");
+    return definition && definition->commandCreated()->add(&onCreatedOperations);
+}
+
 bool addTerminate() {
     Ptr<CommandDefinition> definition = ui->commandDefinitions()->addButtonDefinition(
         "ConformanceTerminate", "Terminate", "Ends this script");
@@ -58,7 +81,7 @@ extern "C" XI_EXPORT bool run(const char* /*context*/) {
     adsk::autoTerminate(false);
     const std::vector<std::string> wrong = idioms_cpp17::wrongIdioms(app);
     app->log(wrong.empty() ? "no idiom came out wrong" : "came out wrong: " + wrong.front());
-    return addTerminate();
+    return addTerminate() && addOperations();
 }
 
 extern "C" XI_EXPORT bool stop(const char* /*context*/) {

@@ -4,6 +4,8 @@
 #include <Core/ListInputs.h>
 #include <Core/Selections.h>
 #include <Core/TableCommandInput.h>
+#include <Core/ValueInputs.h>
+#include <Core/Values.h>
 
 #include <cstddef>
 #include <string>
@@ -89,6 +91,34 @@ public:
     virtual Ptr<SelectionCommandInput> addSelectionInput(const std::string& id,
                                                          const std::string& name,
                                                          const std::string& commandPrompt) = 0;
+
+    /// Adds an editable number with units. Null for an unknown `unitType` and for a value that is
+    /// neither a number nor an expression; an empty unit type stands for a plain number.
+    virtual Ptr<ValueCommandInput> addValueInput(const std::string& id, const std::string& name,
+                                                 const std::string& unitType,
+                                                 const Ptr<ValueInput>& initialValue) = 0;
+
+    /// Adds a length. Null for a value that is neither a number nor an expression.
+    virtual Ptr<DistanceValueCommandInput> addDistanceValueCommandInput(
+        const std::string& id, const std::string& name, const Ptr<ValueInput>& initialValue) = 0;
+
+    /// Adds an angle. Null for a value that is neither a number nor an expression.
+    virtual Ptr<AngleValueCommandInput> addAngleValueCommandInput(
+        const std::string& id, const std::string& name, const Ptr<ValueInput>& initialValue) = 0;
+
+    /// Adds a whole number with arrows. Null for a step that is not above 0, and for a value beyond
+    /// the limits.
+    virtual Ptr<IntegerSpinnerCommandInput> addIntegerSpinnerCommandInput(const std::string& id,
+                                                                          const std::string& name,
+                                                                          int min, int max,
+                                                                          int spinStep,
+                                                                          int initialValue) = 0;
+
+    /// Adds a number with units and arrows; limits and value are in the host's units, the step is
+    /// in `unitType`. Null as for a whole number, and for an unknown unit.
+    virtual Ptr<FloatSpinnerCommandInput> addFloatSpinnerCommandInput(
+        const std::string& id, const std::string& name, const std::string& unitType, double min,
+        double max, double spinStep, double initialValue) = 0;
 };
 
 }  // namespace adsk::core

@@ -45,8 +45,8 @@ public:
 
     /// False at first.
     [[nodiscard]] virtual bool executeFailed() const = 0;
-    /// In `execute`, true ends the command as aborted and undoes what it did to the design, where
-    /// the host can. Without effect in other events.
+    /// In `execute`, true ends the command as aborted and undoes what it did to the design. Without
+    /// effect in other events.
     virtual bool executeFailed(bool value) = 0;
 
     /// The reason to give for `executeFailed`; empty at first.
@@ -168,7 +168,7 @@ public:
     [[nodiscard]] virtual Ptr<CommandEvent> execute() const = 0;
 
     /// Fired when the dialog opens and after each change, while the inputs are valid; undone before
-    /// the next preview and before `execute`. Not fired in a host that can undo nothing.
+    /// the next preview, before `execute`, and when the dialog ends.
     [[nodiscard]] virtual Ptr<CommandEvent> executePreview() const = 0;
 
     /// Fired once the dialog shows; never for a command without one.

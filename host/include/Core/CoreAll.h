@@ -21,13 +21,16 @@
 #include <Core/Material.h>
 #include <Core/Memory.h>
 #include <Core/OSMacros.h>
+#include <Core/ObjectCollection.h>
 #include <Core/Palettes.h>
 #include <Core/Preferences.h>
 #include <Core/Product.h>
 #include <Core/Selections.h>
 #include <Core/TableCommandInput.h>
 #include <Core/Toolbars.h>
+#include <Core/UnitsManager.h>
 #include <Core/UserInterface.h>
 #include <Core/Utils.h>
+#include <Core/ValueInputs.h>
 #include <Core/Values.h>
 #include <Core/Workspaces.h>

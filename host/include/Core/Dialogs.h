@@ -8,7 +8,7 @@
 
 namespace adsk::core {
 
-/// The host's dialog for choosing files. It can be shown any number of times.
+/// The host's dialog for choosing files to open or to save. It can be shown any number of times.
 class FileDialog : public Base {
 public:
     static const char* classType();  ///< "adsk::core::FileDialog"
@@ -37,11 +37,48 @@ public:
     /// otherwise.
     virtual DialogResults showOpen() = 0;
 
+    /// Shows the dialog for a file to write, which need not exist, and waits for the user:
+    /// `DialogOK` when one was chosen, `DialogCancel` otherwise. Nothing is written.
+    virtual DialogResults showSave() = 0;
+
+    /// The folder that the dialog begins in; empty for the one that was used last.
+    [[nodiscard]] virtual std::string initialDirectory() const = 0;
+    /// Not checked.
+    virtual bool initialDirectory(const std::string& value) = 0;
+
+    /// The name that the dialog begins with; empty at first.
+    [[nodiscard]] virtual std::string initialFilename() const = 0;
+    /// Not checked.
+    virtual bool initialFilename(const std::string& value) = 0;
+
     /// The full paths of the files chosen last; empty after a cancelled dialog.
     [[nodiscard]] virtual std::vector<std::string> filenames() const = 0;
 
     /// The full path of the file chosen last, the first of several; empty after a cancelled dialog.
     [[nodiscard]] virtual std::string filename() const = 0;
+};
+
+/// The host's dialog for choosing a folder. It can be shown any number of times.
+class FolderDialog : public Base {
+public:
+    static const char* classType();  ///< "adsk::core::FolderDialog"
+
+    /// The title of the dialog; the host's own while it is empty.
+    [[nodiscard]] virtual std::string title() const = 0;
+    /// Takes effect when the dialog is shown next.
+    virtual bool title(const std::string& value) = 0;
+
+    /// The folder that the dialog begins in; empty for the one that was used last.
+    [[nodiscard]] virtual std::string initialDirectory() const = 0;
+    /// Not checked.
+    virtual bool initialDirectory(const std::string& value) = 0;
+
+    /// Shows the dialog and waits for the user: `DialogOK` when a folder was chosen, `DialogCancel`
+    /// otherwise.
+    virtual DialogResults showDialog() = 0;
+
+    /// The full path of the folder chosen last; empty after a cancelled dialog.
+    [[nodiscard]] virtual std::string folder() const = 0;
 };
 
 /// A bar that shows the progress of a long operation. It shows from its creation until it is hidden

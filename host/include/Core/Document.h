@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Core/Collection.h>
+#include <Core/Values.h>
 
 #include <string>
 
@@ -41,6 +42,11 @@ public:
     /// for null, for a file that cannot be read, and while it is being converted after its upload.
     /// Takes as long as reading the file; `visible` is ignored. The stand-in throws if set to.
     virtual Ptr<Document> open(const Ptr<DataFile>& dataFile, bool visible = true) = 0;
+
+    /// Creates an empty design as the active document, which closes an open dialog. `visible` and
+    /// `options` are ignored. Null for another type of document.
+    virtual Ptr<Document> add(DocumentTypes documentType, bool visible = true,
+                              const Ptr<NamedValues>& options = nullptr) = 0;
 };
 
 }  // namespace adsk::core

@@ -118,6 +118,11 @@ enum LogTypes {
     ConsoleLogType = 1,  ///< to the text window as well
 };
 
+/// The kinds of documents that a module can create.
+enum DocumentTypes {
+    FusionDesignDocumentType = 0,
+};
+
 /// What a `ValueInput` was created from.
 enum ValueTypes {
     StringValueType = 0,

@@ -8,6 +8,7 @@ namespace adsk::core {
 
 class Attributes;
 class Document;
+class UnitsManager;
 
 /// What a workspace works on within a document, such as its design.
 class Product : public Base {
@@ -22,6 +23,9 @@ public:
 
     /// The attributes of the product as a whole; never null. Components have their own.
     [[nodiscard]] virtual Ptr<Attributes> attributes() const = 0;
+
+    /// Evaluates and formats values in the units of the product; never null.
+    [[nodiscard]] virtual Ptr<UnitsManager> unitsManager() const = 0;
 };
 
 }  // namespace adsk::core

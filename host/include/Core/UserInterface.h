@@ -11,6 +11,7 @@ namespace adsk::core {
 
 class CommandDefinitions;
 class FileDialog;
+class FolderDialog;
 class Palettes;
 class ProgressDialog;
 class Selections;
@@ -81,6 +82,9 @@ public:
 
     /// A new file dialog, not shown yet.
     virtual Ptr<FileDialog> createFileDialog() = 0;
+
+    /// A new dialog for a folder, not shown yet.
+    virtual Ptr<FolderDialog> createFolderDialog() = 0;
 
     /// A new progress dialog, which shows until it is hidden or its last handle is gone.
     virtual Ptr<ProgressDialog> createProgressDialog() = 0;

@@ -1,6 +1,7 @@
 #include "host/ui/commands/dialog_inputs.h"
 
 #include "host/ui/commands/command_runner.h"
+#include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/selection_command_input_object.h"
 #include "host/ui/user_interface_object.h"
 
@@ -153,6 +154,12 @@ std::string DialogInputs::whyInvalid() const {
             return "the selection \"" + input.InputState::id() + "\" needs " +
                    std::to_string(input.state().minimum) + ", and has " +
                    std::to_string(input.picks().count());
+        }
+    }
+    for (InputState* each : runner_.active()->inputs().ofKind(InputKind::Number)) {
+        const NumberState& number = numberOf(each);
+        if (!number.isValidNumber()) {
+            return "the number \"" + number.id() + "\" has no value: " + number.expression();
         }
     }
     return valid_ ? "" : "a handler of the dialog finds the inputs invalid";

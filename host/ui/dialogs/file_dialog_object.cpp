@@ -17,19 +17,45 @@ PickedFiles answerOf(const FileDialogShown& dialog, FileDialogLog& log) {
     return log.ask(dialog);
 }
 
+core::DialogResults show(FileDialogShown& dialog, const char* operation) {
+    auto* log = HostState::currentPart<FileDialogLog>();
+    if (log == nullptr) return core::DialogCancel;
+    dialog.picked = answerOf(dialog, *log);
+    const bool takesMany = dialog.multiSelect && dialog.kind == FileDialogKind::Open;
+    if (dialog.picked && dialog.picked->size() > 1 && !takesMany) {
+        misuse(operation, "several files were picked in a dialog that takes one");
+        dialog.picked->resize(1);
+    }
+    log->shown.push_back(dialog);
+    return dialog.picked ? core::DialogOK : core::DialogCancel;
+}
+
+std::string firstOf(const PickedFiles& picked) {
+    return picked && !picked->empty() ? picked->front() : "";
+}
+
 }  // namespace
 
 core::DialogResults FileDialogObject::showOpen() {
     if (closed<"showOpen">(*this)) return {};
-    auto* log = HostState::currentPart<FileDialogLog>();
-    if (log == nullptr) return core::DialogCancel;
-    state_.picked = answerOf(state_, *log);
-    if (state_.picked && state_.picked->size() > 1 && !state_.multiSelect) {
-        misuse("FileDialog::showOpen", "several files were picked in a dialog that takes one");
-        state_.picked->resize(1);
-    }
-    log->shown.push_back(state_);
-    return state_.picked ? core::DialogOK : core::DialogCancel;
+    state_.kind = FileDialogKind::Open;
+    return show(state_, "FileDialog::showOpen");
+}
+
+core::DialogResults FileDialogObject::showSave() {
+    if (closed<"showSave">(*this)) return {};
+    state_.kind = FileDialogKind::Save;
+    return show(state_, "FileDialog::showSave");
+}
+
+core::DialogResults FolderDialogObject::showDialog() {
+    if (closed<"showDialog">(*this)) return {};
+    return show(state_, "FolderDialog::showDialog");
+}
+
+std::string FolderDialogObject::folder() const {
+    if (closed<"folder">(*this)) return {};
+    return firstOf(state_.picked);
 }
 
 std::vector<std::string> FileDialogObject::filenames() const {
@@ -39,7 +65,7 @@ std::vector<std::string> FileDialogObject::filenames() const {
 
 std::string FileDialogObject::filename() const {
     if (closed<"filename">(*this)) return {};
-    return state_.picked && !state_.picked->empty() ? state_.picked->front() : "";
+    return firstOf(state_.picked);
 }
 
 }  // namespace host::ui

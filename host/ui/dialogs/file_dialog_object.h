@@ -16,6 +16,9 @@ namespace host {
 /// The full names of the files that the user picks; none where the dialog is closed without any.
 using PickedFiles = std::optional<std::vector<std::string>>;
 
+/// What a dialog asks for.
+enum class FileDialogKind { Open, Save, Folder };
+
 /// A dialog as it was shown.
 struct FileDialogShown {
     std::string title;
@@ -23,6 +26,9 @@ struct FileDialogShown {
     int filterIndex = 0;
     bool multiSelect = false;
     PickedFiles picked;
+    FileDialogKind kind = FileDialogKind::Open;
+    std::string initialDirectory;
+    std::string initialFilename;
 
     bool operator==(const FileDialogShown&) const = default;
 };
@@ -56,8 +62,40 @@ public:
     }
     bool filterIndex(int value) override { return set<"filterIndex">(state_.filterIndex, value); }
     core::DialogResults showOpen() override;
+    core::DialogResults showSave() override;
+    [[nodiscard]] std::string initialDirectory() const override {
+        return get<"initialDirectory">(state_.initialDirectory);
+    }
+    bool initialDirectory(const std::string& value) override {
+        return set<"initialDirectory">(state_.initialDirectory, value);
+    }
+    [[nodiscard]] std::string initialFilename() const override {
+        return get<"initialFilename">(state_.initialFilename);
+    }
+    bool initialFilename(const std::string& value) override {
+        return set<"initialFilename">(state_.initialFilename, value);
+    }
     [[nodiscard]] std::vector<std::string> filenames() const override;
     [[nodiscard]] std::string filename() const override;
+
+private:
+    FileDialogShown state_;
+};
+
+class FolderDialogObject final : public Object<core::FolderDialog> {
+public:
+    FolderDialogObject() { state_.kind = FileDialogKind::Folder; }
+
+    [[nodiscard]] std::string title() const override { return get<"title">(state_.title); }
+    bool title(const std::string& value) override { return set<"title">(state_.title, value); }
+    [[nodiscard]] std::string initialDirectory() const override {
+        return get<"initialDirectory">(state_.initialDirectory);
+    }
+    bool initialDirectory(const std::string& value) override {
+        return set<"initialDirectory">(state_.initialDirectory, value);
+    }
+    core::DialogResults showDialog() override;
+    [[nodiscard]] std::string folder() const override;
 
 private:
     FileDialogShown state_;

@@ -1,27 +1,43 @@
 #include "host/ui/inputs/command_inputs_object.h"
 
+#include "host/base/last_error.h"
+#include "host/base/unit_expression.h"
 #include "host/ui/commands/command_object.h"
 #include "host/ui/inputs/bool_value_command_input_object.h"
 #include "host/ui/inputs/button_row_command_input_object.h"
 #include "host/ui/inputs/drop_down_command_input_object.h"
 #include "host/ui/inputs/group_command_input_object.h"
 #include "host/ui/inputs/image_command_input_object.h"
+#include "host/ui/inputs/number_input_object.h"
 #include "host/ui/inputs/radio_button_group_command_input_object.h"
 #include "host/ui/inputs/selection_command_input_object.h"
 #include "host/ui/inputs/string_value_command_input_object.h"
 #include "host/ui/inputs/tab_command_input_object.h"
 #include "host/ui/inputs/table_command_input_object.h"
 #include "host/ui/inputs/text_box_command_input_object.h"
+#include "host/ui/inputs/value_input_object.h"
 
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <variant>
 
 namespace host::ui {
 namespace {
 
+// Designs are measured in it here whatever their file was written in.
+constexpr const char* kDefaultLengthUnit = "mm";
+
+bool areLimits(double minimum, double maximum, double step, double initial, const char* operation) {
+    return (step > 0 && minimum <= initial && initial <= maximum) ||
+           fail(core::BadApiCallError,
+                std::string(operation) +
+                    ": the step has to be above 0, and the value between minimum and maximum");
+}
+
 bool isLandmark(InputKind kind) {
-    return kind == InputKind::Tab || kind == InputKind::Group || kind == InputKind::Selection;
+    return kind == InputKind::Tab || kind == InputKind::Group || kind == InputKind::Selection ||
+           kind == InputKind::Number;
 }
 
 }  // namespace
@@ -137,6 +153,105 @@ core::Ptr<core::ImageCommandInput> CommandInputsObject::addImageCommandInput(
 core::Ptr<core::SelectionCommandInput> CommandInputsObject::addSelectionInput(
     const std::string& id, const std::string& name, const std::string& commandPrompt) {
     return add<"addSelectionInput", SelectionCommandInputObject>(id, name, commandPrompt);
+}
+
+namespace {
+
+/// Gives a new input its first expression or number; false, with the reason noted, for a value that
+/// is neither.
+bool startWith(NumberState& number, const core::Ptr<core::ValueInput>& initial,
+               const char* operation) {
+    const core::Ptr<ValueInputObject> value = initial;
+    if (!value) {
+        return fail(core::BadApiCallError, std::string(operation) + ": the value is null");
+    }
+    if (const auto* expression = std::get_if<std::string>(&value->state())) {
+        number.enter(*expression);
+        return true;
+    }
+    if (const auto* real = std::get_if<double>(&value->state())) {
+        return number.setValue(*real);
+    }
+    return fail(core::BadApiCallError,
+                std::string(operation) + ": the value is neither a number nor an expression");
+}
+
+bool isUnit(const std::string& unit, const char* operation) {
+    try {
+        unitQuantity(unit);
+        return true;
+    } catch (const ExpressionError& error) {
+        return fail(core::BadApiCallError, std::string(operation) + ": " + error.what());
+    }
+}
+
+}  // namespace
+
+template <class T>
+core::Ptr<T> CommandInputsObject::addQuantity(const std::string& id, const std::string& name,
+                                              const std::string& unit,
+                                              const core::Ptr<core::ValueInput>& initial,
+                                              const char* operation) {
+    if (!isUnit(unit, operation)) return {};
+    core::Ptr<T> input = append<T>(id, name, unit);
+    if (startWith(*input, initial, operation)) return input;
+    remove(*input);
+    return {};
+}
+
+core::Ptr<core::ValueCommandInput> CommandInputsObject::addValueInput(
+    const std::string& id, const std::string& name, const std::string& unitType,
+    const core::Ptr<core::ValueInput>& initialValue) {
+    if (closed<"addValueInput">(*this)) return {};
+    return addQuantity<ValueCommandInputObject>(id, name, unitType, initialValue,
+                                                "CommandInputs::addValueInput");
+}
+
+core::Ptr<core::DistanceValueCommandInput> CommandInputsObject::addDistanceValueCommandInput(
+    const std::string& id, const std::string& name,
+    const core::Ptr<core::ValueInput>& initialValue) {
+    if (closed<"addDistanceValueCommandInput">(*this)) return {};
+    return addQuantity<DistanceValueCommandInputObject>(
+        id, name, kDefaultLengthUnit, initialValue, "CommandInputs::addDistanceValueCommandInput");
+}
+
+core::Ptr<core::AngleValueCommandInput> CommandInputsObject::addAngleValueCommandInput(
+    const std::string& id, const std::string& name,
+    const core::Ptr<core::ValueInput>& initialValue) {
+    if (closed<"addAngleValueCommandInput">(*this)) return {};
+    return addQuantity<AngleValueCommandInputObject>(id, name, "deg", initialValue,
+                                                     "CommandInputs::addAngleValueCommandInput");
+}
+
+core::Ptr<core::IntegerSpinnerCommandInput> CommandInputsObject::addIntegerSpinnerCommandInput(
+    const std::string& id, const std::string& name, int min, int max, int spinStep,
+    int initialValue) {
+    constexpr const char* kOperation = "CommandInputs::addIntegerSpinnerCommandInput";
+    if (closed<"addIntegerSpinnerCommandInput">(*this)) return {};
+    if (!areLimits(min, max, spinStep, initialValue, kOperation)) return {};
+    auto input = append<IntegerSpinnerCommandInputObject>(
+        id, name, std::string(),
+        std::optional(NumberLimits{.minimum = static_cast<double>(min),
+                                   .maximum = static_cast<double>(max),
+                                   .step = static_cast<double>(spinStep),
+                                   .whole = true}));
+    input->setValue(initialValue);
+    return input;
+}
+
+core::Ptr<core::FloatSpinnerCommandInput> CommandInputsObject::addFloatSpinnerCommandInput(
+    const std::string& id, const std::string& name, const std::string& unitType, double min,
+    double max, double spinStep, double initialValue) {
+    constexpr const char* kOperation = "CommandInputs::addFloatSpinnerCommandInput";
+    if (closed<"addFloatSpinnerCommandInput">(*this)) return {};
+    if (!areLimits(min, max, spinStep, initialValue, kOperation) || !isUnit(unitType, kOperation)) {
+        return {};
+    }
+    auto input = append<FloatSpinnerCommandInputObject>(
+        id, name, unitType,
+        std::optional(NumberLimits{.minimum = min, .maximum = max, .step = spinStep}));
+    input->setValue(initialValue);
+    return input;
 }
 
 InputState* CommandInputsObject::find(const std::string& id) const {

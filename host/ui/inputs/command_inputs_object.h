@@ -58,6 +58,22 @@ public:
     core::Ptr<core::SelectionCommandInput> addSelectionInput(
         const std::string& id, const std::string& name, const std::string& commandPrompt) override;
 
+    core::Ptr<core::ValueCommandInput> addValueInput(
+        const std::string& id, const std::string& name, const std::string& unitType,
+        const core::Ptr<core::ValueInput>& initialValue) override;
+    core::Ptr<core::DistanceValueCommandInput> addDistanceValueCommandInput(
+        const std::string& id, const std::string& name,
+        const core::Ptr<core::ValueInput>& initialValue) override;
+    core::Ptr<core::AngleValueCommandInput> addAngleValueCommandInput(
+        const std::string& id, const std::string& name,
+        const core::Ptr<core::ValueInput>& initialValue) override;
+    core::Ptr<core::IntegerSpinnerCommandInput> addIntegerSpinnerCommandInput(
+        const std::string& id, const std::string& name, int min, int max, int spinStep,
+        int initialValue) override;
+    core::Ptr<core::FloatSpinnerCommandInput> addFloatSpinnerCommandInput(
+        const std::string& id, const std::string& name, const std::string& unitType, double min,
+        double max, double spinStep, double initialValue) override;
+
     /// @name For the host itself
     /// @{
 
@@ -96,6 +112,12 @@ private:
     /// inputs were deleted.
     template <CallName Name, class T, class... Arguments>
     core::Ptr<T> add(const std::string& id, const std::string& name, const Arguments&... arguments);
+
+    /// A number that begins with `initial`; null, with the reason noted, where that is no number.
+    template <class T>
+    core::Ptr<T> addQuantity(const std::string& id, const std::string& name,
+                             const std::string& unit, const core::Ptr<core::ValueInput>& initial,
+                             const char* operation);
 
     CommandObject* command_;
     InputState* parent_;

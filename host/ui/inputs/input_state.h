@@ -35,6 +35,7 @@ enum class InputKind : std::uint8_t {
     RadioGroup,
     Table,
     Selection,
+    Number,
     TabBar,
 };
 

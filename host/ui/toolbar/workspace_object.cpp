@@ -39,14 +39,16 @@ PanelList WorkspaceObject::panels() const {
     return all;
 }
 
-ToolbarTabObject& WorkspaceObject::toolsTab() {
-    core::Ptr<ToolbarTabObject> tab = entryOf(tabs_, kToolsTab);
+ToolbarTabObject& WorkspaceObject::tab(const std::string& id, const std::string& name) {
+    core::Ptr<ToolbarTabObject> tab = entryOf(tabs_, id);
     if (!tab) {
-        tab = make<ToolbarTabObject>(this, kToolsTab, "Tools");
+        tab = make<ToolbarTabObject>(this, id, name);
         tabs_.push_back(tab);
     }
     return *tab;
 }
+
+ToolbarTabObject& WorkspaceObject::toolsTab() { return tab(kToolsTab, "Tools"); }
 
 void WorkspaceObject::dispose() {
     disposeEntries(tabs_);

@@ -35,6 +35,9 @@ public:
     [[nodiscard]] const TabList& tabs() const { return tabs_; }
     [[nodiscard]] PanelList panels() const;
 
+    /// The tab of an id; made, at the end, when it is missing.
+    ToolbarTabObject& tab(const std::string& id, const std::string& name);
+
     /// The tab that added panels go to; made when it is missing.
     ToolbarTabObject& toolsTab();
     void dispose();

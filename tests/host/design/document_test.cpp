@@ -64,6 +64,29 @@ TEST_F(DocumentTest, IsSavedOnceItHasAFile) {
     EXPECT_EQ(component("Motor:1")->parentDesign()->parentDocument()->dataFile(), file);
 }
 
+// Design_designType, Product_unitsManager.
+TEST_F(DocumentTest, ADesignHasATypeAndUnits) {
+    open("Bolt");
+    const Ptr<Design> design = designOf(document);
+    EXPECT_EQ(design->designType(), ParametricDesignType);
+    EXPECT_TRUE(design->designType(DirectDesignType));
+    EXPECT_EQ(design->designType(), DirectDesignType);
+
+    const Ptr<adsk::core::UnitsManager> units = design->unitsManager();
+    EXPECT_EQ(units->defaultLengthUnits(), "mm");
+    EXPECT_EQ(units->internalUnits(), "cm");
+    EXPECT_DOUBLE_EQ(units->evaluateExpression("2 in + 4", "mm"), 5.48);
+    EXPECT_EQ(units->evaluateExpression("2 furlong", "mm"), -1);
+    EXPECT_TRUE(units->isValidExpression("3", "mm"));
+    EXPECT_FALSE(units->isValidExpression("3 +", "mm"));
+    EXPECT_DOUBLE_EQ(units->convert(1, "in", "mm"), 25.4);
+    EXPECT_DOUBLE_EQ(units->convert(2, "internalUnits", "mm"), 20);
+    EXPECT_EQ(units->convert(1, "in", "deg"), -1);
+    EXPECT_EQ(units->formatInternalValue(2.54, "in"), "1.000 in");
+    EXPECT_EQ(units->formatInternalValue(2.54, "", false), "25.400");
+    EXPECT_EQ(units->formatInternalValue(1, "furlong"), "");
+}
+
 // Document_name: a saved document is called like its file.
 TEST_F(DocumentTest, TheNameOfASavedDocumentCannotBeSet) {
     open("Bolt");

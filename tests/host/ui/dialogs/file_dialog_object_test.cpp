@@ -60,8 +60,10 @@ TEST_F(FileDialogs, AreKeptAsTheyWereShown) {
     dialog->title("Two");
     dialog->showOpen();
 
-    EXPECT_EQ(fileDialogs(), (std::vector<FileDialogShown>{{"One", "", 0, false, Files{"/a"}},
-                                                           {"Two", "", 0, false, std::nullopt}}));
+    EXPECT_EQ(fileDialogs(),
+              (std::vector<FileDialogShown>{
+                  {"One", "", 0, false, Files{"/a"}, FileDialogKind::Open, "", ""},
+                  {"Two", "", 0, false, std::nullopt, FileDialogKind::Open, "", ""}}));
 }
 
 TEST_F(FileDialogs, SeveralFilesForADialogThatTakesOneAreReported) {
@@ -84,6 +86,38 @@ TEST_F(FileDialogs, OfAnEarlierHostAreForgotten) {
 
     EXPECT_EQ(fileDialogs().size(), 0U);
     EXPECT_EQ(ui()->createFileDialog()->showOpen(), DialogCancel);
+}
+
+// FileDialog_showSave: one file, which need not exist.
+TEST_F(FileDialogs, AskWhereToSave) {
+    dialog->isMultiSelectEnabled(true);
+    dialog->initialDirectory("/work in progress");
+    dialog->initialFilename("list.csv");
+    answerNextFileDialog(Files{"/new.csv", "/second.csv"});
+
+    EXPECT_EQ(dialog->showSave(), DialogOK);
+
+    EXPECT_EQ(dialog->filename(), "/new.csv");
+    EXPECT_EQ(fileDialogs()[0].kind, FileDialogKind::Save);
+    EXPECT_EQ(fileDialogs()[0].initialFilename, "list.csv");
+    EXPECT_EQ(misused(), "FileDialog::showSave");
+}
+
+// FolderDialog.
+TEST_F(FileDialogs, AskForAFolder) {
+    const Ptr<FolderDialog> folders = ui()->createFolderDialog();
+    folders->title("Where to?");
+    folders->initialDirectory("/home");
+    EXPECT_EQ(folders->showDialog(), DialogCancel);
+    EXPECT_EQ(folders->folder(), "");
+    answerNextFileDialog(Files{"/target"});
+
+    EXPECT_EQ(folders->showDialog(), DialogOK);
+
+    EXPECT_EQ(folders->folder(), "/target");
+    EXPECT_EQ(fileDialogs()[1].kind, FileDialogKind::Folder);
+    EXPECT_EQ(fileDialogs()[1].title, "Where to?");
+    EXPECT_EQ(fileDialogs()[1].initialDirectory, "/home");
 }
 
 }  // namespace

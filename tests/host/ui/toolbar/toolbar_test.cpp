@@ -65,12 +65,13 @@ TEST_F(Toolbars, TheIdOfAPanelIsUniqueOverAllWorkspaces) {
 }
 
 TEST_F(Toolbars, AllPanelsAreFoundInOneList) {
+    const std::size_t before = ui()->allToolbarPanels()->count();
     const Ptr<ToolbarPanel> solid = panels()->add("Solid", "");
     const Ptr<ToolbarPanel> cam = panels("CAMEnvironment")->add("Cam", "");
 
     EXPECT_EQ(ui()->allToolbarPanels()->itemById("Solid"), solid);
     EXPECT_EQ(ui()->allToolbarPanels()->itemById("Cam"), cam);
-    EXPECT_EQ(ui()->allToolbarPanels()->count(), 3U);
+    EXPECT_EQ(ui()->allToolbarPanels()->count(), before + 2);
 }
 
 TEST_F(Toolbars, PanelsCanBeAddedBeforeAndAfterOthers) {
@@ -80,9 +81,11 @@ TEST_F(Toolbars, PanelsCanBeAddedBeforeAndAfterOthers) {
     panels()->add("Behind", "", "Middle", false);
     panels()->add("End", "", "Nowhere");
 
-    EXPECT_EQ(panels()->item(1)->id(), "Before");
-    EXPECT_EQ(panels()->item(3)->id(), "Behind");
-    EXPECT_EQ(panels()->item(4)->id(), "End");
+    const Ptr<ToolbarPanels> tools =
+        ui()->toolbarTabsByProductType("DesignProductType")->itemById("ToolsTab")->toolbarPanels();
+    EXPECT_EQ(tools->item(1)->id(), "Before");
+    EXPECT_EQ(tools->item(3)->id(), "Behind");
+    EXPECT_EQ(tools->item(4)->id(), "End");
 }
 
 TEST_F(Toolbars, AControlHasTheIdOfItsDefinition) {
@@ -249,6 +252,19 @@ TEST_F(Toolbars, BarsAroundTheWindowTakeControls) {
     EXPECT_EQ(bars->count(), 2U);
     EXPECT_EQ(bars->item(1)->id(), "NavToolbar");
     EXPECT_EQ(bars->itemById("Nowhere"), nullptr);
+}
+
+// UserInterface_UM: panels of the host's own, which add-ins add their buttons to.
+TEST_F(Toolbars, PanelsThatAddInsLookForAreThere) {
+    const Ptr<ToolbarTab> solid =
+        ui()->toolbarTabsByProductType("DesignProductType")->itemById("SolidTab");
+
+    EXPECT_EQ(solid->toolbarPanels()->itemById("SolidCreatePanel")->name(), "Create");
+    EXPECT_TRUE(panels()->itemById("SolidModifyPanel")->controls()->addCommand(command("Mine")));
+    EXPECT_TRUE(ui()->allToolbarPanels()->itemById("CAMManagePanel"));
+    EXPECT_FALSE(panels()->itemById("SolidCreatePanel")->deleteMe());
+    EXPECT_FALSE(panels()->add("InspectPanel", ""));
+    EXPECT_EQ(misused(), "ToolbarPanels::add");
 }
 
 }  // namespace
