@@ -1,5 +1,4 @@
 // The dialog of the running command.
-import type {ComponentChildren} from 'preact';
 import {useEffect, useRef} from 'preact/hooks';
 import type {Connection} from './connection.ts';
 import {Frame, type Box} from './frame.tsx';
@@ -31,7 +30,7 @@ export function CommandDialog({dialog, line, frozen, room}: Props) {
       {tabs.length > 0 && <Tabs tabs={tabs} active={active} line={line} frozen={frozen}/>}
       <div class="contents" role={active ? 'tabpanel' : undefined} aria-labelledby={active ? `tab-${active.key}` : undefined}>
         <Fields inputs={others} line={line}/>
-        {active && <Kept key={active.key}><Fields inputs={active.inputs ?? []} line={line}/></Kept>}
+        {active && <div key={active.key} class="tab-content"><Fields inputs={active.inputs ?? []} line={line}/></div>}
       </div>
       <footer>
         {dialog.ok.visible && <span class="ok" title={dialog.ok.why || undefined}>
@@ -46,11 +45,6 @@ function placed(dialog: Dialog, room: {width: number; height: number}): Box {
   const width = Math.min(dialog.width || usual.width, room.width - 24), height = Math.min(dialog.height || usual.height, room.height - 24);
   const place = places.get(dialog.command) ?? {left: room.width - width - 12, top: 12};
   return {width, height, left: Math.max(0, Math.min(place.left, room.width - 80)), top: Math.max(0, Math.min(place.top, room.height - 60))};
-}
-
-// Each tab keeps how far it was scrolled while another one shows.
-function Kept({children}: {children: ComponentChildren}) {
-  return <div class="tab-content">{children}</div>;
 }
 
 function Tabs({tabs, active, line, frozen}: {tabs: Input[]; active: Input | undefined; line: Connection; frozen: boolean}) {

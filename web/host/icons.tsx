@@ -11,7 +11,6 @@ const paths = {
   fit: 'M2 5V2h3M11 2h3v3M14 11v3h-3M5 14H2v-3M6 6h4v4H6z',
   perspective: 'M1.5 13h13l-4-9h-5zM3.7 8h8.6M8 4v9',
   edges: 'M2.5 4.5 8 2l5.5 2.5v7L8 14l-5.5-2.5zM2.5 4.5 8 7l5.5-2.5M8 7v7',
-  section: 'M2.5 4 9 2v12l-6.5-2zM9 2l4.5 2v8L9 14',
   part: 'M2.5 5 8 2.2 13.5 5v6L8 13.8 2.5 11zM2.5 5 8 7.8 13.5 5M8 7.8v6',
   assembly: 'M5 1.8 8.2 3.4v3.2L5 8.2 1.8 6.6V3.4zM11 7.8l3.2 1.6v3.2L11 14.2l-3.2-1.6V9.4zM8 5h3v2.8M5 8.2V11h2.8',
   document: 'M3.5 1.8h6l3 3v9.4h-9zM9.5 1.8v3h3',

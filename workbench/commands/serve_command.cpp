@@ -57,7 +57,6 @@ host::SessionOptions servedSession(const AddinChoice& choice) {
     session.system.windows = std::vector<host::WindowShown>{
         {.title = "Autodesk Fusion 360",
          .inside = {.left = 0, .top = 0, .right = 1280, .bottom = 800}}};
-    session.system.windows = {{{"Autodesk Fusion 360", {0, 0, 1280, 800}}}};  // the page
     session.host.clock = host::clock::ClockMode::Real;
     return session;
 }
