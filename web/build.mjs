@@ -46,7 +46,7 @@ async function makeHostScript() {
 
 const made = {
   'page.html': await makePage(),
-  'host.html': readFileSync(join(web, 'host/host.html'), 'utf8'),
+  'host.html': readFileSync(join(web, 'host/host.html'), 'utf8').replace('main.tsx', 'host.js'),
   'host.js': await makeHostScript(),
   'host.css': `${await bundle('host/host.css')}\n`,
 };

@@ -73,7 +73,9 @@ public:
     [[nodiscard]] fusion::DesignTypes designType() const override {
         return get<"designType">(designType_);
     }
-    bool designType(fusion::DesignTypes value) override { return set<"designType">(designType_, value); }
+    bool designType(fusion::DesignTypes value) override {
+        return set<"designType">(designType_, value);
+    }
 
 private:
     core::Ptr<ComponentObject> root_;

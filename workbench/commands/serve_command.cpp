@@ -107,7 +107,8 @@ void addServeCommand(CLI::App& program) {
     addAddin(command, options.addin);
     addReading(command, options.reading);
     command.footer(
-        "Prints the address to open, which has a secret token in it. Ctrl-C ends the program; what\n"
+        "Prints the address to open, which has a secret token in it. Ctrl-C ends the program; "
+        "what\n"
         "was not saved on the page is lost then.");
 }
 

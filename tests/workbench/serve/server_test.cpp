@@ -135,7 +135,7 @@ TEST_F(Server, NothingOutsideOfTheDataFolderIsListed) {
     EXPECT_EQ(getWithCookie("/files"), 200);
     EXPECT_EQ(getWithCookie("/files?folder=Local"), 200);
     for (const char* const name : {"..", "../Tarnix", "Local/../..", "/", "/etc", ".", "nowhere",
-                                     "Local%00", "%2e%2e%2fTarnix"}) {
+                                   "Local%00", "%2e%2e%2fTarnix"}) {
         EXPECT_EQ(getWithCookie(std::string("/files?folder=") + name), 404) << name;
     }
 }
