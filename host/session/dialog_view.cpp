@@ -4,6 +4,7 @@
 #include "host/session/screen_view.h"
 #include "host/session/user_action.h"
 #include "host/session/user_actions.h"
+#include "host/ui/inputs/command_inputs_object.h"
 #include "host/ui/inputs/list_state.h"
 #include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/selection_command_input_object.h"
@@ -50,10 +51,9 @@ void readItems(InputView& view, const Ptr<core::ListItems>& items) {
 /// The inputs of a collection but for those that are in a table, which shows them.
 std::vector<InputView> readInputs(const Ptr<core::CommandInputs>& inputs, TableRows rows) {
     std::vector<InputView> views;
-    for (std::size_t i = 0; i < inputs->count(); ++i) {
-        const Ptr<core::CommandInput> input = inputs->item(i);
-        if (InputState::of(input)->inLine == nullptr) {
-            views.push_back(readInput(input, rows));
+    for (InputState* each : static_cast<const ui::CommandInputsObject&>(*inputs).outsideTables()) {
+        if (rows == TableRows::Read || !each->wasPlaced) {
+            views.push_back(readInput(Ptr<core::CommandInput>(each->api()), rows));
         }
     }
     return views;

@@ -98,6 +98,7 @@ struct DialogView {
 };
 
 /// Whether the rows of tables are read with a dialog: of a long table they cost most of the time.
+/// Without them, inputs that left their table are skipped too, since they show nowhere.
 enum class TableRows { Read, Skip };
 
 /// Reads the open dialog at this moment; throws a `MisuseError` where none is open. No handler is

@@ -294,6 +294,17 @@ std::vector<InputState*> CommandInputsObject::containers() const {
     return found;
 }
 
+std::vector<InputState*> CommandInputsObject::outsideTables() const {
+    std::vector<InputState*> found;
+    members_.each([&found](const core::Ptr<core::CommandInput>& member) {
+        InputState* const input = InputState::of(member);
+        if (input->inLine == nullptr) {
+            found.push_back(input);
+        }
+    });
+    return found;
+}
+
 void CommandInputsObject::remove(InputState& input) {
     index_.remove(input);
     if (isLandmark(input.kind)) {

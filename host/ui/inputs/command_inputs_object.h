@@ -90,6 +90,9 @@ public:
     /// The tabs and groups among the members, in order.
     [[nodiscard]] std::vector<InputState*> containers() const;
 
+    /// The members that are in no table now, in order.
+    [[nodiscard]] std::vector<InputState*> outsideTables() const;
+
     /// Takes a member out and disposes of it.
     void remove(InputState& input);
 

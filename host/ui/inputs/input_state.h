@@ -104,6 +104,7 @@ public:
     bool visible = true;
     bool enabled = true;
     bool fullWidth = false;
+    bool wasPlaced = false;  ///< it was in a table once, and shows nowhere where it left that
 
     /// What few inputs have.
     struct Extras {

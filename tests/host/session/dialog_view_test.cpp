@@ -114,6 +114,19 @@ TEST_F(DialogViews, ATableHasItsCellsWithHiddenRowsMarkedAndItsToolbar) {
     EXPECT_EQ(summary(table.toolbar), "Button:add(false)");
 }
 
+TEST_F(DialogViews, WhatLeftItsTableIsReadWithTheRowsAlone) {
+    openWith([](const Ptr<CommandInputs>& inputs) {
+        const Ptr<TableCommandInput> table = inputs->addTableCommandInput("table", "", 1, "1");
+        table->addCommandInput(inputs->addStringValueInput("first", "", "1"), 0, 0);
+        table->addCommandInput(inputs->addStringValueInput("second", "", "2"), 0, 0);
+        inputs->addStringValueInput("after", "");
+    });
+
+    EXPECT_EQ(summary(readDialog().inputs),
+              "Table:table() StringValue:first(1) StringValue:after()");
+    EXPECT_EQ(summary(readDialog(TableRows::Skip).inputs), "Table:table() StringValue:after()");
+}
+
 TEST_F(DialogViews, RowsOfATableAreReadOnRequestAlone) {
     openWith([](const Ptr<CommandInputs>& inputs) {
         const Ptr<TableCommandInput> table = inputs->addTableCommandInput("table", "", 1, "1:1");
