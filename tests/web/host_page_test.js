@@ -7,7 +7,7 @@ const {violations} = require('../site/browser');
 const {brackets, hostileNames} = require('./assemblies');
 const {dialog, emptyState, everyKind, icon, input, tableDialog} = require('./host_states');
 const {playHost} = require('./mock_host');
-const {openHost, runTests} = require('./page');
+const {frames, openHost, runTests} = require('./page');
 
 const {glb} = brackets();
 const most = 1500;  // elements of the page, however long a table is
@@ -24,6 +24,8 @@ async function show(change = () => {}, options = {}, view = {}) {
   return {page, host: playing};
 }
 
+/// Until the played host is as a test wants it.
+const until = async isSo => { while (!isSo()) await new Promise(resolve => setTimeout(resolve, 10)); };
 const idle = page => page.waitForFunction(() => hostPage.line.isSettled);
 const acted = (host, action) => host.actions.filter(each => each.action === action);
 const texts = (page, selector) => page.$$eval(selector, found => found.map(each => each.textContent));
@@ -293,7 +295,7 @@ const tests = {
 
   async savingAsksBeforeItReplaces() {
     const {page, host} = await show(state => { state.document.saveAs = 'brackets.json'; }, {act: action => {
-      if (action.action === 'save' && !action.replace) throw Object.assign(new Error('brackets.json exists'), {exists: true});
+      if (action.action === 'save' && !action.replace) throw Object.assign(new Error('brackets.json exists'), {more: {exists: true}});
     }});
     await page.keyboard.press('Control+s');
     const box = page.getByRole('alertdialog', {name: 'Replace?'});
@@ -301,7 +303,45 @@ const tests = {
     assert.strictEqual(await focused(page), 'Cancel');
     await box.getByRole('button', {name: 'Replace'}).click();
     await box.waitFor({state: 'detached'});
-    assert.deepStrictEqual(acted(host, 'save').map(each => each.replace ?? false), [false, true]);
+    // Without a name again: a document from elsewhere is not in the data folder, whatever it is called.
+    assert.deepStrictEqual(acted(host, 'save').map(({file, replace}) => ({file, replace})), [{file: undefined, replace: undefined}, {file: undefined, replace: true}]);
+  },
+
+  async aNameThatWillNotDoIsSaidWhereItIsAskedFor() {
+    const {page, host} = await show(() => {}, {files: {'': []}, act: ({action, file}) => {
+      if (action === 'save' && file !== 'gears.json') throw new Error(`${file} is in no folder`);
+    }});
+    await page.keyboard.press('Control+s');
+    const box = page.getByRole('dialog', {name: 'Save the design'}), name = box.getByLabel('File name');
+    await name.fill('far/gears');
+    await box.getByRole('button', {name: 'Save'}).click();
+    await box.getByRole('alert').filter({hasText: 'far/gears.json is in no folder'}).waitFor();
+    assert.strictEqual(await name.inputValue(), 'far/gears');
+    await name.fill('gears');
+    await box.getByRole('button', {name: 'Save'}).click();
+    await box.waitFor({state: 'detached'});
+    assert.deepStrictEqual(acted(host, 'save').map(({file}) => file), ['far/gears.json', 'gears.json']);
+  },
+
+  async openingAsksBeforeItDiscards() {
+    const {page, host} = await show(() => {}, {act: ({action, discard}) => {
+      if (action === 'open' && !discard) throw Object.assign(new Error('brackets has changes'), {more: {changed: true}});
+    }});
+    const again = async () => {
+      await page.getByRole('button', {name: 'More'}).click();
+      await page.getByRole('menuitem', {name: 'Open brackets.step again'}).click();
+      const box = page.getByRole('alertdialog', {name: 'Discard the changes?'});
+      await box.waitFor();
+      return box;
+    };
+    const box = await again();
+    assert.strictEqual(await focused(page), 'Cancel');
+    await page.keyboard.press('Escape');
+    await box.waitFor({state: 'detached'});
+    assert.strictEqual(acted(host, 'open').length, 1);
+    await (await again()).getByRole('button', {name: 'Discard'}).click();
+    await idle(page);
+    assert.deepStrictEqual(acted(host, 'open').map(({file, discard}) => [file, discard ?? false]), [[null, false], [null, false], [null, true]]);
   },
 
   async progressCanBeCancelled() {
@@ -366,6 +406,155 @@ const tests = {
     await idle(page);
     assert.strictEqual(acted(host, 'click').length, 1);
     page.complaints.splice(0);  // the browser's own words about the line
+  },
+
+  async whatIsTypedBehindAMessageComesAfterIt() {
+    const {page, host} = await show(state => { state.dialog = everyKind(); }, {act: ({action, input: key, text}, {state}) => {
+      if (action === 'answerMessage') state.message = null;
+      if (action !== 'paste') return {};
+      if (state.message) throw new Error('a message waits for its answer');
+      state.dialog.inputs[0].inputs.find(each => each.key === key).value = text;
+      if (text !== 'boltx') return {};
+      state.message = {id: 4, title: '', text: 'An x?', icon: 'question', buttons: [{answer: 'ok', caption: 'OK'}]};
+      return {waiting: true};
+    }});
+    let go = null;
+    host.held = new Promise(resolve => { go = resolve; });
+    await page.getByLabel('Name').click();
+    await page.keyboard.press('End');
+    await page.keyboard.type('xyz');
+    host.held = null;
+    go();
+    await page.getByRole('button', {name: 'OK'}).and(page.locator('dialog *')).click();
+    await idle(page);
+    assert.deepStrictEqual(host.actions.map(({action, text}) => text ?? action), ['boltx', 'answerMessage', 'boltxyz']);
+    assert.strictEqual(await page.getByLabel('Name').inputValue(), 'boltxyz');
+  },
+
+  async answersOvertakeWhatIsNotDone() {
+    let go = null;
+    const {page, host} = await show(state => { state.progress = {text: 'Listing', value: 40, cancel: 'Stop', cancelled: false}; }, {act: ({action}) => {
+      if (action === 'cancelProgress') go();
+      return action === 'press' ? new Promise(resolve => { go = resolve; }) : {};
+    }});
+    await page.click('.command:has-text("List")');
+    await page.getByRole('button', {name: 'Stop'}).click();
+    await idle(page);  // the command ends by that alone
+    assert.deepStrictEqual(host.actions.map(({action}) => action), ['press', 'cancelProgress']);
+  },
+
+  async whatIsTypedWithoutALineIsSentByTheNextOne() {
+    const {page, host} = await show(state => { state.dialog = everyKind(); }, {act: ({input: key, text}, {state}) => {
+      state.dialog.inputs[0].inputs.find(each => each.key === key).value = text;
+    }});
+    host.refusal = 503;
+    host.drop();
+    await page.waitForSelector('.banner:has-text("Too many pages")');
+    await page.getByLabel('Name').fill('nut');
+    host.refusal = 0;
+    await page.waitForSelector('.banner', {state: 'detached'});
+    await idle(page);
+    assert.deepStrictEqual(acted(host, 'paste').map(({text}) => text), ['nut']);
+    assert.strictEqual(await page.getByLabel('Name').inputValue(), 'nut');
+    host.refusal = 403;
+    host.drop();
+    await page.waitForSelector('.banner:has-text("Open the address that it printed")');
+    page.complaints.splice(0);  // the browser's own words about the line
+  },
+
+  async aPatchThatDoesNotFitBringsAWholeState() {
+    const {page, host} = await show();
+    host.state.selection = ['Plate:4'];
+    host.sendPatch([{op: 'replace', path: '/document/name', value: 'broken'}, {op: 'remove', path: '/no/such/place'}]);
+    await page.waitForSelector('.node.selected');
+    assert.strictEqual(host.openings, 2);
+    assert.strictEqual(await page.textContent('.quick h1'), 'brackets');
+    await page.click('.command:has-text("List")');
+    await idle(page);
+    assert.strictEqual(acted(host, 'press').length, 1);
+  },
+
+  async aHiddenPageHoldsNoConnection() {
+    const {page, host} = await show();
+    const be = visibility => page.evaluate(to => {
+      Object.defineProperty(document, 'visibilityState', {value: to, configurable: true});
+      document.dispatchEvent(new Event('visibilitychange'));
+    }, visibility);
+    await be('hidden');
+    await until(() => !host.hasStream);
+    host.change(state => { state.selection = ['Plate:4']; });
+    await be('visible');
+    await page.waitForSelector('.node.selected');
+    assert.strictEqual(await page.locator('.banner').count(), 0);
+    assert.strictEqual(host.openings, 2);
+  },
+
+  async rowsThatAreRefusedAreNotAskedForWithoutEnd() {
+    const {dialog: open, act} = tableDialog(10000, 11);
+    let refuses = true;
+    const {page, host} = await show(state => { state.dialog = open; }, {act: (action, played) => {
+      if (action.action === 'view' && refuses) throw Object.assign(new Error('too many actions'), {status: 429});
+      return act(action, played);
+    }});
+    await page.waitForSelector('.body [data-row="1"]');
+    await page.$eval('.table', table => { table.scrollTop = 5000 * 26; });
+    await page.waitForFunction(() => document.querySelector('.row.absent'));
+    await idle(page);
+    for (let i = 0; i < 20; ++i) host.change(({document: design}) => { design.changed = !design.changed; });
+    await page.waitForFunction(revision => hostPage.line.revision === revision, 21);
+    await frames(page, 2);
+    assert.strictEqual(acted(host, 'view').length, 1);
+    refuses = false;
+    await page.waitForSelector('.body [data-row="5000"]');  // once a while it is
+    page.complaints.splice(0);
+  },
+
+  async aModelThatFailedIsFetchedAgain() {
+    const {page, host} = await show(() => {}, {glb});
+    const before = await page.evaluate(() => { hostPage.scene.viewer.look('front'); return hostPage.scene.viewer.pose; });
+    host.model = (_, response) => {
+      host.model = null;
+      response.writeHead(409, {'Content-Type': 'application/json'}).end('{"error": "the program is at work"}');
+    };
+    host.change(state => { state.model.revision = 2; });
+    await page.waitForSelector('.stage-note.problem:has-text("the program is at work")');
+    await page.waitForFunction(() => hostPage.scene.viewer);
+    assert.deepStrictEqual(await page.evaluate(() => hostPage.scene.viewer.pose), before);
+    assert.strictEqual(await page.locator('.stage-note').count(), 0);
+  },
+
+  async anOlderModelDoesNotReplaceANewerOne() {
+    const {page, host} = await show(() => {}, {glb});
+    let older = null;
+    host.model = (request, response) => {
+      const isOlder = request.url.endsWith('=2');
+      response.writeHead(200, {'Content-Type': 'model/gltf-binary', 'Model-Revision': isOlder ? 2 : 4});
+      if (!isOlder) return response.end(glb);
+      response.flushHeaders();
+      older = response;
+    };
+    host.change(state => { state.model.revision = 2; });
+    await until(() => older);
+    host.change(state => { state.model.revision = 3; });
+    await page.waitForFunction(() => hostPage.scene.shownRevision === 4);
+    const isRead = page.waitForEvent('requestfinished', request => request.url().endsWith('=2'));
+    older.end(glb);
+    await isRead;
+    await frames(page, 2);
+    assert.strictEqual(await page.evaluate(() => hostPage.scene.shownRevision), 4);
+  },
+
+  async aNameWithAPlusIsFoundInTheTree() {
+    const {page, host} = await show(state => {
+      state.tree.components = [{name: 'top', partNumber: 'top', children: [[1, 1, false], [2, 1, false]]}, {name: 'A', partNumber: 'A', children: []},
+                               {name: 'A:1+B', partNumber: 'B', children: [[3, 1, false]]}, {name: 'C+D', partNumber: 'C', children: []}];
+    });
+    host.change(state => { state.selection = ['A:1+B:1+C+D:1']; });
+    await page.waitForSelector('.node.selected:has-text("C+D:1")');
+    await page.locator('.node.selected').click();
+    await page.focus('[role=tree]');
+    await page.keyboard.press('ArrowLeft');
+    assert.deepStrictEqual(await texts(page, '.node.active .name'), ['A:1+B:1']);
   },
 
   async everythingIsAccessible() {

@@ -11,9 +11,11 @@ const pages = {'/': ['host.html', 'text/html'], '/host.js': ['host.js', 'text/ja
 const policy = "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data:; connect-src 'self'; frame-src 'self'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
 
 /// Serves a page with `state`; `act(action, host)` changes `host.state`, and returns what the answer has beside ok. An Error that
-/// it throws refuses the action. Resolves to the host, whose `actions` are those that came.
+/// it throws refuses the action, with its `status` and `more`, an answer it promises is waited for. Resolves to the host: `actions` are
+/// those that came, `openings` the streams of events. Where `refusal` has the status of an error, a stream gets that; `model`
+/// may answer the model by itself.
 function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
-  const host = {state, actions: [], glb, held: null};
+  const host = {state, actions: [], glb, held: null, openings: 0, refusal: 0, model: null};
   let sent = null, revision = 1, events = null;
 
   const send = (name, data) => events?.write(`event: ${name}\ndata: ${JSON.stringify(data)}\n\n`);
@@ -31,10 +33,14 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
   const answer = (response, status, body) => response.writeHead(status, {'Content-Type': 'application/json'}).end(JSON.stringify(body));
   const routes = {
     'GET /events': (_, response) => {
+      ++host.openings;
+      if (host.refusal) return answer(response, host.refusal, {error: 'no stream'});
       response.writeHead(200, {'Content-Type': 'text/event-stream', 'Cache-Control': 'no-store'});
+      response.write('retry: 100\n\n');  // milliseconds: tests do not wait as long as people may
       events = response;
+      response.on('close', () => { if (events === response) events = null; });
       sent = JSON.parse(JSON.stringify(host.state));
-      send('state', {version: 1, page: 1, revision, state: host.state});
+      send('state', {version: 1, page: host.openings, revision, state: host.state});
     },
     'POST /actions': async (request, response) => {
       let body = '';
@@ -42,12 +48,13 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
       const action = JSON.parse(body);
       host.actions.push(action);
       try {
-        const more = act(action, host);
+        if (action.page !== host.openings) throw Object.assign(new Error(`no such page: ${action.page}`), {status: 404});
+        const more = await act(action, host);
         if (host.held) await host.held;  // a slow program: the action is done, nobody knows yet
         change();
         answer(response, 200, {ok: true, revision, ...more});
       } catch (error) {
-        answer(response, 409, {error: error.message, ...error.exists ? {exists: true} : {}});
+        answer(response, error.status ?? 409, {error: error.message, ...error.more});
       }
     },
     'GET /files': (request, response) => {
@@ -55,7 +62,7 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
       if (files[folder]) answer(response, 200, {folder, entries: files[folder]});
       else answer(response, 404, {error: `there is no folder ${folder}`});
     },
-    'GET /model.glb': (_, response) => response.writeHead(host.glb ? 200 : 204, {'Content-Type': 'model/gltf-binary'}).end(host.glb ?? undefined),
+    'GET /model.glb': (request, response) => host.model ? host.model(request, response) : response.writeHead(host.glb ? 200 : 204, {'Content-Type': 'model/gltf-binary'}).end(host.glb ?? undefined),
   };
   const server = http.createServer((request, response) => {
     const name = new URL(request.url, 'http://localhost').pathname;
@@ -70,6 +77,9 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
     if (name.startsWith('/resources/') && fs.existsSync(picture)) return response.writeHead(200, {'Content-Type': 'image/png'}).end(fs.readFileSync(picture));
     return response.writeHead(404).end();
   });
+  /// Sends a patch that belongs to no change.
+  host.sendPatch = patch => send('change', {revision: ++revision, patch});
+  Object.defineProperty(host, 'hasStream', {get: () => events !== null});
   /// Ends the stream of events; the page opens another one.
   host.drop = () => events.destroy();
   host.close = () => {

@@ -4,7 +4,7 @@ import {useEffect, useLayoutEffect, useMemo, useRef, useState} from 'preact/hook
 import {AskBox, FilesBox, MessageBox, ProgressBox} from './boxes.tsx';
 import {BrowserTree} from './browser_tree.tsx';
 import {CommandDialog} from './command_dialog.tsx';
-import type {Connection} from './connection.ts';
+import type {Connection, Line} from './connection.ts';
 import {isTrouble, Log} from './log.tsx';
 import {commandEntries, Menu, type Entry} from './menu.tsx';
 import {Docked, Floating} from './palettes.tsx';
@@ -19,14 +19,16 @@ export interface Notice { n: number; text: string }
 
 interface Props { line: Connection; notice: Notice | null; made(scene: Scene): void }
 
-type Asking = {what: 'open'} | {what: 'save'; name: string} | {what: 'replace'; file: string} | null;
+// `file` is null for what has no name of its own: where the document is saved, what the program was started with.
+type Asking = {what: 'open'} | {what: 'discard'; file: string | null} | {what: 'save'; name: string; problem?: string} | {what: 'replace'; file: string | null; name: string} | null;
 
 const noticeTime = 7000;
+const troubles: Partial<Record<Line, string>> = {lost: texts.lost, full: texts.full, refused: texts.refused};
 const designs = [{caption: 'Designs (STEP, IGES, design files)', patterns: ['*.step', '*.stp', '*.stpz', '*.iges', '*.igs', '*.gz', '*.json', '*.outline', '*.txt']}, {caption: texts.allFiles, patterns: ['*']}];
 
 export function App({line, notice, made}: Props) {
   const {state} = line;
-  if (!state) return <p class="waiting" role="status">{line.line === 'refused' ? texts.refused : line.line === 'lost' ? texts.lost : texts.connecting}</p>;
+  if (!state) return <p class="waiting" role="status">{troubles[line.line] ?? texts.connecting}</p>;
   return <Host line={line} state={state} notice={notice} made={made}/>;
 }
 
@@ -51,9 +53,16 @@ function Host({line, state, notice, made}: Props & {state: State}) {
   };
   const saveTo = async (file: string | null, replace: boolean) => {
     const answer = await line.ask('save', {...file === null ? {} : {file}, ...replace ? {replace} : {}});
-    if (answer.exists) setAsking({what: 'replace', file: file ?? state.document.saveAs});
-    else if (answer.error) line.onRefused(answer.error);
+    if (answer.exists) setAsking({what: 'replace', file, name: file ?? state.document.saveAs});
+    else if (answer.error && file !== null) setAsking({what: 'save', name: file, problem: answer.error});
     else setAsking(null);
+    if (answer.error && !answer.exists && file === null) line.onRefused(answer.error);
+  };
+  const open = async (file: string | null, discard: boolean) => {
+    setAsking(null);
+    const answer = await line.ask('open', {file, ...discard ? {discard} : {}});
+    if (answer.changed) setAsking({what: 'discard', file});
+    else if (answer.error) line.onRefused(answer.error);
   };
   const save = (as: boolean) => as || !state.document.saveAs ? setAsking({what: 'save', name: state.document.saveAs || `${state.document.name}.json`}) : void saveTo(null, false);
 
@@ -77,11 +86,11 @@ function Host({line, state, notice, made}: Props & {state: State}) {
       () => <BrowserTree components={state.tree.components} version={treeVersion} selection={state.selection} selectionVersion={selectionVersion} pick={pick} hover={setHovered} menu={openMenu}/>,
       [treeVersion, selectionVersion, state]);
   const stage = useMemo(
-      () => <Stage revision={state.model.revision} design={`${state.document.name}\n${state.document.file}`} selection={state.selection} selectionVersion={selectionVersion} hovered={hovered} pick={pick}
-                   hover={setHovered} menu={openMenu} made={made}/>, [line.version('model'), line.version('document'), selectionVersion, hovered, state]);
+      () => <Stage revision={state.model.revision} design={`${state.document.name}\n${state.document.file}`} selection={state.selection} selectionVersion={selectionVersion} hovered={hovered} openings={line.openings} pick={pick}
+                   hover={setHovered} menu={openMenu} made={made}/>, [line.version('model'), line.version('document'), line.openings, selectionVersion, hovered, state]);
 
   return <>
-    <QuickBar state={state} line={line} busy={isBusy} open={() => setAsking({what: 'open'})} save={save} logShown={logShown} toggleLog={() => setLogShown(!logShown)} trouble={trouble}/>
+    <QuickBar state={state} line={line} busy={isBusy} open={() => setAsking({what: 'open'})} openGiven={() => void open(null, false)} save={save} logShown={logShown} toggleLog={() => setLogShown(!logShown)} trouble={trouble}/>
     {ribbon}
     <main ref={main}>
       <section class="browser" aria-label={texts.tree}><h2>{texts.tree}</h2>{tree}</section>
@@ -101,15 +110,18 @@ function Host({line, state, notice, made}: Props & {state: State}) {
     </main>
     {logShown && <Log state={state} close={() => setLogShown(false)}/>}
     <StatusBar line={line} state={state}/>
-    {line.line !== 'open' && <p class="banner" role="alert">{line.line === 'refused' ? texts.refused : texts.lost}</p>}
-    {asking?.what === 'open' && <FilesBox title={texts.openTitle} filters={designs} line={line} cancel={() => setAsking(null)} pick={async ([file]) => { setAsking(null); await line.act('open', {file}); }}/>}
-    {asking?.what === 'save' && <FilesBox title={texts.saveTitle} filters={[]} save={asking.name} line={line} cancel={() => setAsking(null)} pick={([file]) => void saveTo(file, false)}/>}
-    {asking?.what === 'replace' && <AskBox title={texts.replaceTitle} text={texts.replaceText(asking.file)} yes={texts.replace} cancel={() => setAsking(null)} act={() => void saveTo(asking.file, true)}/>}
+    {troubles[line.line] && <p class="banner" role="alert">{troubles[line.line]}</p>}
+    {asking?.what === 'open' && <FilesBox title={texts.openTitle} filters={designs} line={line} cancel={() => setAsking(null)} pick={([file]) => void open(file, false)}/>}
+    {asking?.what === 'save' && <FilesBox title={texts.saveTitle} filters={[]} save={asking.name} refusal={asking.problem} line={line} cancel={() => setAsking(null)} pick={([file]) => void saveTo(designFile(file), false)}/>}
+    {asking?.what === 'replace' && <AskBox title={texts.replaceTitle} text={texts.replaceText(asking.name)} yes={texts.replace} cancel={() => setAsking(null)} act={() => void saveTo(asking.file, true)}/>}
+    {asking?.what === 'discard' && <AskBox title={texts.discardTitle} text={texts.discardText(state.document.name)} yes={texts.discard} cancel={() => setAsking(null)} act={() => void open(asking.file, true)}/>}
     {state.fileDialog && <FilesBox key={state.fileDialog.id} title={state.fileDialog.title || texts.open} filters={state.fileDialog.filters} filter={state.fileDialog.filter} multiple={state.fileDialog.multiple} line={line}
                                    pick={files => void line.act('answerFile', {id: state.fileDialog!.id, files})} cancel={() => void line.act('answerFile', {id: state.fileDialog!.id, files: null})}/>}
     {state.message && <MessageBox key={state.message.id} message={state.message} addin={state.addin.name} line={line}/>}
   </>;
 }
+
+const designFile = (name: string) => /\.json$/i.test(name) ? name : `${name}.json`;
 
 function useTitle(state: State): void {
   const {name, changed} = state.document;

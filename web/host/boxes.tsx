@@ -67,6 +67,7 @@ export function ProgressBox({progress, line}: {progress: Progress; line: Connect
 interface FilesProps {
   title: string; filters: Filter[]; filter?: number; multiple?: boolean; line: Connection;
   save?: string;                       ///< it asks for a name, and begins with this one
+  refusal?: string;                    ///< why the name that was picked last will not do
   extra?: {caption: string; act(): void};
   pick(files: string[]): void; cancel(): void;
 }
@@ -85,7 +86,7 @@ function fits(name: string, {patterns}: Filter): boolean {
 const sizeText = (size: number) => size < 1000 ? `${size} B` : size < 1e6 ? `${Math.round(size / 1e3)} kB` : `${(size / 1e6).toFixed(1)} MB`;
 
 /// Files of the user's data.
-export function FilesBox({title, filters, filter = 0, multiple = false, line, save, extra, pick, cancel}: FilesProps) {
+export function FilesBox({title, filters, filter = 0, multiple = false, line, save, refusal, extra, pick, cancel}: FilesProps) {
   const choices = filters.length ? filters : [everything];
   const isSaving = save !== undefined;
   const [folder, setFolder] = useState(isSaving && save.includes('/') ? save.slice(0, save.lastIndexOf('/')) : '');
@@ -152,6 +153,7 @@ export function FilesBox({title, filters, filter = 0, multiple = false, line, sa
       </div>
       <div class="fields">
         {isSaving && <label>{texts.fileName}<input type="text" value={name} data-first onInput={event => setName(event.currentTarget.value)} onKeyDown={event => { if (event.key === 'Enter') accept(); }}/></label>}
+        {refusal && <p class="refusal" role="alert">{refusal}</p>}
         {!isSaving && choices.length > 0 && <label>{texts.filesOfType}
           <select value={String(type)} onChange={event => setType(Number(event.currentTarget.value))}>{choices.map((each, i) => <option key={i} value={String(i)}>{each.caption}</option>)}</select></label>}
       </div>

@@ -34,7 +34,7 @@ export function BrowserTree({components, version, selection, selectionVersion, p
 
   useEffect(() => {
     if (!selection.length) return;
-    const above = selection.slice(0, mostRevealed).flatMap(ancestors);
+    const above = selection.slice(0, mostRevealed).flatMap(each => ancestors(components, each));
     setExpanded(before => above.every(each => before.has(each)) ? before : new Set([...before, ...above]));
   }, [selectionVersion]);
   useEffect(() => {
@@ -58,7 +58,7 @@ export function BrowserTree({components, version, selection, selectionVersion, p
       ArrowDown: () => go(activeRow + 1), ArrowUp: () => go(activeRow - 1), Home: () => go(0), End: () => go(rows.length - 1),
       PageDown: () => go(activeRow + page), PageUp: () => go(activeRow - page),
       ArrowRight: () => row.parent && !isOpen ? fold(row.path, true) : go(activeRow + 1),
-      ArrowLeft: () => row.parent && isOpen ? fold(row.path, false) : setActive(ancestors(row.path).pop() ?? ''),
+      ArrowLeft: () => row.parent && isOpen ? fold(row.path, false) : setActive(row.above),
       Enter: () => pick(row.path), ' ': () => pick(row.path)};
     if (!actions[event.key]) return;
     event.preventDefault();

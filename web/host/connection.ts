@@ -2,38 +2,52 @@
 import {applyPatch, type Operation} from 'fast-json-patch';
 import type {Answer, Folder, State} from './protocol.ts';
 
-export type Line = 'connecting' | 'open' | 'lost' | 'refused';
+/// `asleep`: the page is hidden, and holds no connection; `full`: other pages have all that the program offers.
+export type Line = 'connecting' | 'open' | 'asleep' | 'lost' | 'full' | 'refused';
 
 type Members = Record<string, unknown>;
-interface Waiting { action: string; members: Members; done: ((answer: Answer) => void)[] }
+interface Waiting { action: string; members: Members; dialog: string | undefined; done: ((answer: Answer) => void)[] }
 
 const gone: Answer = {error: 'The program does not answer.', status: 0};
 
 // Of these only the last one matters, as long as none has been sent.
 const replaced = new Set(['paste', 'view', 'resize']);
+// These are what the program waits for, so they never wait for it.
+const urgent = new Set(['answerMessage', 'answerFile', 'cancelProgress']);
+
+const firstPause = 500, longestPause = 16000;  // milliseconds until the line is tried again
+
+// A page that lost its stream is unknown to the program: the action was not looked at.
+const isUnknownPage = ({status, error = ''}: Answer) => status === 410 || status === 404 && error.startsWith('no such page');
 
 export class Connection {
   state: State | null = null;
   revision = 0;
   line: Line = 'connecting';
+  /// How often the line was opened; each time the program knows the page by another number, and nothing of its tables.
+  openings = 0;
   onChange: () => void = () => {};
   /// A refused action, unless its caller asked to handle it.
   onRefused: (text: string) => void = () => {};
 
   private page = 0;
+  private events: EventSource | null = null;
+  private retry: ReturnType<typeof setTimeout> | undefined;
+  private pause = firstPause;
   private queue: Waiting[] = [];
-  private sending = false;
+  private inTurn: Waiting | null = null;      // sent, and the others wait for its answer
+  private readonly ahead = new Set<Waiting>();  // sent beside it
   private answered = 0;  // the revision that has what the last action changed
+  private isWaitedFor = false;  // the last answer came before the action was done
   private readonly versions = new Map<string, number>();
 
+  /// A browser allows few connections to one program, for all pages together: a page that nobody sees gives its own up.
   start(): void {
-    const events = new EventSource('/events');
-    events.addEventListener('state', event => this.begin(JSON.parse((event as MessageEvent<string>).data)));
-    events.addEventListener('change', event => this.change(JSON.parse((event as MessageEvent<string>).data)));
-    events.addEventListener('error', () => {
-      this.line = events.readyState === EventSource.CLOSED ? 'refused' : 'lost';
-      this.onChange();
-    });
+    const look = () => document.visibilityState === 'hidden' ? this.sleep() : this.open();
+    document.addEventListener('visibilitychange', look);
+    addEventListener('pagehide', () => this.close());
+    addEventListener('pageshow', look);
+    look();
   }
 
   /// Grows when a member of the state has changed.
@@ -42,7 +56,7 @@ export class Connection {
   }
 
   /// Actions that were asked for and not yet answered.
-  get pending(): number { return this.queue.length + (this.sending ? 1 : 0); }
+  get pending(): number { return this.queue.length + this.ahead.size + (this.inTurn ? 1 : 0); }
 
   /// Nothing is on its way: all actions are answered, and the state has what they changed.
   get isSettled(): boolean { return this.pending === 0 && this.revision >= this.answered; }
@@ -62,9 +76,9 @@ export class Connection {
         last.members = members;
         last.done.push(resolve);
       } else {
-        this.queue.push({action, members, done: [resolve]});
+        this.queue.push({action, members, dialog: this.state?.dialog?.command, done: [resolve]});
       }
-      void this.send();
+      this.send();
     });
   }
 
@@ -75,16 +89,108 @@ export class Connection {
     return answer;
   }
 
-  private async send(): Promise<void> {
-    if (this.sending) return;
-    this.sending = true;
-    for (let next = this.queue.shift(); next; next = this.queue.shift()) {
-      const answer = await this.post(next.action, next.members);
-      this.answered = answer.revision ?? this.answered;
-      for (const done of next.done) done(answer);
-    }
-    this.sending = false;
+  private open(): void {
+    if (this.events) return;
+    clearTimeout(this.retry);
+    const events = new EventSource('/events');
+    this.events = events;
+    const on = (name: string, act: (event: Event) => void) => events.addEventListener(name, event => { if (this.events === events) act(event); });
+    on('state', event => this.begin(JSON.parse((event as MessageEvent<string>).data)));
+    on('change', event => this.change(JSON.parse((event as MessageEvent<string>).data)));
+    on('error', () => {
+      if (events.readyState === EventSource.CLOSED) void this.refused();
+      else this.lose('lost');
+    });
+  }
+
+  private close(): void {
+    clearTimeout(this.retry);
+    this.events?.close();
+    this.events = null;
+    if (this.line === 'open') this.line = 'asleep';
+  }
+
+  // What was sent is answered to this page alone, so the line is held until then.
+  private sleep(): void {
+    if (!this.inTurn && !this.ahead.size) this.close();
+  }
+
+  // An answer that is no stream closes it without saying which one it was.
+  private async refused(): Promise<void> {
+    this.close();
+    const stop = new AbortController();
+    const status = await fetch('/events', {signal: stop.signal}).then(response => response.status, () => 0);
+    stop.abort();
+    if (this.events) return;
+    this.lose(status === 403 ? 'refused' : status === 503 ? 'full' : 'lost');
+    if (status !== 403) this.openLater();
+  }
+
+  private openLater(): void {
+    clearTimeout(this.retry);
+    this.retry = setTimeout(() => { if (document.visibilityState !== 'hidden') this.open(); }, this.pause);
+    this.pause = Math.min(longestPause, 2 * this.pause);
+  }
+
+  private lose(line: Line): void {
+    this.line = line;
+    this.send();
     this.onChange();
+  }
+
+  // Nothing else is done while the program waits for an answer, or works itself.
+  private get isHeld(): boolean {
+    const {state} = this;
+    return !state || this.isWaitedFor && this.revision < this.answered || state.message !== null || state.fileDialog !== null || state.busy !== null;
+  }
+
+  private send(): void {
+    if (this.line === 'open') {
+      for (const each of this.queue.filter(({action}) => urgent.has(action))) void this.deliver(each);
+      const next = this.inTurn ? undefined : this.isHeld ? this.queue.find(({action}) => action === 'view') : this.queue[0];
+      if (next) void this.deliver(next);
+    } else if (this.line !== 'connecting' && this.line !== 'asleep') {
+      // What was typed is kept until the line is there again. A click is not: nobody knows what it would then be on.
+      const dropped = this.queue.filter(({action}) => action !== 'paste');
+      this.queue = this.queue.filter(({action}) => action === 'paste');
+      dropped.forEach(({done}) => done.forEach(each => each(gone)));
+    }
+  }
+
+  private async deliver(sent: Waiting): Promise<void> {
+    this.queue.splice(this.queue.indexOf(sent), 1);
+    const isAhead = urgent.has(sent.action);
+    if (isAhead) this.ahead.add(sent);
+    else this.inTurn = sent;
+    const {openings} = this;
+    const answer = await this.post(sent.action, sent.members);
+    if (isAhead) this.ahead.delete(sent);
+    else this.inTurn = null;
+    if (openings === this.openings) this.answered = Math.max(this.answered, answer.revision ?? 0);
+    if (!isAhead) this.isWaitedFor = answer.waiting === true;
+    if (this.isUndelivered(sent, answer)) this.keep(sent);
+    else sent.done.forEach(each => each(answer));
+    if ((answer.status === 0 || isUnknownPage(answer)) && openings === this.openings && this.line === 'open') this.openAnew();
+    this.send();
+    if (document.visibilityState === 'hidden') this.sleep();
+    this.onChange();
+  }
+
+  // A text replaces the one before, so that sending it twice does no harm.
+  private isUndelivered({action}: Waiting, answer: Answer): boolean {
+    return action === 'paste' && (answer.status === 0 || isUnknownPage(answer) || answer.status === 409 && this.isHeld);
+  }
+
+  private keep(sent: Waiting): void {
+    const later = this.queue.find(each => each.action === sent.action && each.members.input === sent.members.input);
+    if (later) later.done.unshift(...sent.done);
+    else this.queue.unshift(sent);
+  }
+
+  private openAnew(): void {
+    this.close();
+    this.lose('lost');
+    this.openLater();
   }
 
   private async post(action: string, members: Members): Promise<Answer> {
@@ -104,16 +210,36 @@ export class Connection {
     this.answered = 0;
     this.state = state;
     this.line = 'open';
+    this.pause = firstPause;
+    ++this.openings;
     for (const member of Object.keys(state)) this.touch(member);
+    this.dropForeignTexts(state.dialog?.command);
+    this.send();
     this.onChange();
+  }
+
+  // The input that a kept text is for may be another one by now.
+  private dropForeignTexts(dialog: string | undefined): void {
+    const foreign = this.queue.filter(each => each.action === 'paste' && each.dialog !== dialog);
+    this.queue = this.queue.filter(each => !foreign.includes(each));
+    foreign.forEach(({done}) => done.forEach(each => each(gone)));
   }
 
   // The document is changed in place: one of 10,000 occurrences is not copied for a key press.
   private change({revision, patch}: {revision: number; patch: Operation[]}): void {
     if (!this.state) return;
-    applyPatch(this.state, patch, false, true);
+    try {
+      applyPatch(this.state, patch, false, true);
+    } catch {
+      // It is half applied: only a whole state helps.
+      this.close();
+      this.line = 'connecting';
+      this.openLater();
+      return;
+    }
     for (const {path} of patch) this.touch(path.split('/')[1]);
     this.revision = revision;
+    this.send();
     this.onChange();
   }
 

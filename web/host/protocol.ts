@@ -87,7 +87,7 @@ export interface State {
 }
 
 /// What an action was answered.
-export interface Answer { ok?: boolean; revision?: number; waiting?: boolean; error?: string; exists?: boolean; commands?: Control[]; status?: number }
+export interface Answer { ok?: boolean; revision?: number; waiting?: boolean; error?: string; exists?: boolean; changed?: boolean; commands?: Control[]; status?: number }
 
 export interface FileEntry { name: string; folder: boolean; size?: number }
 export interface Folder { folder: string; entries: FileEntry[] }

@@ -1,6 +1,6 @@
 // The assembly in 3D: fetched when the host says that it looks different, drawn by the viewer that the offline page has.
 import {readGlb} from '../model/glb.ts';
-import type {Model} from '../model/model.ts';
+import type {Model, Occurrence} from '../model/model.ts';
 import {Viewer, type Pose} from '../viewer/viewer.ts';
 
 export interface SceneEvents {
@@ -13,10 +13,17 @@ export interface SceneEvents {
 
 export type SceneNote = {kind: 'none' | 'loading' | 'empty'} | {kind: 'problem'; text: string};
 
+const firstPause = 500, longestPause = 8000;  // milliseconds until a model that failed is fetched again
+
 export class Scene {
   viewer: Viewer | null = null;
   private revision = 0;
-  private loading = 0;
+  private loading = 0;  // the revision that is shown or on its way; 0: none, the last one failed
+  private turn = 0;
+  private retry: ReturnType<typeof setTimeout> | undefined;
+  private pause = firstPause;
+  private isElsewhere = false;
+  private pose: Pose | null = null;  // of the camera, which stays while a model cannot be shown
   private occurrences = new Map<string, number>();
   private selected: number[] = [];
   private hovered: number[] = [];
@@ -28,21 +35,39 @@ export class Scene {
     this.dark.addEventListener('change', () => this.viewer?.setPalette(palette()));
   }
 
-  /// Fetches the model if this one is newer; the camera stays, unless `elsewhere` says that it is another design.
+  /// Fetches the model if this one is newer, or the last one failed; the camera stays, unless `elsewhere` says that it is another design.
   async show(revision: number, elsewhere: boolean): Promise<void> {
+    this.isElsewhere ||= elsewhere;
     if (revision === this.loading) return;
+    this.pause = firstPause;
+    await this.fetch(revision);
+  }
+
+  private async fetch(revision: number): Promise<void> {
+    const turn = ++this.turn;
+    clearTimeout(this.retry);
     this.loading = revision;
-    if (elsewhere || !this.viewer) this.events.said({kind: 'loading'});
+    if (this.isElsewhere || !this.viewer) this.events.said({kind: 'loading'});
     try {
       const response = await fetch(`/model.glb?revision=${revision}`);
-      if (this.loading !== revision) return;
+      if (turn !== this.turn) return;
       if (!response.ok) throw new Error((await response.json().catch(() => ({error: response.statusText})) as {error: string}).error);
-      this.replace(response.status === 204 ? null : readGlb(new Uint8Array(await response.arrayBuffer())), revision, elsewhere);
+      const bytes = await response.arrayBuffer();
+      if (turn !== this.turn) return;
+      this.loading = Number(response.headers.get('Model-Revision')) || revision;  // it may be newer than what was asked for
+      this.replace(response.status === 204 ? null : readGlb(new Uint8Array(bytes)), this.loading);
     } catch (error) {
-      if (this.loading !== revision) return;
-      this.replace(null, revision, true);
-      this.events.said({kind: 'problem', text: (error as Error).message});
+      if (turn === this.turn) this.fail(revision, (error as Error).message);
     }
+  }
+
+  // The program may only have been at work, or not there for a moment: it is asked a few times more.
+  private fail(revision: number, text: string): void {
+    this.loading = 0;
+    if (this.pause <= longestPause) this.retry = setTimeout(() => void this.fetch(revision), this.pause);
+    this.pause *= 2;
+    this.replace(null, revision);
+    this.events.said({kind: 'problem', text});
   }
 
   /// Marks what is selected.
@@ -74,15 +99,16 @@ export class Scene {
     this.viewer?.mark(this.selected, this.hovered);
   }
 
-  private replace(model: Model | null, revision: number, elsewhere: boolean): void {
-    const pose = elsewhere ? null : this.viewer?.pose ?? null;
+  private replace(model: Model | null, revision: number): void {
+    this.pose = this.isElsewhere ? null : this.viewer?.pose ?? this.pose;
+    this.isElsewhere = false;
     const before = this.viewer && {edges: this.viewer.edges, perspective: this.viewer.perspective};
     this.viewer?.dispose();
     this.viewer = null;
     this.root.replaceChildren();
     this.occurrences = new Map(model?.occurrences.map((each, i) => [each.path, i]));
     if (model?.instances.length) {
-      this.viewer = this.makeViewer(model, pose);
+      this.viewer = this.makeViewer(model, this.pose);
       if (before) Object.assign(this.viewer, before);
     }
     this.revision = revision;
@@ -105,7 +131,7 @@ export class Scene {
     viewer.onHover = instance => {
       const path = instance < 0 ? null : this.pathOf(instance);
       canvas.style.cursor = path === null ? '' : 'pointer';
-      canvas.title = path?.split('+').pop() ?? '';
+      canvas.title = instance < 0 ? '' : this.nameOf(instance);
       this.hover(path);
       this.events.hover(path);
     };
@@ -113,8 +139,21 @@ export class Scene {
   }
 
   private pathOf(instance: number): string {
+    return this.occurrenceOf(instance)?.path.replace(/#bodies$/, '') ?? '';
+  }
+
+  // Without what it is in: that is not what stands behind the last "+", which may be one of the name's own.
+  private nameOf(instance: number): string {
+    const occurrence = this.occurrenceOf(instance), path = this.pathOf(instance);
+    const isBodies = occurrence?.path !== path;
+    const own = isBodies ? this.viewer!.model.occurrences[occurrence?.parent ?? -1] : occurrence;
+    const above = this.viewer!.model.occurrences[own?.parent ?? -1]?.path ?? '';
+    return above ? path.slice(above.length + 1) : path;
+  }
+
+  private occurrenceOf(instance: number): Occurrence | undefined {
     const {model} = this.viewer!;
-    return model.occurrences[model.instances[instance].occurrence]?.path.replace(/#bodies$/, '') ?? '';
+    return model.occurrences[model.instances[instance].occurrence];
   }
 }
 

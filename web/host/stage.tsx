@@ -10,13 +10,14 @@ interface Props {
   revision: number; design: string;
   selection: string[]; selectionVersion: number;
   hovered: string | null;
+  openings: number;  ///< of the line: a model that failed is fetched again at each
   pick(path: string): void;
   hover(path: string | null): void;
   menu(event: MouseEvent): void;
   made(scene: Scene): void;
 }
 
-export function Stage({revision, design, selection, selectionVersion, hovered, pick, hover, menu, made}: Props) {
+export function Stage({revision, design, selection, selectionVersion, hovered, openings, pick, hover, menu, made}: Props) {
   const root = useRef<HTMLDivElement>(null);
   const scene = useRef<Scene | null>(null);
   const shownDesign = useRef('');
@@ -36,7 +37,7 @@ export function Stage({revision, design, selection, selectionVersion, hovered, p
     const elsewhere = shownDesign.current !== design;
     shownDesign.current = design;
     void scene.current?.show(revision, elsewhere);
-  }, [revision, design]);
+  }, [revision, design, openings]);
   useEffect(() => scene.current?.select(selection), [selectionVersion]);
   useEffect(() => scene.current?.hover(hovered), [hovered]);
 

@@ -8,6 +8,7 @@ import {texts} from './texts.ts';
 import {scrollTo, useSight} from './windowed.ts';
 
 const rowHeight = 26, around = 3;
+const pause = 1000;  // milliseconds after which rows that were refused are asked for again
 const margin = 40;  // rows that are asked for beyond those in sight, so that scrolling finds them there
 
 interface Props { table: Table; line: Connection }
@@ -20,7 +21,7 @@ function isHeading(row: Row | undefined): boolean {
 
 export function DataTable({table, line}: Props) {
   const box = useRef<HTMLDivElement>(null);
-  const asked = useRef({from: 0, count: 0});
+  const asked = useRef('');  // the rows, and what was there instead: once that changes, they are asked for again
   const focused = useRef<{at: number; number: number; row: Row} | null>(null);
   const {window: shown, shownCount = 0, selectedRow = 0, toolbar = []} = table;
   const heading = shown.first >= 0 && isHeading(shown.rows[shown.first]) ? shown.rows[shown.first] : null;
@@ -34,9 +35,12 @@ export function DataTable({table, line}: Props) {
     const [have, end] = [shown.from, shown.from + shown.order.length];
     const isCovered = from >= have && Math.min(last, shownCount) <= end;
     const want = {from: Math.max(0, from - margin), count: last - from + 2 * margin};
-    if (isCovered || asked.current.from === want.from && asked.current.count === want.count && line.pending > 0) return;
-    asked.current = want;
-    void line.ask('view', {input: table.key, ...want});
+    const asking = [want.from, want.count, have, end, shownCount, line.openings].join(' ');
+    if (isCovered || asked.current === asking) return;
+    asked.current = asking;
+    void line.ask('view', {input: table.key, ...want}).then(answer => {
+      if (answer.error) setTimeout(() => { if (asked.current === asking) { asked.current = ''; line.onChange(); } }, pause);
+    });
   });
 
   const columns = table.shownColumns ?? [];

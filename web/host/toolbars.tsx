@@ -6,9 +6,9 @@ import {commandEntries, MenuButton} from './menu.tsx';
 import type {Control, Panel, State} from './protocol.ts';
 import {texts} from './texts.ts';
 
-interface QuickProps { state: State; line: Connection; busy: boolean; open(): void; save(as: boolean): void; logShown: boolean; toggleLog(): void; trouble: number }
+interface QuickProps { state: State; line: Connection; busy: boolean; open(): void; openGiven(): void; save(as: boolean): void; logShown: boolean; toggleLog(): void; trouble: number }
 
-export function QuickBar({state, line, busy, open, save, logShown, toggleLog, trouble}: QuickProps) {
+export function QuickBar({state, line, busy, open, openGiven, save, logShown, toggleLog, trouble}: QuickProps) {
   const {document: design, addin} = state;
   const tool = (sign: Sign, caption: string, act: () => void, disabled = false, more = {}) => (
     <button type="button" class="tool" title={caption} aria-label={caption} disabled={disabled} onClick={act} {...more}><Icon sign={sign}/></button>);
@@ -20,7 +20,7 @@ export function QuickBar({state, line, busy, open, save, logShown, toggleLog, tr
         {tool('save', `${texts.save} (Ctrl+S)`, () => save(false), busy)}
         <MenuButton label={texts.more} sign="more" entries={[
           {caption: `${texts.saveAs}…`, enabled: !busy, act: () => save(true)},
-          ...design.given ? [{caption: texts.given(design.given), enabled: !busy, act: () => void line.act('open', {file: null})}] : [],
+          ...design.given ? [{caption: texts.given(design.given), enabled: !busy, act: openGiven}] : [],
           {caption: texts.reload, enabled: !busy, act: () => void line.act('reloadAddin')}, ...commands.map(each => ({...each, enabled: each.enabled && !busy}))]}/>
       </div>
       <h1 title={design.file || design.name}><Icon sign="document"/><span>{design.name}</span>{design.changed && <span class="unsaved" role="img" aria-label={texts.unsaved} title={texts.unsaved}/>}</h1>
