@@ -272,6 +272,9 @@ DialogView readDialog(TableRows rows) {
 
 std::vector<RowView> readRows(const Ptr<core::TableCommandInput>& table,
                               const std::vector<int>& rows) {
+    if (!table) {
+        return {};
+    }
     const ui::TableCommandInputObject& state = stateOf(table);
     const std::vector<int> columns = state.shownColumns();
     std::vector<RowView> views;
