@@ -27,23 +27,28 @@ struct ServeOptions {
     ReadingOptions reading;
 };
 
+/// As the data folder names its files; a link that is the file itself stays one.
 fs::path absolutePath(const std::string& name) {
-    return name.empty() ? fs::path() : fs::absolute(host::fromUtf8(name)).lexically_normal();
+    if (name.empty()) {
+        return {};
+    }
+    const fs::path file = fs::absolute(host::fromUtf8(name)).lexically_normal();
+    return fs::weakly_canonical(file.parent_path()) / file.filename();
 }
 
 /// The user's data: the named folder, else the program's own, which begins with one project.
 fs::path dataFolder(const ServeOptions& options) {
     if (options.data.empty()) {
-        fs::path projects = userFolder() / "Projects";
+        const fs::path projects = userSession(options.addin).home / "Projects";
         fs::create_directories(projects / "Local");
-        return projects;
+        return fs::canonical(projects);
     }
-    const fs::path folder = absolutePath(options.data);
+    const fs::path folder = host::fromUtf8(options.data);
     std::error_code ignored;
     if (!fs::is_directory(folder, ignored)) {
         refuse("--data " + options.data + ": not a directory");
     }
-    return folder;
+    return fs::canonical(folder);
 }
 
 /// The add-in works in the data home itself, so that what the user configures on the page stays.

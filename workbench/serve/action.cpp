@@ -162,6 +162,7 @@ void readFile(Action& action, const Members& members) {
         action.file = members.text("file");
     }
     action.replace = members.flag("replace");
+    action.discard = members.flag("discard");
 }
 
 /// How the members of a kind are read.

@@ -58,7 +58,8 @@ struct Action {
     int id = 0;  ///< of a message or a file dialog
     std::size_t from = 0;
     std::size_t count = 0;
-    bool replace = false;
+    bool replace = false;  ///< of `save`: a file that exists
+    bool discard = false;  ///< of `open`: changes that are not saved
 };
 
 /// Reads the body of a request. Throws a `ProtocolError` of the status 400 that names the member

@@ -20,7 +20,14 @@ struct Entry {
     std::uintmax_t size = 0;
 };
 
-std::vector<Entry> entriesOf(const fs::path& folder) {
+bool isIn(const fs::path& home, const fs::path& file) {
+    std::error_code failure;
+    const fs::path full = fs::canonical(file, failure);
+    return !failure && std::ranges::mismatch(home, full).in1 == home.end();
+}
+
+/// What is in a folder, without links that lead out of the data.
+std::vector<Entry> entriesOf(const fs::path& folder, const fs::path& home) {
     std::vector<Entry> entries;
     std::error_code failure;
     for (fs::directory_iterator each(folder, failure), end; !failure && each != end;
@@ -29,7 +36,8 @@ std::vector<Entry> entriesOf(const fs::path& folder) {
         Entry entry = {.name = host::toUtf8(each->path().filename())};
         entry.isFolder = each->is_directory(ignored);
         entry.size = entry.isFolder ? 0 : each->file_size(ignored);
-        if (!entry.name.starts_with('.') && (entry.isFolder || each->is_regular_file(ignored))) {
+        if (!entry.name.starts_with('.') && (entry.isFolder || each->is_regular_file(ignored)) &&
+            isIn(home, each->path())) {
             entries.push_back(std::move(entry));
         }
     }
@@ -63,11 +71,12 @@ fs::path DataFolder::resolved(const std::string& name) const {
 Json DataFolder::list(const std::string& name) const {
     const fs::path folder = resolved(name);
     std::error_code ignored;
+    const fs::path home = fs::canonical(folder_, ignored);
     if (!fs::is_directory(folder, ignored)) {
         throw ProtocolError(kNotFound, "no such folder: \"" + name + "\"");
     }
     Json entries = Json::array();
-    for (const Entry& each : entriesOf(folder)) {
+    for (const Entry& each : entriesOf(folder, home)) {
         Json entry = {{"name", each.name}, {"folder", each.isFolder}};
         if (!each.isFolder) {
             entry["size"] = each.size;

@@ -25,7 +25,7 @@ public:
             try {
                 promise->set_value(work(host));
             } catch (...) {
-                promise->set_exception(std::current_exception());
+                fail(*promise);
             }
         });
         return result.get();
@@ -39,7 +39,7 @@ public:
             try {
                 host.act(action, [promise](const Json& answer) { promise->set_value(answer); });
             } catch (...) {
-                promise->set_exception(std::current_exception());
+                fail(*promise);
             }
         });
         return result.get();
@@ -53,6 +53,17 @@ public:
     [[nodiscard]] const DataFolder& data() const { return host_.data(); }
 
 private:
+    /// Answers with the exception that is handled now. An action that was answered as waiting has
+    /// nobody who would take one.
+    template <class Result>
+    static void fail(std::promise<Result>& promise) {
+        try {
+            promise.set_exception(std::current_exception());
+        } catch (const std::future_error&) {
+            return;
+        }
+    }
+
     void post(MainQueue::Work work) const {
         if (queue_.isClosed()) {
             throw ProtocolError(kUnavailable, "the program is ending");

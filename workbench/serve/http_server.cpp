@@ -56,8 +56,8 @@ void answerJson(Response& response, int status, const Json& json) {
 
 void refuse(Response& response, const ProtocolError& error) {
     Json body = {{"error", error.what()}};
-    if (error.exists()) {
-        body["exists"] = true;
+    if (!error.question().empty()) {
+        body[error.question()] = true;
     }
     answerJson(response, error.status(), body);
 }
@@ -145,8 +145,10 @@ void HttpServer::Parts::configure() {
             std::rethrow_exception(error);
         } catch (const ProtocolError& refusal) {
             refuse(response, refusal);
+        } catch (const std::runtime_error& refusal) {
+            refuse(response, {kConflict, refusal.what()});
         } catch (const std::exception& failure) {
-            refuse(response, {kConflict, failure.what()});
+            refuse(response, {kFailed, std::string("the program failed: ") + failure.what()});
         }
     });
     server.set_error_handler([](const Request&, Response& response) {

@@ -34,10 +34,10 @@ void MainQueue::close() {
     host::postToMainThread([this] { run(); });
 }
 
-bool MainQueue::waitAndRun() {
+bool MainQueue::waitAndRun(std::chrono::milliseconds patience) {
     {
         std::unique_lock lock(mutex_);
-        changed_.wait(lock, [this] { return closed_ || !waiting_.empty(); });
+        changed_.wait_for(lock, patience, [this] { return closed_ || !waiting_.empty(); });
     }
     run();
     return !isClosed();
@@ -54,7 +54,12 @@ void MainQueue::run() {
             next = std::move(waiting_.front());
             waiting_.pop_front();
         }
-        next();
+        try {
+            next();
+        } catch (...) {
+            // Whoever left it has the answer; the program goes on with what the others left.
+            continue;
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
@@ -16,8 +17,8 @@ class MainQueue {
 public:
     using Work = std::function<void()>;
 
-    /// Leaves work to the main thread, in order; it must not throw. False, and nothing left, where
-    /// too much waits already or the queue is closed. For any thread.
+    /// Leaves work to the main thread, in order; what it throws is dropped. False, and nothing
+    /// left, where too much waits already or the queue is closed. For any thread.
     bool post(Work work);
 
     /// Ends the waiting: `isClosed` from now on, and nothing is taken any more. What waits is still
@@ -27,8 +28,9 @@ public:
     /// @name For the main thread
     /// @{
 
-    /// Waits until there is work, does it, and returns true; false once the queue is closed.
-    bool waitAndRun();
+    /// Waits until there is work, but so long at most, does what there is, and returns true; false
+    /// once the queue is closed.
+    bool waitAndRun(std::chrono::milliseconds patience);
 
     /// Does what waits now.
     void run();

@@ -10,6 +10,25 @@
 #include <utility>
 
 namespace workbench::serve {
+namespace {
+
+/// However the serving ends, nobody waits for an answer then: the server's threads would, and the
+/// server for them.
+class AnswersAtEnd {
+public:
+    explicit AnswersAtEnd(MainQueue& queue) : queue_(queue) {}
+    AnswersAtEnd(const AnswersAtEnd&) = delete;
+    AnswersAtEnd& operator=(const AnswersAtEnd&) = delete;
+    ~AnswersAtEnd() {
+        queue_.close();
+        queue_.run();
+    }
+
+private:
+    MainQueue& queue_;
+};
+
+}  // namespace
 
 void serve(ServeRequest request) {
     host::DesignData design = std::move(request.design);
@@ -17,6 +36,8 @@ void serve(ServeRequest request) {
     MainQueue queue;
     Pages pages;
     const int port = request.port;
+    // Beyond the server: the add-in's stop, which keeps its settings, is not to be cut off either.
+    const StopSignals signals([&queue] { queue.close(); });
     ServedHost host(std::move(request), queue, pages);
     {
         HttpServer server(port, queue, pages);
@@ -25,8 +46,8 @@ void serve(ServeRequest request) {
         } catch (const host::SessionError& error) {
             throw Failure(ExitCode::NoAddin, error.what());
         }
-        const StopSignals signals([&queue] { queue.close(); });
         server.start(host);
+        const AnswersAtEnd answers(queue);
         std::cout << server.address() << "\n";
         flushOutput();
         if (!isQuiet()) {

@@ -63,6 +63,7 @@ void ServedHost::begin(host::DesignData design, const std::vector<host::ReadingW
 }
 
 void ServedHost::runAddin() {
+    const Restored inside(depth_, depth_ + 1);
     running_ = session_->run();
     publish();
 }
@@ -77,8 +78,11 @@ void ServedHost::load() {
 }
 
 void ServedHost::loop() {
-    while (queue_.waitAndRun()) {
+    constexpr std::chrono::milliseconds kIdle{500};
+    while (queue_.waitAndRun(kIdle)) {
         try {
+            const Restored inside(depth_, depth_ + 1);
+            // What is scheduled is done now, and shown by `watchProgress`.
             host::runPostedWork();
         } catch (const std::exception& error) {
             log_.addWarning(error.what());
@@ -87,11 +91,17 @@ void ServedHost::loop() {
 }
 
 void ServedHost::stop() {
-    if (session_) {
-        document_ = nullptr;
-        session_->stop();
-        session_.reset();
+    if (!session_) {
+        return;
     }
+    session_->stop();
+    running_ = false;
+    opened_.clear();
+    document_ = nullptr;
+    shownDialog_ = nullptr;
+    dialog_.reset();
+    dialogJson_ = Json();
+    session_.reset();
 }
 
 void ServedHost::showDesign(host::DesignData design, const fs::path& file) {
@@ -100,25 +110,70 @@ void ServedHost::showDesign(host::DesignData design, const fs::path& file) {
     } else {
         session_->openDesign(std::move(design), file);
     }
-    file_ = file;
-    savedEdits_ = host::editsOfDesign();
+    opened_.clear();
+    Opened& shown = current();
+    shown.file = file;
+    shown.savedEdits = host::editsOfDesign();
 }
 
-void ServedHost::reload() {
-    if (inAction_.size() > 1) {
-        throw ProtocolError(kConflict, "the add-in is at work: wait until it has finished");
+ServedHost::Opened& ServedHost::current() {
+    const Ptr<adsk::core::Document> active = adsk::core::Application::get()->activeDocument();
+    auto found = std::ranges::find_if(
+        opened_, [&active](const Opened& each) { return each.document == active; });
+    if (found == opened_.end()) {
+        // One that the add-in opened: it has no file yet.
+        found = opened_.insert(found, Opened{.document = active, .name = "", .file = {}});
     }
-    const bool changed = host::editsOfDesign() != savedEdits_;
-    host::DesignData design = session_->design();
-    stop();
-    running_ = false;
-    session_ = std::make_unique<host::Session>(setup_.session);
-    load();
-    showDesign(std::move(design), file_);
-    if (changed) {
-        --savedEdits_;
+    found->name = active ? active->name() : "";
+    found->changed = host::editsOfDesign() != found->savedEdits;
+    return *found;
+}
+
+const fs::path& ServedHost::file() { return kept_ ? kept_->file : current().file; }
+
+bool ServedHost::isChanged() { return kept_ ? kept_->changed : current().changed; }
+
+void ServedHost::reload() {
+    refuseInside();
+    if (session_) {
+        static_cast<void>(host::findAddin(setup_.session.addin));
+        kept_ = Kept{.design = session_->design(), .file = file(), .changed = isChanged()};
+        warnOfLostChanges();
+        stop();
+    }
+    try {
+        startAgain();
+    } catch (const std::exception& error) {
+        session_.reset();
+        log_.addWarning(std::string("the add-in was not loaded again: ") + error.what());
+        throw;
     }
     running_ = session_->run();
+}
+
+void ServedHost::startAgain() {
+    session_ = std::make_unique<host::Session>(setup_.session);
+    load();
+    showDesign(kept_->design, kept_->file);
+    const Kept kept = *std::exchange(kept_, std::nullopt);
+    if (kept.changed) {
+        --current().savedEdits;
+    }
+}
+
+void ServedHost::warnOfLostChanges() {
+    const Ptr<adsk::core::Document> active = current().document;
+    for (const Opened& each : opened_) {
+        if (each.changed && each.document != active) {
+            log_.addWarning("\"" + each.name + "\" was closed with changes that were not saved");
+        }
+    }
+}
+
+void ServedHost::refuseInside() const {
+    if (depth_ > 1) {
+        throw ProtocolError(kConflict, "the add-in is at work: wait until it has finished");
+    }
 }
 
 // --- Actions
@@ -126,6 +181,7 @@ void ServedHost::reload() {
 void ServedHost::act(const Action& action, const Answer& answer) {
     refuseWhileWaiting(action);
     InAction running(*this, answer);
+    const Restored inside(depth_, depth_ + 1);
     Json result;
     try {
         result = perform(action);
@@ -142,10 +198,15 @@ void ServedHost::act(const Action& action, const Answer& answer) {
 }
 
 void ServedHost::refuseWhileWaiting(const Action& action) const {
+    const bool needsNoAddin =
+        action.kind == ActionKind::ReloadAddin || action.kind == ActionKind::Save;
+    if (!session_ && !needsNoAddin) {
+        throw ProtocolError(kConflict, "the add-in is not loaded: reload it, or save the design");
+    }
     if (isAnswer(action.kind)) {
         return;
     }
-    if (!session_ || !busy_.empty()) {
+    if (!busy_.empty()) {
         throw ProtocolError(kConflict, "the program is at work: " + busy_);
     }
     if (waiting_) {
@@ -272,39 +333,48 @@ std::string ServedHost::nameOf(const fs::path& file) const {
     return host::toUtf8(isInside ? fs::path(relative.generic_string()) : file.filename());
 }
 
-fs::path ServedHost::saveTarget() const {
-    if (file_.empty() || endsIn(host::toUtf8(file_.filename()), ".json")) {
-        return file_;
+fs::path ServedHost::saveTarget() {
+    fs::path target = file();
+    if (target.empty() || endsIn(host::toUtf8(target.filename()), ".json")) {
+        return target;
     }
-    fs::path target = file_;
     target.replace_extension();
     return target += host::kDesignFileEnding;
 }
 
 void ServedHost::openFile(const Action& action) {
-    if (inAction_.size() > 1) {
-        throw ProtocolError(kConflict, "the add-in is at work: wait until it has finished");
-    }
+    refuseInside();
     const fs::path file = action.file ? data_.existing(*action.file) : setup_.given;
     if (file.empty()) {
         throw ProtocolError(kConflict, "the program was started without a file; name one");
     }
-    std::vector<host::ReadingWarning> warnings;
-    std::optional<host::DesignData> design;
-    busy_ = "Reading " + nameOf(file);
-    publish();
-    try {
-        design = setup_.read(
-            file, [this](const std::string&, double) { breathe(); }, warnings);
-    } catch (...) {
-        busy_.clear();
-        throw;
+    if (!action.discard) {
+        refuseToDiscard();
     }
-    busy_.clear();
+    std::vector<host::ReadingWarning> warnings;
+    host::DesignData design = read(file, warnings);
     for (const host::ReadingWarning& each : warnings) {
         log_.add(each);
     }
-    showDesign(std::move(*design), file);
+    showDesign(std::move(design), file);
+}
+
+void ServedHost::refuseToDiscard() {
+    static_cast<void>(current());
+    for (const Opened& each : opened_) {
+        if (each.changed) {
+            throw ProtocolError(kConflict, "\"" + each.name + "\" has changes that are not saved",
+                                "changed");
+        }
+    }
+}
+
+host::DesignData ServedHost::read(const fs::path& file,
+                                  std::vector<host::ReadingWarning>& warnings) {
+    const Restored busy(busy_, "Reading " + nameOf(file));
+    publish();
+    return setup_.read(
+        file, [this](const std::string&, double) { breathe(); }, warnings);
 }
 
 void ServedHost::breathe() {
@@ -325,12 +395,18 @@ void ServedHost::save(const Action& action) {
     }
     std::error_code ignored;
     if (!action.replace && fs::exists(target, ignored)) {
-        throw ProtocolError(kConflict, "\"" + nameOf(target) + "\" exists already",
-                            /*exists=*/true);
+        throw ProtocolError(kConflict, "\"" + nameOf(target) + "\" exists already", "exists");
+    }
+    if (!session_) {
+        host::saveDesignFile(target, kept_->design);
+        kept_->file = target;
+        kept_->changed = false;
+        return;
     }
     session_->save(target);
-    file_ = target;
-    savedEdits_ = host::editsOfDesign();
+    Opened& saved = current();
+    saved.file = target;
+    saved.savedEdits = host::editsOfDesign();
 }
 
 std::optional<fs::path> ServedHost::openedFile(std::size_t number) const {
@@ -350,18 +426,50 @@ std::optional<fs::path> ServedHost::openedFile(std::size_t number) const {
 
 ModelSource ServedHost::model() {
     if (!shapes_ && design_) {
-        busy_ = "Drawing " + design_->name;
-        publish();
-        constexpr double kDeflection = 0.002;
-        constexpr double kAngle = 0.5;
-        host::ShapeRequest request = {.meshes = true};
-        request.deflection = kDeflection;
-        request.angle = kAngle;
-        shapes_ = std::make_shared<const host::ShapeData>(host::readShapes(*design_, request));
-        busy_.clear();
+        if (!busy_.empty()) {
+            throw ProtocolError(kConflict, "the program is at work: " + busy_);
+        }
+        try {
+            draw();
+        } catch (...) {
+            publish();
+            throw;
+        }
         publish();
     }
     return {.revision = modelRevision_, .design = design_, .shapes = shapes_};
+}
+
+void ServedHost::draw() {
+    const Restored busy(busy_, "Drawing " + design_->name);
+    publish();
+    constexpr double kDeflection = 0.002;
+    constexpr double kAngle = 0.5;
+    host::ShapeRequest request = {.meshes = true};
+    request.deflection = kDeflection;
+    request.angle = kAngle;
+    auto read = std::make_shared<const host::ShapeData>(host::readShapes(*design_, request));
+    reportProblems(*read);
+    shapes_ = std::move(read);
+}
+
+void ServedHost::reportProblems(const host::ShapeData& shapes) {
+    std::map<std::string, int> problems;
+    bool isDrawn = false;
+    for (const host::Shape& each : shapes.shapes) {
+        isDrawn = isDrawn || each.mesh;
+        if (!each.problem.empty()) {
+            ++problems[each.problem];
+        }
+    }
+    if (!isDrawn && !problems.empty()) {
+        // Nothing is kept of it, so the next request tries again.
+        throw ProtocolError(kFailed, "no shape could be drawn: " + problems.begin()->first);
+    }
+    for (const auto& [problem, count] : problems) {
+        log_.addWarning("shapes that are drawn in part or not at all: " + std::to_string(count) +
+                        " (" + problem + ")");
+    }
 }
 
 }  // namespace workbench::serve

@@ -88,7 +88,35 @@ private:
     struct Waiting;
     class InAction;
 
+    /// A document of this session, and where it is kept.
+    struct Opened {
+        adsk::core::Ptr<adsk::core::Document> document;
+        std::string name;
+        std::filesystem::path file;    ///< absolute; empty for none
+        std::uint64_t savedEdits = 0;  ///< those that the file has
+        bool changed = false;          ///< when it was last read
+    };
+
+    /// What is open while no session lives, since the add-in could not be loaded again.
+    struct Kept {
+        host::DesignData design;
+        std::filesystem::path file;
+        bool changed = false;
+    };
+
     void load();
+    void startAgain();
+    void warnOfLostChanges();
+    [[nodiscard]] Opened& current();
+    [[nodiscard]] const std::filesystem::path& file();
+    [[nodiscard]] bool isChanged();
+    void refuseInside() const;
+    void refuseToDiscard();
+    host::DesignData read(const std::filesystem::path& file,
+                          std::vector<host::ReadingWarning>& warnings);
+    void draw();
+    void reportProblems(const host::ShapeData& shapes);
+    void readWithoutAddin(std::map<std::string, Json>& fresh);
     void showDesign(host::DesignData design, const std::filesystem::path& file);
     Json perform(const Action& action);
     void performInput(const Action& action);
@@ -114,7 +142,7 @@ private:
     [[nodiscard]] bool readState();
     void showAll();
     void readDesignState(std::map<std::string, Json>& fresh);
-    [[nodiscard]] Json documentJson() const;
+    [[nodiscard]] Json documentJson();
     [[nodiscard]] Json openedJson() const;
     [[nodiscard]] bool readDialogState();
     void showTo(Page& page);
@@ -122,7 +150,7 @@ private:
     void addWindows(Json& inputs, const std::vector<host::InputView>& views, const Page& page,
                     bool isShown) const;
     [[nodiscard]] Json windowJson(const host::InputView& table, const RowWindow& window) const;
-    [[nodiscard]] std::filesystem::path saveTarget() const;
+    [[nodiscard]] std::filesystem::path saveTarget();
     [[nodiscard]] std::string nameOf(const std::filesystem::path& file) const;
 
     ServeRequest setup_;
@@ -135,8 +163,8 @@ private:
     bool running_ = false;
     std::string busy_;
 
-    std::filesystem::path file_;  ///< of the open design, absolute; empty for none
-    std::uint64_t savedEdits_ = 0;
+    std::vector<Opened> opened_;
+    std::optional<Kept> kept_;
     adsk::core::Ptr<adsk::core::Document> document_;
     std::uint64_t readEdits_ = 0;
     std::shared_ptr<const host::DesignData> design_;
@@ -147,6 +175,7 @@ private:
     Waiting* waiting_ = nullptr;  ///< what the module waits for; null for nothing
     int newestQuestion_ = 0;
     std::vector<InAction*> inAction_;
+    int depth_ = 0;  ///< how many calls that may be the module's run inside each other
 
     std::uint64_t revision_ = 0;
     Sections sections_;

@@ -16,6 +16,21 @@ struct ServedHost::Waiting {
     host::PickedFiles files;
 };
 
+/// While it lives, a variable has another value.
+template <class Value>
+class Restored {
+public:
+    Restored(Value& variable, Value value)
+        : variable_(variable), before_(std::exchange(variable, std::move(value))) {}
+    Restored(const Restored&) = delete;
+    Restored& operator=(const Restored&) = delete;
+    ~Restored() { variable_ = std::move(before_); }
+
+private:
+    Value& variable_;
+    Value before_;
+};
+
 /// An action that is being done, until it is answered.
 class ServedHost::InAction {
 public:

@@ -6,6 +6,7 @@
 #include "host/session/dialog_answers.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 // What the module shows and waits for: messages, file dialogs, progress.
@@ -13,6 +14,7 @@ namespace workbench::serve {
 namespace {
 
 constexpr double kProgressInterval = 0.1;  // seconds
+constexpr std::chrono::hours kPatience{1};
 
 /// What closing a message without pressing a button answers.
 adsk::core::DialogResults closingAnswer(adsk::core::MessageBoxButtonTypes buttons) {
@@ -58,12 +60,11 @@ host::PickedFiles ServedHost::askFiles(const host::FileDialogShown& dialog) {
 }
 
 void ServedHost::waitForAnswer(Waiting& waiting) {
-    Waiting* const before = std::exchange(waiting_, &waiting);
+    const Restored before(waiting_, &waiting);
     publish();
     answerWaiting();
-    while (!waiting.answered && queue_.waitAndRun()) {
+    while (!waiting.answered && queue_.waitAndRun(kPatience)) {
     }
-    waiting_ = before;
 }
 
 void ServedHost::answerWaiting() {
@@ -112,17 +113,17 @@ void ServedHost::answerFiles(const Action& action) {
 // far it is, and the user may go on.
 void ServedHost::watchProgress() {
     session_->schedule(kProgressInterval, [this] {
+        watchProgress();  // first: it goes on whatever is thrown below
         const std::optional<host::Progress> progress = host::progressDialog();
         if (queue_.isClosed() && progress && !progress->cancelButton.empty()) {
             host::cancelProgress();
         }
-        if (!inAction_.empty() && waiting_ == nullptr && busy_.empty()) {
+        if (depth_ > 0 && waiting_ == nullptr && busy_.empty()) {
             if (readState()) {
                 showAll();
             }
             answerWaiting();
         }
-        watchProgress();
     });
 }
 

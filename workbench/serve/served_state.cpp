@@ -27,10 +27,16 @@ void ServedHost::showAll() {
 }
 
 void ServedHost::greet(const std::shared_ptr<Page>& page) {
-    if (revision_ == 0) {
-        publish();
-    } else {
-        showTo(*page);
+    try {
+        // What was read last may be gone by now, while a handler waits.
+        if (readState() || revision_ == 0) {
+            showAll();
+        } else {
+            showTo(*page);
+        }
+    } catch (const std::exception& error) {
+        log_.addWarning(error.what());
+        page->close();
     }
 }
 
@@ -43,13 +49,14 @@ void ServedHost::showTo(Page& page) {
 }
 
 bool ServedHost::readState() {
+    std::map<std::string, Json> fresh;
     if (!session_) {
-        return false;
+        readWithoutAddin(fresh);
+        return update(sections_, std::move(fresh));
     }
     log_.follow(*session_);
     const host::ToolbarView toolbars = host::readToolbars();
     const std::optional<host::Progress> progress = host::progressDialog();
-    std::map<std::string, Json> fresh;
     readDesignState(fresh);
     fresh["document"] = documentJson();
     fresh["addin"] = {{"name", session_->addin().name}, {"running", running_}};
@@ -66,6 +73,25 @@ bool ServedHost::readState() {
     fresh["log"] = log_.json();
     const bool dialogChanged = readDialogState();
     return update(sections_, std::move(fresh)) || dialogChanged;
+}
+
+// The design stays on the screen, and nothing that needs the add-in.
+void ServedHost::readWithoutAddin(std::map<std::string, Json>& fresh) {
+    const auto known = sections_.find("addin");
+    Json addin = known == sections_.end() ? Json::object() : *known->second;
+    addin["running"] = false;
+    fresh["addin"] = std::move(addin);
+    if (design_) {
+        fresh["document"] = documentJson();
+    }
+    for (const char* const list : {"workspaces", "commands", "selection", "palettes", "opened"}) {
+        fresh[list] = Json::array();
+    }
+    for (const char* const shown : {"message", "fileDialog", "progress"}) {
+        fresh[shown] = Json();
+    }
+    fresh["busy"] = busy_.empty() ? Json() : Json(busy_);
+    fresh["log"] = log_.json();
 }
 
 void ServedHost::readDesignState(std::map<std::string, Json>& fresh) {
@@ -89,12 +115,13 @@ void ServedHost::readDesignState(std::map<std::string, Json>& fresh) {
     fresh["model"] = {{"revision", modelRevision_}};
 }
 
-Json ServedHost::documentJson() const {
+Json ServedHost::documentJson() {
     const std::filesystem::path target = saveTarget();
+    const std::filesystem::path& from = file();
     return {{"name", design_->name},
-            {"file", file_.empty() ? "" : nameOf(file_)},
+            {"file", from.empty() ? "" : nameOf(from)},
             {"saveAs", target.empty() ? "" : nameOf(target)},
-            {"changed", host::editsOfDesign() != savedEdits_},
+            {"changed", isChanged()},
             {"given", setup_.givenName},
             {"data", host::toUtf8(data_.path())}};
 }
@@ -153,7 +180,10 @@ void ServedHost::addWindows(Json& inputs, const std::vector<host::InputView>& vi
 }
 
 Json ServedHost::windowJson(const host::InputView& table, const RowWindow& window) const {
-    const std::vector<int>& shown = table.table.shownRows;
+    const Ptr<adsk::core::TableCommandInput> input = host::inputOfKey(table.key);
+    static const std::vector<int> kNone;
+    // A handler that waits may have taken out the table since the dialog was read.
+    const std::vector<int>& shown = input ? table.table.shownRows : kNone;
     const std::size_t from = std::min(window.from, shown.size());
     const std::size_t count = std::min(window.count, shown.size() - from);
     const auto first = shown.begin() + static_cast<std::ptrdiff_t>(from);
@@ -162,9 +192,8 @@ Json ServedHost::windowJson(const host::InputView& table, const RowWindow& windo
     if (window.count > 0 && !shown.empty() && from > 0) {
         read.push_back(shown.front());  // the headings
     }
-    const std::vector<host::RowView> rows = read.empty()
-                                                ? std::vector<host::RowView>()
-                                                : host::readRows(host::inputOfKey(table.key), read);
+    const std::vector<host::RowView> rows =
+        read.empty() ? std::vector<host::RowView>() : host::readRows(input, read);
     return {{"first", shown.empty() ? -1 : shown.front()},
             {"from", from},
             {"order", order},

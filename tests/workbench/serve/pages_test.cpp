@@ -2,6 +2,8 @@
 #include "tests/workbench/serve/raw_connection.h"
 #include "tests/workbench/workbench_fixture.h"
 
+#include "host/session/environment.h"
+
 #include <httplib.h>
 
 namespace test_support {
@@ -33,6 +35,18 @@ Json tableOf(const Json& state) {
     return nullptr;
 }
 
+/// Changes the design: its first part is grounded afterwards.
+void ground(PageClient& page) {
+    page.act(press("QM_TX_moveComponentToOrigin"));
+    page.act({{"action", "pick"}, {"path", "Frame:1"}});
+    page.act({{"action", "click"}, {"input", "ground"}});
+    page.act({{"action", "ok"}});
+}
+
+bool isGrounded(const Json& state) {
+    return state["tree"]["components"][0]["children"][0][2] == true;
+}
+
 /// The program with a small design, and its pages.
 class ServedPages : public Workbench {
 protected:
@@ -41,6 +55,18 @@ protected:
         ASSERT_NE(program->port(), 0);
     }
 
+    /// An installed add-in of the test's own, which it can damage.
+    void serveOwnAddin() {
+        addin = folder.path() / "installed" / "Tarnix";
+        std::filesystem::create_directories(addin.parent_path());
+        std::filesystem::copy(host::environment::programFolder().parent_path() / "Tarnix", addin,
+                              std::filesystem::copy_options::recursive);
+        program = std::make_unique<ServedProgram>(
+            std::vector<std::string>{design(kSmallDesign), "--addin", host::toUtf8(addin)});
+        ASSERT_NE(program->port(), 0);
+    }
+
+    std::filesystem::path addin;
     std::unique_ptr<ServedProgram> program;
 };
 
@@ -232,6 +258,138 @@ TEST_F(ServedPages, AddinIsLoadedAgainAndTheDesignStays) {
     EXPECT_EQ(page.state()["document"]["name"], "sample");
     EXPECT_EQ(page.act(press(kBom))["ok"], true);
     EXPECT_EQ(page.state()["dialog"]["command"], kBom);
+}
+
+TEST_F(ServedPages, AddinThatIsGoneIsNotLoadedAgainAndTheOldOneStays) {
+    serveOwnAddin();
+    PageClient page(*program);
+    page.act(press(kBom));
+    std::filesystem::remove(addin / "Tarnix.manifest");
+
+    const std::string refusal = page.refusal({{"action", "reloadAddin"}});
+
+    EXPECT_EQ(refusal.substr(0, 4), "409 ");
+    EXPECT_NE(refusal.find("Tarnix.manifest"), std::string::npos) << refusal;
+    EXPECT_EQ(page.state()["addin"]["running"], true);
+    EXPECT_EQ(page.state()["dialog"]["command"], kBom);
+}
+
+TEST_F(ServedPages, ReloadThatFailsKeepsTheDesignForSavingAndTheNextReload) {
+    serveOwnAddin();
+    PageClient page(*program);
+    ground(page);
+    page.act(press(kBom));
+    const Json table = tableOf(page.state());
+    const std::string module = readFile(addin / "Tarnix.dll");
+    writeFile(addin / "Tarnix.dll", "half of it");
+
+    EXPECT_EQ(page.refusal({{"action", "reloadAddin"}}).substr(0, 4), "409 ");
+
+    const PageClient late(*program);
+    EXPECT_EQ(late.state()["addin"]["running"], false);
+    EXPECT_EQ(late.state()["dialog"], nullptr);
+    EXPECT_EQ(late.state()["document"]["changed"], true);
+    EXPECT_TRUE(isGrounded(late.state()));
+    const std::string unloaded = "409 the add-in is not loaded: reload it, or save the design";
+    Json view = onInput("view", table);
+    view["from"] = 0;
+    view["count"] = 10;
+    EXPECT_EQ(page.refusal(view), unloaded);
+    EXPECT_EQ(page.refusal(press(kBom)), unloaded);
+    EXPECT_EQ(page.refusal({{"action", "open"}, {"file", nullptr}}), unloaded);
+    EXPECT_EQ(page.act({{"action", "save"}, {"file", "Local/kept.json"}})["ok"], true);
+    EXPECT_EQ(page.state()["document"]["file"], "Local/kept.json");
+    EXPECT_EQ(page.state()["document"]["changed"], false);
+
+    writeFile(addin / "Tarnix.dll", module);
+    EXPECT_EQ(page.act({{"action", "reloadAddin"}})["ok"], true);
+
+    EXPECT_EQ(page.state()["addin"]["running"], true);
+    EXPECT_EQ(page.state()["document"]["file"], "Local/kept.json");
+    EXPECT_TRUE(isGrounded(page.state()));
+    page.act(press(kBom));
+    EXPECT_EQ(page.state()["dialog"]["command"], kBom);
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(ServedPages, OpeningAsksBeforeItDiscardsChanges) {
+    serve();
+    PageClient page(*program);
+    ground(page);
+    EXPECT_EQ(page.state()["document"]["changed"], true);
+    Json open = {{"action", "open"}, {"file", nullptr}};
+
+    const Json refused = page.act(open);
+
+    EXPECT_EQ(refused["status"], 409);
+    EXPECT_EQ(refused["changed"], true);
+    EXPECT_EQ(refused["error"], "\"sample\" has changes that are not saved");
+    EXPECT_TRUE(isGrounded(page.state()));
+    open["discard"] = true;
+    EXPECT_EQ(page.act(open)["ok"], true);
+    EXPECT_FALSE(isGrounded(page.state()));
+    EXPECT_EQ(page.state()["document"]["changed"], false);
+}
+
+TEST_F(ServedPages, ReloadKeepsThatTheDesignIsChanged) {
+    serve();
+    PageClient page(*program);
+    ground(page);
+
+    EXPECT_EQ(page.act({{"action", "reloadAddin"}})["ok"], true);
+
+    EXPECT_EQ(page.state()["document"]["changed"], true);
+    EXPECT_TRUE(isGrounded(page.state()));
+}
+
+TEST_F(ServedPages, DocumentThatTheAddinOpensHasNoFileUntilItIsSaved) {
+    serve();
+    const std::filesystem::path source = host::fromUtf8(design("Cover  box=1x1x1", "other"));
+    const std::filesystem::path local = folder.path() / "data/tarnix-workbench/Projects/Local";
+    std::filesystem::copy_file(source, local / "other.json");
+    PageClient page(*program);
+    ground(page);
+    page.act(press("QEMA_OpenLocalCmd_QAT"));
+
+    page.act({{"action", "answerFile"},
+              {"id", page.state()["fileDialog"]["id"]},
+              {"files", {"Local/other.json"}}});
+
+    const Json opened = page.waitFor(
+        [](const Json& state) { return state["tree"]["components"][0]["name"] != "sample"; });
+    ASSERT_FALSE(opened.is_null()) << page.state()["log"].dump();
+    EXPECT_EQ(opened["document"]["file"], "");
+    EXPECT_EQ(opened["document"]["saveAs"], "");
+    EXPECT_EQ(page.refusal({{"action", "save"}}),
+              "409 the design has no file yet; name one to save it in");
+    const Json refused = page.act({{"action", "open"}, {"file", nullptr}});
+    EXPECT_EQ(refused.value("changed", false), true) << refused.dump();
+}
+
+TEST_F(ServedPages, DataFolderBehindALinkNamesItsFiles) {
+    const std::filesystem::path real = folder.path() / "real";
+    std::filesystem::create_directories(real / "Local");
+    std::filesystem::create_directory_symlink(real, folder.path() / "linked");
+    std::filesystem::rename(host::fromUtf8(design(kSmallDesign)), real / "Local/sample.json");
+    program = std::make_unique<ServedProgram>(
+        std::vector<std::string>{path("linked/Local/sample.json"), "--data", path("linked")});
+    ASSERT_NE(program->port(), 0);
+    PageClient page(*program);
+
+    EXPECT_EQ(page.state()["document"]["file"], "Local/sample.json");
+    EXPECT_EQ(page.state()["document"]["data"], host::toUtf8(std::filesystem::canonical(real)));
+    EXPECT_EQ(page.act({{"action", "open"}, {"file", "Local/sample.json"}})["ok"], true);
+    EXPECT_EQ(page.state()["document"]["saveAs"], "Local/sample.json");
+}
+
+TEST_F(ServedPages, DataHomeHasTheProjects) {
+    program = std::make_unique<ServedProgram>(
+        std::vector<std::string>{design(kSmallDesign), "--data-home", path("own home")});
+    ASSERT_NE(program->port(), 0);
+    const PageClient page(*program);
+
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "own home/Projects/Local"));
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "data/tarnix-workbench"));
 }
 
 TEST_F(ServedPages, ClientThatReadsNothingDoesNotDisturbOthers) {

@@ -145,6 +145,10 @@ TEST_F(Server, LinkOutOfTheDataFolderIsNotFollowed) {
         folder.path(), folder.path() / "data/tarnix-workbench/Projects/Local/out");
 
     EXPECT_EQ(getWithCookie("/files?folder=Local/out"), 404);
+    httplib::Client client("127.0.0.1", program->port());
+    const auto listed = client.Get("/files?folder=Local", {{"Cookie", cookie}});
+    ASSERT_TRUE(listed);
+    EXPECT_EQ(nlohmann::json::parse(listed->body)["entries"], nlohmann::json::array());
 }
 
 TEST_F(Server, PalettesPagesComeInASandbox) {
