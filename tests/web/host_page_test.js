@@ -88,6 +88,49 @@ const tests = {
     assert.strictEqual(await page.locator('#command-dialog').innerText().then(text => text.includes('hidden')), false);
   },
 
+  async severalItemsOfAListAreChecked() {
+    const views = input('DropDown', 'views', {caption: 'Views', multiple: true, items: [{name: 'Top', selected: true}, {name: 'Front', selected: true}, {name: 'Left'}], value: 'Top, Front'});
+    const {page, host} = await show(state => { state.dialog = dialog([views]); }, {act: ({item}, {state}) => {
+      const [list] = state.dialog.inputs;
+      list.items[item].selected = !list.items[item].selected;
+      list.value = list.items.filter(each => each.selected).map(each => each.name).join(', ');
+    }});
+    const button = page.getByRole('button', {name: 'Views'});
+    await button.click();
+    assert.strictEqual(await violations(page), '');
+    await page.getByRole('menuitemcheckbox', {name: 'Top'}).click();
+    await page.getByRole('menuitemcheckbox', {name: 'Left'}).click();
+    await page.waitForSelector('.push.list:has-text("Front, Left")');
+    assert.deepStrictEqual(await page.$$eval('[role=menuitemcheckbox]', found => found.map(each => each.ariaChecked)), ['false', 'true', 'true']);
+    assert.deepStrictEqual(acted(host, 'choose').map(({item}) => item), [0, 2]);
+    await page.keyboard.press('Escape');
+    assert.strictEqual(await page.locator('[role=menu]').count(), 0);
+    assert.deepStrictEqual(acted(host, 'cancel'), []);  // that closed the menu alone
+    await button.click();
+    await button.click();
+    assert.strictEqual(await page.locator('[role=menu]').count(), 0);
+  },
+
+  async clearingPicksNothing() {
+    const toggle = (list, path) => list.includes(path) ? list.filter(each => each !== path) : [...list, path];
+    // This add-in lets the second go with the first.
+    const {page, host} = await show(state => {
+      state.dialog = dialog([input('Selection', 'parts', {caption: 'Parts', active: true, picked: ['Plate:4', 'Rod assembly:1', ''], minimum: 0, maximum: 0, value: 'Plate:4, Rod assembly:1, an edge'})]);
+    }, {act: ({path}, {state}) => {
+      const [selection] = state.dialog.inputs;
+      selection.picked = toggle(selection.picked, path).filter(each => path !== 'Plate:4' || each !== 'Rod assembly:1');
+      selection.value = selection.picked.length === 1 ? 'an edge' : '';
+    }});
+    await page.getByRole('button', {name: 'Clear the selection'}).click();
+    await page.waitForSelector('.notices :text("not in the browser")');
+    assert.deepStrictEqual(acted(host, 'pick').map(({path}) => path), ['Plate:4']);
+    host.change(({dialog: open}) => { open.inputs[0].value = 'brackets'; });  // the root, which has no path either
+    await page.waitForSelector('.selection:has-text("brackets")');
+    await page.getByRole('button', {name: 'Clear the selection'}).click();
+    await page.waitForSelector('.selection:has-text("Select")');
+    assert.deepStrictEqual(acted(host, 'pick').map(({path}) => path), ['Plate:4', '']);
+  },
+
   async whatTheHostRefusesToTakeIsShownAsItIs() {
     const {page} = await show(state => { state.dialog = everyKind(); }, {act: () => { throw new Error('it is out of order'); }});
     await page.getByLabel('Ground it').click();

@@ -39,6 +39,7 @@ export class Connection {
   private readonly ahead = new Set<Waiting>();  // sent beside it
   private answered = 0;  // the revision that has what the last action changed
   private isWaitedFor = false;  // the last answer came before the action was done
+  private watching: {revision: number; resolve: () => void}[] = [];
   private readonly versions = new Map<string, number>();
 
   /// A browser allows few connections to one program, for all pages together: a page that nobody sees gives its own up.
@@ -79,6 +80,14 @@ export class Connection {
         this.queue.push({action, members, dialog: this.state?.dialog?.command, done: [resolve]});
       }
       this.send();
+    });
+  }
+
+  /// Resolves when the state has what was done, or the line is lost.
+  shown({revision = 0}: Answer): Promise<void> {
+    return new Promise(resolve => {
+      this.watching.push({revision, resolve});
+      this.tell();
     });
   }
 
@@ -134,6 +143,7 @@ export class Connection {
 
   private lose(line: Line): void {
     this.line = line;
+    this.tell();
     this.send();
     this.onChange();
   }
@@ -214,6 +224,7 @@ export class Connection {
     ++this.openings;
     for (const member of Object.keys(state)) this.touch(member);
     this.dropForeignTexts(state.dialog?.command);
+    this.tell();
     this.send();
     this.onChange();
   }
@@ -239,8 +250,16 @@ export class Connection {
     }
     for (const {path} of patch) this.touch(path.split('/')[1]);
     this.revision = revision;
+    this.tell();
     this.send();
     this.onChange();
+  }
+
+  private tell(): void {
+    const isOver = ({revision}: {revision: number}) => revision <= this.revision || this.line === 'lost';
+    const over = this.watching.filter(isOver);
+    this.watching = this.watching.filter(each => !isOver(each));
+    over.forEach(({resolve}) => resolve());
   }
 
   private touch(member: string): void {

@@ -1,8 +1,10 @@
 // The inputs of a dialog, each as what it is on a page.
 import type {ComponentChildren} from 'preact';
+import {useState} from 'preact/hooks';
 import type {Connection} from './connection.ts';
 import {formatted} from './formatted.ts';
 import {Icon, Picture} from './icons.tsx';
+import {Menu} from './menu.tsx';
 import type {Input, Item, Table} from './protocol.ts';
 import {DataTable} from './table.tsx';
 import {TextField} from './text_field.tsx';
@@ -37,7 +39,7 @@ export function Control({input, line, cell = false}: InputProps) {
     case 'Button': return <ActionButton input={input} line={line} cell={cell}/>;
     case 'CheckBox': return <CheckBox input={input} line={line} cell={cell}/>;
     case 'StringValue': case 'TextBox': return <Text input={input} line={line} cell={cell}/>;
-    case 'DropDown': return <DropDown input={input} line={line} cell={cell}/>;
+    case 'DropDown': return input.multiple ? <CheckList input={input} line={line} cell={cell}/> : <DropDown input={input} line={line} cell={cell}/>;
     case 'ButtonRow': return <ButtonRow input={input} line={line}/>;
     case 'RadioButtonGroup': return <RadioButtons input={input} line={line}/>;
     case 'Selection': return <Selection input={input} line={line}/>;
@@ -92,6 +94,24 @@ function DropDown({input, line, cell}: InputProps) {
     </select>);
 }
 
+// A list of which several items can be selected: a menu with a check at each of these.
+function CheckList({input, line, cell}: InputProps) {
+  const [at, setAt] = useState<{x: number; y: number} | null>(null);
+  const label = input.caption || input.id || 'list';
+  const entries = (input.items ?? []).map((item, i) => ({
+    caption: item.name ?? '', icon: item.icon, enabled: true, checked: item.selected === true, act: () => void line.act('choose', {input: input.key, item: i})}));
+  const toggle = (event: MouseEvent) => {
+    const {left, bottom} = (event.currentTarget as Element).getBoundingClientRect();
+    setAt(at ? null : {x: left, y: bottom + 2});
+  };
+  return (
+    <div class="menu-place">
+      <button type="button" id={`input-${input.key}`} class="push list" aria-haspopup="menu" aria-expanded={at !== null} disabled={!input.enabled} tabIndex={cell ? -1 : undefined}
+              aria-label={`${label}: ${input.value || texts.none}`} onPointerDown={event => { if (at) event.stopPropagation(); }} onClick={toggle}><span>{input.value || texts.none}</span><Icon sign="down" class="small"/></button>
+      {at && <Menu entries={entries} label={label} at={at} many close={() => setAt(null)}/>}
+    </div>);
+}
+
 const roving = (event: KeyboardEvent) => {
   const by = ({ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1} as Record<string, number>)[event.key];
   if (!by) return;
@@ -127,10 +147,6 @@ function RadioButtons({input, line}: InputProps) {
 
 function Selection({input, line}: InputProps) {
   const picked = input.picked ?? [];
-  const clear = async () => {
-    if (!input.active) await line.act('click', {input: input.key});
-    for (const path of [...picked]) await line.act('pick', {path});
-  };
   const prompt = input.prompt || texts.picks;
   return (
     <div class="selection">
@@ -139,8 +155,32 @@ function Selection({input, line}: InputProps) {
               onClick={() => void line.act('click', {input: input.key})}>
         <Icon sign="cursor"/><span>{picked.length === 1 ? String(input.value) : picked.length ? texts.selected(picked.length) : texts.pick}</span>
       </button>
-      {picked.length > 0 && <button type="button" class="tool" title={texts.clear} aria-label={texts.clear} disabled={!input.enabled} onClick={() => void clear()}><Icon sign="clear"/></button>}
+      {picked.length > 0 && <button type="button" class="tool" title={texts.clear} aria-label={texts.clear} disabled={!input.enabled} onClick={() => void clear(input.key, line)}><Icon sign="clear"/></button>}
     </div>);
+}
+
+// Each pick is a toggle, and may make the add-in change the others or the focus: what is there is looked at again before the next.
+async function clear(key: number, line: Connection): Promise<void> {
+  const selection = () => inputsOf(line.state?.dialog?.inputs ?? []).find(each => each.key === key);
+  if (!selection()?.active) await line.shown(await line.act('click', {input: key}));
+  for (let before = Infinity;;) {
+    const now = selection(), picked = now?.picked ?? [];
+    if (!now?.active || !picked.length || picked.length >= before) return;
+    const path = picked.find((each, i) => each !== '' || isRoot(now, i, line));
+    if (path === undefined) return line.onRefused(texts.notInBrowser);
+    before = picked.length;
+    const answer = await line.act('pick', {path});
+    if (answer.error) return;
+    await line.shown(answer);
+  }
+}
+
+const inputsOf = (inputs: Input[]): Input[] => inputs.flatMap(each => [each, ...inputsOf(each.inputs ?? [])]);
+
+// What is nowhere in the browser has the path of the root.
+function isRoot({value, picked = []}: Input, at: number, line: Connection): boolean {
+  const names = String(value ?? '').split(', ');
+  return names.length === picked.length && names[at] === line.state?.tree.components[0]?.name;
 }
 
 function Group({input, line}: InputProps): ComponentChildren {

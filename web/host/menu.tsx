@@ -9,9 +9,9 @@ export interface Entry { caption: string; tooltip?: string; icon?: string; enabl
 export const commandEntries = (controls: Control[], press: (command: string) => void): Entry[] =>
   controls.filter(each => each.visible).map(({caption, tooltip, icon, enabled, command}) => ({caption, tooltip, icon, enabled, act: () => press(command)}));
 
-interface MenuProps { entries: Entry[]; label: string; close(): void; at?: {x: number; y: number} }
+interface MenuProps { entries: Entry[]; label: string; close(): void; at?: {x: number; y: number}; many?: boolean /* several can be checked, so it stays */ }
 
-export function Menu({entries, label, close, at}: MenuProps) {
+export function Menu({entries, label, close, at, many}: MenuProps) {
   const root = useRef<HTMLDivElement>(null);
   useLayoutEffect(() => {
     const own = root.current!;
@@ -45,8 +45,8 @@ export function Menu({entries, label, close, at}: MenuProps) {
   return (
     <div class={`menu${at ? ' free' : ''}`} role="menu" aria-label={label} ref={root} tabIndex={-1} onKeyDown={keys}>
       {entries.map((each, i) => (
-        <button key={i} type="button" role={each.checked === undefined ? 'menuitem' : 'menuitemradio'} aria-checked={each.checked} disabled={!each.enabled} title={each.tooltip || undefined} tabIndex={-1}
-                onClick={() => { close(); each.act(); }}>
+        <button key={i} type="button" role={each.checked === undefined ? 'menuitem' : many ? 'menuitemcheckbox' : 'menuitemradio'} aria-checked={each.checked} disabled={!each.enabled} title={each.tooltip || undefined} tabIndex={-1}
+                onClick={() => { if (!many) close(); each.act(); }}>
           <span class="sign">{each.icon ? <Picture folder={each.icon} size={16}/> : each.checked ? <Icon sign="check"/> : null}</span>{each.caption}
         </button>))}
     </div>);

@@ -14,6 +14,7 @@ export const texts = {
   openTitle: 'Open a design', saveTitle: 'Save the design', fileName: 'File name', filesOfType: 'Files of type', folderUp: 'Folder above', dataFolder: 'Data',
   given: (name: string) => `Open ${name} again`, replaceTitle: 'Replace?', replace: 'Replace', replaceText: (name: string) => `${name} exists already. Replace it?`,
   discardTitle: 'Discard the changes?', discard: 'Discard', discardText: (name: string) => `${name} has changes that are not saved. Discard them?`,
+  none: 'none', notInBrowser: 'What is picked is not in the browser, and can only be replaced by another pick.',
   emptyFolder: 'No such files in this folder.', allFiles: 'All files',
   opened: 'Opened by the add-in', noPage: 'This page is on the web:', working: 'Working…', menu: 'Context menu',
   kinds: {exception: 'Exception', misuse: 'Misuse', message: 'Message', warning: 'Warning'},
