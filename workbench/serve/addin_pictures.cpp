@@ -72,7 +72,8 @@ std::string AddinPictures::find(const std::string& name) const {
         if (relative.empty() || *relative.begin() == ".." || (!isFolder && !isPicture(file))) {
             return "";
         }
-        std::string address = "/resources/" + encoded(host::toUtf8(relative.generic_string()));
+        std::string address = "/resources/" + std::to_string(load_) + "/" +
+                              encoded(host::toUtf8(relative.generic_string()));
         return isFolder && !address.ends_with('/') ? address + "/" : address;
     } catch (const std::exception&) {
         return "";  // a module may name pictures that it does not have

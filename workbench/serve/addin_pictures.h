@@ -21,7 +21,9 @@ std::optional<std::filesystem::path> fileInside(const std::filesystem::path& fol
 
 class AddinPictures {
 public:
-    explicit AddinPictures(host::AddinFiles addin) : addin_(std::move(addin)) {}
+    /// `load` says how often the add-in was loaded. It is a part of the addresses: a page does not
+    /// take the pictures of the one before for those of this one.
+    AddinPictures(host::AddinFiles addin, int load) : addin_(std::move(addin)), load_(load) {}
 
     /// The address of an icon folder, which ends in "/", or of an image, as a module names it; an
     /// empty string where the add-in has none.
@@ -31,10 +33,11 @@ private:
     [[nodiscard]] std::string find(const std::string& name) const;
 
     host::AddinFiles addin_;
+    int load_;
     std::map<std::string, std::string> known_;
 };
 
-/// The file that an address below "/resources/" names; none for what is no picture of the add-in.
+/// The file that an address below "/resources/N/" names; none for what is no picture of the add-in.
 std::optional<std::filesystem::path> pictureFile(const std::filesystem::path& addinFolder,
                                                  const std::string& path);
 

@@ -27,7 +27,7 @@ namespace {
 using httplib::Request;
 using httplib::Response;
 
-constexpr std::size_t kThreads = 64;
+constexpr std::size_t kThreads = 256;
 constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
 constexpr const char* kAddress = "127.0.0.1";
 
@@ -198,7 +198,7 @@ void HttpServer::Parts::route() {
     server.Get("/files",
                [this](const Request& request, Response& response) { files(request, response); });
     server.Get("/model.glb", [this](const Request&, Response& response) { model(response); });
-    server.Get("/resources/(.*)",
+    server.Get("/resources/[0-9]+/(.*)",
                [this](const Request& request, Response& response) { resource(request, response); });
     server.Get("/site/(.*)",
                [this](const Request& request, Response& response) { site(request, response); });

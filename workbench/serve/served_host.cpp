@@ -70,7 +70,7 @@ void ServedHost::runAddin() {
 
 void ServedHost::load() {
     log_.beginSession();
-    pictures_ = std::make_unique<AddinPictures>(session_->addin());
+    pictures_ = std::make_unique<AddinPictures>(session_->addin(), ++loads_);
     session_->useData({data_.path(), "", host::ReferencedFiles::KnownAtOnce});
     host::askForAnswers([this](const host::Message& message) { return askMessage(message); });
     host::askForFiles([this](const host::FileDialogShown& dialog) { return askFiles(dialog); });
@@ -97,6 +97,8 @@ void ServedHost::stop() {
     session_->stop();
     running_ = false;
     opened_.clear();
+    shellRequests_ = Json::array();
+    shellRequestsRead_ = 0;
     document_ = nullptr;
     shownDialog_ = nullptr;
     dialog_.reset();
@@ -155,6 +157,7 @@ void ServedHost::startAgain() {
     session_ = std::make_unique<host::Session>(setup_.session);
     load();
     showDesign(kept_->design, kept_->file);
+    showsSameDesign_ = true;
     const Kept kept = *std::exchange(kept_, std::nullopt);
     if (kept.changed) {
         --current().savedEdits;
@@ -415,11 +418,20 @@ std::optional<fs::path> ServedHost::openedFile(std::size_t number) const {
     }
     std::string target = session_->openedByShell()[number];
     std::ranges::replace(target, '\\', '/');
-    std::error_code failure;
-    const fs::path home = fs::canonical(session_->folder(), failure);
-    const fs::path full = fs::weakly_canonical(home / host::fromUtf8(target), failure);
-    const fs::path relative = full.lexically_relative(home);
-    return failure || relative.empty() ? std::nullopt : fileInside(home, host::toUtf8(relative));
+    for (const fs::path& folder : {session_->folder(), data_.path()}) {
+        std::error_code failure;
+        const fs::path home = fs::canonical(folder, failure);
+        const fs::path full = fs::weakly_canonical(home / host::fromUtf8(target), failure);
+        const fs::path relative = full.lexically_relative(home);
+        std::optional<fs::path> file;
+        if (!failure && !relative.empty()) {
+            file = fileInside(home, host::toUtf8(relative));
+        }
+        if (file) {
+            return file;
+        }
+    }
+    return std::nullopt;
 }
 
 // --- The model

@@ -75,7 +75,7 @@ public:
     ModelSource model();
 
     /// The file that the add-in asked the system to open, by its number in `opened`; none for what
-    /// is not a file of the add-in's.
+    /// is no file of the add-in's or of the user's data.
     [[nodiscard]] std::optional<std::filesystem::path> openedFile(std::size_t number) const;
 
     [[nodiscard]] const DataFolder& data() const { return data_; }
@@ -143,7 +143,7 @@ private:
     void showAll();
     void readDesignState(std::map<std::string, Json>& fresh);
     [[nodiscard]] Json documentJson();
-    [[nodiscard]] Json openedJson() const;
+    const Json& openedJson();
     [[nodiscard]] bool readDialogState();
     void showTo(Page& page);
     [[nodiscard]] Json dialogFor(Page& page) const;
@@ -160,16 +160,21 @@ private:
     std::unique_ptr<host::Session> session_;
     std::unique_ptr<AddinPictures> pictures_;
     EventLog log_;
+    int loads_ = 0;
     bool running_ = false;
     std::string busy_;
 
     std::vector<Opened> opened_;
     std::optional<Kept> kept_;
+    Json shellRequests_ = Json::array();
+    std::size_t shellRequestsRead_ = 0;
     adsk::core::Ptr<adsk::core::Document> document_;
     std::uint64_t readEdits_ = 0;
     std::shared_ptr<const host::DesignData> design_;
     std::uint64_t modelDigest_ = 0;
     std::uint64_t modelRevision_ = 0;
+    int documentNumber_ = 0;
+    bool showsSameDesign_ = false;  ///< the next other document has the design of this one
     std::shared_ptr<const host::ShapeData> shapes_;
 
     Waiting* waiting_ = nullptr;  ///< what the module waits for; null for nothing

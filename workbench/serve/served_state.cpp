@@ -111,8 +111,9 @@ void ServedHost::readDesignState(std::map<std::string, Json>& fresh) {
     if (isOther) {
         document_ = shown;
         shapes_.reset();
+        documentNumber_ += std::exchange(showsSameDesign_, false) ? 0 : 1;
     }
-    fresh["model"] = {{"revision", modelRevision_}};
+    fresh["model"] = {{"revision", modelRevision_}, {"document", documentNumber_}};
 }
 
 Json ServedHost::documentJson() {
@@ -126,15 +127,19 @@ Json ServedHost::documentJson() {
             {"data", host::toUtf8(data_.path())}};
 }
 
-Json ServedHost::openedJson() const {
-    Json all = Json::array();
+// Each is looked for once: the file is there when the add-in asks for it.
+const Json& ServedHost::openedJson() {
+    constexpr std::size_t kMost = 200;
     const std::vector<std::string>& targets = session_->openedByShell();
-    for (std::size_t n = 0; n < targets.size(); ++n) {
-        all.push_back({{"n", n},
-                       {"target", targets[n]},
-                       {"url", openedFile(n) ? "/opened/" + std::to_string(n) : ""}});
+    for (std::size_t& n = shellRequestsRead_; n < targets.size(); ++n) {
+        shellRequests_.push_back({{"n", n},
+                                  {"target", targets[n]},
+                                  {"url", openedFile(n) ? "/opened/" + std::to_string(n) : ""}});
+        if (shellRequests_.size() > kMost) {
+            shellRequests_.erase(shellRequests_.begin());
+        }
     }
-    return all;
+    return shellRequests_;
 }
 
 bool ServedHost::readDialogState() {

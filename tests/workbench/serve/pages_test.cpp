@@ -342,6 +342,40 @@ TEST_F(ServedPages, ReloadKeepsThatTheDesignIsChanged) {
     EXPECT_TRUE(isGrounded(page.state()));
 }
 
+TEST_F(ServedPages, PicturesHaveOtherAddressesAfterAReload) {
+    serve();
+    PageClient page(*program);
+    const auto icon = [](const Json& state) {
+        const std::string all = state["workspaces"].dump();
+        const std::size_t at = all.find("/resources/");
+        return all.substr(at, all.find('"', at) - at);
+    };
+    const std::string before = icon(page.state());
+    page.act({{"action", "reloadAddin"}});
+
+    const std::string after = icon(page.state());
+
+    EXPECT_EQ(before.substr(0, 13), "/resources/1/");
+    EXPECT_EQ(after, "/resources/2/" + before.substr(13));
+    httplib::Client client("127.0.0.1", program->port());
+    const auto picture = client.Get(after + "16x16.png", {{"Cookie", program->cookie()}});
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->status, 200);
+}
+
+TEST_F(ServedPages, DocumentsNumberChangesWhereAnotherIsOpenedAlone) {
+    serve();
+    PageClient page(*program);
+    const auto number = [&page] { return page.state()["model"]["document"].get<int>(); };
+    const int first = number();
+
+    page.act({{"action", "save"}, {"file", "Local/kept.json"}});
+    page.act({{"action", "reloadAddin"}});
+    EXPECT_EQ(number(), first);
+    page.act({{"action", "open"}, {"file", "Local/kept.json"}});
+    EXPECT_NE(number(), first);
+}
+
 TEST_F(ServedPages, DocumentThatTheAddinOpensHasNoFileUntilItIsSaved) {
     serve();
     const std::filesystem::path source = host::fromUtf8(design("Cover  box=1x1x1", "other"));
