@@ -52,7 +52,8 @@ void readItems(InputView& view, const Ptr<core::ListItems>& items) {
 std::vector<InputView> readInputs(const Ptr<core::CommandInputs>& inputs, TableRows rows) {
     std::vector<InputView> views;
     for (InputState* each : static_cast<const ui::CommandInputsObject&>(*inputs).outsideTables()) {
-        if (rows == TableRows::Read || !each->wasPlaced) {
+        const bool hasLeftItsTable = each->inColumn >= 0;
+        if (rows == TableRows::Read || !hasLeftItsTable) {
             views.push_back(readInput(Ptr<core::CommandInput>(each->api()), rows));
         }
     }

@@ -99,12 +99,11 @@ public:
     /// @}
 
     const std::uint32_t serial;  ///< counts the inputs of the command
-    std::int16_t inColumn = 0;   ///< in its row
+    std::int16_t inColumn = -1;  ///< in its row; negative where no table ever had it
     const InputKind kind;
     bool visible = true;
     bool enabled = true;
     bool fullWidth = false;
-    bool wasPlaced = false;  ///< it was in a table once, and shows nowhere where it left that
 
     /// What few inputs have.
     struct Extras {

@@ -113,7 +113,7 @@ bool TableCommandInputObject::addToolbarCommandInput(const core::Ptr<core::Comma
     }
     toolbar_.cells.push_back(state);
     state->inLine = &toolbar_;
-    state->wasPlaced = true;
+    state->inColumn = 0;
     return true;
 }
 

@@ -33,7 +33,6 @@ void TableLines::place(InputState& input, std::size_t row, std::size_t column) {
     line.cells[column] = &input;
     input.inLine = &line;
     input.inColumn = static_cast<std::int16_t>(column);
-    input.wasPlaced = true;
 }
 
 void TableLines::take(TableLine& line, std::size_t column) {
