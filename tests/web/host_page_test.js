@@ -300,8 +300,17 @@ const tests = {
     await page.waitForFunction(() => hostPage.scene.shownRevision === 2 && hostPage.scene.viewer);
     assert.deepStrictEqual(await page.evaluate(() => hostPage.scene.viewer.pose), before);
     assert.strictEqual(await page.locator('canvas').count(), 1);
+    host.change(state => {  // it was saved
+      state.document.name = 'another name';
+      state.model.revision = 3;
+    });
+    await page.waitForFunction(() => hostPage.scene.shownRevision === 3 && hostPage.scene.viewer);
+    assert.deepStrictEqual(await page.evaluate(() => hostPage.scene.viewer.pose), before);
+    host.change(state => { state.model = {revision: 4, document: 2}; });
+    await page.waitForFunction(() => hostPage.scene.shownRevision === 4 && hostPage.scene.viewer);
+    assert.notDeepStrictEqual(await page.evaluate(() => hostPage.scene.viewer.pose), before);  // nothing says that it would show that design
     host.glb = null;
-    host.change(state => { state.model.revision = 3; });
+    host.change(state => { state.model.revision = 5; });
     await page.waitForSelector('.stage-note.empty');
   },
 

@@ -22,7 +22,7 @@ function emptyState() {
       {id: 'Render', caption: 'Render', active: false, tabs: []}],
     commands: [control('Loose', 'Loose command', 'OpenLocalFile')],
     tree: treeOf(brackets()), selection: [], dialog: null, message: null, fileDialog: null, progress: null, busy: null,
-    palettes: [], opened: [], log: [], model: {revision: 1}};
+    palettes: [], opened: [], log: [], model: {revision: 1, document: 1}};
 }
 
 /// The components of a drawn assembly, each once.

@@ -86,8 +86,8 @@ function Host({line, state, notice, made}: Props & {state: State}) {
       () => <BrowserTree components={state.tree.components} version={treeVersion} selection={state.selection} selectionVersion={selectionVersion} pick={pick} hover={setHovered} menu={openMenu}/>,
       [treeVersion, selectionVersion, state]);
   const stage = useMemo(
-      () => <Stage revision={state.model.revision} design={`${state.document.name}\n${state.document.file}`} selection={state.selection} selectionVersion={selectionVersion} hovered={hovered} openings={line.openings} pick={pick}
-                   hover={setHovered} menu={openMenu} made={made}/>, [line.version('model'), line.version('document'), line.openings, selectionVersion, hovered, state]);
+      () => <Stage revision={state.model.revision} design={state.model.document} selection={state.selection} selectionVersion={selectionVersion} hovered={hovered} openings={line.openings} pick={pick}
+                   hover={setHovered} menu={openMenu} made={made}/>, [line.version('model'), line.openings, selectionVersion, hovered, state]);
 
   return <>
     <QuickBar state={state} line={line} busy={isBusy} open={() => setAsking({what: 'open'})} openGiven={() => void open(null, false)} save={save} logShown={logShown} toggleLog={() => setLogShown(!logShown)} trouble={trouble}/>

@@ -83,7 +83,7 @@ export interface State {
   palettes: Palette[];
   opened: {n: number; target: string; url: string}[];
   log: LogEntry[];
-  model: {revision: number};
+  model: {revision: number; document: number};  ///< another document wants another camera
 }
 
 /// What an action was answered.

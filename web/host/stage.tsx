@@ -7,7 +7,7 @@ import {texts} from './texts.ts';
 import {ViewCube} from './view_cube.tsx';
 
 interface Props {
-  revision: number; design: string;
+  revision: number; design: number;
   selection: string[]; selectionVersion: number;
   hovered: string | null;
   openings: number;  ///< of the line: a model that failed is fetched again at each
@@ -20,7 +20,7 @@ interface Props {
 export function Stage({revision, design, selection, selectionVersion, hovered, openings, pick, hover, menu, made}: Props) {
   const root = useRef<HTMLDivElement>(null);
   const scene = useRef<Scene | null>(null);
-  const shownDesign = useRef('');
+  const shownDesign = useRef(0);
   const latest = useRef({pick, hover});
   latest.current = {pick, hover};
   const [note, setNote] = useState<SceneNote>({kind: 'loading'});
