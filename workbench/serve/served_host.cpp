@@ -467,14 +467,14 @@ void ServedHost::draw() {
 
 void ServedHost::reportProblems(const host::ShapeData& shapes) {
     std::map<std::string, int> problems;
-    bool isDrawn = false;
+    bool anyDrawn = false;
     for (const host::Shape& each : shapes.shapes) {
-        isDrawn = isDrawn || each.mesh;
+        anyDrawn = anyDrawn || each.mesh;
         if (!each.problem.empty()) {
             ++problems[each.problem];
         }
     }
-    if (!isDrawn && !problems.empty()) {
+    if (!anyDrawn && !problems.empty()) {
         // Nothing is kept of it, so the next request tries again.
         throw ProtocolError(kFailed, "no shape could be drawn: " + problems.begin()->first);
     }

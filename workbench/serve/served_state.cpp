@@ -129,13 +129,13 @@ Json ServedHost::documentJson() {
 
 // Each is looked for once: the file is there when the add-in asks for it.
 const Json& ServedHost::openedJson() {
-    constexpr std::size_t kMost = 200;
+    constexpr std::size_t kMostRequests = 200;
     const std::vector<std::string>& targets = session_->openedByShell();
     for (std::size_t& n = shellRequestsRead_; n < targets.size(); ++n) {
         shellRequests_.push_back({{"n", n},
                                   {"target", targets[n]},
                                   {"url", openedFile(n) ? "/opened/" + std::to_string(n) : ""}});
-        if (shellRequests_.size() > kMost) {
+        if (shellRequests_.size() > kMostRequests) {
             shellRequests_.erase(shellRequests_.begin());
         }
     }
