@@ -289,7 +289,7 @@ const tests = {
     assert.deepStrictEqual(rows.map(({path, depth, grounded, parent}) => [path, depth, grounded, parent]), [
       ['', 0, false, true], ['pair:1', 1, true, true], ['nut:1', 1, false, false], ['pair:2', 1, false, true],
       ['pair:2+nut:1', 2, false, false], ['pair:2+nut:7', 2, false, false]]);
-    assert.deepStrictEqual(ancestors('pair:2+nut:7'), ['', 'pair:2']);
+    assert.deepStrictEqual(ancestors(components, 'pair:2+nut:7'), ['', 'pair:2']);
     assert.deepStrictEqual(treeRows(components, new Set()).length, 1);
   },
 
