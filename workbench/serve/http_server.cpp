@@ -49,6 +49,17 @@ constexpr const char* kClosedPolicy = "default-src 'none'; sandbox; frame-ancest
 constexpr const char* kJsonType = "application/json; charset=utf-8";
 constexpr const char* kHtmlType = "text/html; charset=utf-8";
 
+/// The library compresses a body at each request, which between two programs of one machine takes
+/// far longer than sending it; not so what is asked for piece by piece.
+void sendAsItIs(Response& response, const std::shared_ptr<const std::string>& bytes,
+                const std::string& type) {
+    response.set_content_provider(
+        bytes->size(), type,
+        [bytes](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
+            return sink.write(bytes->data() + offset, length);
+        });
+}
+
 void answerJson(Response& response, int status, const Json& json) {
     response.status = status;
     response.set_content(textOf(json) + "\n", kJsonType);
@@ -224,7 +235,7 @@ void HttpServer::Parts::page(const std::string& name, Response& response) const 
     }
     response.headers.erase("Content-Security-Policy");
     response.set_header("Content-Security-Policy", kPagePolicy);
-    response.set_content(found->second, typeOf(name));
+    sendAsItIs(response, std::make_shared<const std::string>(found->second), typeOf(name));
 }
 
 void HttpServer::Parts::site(const Request& request, Response& response) const {
@@ -284,11 +295,7 @@ void HttpServer::Parts::model(Response& response) {
         response.status = kNoContent;
         return;
     }
-    response.set_content_provider(
-        bytes->size(), "model/gltf-binary",
-        [bytes](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
-            return sink.write(bytes->data() + offset, length);
-        });
+    sendAsItIs(response, bytes, "model/gltf-binary");
 }
 
 void HttpServer::Parts::resource(const Request& request, Response& response) const {
