@@ -213,10 +213,19 @@ const Reading& readingOf(const std::string& name) {
     throw ProtocolError(kBadRequest, "no such action; there are " + known);
 }
 
+/// An action has members and lists in them. What is nested deeper is none, and is not read on.
+bool isShallow(int depth, Json::parse_event_t /*event*/, Json& /*value*/) {
+    constexpr int kDeepest = 8;
+    if (depth > kDeepest) {
+        throw ProtocolError(kBadRequest, "the body is nested too deeply");
+    }
+    return true;
+}
+
 }  // namespace
 
 Action parseAction(std::string_view body) {
-    const Json object = Json::parse(body, nullptr, /*allow_exceptions=*/false);
+    const Json object = Json::parse(body, isShallow, /*allow_exceptions=*/false);
     if (!object.is_object()) {
         throw ProtocolError(kBadRequest, object.is_discarded()
                                              ? "the body is not valid JSON"

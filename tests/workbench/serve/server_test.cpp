@@ -181,7 +181,7 @@ TEST_F(Server, WhatIsNoActionIsRefusedByName) {
     EXPECT_EQ(post(R"({"page": 1, "action": "type", "input": 1, "text": "a\u0000b"})"),
               "400 the member \"text\" has to be a string without a zero character");
     EXPECT_EQ(post(R"({"page": 1, "action": "ok"})"), "404 no such page: 1");
-    EXPECT_EQ(post(std::string(500'000, '[')), "400 the body is not valid JSON");
+    EXPECT_EQ(post(std::string(500'000, '[')), "400 the body is nested too deeply");
 }
 
 TEST_F(Server, LargeBodyIsRefused) {
