@@ -12,11 +12,11 @@
 namespace fuzz {
 
 /// A served host and one page of it, for all runs. Each run is lines of bytes that a page could
-/// have sent as actions.
+/// have sent as actions. At the end the add-in is not asked to stop: in a fuzzer, which keeps this
+/// to its exit, the statics of a module that was loaded again are gone by then.
 class FuzzedProtocol {
 public:
     FuzzedProtocol();
-    ~FuzzedProtocol();
 
     /// Does the actions. Returns what it found wrong: an exception that is no refusal, a patch that
     /// does not lead from the state that the page had to the one that is.
