@@ -50,7 +50,7 @@ function playHost(state, {act = () => {}, glb = null, files = {}} = {}) {
       try {
         if (action.page !== host.openings) throw Object.assign(new Error(`no such page: ${action.page}`), {status: 404});
         const more = await act(action, host);
-        if (host.held) await host.held;  // a slow program: the action is done, nobody knows yet
+        if (host.held) await host.held;  // a slow program: the action is done, but not answered
         change();
         answer(response, 200, {ok: true, revision, ...more});
       } catch (error) {

@@ -42,7 +42,7 @@ export class Connection {
   private watching: {revision: number; resolve: () => void}[] = [];
   private readonly versions = new Map<string, number>();
 
-  /// A browser allows few connections to one program, for all pages together: a page that nobody sees gives its own up.
+  /// A browser allows few connections to one program, for all pages together: a page that is not seen gives its own up.
   start(): void {
     const look = () => document.visibilityState === 'hidden' ? this.sleep() : this.open();
     document.addEventListener('visibilitychange', look);
@@ -160,7 +160,7 @@ export class Connection {
       const next = this.inTurn ? undefined : this.isHeld ? this.queue.find(({action}) => action === 'view') : this.queue[0];
       if (next) void this.deliver(next);
     } else if (this.line !== 'connecting' && this.line !== 'asleep') {
-      // What was typed is kept until the line is there again. A click is not: nobody knows what it would then be on.
+      // What was typed is kept until the line is there again. A click is not: what it would be on by then is not known.
       const dropped = this.queue.filter(({action}) => action !== 'paste');
       this.queue = this.queue.filter(({action}) => action === 'paste');
       dropped.forEach(({done}) => done.forEach(each => each(gone)));

@@ -1,4 +1,4 @@
-// What went wrong in the add-in, and what it opened: a drawer below the model that nobody has to look at.
+// What went wrong in the add-in, and what it opened: a drawer below the model that can stay closed.
 import {useLayoutEffect, useRef} from 'preact/hooks';
 import {webAddress} from './formatted.ts';
 import {Icon} from './icons.tsx';

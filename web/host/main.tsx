@@ -19,7 +19,7 @@ function later(): void {
   queueMicrotask(draw);
 }
 
-/// For whoever tries the page.
+/// For those who try the page.
 const page: {line: Connection; scene: Scene | null} = {line, scene: null};
 (window as {hostPage?: typeof page}).hostPage = page;
 

@@ -54,7 +54,7 @@ public:
 
 private:
     /// Answers with the exception that is handled now. An action that was answered as waiting has
-    /// nobody who would take one.
+    /// no caller left that would take one.
     template <class Result>
     static void fail(std::promise<Result>& promise) {
         try {

@@ -57,7 +57,7 @@ void MainQueue::run() {
         try {
             next();
         } catch (...) {
-            // Whoever left it has the answer; the program goes on with what the others left.
+            // The caller who left it has the answer; the program goes on with what the others left.
             continue;
         }
     }

@@ -12,7 +12,7 @@
 namespace workbench::serve {
 namespace {
 
-/// However the serving ends, nobody waits for an answer then: the server's threads would, and the
+/// However the serving ends, nothing waits for an answer then: the server's threads would, and the
 /// server for them.
 class AnswersAtEnd {
 public:
