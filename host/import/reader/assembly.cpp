@@ -2,6 +2,7 @@
 
 #include "host/import/reader/material_warnings.h"
 #include "host/import/reader/products.h"
+#include "host/import/reader/protocol.h"
 #include "host/import/reader/referenced_file.h"
 #include "host/import/reader/tree_check.h"
 
@@ -27,7 +28,9 @@ public:
         if (const auto known = roots_.find(path); known != roots_.end()) {
             return known->second;
         }
+        sendStage("Reading");
         auto file = std::make_unique<StepFile>(path);
+        sendStage("Resolving");
         for (const Warning& warning : file->warnings) {
             warn(path, warning);
         }

@@ -1,5 +1,6 @@
 #include "host/import/reader/iges.h"
 
+#include "host/import/reader/protocol.h"
 #include "host/import/reader/shapes.h"
 #include "host/import/reader/step_file.h"
 
@@ -42,6 +43,7 @@ bool looksLikeIges(const std::filesystem::path& file) {
 
 json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& shapes,
               std::vector<TopoDS_Shape>& curves) {
+    sendStage("Reading");
     // What it prints would be among the responses.
     Message::DefaultMessenger()->ChangePrinters().Clear();
     IGESControl_Reader reader;
@@ -50,6 +52,7 @@ json readIges(const std::filesystem::path& file, TopTools_IndexedMapOfShape& sha
     }
     reader.TransferRoots();
     const TopoDS_Shape whole = reader.OneShape();
+    sendStage("Resolving");
     const Bodies bodies = whole.IsNull() ? Bodies() : bodiesOf(whole);
     json component = {{"id", ""},
                       {"name", file.stem().string()},

@@ -70,7 +70,6 @@ bool isToBeBuilt(const step::Assembly& assembly, const Task& task) {
 }
 
 void run(const Task& task) {
-    step::sendLine({{"progress", {{"stage", "Reading"}, {"fraction", 0}}}});
     if (step::looksLikeIges(task.file)) {
         runIges(task.file);
         return;

@@ -215,6 +215,8 @@ void sendLine(const json& line) {
     std::cout << line.dump(-1, ' ', false, json::error_handler_t::replace) << '\n' << std::flush;
 }
 
+void sendStage(const char* stage) { sendLine({{"progress", {{"stage", stage}, {"fraction", 0}}}}); }
+
 void sendWarning(const Warning& warning) {
     json members = {{"code", warning.code}, {"text", warning.text}};
     if (!warning.component.empty()) {

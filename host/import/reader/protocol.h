@@ -55,6 +55,10 @@ namespace step {
 /// Sends one line to the process that started the program.
 void sendLine(const nlohmann::json& line);
 
+/// Sends what the reader turns to: "Reading" while Open CASCADE takes the file in, "Resolving"
+/// while its products and places are found, "Building" while its shapes are built.
+void sendStage(const char* stage);
+
 /// Sends a warning; members without a value are left out.
 void sendWarning(const Warning& warning);
 
