@@ -82,6 +82,32 @@ SourceFile findSource(const fs::path& path, const SourceFile& source) {
     return {moved ? toUtf8(beside) : source.path, source.fingerprint};
 }
 
+using Json = nlohmann::ordered_json;
+
+/// A line for each member of the design and of its components, and for each of their children and
+/// attributes: what changes in a design changes few lines of its file.
+void appendLines(const Json& json, std::size_t level, std::string& text) {
+    constexpr std::size_t kLevels = 4;
+    const auto onOneLine = [](const Json& value) {
+        return value.dump(/*indent=*/-1, /*indent_char=*/' ', /*ensure_ascii=*/false,
+                          Json::error_handler_t::replace);
+    };
+    if (level == kLevels || !json.is_structured() || json.empty()) {
+        text += onOneLine(json);
+        return;
+    }
+    const char* separator = json.is_object() ? "{" : "[";
+    for (const auto& [key, value] : json.items()) {
+        text.append(separator).append("\n").append(level + 1, ' ');
+        separator = ",";
+        if (json.is_object()) {
+            text.append(onOneLine(key)).append(": ");
+        }
+        appendLines(value, level + 1, text);
+    }
+    text.append("\n").append(level, ' ').append(json.is_object() ? "}" : "]");
+}
+
 /// Takes the bodies over from the source.
 void readBodies(const fs::path& path, ReadDesign& design, const ReadSource& readSource) {
     const SourceFile source = findSource(path, *design.data.source);
@@ -108,12 +134,11 @@ void readBodies(const fs::path& path, ReadDesign& design, const ReadSource& read
 AtomicFile stageDesignFile(const fs::path& path, const DesignData& data) {
     try {
         checkDesign(data);
-        nlohmann::ordered_json json = {{"format", kDesignFileFormat}, {"version", kVersion}};
+        Json json = {{"format", kDesignFileFormat}, {"version", kVersion}};
         json.update(toJson(data));
-        // One line for each component would be best to compare; an indent of one comes near.
-        return {path, json.dump(/*indent=*/1, /*indent_char=*/' ', /*ensure_ascii=*/false,
-                                nlohmann::json::error_handler_t::replace) +
-                          "\n"};
+        std::string text;
+        appendLines(json, 0, text);
+        return {path, text + "\n"};
     } catch (const DesignError& error) {
         refuse(path, error.what());
     } catch (const std::system_error& error) {

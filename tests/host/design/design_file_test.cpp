@@ -144,6 +144,28 @@ TEST_F(DesignFile, SavingAgainWritesTheSameBytes) {
     EXPECT_EQ(folder.names(), Names{kFile});
 }
 
+TEST_F(DesignFile, EachChildAndAttributeTakesOneLine) {
+    DesignData design = parseOutline("Frame\n  Leg  at=1,2,3\n  Leg");
+    design.components[1].attributes = {{"Group", "Colour", "\"red\""}, {"Group", "Size", "4"}};
+    saveDesignFile(path, design);
+
+    const std::string text = folder.read(kFile);
+    EXPECT_NE(text.find(R"(
+   "children": [
+    {"component":2,"instance":1,"transform":[1.0,0.0,0.0,1.0,0.0,1.0,0.0,2.0,0.0,0.0,1.0,3.0,0.0,0.0,0.0,1.0]},
+    {"component":2,"instance":2}
+   ])"),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find(R"(
+   "attributes": [
+    {"group":"Group","name":"Colour","value":"\"red\""},
+    {"group":"Group","name":"Size","value":"4"}
+   ])"),
+              std::string::npos)
+        << text;
+}
+
 TEST_F(DesignFile, ReadsAHandWrittenFile) {
     folder.write(kFile, with(R"([
         {"name": "D", "partNumber": "D", "children": [
