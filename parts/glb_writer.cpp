@@ -88,6 +88,38 @@ private:
     std::map<Key, std::vector<const host::InstanceColour*>> byLast_;
 };
 
+/// Null where nothing of the component itself is to be seen.
+const host::ShapeMesh* meshOf(const host::ShapeData& shapes, std::size_t component) {
+    const host::Shape* const shape = shapes.of(component);
+    const bool isVisible = shape != nullptr && shape->mesh && shape->mesh->isVisible();
+    return isVisible ? &*shape->mesh : nullptr;
+}
+
+/// Which components have something to be drawn, in them or in what they contain.
+class DrawnComponents {
+public:
+    DrawnComponents(const host::DesignData& design, const host::ShapeData& shapes)
+        : design_(design), shapes_(shapes), known_(design.components.size()) {}
+
+    /// As deep as the design, whose levels are limited.
+    [[nodiscard]] bool contains(std::size_t component) {
+        if (!known_[component]) {
+            const auto isDrawn = [this](const host::OccurrenceData& child) {
+                return !child.absent && contains(child.component);
+            };
+            known_[component] =
+                meshOf(shapes_, component) != nullptr ||
+                std::ranges::any_of(design_.components[component].children, isDrawn);
+        }
+        return *known_[component];
+    }
+
+private:
+    const host::DesignData& design_;
+    const host::ShapeData& shapes_;
+    std::vector<std::optional<bool>> known_;
+};
+
 class Model {
 public:
     Model(const host::DesignData& design, const host::ShapeData& shapes, const GlbOptions& options)
@@ -95,6 +127,7 @@ public:
           shapes_(shapes),
           options_(options),
           colours_(shapes.instanceColours),
+          drawn_(design, shapes),
           shapeOf_(shapes.shapes.size()),
           meshes_(options.packing) {
         constexpr double kHalf = 0.70710678118654757;
@@ -151,15 +184,15 @@ private:
     }
 
     void setMesh(const Node& node) {
-        const host::Shape* const shape = shapes_.of(node.component);
-        if (shape == nullptr || !shape->mesh || !shape->mesh->isVisible()) {
+        const host::ShapeMesh* const mesh = meshOf(shapes_, node.component);
+        if (mesh == nullptr) {
             return;
         }
         std::optional<std::size_t>& number = shapeOf_[*shapes_.ofComponent[node.component]];
         if (!number) {
-            number = meshes_.addShape(*shape->mesh);
+            number = meshes_.addShape(*mesh);
         }
-        nodes_[node.number]["mesh"] = meshes_.meshOf(*number, coloursOf(*shape->mesh, node),
+        nodes_[node.number]["mesh"] = meshes_.meshOf(*number, coloursOf(*mesh, node),
                                                      design_.components[node.component].name);
     }
 
@@ -170,7 +203,7 @@ private:
         const std::vector<host::OccurrenceData>& occurrences =
             design_.components[node.component].children;
         for (std::size_t child = 0; child < occurrences.size(); ++child) {
-            if (!occurrences[child].absent) {
+            if (!occurrences[child].absent && drawn_.contains(occurrences[child].component)) {
                 children.push_back(place(node, child));
             }
         }
@@ -204,6 +237,7 @@ private:
     const host::ShapeData& shapes_;
     GlbOptions options_;
     InstanceColours colours_;
+    DrawnComponents drawn_;
     std::vector<host::InstanceStep> steps_;  ///< from the root to the node that is being filled
     std::vector<std::optional<std::size_t>> shapeOf_;  ///< in the model, of each shape
     GlbMeshes meshes_;

@@ -17,7 +17,8 @@ enum class GlbExtras {
 };
 
 struct GlbOptions {
-    /// Of a build that cannot compress, all models are plain (`canPack` in glb_packing.h).
+    /// Models that are smaller plain than compressed are plain, and all those of a build that
+    /// cannot compress (`canPack` in glb_packing.h).
     GlbPacking packing = GlbPacking::Compressed;
     GlbExtras extras = GlbExtras::All;
 };
@@ -26,7 +27,8 @@ struct GlbOptions {
 /// that reads). Plain, it needs no extension; compressed, it needs KHR_mesh_quantization and
 /// EXT_meshopt_compression.
 ///
-/// Every occurrence is a node with its name, its placement, and extras; every shape that has a mesh
+/// Every occurrence in which something can be drawn is a node with its name, its placement, and
+/// extras (boards come with hundreds of empty ones); every shape that has a mesh
 /// is one mesh, which its occurrences share, with its feature edges as lines. It is one more mesh,
 /// of the same numbers, for an instance that has another colour. Metres, Y up, as glTF wants it.
 /// Returns what the model has. Throws a `std::runtime_error` for a model of 4 GB or more.

@@ -79,6 +79,25 @@ TEST(GlbWriter, HasANodeForEachOccurrence) {
     EXPECT_EQ(nodes[2].at("translation"), (json{20.0, 0.0, 0.0}));  // in mm
 }
 
+TEST(GlbWriter, LeavesOutOccurrencesInWhichNothingCanBeDrawn) {
+    Drawing drawing = frameWithBolts();
+    std::vector<host::ComponentData>& components = drawing.design.components;
+    // The first occurrence becomes a box around a label without a shape, the second stays.
+    components.resize(4);
+    components[2].name = "Box";
+    components[2].children.resize(1);
+    components[2].children[0].component = 3;
+    components[3].name = "Label";
+    components[0].children[0].component = 2;
+    drawing.shapes.ofComponent.resize(4);
+
+    const json nodes = descriptionOf(glbOf(drawing)).at("nodes");
+
+    ASSERT_EQ(nodes.size(), 2U);
+    EXPECT_EQ(nodes[0].at("children"), json{1});
+    EXPECT_EQ(nodes[1].at("name"), "Bolt:2");
+}
+
 TEST(GlbWriter, SaysNothingButThePathForAPage) {
     const json nodes =
         descriptionOf(glbOf(frameWithBolts(), {.packing = parts::GlbPacking::Plain,
