@@ -99,6 +99,33 @@ void ApplicationObject::log(const std::string& message, core::LogLevels level,
     }
 }
 
+core::Ptr<core::CustomEvent> ApplicationObject::registerCustomEvent(const std::string& eventId) {
+    if (closed<"registerCustomEvent">(*this)) return {};
+    const auto event = eventId.empty() ? nullptr : customEvents_.add(eventId, this);
+    if (!event) {
+        fail(core::BadApiCallError, "Application::registerCustomEvent: the id \"" + eventId +
+                                        (eventId.empty() ? "\" is empty" : "\" is in use"));
+    }
+    return event;
+}
+
+bool ApplicationObject::unregisterCustomEvent(const std::string& eventId) {
+    if (closed<"unregisterCustomEvent">(*this)) return {};
+    return customEvents_.remove(eventId) ||
+           fail(core::BadApiCallError,
+                "Application::unregisterCustomEvent: \"" + eventId + "\" is not registered");
+}
+
+// Neither the gate nor the last error may be touched by another thread.
+bool ApplicationObject::fireCustomEvent(const std::string& eventId,
+                                        const std::string& additionalInfo) {
+    if (!customEvents_.isHostThread()) return customEvents_.fire(eventId, additionalInfo);
+    if (closed<"fireCustomEvent">(*this)) return {};
+    return customEvents_.fire(eventId, additionalInfo) ||
+           fail(core::BadApiCallError,
+                "Application::fireCustomEvent: \"" + eventId + "\" is not registered");
+}
+
 void ApplicationObject::setActiveDocument(const core::Ptr<core::Document>& document,
                                           const core::Ptr<core::Product>& product) {
     if (ui_->runner().active() && !ui_->runner().isExecuting()) {
@@ -139,6 +166,7 @@ std::uint64_t ApplicationObject::editsOfModel() const {
 
 void ApplicationObject::dispose() {
     ui_->dispose();
+    customEvents_.dispose();
     preferences_->dispose();
     documents_->dispose();
     importManager_->invalidate();

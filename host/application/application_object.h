@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/application/custom_events.h"
 #include "host/application/documents_object.h"
 #include "host/application/import_manager_object.h"
 #include "host/base/object.h"
@@ -52,6 +53,9 @@ public:
     }
     int getLastError(std::string* description) const override;
     void log(const std::string& message, core::LogLevels level, core::LogTypes logType) override;
+    core::Ptr<core::CustomEvent> registerCustomEvent(const std::string& eventId) override;
+    bool unregisterCustomEvent(const std::string& eventId) override;
+    bool fireCustomEvent(const std::string& eventId, const std::string& additionalInfo) override;
 
     /// @name For the code that started the host
     /// @{
@@ -86,6 +90,7 @@ public:
     [[nodiscard]] std::uint64_t editsOfModel() const override;
 
     [[nodiscard]] ui::UserInterfaceObject& ui() const { return *ui_; }
+    [[nodiscard]] CustomEvents& customEvents() { return customEvents_; }
     /// @}
 
     void dispose();
@@ -93,6 +98,7 @@ public:
 private:
     [[nodiscard]] ui::ModelHistory makeHistory();
 
+    CustomEvents customEvents_;
     core::Ptr<ui::UserInterfaceObject> ui_;
     core::Ptr<ui::PreferencesObject> preferences_;
     core::Ptr<DocumentsObject> documents_;

@@ -135,6 +135,25 @@ bool ComponentObject::transformOccurrences(
     return true;
 }
 
+bool ComponentObject::addNewComponent(const Transform& transform) {
+    if (model_->edits.history.waits()) {
+        return fail(core::OperationFailed,
+                    "Occurrences::addNewComponent: what the preview did is taken back first");
+    }
+    const std::size_t index = model_->addComponent(*this);
+    data_.children.push_back({.component = index,
+                              .instance = 1,
+                              .transform = transform,
+                              .grounded = false,
+                              .absent = false});
+    model_->edits.history.remember([this] {
+        data_.children.pop_back();
+        model_->takeBackComponent();
+    });
+    ++model_->edits.all;
+    return true;
+}
+
 ComponentData ComponentObject::snapshot() const {
     ComponentData data = data_;
     data.material = material_ ? std::optional(material_->state()) : std::nullopt;

@@ -59,6 +59,10 @@ public:
     [[nodiscard]] ComponentObject& childComponent(const OccurrenceData& child) const;
     OccurrenceData& place(std::size_t index) { return data_.children[index]; }
 
+    /// Adds the first occurrence of a new component, placed in here, behind the others. False where
+    /// what a preview did has to be taken back first, which is noted as the last error.
+    bool addNewComponent(const Transform& transform);
+
     /// The density of what it is made of, in kg/cm3; 0 where it is unknown.
     [[nodiscard]] double density() const { return material_ ? material_->state().density : 0; }
 
@@ -77,6 +81,7 @@ public:
     }
 
     void setDesign(DesignObject& design) { design_ = &design; }
+    [[nodiscard]] DesignObject& design() const { return *design_; }
     void dispose();
 
 private:

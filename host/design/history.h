@@ -54,6 +54,12 @@ public:
         }
     }
 
+    /// Whether the newest record is closed and waits to be taken back or kept, as that of a preview
+    /// does: what is changed now is no part of it, and stays when it is taken back.
+    [[nodiscard]] bool waits() const {
+        return !records_.empty() && !records_.rbegin()->second.open;
+    }
+
     /// Drops all records; the document ends.
     void clear() { records_.clear(); }
 

@@ -17,6 +17,7 @@ namespace host {
 
 class ComponentObject;
 class OccurrenceListObject;
+class OccurrenceObject;
 
 /// What a document holds: its components, and what they have in common.
 ///
@@ -35,6 +36,17 @@ public:
     }
     [[nodiscard]] std::size_t componentCount() const { return components_.size(); }
 
+    /// Adds a component that a module makes: without bodies, under a name that is free. It belongs
+    /// to the document of `owner`. Its index.
+    std::size_t addComponent(const ComponentObject& owner);
+
+    /// Takes back the component that was added last, with everything that belongs to it.
+    void takeBackComponent();
+
+    /// Notes an occurrence that was made. Those of components that were added are not valid any
+    /// more once these are taken back.
+    void noteMade(const core::Ptr<OccurrenceObject>& occurrence, std::size_t component);
+
     /// The occurrences of a component without children; one list serves them all.
     [[nodiscard]] const core::Ptr<OccurrenceListObject>& emptyList() const { return emptyList_; }
 
@@ -51,6 +63,9 @@ public:
 private:
     DesignData rest_;  ///< without components
     std::vector<core::Ptr<ComponentObject>> components_;
+    std::size_t opened_;  ///< how many components it had when it was opened
+    std::vector<std::vector<core::Ptr<OccurrenceObject>>> usesOfAdded_;  ///< of those behind these
+    int nextNumber_ = 1;  ///< of a component that is added
     core::Ptr<OccurrenceListObject> emptyList_;
 };
 

@@ -17,6 +17,8 @@ public:
     /// free number after it, as in "Bolt (1)". Returns the name taken.
     std::string claim(const std::string& wanted);
 
+    [[nodiscard]] bool isTaken(const std::string& name) const { return taken_.contains(name); }
+
     /// Makes a name free again.
     void release(const std::string& name);
 

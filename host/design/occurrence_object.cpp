@@ -1,12 +1,15 @@
 #include "host/design/occurrence_object.h"
 
+#include "host/base/last_error.h"
 #include "host/design/component_object.h"
+#include "host/design/geometry_objects.h"
 #include "host/design/model.h"
 #include "host/design/physical_properties_object.h"
 #include "host/design/transform.h"
 
 #include <array>
 #include <charconv>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -17,8 +20,12 @@ constexpr std::size_t kLongestNumber = 12;
 
 }  // namespace
 
-OccurrenceObject::OccurrenceObject(OccurrenceListObject& list, OccurrenceData& place)
-    : component_(&list.owner()->childComponent(place)), place_(&place), list_(&list) {}
+OccurrenceObject::OccurrenceObject(OccurrenceListObject& list, std::size_t index)
+    : component_(&list.owner()->childComponent(list.owner()->place(index))),
+      index_(index),
+      list_(&list) {}
+
+OccurrenceData& OccurrenceObject::place() const { return list_->owner()->place(index_); }
 
 core::Ptr<fusion::Component> OccurrenceObject::component() const {
     return get<"component">(component_);
@@ -26,11 +33,12 @@ core::Ptr<fusion::Component> OccurrenceObject::component() const {
 
 core::Ptr<fusion::OccurrenceList> OccurrenceObject::childOccurrences() const {
     if (closed<"childOccurrences">(*this)) return {};
-    if (!children_) {
+    const bool isLeaf = component_->state().children.empty();
+    // It may have been a leaf when it was asked before.
+    if (!children_ || (!isLeaf && children_->owner() == nullptr)) {
         children_ =
-            component_->state().children.empty()
-                ? component_->model().emptyList()
-                : make<OccurrenceListObject>(component_, const_cast<OccurrenceObject*>(this));
+            isLeaf ? component_->model().emptyList()
+                   : make<OccurrenceListObject>(component_, const_cast<OccurrenceObject*>(this));
     }
     return children_;
 }
@@ -78,7 +86,7 @@ std::size_t OccurrenceObject::nameLength() const {
 
 void OccurrenceObject::appendName(std::string& text) const {
     std::array<char, kLongestNumber> digits = {};
-    const auto end = std::to_chars(digits.begin(), digits.end(), place_->instance).ptr;
+    const auto end = std::to_chars(digits.begin(), digits.end(), place().instance).ptr;
     text += component_->state().name;
     text += ':';
     text.append(digits.data(), end);
@@ -86,14 +94,16 @@ void OccurrenceObject::appendName(std::string& text) const {
 
 bool OccurrenceObject::isGrounded() const {
     if (closed<"isGrounded">(*this)) return {};
-    return place_->grounded;
+    return place().grounded;
 }
 
 bool OccurrenceObject::isGrounded(bool value) {
     if (closed<"isGrounded">(*this)) return {};
     component_->model().edits.history.remember(
-        [place = place_, old = place_->grounded] { place->grounded = old; });
-    place_->grounded = value;
+        [owner = list_->owner(), index = index_, old = place().grounded] {
+            owner->place(index).grounded = old;
+        });
+    place().grounded = value;
     ++component_->model().edits.all;
     return true;
 }
@@ -130,20 +140,20 @@ std::size_t OccurrenceObject::depth() const {
 }
 
 Transform OccurrenceObject::placement() const {
-    Transform result = place_->transform;
+    Transform result = place().transform;
     for (const OccurrenceObject* each = parent(); each != nullptr; each = each->parent()) {
-        result = each->place_->transform * result;
+        result = each->place().transform * result;
     }
     return result;
 }
 
 void OccurrenceObject::dispose() {
-    if (children_) {
+    // The empty list is that of all leaves.
+    if (children_ && children_->owner() != nullptr) {
         children_->dispose();
-        children_ = nullptr;
     }
+    children_ = nullptr;
     component_ = nullptr;
-    place_ = nullptr;
     list_ = nullptr;
     invalidate();
 }
@@ -153,9 +163,13 @@ OccurrenceListObject::OccurrenceListObject(ComponentObject* owner, OccurrenceObj
       parent_(parent),
       items_(owner == nullptr ? 0 : owner->state().children.size()) {}
 
+std::size_t OccurrenceListObject::size() const {
+    return owner_ == nullptr ? 0 : owner_->state().children.size();
+}
+
 std::size_t OccurrenceListObject::count() const {
     if (closed<"count">(*this)) return {};
-    return items_.size();
+    return size();
 }
 
 core::Ptr<fusion::Occurrence> OccurrenceListObject::item(std::size_t index) const {
@@ -164,21 +178,26 @@ core::Ptr<fusion::Occurrence> OccurrenceListObject::item(std::size_t index) cons
 }
 
 core::Ptr<fusion::Occurrence> OccurrenceListObject::at(std::size_t index) const {
-    if (index >= items_.size()) {
+    if (index >= size()) {
         return {};
     }
+    if (index >= items_.size()) {
+        items_.resize(size());
+    }
     core::Ptr<OccurrenceObject>& item = items_[index];
-    OccurrenceData& place = owner_->place(index);
-    if (!item && !place.absent) {
-        item = make<OccurrenceObject>(const_cast<OccurrenceListObject&>(*this), place);
+    // One that is not valid was taken back, and its place given to another one since.
+    const OccurrenceData& place = owner_->place(index);
+    if ((!item || !item->isValid()) && !place.absent) {
+        item = make<OccurrenceObject>(const_cast<OccurrenceListObject&>(*this), index);
+        owner_->model().noteMade(item, place.component);
     }
     return item;
 }
 
 core::Ptr<fusion::Occurrence> OccurrenceListObject::itemByName(const std::string& name) const {
     if (closed<"itemByName">(*this)) return {};
-    for (std::size_t index = 0; index < items_.size(); ++index) {
-        core::Ptr<OccurrenceObject> each = at(index);
+    for (std::size_t index = 0; index < size(); ++index) {
+        const core::Ptr<OccurrenceObject> each = at(index);
         if (each && each->currentName() == name) {
             return each;
         }
@@ -209,6 +228,18 @@ std::size_t OccurrencesObject::count() const {
 core::Ptr<fusion::Occurrence> OccurrencesObject::item(std::size_t index) const {
     if (closed<"item">(*this)) return {};
     return list_->at(index);
+}
+
+core::Ptr<fusion::Occurrence> OccurrencesObject::addNewComponent(
+    const core::Ptr<core::Matrix3D>& transform) {
+    if (closed<"addNewComponent">(*this)) return {};
+    const std::optional<Transform> placement = transformOf(transform);
+    if (!placement) {
+        fail(core::BadApiCallError, "Occurrences::addNewComponent: the transform is null");
+        return {};
+    }
+    if (!list_->owner()->addNewComponent(*placement)) return {};
+    return list_->at(list_->size() - 1);
 }
 
 void OccurrencesObject::dispose() {

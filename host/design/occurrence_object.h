@@ -20,8 +20,8 @@ class OccurrenceListObject;
 
 class OccurrenceObject final : public Object<fusion::Occurrence> {
 public:
-    /// The occurrence that `list` has at `place`, a child of the list's owner.
-    OccurrenceObject(OccurrenceListObject& list, OccurrenceData& place);
+    /// The occurrence that `list` has at that index, a child of the list's owner.
+    OccurrenceObject(OccurrenceListObject& list, std::size_t index);
 
     [[nodiscard]] core::Ptr<fusion::Component> component() const override;
     [[nodiscard]] core::Ptr<fusion::OccurrenceList> childOccurrences() const override;
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] Transform placement() const;
 
     /// Its placement in the component that holds it.
-    Transform& localPlacement() { return place_->transform; }
+    Transform& localPlacement() { return place().transform; }
 
     [[nodiscard]] std::string currentName() const;
     void dispose();
@@ -54,8 +54,11 @@ private:
     [[nodiscard]] std::size_t nameLength() const;
     void appendName(std::string& text) const;
 
+    /// Its place among the children of the list's owner, which moves when some are added.
+    [[nodiscard]] OccurrenceData& place() const;
+
     ComponentObject* component_;
-    OccurrenceData* place_;
+    std::size_t index_;
     OccurrenceListObject* list_;
     mutable core::Ptr<OccurrenceListObject> children_;
 };
@@ -71,7 +74,7 @@ public:
     [[nodiscard]] core::Ptr<fusion::Occurrence> item(std::size_t index) const override;
     [[nodiscard]] core::Ptr<fusion::Occurrence> itemByName(const std::string& name) const override;
 
-    [[nodiscard]] std::size_t size() const { return items_.size(); }
+    [[nodiscard]] std::size_t size() const;
     [[nodiscard]] core::Ptr<fusion::Occurrence> at(std::size_t index) const;
     [[nodiscard]] ComponentObject* owner() const { return owner_; }
     [[nodiscard]] OccurrenceObject* parent() const { return parent_; }
@@ -80,7 +83,7 @@ public:
 private:
     ComponentObject* owner_;
     OccurrenceObject* parent_;
-    mutable std::vector<core::Ptr<OccurrenceObject>> items_;
+    mutable std::vector<core::Ptr<OccurrenceObject>> items_;  ///< null where not made yet
 };
 
 /// The collection of the occurrences directly in a component.
@@ -93,6 +96,8 @@ public:
     [[nodiscard]] core::Ptr<fusion::OccurrenceList> asList() const override {
         return get<"asList">(list_);
     }
+    core::Ptr<fusion::Occurrence> addNewComponent(
+        const core::Ptr<core::Matrix3D>& transform) override;
 
     void dispose();
 

@@ -8,6 +8,7 @@
 #include "host/ui/inputs/list_state.h"
 #include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/inputs/slider_state.h"
 #include "host/ui/inputs/table_command_input_object.h"
 
 #include <Fusion/FusionAll.h>
@@ -194,7 +195,7 @@ void read(InputView& view, const Ptr<core::TableCommandInput>& table, TableRows 
 template <class Number>
 void readNumber(InputView& view, const Ptr<Number>& number) {
     view.kind = "StringValue";
-    view.value = ui::numberOf(InputState::of(number)).expression();
+    view.value = ui::numberOf(InputState::of(number)).field().expression();
 }
 
 void read(InputView& view, const Ptr<core::ValueCommandInput>& input) { readNumber(view, input); }
@@ -209,6 +210,19 @@ void read(InputView& view, const Ptr<core::IntegerSpinnerCommandInput>& input) {
 }
 void read(InputView& view, const Ptr<core::FloatSpinnerCommandInput>& input) {
     readNumber(view, input);
+}
+
+/// A slider shows what its fields do.
+void readSlider(InputView& view, const Ptr<core::CommandInput>& slider) {
+    view.kind = "StringValue";
+    view.value = ui::sliderOf(InputState::of(slider)).shown();
+}
+
+void read(InputView& view, const Ptr<core::IntegerSliderCommandInput>& input) {
+    readSlider(view, input);
+}
+void read(InputView& view, const Ptr<core::FloatSliderCommandInput>& input) {
+    readSlider(view, input);
 }
 
 /// Reads it as the first of these interfaces that it has.
@@ -242,7 +256,8 @@ InputView readInput(const Ptr<core::CommandInput>& input, TableRows rows) {
            core::ButtonRowCommandInput, core::SelectionCommandInput, core::TabCommandInput,
            core::GroupCommandInput, core::TableCommandInput, core::ValueCommandInput,
            core::DistanceValueCommandInput, core::AngleValueCommandInput,
-           core::IntegerSpinnerCommandInput, core::FloatSpinnerCommandInput>(view, input, rows);
+           core::IntegerSpinnerCommandInput, core::FloatSpinnerCommandInput,
+           core::IntegerSliderCommandInput, core::FloatSliderCommandInput>(view, input, rows);
     return view;
 }
 

@@ -8,6 +8,7 @@
 #include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/reachability.h"
 #include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/inputs/slider_state.h"
 #include "host/ui/inputs/string_value_command_input_object.h"
 #include "host/ui/inputs/table_command_input_object.h"
 #include "host/ui/inputs/text_box_command_input_object.h"
@@ -59,8 +60,12 @@ std::vector<std::string> prefixes(const std::string& text) {
     return all;
 }
 
+bool isNumeric(const InputState& input) {
+    return input.kind == InputKind::Number || input.kind == InputKind::Slider;
+}
+
 bool isReadOnly(const InputState& input) {
-    if (input.kind == InputKind::Number) return false;
+    if (isNumeric(input)) return false;
     if (input.kind == InputKind::String) {
         return static_cast<const ui::StringValueCommandInputObject&>(input).refusesUser();
     }
@@ -70,8 +75,7 @@ bool isReadOnly(const InputState& input) {
 /// A text that the user can change.
 InputState& writable(const Ptr<core::CommandInput>& input) {
     InputState& state = usable(input, "type into");
-    if (state.kind != InputKind::String && state.kind != InputKind::TextBox &&
-        state.kind != InputKind::Number) {
+    if (state.kind != InputKind::String && state.kind != InputKind::TextBox && !isNumeric(state)) {
         throw MisuseError("cannot type into " + ui::describe(state) + ": it holds no text");
     }
     if (isReadOnly(state)) {
@@ -84,7 +88,9 @@ void enter(InputState& input, const std::string& text) {
     if (input.kind == InputKind::String) {
         static_cast<ui::StringValueCommandInputObject&>(input).enter(text);
     } else if (input.kind == InputKind::Number) {
-        ui::numberOf(&input).enter(text);
+        ui::numberOf(&input).field().enter(text);
+    } else if (input.kind == InputKind::Slider) {
+        ui::sliderOf(&input).enter(text);
     } else {
         static_cast<ui::TextBoxCommandInputObject&>(input).enter(text);
     }
@@ -239,11 +245,27 @@ void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
 void spin(const Ptr<core::CommandInput>& input, int steps) {
     UserAction acting;
     InputState& state = usable(input, "spin");
-    if (state.kind != InputKind::Number || !ui::numberOf(&state).limits()) {
+    if (state.kind != InputKind::Number || !ui::numberOf(&state).field().limits()) {
         throw MisuseError("cannot spin " + ui::describe(state) + ": it has no arrows");
     }
     selectRowOf(state);
-    ui::numberOf(&state).spin(steps);
+    ui::numberOf(&state).field().spin(steps);
+    acting.runner().changed(state);
+    acting.finish();
+}
+
+void slide(const Ptr<core::CommandInput>& input, double value, ui::SliderKnob knob) {
+    UserAction acting;
+    InputState& state = usable(input, "slide");
+    if (state.kind != InputKind::Slider) {
+        throw MisuseError("cannot slide " + ui::describe(state) + ": it is no slider");
+    }
+    ui::SliderState& slider = ui::sliderOf(&state);
+    if (knob == ui::SliderKnob::Second && !slider.hasTwoKnobs()) {
+        throw MisuseError("cannot slide " + ui::describe(state) + ": it has one knob");
+    }
+    selectRowOf(state);
+    slider.drag(knob, value);
     acting.runner().changed(state);
     acting.finish();
 }

@@ -2,6 +2,7 @@
 
 #include "host/base/api_names.h"
 #include "host/base/misuse.h"
+#include "host/ui/inputs/slider_knob.h"
 
 #include <Core/CommandInputs.h>
 
@@ -35,6 +36,12 @@ void pasteText(const core::Ptr<core::CommandInput>& input, const std::string& te
 /// Clicks an arrow of a spinner so many times, the one that counts down for a negative number; the
 /// value stops at the limits. Reported once.
 void spin(const core::Ptr<core::CommandInput>& input, int steps);
+
+/// Drags a knob of a slider to the place of a value, in the host's units: as near as the slider
+/// goes, and not past the other knob. Reported once. Into a slider with two knobs the user types
+/// both values as "10 mm to 20 mm".
+void slide(const core::Ptr<core::CommandInput>& input, double value,
+           ui::SliderKnob knob = ui::SliderKnob::First);
 
 /// Chooses an item, which is reported; where several can be selected it unselects a selected one.
 /// Nothing happens for an item that is already chosen.

@@ -8,6 +8,9 @@ namespace host {
 
 void postToMainThread(std::function<void()> work) { post(std::move(work)); }
 
-void runPostedWork() { runPosted(); }
+void runPostedWork() {
+    runPosted();
+    stopIfRequested();
+}
 
 }  // namespace host

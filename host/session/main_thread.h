@@ -11,8 +11,9 @@ namespace host {
 /// dropped without a host and by one that ends.
 void postToMainThread(std::function<void()> work);
 
-/// Does what was posted until now, and what is scheduled for now on the host's clock. For the main
-/// thread, outside of any action; what it throws passes on.
+/// Does what was posted until now, custom events that threads fired included, and what is scheduled
+/// for now on the host's clock. For the main thread, outside of any action; what it throws passes
+/// on.
 void runPostedWork();
 
 }  // namespace host

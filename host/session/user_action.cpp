@@ -22,6 +22,9 @@ UserAction::UserAction() : application_(&runningApplication()) {
 
 void UserAction::finish() {
     runner().drainRequests();
+    if (application_->customEvents().deliver()) {
+        runner().drainRequests();
+    }
     stopIfRequested();
 }
 

@@ -23,8 +23,8 @@ public:
     [[nodiscard]] ui::UserInterfaceObject& ui() const { return application_->ui(); }
     [[nodiscard]] ui::CommandRunner& runner() const { return ui().runner(); }
 
-    /// Starts the requested commands and stops the module if it asked for that: the last step of
-    /// each action.
+    /// Starts the requested commands, has custom events handled that were fired, and stops the
+    /// module if it asked for that: the last step of each action.
     void finish();
 
 private:

@@ -3,6 +3,7 @@
 #include "host/session/user_action.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 namespace {
@@ -116,6 +117,36 @@ void pressCancel() {
 }
 
 void drainRequests() { runningApplication().ui().runner().drainRequests(); }
+
+namespace {
+
+Ptr<ui::PaletteObject> paletteWithPage(const ui::UserInterfaceObject& ui, const std::string& id) {
+    const Ptr<ui::PaletteObject> palette = ui.state().palettes->find(id);
+    if (!palette) {
+        throw MisuseError("cannot use the page of the palette " + id + ": no palette has this id");
+    }
+    return palette;
+}
+
+}  // namespace
+
+std::string sendFromPage(const std::string& paletteId, const std::string& action,
+                         const std::string& data) {
+    UserAction acting;
+    const std::string answer =
+        paletteWithPage(acting.ui(), paletteId)->sendFromPage({.action = action, .data = data});
+    acting.finish();
+    return answer;
+}
+
+void answerAsPage(const std::string& paletteId,
+                  std::function<std::string(const ui::PageMessage&)> page) {
+    paletteWithPage(runningApplication().ui(), paletteId)->page = std::move(page);
+}
+
+std::vector<ui::PageMessage> sentToPage(const std::string& paletteId) {
+    return paletteWithPage(runningApplication().ui(), paletteId)->sentToPage;
+}
 
 void closePalette(const std::string& id) {
     const UserAction acting;

@@ -3,10 +3,12 @@
 #include "host/base/api_names.h"
 #include "host/base/misuse.h"
 #include "host/ui/commands/dialog_size.h"
+#include "host/ui/dialogs/page_message.h"
 
 #include <Core/CommandDefinitions.h>
 #include <Core/Commands.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -63,6 +65,19 @@ void activateWorkspace(const std::string& id);
 
 /// Closes a palette with the button in its corner, which hides it.
 void closePalette(const std::string& id);
+
+/// The page of a palette sends something to the module, as by `adsk.fusionSendData`; the answer of
+/// its handlers. It may be hidden: its page stays loaded.
+std::string sendFromPage(const std::string& paletteId, const std::string& action,
+                         const std::string& data);
+
+/// Answers from now on what the module sends to the page of a palette, which this host does not
+/// run; null for no answer.
+void answerAsPage(const std::string& paletteId,
+                  std::function<std::string(const ui::PageMessage&)> page);
+
+/// What the module sent to the page of a palette, oldest first.
+std::vector<ui::PageMessage> sentToPage(const std::string& paletteId);
 
 /// Opens the context menu and returns the ids of the commands in its list; empty where the menu is
 /// empty and so is not shown.

@@ -24,6 +24,12 @@ struct PanelSetup {
     std::string name;
 };
 
+/// A command of the host's own. In this host it does nothing.
+struct CommandSetup {
+    std::string id;
+    std::string name;
+};
+
 /// Which changes that code makes to inputs of the open dialog are reported to its handlers, as if
 /// the user had made them. They are reported after the running notification.
 enum class CodeChanges {
@@ -47,6 +53,29 @@ struct HostSetup {
         {"FusionSolidEnvironment", "SketchTab", "Sketch", "SketchCreatePanel", "Create"},
         {"CAMEnvironment", "MillingTab", "Milling", "CAMManagePanel", "Manage"},
     };
+    /// The commands of the host that add-ins look for, to start them or to add their buttons to a
+    /// panel, besides "SelectCommand".
+    std::vector<CommandSetup> commands = {
+        {"SketchCreate", "Create Sketch"},
+        {"SketchActivate", "Edit Sketch"},
+        {"SketchStop", "Finish Sketch"},
+        {"Extrude", "Extrude"},
+        {"Revolve", "Revolve"},
+        {"FusionMoveCommand", "Move/Copy"},
+        {"FusionPressPullCommand", "Press Pull"},
+        {"FusionCreateNewComponentCommand", "New Component"},
+        {"ChangeParameterCommand", "Change Parameters"},
+        {"MeasureCommand", "Measure"},
+        {"ExportCommand", "Export"},
+        {"PLM360SaveCommand", "Save"},
+        {"UndoCommand", "Undo"},
+        {"RedoCommand", "Redo"},
+        {"FitCommand", "Fit"},
+        {"FindInBrowser", "Find in Browser"},
+        {"VisibilityToggleCmd", "Show/Hide"},
+        {"ScriptsManagerCommand", "Scripts and Add-Ins"},
+    };
+
     CodeChanges codeChanges = CodeChanges::Lists;
 
     /// Whether waiting takes a module real time.

@@ -33,6 +33,9 @@ UserInterfaceObject::UserInterfaceObject(const HostSetup& setup, const ActiveMod
 void UserInterfaceObject::createDefaultLayout(const HostSetup& setup) {
     runner_.setIdleCommand(state_.definitions->addNative("SelectCommand", "Select"),
                            setup.selectCommand);
+    for (const CommandSetup& each : setup.commands) {
+        state_.definitions->addNative(each.id, each.name);
+    }
     for (const PanelSetup& each : setup.panels) {
         if (const auto workspace = state_.workspaces->find(each.workspace)) {
             ToolbarTabObject& tab = workspace->tab(each.tab, each.tabName);

@@ -57,8 +57,9 @@ TEST_F(ConformanceModule, StopsAfterTheNotificationThatTerminatesIt) {
               (LogLine{.text = "stopped", .level = WarningLogLevel, .type = ConsoleLogType}));
 }
 
+constexpr const char* kPalette = "ConformancePalette";
 constexpr const char* kAllOperations =
-    "turned, 1 point, 2 cm, 26.000 mm, /target, visible, Untitled";
+    "turned, 1 point, 2 cm, 26.000 mm, /target, visible, Untitled, Extrude, Component2:1";
 
 TEST_F(ConformanceModule, CallsWhatAddInsAskMost) {
     Session session(options());
@@ -71,9 +72,18 @@ TEST_F(ConformanceModule, CallsWhatAddInsAskMost) {
 
     session.ok();
 
-    EXPECT_EQ(session.log().back().text, kAllOperations);
+    const std::vector<LogLine> log = session.log();
+    ASSERT_EQ(log.size(), 3U);
+    EXPECT_EQ(log[1].text, kAllOperations);
+    EXPECT_EQ(log[2].text, "worked");
+    EXPECT_EQ(session.designsOpenedByModule().back().components.size(), 3U);
+    answerAsPage(kPalette, [](const ui::PageMessage& sent) { return sent.action + sent.data; });
+    EXPECT_EQ(sendFromPage(kPalette, "ask", "!"), "echo!");
+    EXPECT_TRUE(session.stop());
     EXPECT_TRUE(session.uncaughtExceptions().empty());
 }
+
+bool hasPalette() { return Application::get()->userInterface()->palettes()->itemById(kPalette); }
 
 // Whichever call returns nothing: the module may throw for a null handle, and the host goes on.
 TEST_F(ConformanceModule, SurvivesANullAtEveryHostCall) {
@@ -90,6 +100,10 @@ TEST_F(ConformanceModule, SurvivesANullAtEveryHostCall) {
         if (session.dialogOpen()) {
             acceptAnyway();
         }
+        if (hasPalette()) {
+            sendFromPage(kPalette, "ask", "!");
+        }
+        session.stop();
         refused = gate::refusedCall().has_value();
         for (const UncaughtException& each : session.uncaughtExceptions()) {
             EXPECT_EQ(each.type, "std::exception") << gate::refusedCall().value_or("");

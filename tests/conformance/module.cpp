@@ -56,6 +56,7 @@ public:
         Ptr<Command> command = eventArgs->command();
         command->execute()->add(&onExecuteOperations);
         operations::addInputs(command);
+        operations::subscribe(app);
     }
 } onCreatedOperations;
 
@@ -86,6 +87,7 @@ extern "C" XI_EXPORT bool run(const char* /*context*/) {
 
 extern "C" XI_EXPORT bool stop(const char* /*context*/) {
     app->log("stopped", WarningLogLevel, ConsoleLogType);
+    operations::unsubscribe(app);
     ui = nullptr;
     app = NULL;  // NOLINT(modernize-use-nullptr): as scripts have it
     return true;

@@ -7,6 +7,7 @@
 
 namespace adsk::core {
 
+class CustomEvent;
 class Data;
 class Document;
 class Documents;
@@ -58,6 +59,22 @@ public:
     /// empty line is written as such.
     virtual void log(const std::string& message, LogLevels level = InfoLogLevel,
                      LogTypes logType = FileLogType) = 0;
+
+    /// Makes an event of the module's own. Null when the id is empty or in use, by any module.
+    virtual Ptr<CustomEvent> registerCustomEvent(const std::string& eventId) = 0;
+
+    /// Ends an event that was registered; its object is not valid afterwards, and what was fired
+    /// and has not been handled is dropped. False for an id that is not registered.
+    virtual bool unregisterCustomEvent(const std::string& eventId) = 0;
+
+    /// Has the handlers of a custom event notified: on the host's own thread, in the order of the
+    /// calls, once the running notification has returned or while it waits in `adsk::doEvents`.
+    /// False for an id that is not registered.
+    ///
+    /// This is the one operation that any thread may call, through a handle that it does not copy.
+    /// On another thread a failure is not noted as the last error.
+    virtual bool fireCustomEvent(const std::string& eventId,
+                                 const std::string& additionalInfo = "") = 0;
 };
 
 }  // namespace adsk::core

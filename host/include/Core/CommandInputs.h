@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace adsk::core {
 
@@ -119,6 +120,31 @@ public:
     virtual Ptr<FloatSpinnerCommandInput> addFloatSpinnerCommandInput(
         const std::string& id, const std::string& name, const std::string& unitType, double min,
         double max, double spinStep, double initialValue) = 0;
+
+    /// Adds a slider for the whole numbers from `min` to `max`, with its knobs at the ends. Null
+    /// unless `min` is below `max`.
+    virtual Ptr<IntegerSliderCommandInput> addIntegerSliderCommandInput(
+        const std::string& id, const std::string& name, int min, int max,
+        bool hasTwoSliders = false) = 0;
+
+    /// Adds a slider for these whole numbers alone, which have to ascend. Null for fewer than two.
+    virtual Ptr<IntegerSliderCommandInput> addIntegerSliderListCommandInput(
+        const std::string& id, const std::string& name, const std::vector<int>& valueList,
+        bool hasTwoSliders = false) = 0;
+
+    /// Adds a slider for numbers with units; the limits are in the host's units. Null as for whole
+    /// numbers, and for an unknown unit.
+    virtual Ptr<FloatSliderCommandInput> addFloatSliderCommandInput(const std::string& id,
+                                                                    const std::string& name,
+                                                                    const std::string& unitType,
+                                                                    double min, double max,
+                                                                    bool hasTwoSliders = false) = 0;
+
+    /// Adds a slider for these numbers alone, which are in the host's units and have to ascend.
+    /// Null as for whole numbers, and for an unknown unit.
+    virtual Ptr<FloatSliderCommandInput> addFloatSliderListCommandInput(
+        const std::string& id, const std::string& name, const std::string& unitType,
+        const std::vector<double>& valueList, bool hasTwoSliders = false) = 0;
 };
 
 }  // namespace adsk::core

@@ -9,6 +9,7 @@
 #include <Core/CommandInput.h>
 #include <Core/CommandInputs.h>
 #include <Core/Commands.h>
+#include <Core/CustomEvents.h>
 #include <Core/Data.h>
 #include <Core/Dialogs.h>
 #include <Core/Document.h>

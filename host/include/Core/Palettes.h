@@ -2,10 +2,37 @@
 
 #include <Core/Collection.h>
 #include <Core/Enums.h>
+#include <Core/Event.h>
 
 #include <string>
 
 namespace adsk::core {
+
+/// The page of a palette has sent something to the module.
+class HTMLEventArgs : public EventArgs {
+public:
+    static const char* classType();  ///< "adsk::core::HTMLEventArgs"
+
+    /// The name that the page gave to what it sent.
+    [[nodiscard]] virtual std::string action() const = 0;
+
+    /// What the page sent, often JSON; may be empty.
+    [[nodiscard]] virtual std::string data() const = 0;
+
+    /// What the page gets as the answer, empty at first.
+    [[nodiscard]] virtual std::string returnData() const = 0;
+    /// Replaces what an earlier handler of this notification answered.
+    virtual bool returnData(const std::string& value) = 0;
+};
+
+/// Notified of what the page of a palette sends with `adsk.fusionSendData`.
+class HTMLEventHandler : public EventHandlerOf<HTMLEventArgs> {};
+
+/// The event of `Palette::incomingFromHTML`.
+class HTMLEvent : public EventOf<HTMLEventHandler> {
+public:
+    static const char* classType();  ///< "adsk::core::HTMLEvent"
+};
 
 /// A window of the host that shows a web page and stays open while commands run. Positions and
 /// sizes are in screen pixels. Setting them has no effect on what docking determines.
@@ -67,6 +94,14 @@ public:
 
     /// Resizes it as far as docking allows; true in any case.
     virtual bool setSize(int width, int height) = 0;
+
+    /// Fired when the page sends something to the module.
+    [[nodiscard]] virtual Ptr<HTMLEvent> incomingFromHTML() const = 0;
+
+    /// Calls the page's `window.fusionJavaScriptHandler` with these two strings and returns its
+    /// answer; empty for a page that does not answer. This host runs no pages: the session answers
+    /// in their place, at once.
+    virtual std::string sendInfoToHTML(const std::string& action, const std::string& data) = 0;
 
     /// Removes it; this object is not valid afterwards. False for a palette of the host's own.
     virtual bool deleteMe() = 0;

@@ -4,6 +4,10 @@
 
 #include <string>
 
+namespace adsk::core {
+class Matrix3D;
+}  // namespace adsk::core
+
 namespace adsk::fusion {
 
 class Component;
@@ -63,6 +67,14 @@ public:
 
     /// The same occurrences as a list, as `Occurrence::childOccurrences` returns it; never null.
     [[nodiscard]] virtual core::Ptr<OccurrenceList> asList() const = 0;
+
+    /// Adds a component without bodies and the first occurrence of it, placed in the owner's
+    /// coordinates; the occurrence. It is named "Component" with the next number that is free,
+    /// belongs to the owner's document, and is of the host's default material. All occurrences of
+    /// the owner show it.
+    ///
+    /// Null for null, and while what a preview did waits to be taken back.
+    virtual core::Ptr<Occurrence> addNewComponent(const core::Ptr<core::Matrix3D>& transform) = 0;
 };
 
 }  // namespace adsk::fusion

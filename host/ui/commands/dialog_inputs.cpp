@@ -3,6 +3,7 @@
 #include "host/ui/commands/command_runner.h"
 #include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/inputs/slider_state.h"
 #include "host/ui/user_interface_object.h"
 
 #include <algorithm>
@@ -158,8 +159,14 @@ std::string DialogInputs::whyInvalid() const {
     }
     for (InputState* each : runner_.active()->inputs().ofKind(InputKind::Number)) {
         const NumberState& number = numberOf(each);
-        if (!number.isValidNumber()) {
-            return "the number \"" + number.id() + "\" has no value: " + number.expression();
+        if (!number.field().isValid()) {
+            return "the number \"" + number.id() +
+                   "\" has no value: " + number.field().expression();
+        }
+    }
+    for (InputState* each : runner_.active()->inputs().ofKind(InputKind::Slider)) {
+        if (const std::string* const expression = sliderOf(each).invalidExpression()) {
+            return "the slider \"" + each->id() + "\" does not have the value " + *expression;
         }
     }
     return valid_ ? "" : "a handler of the dialog finds the inputs invalid";

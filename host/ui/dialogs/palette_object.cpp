@@ -2,6 +2,8 @@
 
 #include "host/ui/dialogs/palettes_object.h"
 
+#include <exception>
+
 namespace host::ui {
 
 bool PaletteObject::left(int value) {
@@ -54,6 +56,26 @@ bool PaletteObject::resize(int width, int height) {
     return true;
 }
 
+std::string PaletteObject::sendInfoToHTML(const std::string& action, const std::string& data) {
+    if (closed<"sendInfoToHTML">(*this)) return {};
+    sentToPage.push_back({.action = action, .data = data});
+    if (!page) return {};
+    const gate::Outside outside;
+    try {
+        return page({.action = action, .data = data});
+    } catch (const std::exception& error) {
+        // What the page does is not the module's: it must not end there.
+        misuse("Palette::sendInfoToHTML", error.what());
+        return {};
+    }
+}
+
+std::string PaletteObject::sendFromPage(const PageMessage& message) {
+    const auto arguments = make<HTMLEventArgsObject>(incomingEvent, message);
+    incomingEvent->fire(arguments);
+    return arguments->answer();
+}
+
 bool PaletteObject::deleteMe() {
     if (closed<"deleteMe">(*this)) return {};
     owner_->remove(*this);
@@ -61,6 +83,8 @@ bool PaletteObject::deleteMe() {
 }
 
 void PaletteObject::dispose() {
+    incomingEvent->dispose();
+    page = nullptr;
     owner_ = nullptr;
     invalidate();
 }

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "host/base/events.h"
 #include "host/base/object.h"
+#include "host/ui/dialogs/page_message.h"
 
 #include <Core/Palettes.h>
 
+#include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace host::ui {
 
@@ -27,6 +31,28 @@ struct PaletteState {
     int width = 200;
     int height = 200;
 };
+
+class HTMLEventArgsObject final : public Arguments<core::HTMLEventArgs> {
+public:
+    HTMLEventArgsObject(core::Ptr<core::Event> event, PageMessage message)
+        : Arguments(std::move(event)), message_(std::move(message)) {}
+
+    [[nodiscard]] std::string action() const override { return get<"action">(message_.action); }
+    [[nodiscard]] std::string data() const override { return get<"data">(message_.data); }
+    [[nodiscard]] std::string returnData() const override { return get<"returnData">(returnData_); }
+    bool returnData(const std::string& value) override {
+        return set<"returnData">(returnData_, value);
+    }
+
+    /// What the page gets.
+    [[nodiscard]] const std::string& answer() const { return returnData_; }
+
+private:
+    PageMessage message_;
+    std::string returnData_;
+};
+
+using HTMLEventObject = TypedEvent<core::HTMLEvent>;
 
 class PaletteObject final : public Object<core::Palette> {
 public:
@@ -66,6 +92,10 @@ public:
     bool height(int value) override;
     bool setPosition(int left, int top) override;
     bool setSize(int width, int height) override;
+    [[nodiscard]] core::Ptr<core::HTMLEvent> incomingFromHTML() const override {
+        return get<"incomingFromHTML">(incomingEvent);
+    }
+    std::string sendInfoToHTML(const std::string& action, const std::string& data) override;
     bool deleteMe() override;
 
     [[nodiscard]] const PaletteState& state() const { return state_; }
@@ -73,6 +103,17 @@ public:
     /// Hides it with the button in its corner, as the user does.
     void close() { state_.visible = false; }
     void dispose();
+
+    /// The page sends something to the module; what it gets as the answer.
+    std::string sendFromPage(const PageMessage& message);
+
+    /// What answers in the place of the page; none where nothing does.
+    std::function<std::string(const PageMessage&)> page;
+
+    std::vector<PageMessage> sentToPage;  ///< by the module, oldest first
+
+    const core::Ptr<HTMLEventObject> incomingEvent =
+        make<HTMLEventObject>("OnIncomingFromHTML", this);
 
 private:
     bool move(int left, int top);

@@ -11,6 +11,7 @@
 #include "host/ui/inputs/number_input_object.h"
 #include "host/ui/inputs/radio_button_group_command_input_object.h"
 #include "host/ui/inputs/selection_command_input_object.h"
+#include "host/ui/inputs/slider_input_object.h"
 #include "host/ui/inputs/string_value_command_input_object.h"
 #include "host/ui/inputs/tab_command_input_object.h"
 #include "host/ui/inputs/table_command_input_object.h"
@@ -18,8 +19,10 @@
 #include "host/ui/inputs/value_input_object.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <optional>
+#include <type_traits>
 #include <variant>
 
 namespace host::ui {
@@ -37,7 +40,7 @@ bool areLimits(double minimum, double maximum, double step, double initial, cons
 
 bool isLandmark(InputKind kind) {
     return kind == InputKind::Tab || kind == InputKind::Group || kind == InputKind::Selection ||
-           kind == InputKind::Number;
+           kind == InputKind::Number || kind == InputKind::Slider;
 }
 
 }  // namespace
@@ -166,7 +169,7 @@ bool startWith(NumberState& number, const core::Ptr<core::ValueInput>& initial,
         return fail(core::BadApiCallError, std::string(operation) + ": the value is null");
     }
     if (const auto* expression = std::get_if<std::string>(&value->state())) {
-        number.enter(*expression);
+        number.field().enter(*expression);
         return true;
     }
     if (const auto* real = std::get_if<double>(&value->state())) {
@@ -234,7 +237,8 @@ core::Ptr<core::IntegerSpinnerCommandInput> CommandInputsObject::addIntegerSpinn
         std::optional(NumberLimits{.minimum = static_cast<double>(min),
                                    .maximum = static_cast<double>(max),
                                    .step = static_cast<double>(spinStep),
-                                   .whole = true}));
+                                   .whole = true,
+                                   .values = {}}));
     input->setValue(initialValue);
     return input;
 }
@@ -249,9 +253,87 @@ core::Ptr<core::FloatSpinnerCommandInput> CommandInputsObject::addFloatSpinnerCo
     }
     auto input = append<FloatSpinnerCommandInputObject>(
         id, name, unitType,
-        std::optional(NumberLimits{.minimum = min, .maximum = max, .step = spinStep}));
+        std::optional(NumberLimits{
+            .minimum = min, .maximum = max, .step = spinStep, .whole = false, .values = {}}));
     input->setValue(initialValue);
     return input;
+}
+
+namespace {
+
+/// What a slider may be between two numbers.
+template <class Number>
+NumberLimits limitsBetween(Number minimum, Number maximum) {
+    return {.minimum = static_cast<double>(minimum),
+            .maximum = static_cast<double>(maximum),
+            .step = 1,
+            .whole = std::is_integral_v<Number>,
+            .values = {}};
+}
+
+/// What a slider may be that has these numbers alone.
+template <class Number>
+NumberLimits limitsIn(const std::vector<Number>& values) {
+    if (values.empty()) return {};
+    NumberLimits limits = limitsBetween(values.front(), values.back());
+    limits.values.assign(values.begin(), values.end());
+    return limits;
+}
+
+bool areSliderLimits(const NumberLimits& limits, const char* operation) {
+    const auto& values = limits.values;
+    const bool ascend =
+        std::adjacent_find(values.begin(), values.end(), std::greater_equal<>()) == values.end();
+    return (limits.minimum < limits.maximum && ascend) ||
+           fail(core::BadApiCallError,
+                std::string(operation) +
+                    (values.empty() ? ": the minimum has to be below the maximum"
+                                    : ": the values have to ascend, from one to another"));
+}
+
+}  // namespace
+
+template <class T>
+core::Ptr<T> CommandInputsObject::addSlider(const std::string& id, const std::string& name,
+                                            const std::string& unit, const NumberLimits& limits,
+                                            bool hasTwoKnobs, const char* operation) {
+    if (!areSliderLimits(limits, operation) || !isUnit(unit, operation)) return {};
+    return append<T>(id, name, unit, limits, hasTwoKnobs);
+}
+
+core::Ptr<core::IntegerSliderCommandInput> CommandInputsObject::addIntegerSliderCommandInput(
+    const std::string& id, const std::string& name, int min, int max, bool hasTwoSliders) {
+    if (closed<"addIntegerSliderCommandInput">(*this)) return {};
+    return addSlider<IntegerSliderCommandInputObject>(
+        id, name, /*unit=*/"", limitsBetween(min, max), hasTwoSliders,
+        "CommandInputs::addIntegerSliderCommandInput");
+}
+
+core::Ptr<core::IntegerSliderCommandInput> CommandInputsObject::addIntegerSliderListCommandInput(
+    const std::string& id, const std::string& name, const std::vector<int>& valueList,
+    bool hasTwoSliders) {
+    if (closed<"addIntegerSliderListCommandInput">(*this)) return {};
+    return addSlider<IntegerSliderCommandInputObject>(
+        id, name, /*unit=*/"", limitsIn(valueList), hasTwoSliders,
+        "CommandInputs::addIntegerSliderListCommandInput");
+}
+
+core::Ptr<core::FloatSliderCommandInput> CommandInputsObject::addFloatSliderCommandInput(
+    const std::string& id, const std::string& name, const std::string& unitType, double min,
+    double max, bool hasTwoSliders) {
+    if (closed<"addFloatSliderCommandInput">(*this)) return {};
+    return addSlider<FloatSliderCommandInputObject>(id, name, unitType, limitsBetween(min, max),
+                                                    hasTwoSliders,
+                                                    "CommandInputs::addFloatSliderCommandInput");
+}
+
+core::Ptr<core::FloatSliderCommandInput> CommandInputsObject::addFloatSliderListCommandInput(
+    const std::string& id, const std::string& name, const std::string& unitType,
+    const std::vector<double>& valueList, bool hasTwoSliders) {
+    if (closed<"addFloatSliderListCommandInput">(*this)) return {};
+    return addSlider<FloatSliderCommandInputObject>(
+        id, name, unitType, limitsIn(valueList), hasTwoSliders,
+        "CommandInputs::addFloatSliderListCommandInput");
 }
 
 InputState* CommandInputsObject::find(const std::string& id) const {

@@ -13,6 +13,8 @@
 
 namespace host::ui {
 
+struct NumberLimits;
+
 /// The inputs of a command, a tab or a group; owns them.
 class CommandInputsObject final : public Object<core::CommandInputs> {
 public:
@@ -73,6 +75,18 @@ public:
     core::Ptr<core::FloatSpinnerCommandInput> addFloatSpinnerCommandInput(
         const std::string& id, const std::string& name, const std::string& unitType, double min,
         double max, double spinStep, double initialValue) override;
+    core::Ptr<core::IntegerSliderCommandInput> addIntegerSliderCommandInput(
+        const std::string& id, const std::string& name, int min, int max,
+        bool hasTwoSliders) override;
+    core::Ptr<core::IntegerSliderCommandInput> addIntegerSliderListCommandInput(
+        const std::string& id, const std::string& name, const std::vector<int>& valueList,
+        bool hasTwoSliders) override;
+    core::Ptr<core::FloatSliderCommandInput> addFloatSliderCommandInput(
+        const std::string& id, const std::string& name, const std::string& unitType, double min,
+        double max, bool hasTwoSliders) override;
+    core::Ptr<core::FloatSliderCommandInput> addFloatSliderListCommandInput(
+        const std::string& id, const std::string& name, const std::string& unitType,
+        const std::vector<double>& valueList, bool hasTwoSliders) override;
 
     /// @name For the host itself
     /// @{
@@ -121,6 +135,12 @@ private:
     core::Ptr<T> addQuantity(const std::string& id, const std::string& name,
                              const std::string& unit, const core::Ptr<core::ValueInput>& initial,
                              const char* operation);
+
+    /// A slider with its knobs at the ends; null, with the reason noted, for limits that leave
+    /// nothing to slide.
+    template <class T>
+    core::Ptr<T> addSlider(const std::string& id, const std::string& name, const std::string& unit,
+                           const NumberLimits& limits, bool hasTwoKnobs, const char* operation);
 
     CommandObject* command_;
     InputState* parent_;

@@ -36,6 +36,7 @@ enum class InputKind : std::uint8_t {
     Table,
     Selection,
     Number,
+    Slider,
     TabBar,
 };
 

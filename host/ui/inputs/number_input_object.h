@@ -21,26 +21,27 @@ public:
 
     [[nodiscard]] double value() const override {
         if (closed<"value">(*this)) return {};
-        return NumberState::value();
+        return this->field().value();
     }
     bool value(double value) override {
         if (closed<"value">(*this)) return {};
         return changed(this->setValue(value));
     }
     [[nodiscard]] std::string expression() const override {
-        return this->template get<"expression">(NumberState::expression());
+        return this->template get<"expression">(this->field().expression());
     }
     bool expression(const std::string& value) override {
         if (closed<"expression">(*this)) return {};
-        this->enter(value);
+        this->field().enter(value);
         return changed(true);
     }
     [[nodiscard]] bool isValidExpression() const override {
         if (closed<"isValidExpression">(*this)) return {};
-        return this->isValidNumber();
+        return this->field().isValid();
     }
+    using Interface::unitType;
     [[nodiscard]] std::string unitType() const override {
-        return this->template get<"unitType">(this->unit());
+        return this->template get<"unitType">(this->field().unit());
     }
 
 protected:
@@ -79,12 +80,14 @@ public:
     using QuantityInputObject::QuantityInputObject;
 
     [[nodiscard]] double minimumValue() const override {
-        return get<"minimumValue">(limits()->minimum);
+        return get<"minimumValue">(field().limits()->minimum);
     }
     [[nodiscard]] double maximumValue() const override {
-        return get<"maximumValue">(limits()->maximum);
+        return get<"maximumValue">(field().limits()->maximum);
     }
-    [[nodiscard]] double spinStep() const override { return get<"spinStep">(limits()->step); }
+    [[nodiscard]] double spinStep() const override {
+        return get<"spinStep">(field().limits()->step);
+    }
     bool spinStep(double value) override {
         if (closed<"spinStep">(*this)) return {};
         return setStep(value);
@@ -98,7 +101,7 @@ public:
 
     [[nodiscard]] int value() const override {
         if (closed<"value">(*this)) return {};
-        return static_cast<int>(NumberState::value());
+        return static_cast<int>(field().value());
     }
     bool value(int value) override {
         if (closed<"value">(*this)) return {};
@@ -107,13 +110,13 @@ public:
         return true;
     }
     [[nodiscard]] int minimumValue() const override {
-        return get<"minimumValue">(static_cast<int>(limits()->minimum));
+        return get<"minimumValue">(static_cast<int>(field().limits()->minimum));
     }
     [[nodiscard]] int maximumValue() const override {
-        return get<"maximumValue">(static_cast<int>(limits()->maximum));
+        return get<"maximumValue">(static_cast<int>(field().limits()->maximum));
     }
     [[nodiscard]] int spinStep() const override {
-        return get<"spinStep">(static_cast<int>(limits()->step));
+        return get<"spinStep">(static_cast<int>(field().limits()->step));
     }
     bool spinStep(int value) override {
         if (closed<"spinStep">(*this)) return {};

@@ -1,5 +1,9 @@
 #include "tests/host/design/design_fixture.h"
 
+#include "host/base/last_error.h"
+#include "host/design/geometry_objects.h"
+#include "host/design/transform.h"
+
 using namespace adsk::core;
 using namespace adsk::fusion;
 
@@ -146,6 +150,78 @@ TEST_F(OccurrenceTest, PathOfADeepAssemblyIsWhole) {
     open(outline);
 
     EXPECT_EQ(paths().back(), expected);
+}
+
+// Occurrences_addNewComponent: an empty component, and an occurrence of it in the owner's context.
+TEST_F(OccurrenceTest, ANewComponentIsPlacedBehindTheOthers) {
+    open("Bolt");
+    const Ptr<Occurrence> bolt = occurrence("Bolt:1");
+    const Ptr<OccurrenceList> list = root()->occurrences()->asList();
+    const Ptr<Matrix3D> placed = makeMatrix(translation(1, 2, 3));
+
+    const Ptr<Occurrence> added = root()->occurrences()->addNewComponent(placed);
+
+    EXPECT_EQ(added->fullPathName(), "Component1:1");
+    EXPECT_EQ(list->item(1), added);
+    EXPECT_EQ(occurrence("Bolt:1"), bolt);
+    const Ptr<Component> component = added->component();
+    EXPECT_EQ(component->partNumber(), "Component1");
+    EXPECT_EQ(component->material()->name(), "Steel");
+    EXPECT_EQ(component->parentDesign(), designOf(document));
+    EXPECT_EQ(component->physicalProperties()->mass(), 0);
+    EXPECT_EQ(component->occurrences()->count(), 0U);
+    EXPECT_TRUE(bolt->isGrounded(true));
+    EXPECT_EQ(editCount(document), 2U);
+    EXPECT_EQ(snapshot(document).components[0].children[1].transform, translation(1, 2, 3));
+}
+
+TEST_F(OccurrenceTest, ANewComponentShowsInEachUseOfItsOwner) {
+    open(R"(
+        Axle
+          Bolt
+        Axle)");
+    const Ptr<Occurrence> bolt = occurrence("Axle:2+Bolt:1");
+    EXPECT_EQ(bolt->childOccurrences()->count(), 0U);
+
+    component("Axle:1")->occurrences()->addNewComponent(Matrix3D::create());
+    bolt->component()->occurrences()->addNewComponent(Matrix3D::create())->component()->name("X");
+
+    EXPECT_EQ(paths(),
+              (Strings{"Axle:1", "Axle:1+Bolt:1", "Axle:1+Bolt:1+X:1", "Axle:1+Component1:1",
+                       "Axle:2", "Axle:2+Bolt:1", "Axle:2+Bolt:1+X:1", "Axle:2+Component1:1"}));
+    EXPECT_EQ(occurrence("Axle:2+Bolt:1"), bolt);
+    EXPECT_EQ(occurrence("Axle:2+Bolt:1+X:1"), occurrence("Axle:2+Bolt:1+X:1"));
+}
+
+TEST_F(OccurrenceTest, ANewComponentTakesTheNextNumberThatIsFree) {
+    open(R"(
+        Component1
+        Component3)");
+
+    for (const char* name : {"Component2", "Component4", "Component5"}) {
+        EXPECT_EQ(root()->occurrences()->addNewComponent(Matrix3D::create())->component()->name(),
+                  name);
+    }
+}
+
+TEST_F(OccurrenceTest, ANewComponentNeedsATransform) {
+    open("Bolt");
+
+    EXPECT_FALSE(root()->occurrences()->addNewComponent(nullptr));
+
+    EXPECT_EQ(lastError().description, "Occurrences::addNewComponent: the transform is null");
+    EXPECT_EQ(paths(), (Strings{"Bolt:1"}));
+}
+
+TEST_F(OccurrenceTest, ADesignWithNewComponentsIsSavedAndOpenedAgain) {
+    open("Bolt");
+    const Ptr<Occurrence> added = root()->occurrences()->addNewComponent(Matrix3D::create());
+    added->component()->occurrences()->addNewComponent(Matrix3D::create());
+    const Strings before = paths();
+
+    open(snapshot(document));
+
+    EXPECT_EQ(paths(), before);
 }
 
 }  // namespace

@@ -59,13 +59,14 @@ TEST_F(Definitions, ADeletedOneIsNotFoundAndItsIdIsFreeAgain) {
 }
 
 TEST_F(Definitions, AreCountedInOrderOfCreation) {
+    const std::size_t native = HostSetup().commands.size() + 1;
     add("First");
     add("Second");
 
-    EXPECT_EQ(all()->count(), 3U);
+    EXPECT_EQ(all()->count(), native + 2);
     EXPECT_EQ(all()->item(0)->id(), "SelectCommand");
-    EXPECT_EQ(all()->item(2)->id(), "Second");
-    EXPECT_FALSE(all()->item(3));
+    EXPECT_EQ(all()->item(native + 1)->id(), "Second");
+    EXPECT_FALSE(all()->item(native + 2));
 }
 
 TEST_F(Definitions, FireTheirOwnCreatedEventWithThemAsSender) {

@@ -170,6 +170,96 @@ TEST_F(ModelHistory, APreviewIsShownOnlyWhileTheInputsAreValid) {
     EXPECT_EQ(noted(), "preview");
 }
 
+/// Commands that add components.
+class AddedComponents : public ModelHistory {
+protected:
+    /// Adds a component to `owner`, and one to that.
+    static Ptr<Occurrence> addTwo(const Ptr<Component>& owner) {
+        const Ptr<Occurrence> outer = owner->occurrences()->addNewComponent(moved());
+        outer->component()->description("new");
+        outer->component()->occurrences()->addNewComponent(moved());
+        return outer;
+    }
+
+    [[nodiscard]] std::string names() const {
+        std::string names;
+        for (const ComponentData& each : snapshot(document).components) {
+            names += each.name + " ";
+        }
+        return names;
+    }
+};
+
+// Occurrences_addNewComponent, in a preview: taken back before the next one, and before execute.
+TEST_F(AddedComponents, ArePreviewedUnderTheSameNamesAndTakenBack) {
+    const Ptr<OccurrenceList> inFrame = frame->childOccurrences();
+    Ptr<Occurrence> added;
+    open([&](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnCommand>(command->executePreview(), [&](const auto&) {
+            added = addTwo(root);
+            addTwo(frame->component());
+            note(added->name() + "=" + added->childOccurrences()->item(0)->fullPathName());
+            note(std::to_string(inFrame->count()) + inFrame->item(1)->fullPathName());
+        });
+    });
+    const Ptr<Occurrence> first = added;
+    click(openDialog()->commandInputs()->itemById("box"));
+
+    EXPECT_FALSE(first->isValid());
+    EXPECT_TRUE(added->isValid());
+    EXPECT_EQ(noted(),
+              "Component1:1=Component1:1+Component2:1 2Frame:1+Component3:1 "
+              "Component1:1=Component1:1+Component2:1 2Frame:1+Component3:1");
+    pressCancel();
+    EXPECT_FALSE(added->isValid());
+    EXPECT_EQ(inFrame->count(), 1U);
+    EXPECT_EQ(names(), "Design Frame Bolt Nut ");
+}
+
+// CommandEventArgs_executeFailed takes back what an execution added, and keeps it otherwise.
+TEST_F(AddedComponents, StayUnlessTheExecutionFails) {
+    bool fails = true;
+    define("Adds", [&](const Ptr<Command>& command) {
+        on<OnCommand>(command->execute(), [&](const auto& args) {
+            addTwo(root)->component()->name("Rack");
+            frame->isGrounded(true);
+            args->executeFailed(fails);
+        });
+    });
+    const std::string before = text();
+
+    pressCommand("Adds");
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(root->occurrences()->count(), 2U);
+    fails = false;
+    pressCommand("Adds");
+
+    EXPECT_EQ(names(), "Design Frame Bolt Nut Rack Component2 ");
+    EXPECT_EQ(root->occurrences()->item(2)->fullPathName(), "Rack:1");
+    EXPECT_TRUE(frame->isGrounded());
+    pressCommand("Adds");
+    EXPECT_EQ(names(), "Design Frame Bolt Nut Rack Component2 Rack (1) Component4 ");
+}
+
+// A preview is taken back in the order in which it was made: nothing can come in between.
+TEST_F(AddedComponents, AreRefusedWhileAPreviewWaits) {
+    open([&](const Ptr<Command>& command) {
+        command->commandInputs()->addBoolValueInput("box", "Box", true);
+        on<OnCommand>(command->executePreview(), [&](const auto&) { addTwo(root); });
+        on<OnChanged>(command->inputChanged(), [&](const auto&) {
+            note(root->occurrences()->addNewComponent(moved()) ? "added" : "refused");
+        });
+    });
+
+    click(openDialog()->commandInputs()->itemById("box"));
+
+    EXPECT_EQ(noted(), "refused");
+    pressCancel();
+    EXPECT_EQ(names(), "Design Frame Bolt Nut ");
+    EXPECT_TRUE(root->occurrences()->addNewComponent(moved()));
+}
+
 TEST_F(ModelHistory, ADocumentThatIsClosedMeanwhileIsNotTakenBack) {
     define("Closes", [&](const Ptr<Command>& command) {
         on<OnCommand>(command->execute(), [&](const auto& args) {

@@ -107,5 +107,68 @@ TEST_F(PaletteTest, ADeletedOneIsNotFound) {
     EXPECT_EQ(misused(), "Palette::deleteMe");
 }
 
+using OnHtml = Calling<HTMLEventHandler, HTMLEventArgs>;
+
+// Palette_incomingFromHTML, HTMLEventArgs_returnData: the page gets what the handlers answer.
+TEST_F(PaletteTest, WhatThePageSendsIsAnsweredByTheModule) {
+    const Ptr<Palette> made = add("palette");
+    on<OnHtml>(made->incomingFromHTML(), [this](const Ptr<HTMLEventArgs>& args) {
+        note(args->action() + ":" + args->data() + args->returnData());
+        args->returnData("first");
+    });
+    on<OnHtml>(made->incomingFromHTML(),
+               [](const Ptr<HTMLEventArgs>& args) { args->returnData(args->returnData() + "+"); });
+
+    EXPECT_EQ(sendFromPage("palette", "pressed", "{}"), "first+");
+
+    EXPECT_EQ(noted(), "pressed:{}");
+    EXPECT_EQ(made->incomingFromHTML()->sender(), made);
+    EXPECT_EQ(misuseOf([] { sendFromPage("none", "pressed", ""); }),
+              "cannot use the page of the palette none: no palette has this id");
+}
+
+TEST_F(PaletteTest, WhatThePageSendsCanStartACommand) {
+    define("Button", [this](const Ptr<Command>&) { note("created"); });
+    on<OnHtml>(add("palette")->incomingFromHTML(), [this](const auto&) {
+        ui()->commandDefinitions()->itemById("Button")->execute();
+        note("sent");
+    });
+
+    sendFromPage("palette", "start", "");
+
+    EXPECT_EQ(noted(), "sent created");
+}
+
+// Palette_sendInfoToHTML: the answer of the page.
+TEST_F(PaletteTest, WhatTheModuleSendsIsAnsweredByThePage) {
+    const Ptr<Palette> made = add("palette");
+    EXPECT_EQ(made->sendInfoToHTML("update", "1"), "");
+    answerAsPage("palette",
+                 [](const auto& message) { return message.action + "=" + message.data; });
+
+    EXPECT_EQ(made->sendInfoToHTML("update", "2"), "update=2");
+
+    EXPECT_EQ(sentToPage("palette"),
+              (std::vector<ui::PageMessage>{{.action = "update", .data = "1"},
+                                            {.action = "update", .data = "2"}}));
+    made->deleteMe();
+    EXPECT_EQ(made->sendInfoToHTML("update", "3"), "");
+    EXPECT_EQ(misused(), "Palette::sendInfoToHTML");
+}
+
+// A page may answer by sending something itself.
+TEST_F(PaletteTest, ThePageMaySendWhileItIsAsked) {
+    const Ptr<Palette> made = add("palette");
+    on<OnHtml>(made->incomingFromHTML(),
+               [this](const Ptr<HTMLEventArgs>& args) { note(args->action()); });
+    answerAsPage("palette", [](const auto&) {
+        sendFromPage("palette", "back", "");
+        return "answered";
+    });
+
+    EXPECT_EQ(made->sendInfoToHTML("update", ""), "answered");
+    EXPECT_EQ(noted(), "back");
+}
+
 }  // namespace
 }  // namespace host

@@ -1,6 +1,7 @@
 #include "tests/host/ui/host_test.h"
 
 #include "host/design/document.h"
+#include "host/design/outline.h"
 
 #include <Fusion/FusionAll.h>
 
@@ -330,6 +331,57 @@ TEST_F(SelectionTest, KnowsWhereTheEntityWasPicked) {
     EXPECT_EQ(placeOf(input->selection(0)), (std::vector<double>{1, 2.5, -3}));
     EXPECT_EQ(placeOf(input->selection(1)), (std::vector<double>{0, 0, 0}));
     EXPECT_EQ(placeOf(ui()->activeSelections()->item(0)), (std::vector<double>{1, 2.5, -3}));
+}
+
+/// A design whose part has a sketch with a curve of each kind.
+class CurveSelectionTest : public HostTest {
+protected:
+    CurveSelectionTest() {
+        DesignData data = parseOutline("A");
+        SketchData& drawn = data.components[1].sketches.emplace_back();
+        for (const SketchCurveKind kind :
+             {SketchCurveKind::Unknown, SketchCurveKind::Line, SketchCurveKind::Arc,
+              SketchCurveKind::Circle, SketchCurveKind::FittedSpline}) {
+            drawn.curves.push_back({.kind = kind});
+        }
+        document = makeDocument(std::move(data), adsk::core::Application::get());
+        ApplicationObject::current()->setActiveDocument(document);
+    }
+    ~CurveSelectionTest() override {
+        endHost();
+        endDocument(document);
+    }
+
+    /// The classes of the curves that a selection with this filter accepts.
+    std::string accepted(const std::string& filter) {
+        const Ptr<CommandInputs> inputs = openWith([&](const Ptr<CommandInputs>& all) {
+            const Ptr<SelectionCommandInput> pick = all->addSelectionInput("pick", "", "");
+            EXPECT_TRUE(pick->addSelectionFilter(filter));
+            pick->setSelectionLimits(0, 0);
+        });
+        std::string classes;
+        for (const Ptr<adsk::fusion::SketchCurve>& each :
+             sketchOf(document, 1, 0)->sketchCurves()) {
+            if (misuseOf([&each] { pick(each); }).empty()) {
+                const std::string name = each->objectType();
+                classes += name.substr(name.rfind(':') + 1) + " ";
+            }
+        }
+        pressCancel();
+        ui()->commandDefinitions()->itemById("Dialog")->deleteMe();
+        return classes;
+    }
+
+    Ptr<Document> document;
+};
+
+// SelectionFilters_UM: "SketchLines" and "SketchCircles" are curves of these classes alone.
+TEST_F(CurveSelectionTest, CurvesAreFilteredByTheirClass) {
+    EXPECT_EQ(accepted("SketchLines"), "SketchLine ");
+    EXPECT_EQ(accepted("SketchCircles"), "SketchCircle ");
+    EXPECT_EQ(accepted("SketchCurves"),
+              "SketchCurve SketchLine SketchArc SketchCircle SketchFittedSpline ");
+    EXPECT_EQ(accepted("SketchPoints"), "");
 }
 
 }  // namespace

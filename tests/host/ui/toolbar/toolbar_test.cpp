@@ -267,5 +267,21 @@ TEST_F(Toolbars, PanelsThatAddInsLookForAreThere) {
     EXPECT_EQ(misused(), "ToolbarPanels::add");
 }
 
+// CommandDefinitions_itemById: commands of the host's own, which add-ins start and show.
+TEST_F(Toolbars, CommandsThatAddInsLookForAreThere) {
+    const Ptr<CommandDefinition> extrude = ui()->commandDefinitions()->itemById("Extrude");
+    traceHost();
+
+    EXPECT_EQ(extrude->name(), "Extrude");
+    EXPECT_TRUE(panels()->itemById("SolidCreatePanel")->controls()->addCommand(extrude));
+    EXPECT_TRUE(extrude->execute());
+    EXPECT_FALSE(extrude->deleteMe());
+
+    EXPECT_EQ(noted(), "starting:Extrude created terminated:Extrude=1");
+    for (const CommandSetup& each : HostSetup().commands) {
+        EXPECT_TRUE(ui()->commandDefinitions()->itemById(each.id)) << each.id;
+    }
+}
+
 }  // namespace
 }  // namespace host
