@@ -96,6 +96,22 @@ void enter(InputState& input, const std::string& text) {
     }
 }
 
+/// The field whose arrows the user clicks: of a slider, that of the first knob. Null for none.
+const ui::NumberField* fieldWithArrows(InputState& input) {
+    if (input.kind == InputKind::Slider) return &ui::sliderOf(&input).first();
+    if (input.kind != InputKind::Number) return nullptr;
+    const ui::NumberField& field = ui::numberOf(&input).field();
+    return field.limits() ? &field : nullptr;
+}
+
+void setByArrows(InputState& input, double value) {
+    if (input.kind == InputKind::Slider) {
+        ui::sliderOf(&input).drag(ui::SliderKnob::First, value);
+    } else {
+        ui::numberOf(&input).setValue(value);
+    }
+}
+
 bool isList(InputKind kind) {
     return kind == InputKind::DropDown || kind == InputKind::ButtonRow ||
            kind == InputKind::RadioGroup;
@@ -245,11 +261,12 @@ void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
 void spin(const Ptr<core::CommandInput>& input, int steps) {
     UserAction acting;
     InputState& state = usable(input, "spin");
-    if (state.kind != InputKind::Number || !ui::numberOf(&state).field().limits()) {
+    const ui::NumberField* const field = fieldWithArrows(state);
+    if (field == nullptr) {
         throw MisuseError("cannot spin " + ui::describe(state) + ": it has no arrows");
     }
     selectRowOf(state);
-    ui::numberOf(&state).field().spin(steps);
+    setByArrows(state, field->spun(steps));
     acting.runner().changed(state);
     acting.finish();
 }

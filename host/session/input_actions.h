@@ -34,7 +34,8 @@ void typeText(const core::Ptr<core::CommandInput>& input, const std::string& tex
 void pasteText(const core::Ptr<core::CommandInput>& input, const std::string& text);
 
 /// Clicks an arrow of a spinner so many times, the one that counts down for a negative number; the
-/// value stops at the limits. Reported once.
+/// value stops at the limits. For a slider, beside the field of its first knob, where a list goes
+/// to its next value. Reported once.
 void spin(const core::Ptr<core::CommandInput>& input, int steps);
 
 /// Drags a knob of a slider to the place of a value, in the host's units: as near as the slider

@@ -22,7 +22,8 @@
 /// What handlers throw is recorded by the dispatcher, under "OnInputChanged" with the id of the
 /// changed input, "OnExecute", "OnCommandCreated", "OnCommandStarting", "OnCommandTerminated",
 /// "OnActivate", "OnDeactivate", "OnDestroy", "OnValidateInputs", "OnExecutePreview",
-/// "OnWorkspaceActivated" or "OnMarkingMenuDisplaying".
+/// "OnWorkspaceActivated", "OnMarkingMenuDisplaying", "OnIncomingFromHTML" or the id of a custom
+/// event.
 namespace host {
 
 /// @name Commands and dialogs

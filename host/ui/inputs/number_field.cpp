@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <utility>
 
 namespace host::ui {
@@ -76,9 +77,15 @@ bool NumberField::setStep(double step) {
     return true;
 }
 
-void NumberField::spin(int steps) {
-    const double one = unitQuantity(unit_).value;
-    setValue(nearest(value() + steps * limits_->step * one));
+double NumberField::spun(int steps) const {
+    const std::vector<double>& values = limits_->values;
+    if (values.empty()) {
+        return nearest(value() + steps * limits_->step * unitQuantity(unit_).value);
+    }
+    const auto from = std::lower_bound(values.begin(), values.end(), nearest(value()));
+    const auto last = static_cast<std::ptrdiff_t>(values.size()) - 1;
+    const std::ptrdiff_t place = (from - values.begin()) + steps;
+    return values[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(place, 0, last))];
 }
 
 }  // namespace host::ui

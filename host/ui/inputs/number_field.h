@@ -33,8 +33,9 @@ public:
     /// False, with nothing changed, for a step that is not above 0, and without limits.
     bool setStep(double step);
 
-    /// So many clicks on an arrow; stops at the limits.
-    void spin(int steps);
+    /// The value after so many clicks on an arrow, which stop at the limits: the step is added, or
+    /// the next listed value taken.
+    [[nodiscard]] double spun(int steps) const;
 
     /// The value nearest to this one that the limits allow.
     [[nodiscard]] double nearest(double value) const;

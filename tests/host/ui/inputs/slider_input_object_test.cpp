@@ -99,6 +99,20 @@ TEST_F(Sliders, AreDraggedToTheNearestValue) {
               "cannot slide \"text\": it is no slider");
 }
 
+TEST_F(Sliders, AreCountedUpAndDownByTheArrowsOfTheirFirstField) {
+    spin(length, 3);
+    EXPECT_DOUBLE_EQ(length->valueOne(), 1.3);
+    spin(count, -1);
+    EXPECT_EQ(count->valueOne(), -3);
+    spin(teeth, 2);
+    EXPECT_EQ(teeth->valueOne(), 20);
+    spin(teeth, 5);
+    EXPECT_EQ(teeth->valueOne(), 40);
+    teeth->valueTwo(12);
+    spin(teeth, -2);
+    EXPECT_EQ(teeth->valueOne(), 12);
+}
+
 // FloatSliderCommandInput_expressionOne: what is typed is evaluated; OK waits for a value that the
 // slider has.
 TEST_F(Sliders, TakeExpressionsFromTheirFields) {
