@@ -1,9 +1,8 @@
 #pragma once
 
 #include "host/design/reading_limits.h"
+#include "host/import/child_program.h"
 #include "host/import/reader_connection.h"
-
-#include <sys/types.h>
 
 #include <chrono>
 #include <cstddef>
@@ -15,9 +14,6 @@ namespace host {
 
 /// A program that is asked and answers in lines, and is not trusted: it is ended when it takes
 /// longer or grows larger than it may. After a failure every further request fails as well.
-///
-/// The program has one end of a socket as its standard input and output, no error output, and none
-/// of this process' other files. It is ended, and waited for, with this object.
 class ReaderProcess final : public ReaderConnection {
 public:
     /// Starts the program with its arguments; throws `ReaderFailure` when that is not possible.
@@ -26,26 +22,18 @@ public:
     /// resident memory.
     ReaderProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                   const ReadingLimits& limits);
-    ReaderProcess(const ReaderProcess&) = delete;
-    ReaderProcess& operator=(const ReaderProcess&) = delete;
-    ~ReaderProcess() override;
 
     void startClock() override;
     void send(const std::string& line) override;
     std::string receive() override;
 
-    [[nodiscard]] pid_t id() const { return process_; }
-
 private:
     bool takeLine(std::string& line);
-    void readMore();
     void checkLimits();
     [[noreturn]] void failWith(const std::string& reason);
-    std::string end();
 
     ReadingLimits limits_;
-    pid_t process_ = -1;
-    int socket_ = -1;
+    ChildProgram program_;
     std::string unread_;
     std::size_t searched_ = 0;  ///< how much of `unread_` is known to hold no end of line
     std::string failure_;

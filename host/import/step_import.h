@@ -34,7 +34,8 @@ public:
     using ReadingError::ReadingError;
 };
 
-/// Reports how far an import is: a stage ("Reading", "Resolving", "Building") and the part of it that is done.
+/// Reports how far an import is: a stage ("Reading", "Resolving", "Building") and the part of it
+/// that is done.
 using ImportProgress = std::function<void(const std::string& stage, double fraction)>;
 
 /// The material of components that have none of their own; both its members are marked as assumed.

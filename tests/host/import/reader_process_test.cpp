@@ -1,14 +1,12 @@
 #include "host/import/reader_process.h"
 
+#include "tests/host/import/stub_reader_program.h"
 #include "tests/support/comma_locale.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <algorithm>
-#include <cerrno>
-#include <filesystem>
-#include <iterator>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -27,17 +25,20 @@ std::string failureOf(ReaderProcess& process) {
     return {};
 }
 
-std::string failureOf(const std::string& script, const host::ReadingLimits& limits = kEnough) {
-    ReaderProcess process("/bin/sh", {"-c", script}, limits);
+/// A reader that does one thing; see stub_reader.cpp.
+ReaderProcess stub(const std::vector<std::string>& task,
+                   const host::ReadingLimits& limits = kEnough) {
+    return {test_support::stubReader(), task, limits};
+}
+
+std::string failureOfStub(const std::vector<std::string>& task,
+                          const host::ReadingLimits& limits = kEnough) {
+    ReaderProcess process = stub(task, limits);
     return failureOf(process);
 }
 
-std::ptrdiff_t openFiles() {
-    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
-}
-
 TEST(ReaderProcess, LinesGoBothWays) {
-    ReaderProcess process("/bin/cat", {}, kEnough);
+    ReaderProcess process = stub({"echo"});
 
     process.send("one");
     process.send("two");
@@ -47,29 +48,48 @@ TEST(ReaderProcess, LinesGoBothWays) {
 }
 
 TEST(ReaderProcess, ALineReceivedInPiecesIsOneLine) {
-    ReaderProcess process("/bin/sh", {"-c", "printf on; sleep 0.1; printf 'e\\ntwo\\n'"}, kEnough);
+    ReaderProcess process = stub({"in-pieces"});
 
     EXPECT_EQ(process.receive(), "one");
     EXPECT_EQ(process.receive(), "two");
 }
 
+TEST(ReaderProcess, LongLinesAreWhole) {
+    const std::string line(1'000'000, 'x');
+    ReaderProcess process = stub({"echo"});
+
+    // Its pipes hold less than this: it can answer only while it is listened to.
+    for (int i = 0; i < 3; ++i) {
+        process.send(line);
+        EXPECT_EQ(process.receive(), line);
+    }
+}
+
+TEST(ReaderProcess, ArgumentsArriveAsTheyAre) {
+    for (const char* const text :
+         {"a b", "", R"(back\slash)", R"(end\)", R"("quoted")", R"(\"both\")", "*", "%PATH%"}) {
+        EXPECT_EQ(stub({"say", text}).receive(), text);
+    }
+}
+
 TEST(ReaderProcess, ACrashIsReported) {
-    EXPECT_EQ(failureOf("kill -SEGV $$"), "the reader crashed (Segmentation fault)");
+    EXPECT_EQ(failureOfStub({"crash"}), "the reader crashed (Segmentation fault)");
 }
 
 TEST(ReaderProcess, AnEndWithoutAResponseIsReported) {
-    EXPECT_EQ(failureOf("exit 0"), "the reader ended without an answer");
+    EXPECT_EQ(failureOfStub({"end", "0"}), "the reader ended without an answer");
+    EXPECT_EQ(failureOfStub({"end", "1"}), "the reader ended without an answer");
 }
 
 TEST(ReaderProcess, TheLastLineBeforeTheEndIsReceived) {
-    ReaderProcess process("/bin/sh", {"-c", "echo last"}, kEnough);
+    ReaderProcess process = stub({"say", "last"});
 
     EXPECT_EQ(process.receive(), "last");
     EXPECT_EQ(failureOf(process), "the reader ended without an answer");
 }
 
 TEST(ReaderProcess, AProcessThatTakesTooLongIsKilled) {
-    EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 0.2, .megabytes = 1000}),
+    EXPECT_EQ(failureOfStub({"hang"}, {.seconds = 0.2, .megabytes = 1000}),
               "the reader took longer than 0.2 seconds");
 }
 
@@ -77,29 +97,37 @@ TEST(ReaderProcess, TheTimeLimitIsReportedWithAPointInEveryLocale) {
     const test_support::CommaLocale locale;
 
     ASSERT_TRUE(test_support::CommaLocale::isSystems());
-    EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 0.25, .megabytes = 1000}),
+    EXPECT_EQ(failureOfStub({"hang"}, {.seconds = 0.25, .megabytes = 1000}),
               "the reader took longer than 0.25 seconds");
 }
 
 TEST(ReaderProcess, WholeSecondsAreReportedWithoutAPoint) {
-    EXPECT_EQ(failureOf("exec sleep 60", {.seconds = 1, .megabytes = 1000}),
+    EXPECT_EQ(failureOfStub({"hang"}, {.seconds = 1, .megabytes = 1000}),
               "the reader took longer than 1 seconds");
 }
 
-TEST(ReaderProcess, AProcessWithEndlessOutputIsKilled) {
-    ReaderProcess process("/bin/sh", {"-c", "while :; do printf x; done"},
-                          {.seconds = 0.2, .megabytes = 1000});
-
+TEST(ReaderProcess, TheClockStartsAnew) {
+    ReaderProcess process = stub({"echo"}, {.seconds = 0.2, .megabytes = 1000});
     EXPECT_EQ(failureOf(process), "the reader took longer than 0.2 seconds");
+
+    ReaderProcess other = stub({"echo"}, {.seconds = 30, .megabytes = 1000});
+    other.startClock();
+    other.send("still there");
+    EXPECT_EQ(other.receive(), "still there");
+}
+
+TEST(ReaderProcess, AProcessWithEndlessOutputIsKilled) {
+    EXPECT_EQ(failureOfStub({"rubbish"}, {.seconds = 0.2, .megabytes = 1000}),
+              "the reader took longer than 0.2 seconds");
 }
 
 TEST(ReaderProcess, AProcessThatUsesTooMuchMemoryIsKilled) {
-    EXPECT_EQ(failureOf("exec tail /dev/zero", {.seconds = 30, .megabytes = 60}),
+    EXPECT_EQ(failureOfStub({"grow"}, {.seconds = 30, .megabytes = 60}),
               "the reader needed more than 60 megabytes of memory");
 }
 
 TEST(ReaderProcess, AFailureIsPermanent) {
-    ReaderProcess process("/bin/sh", {"-c", "kill -SEGV $$"}, kEnough);
+    ReaderProcess process = stub({"crash"});
     failureOf(process);
 
     process.send("again");
@@ -108,34 +136,14 @@ TEST(ReaderProcess, AFailureIsPermanent) {
 }
 
 TEST(ReaderProcess, AProgramThatIsMissingIsNamed) {
-    EXPECT_THROW(
-        {
-            try {
-                ReaderProcess process("/nowhere/reader", {}, kEnough);
-            } catch (const ReaderFailure& failure) {
-                EXPECT_STREQ(failure.what(),
-                             "the reader /nowhere/reader cannot be started (No such file or "
-                             "directory)");
-                throw;
-            }
-        },
-        ReaderFailure);
-}
-
-TEST(ReaderProcess, OnlyTheStandardStreamsAreInherited) {
-    // Of a shell that lists its files, 3 is the listing itself.
-    ReaderProcess process("/bin/sh", {"-c", "echo $(ls /proc/self/fd)"}, kEnough);
-
-    EXPECT_EQ(process.receive(), "0 1 2 3");
-}
-
-TEST(ReaderProcess, NeitherProcessNorFileIsLeftBehind) {
-    const std::ptrdiff_t before = openFiles();
-    { const ReaderProcess process("/bin/sleep", {"60"}, kEnough); }
-
-    EXPECT_EQ(openFiles(), before);
-    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
-    EXPECT_EQ(errno, ECHILD);
+    const std::filesystem::path missing = std::filesystem::path("nowhere") / "reader";
+    try {
+        const ReaderProcess process(missing, {}, kEnough);
+        FAIL() << "it was started";
+    } catch (const ReaderFailure& failure) {
+        const std::string text = failure.what();
+        EXPECT_EQ(text.find("the reader " + missing.string() + " cannot be started ("), 0U) << text;
+    }
 }
 
 }  // namespace

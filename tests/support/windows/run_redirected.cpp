@@ -1,6 +1,6 @@
 #include "tests/support/run_program.h"
 
-#include "host/base/utf8_path.h"
+#include "host/base/windows/command_line.h"
 
 #include <windows.h>
 
@@ -11,19 +11,6 @@ HANDLE openForChild(const std::filesystem::path& file, DWORD access, DWORD dispo
     SECURITY_ATTRIBUTES inherited = {sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
     return ::CreateFileW(file.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
                          disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-}
-
-/// One argument as the other side's parser takes it apart again.
-std::wstring quoted(const std::wstring& argument) {
-    std::wstring result = L"\"";
-    std::size_t backslashes = 0;
-    for (const wchar_t c : argument) {
-        // Backslashes count only where a quotation mark follows.
-        result += c == L'"' ? std::wstring(backslashes + 1, L'\\') : L"";
-        backslashes = c == L'\\' ? backslashes + 1 : 0;
-        result += c;
-    }
-    return result + std::wstring(backslashes, L'\\') + L"\"";
 }
 
 int waitFor(const PROCESS_INFORMATION& child) {
@@ -39,10 +26,7 @@ int waitFor(const PROCESS_INFORMATION& child) {
 
 int runRedirected(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                   const std::filesystem::path& output, const std::filesystem::path& errors) {
-    std::wstring line = quoted(program.native());
-    for (const std::string& argument : arguments) {
-        line += L" " + quoted(host::fromUtf8(argument).native());
-    }
+    std::wstring line = host::commandLine(program, arguments);
     STARTUPINFOW start = {};
     start.cb = sizeof(start);
     start.dwFlags = STARTF_USESTDHANDLES;
