@@ -22,6 +22,22 @@ void record(UncaughtException thrown) {
     }
 }
 
+/// While it lives, the module works on an entry.
+class Entering {
+public:
+    explicit Entering(ModuleEntry entry) : host_(HostState::current()) {
+        if (host_ != nullptr) host_->entries.push_back(std::move(entry));
+    }
+    Entering(const Entering&) = delete;
+    Entering& operator=(const Entering&) = delete;
+    ~Entering() {
+        if (host_ != nullptr && host_ == HostState::current()) host_->entries.pop_back();
+    }
+
+private:
+    HostState* host_;
+};
+
 /// The class of the exception being handled, readable.
 #ifdef _MSC_VER
 std::string currentExceptionType() {
@@ -51,6 +67,7 @@ std::string currentExceptionType() {
 bool enterModule(const std::string& event, const std::string& inputId,
                  const std::function<void()>& enter) {
     const gate::Module running;
+    const Entering entering({.event = event, .inputId = inputId});
     try {
         enter();
         return true;

@@ -20,6 +20,12 @@ struct UncaughtException {
     bool operator==(const UncaughtException&) const = default;
 };
 
+/// What a module was entered for.
+struct ModuleEntry {
+    std::string event = {};
+    std::string inputId = {};
+};
+
 /// Calls `enter` as a module's code. Returns false, with the exception recorded, when one left it;
 /// without a host it is dropped.
 bool enterModule(const std::string& event, const std::string& inputId,

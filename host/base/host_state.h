@@ -59,6 +59,7 @@ public:
 
     gate::State gate;
     clock::State clock;
+    std::vector<ModuleEntry> entries;  ///< into the module, the one that runs last
     std::vector<UncaughtException> uncaughtExceptions;
     std::vector<Misuse> misuses;
     LastError lastError;

@@ -12,7 +12,9 @@ void clearMisuses() { HostState::required().misuses.clear(); }
 
 bool misuse(const std::string& operation, const std::string& text) {
     if (HostState* host = HostState::current()) {
-        host->misuses.push_back({.operation = operation, .text = text});
+        const ModuleEntry entry = host->entries.empty() ? ModuleEntry() : host->entries.back();
+        host->misuses.push_back(
+            {.operation = operation, .text = text, .event = entry.event, .inputId = entry.inputId});
     }
     return fail(adsk::core::BadApiCallError, operation + ": " + text);
 }

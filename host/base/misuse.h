@@ -17,6 +17,11 @@ struct Misuse {
     std::string operation;  ///< such as "CommandInputs::addTabCommandInput"
     std::string text;       ///< what was wrong with it
 
+    /// The event whose handler made it, "run" or "stop", and the changed input; both empty for a
+    /// call from elsewhere.
+    std::string event = {};
+    std::string inputId = {};
+
     bool operator==(const Misuse&) const = default;
 };
 

@@ -38,7 +38,9 @@ std::vector<Report> from(const std::vector<Report>& reports, std::size_t first) 
 /// Takes out of both lists what is in both.
 void match(std::vector<Misuse>& expected, std::vector<Misuse>& reported) {
     std::erase_if(expected, [&](const Misuse& each) {
-        const auto found = std::ranges::find(reported, each);
+        const auto found = std::ranges::find_if(reported, [&](const Misuse& other) {
+            return other.operation == each.operation && other.text == each.text;
+        });
         if (found == reported.end()) return false;
         reported.erase(found);
         return true;

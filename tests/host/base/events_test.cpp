@@ -115,6 +115,22 @@ TEST_F(EventDispatch, ADeletedEventTakesNoHandlersAndReportsTheCall) {
                   {"Event::add", text}, {"Event::remove", text}, {"Event::name", text}}));
 }
 
+TEST_F(EventDispatch, AMisuseNamesTheHandlersThatMadeIt) {
+    enterModule("outer", "input", [] {
+        enterModule("inner", "", [] { misuse("Test::inner", ""); });
+        misuse("Test::outer", "");
+    });
+    misuse("Test::outside", "");
+
+    const auto named = [](const char* operation, const char* in, const char* input) {
+        return Misuse{.operation = operation, .text = "", .event = in, .inputId = input};
+    };
+    EXPECT_EQ(faults.misuses(),
+              (std::vector<Misuse>{named("Test::inner", "inner", ""),
+                                   named("Test::outer", "outer", "input"),
+                                   named("Test::outside", "", "")}));
+}
+
 TEST_F(EventDispatch, ThrowingHandlerIsRecordedAndTheNextIsCalled) {
     Throwing<std::invalid_argument> throwing(std::invalid_argument("invalid stoi argument"));
     Counting counting;
