@@ -106,12 +106,20 @@ bool Session::call(const char* entry, const char* context) {
     return result;
 }
 
+bool Session::exports(const std::string& function) const {
+    return module_.entry(function.c_str()) != nullptr;
+}
+
 bool Session::run() {
+    isStopped_ = false;
     setUnloadsAfterRun(true);
     return call("run", R"({"IsApplicationStartup": true})");
 }
 
-bool Session::stop() { return call("stop", R"({"IsApplicationClosing": true})"); }
+bool Session::stop() {
+    isStopped_ = true;
+    return call("stop", R"({"IsApplicationClosing": true})");
+}
 
 std::filesystem::path Session::absolute(const std::filesystem::path& file) const {
     return sandbox_->startedIn() / file;

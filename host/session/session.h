@@ -94,6 +94,9 @@ public:
     /// @name The add-in
     /// @{
 
+    /// Whether the module exports a function of that name, `run` or `stop`.
+    [[nodiscard]] bool exports(const std::string& function) const;
+
     /// Calls the module's `run` as a loader does; what it returned, false when it threw or has
     /// none.
     bool run();
@@ -101,6 +104,10 @@ public:
     /// Calls the module's `stop` as a loader does; what it returned, false when it threw or has
     /// none.
     bool stop();
+
+    /// Whether `stop` was called after the last `run`: by the caller, or because the module asked
+    /// for that with `adsk::terminate`.
+    [[nodiscard]] bool isStopped() const { return isStopped_; }
 
     /// The session's own copy of the add-in: what the module writes beside itself is there.
     [[nodiscard]] const AddinFiles& addin() const { return addin_; }
@@ -253,6 +260,7 @@ private:
     std::optional<ProcessSandbox> sandbox_;
     std::optional<RunningHost> host_;
     LoadedModule module_;
+    bool isStopped_ = false;
     adsk::core::Ptr<adsk::core::Document> document_;
     std::unique_ptr<UserData> data_;
 };

@@ -45,7 +45,7 @@ std::string knownIds(const ui::CommandDefinitionsObject& definitions) {
             ids += (ids.empty() ? "" : ", ") + each->state().id;
         }
     }
-    return ids.empty() ? "there are none" : ids;
+    return ids.empty() ? "there are no definitions" : "the definitions are " + ids;
 }
 
 }  // namespace
@@ -54,7 +54,7 @@ void pressCommand(const Ptr<core::CommandDefinition>& definition) {
     UserAction acting;
     const Ptr<ui::CommandDefinitionObject> known = definition;
     if (!known || !known->isValid()) {
-        throw MisuseError("cannot press a command that does not exist: the definitions are " +
+        throw MisuseError("cannot press a command that does not exist: " +
                           knownIds(*acting.ui().state().definitions));
     }
     press(acting, known);
@@ -64,8 +64,8 @@ void pressCommand(const std::string& id) {
     UserAction acting;
     const Ptr<ui::CommandDefinitionObject> known = acting.ui().state().definitions->find(id);
     if (!known) {
-        throw MisuseError("cannot press " + id + ", which does not exist: the definitions are " +
-                          knownIds(*acting.ui().state().definitions));
+        throw MisuseError("cannot press " + id +
+                          ", which does not exist: " + knownIds(*acting.ui().state().definitions));
     }
     press(acting, known);
 }
