@@ -9,7 +9,8 @@ namespace workbench {
 /// no output file written or changed, except by commands that open several files.
 enum class ExitCode : int {
     Success = 0,
-    BadInput = 1,     ///< a given file cannot be read, opened, measured or applied
+    BadInput = 1,     ///< a given file cannot be read, opened, measured or applied; an add-in did
+                      ///< wrong where that is asked for
     BadUsage = 2,     ///< the command line makes no sense
     NoAddin = 3,      ///< the add-in is missing, cannot be started, or is in use by another process
     AddinFailed = 4,  ///< the add-in threw an unexpected exception, or did not do its work
@@ -26,7 +27,8 @@ struct ExitMeaning {
 inline constexpr ExitMeaning kExitMeanings[] = {
     {ExitCode::Success, "success"},
     {ExitCode::BadInput,
-     "the file cannot be read as a design or not be measured, or --strict found a warning"},
+     "the file cannot be read or measured as a design, or --strict or --expect-no-error found a "
+     "fault"},
     {ExitCode::BadUsage, "wrong usage"},
     {ExitCode::NoAddin, "the add-in is missing or in use"},
     {ExitCode::AddinFailed, "the add-in failed"},

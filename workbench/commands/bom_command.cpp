@@ -7,6 +7,7 @@
 #include "workbench/dialogs/uncaught.h"
 #include "workbench/output/design_files.h"
 #include "workbench/output/display_text.h"
+#include "workbench/output/fault_lines.h"
 #include "workbench/output/reports.h"
 #include "workbench/output/result_stream.h"
 

@@ -23,6 +23,7 @@ void addProjectToConstructionCommand(CLI::App& program);
 void addOpenLocalCommand(CLI::App& program);
 void addCommandsCommand(CLI::App& program);
 void addDialogCommand(CLI::App& program);
+void addRunCommand(CLI::App& program);
 void addServeCommand(CLI::App& program);
 void addCacheCommand(CLI::App& program);
 void addCompareCommand(CLI::App& program);
@@ -43,6 +44,7 @@ inline constexpr void (*kAddCommand[])(CLI::App& program) = {addBomCommand,
                                                              addOpenLocalCommand,
                                                              addCommandsCommand,
                                                              addDialogCommand,
+                                                             addRunCommand,
                                                              addServeCommand,
                                                              addCacheCommand,
                                                              addCompletionCommand,

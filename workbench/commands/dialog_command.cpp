@@ -25,8 +25,9 @@ namespace {
 
 constexpr const char* kInputsHelp =
     "--set takes a text for a text field, an item for a list, true or false for a check box,\n"
-    "click for a button, the path of a component for a selection, a row number for a table, and\n"
-    "expanded or collapsed for a group. INPUT is an id, or TABLE[ROW,COLUMN] for a cell.\n"
+    "click for a button, the path of a component for a selection, a row number for a table,\n"
+    "expanded or collapsed for a group, and active for a tab. INPUT is an id, or\n"
+    "TABLE[ROW,COLUMN] for a cell.\n"
     "The dialog is closed without accepting it, and the design is not saved.";
 
 struct DialogOptions {

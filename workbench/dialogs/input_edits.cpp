@@ -73,6 +73,13 @@ void press(const Ptr<BoolValueCommandInput>& button, const InputEdit& edit) {
     host::click(button);
 }
 
+void activate(const Ptr<TabCommandInput>& tab, const InputEdit& edit) {
+    if (edit.value != "active") {
+        refuseValue(edit, "\"active\" for a tab, which shows it");
+    }
+    host::activateTab(tab);
+}
+
 void selectRow(const Ptr<TableCommandInput>& table, const InputEdit& edit) {
     const std::optional<int> row = wholeNumber(edit.value);
     if (!row) {
@@ -111,8 +118,8 @@ bool editWithoutText(host::Session& session, const Ptr<CommandInput>& input,
         setFlag(group, group->isExpanded(), edit, {"expanded", "collapsed"});
     } else if (const Ptr<TableCommandInput> table = input) {
         selectRow(table, edit);
-    } else if (Ptr<TabCommandInput>(input)) {
-        refuseValue(edit, "an input, not a tab: --tab " + edit.input + " shows it");
+    } else if (const Ptr<TabCommandInput> tab = input) {
+        activate(tab, edit);
     } else {
         return false;
     }

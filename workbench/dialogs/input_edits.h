@@ -29,8 +29,9 @@ InputEdit parseInputEdit(const std::string& text);
 
 /// Does what leads to the value: pastes a text, chooses an item, makes a check box "true" or
 /// "false", clicks a button ("click"), picks the component of a path, selects the row of that
-/// number, makes a group "expanded" or "collapsed". Throws a `Failure` for a value that is not one
-/// of the input's kind, and what the session throws for an input that the user cannot use.
+/// number, makes a group "expanded" or "collapsed", shows a tab ("active"). Throws a `Failure` for
+/// a value that is not one of the input's kind, and what the session throws for an input that the
+/// user cannot use.
 void editInput(host::Session& session, const InputEdit& edit);
 
 /// Shows the tab of that id or caption. Throws a `Failure` that lists the tabs where there is none.

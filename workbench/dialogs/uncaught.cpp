@@ -2,6 +2,7 @@
 
 #include "workbench/cli/exit_code.h"
 #include "workbench/dialogs/addin_ids.h"
+#include "workbench/output/fault_lines.h"
 
 #include <algorithm>
 
@@ -13,13 +14,6 @@ bool isExpected(const host::UncaughtException& thrown) {
                             id.starts_with(kCaptionField);
     return (numberless && thrown.text == "invalid stoi argument") ||
            (thrown.event == "stop" && thrown.type == "std::exception");
-}
-
-std::string describe(const host::UncaughtException& thrown) {
-    std::string line = "the add-in threw " + thrown.type;
-    line += thrown.text.empty() ? "" : " (" + thrown.text + ")";
-    line += " in " + thrown.event;
-    return line + (thrown.inputId.empty() ? "" : " of " + thrown.inputId);
 }
 
 std::string describeUnexpected(const std::vector<host::UncaughtException>& thrown,

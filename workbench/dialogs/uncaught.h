@@ -14,9 +14,6 @@ namespace workbench {
 /// repeat a command.
 bool isExpected(const host::UncaughtException& thrown);
 
-/// One line about an exception.
-std::string describe(const host::UncaughtException& thrown);
-
 /// The line about the first unexpected one from the index `since` on; an empty string for none.
 std::string describeUnexpected(const std::vector<host::UncaughtException>& thrown,
                                std::size_t since = 0);
