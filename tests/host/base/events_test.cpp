@@ -125,10 +125,9 @@ TEST_F(EventDispatch, AMisuseNamesTheHandlersThatMadeIt) {
     const auto named = [](const char* operation, const char* in, const char* input) {
         return Misuse{.operation = operation, .text = "", .event = in, .inputId = input};
     };
-    EXPECT_EQ(faults.misuses(),
-              (std::vector<Misuse>{named("Test::inner", "inner", ""),
-                                   named("Test::outer", "outer", "input"),
-                                   named("Test::outside", "", "")}));
+    EXPECT_EQ(faults.misuses(), (std::vector<Misuse>{named("Test::inner", "inner", ""),
+                                                     named("Test::outer", "outer", "input"),
+                                                     named("Test::outside", "", "")}));
 }
 
 TEST_F(EventDispatch, ThrowingHandlerIsRecordedAndTheNextIsCalled) {
