@@ -137,8 +137,19 @@ void DialogInputs::preview() {
 void DialogInputs::takeBackPreview() {
     if (const auto record = std::exchange(previewed_, std::nullopt)) {
         runner_.ui().history.takeBack(*record);
+        dropInvalidPicks();
     }
     previewAccepts_ = false;
+}
+
+// What a preview adds can be picked, and is gone with it.
+void DialogInputs::dropInvalidPicks() {
+    if (const core::Ptr<CommandObject>& command = runner_.active()) {
+        for (InputState* each : command->inputs().ofKind(InputKind::Selection)) {
+            selectionOf(each).dropInvalid();
+        }
+    }
+    runner_.ui().state().selections->list.removeInvalid();
 }
 
 bool DialogInputs::acceptPreview() {

@@ -56,6 +56,7 @@ private:
     void notifyCodeChanges();
     void validate();
     void preview();
+    void dropInvalidPicks();
 
     CommandRunner& runner_;
     CodeChanges codeChanges_;

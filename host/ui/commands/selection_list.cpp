@@ -30,6 +30,14 @@ void SelectionList::remove(const core::Ptr<core::Base>& entity) {
     selections_.erase(found);
 }
 
+void SelectionList::removeInvalid() {
+    for (const core::Ptr<core::Base>& each : entities()) {
+        if (!each->isValid()) {
+            remove(each);
+        }
+    }
+}
+
 void SelectionList::clear() {
     disposeEntries(selections_);
     held_.clear();

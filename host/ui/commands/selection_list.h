@@ -21,6 +21,9 @@ public:
     bool add(const core::Ptr<core::Base>& entity, const Place& place = {});
     void remove(const core::Ptr<core::Base>& entity);
 
+    /// Removes the entities that are not valid any more.
+    void removeInvalid();
+
     /// Empties the list and disposes of the selections.
     void clear();
 

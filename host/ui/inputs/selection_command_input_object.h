@@ -67,6 +67,7 @@ public:
     /// Adds an entity, picked at that place, or removes one, here and among the active selections.
     void take(const core::Ptr<core::Base>& entity, const Place& place = {});
     void drop(const core::Ptr<core::Base>& entity);
+    void dropInvalid() { picks_.removeInvalid(); }
     void dropAll();
     /// @}
 

@@ -95,6 +95,9 @@ TEST_F(RefusalTest, RefusedSetterChangesNothing) {
     gate::refuse("Component::transformOccurrences", 1);
     EXPECT_FALSE(root()->transformOccurrences({occurrence("Frame:1")}, {Matrix3D::create()}, true));
 
+    gate::refuse("Occurrences::addNewComponent", 1);
+    EXPECT_FALSE(root()->occurrences()->addNewComponent(Matrix3D::create()));
+
     EXPECT_EQ(editCount(document), 0u);
     EXPECT_TRUE(occurrence("Frame:1")->isGrounded());
 }

@@ -242,6 +242,25 @@ TEST_F(AddedComponents, StayUnlessTheExecutionFails) {
     EXPECT_EQ(names(), "Design Frame Bolt Nut Rack Component2 Rack (1) Component4 ");
 }
 
+TEST_F(AddedComponents, APickOfOneGoesWithItsPreview) {
+    Ptr<Occurrence> added;
+    Ptr<SelectionCommandInput> picked;
+    open([&](const Ptr<Command>& command) {
+        picked = command->commandInputs()->addSelectionInput("pick", "", "");
+        picked->setSelectionLimits(0, 0);
+        on<OnCommand>(command->executePreview(), [&](const auto&) { added = addTwo(root); });
+    });
+    pick(frame);
+    EXPECT_EQ(picked->selectionCount(), 1U);
+
+    pick(added);
+
+    ASSERT_EQ(picked->selectionCount(), 1U);
+    EXPECT_EQ(picked->selection(0)->entity(), frame);
+    EXPECT_EQ(ui()->activeSelections()->count(), 1U);
+    pressCancel();
+}
+
 // A preview is taken back in the order in which it was made: nothing can come in between.
 TEST_F(AddedComponents, AreRefusedWhileAPreviewWaits) {
     open([&](const Ptr<Command>& command) {
