@@ -59,7 +59,7 @@ fs::path DataFolder::resolved(const std::string& name) const {
                              return !part.empty() && isHiddenOrUp(part);
                          });
     const fs::path home = fs::canonical(folder_, failure);
-    const fs::path full = fs::weakly_canonical(home / relative, failure);
+    fs::path full = fs::weakly_canonical(home / relative, failure);
     if (!isPlain || failure || std::ranges::mismatch(home, full).in1 != home.end()) {
         throw ProtocolError(kNotFound, "\"" + name +
                                            "\" is not in the data folder; a name begins there, as "

@@ -140,7 +140,7 @@ void dropDefaults(Json& object) {
     constexpr std::array<std::string_view, 7> kAlways = {
         "key", "id", "value", "rowCount", "shownCount", "selectedRow", "columns"};
     for (auto each = object.begin(); each != object.end();) {
-        const bool isDefault = *each == "" || *each == 0 || *each == false;
+        const bool isDefault = *each == Json(std::string()) || *each == 0 || *each == false;
         const bool stays = std::ranges::find(kAlways, each.key()) != kAlways.end();
         each = isDefault && !stays ? object.erase(each) : std::next(each);
     }
