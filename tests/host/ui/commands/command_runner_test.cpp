@@ -299,7 +299,8 @@ TEST_F(CommandLife, TerminateActiveCommandInsideACommandEventFailsAndIsReported)
 
     EXPECT_EQ(noted(), "refused");
     EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "UserInterface::terminateActiveCommand",
-                                               .text = "called inside an event of a command"}}));
+                                               .text = "called inside an event of a command",
+                                               .event = "OnExecute"}}));
 }
 
 TEST_F(CommandLife, TerminateActiveCommandElsewhereCancelsTheDialog) {

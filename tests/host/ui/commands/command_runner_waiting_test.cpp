@@ -90,7 +90,8 @@ TEST_F(Waiting, WhatTheUserCannotDoMeanwhileIsReported) {
 
     EXPECT_EQ(noted(), "waits goes_on");
     EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "adsk::doEvents",
-                                               .text = "cannot press OK: no dialog is open"}}));
+                                               .text = "cannot press OK: no dialog is open",
+                                               .event = "OnExecute"}}));
 }
 
 TEST_F(Waiting, InsideAnotherEventNothingElseCanStart) {
@@ -108,7 +109,9 @@ TEST_F(Waiting, InsideAnotherEventNothingElseCanStart) {
     EXPECT_EQ(noted(), "changes");
     EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "adsk::doEvents",
                                                .text = "a command is at work: wait until it has "
-                                                       "answered"}}));
+                                                       "answered",
+                                               .event = "OnInputChanged",
+                                               .inputId = "button"}}));
 }
 
 TEST_F(Waiting, WhatTheClockHasScheduledHappensMeanwhile) {

@@ -70,7 +70,8 @@ TEST_F(Messages, AnExceptionOfPostedWorkDoesNotReachTheModule) {
     EXPECT_TRUE(enterModule("run", "", [] { adsk::doEvents(); }));
 
     EXPECT_EQ(misuses(), (std::vector<Misuse>{{.operation = "adsk::doEvents",
-                                               .text = "cannot press OK: no dialog is open"}}));
+                                               .text = "cannot press OK: no dialog is open",
+                                               .event = "run"}}));
 }
 
 TEST_F(Messages, AutoTerminateIsRemembered) {

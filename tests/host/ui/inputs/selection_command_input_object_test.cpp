@@ -155,10 +155,11 @@ TEST_F(SelectionTest, WhatWasSelectedBeforeIsNotThereWhileTheCommandIsCreated) {
         EXPECT_FALSE(pick->addSelection(part(1)));
     });
 
-    EXPECT_EQ(misuses(),
-              (std::vector<Misuse>{
-                  {.operation = "SelectionCommandInput::addSelection",
-                   .text = "nothing can be selected while the command is being created"}}));
+    EXPECT_EQ(
+        misuses(),
+        (std::vector<Misuse>{{.operation = "SelectionCommandInput::addSelection",
+                              .text = "nothing can be selected while the command is being created",
+                              .event = "OnCommandCreated"}}));
 }
 
 TEST_F(SelectionTest, MoreThanTheLimitSelectedBeforeIsNotTakenAndStaysSelected) {
