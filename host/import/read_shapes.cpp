@@ -112,7 +112,8 @@ ShapeMesh meshFrom(const json& answer) {
 /// The shapes of one design and the reader that holds them.
 class ShapesReader {
 public:
-    ShapesReader(const DesignData& design, ShapeData& data) : design_(design), data_(data) {
+    ShapesReader(const DesignData& design, const ShapeRequest& request, ShapeData& data)
+        : design_(design), request_(request), data_(data) {
         data.ofComponent.resize(design.components.size());
         std::map<const Geometry*, std::size_t> numbers;
         for (std::size_t component = 0; component < design.components.size(); ++component) {
@@ -133,6 +134,7 @@ public:
     /// What is known stays known where the reader does not survive the shapes.
     void measure() {
         for (StepGeometry* const geometry : geometries_) {
+            comeToNext();
             try {
                 geometry->volume();
             } catch (const std::runtime_error&) {
@@ -149,21 +151,28 @@ public:
         });
     }
 
-    void readMeshes(const ShapeRequest& request) {
+    void readMeshes() {
         const std::string limits =
-            " " + json(request.deflection).dump() + " " + json(request.angle).dump() + " " +
-            std::to_string(request.maximumTriangles) + " " + json(request.seconds).dump();
+            " " + json(request_.deflection).dump() + " " + json(request_.angle).dump() + " " +
+            std::to_string(request_.maximumTriangles) + " " + json(request_.seconds).dump();
         ask("mesh", limits, "drawn", takeMesh);
         readCurves(limits);
         readInstances();
     }
 
 private:
+    void comeToNext() const {
+        if (request_.beforeEach) {
+            request_.beforeEach();
+        }
+    }
+
     template <class Take>
     void ask(const std::string& verb, const std::string& words, const std::string& purpose,
              const Take& take) {
         for (std::size_t at = 0; at < geometries_.size(); ++at) {
             const StepGeometry& geometry = *geometries_[at];
+            comeToNext();
             askFor(data_.shapes[at], geometry.reader(),
                    verb + " " + std::to_string(geometry.shape()) + words, purpose, take);
         }
@@ -197,6 +206,7 @@ private:
             }
             data_.ofComponent[component] = data_.shapes.size();
             Shape& shape = data_.shapes.emplace_back();
+            comeToNext();
             askFor(shape, curves->reader(), "curves " + std::to_string(curves->number()) + limits,
                    "drawn", takeMesh);
         }
@@ -238,6 +248,7 @@ private:
     }
 
     const DesignData& design_;
+    const ShapeRequest& request_;
     ShapeData& data_;
     std::vector<StepGeometry*> geometries_;
 };
@@ -246,7 +257,7 @@ private:
 
 ShapeData readShapes(const DesignData& design, const ShapeRequest& request) {
     ShapeData data;
-    ShapesReader reader(design, data);
+    ShapesReader reader(design, request, data);
     if (request.measures) {
         reader.measure();
     }
@@ -254,7 +265,7 @@ ShapeData readShapes(const DesignData& design, const ShapeRequest& request) {
         reader.readClasses();
     }
     if (request.meshes) {
-        reader.readMeshes(request);
+        reader.readMeshes();
     }
     return data;
 }

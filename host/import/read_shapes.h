@@ -4,6 +4,7 @@
 #include "host/design/shape_data.h"
 
 #include <cstddef>
+#include <functional>
 
 namespace host {
 
@@ -23,16 +24,19 @@ struct ShapeRequest {
     /// Of a mesh. A shape that needs more is drawn more coarsely, else as its box.
     std::size_t maximumTriangles = 200'000;
     double seconds = 60;  ///< the same holds for one that takes longer
+
+    /// Called before each question to the reader. What it throws ends the reading and passes on.
+    std::function<void()> beforeEach = {};
 };
 
 /// The shapes of a design that `readDesign` returned, by the reader that still holds them: the file
 /// is not read again. Every shape is worked out once, however many components share it.
 ///
 /// The time limit of the reading holds for each shape as well. A shape that fails has its reason in
-/// `Shape::problem`; nothing is thrown. A reader that crashes takes with it the shapes not yet
-/// worked out and later measurements, so all geometries are measured first, unless nobody needs
-/// that. A design file, a tree that was read without shapes, and any file on Windows have no
-/// shapes.
+/// `Shape::problem`; nothing is thrown. It may be called by any thread. A reader that crashes takes
+/// with it the shapes not yet worked out and later measurements, so all geometries are measured
+/// first, unless nobody needs that. A design file, a tree that was read without shapes, and any
+/// file on Windows have no shapes.
 ///
 /// Meshes come with the colours that instances have of their own, and with the curves of components
 /// without bodies.

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <mutex>
 #include <stdexcept>
 
 namespace host {
@@ -9,6 +10,7 @@ namespace host {
 using nlohmann::json;
 
 json answerOf(ReaderConnection& reader, const std::string& request) {
+    const std::lock_guard asking(reader.asking);
     json answer;
     try {
         reader.startClock();

@@ -9,7 +9,7 @@
 namespace host {
 
 /// What the reader answers to a request, for which it has the time that is limited. Throws a
-/// `std::runtime_error` with the reason why there is no answer.
+/// `std::runtime_error` with the reason why there is no answer. For any thread.
 nlohmann::json answerOf(ReaderConnection& reader, const std::string& request);
 
 }  // namespace host

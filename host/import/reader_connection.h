@@ -1,5 +1,6 @@
 #pragma once
 
+#include <mutex>
 #include <stdexcept>
 #include <string>
 
@@ -24,6 +25,9 @@ public:
 
     /// Waits for the next line; throws `ReaderFailure`.
     virtual std::string receive() = 0;
+
+    /// Held from a request to its answer: several threads may ask one reader.
+    std::mutex asking;
 };
 
 }  // namespace host

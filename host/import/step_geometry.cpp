@@ -6,6 +6,7 @@
 
 #include <array>
 #include <charconv>
+#include <mutex>
 #include <stdexcept>
 #include <utility>
 
@@ -61,6 +62,7 @@ std::optional<Box> StepGeometry::box(const Transform& placement) {
 }
 
 void StepGeometry::measure() {
+    const std::lock_guard measuring(measuring_);
     if (!std::exchange(measured_, true)) {
         try {
             const json answer = ask(*reader_, "measure " + std::to_string(shape_), file_);

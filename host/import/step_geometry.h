@@ -4,6 +4,7 @@
 #include "host/import/reader_connection.h"
 
 #include <memory>
+#include <mutex>
 #include <string>
 #include <utility>
 
@@ -35,6 +36,7 @@ private:
     int shape_;
     std::string file_;
     std::size_t bodies_;
+    std::mutex measuring_;  ///< shapes are read beside the thread that asks for measures
     bool measured_ = false;
     std::string failure_;  ///< why it could not be measured; empty when it could
     double area_ = 0;
