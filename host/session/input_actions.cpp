@@ -345,6 +345,21 @@ void pick(const Ptr<core::Base>& entity, const ui::Place& place) {
     acting.finish();
 }
 
+void clearPicks(const Ptr<core::CommandInput>& input) {
+    UserAction acting;
+    InputState& state = usable(input, "clear");
+    if (state.kind != InputKind::Selection) {
+        throw MisuseError("cannot clear " + ui::describe(state) + ": it is not a selection");
+    }
+    shownDialog().focus(&state);
+    ui::SelectionCommandInputObject& selection = ui::selectionOf(&state);
+    if (selection.picks().count() > 0) {
+        selection.dropAll();
+        acting.runner().changed(state);
+    }
+    acting.finish();
+}
+
 void selectInModel(const std::vector<Ptr<core::Base>>& entities) {
     const UserAction acting;
     if (openDialog()) {

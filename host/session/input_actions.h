@@ -60,6 +60,9 @@ void selectRow(const core::Ptr<core::TableCommandInput>& table, int row);
 /// picked there is removed. Without one it becomes all that is selected.
 void pick(const core::Ptr<core::Base>& entity, const std::array<double, 3>& place = {});
 
+/// Takes all that is picked out of a selection, which is reported, and gives it the focus.
+void clearPicks(const core::Ptr<core::CommandInput>& input);
+
 /// Selects entities in the model, in place of those that are selected. Only without a dialog.
 void selectInModel(const std::vector<core::Ptr<core::Base>>& entities);
 

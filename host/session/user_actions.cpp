@@ -75,6 +75,8 @@ Ptr<core::Command> openDialog() {
     return active && active->state().shown ? active : nullptr;
 }
 
+bool showsPreview() { return runningApplication().ui().runner().showsPreview(); }
+
 ui::DialogSize dialogSize() {
     const ui::CommandObject& dialog = shownDialog();
     const auto& remembered = runningApplication().ui().rememberedSizes;

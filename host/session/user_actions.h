@@ -37,6 +37,10 @@ void pressCommand(const std::string& id);
 /// The command whose dialog is on the screen, null for none.
 core::Ptr<core::Command> openDialog();
 
+/// Whether the design has changes that OK would make and Cancel takes back: the open dialog's
+/// preview.
+bool showsPreview();
+
 /// The size of the open dialog, 0 by 0 where nothing gives it one: the size that the user gave it
 /// at the last opening, else the one that the command asked for.
 ui::DialogSize dialogSize();

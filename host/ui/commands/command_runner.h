@@ -75,6 +75,9 @@ public:
     /// The user changed to another tab: reported as a change of the tab bar, and not validated.
     void tabChanged();
 
+    /// True while the model has what the running command would do, as its preview.
+    [[nodiscard]] bool showsPreview() const { return active_ && inputs_.showsPreview(); }
+
     /// Why OK cannot be pressed; empty where it can.
     std::string whyOkRefused();
 

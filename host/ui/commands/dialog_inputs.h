@@ -43,6 +43,9 @@ public:
     /// Undoes what the last preview did.
     void takeBackPreview();
 
+    /// Whether what the last preview did is in the model.
+    [[nodiscard]] bool showsPreview() const { return previewed_.has_value(); }
+
     /// Keeps what the last preview did where it can take the place of the execution; false where an
     /// execution is needed.
     bool acceptPreview();

@@ -138,9 +138,11 @@ TEST_F(ModelHistory, APreviewIsTakenBackBeforeTheNextAndBeforeExecute) {
 
 TEST_F(ModelHistory, CancelTakesBackThePreview) {
     openDialogThatDescribes(/*previewIsValid=*/false);
+    EXPECT_TRUE(showsPreview());
 
     pressCancel();
 
+    EXPECT_FALSE(showsPreview());
     EXPECT_EQ(bolt->description(), "");
 }
 

@@ -103,6 +103,34 @@ TEST_F(SelectionTest, APickedEntityIsRemovedByAnotherPick) {
     EXPECT_EQ(activeCount(), 1U);
 }
 
+TEST_F(SelectionTest, ClearingTakesAllPicksOutAtOnceAndGivesTheFocus) {
+    open([this](const Ptr<Command>& command) {
+        const Ptr<CommandInputs> inputs = command->commandInputs();
+        inputs->addSelectionInput("pick", "", "")->setSelectionLimits(0, 0);
+        inputs->addSelectionInput("other", "", "")->setSelectionLimits(0, 0);
+        on<OnChanged>(command->inputChanged(),
+                      [this](const auto& args) { note(args->input()->id()); });
+    });
+    const Ptr<SelectionCommandInput> input = openDialog()->commandInputs()->itemById("pick");
+    pick(part(0));
+    pick(part(1));
+    click(openDialog()->commandInputs()->itemById("other"));
+
+    clearPicks(input);
+    clearPicks(input);  // nothing is left to be reported
+
+    EXPECT_EQ(noted(), "pick pick pick");
+    EXPECT_EQ(activeCount(), 0U);
+    EXPECT_TRUE(input->hasFocus());
+}
+
+TEST_F(SelectionTest, OnlyASelectionCanBeCleared) {
+    openWith([](const Ptr<CommandInputs>& inputs) { inputs->addStringValueInput("name", "", ""); });
+
+    EXPECT_EQ(misuseOf([] { clearPicks(openDialog()->commandInputs()->itemById("name")); }),
+              "cannot clear \"name\": it is not a selection");
+}
+
 TEST_F(SelectionTest, AnyOfSeveralFiltersSuffices) {
     const Ptr<SelectionCommandInput> input = openPicker({"Occurrences", "RootComponents"}, 1, 0);
 
