@@ -183,6 +183,7 @@ constexpr Reading kReadings[] = {
     {"pick", ActionKind::Pick, [](Action& a, const Members& m) { a.text = m.text("path"); }},
     {"selectInModel", ActionKind::SelectInModel,
      [](Action& a, const Members& m) { a.paths = m.texts("paths"); }},
+    {"clear", ActionKind::Clear, readInput},
     {"ok", ActionKind::Ok, readNothing},
     {"cancel", ActionKind::Cancel, readNothing},
     {"resize", ActionKind::Resize, readSize},

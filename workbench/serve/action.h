@@ -27,6 +27,7 @@ enum class ActionKind {
     SelectRow,
     Pick,
     SelectInModel,
+    Clear,
     Ok,
     Cancel,
     Resize,

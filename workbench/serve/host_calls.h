@@ -7,7 +7,9 @@
 #include <functional>
 #include <future>
 #include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace workbench::serve {
 
@@ -48,6 +50,11 @@ public:
     /// Shows a new page what it opens with.
     void greet(const std::shared_ptr<Page>& page) const {
         post([page, &host = host_] { host.greet(page); });
+    }
+
+    /// Lists warnings in the log.
+    void warn(const std::vector<std::string>& warnings) const {
+        post([warnings, &host = host_] { host.warn(warnings); });
     }
 
     [[nodiscard]] const DataFolder& data() const { return host_.data(); }

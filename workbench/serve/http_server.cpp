@@ -3,6 +3,7 @@
 #include "workbench/cli/exit_code.h"
 #include "workbench/serve/event_stream.h"
 #include "workbench/serve/host_calls.h"
+#include "workbench/serve/limited_server.h"
 #include "workbench/serve/model_bytes.h"
 #include "workbench/serve/palette_pages.h"
 #include "workbench/serve/protocol_error.h"
@@ -27,7 +28,6 @@ namespace {
 using httplib::Request;
 using httplib::Response;
 
-constexpr std::size_t kThreads = 256;
 constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
 constexpr const char* kAddress = "127.0.0.1";
 
@@ -50,7 +50,7 @@ constexpr const char* kJsonType = "application/json; charset=utf-8";
 constexpr const char* kHtmlType = "text/html; charset=utf-8";
 
 /// The library compresses a body at each request, which between two programs of one machine takes
-/// far longer than sending it; not so what is asked for piece by piece.
+/// far longer than sending it; not so what is asked for piece by piece. `bytes` are not copied.
 void sendAsItIs(Response& response, const std::shared_ptr<const std::string>& bytes,
                 const std::string& type) {
     response.set_content_provider(
@@ -67,8 +67,8 @@ void answerJson(Response& response, int status, const Json& json) {
 
 void refuse(Response& response, const ProtocolError& error) {
     Json body = {{"error", error.what()}};
-    if (!error.question().empty()) {
-        body[error.question()] = true;
+    if (!error.member().empty()) {
+        body[error.member()] = true;
     }
     answerJson(response, error.status(), body);
 }
@@ -89,6 +89,18 @@ std::string bytesOf(const std::filesystem::path& file) {
         throw ProtocolError(kNotFound, "the file cannot be read");
     }
     return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Whether a request is answered with what the page is made of, and nothing of the user's.
+bool isPartOfPage(const std::string& path) {
+    return path == "/" || path == "/host.js" || path == "/host.css" ||
+           path.starts_with("/resources/") || path.starts_with("/site/");
+}
+
+/// The browser's own requests for events and downloads have no headers of the page's.
+std::string keyOf(const Request& request) {
+    return request.has_header("Workbench-Key") ? request.get_header_value("Workbench-Key")
+                                               : request.get_param_value("key");
 }
 
 std::size_t numberIn(const std::string& text) {
@@ -120,9 +132,9 @@ struct HttpServer::Parts {
 
     MainQueue& queue;
     Pages& pages;
-    httplib::Server server;
+    LimitedServer server;
     int port = 0;
-    std::string token = randomToken();
+    Secrets secrets;
     std::optional<RequestGuard> guard;
     std::optional<HostCalls> host;
     RateLimit actions{500, 1000};
@@ -133,14 +145,8 @@ struct HttpServer::Parts {
 };
 
 void HttpServer::Parts::configure() {
-    server.new_task_queue = [] { return new httplib::ThreadPool(kThreads); };
     server.set_payload_max_length(kMostBytes);
     server.set_tcp_nodelay(true);
-    server.set_keep_alive_max_count(1000);
-    server.set_keep_alive_timeout(2);  // an idle connection keeps a thread, and the end waiting
-    constexpr time_t kSeconds = 10;
-    server.set_read_timeout(kSeconds);
-    server.set_write_timeout(kSeconds);
     // By default two servers could share a port, and take each other's requests.
     server.set_socket_options([](socket_t socket) {
         const int yes = 1;
@@ -178,11 +184,14 @@ httplib::Server::HandlerResponse HttpServer::Parts::check(const Request& request
     const RequestOrigin origin = {.method = request.method,
                                   .host = request.get_header_value("Host"),
                                   .origin = request.get_header_value("Origin"),
+                                  .site = request.get_header_value("Sec-Fetch-Site"),
                                   .cookie = request.get_header_value("Cookie"),
                                   .hasOneHost = request.get_header_value_count("Host") == 1};
     std::string why = guard->whyForeign(origin);
     const bool asksForCookie = request.path == "/" && request.has_param("token");
-    if (why.empty() && !asksForCookie && !guard->hasCookie(origin.cookie)) {
+    const bool knowsSecrets = guard->hasCookie(origin.cookie) &&
+                              (isPartOfPage(request.path) || guard->isKey(keyOf(request)));
+    if (why.empty() && !asksForCookie && !knowsSecrets) {
         why = "open the address that the program printed";
     }
     if (why.empty()) {
@@ -225,7 +234,7 @@ void HttpServer::Parts::begin(const Request& request, Response& response) const 
     }
     constexpr int kSeeOther = 303;
     response.set_header("Set-Cookie", guard->setCookie());
-    response.set_redirect("/", kSeeOther);
+    response.set_redirect(guard->pageAddress(), kSeeOther);
 }
 
 void HttpServer::Parts::page(const std::string& name, Response& response) const {
@@ -235,7 +244,8 @@ void HttpServer::Parts::page(const std::string& name, Response& response) const 
     }
     response.headers.erase("Content-Security-Policy");
     response.set_header("Content-Security-Policy", kPagePolicy);
-    sendAsItIs(response, std::make_shared<const std::string>(found->second), typeOf(name));
+    // It belongs to the program, and to no one who would have to free it.
+    sendAsItIs(response, {std::shared_ptr<const std::string>(), &found->second}, typeOf(name));
 }
 
 void HttpServer::Parts::site(const Request& request, Response& response) const {
@@ -288,7 +298,8 @@ void HttpServer::Parts::files(const Request& request, Response& response) const 
 void HttpServer::Parts::model(Response& response) {
     const ModelSource source =
         host->run<ModelSource>([](ServedHost& served) { return served.model(); });
-    const std::shared_ptr<const std::string> bytes = modelBytes.of(source);
+    const std::shared_ptr<const std::string> bytes = modelBytes.of(
+        source, [this](const std::vector<std::string>& warnings) { host->warn(warnings); });
     response.set_header("Model-Revision", std::to_string(source.revision));
     if (bytes->empty()) {
         constexpr int kNoContent = 204;
@@ -328,13 +339,15 @@ HttpServer::HttpServer(int port, MainQueue& queue, Pages& pages)
                                               ": the port is in use; name another one, or 0 for "
                                               "any that is free");
     }
-    parts_->guard.emplace(parts_->token, parts_->port);
+    parts_->server.acceptMany();
+    parts_->guard.emplace(parts_->secrets, parts_->port);
     parts_->route();
 }
 
 HttpServer::~HttpServer() {
     parts_->pages.closeAll();
-    parts_->server.stop();
+    parts_->modelBytes.end();
+    parts_->server.stopSoon();
     if (parts_->thread.joinable()) {
         parts_->thread.join();
     }
@@ -347,7 +360,7 @@ void HttpServer::start(ServedHost& host) {
 }
 
 std::string HttpServer::address() const {
-    return "http://127.0.0.1:" + std::to_string(parts_->port) + "/?token=" + parts_->token;
+    return "http://127.0.0.1:" + std::to_string(parts_->port) + "/?token=" + parts_->secrets.token;
 }
 
 }  // namespace workbench::serve

@@ -6,7 +6,6 @@
 namespace workbench::serve {
 namespace {
 
-constexpr std::size_t kMostPages = 16;
 constexpr std::chrono::seconds kPause{1};
 
 }  // namespace

@@ -12,6 +12,9 @@
 
 namespace workbench::serve {
 
+/// So many pages can be open.
+inline constexpr std::size_t kMostPages = 16;
+
 /// The rows of a table that a page wants.
 struct RowWindow {
     std::size_t from = 0;

@@ -8,19 +8,20 @@ namespace workbench::serve {
 /// Why a request is refused: its text is for the user, its status for the page.
 class ProtocolError : public std::runtime_error {
 public:
-    /// `question` is the member of the answer that says what the user is to be asked.
-    ProtocolError(int status, const std::string& text, const char* question = "")
-        : std::runtime_error(text), status_(status), question_(question) {}
+    /// `member` is one that the answer has beside its text, see `member()`.
+    ProtocolError(int status, const std::string& text, const char* member = "")
+        : std::runtime_error(text), status_(status), member_(member) {}
 
     [[nodiscard]] int status() const { return status_; }
 
-    /// What the user may agree to, and send the action again: "exists" where a file would be
-    /// replaced, "changed" where changes would be lost; empty for what is refused in any case.
-    [[nodiscard]] const std::string& question() const { return question_; }
+    /// Why the same action may be done later: "exists" where the user has to agree that a file is
+    /// replaced, "changed" that changes are lost, "waiting" where something else is waited for;
+    /// empty for what is refused in any case.
+    [[nodiscard]] const std::string& member() const { return member_; }
 
 private:
     int status_;
-    std::string question_;
+    std::string member_;
 };
 
 inline constexpr int kBadRequest = 400;

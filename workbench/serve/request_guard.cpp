@@ -39,8 +39,8 @@ std::string randomToken() {
     return token;
 }
 
-RequestGuard::RequestGuard(std::string token, int port)
-    : token_(std::move(token)),
+RequestGuard::RequestGuard(Secrets secrets, int port)
+    : secrets_(std::move(secrets)),
       name_("workbench-" + std::to_string(port)),
       port_(std::to_string(port)) {}
 
@@ -52,6 +52,9 @@ std::string RequestGuard::whyForeign(const RequestOrigin& request) const {
     constexpr std::string_view kScheme = "http://";
     if (!request.hasOneHost || !isOwn(request.host)) {
         return "the header Host has to be 127.0.0.1:" + port_ + " or localhost:" + port_;
+    }
+    if (!request.site.empty() && request.site != "same-origin" && request.site != "none") {
+        return "the request comes from another page";
     }
     const bool needsOrigin = request.method != "GET" && request.method != "HEAD";
     const bool isGiven = !request.origin.empty();
@@ -70,17 +73,19 @@ bool RequestGuard::hasCookie(const std::string& cookie) const {
         pair.remove_prefix(std::min(pair.find_first_not_of(' '), pair.size()));
         const std::size_t middle = pair.find('=');
         if (middle != std::string_view::npos && pair.substr(0, middle) == name_ &&
-            isToken(pair.substr(middle + 1))) {
+            isEqual(pair.substr(middle + 1), secrets_.cookie)) {
             return true;
         }
     }
     return false;
 }
 
-bool RequestGuard::isToken(std::string_view given) const { return isEqual(given, token_); }
+bool RequestGuard::isToken(std::string_view given) const { return isEqual(given, secrets_.token); }
+
+bool RequestGuard::isKey(std::string_view given) const { return isEqual(given, secrets_.key); }
 
 std::string RequestGuard::setCookie() const {
-    return name_ + "=" + token_ + "; HttpOnly; SameSite=Strict; Path=/";
+    return name_ + "=" + secrets_.cookie + "; HttpOnly; SameSite=Strict; Path=/";
 }
 
 }  // namespace workbench::serve

@@ -6,6 +6,7 @@
 #include "workbench/output/reports.h"
 #include "workbench/serve/http_server.h"
 
+#include <exception>
 #include <iostream>
 #include <utility>
 
@@ -28,6 +29,24 @@ private:
     MainQueue& queue_;
 };
 
+/// However the serving ends, the add-in is asked to stop: it keeps its settings then.
+class StopAtEnd {
+public:
+    explicit StopAtEnd(ServedHost& host) : host_(host) {}
+    StopAtEnd(const StopAtEnd&) = delete;
+    StopAtEnd& operator=(const StopAtEnd&) = delete;
+    ~StopAtEnd() {
+        try {
+            host_.stop();
+        } catch (const std::exception& error) {
+            std::cerr << "the add-in did not stop: " << error.what() << "\n";
+        }
+    }
+
+private:
+    ServedHost& host_;
+};
+
 }  // namespace
 
 void serve(ServeRequest request) {
@@ -39,24 +58,22 @@ void serve(ServeRequest request) {
     // Beyond the server: the add-in's stop, which keeps its settings, is not to be cut off either.
     const StopSignals signals([&queue] { queue.close(); });
     ServedHost host(std::move(request), queue, pages);
-    {
-        HttpServer server(port, queue, pages);
-        try {
-            host.begin(std::move(design), warnings);
-        } catch (const host::SessionError& error) {
-            throw Failure(ExitCode::NoAddin, error.what());
-        }
-        server.start(host);
-        const AnswersAtEnd answers(queue);
-        std::cout << server.address() << "\n";
-        flushOutput();
-        if (!isQuiet()) {
-            std::cerr << "Open this address in a browser. Ctrl-C ends the program.\n";
-        }
-        host.runAddin();
-        host.loop();
+    const StopAtEnd stop(host);
+    HttpServer server(port, queue, pages);
+    try {
+        host.begin(std::move(design), warnings);
+    } catch (const host::SessionError& error) {
+        throw Failure(ExitCode::NoAddin, error.what());
     }
-    host.stop();
+    server.start(host);
+    const AnswersAtEnd answers(queue);
+    std::cout << server.address() << "\n";
+    flushOutput();
+    if (!isQuiet()) {
+        std::cerr << "Open this address in a browser. Ctrl-C ends the program.\n";
+    }
+    host.runAddin();
+    host.loop();
 }
 
 }  // namespace workbench::serve

@@ -6,7 +6,6 @@
 
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
-#include "host/import/read_shapes.h"
 #include "host/session/browser_tree.h"
 #include "host/session/dialog_answers.h"
 #include "host/session/main_thread.h"
@@ -139,6 +138,9 @@ void ServedHost::reload() {
     refuseInside();
     if (session_) {
         static_cast<void>(host::findAddin(setup_.session.addin));
+        if (host::showsPreview()) {
+            session_->cancel();  // what it shows is not the user's yet
+        }
         kept_ = Kept{.design = session_->design(), .file = file(), .changed = isChanged()};
         warnOfLostChanges();
         stop();
@@ -210,12 +212,14 @@ void ServedHost::refuseWhileWaiting(const Action& action) const {
         return;
     }
     if (!busy_.empty()) {
-        throw ProtocolError(kConflict, "the program is at work: " + busy_);
+        throw ProtocolError(kConflict, "the program is at work: " + busy_, "waiting");
     }
     if (waiting_) {
-        throw ProtocolError(kConflict, waiting_->message.is_null()
-                                           ? "a file dialog is open: answer it first"
-                                           : "a message waits for an answer: answer it first");
+        throw ProtocolError(kConflict,
+                            waiting_->message.is_null()
+                                ? "a file dialog is open: answer it first"
+                                : "a message waits for an answer: answer it first",
+                            "waiting");
     }
 }
 
@@ -297,6 +301,9 @@ void ServedHost::performInput(const Action& action) {
             break;
         case ActionKind::Choose:
             std::visit([&](const auto& item) { host::chooseItem(target, item); }, action.item);
+            break;
+        case ActionKind::Clear:
+            host::clearPicks(target);
             break;
         case ActionKind::ActivateTab:
             host::activateTab(target);
@@ -406,6 +413,11 @@ void ServedHost::save(const Action& action) {
         kept_->changed = false;
         return;
     }
+    if (host::showsPreview()) {
+        throw ProtocolError(
+            kConflict,
+            "the dialog shows a preview of what it will do: press OK or Cancel, then save");
+    }
     session_->save(target);
     Opened& saved = current();
     saved.file = target;
@@ -436,52 +448,18 @@ std::optional<fs::path> ServedHost::openedFile(std::size_t number) const {
 
 // --- The model
 
-ModelSource ServedHost::model() {
-    if (!shapes_ && design_) {
-        if (!busy_.empty()) {
-            throw ProtocolError(kConflict, "the program is at work: " + busy_);
-        }
-        try {
-            draw();
-        } catch (...) {
-            publish();
-            throw;
-        }
-        publish();
+ModelSource ServedHost::model() const {
+    if (!design_) {
+        throw ProtocolError(kConflict, "no design is open");
     }
-    return {.revision = modelRevision_, .design = design_, .shapes = shapes_};
+    return {.revision = modelRevision_, .document = shownDocuments_, .design = design_};
 }
 
-void ServedHost::draw() {
-    const Restored busy(busy_, "Drawing " + design_->name);
+void ServedHost::warn(const std::vector<std::string>& warnings) {
+    for (const std::string& each : warnings) {
+        log_.addWarning(each);
+    }
     publish();
-    constexpr double kDeflection = 0.002;
-    constexpr double kAngle = 0.5;
-    host::ShapeRequest request = {.meshes = true};
-    request.deflection = kDeflection;
-    request.angle = kAngle;
-    auto read = std::make_shared<const host::ShapeData>(host::readShapes(*design_, request));
-    reportProblems(*read);
-    shapes_ = std::move(read);
-}
-
-void ServedHost::reportProblems(const host::ShapeData& shapes) {
-    std::map<std::string, int> problems;
-    bool anyDrawn = false;
-    for (const host::Shape& each : shapes.shapes) {
-        anyDrawn = anyDrawn || each.mesh;
-        if (!each.problem.empty()) {
-            ++problems[each.problem];
-        }
-    }
-    if (!anyDrawn && !problems.empty()) {
-        // Nothing is kept of it, so the next request tries again.
-        throw ProtocolError(kFailed, "no shape could be drawn: " + problems.begin()->first);
-    }
-    for (const auto& [problem, count] : problems) {
-        log_.addWarning("shapes that are drawn in part or not at all: " + std::to_string(count) +
-                        " (" + problem + ")");
-    }
 }
 
 }  // namespace workbench::serve

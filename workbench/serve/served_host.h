@@ -10,7 +10,6 @@
 #include "workbench/serve/serve_request.h"
 
 #include "host/design/design_data.h"
-#include "host/design/shape_data.h"
 #include "host/session/dialog_answers.h"
 #include "host/session/dialog_view.h"
 #include "host/session/session.h"
@@ -25,11 +24,11 @@
 
 namespace workbench::serve {
 
-/// A design and its shapes, to be written as a model by any thread.
+/// A design, to be drawn by any thread.
 struct ModelSource {
     std::uint64_t revision = 0;
+    std::uint64_t document = 0;  ///< grows with each document: designs of one have the same shapes
     std::shared_ptr<const host::DesignData> design;
-    std::shared_ptr<const host::ShapeData> shapes;
 };
 
 /// Takes the answer to an action: once, and from the main thread.
@@ -71,8 +70,11 @@ public:
     /// What a page opens with is shown to it.
     void greet(const std::shared_ptr<Page>& page);
 
-    /// What the model of the newest revision is made of. Reads the shapes where that was not done.
-    ModelSource model();
+    /// What the model of the newest revision is made of.
+    [[nodiscard]] ModelSource model() const;
+
+    /// Lists warnings of the program's own in the log, and shows that.
+    void warn(const std::vector<std::string>& warnings);
 
     /// The file that the add-in asked the system to open, by its number in `opened`; none for what
     /// is no file of the add-in's or of the user's data.
@@ -114,8 +116,6 @@ private:
     void refuseToDiscard();
     host::DesignData read(const std::filesystem::path& file,
                           std::vector<host::ReadingWarning>& warnings);
-    void draw();
-    void reportProblems(const host::ShapeData& shapes);
     void readWithoutAddin(std::map<std::string, Json>& fresh);
     void showDesign(host::DesignData design, const std::filesystem::path& file);
     Json perform(const Action& action);
@@ -173,9 +173,9 @@ private:
     std::shared_ptr<const host::DesignData> design_;
     std::uint64_t modelDigest_ = 0;
     std::uint64_t modelRevision_ = 0;
+    std::uint64_t shownDocuments_ = 0;
     int documentNumber_ = 0;
     bool showsSameDesign_ = false;  ///< the next other document has the design of this one
-    std::shared_ptr<const host::ShapeData> shapes_;
 
     Waiting* waiting_ = nullptr;  ///< what the module waits for; null for nothing
     int newestQuestion_ = 0;

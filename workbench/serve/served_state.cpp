@@ -110,7 +110,7 @@ void ServedHost::readDesignState(std::map<std::string, Json>& fresh) {
     }
     if (isOther) {
         document_ = shown;
-        shapes_.reset();
+        ++shownDocuments_;
         documentNumber_ += std::exchange(showsSameDesign_, false) ? 0 : 1;
     }
     fresh["model"] = {{"revision", modelRevision_}, {"document", documentNumber_}};

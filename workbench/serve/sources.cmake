@@ -21,10 +21,13 @@ embed_files(siteFiles ${PROJECT_SOURCE_DIR}/site ${site})
 
 target_sources(workbench_core PRIVATE
     cli/${system}/stop_signals.cpp
-    serve/action.cpp serve/addin_pictures.cpp serve/changes.cpp serve/data_folder.cpp serve/design_digest.cpp
-    serve/event_log.cpp serve/event_stream.cpp serve/http_server.cpp serve/main_queue.cpp serve/model_bytes.cpp serve/pages.cpp
+    serve/action.cpp serve/addin_pictures.cpp serve/changes.cpp serve/connection_threads.cpp serve/data_folder.cpp
+    serve/design_digest.cpp serve/event_log.cpp serve/event_stream.cpp serve/http_server.cpp serve/limited_server.cpp
+    serve/main_queue.cpp serve/model_bytes.cpp serve/pages.cpp serve/${system}/connection_stream.cpp serve/${system}/open_connections.cpp
     serve/palette_pages.cpp serve/request_guard.cpp serve/serve.cpp serve/served_host.cpp
     serve/served_questions.cpp serve/served_state.cpp serve/state_json.cpp)
-set_source_files_properties(serve/http_server.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+# The HTTP library's header has macros of its own.
+set_source_files_properties(serve/connection_threads.cpp serve/http_server.cpp serve/limited_server.cpp
+                            serve/${system}/connection_stream.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 target_compile_definitions(workbench_core PRIVATE TARNIX_SITE="${TARNIX_SITE}")
 target_link_libraries(workbench_core PRIVATE http_library)

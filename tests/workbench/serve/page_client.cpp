@@ -17,7 +17,7 @@ constexpr std::chrono::seconds kPatience{30};
 
 struct PageClient::Parts {
     explicit Parts(const ServedProgram& program)
-        : cookie(program.cookie()),
+        : secrets(program.secrets()),
           origin("http://127.0.0.1:" + std::to_string(program.port())),
           stream("127.0.0.1", program.port()),
           actions("127.0.0.1", program.port()) {
@@ -27,8 +27,12 @@ struct PageClient::Parts {
         actions.set_keep_alive(true);
     }
 
+    [[nodiscard]] httplib::Headers headers() const {
+        return {{"Cookie", secrets.cookie}, {"Workbench-Key", secrets.key}, {"Origin", origin}};
+    }
+
     void follow() {
-        stream.Get("/events", {{"Cookie", cookie}}, [this](const char* bytes, std::size_t count) {
+        stream.Get("/events", headers(), [this](const char* bytes, std::size_t count) {
             const std::lock_guard lock(mutex);
             if (isLeaving) return false;
             taken += count;
@@ -62,7 +66,7 @@ struct PageClient::Parts {
         revision = data["revision"];
     }
 
-    std::string cookie;
+    ServedProgram::Secrets secrets;
     std::string origin;
     httplib::Client stream;
     httplib::Client actions;
@@ -98,8 +102,7 @@ PageClient::~PageClient() {
 Json PageClient::act(Json action) {
     action["page"] = number();
     const auto response =
-        parts_->actions.Post("/actions", {{"Cookie", parts_->cookie}, {"Origin", parts_->origin}},
-                             action.dump(), "application/json");
+        parts_->actions.Post("/actions", parts_->headers(), action.dump(), "application/json");
     if (!response) return {{"error", "no answer"}};
     Json answer = Json::parse(response->body, nullptr, /*allow_exceptions=*/false);
     answer["status"] = response->status;

@@ -360,7 +360,7 @@ TEST_F(ServedPages, PicturesHaveOtherAddressesAfterAReload) {
     EXPECT_EQ(before.substr(0, 13), "/resources/1/");
     EXPECT_EQ(after, "/resources/2/" + before.substr(13));
     httplib::Client client("127.0.0.1", program->port());
-    const auto picture = client.Get(after + "16x16.png", {{"Cookie", program->cookie()}});
+    const auto picture = client.Get(after + "16x16.png", {{"Cookie", program->secrets().cookie}});
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->status, 200);
 }
@@ -431,8 +431,9 @@ TEST_F(ServedPages, DataHomeHasTheProjects) {
 TEST_F(ServedPages, ClientThatReadsNothingDoesNotDisturbOthers) {
     serve();
     RawConnection silent(program->port());
-    silent.send("GET /events HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(program->port()) +
-                "\r\nCookie: " + program->cookie() + "\r\n\r\n");
+    const ServedProgram::Secrets secrets = program->secrets();
+    silent.send("GET /events?key=" + secrets.key + " HTTP/1.1\r\nHost: 127.0.0.1:" +
+                std::to_string(program->port()) + "\r\nCookie: " + secrets.cookie + "\r\n\r\n");
     PageClient page(*program);
 
     for (int i = 0; i < 100; ++i) {
@@ -451,7 +452,8 @@ TEST_F(ServedPages, MoreThanSixteenAreRefused) {
     }
     httplib::Client client("127.0.0.1", program->port());
 
-    const auto response = client.Get("/events", {{"Cookie", program->cookie()}});
+    const ServedProgram::Secrets secrets = program->secrets();
+    const auto response = client.Get("/events?key=" + secrets.key, {{"Cookie", secrets.cookie}});
 
     ASSERT_TRUE(response);
     EXPECT_EQ(response->status, 503);

@@ -77,7 +77,7 @@ TEST(RateLimit, TakesABurstAndThenSoManyASecond) {
 }
 
 TEST(RequestGuard, FindsItsCookieAmongOthers) {
-    const RequestGuard guard("secret", 8000);
+    const RequestGuard guard({.token = "token", .cookie = "secret", .key = "key"}, 8000);
 
     EXPECT_TRUE(guard.hasCookie("workbench-8000=secret"));
     EXPECT_TRUE(guard.hasCookie("a=b; workbench-8000=secret; c"));

@@ -25,8 +25,9 @@ public:
     RawConnection& operator=(const RawConnection&) = delete;
     ~RawConnection() { ::close(socket_); }
 
-    void send(const std::string& text) const {
-        static_cast<void>(::send(socket_, text.data(), text.size(), MSG_NOSIGNAL));
+    /// The bytes that were sent; -1 where the other end is closed.
+    ssize_t send(const std::string& text) const {
+        return ::send(socket_, text.data(), text.size(), MSG_NOSIGNAL);
     }
 
     /// The first line of what is answered, without its end.

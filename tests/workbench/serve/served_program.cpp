@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <utility>
@@ -58,6 +59,8 @@ ServedProgram::ServedProgram(const std::vector<std::string>& arguments) {
 
 ServedProgram::~ServedProgram() { stop(); }
 
+void ServedProgram::signal(int number) const { ::kill(process_, number); }
+
 int ServedProgram::stop() {
     const pid_t process = std::exchange(process_, 0);
     int status = 0;
@@ -77,11 +80,16 @@ std::string ServedProgram::token() const {
     return address_.substr(std::min(address_.find('=') + 1, address_.size()));
 }
 
-std::string ServedProgram::cookie() const {
+ServedProgram::Secrets ServedProgram::secrets() const {
     httplib::Client client("127.0.0.1", port());
     const auto response = client.Get("/?token=" + token());
-    const std::string header = response ? response->get_header_value("Set-Cookie") : "";
-    return header.substr(0, header.find(';'));
+    if (!response) {
+        return {};
+    }
+    const std::string cookie = response->get_header_value("Set-Cookie");
+    const std::string place = response->get_header_value("Location");
+    return {.cookie = cookie.substr(0, cookie.find(';')),
+            .key = place.substr(std::min(place.find('=') + 1, place.size()))};
 }
 
 }  // namespace test_support

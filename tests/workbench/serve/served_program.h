@@ -21,8 +21,16 @@ public:
     [[nodiscard]] int port() const;
     [[nodiscard]] std::string token() const;
 
-    /// The header "Cookie" of a browser that opened the address.
-    [[nodiscard]] std::string cookie() const;
+    /// What a browser that opened the address knows.
+    struct Secrets {
+        std::string cookie;  ///< the header "Cookie"
+        std::string key;     ///< the header "Workbench-Key"
+    };
+    [[nodiscard]] Secrets secrets() const;
+
+    [[nodiscard]] pid_t process() const { return process_; }
+
+    void signal(int number) const;
 
     /// Asks it to end, and returns its exit status; -1 where a signal ended it.
     int stop();

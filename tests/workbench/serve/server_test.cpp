@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 namespace test_support {
@@ -21,7 +22,7 @@ protected:
         Workbench::SetUp();
         program = std::make_unique<ServedProgram>(std::vector<std::string>{design(kSmallDesign)});
         ASSERT_NE(program->port(), 0);
-        cookie = program->cookie();
+        secrets = program->secrets();
         own = "127.0.0.1:" + std::to_string(program->port());
     }
 
@@ -31,9 +32,19 @@ protected:
         return response ? response->status : -1;
     }
 
-    [[nodiscard]] int getWithCookie(const std::string& path) const {
-        return get(path, {{"Cookie", cookie}});
+    /// What the page sends.
+    [[nodiscard]] Headers known() const {
+        return {{"Cookie", secrets.cookie}, {"Workbench-Key", secrets.key}};
     }
+
+    /// The same with headers that it would not send.
+    [[nodiscard]] Headers knownAnd(const Headers& more) const {
+        Headers headers = known();
+        headers.insert(more.begin(), more.end());
+        return headers;
+    }
+
+    [[nodiscard]] int getKnown(const std::string& path) const { return get(path, known()); }
 
     /// The status and the error of an action's request.
     [[nodiscard]] std::string post(const std::string& body, const Headers& headers) const {
@@ -46,11 +57,11 @@ protected:
     }
 
     [[nodiscard]] std::string post(const std::string& body) const {
-        return post(body, {{"Cookie", cookie}, {"Origin", "http://" + own}});
+        return post(body, knownAnd({{"Origin", "http://" + own}}));
     }
 
     std::unique_ptr<ServedProgram> program;
-    std::string cookie;
+    ServedProgram::Secrets secrets;
     std::string own;
 };
 
@@ -61,18 +72,49 @@ TEST_F(Server, AddressSetsACookieForThisPortAndLeadsToThePage) {
 
     ASSERT_TRUE(response);
     EXPECT_EQ(response->status, 303);
-    EXPECT_EQ(response->get_header_value("Location"), "/");
+    EXPECT_EQ(response->get_header_value("Location"), "/#key=" + secrets.key);
     EXPECT_EQ(response->get_header_value("Set-Cookie"),
-              "workbench-" + std::to_string(program->port()) + "=" + program->token() +
-                  "; HttpOnly; SameSite=Strict; Path=/");
+              secrets.cookie + "; HttpOnly; SameSite=Strict; Path=/");
+    EXPECT_EQ(secrets.cookie.find("workbench-" + std::to_string(program->port()) + "="), 0U);
+    EXPECT_EQ(secrets.key.size(), 64U);
+    EXPECT_EQ(getKnown("/"), 200);
+}
+
+TEST_F(Server, NoSecretLeadsToAnother) {
+    const std::string cookie = secrets.cookie.substr(secrets.cookie.find('=') + 1);
+
     EXPECT_EQ(program->token().size(), 64U);
-    EXPECT_EQ(getWithCookie("/"), 200);
+    EXPECT_NE(program->token(), cookie);
+    EXPECT_NE(program->token(), secrets.key);
+    EXPECT_NE(cookie, secrets.key);
+}
+
+// A browser sends the cookie to every port of the machine, whoever listens there.
+TEST_F(Server, CookieAloneServesNothingOfTheUsers) {
+    for (const char* const path :
+         {"/events", "/files", "/model.glb", "/opened/0", "/actions", "/nothing"}) {
+        EXPECT_EQ(get(path, {{"Cookie", secrets.cookie}}), 403) << path;
+        EXPECT_EQ(get(path, {{"Workbench-Key", secrets.key}}), 403) << path;
+    }
+    EXPECT_EQ(post("{}", {{"Cookie", secrets.cookie}, {"Origin", "http://" + own}}).substr(0, 3),
+              "403");
+    EXPECT_EQ(get("/files?key=" + secrets.key, {{"Cookie", secrets.cookie}}), 200);
+    EXPECT_EQ(get("/files?key=" + secrets.key.substr(1), {{"Cookie", secrets.cookie}}), 403);
+}
+
+TEST_F(Server, RequestOfAnotherPageIsRefused) {
+    for (const char* const site : {"cross-site", "same-site"}) {
+        EXPECT_EQ(get("/files", knownAnd({{"Sec-Fetch-Site", site}})), 403) << site;
+    }
+    for (const char* const site : {"same-origin", "none"}) {
+        EXPECT_EQ(get("/files", knownAnd({{"Sec-Fetch-Site", site}})), 200) << site;
+    }
 }
 
 TEST_F(Server, PageRunsItsOwnScriptAlone) {
     httplib::Client client("127.0.0.1", program->port());
 
-    const auto response = client.Get("/", {{"Cookie", cookie}});
+    const auto response = client.Get("/", known());
 
     ASSERT_TRUE(response);
     EXPECT_EQ(response->get_header_value_count("Content-Security-Policy"), 1U);
@@ -99,46 +141,46 @@ TEST_F(Server, WrongTokenIsRefused) {
 
     EXPECT_EQ(get("/?token=" + token, {}), 403);
     EXPECT_EQ(get("/?token=", {}), 403);
-    EXPECT_EQ(get("/", {{"Cookie", cookie.substr(0, cookie.find('=') + 1) + token}}), 403);
+    EXPECT_EQ(
+        get("/", {{"Cookie", secrets.cookie.substr(0, secrets.cookie.find('=') + 1) + token}}),
+        403);
 }
 
 TEST_F(Server, ForeignHostIsRefused) {
-    EXPECT_EQ(get("/", {{"Cookie", cookie}, {"Host", "evil.example:80"}}), 403);
+    EXPECT_EQ(get("/", knownAnd({{"Host", "evil.example:80"}})), 403);
     EXPECT_EQ(get("/?token=" + program->token(), {{"Host", "evil.example"}}), 403);
-    EXPECT_EQ(get("/", {{"Cookie", cookie}, {"Host", "127.0.0.1:1"}}), 403);
-    EXPECT_EQ(
-        get("/", {{"Cookie", cookie}, {"Host", "localhost:" + std::to_string(program->port())}}),
-        200);
+    EXPECT_EQ(get("/", knownAnd({{"Host", "127.0.0.1:1"}})), 403);
+    EXPECT_EQ(get("/", knownAnd({{"Host", "localhost:" + std::to_string(program->port())}})), 200);
 }
 
 TEST_F(Server, ForeignOriginIsRefused) {
     const std::string expected = "403 the header Origin has to be http://" + own;
 
-    EXPECT_EQ(post("{}", {{"Cookie", cookie}}), expected);
-    EXPECT_EQ(post("{}", {{"Cookie", cookie}, {"Origin", "null"}}), expected);
-    EXPECT_EQ(post("{}", {{"Cookie", cookie}, {"Origin", "http://evil.example"}}), expected);
-    EXPECT_EQ(post("{}", {{"Cookie", cookie}, {"Origin", "https://" + own}}), expected);
-    EXPECT_EQ(get("/events", {{"Cookie", cookie}, {"Origin", "http://evil.example"}}), 403);
+    EXPECT_EQ(post("{}", known()), expected);
+    EXPECT_EQ(post("{}", knownAnd({{"Origin", "null"}})), expected);
+    EXPECT_EQ(post("{}", knownAnd({{"Origin", "http://evil.example"}})), expected);
+    EXPECT_EQ(post("{}", knownAnd({{"Origin", "https://" + own}})), expected);
+    EXPECT_EQ(get("/events", knownAnd({{"Origin", "http://evil.example"}})), 403);
 }
 
 TEST_F(Server, PicturesOfTheAddinAreServedAndNothingElseOfItsFolder) {
-    EXPECT_EQ(getWithCookie("/resources/1/Resources/BOM/16x16.png"), 200);
+    EXPECT_EQ(getKnown("/resources/1/Resources/BOM/16x16.png"), 200);
     for (const char* const path :
          {"/resources/1/Tarnix.manifest", "/resources/1/Tarnix.dll",
           "/resources/1/../Tarnix.manifest", "/resources/1/%2e%2e/Tarnix/Resources/BOM/16x16.png",
           "/resources/1//etc/passwd", "/resources/1/Resources/../../../../../../../../etc/passwd",
           "/resources/1/Resources", "/resources/1/Resources/BOM/16x16.png%00.html",
           "/resources/Resources/BOM/16x16.png"}) {
-        EXPECT_GE(getWithCookie(path), 400) << path;
+        EXPECT_GE(getKnown(path), 400) << path;
     }
 }
 
 TEST_F(Server, NothingOutsideOfTheDataFolderIsListed) {
-    EXPECT_EQ(getWithCookie("/files"), 200);
-    EXPECT_EQ(getWithCookie("/files?folder=Local"), 200);
+    EXPECT_EQ(getKnown("/files"), 200);
+    EXPECT_EQ(getKnown("/files?folder=Local"), 200);
     for (const char* const name : {"..", "../Tarnix", "Local/../..", "/", "/etc", ".", "nowhere",
                                    "Local%00", "%2e%2e%2fTarnix"}) {
-        EXPECT_EQ(getWithCookie(std::string("/files?folder=") + name), 404) << name;
+        EXPECT_EQ(getKnown(std::string("/files?folder=") + name), 404) << name;
     }
 }
 
@@ -146,9 +188,9 @@ TEST_F(Server, LinkOutOfTheDataFolderIsNotFollowed) {
     std::filesystem::create_directory_symlink(
         folder.path(), folder.path() / "data/tarnix-workbench/Projects/Local/out");
 
-    EXPECT_EQ(getWithCookie("/files?folder=Local/out"), 404);
+    EXPECT_EQ(getKnown("/files?folder=Local/out"), 404);
     httplib::Client client("127.0.0.1", program->port());
-    const auto listed = client.Get("/files?folder=Local", {{"Cookie", cookie}});
+    const auto listed = client.Get("/files?folder=Local", known());
     ASSERT_TRUE(listed);
     EXPECT_EQ(nlohmann::json::parse(listed->body)["entries"], nlohmann::json::array());
 }
@@ -156,14 +198,13 @@ TEST_F(Server, LinkOutOfTheDataFolderIsNotFollowed) {
 TEST_F(Server, PalettesPagesComeInASandbox) {
     httplib::Client client("127.0.0.1", program->port());
 
-    const auto response =
-        client.Get("/site/units/units-cmd.asp?app=Inventor", {{"Cookie", cookie}});
+    const auto response = client.Get("/site/units/units-cmd.asp?app=Inventor", known());
 
     ASSERT_TRUE(response);
     EXPECT_EQ(response->status, 200);
     EXPECT_NE(response->get_header_value("Content-Security-Policy").find("sandbox allow-scripts"),
               std::string::npos);
-    EXPECT_EQ(getWithCookie("/site/../README.md"), 404);
+    EXPECT_EQ(getKnown("/site/../README.md"), 404);
 }
 
 TEST_F(Server, WhatIsNoActionIsRefusedByName) {
@@ -187,10 +228,11 @@ TEST_F(Server, WhatIsNoActionIsRefusedByName) {
 TEST_F(Server, LargeBodyIsRefused) {
     EXPECT_EQ(post(std::string(2'000'000, ' ')).substr(0, 3), "413");
     RawConnection announced(program->port());
-    announced.send("POST /actions HTTP/1.1\r\nHost: " + own + "\r\nCookie: " + cookie +
-                   "\r\nOrigin: http://" + own + "\r\nContent-Length: 104857600\r\n\r\n");
+    announced.send("POST /actions HTTP/1.1\r\nHost: " + own + "\r\nCookie: " + secrets.cookie +
+                   "\r\nWorkbench-Key: " + secrets.key + "\r\nOrigin: http://" + own +
+                   "\r\nContent-Length: 104857600\r\n\r\n");
     EXPECT_EQ(announced.firstLine(), "HTTP/1.1 413 Payload Too Large");
-    EXPECT_EQ(getWithCookie("/"), 200);
+    EXPECT_EQ(getKnown("/"), 200);
 }
 
 TEST_F(Server, ThousandRequestsAtATimeAreAnswered) {
@@ -201,7 +243,7 @@ TEST_F(Server, ThousandRequestsAtATimeAreAnswered) {
     for (int i = 0; i < kThreads; ++i) {
         threads.emplace_back([&] {
             for (int n = 0; n < kEach; ++n) {
-                answered += getWithCookie("/files") == 200 ? 1 : 0;
+                answered += getKnown("/files") == 200 ? 1 : 0;
             }
         });
     }
@@ -220,7 +262,39 @@ TEST_F(Server, ConnectionsThatSayNothingDoNotKeepOthersFromBeingServed) {
         silent.back()->send("GET /fil");
     }
 
-    EXPECT_EQ(getWithCookie("/files"), 200);
+    EXPECT_EQ(getKnown("/files"), 200);
+}
+
+// Each has a thread while its body may come, and nothing drops it: it knows the secrets.
+TEST_F(Server, OneConnectionTooManyIsRefused) {
+    std::vector<std::unique_ptr<RawConnection>> slow;
+    for (int i = 0; i < 80; ++i) {
+        slow.push_back(std::make_unique<RawConnection>(program->port()));
+        slow.back()->send("POST /actions HTTP/1.1\r\nHost: " + own +
+                          "\r\nCookie: " + secrets.cookie + "\r\nWorkbench-Key: " + secrets.key +
+                          "\r\nOrigin: http://" + own + "\r\nContent-Length: 10\r\n\r\n");
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+
+    const RawConnection next(program->port());
+    EXPECT_EQ(next.firstLine(), "HTTP/1.1 503 Service Unavailable");
+    EXPECT_EQ(slow.front()->firstLine(), "HTTP/1.1 400 Bad Request");  // it took too long
+    EXPECT_EQ(getKnown("/files"), 200);
+}
+
+TEST_F(Server, RequestThatComesByteByByteIsGivenUp) {
+    const RawConnection slow(program->port());
+    std::thread dripping([&slow] {
+        for (int i = 0; i < 70 && slow.send("G") > 0; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        }
+    });
+    const auto began = std::chrono::steady_clock::now();
+
+    static_cast<void>(slow.firstLine());
+
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(6500));
+    dripping.join();
 }
 
 TEST_F(Server, PortInUseIsNamed) {

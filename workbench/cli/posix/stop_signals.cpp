@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -13,15 +14,23 @@
 namespace workbench {
 namespace {
 
+constexpr std::time_t kGrace = 3;  // seconds
+
 // The handler may do little more than write.
 volatile std::sig_atomic_t wakeEnd = -1;
+volatile std::time_t firstStop = 0;
 
 extern "C" void noteStop(int signal) {
     const int before = errno;
-    const char stop = 's';
-    static_cast<void>(::write(wakeEnd, &stop, 1));
-    // A second signal ends the program at once.
-    static_cast<void>(std::signal(signal, SIG_DFL));
+    const std::time_t now = ::time(nullptr);
+    if (firstStop == 0) {
+        firstStop = now;
+        const char stop = 's';
+        static_cast<void>(::write(wakeEnd, &stop, 1));
+    } else if (now - firstStop >= kGrace) {
+        static_cast<void>(std::signal(signal, SIG_DFL));
+        static_cast<void>(::raise(signal));
+    }
     errno = before;
 }
 
@@ -47,6 +56,7 @@ StopSignals::StopSignals(std::function<void()> stop) : watch_(std::make_unique<W
     if (::pipe2(watch_->pipe.data(), O_CLOEXEC) != 0) {
         throw std::system_error(errno, std::generic_category(), "cannot watch for signals");
     }
+    firstStop = 0;
     wakeEnd = watch_->pipe[1];
     watch_->thread = std::thread([end = watch_->pipe[0], stop = std::move(stop)] {
         while (nextByte(end) == 's') {

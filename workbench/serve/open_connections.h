@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+
+namespace workbench::serve {
+
+/// The connections of a server, and which of them wait for a request or the rest of one. Those can
+/// be dropped: whoever is at the other end says nothing, and others want to be served. For any
+/// thread.
+class OpenConnections {
+public:
+    /// A connection that waits from now on.
+    void add(int socket);
+
+    /// It waits for the next request.
+    void wait(int socket);
+
+    /// Its request is here: it is not dropped until it waits again.
+    void work(int socket);
+
+    /// Before the socket is closed.
+    void remove(int socket);
+
+    /// Ends the connection that has waited longest; false where none waits.
+    bool dropLongestSilent();
+
+    /// Ends all that wait.
+    void dropSilent();
+
+private:
+    std::mutex mutex_;
+    std::map<int, std::uint64_t> turns_;  ///< by socket; 0: it does not wait, or was ended
+    std::uint64_t newest_ = 0;
+};
+
+}  // namespace workbench::serve
