@@ -111,24 +111,39 @@ const tests = {
     assert.strictEqual(await page.locator('[role=menu]').count(), 0);
   },
 
-  async clearingPicksNothing() {
-    const toggle = (list, path) => list.includes(path) ? list.filter(each => each !== path) : [...list, path];
-    // This add-in lets the second go with the first.
+  async aSelectionIsClearedAtOnce() {
     const {page, host} = await show(state => {
-      state.dialog = dialog([input('Selection', 'parts', {caption: 'Parts', active: true, picked: ['Plate:4', 'Rod assembly:1', ''], minimum: 0, maximum: 0, value: 'Plate:4, Rod assembly:1, an edge'})]);
-    }, {act: ({path}, {state}) => {
-      const [selection] = state.dialog.inputs;
-      selection.picked = toggle(selection.picked, path).filter(each => path !== 'Plate:4' || each !== 'Rod assembly:1');
-      selection.value = selection.picked.length === 1 ? 'an edge' : '';
-    }});
+      state.dialog = dialog([input('Selection', 'parts', {caption: 'Parts', active: true, picked: ['Plate:4', ''], minimum: 0, maximum: 0, value: 'Plate:4, an edge'})]);
+    }, {act: (_, {state}) => Object.assign(state.dialog.inputs[0], {picked: [], value: ''})});
     await page.getByRole('button', {name: 'Clear the selection'}).click();
-    await page.waitForSelector('.notices :text("not in the browser")');
-    assert.deepStrictEqual(acted(host, 'pick').map(({path}) => path), ['Plate:4']);
-    host.change(({dialog: open}) => { open.inputs[0].value = 'brackets'; });  // the root, which has no path either
-    await page.waitForSelector('.selection:has-text("brackets")');
-    await page.getByRole('button', {name: 'Clear the selection'}).click();
-    await page.waitForSelector('.selection:has-text("Select")');
-    assert.deepStrictEqual(acted(host, 'pick').map(({path}) => path), ['Plate:4', '']);
+    await page.waitForSelector('.choose[data-picked="0"]');
+    assert.deepStrictEqual(host.actions.map(({action, input: key}) => [action, key]), [['clear', host.state.dialog.inputs[0].key]]);
+  },
+
+  async theKeyIsSentAndNotShown() {
+    const {page, host} = await show(state => { state.opened = [{n: 0, target: 'list.csv', url: '/opened/0'}]; }, {glb});
+    const asked = [];
+    page.on('request', request => asked.push([new URL(request.url()).pathname, request.headers()['workbench-key'] ?? new URL(request.url()).searchParams.get('key')]));
+    const key = 'c0ffee';
+    await page.goto('about:blank');
+    await page.goto(`${host.url}#key=${key}`);
+    await page.waitForFunction(() => window.hostPage?.scene?.viewer);
+    assert.strictEqual(page.url(), host.url);
+    await page.reload();  // it is this tab's
+    await page.waitForFunction(() => window.hostPage?.scene?.viewer);
+    await page.click('.command:has-text("List")');
+    await page.keyboard.press('Control+o');
+    await page.getByText('Files of type').waitFor();
+    await idle(page);
+    const secret = asked.filter(([place]) => ['/events', '/actions', '/files', '/model.glb'].includes(place));
+    assert.deepStrictEqual([...new Set(secret.map(each => each.join(' ')))].sort(), ['/actions c0ffee', '/events c0ffee', '/files c0ffee', '/model.glb c0ffee']);
+    assert.ok(asked.filter(([place]) => !/^.(events|actions|files|model.glb)$/.test(place)).every(([, sent]) => sent === null));
+    await page.keyboard.press('Escape');
+    await page.click('.quick [aria-label^=Log]');
+    assert.strictEqual(await page.getAttribute('.opened a', 'href'), `/opened/0?key=${key}`);
+    page.removeAllListeners('request');
+    page.complaints.splice(0);
+    await page.evaluate(() => sessionStorage.clear());
   },
 
   async whatTheHostRefusesToTakeIsShownAsItIs() {
@@ -446,6 +461,29 @@ const tests = {
     assert.strictEqual((await frame.boundingBox()).width, width);
   },
 
+  async aWideDialogIsDockedBesideTheModel() {
+    const {page, host} = await show(state => { state.dialog = tableDialog(50, 4).dialog; }, {glb});
+    const frame = page.locator('#command-dialog'), canvas = page.locator('.stage canvas');
+    const apart = async () => {
+      const [one, other] = [await frame.boundingBox(), await canvas.boundingBox()];
+      return other.x + other.width <= one.x + 1;
+    };
+    assert.ok(await apart());  // 700 of the 1032 pixels beside the browser
+    const before = (await canvas.boundingBox()).width;
+    await page.focus('#command-dialog .edge');
+    await page.keyboard.press('ArrowRight');
+    await idle(page);
+    assert.strictEqual(acted(host, 'resize').pop().height, 420);  // that of the floating one stays
+    await page.waitForFunction(old => document.querySelector('.stage canvas').clientWidth === old + 16, before);
+    await page.getByRole('button', {name: 'Float over the model'}).click();
+    assert.ok(!await apart());
+    await page.getByRole('button', {name: 'Dock beside the model'}).click();
+    assert.ok(await apart());
+    assert.strictEqual(await violations(page), '');
+    host.change(state => { state.dialog = everyKind(); });
+    await page.waitForSelector('#command-dialog:has-text("Ground it")');
+  },
+
   async aLostLineIsSaidAndTakenUpAgain() {
     const {page, host} = await show(state => { state.dialog = everyKind(); });
     await page.getByLabel('Name').focus();
@@ -481,6 +519,43 @@ const tests = {
     await idle(page);
     assert.deepStrictEqual(host.actions.map(({action, text}) => text ?? action), ['boltx', 'answerMessage', 'boltxyz']);
     assert.strictEqual(await page.getByLabel('Name').inputValue(), 'boltxyz');
+  },
+
+  async keysOfWhoTypesOnGoToTheFieldAndAnswerNothing() {
+    const {page, host} = await show(state => { state.dialog = everyKind(); }, {act: ({action, input: key, text}, {state}) => {
+      if (action === 'answerMessage') state.message = null;
+      if (action !== 'paste') return {};
+      state.dialog.inputs[0].inputs.find(each => each.key === key).value = text;
+      if (text !== 'boltx') return {};
+      state.message = {id: 4, title: '', text: 'An x?', icon: 'question', buttons: [{answer: 'ok', caption: 'OK'}]};
+      return {waiting: true};
+    }});
+    await page.getByLabel('Name').click();
+    await page.keyboard.press('End');
+    await page.keyboard.press('x');
+    await page.getByRole('alertdialog').waitFor();
+    await page.keyboard.type('y z');
+    await page.keyboard.press('Enter');
+    assert.strictEqual(await page.getByRole('alertdialog').count(), 1);
+    assert.strictEqual(await page.locator('.StringValue input').first().inputValue(), 'boltxy z');
+    await page.waitForTimeout(800);  // a pause: what comes now is an answer
+    await page.keyboard.press('Enter');
+    await page.getByRole('alertdialog').waitFor({state: 'detached'});
+    await idle(page);
+    assert.deepStrictEqual(host.actions.map(({action, text}) => text ?? action), ['boltx', 'answerMessage', 'boltxy z']);
+  },
+
+  async aTextThatIsRefusedForNowIsSentAgain() {
+    let refusals = 0;
+    const {page, host} = await show(state => { state.dialog = everyKind(); }, {act: ({input: key, text}, {state}) => {
+      if (++refusals < 3) throw Object.assign(new Error('a message waits for an answer'), {more: {waiting: true}});
+      state.dialog.inputs[0].inputs.find(each => each.key === key).value = text;
+    }});
+    await page.getByLabel('Name').fill('nut');
+    await idle(page);
+    assert.strictEqual(await page.getByLabel('Name').inputValue(), 'nut');
+    assert.deepStrictEqual(acted(host, 'paste').map(({text}) => text), ['nut', 'nut', 'nut']);
+    assert.strictEqual(await page.locator('.notices p').count(), 0);
   },
 
   async answersOvertakeWhatIsNotDone() {

@@ -1,8 +1,8 @@
 // The page of the host with the real program behind it: what a designer does in an hour, in a minute.
 //
-//   node host_test.js PROGRAM FILE.step
+//   node host_test.js PROGRAM FILE.step [DATA]
 //
-// The file is the planetary gearbox of the samples. Pictures of all steps go to build/web/host/.
+// The file is the planetary gearbox of the samples; DATA has the files of tests/real_files.md. Pictures of all steps go to build/web/host/.
 'use strict';
 const assert = require('assert');
 const fs = require('fs');
@@ -12,7 +12,8 @@ const {violations} = require('../site/browser');
 const {closeTabs, checkComplaints, openHost, startBrowser} = require('./page');
 
 const pictures = path.join(__dirname, '../../build/web/host');
-const [program, file] = process.argv.slice(2);
+const [program, file, place = ''] = process.argv.slice(2);
+const data = process.env.TARNIX_TEST_DATA ?? place;
 const dialog = '#command-dialog';
 
 let page, host;
@@ -309,23 +310,81 @@ const steps = {
   },
 };
 
+// The same with files of other people's systems.
+const realSteps = {
+  async aRealAssemblyIsShown() {
+    assert.strictEqual(await page.evaluate(() => hostPage.scene.viewer.stats().instances), 18);  // plate, rod, 2 brackets, 6 bolts, 8 nuts
+    await openBom();
+    await tab('Structure');
+    await tab('Data of Model');
+    const before = await column('Part Number');
+    await page.locator('.body .pictured button:has(img[src*="/ColapseAsm/"])').first().click();
+    await until(count => document.querySelectorAll('.table .body > [data-row]').length > count, before.length);
+    await close();
+  },
+
+  async aRealPartIsPickedInTheModel() {
+    await press('QEMA_EditPropertiesCmd');
+    await page.waitForSelector(dialog);
+    await page.getByRole('button', {name: 'Clear the selection'}).click();
+    const picked = await clickOnAPart();
+    await page.waitForSelector('.choose[data-picked="1"]');
+    assert.deepStrictEqual((await state()).selection, [picked]);
+    await close();
+  },
+
+  async aLargeRealAssemblyIsOpened() {
+    fs.copyFileSync(path.join(data, 'PCB_v3.5.step'), path.join(host.data, 'gears/board.step'));
+    await page.keyboard.press('Control+o');
+    await page.getByRole('option', {name: 'gears'}).dblclick();
+    await page.getByRole('option', {name: 'board.step'}).dblclick();
+    await page.waitForFunction(() => hostPage.line.state.document.file === 'gears/board.step' && hostPage.line.isSettled, null, {timeout: 120_000});
+    await page.waitForFunction(() => hostPage.scene.viewer && hostPage.scene.shownRevision === hostPage.line.state.model.revision, null, {timeout: 120_000});
+    assert.strictEqual(await page.evaluate(() => hostPage.scene.viewer.stats().instances), 625);  // as many have bodies by the parts list
+    await openBom();
+    await close();
+  },
+
+  async aFileThatCrashesTheReaderIsSaid() {
+    fs.copyFileSync(path.join(data, 'malformed/U008.stp'), path.join(host.data, 'gears/U008.stp'));
+    await page.keyboard.press('Control+o');
+    await page.getByRole('option', {name: 'gears'}).dblclick();
+    await page.getByRole('option', {name: 'U008.stp'}).dblclick();
+    await page.waitForSelector('.notices :text("the reader crashed")');
+    assert.strictEqual((await state()).document.file, 'gears/board.step');  // it is still there
+  },
+};
+
+async function runSteps(all, name) {
+  page = await openHost(host.url);
+  page.setDefaultTimeout(15_000);
+  for (const [each, step] of Object.entries(all)) {
+    name(each);
+    const start = Date.now();
+    await step();
+    checkComplaints();
+    if (host.running) await picture(each);
+    if (process.env.TIMES) console.log(`${each} ${Date.now() - start} ms`);
+  }
+  console.log(`${Object.keys(all).length} steps`);
+}
+
 async function main() {
   fs.mkdirSync(pictures, {recursive: true});
-  host = await serveHost(program, file);
+  const real = path.join(data, 'as1-oc-214.stp');
   const browser = await startBrowser();
   let name = '';
   try {
-    page = await openHost(host.url);
-    page.setDefaultTimeout(15_000);
-    for (const [each, step] of Object.entries(steps)) {
-      name = each;
-      const start = Date.now();
-      await step();
-      checkComplaints();
-      if (host.running) await picture(name);
-      if (process.env.TIMES) console.log(`${name} ${Date.now() - start} ms`);
+    host = await serveHost(program, file);
+    await runSteps(steps, each => { name = each; });
+    if (data && fs.existsSync(real)) {
+      await host.stop();
+      await closeTabs();
+      host = await serveHost(program, real);
+      await runSteps(realSteps, each => { name = each; });
+    } else {
+      console.log('SKIPPED: no real files');
     }
-    console.log(`${Object.keys(steps).length} steps`);
   } catch (error) {
     console.error(`${name}: ${error.stack}`);
     await page?.screenshot({path: path.join(pictures, 'failed.png')}).catch(() => {});
@@ -333,7 +392,7 @@ async function main() {
   }
   await closeTabs();
   await browser.close();
-  await host.stop();
+  await host?.stop();
 }
 
 main();

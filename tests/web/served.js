@@ -21,6 +21,8 @@ async function serveHost(program, file) {
   }));
   /// Ends the program as Ctrl-C does; throws what it ended with, if that is no success.
   host.stop = async () => {
+    if (host.isStopped) return;
+    host.isStopped = true;
     child.kill('SIGTERM');
     const status = await ended;
     fs.rmSync(folder, {recursive: true, force: true});

@@ -115,7 +115,7 @@ function Host({line, state, notice, made}: Props & {state: State}) {
     {asking?.what === 'save' && <FilesBox title={texts.saveTitle} filters={[]} save={asking.name} refusal={asking.problem} line={line} cancel={() => setAsking(null)} pick={([file]) => void saveTo(designFile(file), false)}/>}
     {asking?.what === 'replace' && <AskBox title={texts.replaceTitle} text={texts.replaceText(asking.name)} yes={texts.replace} cancel={() => setAsking(null)} act={() => void saveTo(asking.file, true)}/>}
     {asking?.what === 'discard' && <AskBox title={texts.discardTitle} text={texts.discardText(state.document.name)} yes={texts.discard} cancel={() => setAsking(null)} act={() => void open(asking.file, true)}/>}
-    {state.fileDialog && <FilesBox key={state.fileDialog.id} title={state.fileDialog.title || texts.open} filters={state.fileDialog.filters} filter={state.fileDialog.filter} multiple={state.fileDialog.multiple} line={line}
+    {state.fileDialog && <FilesBox key={state.fileDialog.id} title={state.fileDialog.title || texts.open} filters={state.fileDialog.filters} filter={state.fileDialog.filter} multiple={state.fileDialog.multiple} unasked line={line}
                                    pick={files => void line.act('answerFile', {id: state.fileDialog!.id, files})} cancel={() => void line.act('answerFile', {id: state.fileDialog!.id, files: null})}/>}
     {state.message && <MessageBox key={state.message.id} message={state.message} addin={state.addin.name} line={line}/>}
   </>;

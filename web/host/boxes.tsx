@@ -5,15 +5,18 @@ import type {Connection} from './connection.ts';
 import {Icon, type Sign} from './icons.tsx';
 import type {FileEntry, Filter, Message, Progress} from './protocol.ts';
 import {texts} from './texts.ts';
+import {typingOn, type TypingOn} from './typing_on.ts';
 
-interface ModalProps { title: string; class?: string; children: ComponentChildren; escape(): void; alert?: boolean }
+interface ModalProps { title: string; class?: string; children: ComponentChildren; escape(): void; alert?: boolean; unasked?: boolean /* it comes while the user may be typing */ }
 
 /// A window before which nothing else can be used.
-export function Modal({title, class: style = '', children, escape, alert}: ModalProps) {
+export function Modal({title, class: style = '', children, escape, alert, unasked}: ModalProps) {
   const root = useRef<HTMLDialogElement>(null);
+  const typing = useRef<TypingOn | null>(null);
   useLayoutEffect(() => {
     const back = document.activeElement as HTMLElement | null;
     const own = root.current!;
+    if (unasked) typing.current = typingOn(back);
     own.showModal();
     own.querySelector<HTMLElement>('[data-first]')?.focus();
     return () => {
@@ -27,6 +30,7 @@ export function Modal({title, class: style = '', children, escape, alert}: Modal
   };
   const keys = (event: KeyboardEvent) => {
     event.stopPropagation();
+    if (typing.current?.takes(event)) return event.preventDefault();
     if (event.key !== 'Escape') return;
     event.preventDefault();
     escape();
@@ -46,7 +50,7 @@ export function MessageBox({message, addin, line}: {message: Message; addin: str
   const away = buttons.find(each => each.answer === 'cancel') ?? buttons.find(each => each.answer === 'no') ?? (buttons.length === 1 ? buttons[0] : null);
   const sign = signs[message.icon];
   return (
-    <Modal title={message.title || addin} class="message" alert escape={() => { if (away) answer(away.answer); }}>
+    <Modal title={message.title || addin} class="message" alert unasked escape={() => { if (away) answer(away.answer); }}>
       <div class={`said ${message.icon}`}>{sign && <Icon sign={sign}/>}<p>{message.text}</p></div>
       <div class="choices">
         {buttons.map((each, i) => <button key={each.answer} type="button" class={`push${i === 0 ? ' main' : ''}`} data-first={i === 0 || undefined} onClick={() => answer(each.answer)}>{each.caption}</button>)}
@@ -68,6 +72,7 @@ interface FilesProps {
   title: string; filters: Filter[]; filter?: number; multiple?: boolean; line: Connection;
   save?: string;                       ///< it asks for a name, and begins with this one
   refusal?: string;                    ///< why the name that was picked last will not do
+  unasked?: boolean;
   extra?: {caption: string; act(): void};
   pick(files: string[]): void; cancel(): void;
 }
@@ -86,7 +91,7 @@ function fits(name: string, {patterns}: Filter): boolean {
 const sizeText = (size: number) => size < 1000 ? `${size} B` : size < 1e6 ? `${Math.round(size / 1e3)} kB` : `${(size / 1e6).toFixed(1)} MB`;
 
 /// Files of the user's data.
-export function FilesBox({title, filters, filter = 0, multiple = false, line, save, refusal, extra, pick, cancel}: FilesProps) {
+export function FilesBox({title, filters, filter = 0, multiple = false, line, save, refusal, extra, unasked, pick, cancel}: FilesProps) {
   const choices = filters.length ? filters : [everything];
   const isSaving = save !== undefined;
   const [folder, setFolder] = useState(isSaving && save.includes('/') ? save.slice(0, save.lastIndexOf('/')) : '');
@@ -137,7 +142,7 @@ export function FilesBox({title, filters, filter = 0, multiple = false, line, sa
   const crumbs = folder.split('/').filter(Boolean);
   const canAccept = isSaving ? name.trim() !== '' : chosen.length > 0;
   return (
-    <Modal title={title} class="files" escape={cancel}>
+    <Modal title={title} class="files" unasked={unasked} escape={cancel}>
       <nav class="crumbs" aria-label={texts.dataFolder}>
         <button type="button" class="tool" disabled={!folder} title={texts.folderUp} aria-label={texts.folderUp} onClick={() => enter(crumbs.slice(0, -1).join('/'))}><Icon sign="up"/></button>
         {[texts.dataFolder, ...crumbs].map((each, i) => <button key={i} type="button" class="crumb" onClick={() => enter(crumbs.slice(0, i).join('/'))}>{each}</button>)}

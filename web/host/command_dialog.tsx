@@ -1,5 +1,5 @@
 // The dialog of the running command.
-import {useEffect, useRef} from 'preact/hooks';
+import {useEffect, useRef, useState} from 'preact/hooks';
 import type {Connection} from './connection.ts';
 import {Frame, type Box} from './frame.tsx';
 import {Picture} from './icons.tsx';
@@ -7,6 +7,8 @@ import {Fields} from './inputs.tsx';
 import type {Dialog, Input} from './protocol.ts';
 
 const usual = {width: 320, height: 0};
+const browserWidth = 248, modelWidth = 392;  // pixels that a docked dialog leaves to what is beside it
+const docks = new Map<string, boolean>();  // by command: what the user chose
 const places = new Map<string, {left: number; top: number}>();  // by command: where the user left it
 
 interface Props { dialog: Dialog; line: Connection; frozen: boolean; room(): {width: number; height: number} }
@@ -15,6 +17,13 @@ export function CommandDialog({dialog, line, frozen, room}: Props) {
   const tabs = dialog.inputs.filter(each => each.kind === 'Tab' && each.visible);
   const others = dialog.inputs.filter(each => each.kind !== 'Tab');
   const active = tabs.find(each => each.active);
+  const [, redraw] = useState(0);
+  const docked = docks.get(dialog.command) ?? coversModel(dialog, room());
+  const dock = (to: boolean) => {
+    docks.set(dialog.command, to);
+    redraw(n => n + 1);
+  };
+  const size = (width: number, height: number) => void line.act('resize', {width, height: docked ? dialog.height || height : height});
   const cancel = () => void line.act('cancel');
   const ok = () => { if (dialog.ok.enabled) void line.act('ok'); };
   const keys = (event: KeyboardEvent) => {
@@ -25,8 +34,8 @@ export function CommandDialog({dialog, line, frozen, room}: Props) {
     event.preventDefault();
   };
   return (
-    <Frame key={dialog.command} title={dialog.caption} name="command-dialog" class="command-window" box={placed(dialog, room())} focusAtFirst close={cancel} closeLabel={dialog.cancel.text} keys={keys}
-           moved={(left, top) => places.set(dialog.command, {left, top})} sized={(width, height) => void line.act('resize', {width, height})}>
+    <Frame key={dialog.command} title={dialog.caption} name="command-dialog" class="command-window" box={docked ? beside(dialog, room()) : placed(dialog, room())} focusAtFirst close={cancel} closeLabel={dialog.cancel.text} keys={keys}
+           moved={(left, top) => places.set(dialog.command, {left, top})} sized={size} docked={docked} dock={dock}>
       {tabs.length > 0 && <Tabs tabs={tabs} active={active} line={line} frozen={frozen}/>}
       <div class="contents" role={active ? 'tabpanel' : undefined} aria-labelledby={active ? `tab-${active.key}` : undefined}>
         <Fields inputs={others} line={line}/>
@@ -39,6 +48,15 @@ export function CommandDialog({dialog, line, frozen, room}: Props) {
         <button type="button" class="push" disabled={frozen} onClick={cancel}>{dialog.cancel.text}</button>
       </footer>
     </Frame>);
+}
+
+// One that would leave the user less than half of the model to pick in.
+function coversModel(dialog: Dialog, room: {width: number; height: number}): boolean {
+  return dialog.width > (room.width - browserWidth) / 2 && room.width >= browserWidth + modelWidth + usual.width;
+}
+
+function beside(dialog: Dialog, room: {width: number; height: number}): Box {
+  return {left: 0, top: 0, height: 0, width: Math.max(usual.width, Math.min(dialog.width || usual.width, room.width - browserWidth - modelWidth))};
 }
 
 function placed(dialog: Dialog, room: {width: number; height: number}): Box {

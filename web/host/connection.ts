@@ -1,5 +1,6 @@
 // The line to the program: its state with all changes, and actions one after another.
 import {applyPatch, type Operation} from 'fast-json-patch';
+import {keyHeader, withKey} from './key.ts';
 import type {Answer, Folder, State} from './protocol.ts';
 
 /// `asleep`: the page is hidden, and holds no connection; `full`: other pages have all that the program offers.
@@ -17,7 +18,10 @@ const urgent = new Set(['answerMessage', 'answerFile', 'cancelProgress']);
 
 const firstPause = 500, longestPause = 16000;  // milliseconds until the line is tried again
 
+const heldPause = 100;  // milliseconds after which a text is sent again that came while the program waited for something else
+
 // A page that lost its stream is unknown to the program: the action was not looked at.
+const isRefusedForNow = ({status, waiting}: Answer) => status === 409 && waiting === true;
 const isUnknownPage = ({status, error = ''}: Answer) => status === 410 || status === 404 && error.startsWith('no such page');
 
 export class Connection {
@@ -39,7 +43,7 @@ export class Connection {
   private readonly ahead = new Set<Waiting>();  // sent beside it
   private answered = 0;  // the revision that has what the last action changed
   private isWaitedFor = false;  // the last answer came before the action was done
-  private watching: {revision: number; resolve: () => void}[] = [];
+  private isPaused = false;
   private readonly versions = new Map<string, number>();
 
   /// A browser allows few connections to one program, for all pages together: a page that is not seen gives its own up.
@@ -83,16 +87,8 @@ export class Connection {
     });
   }
 
-  /// Resolves when the state has what was done, or the line is lost.
-  shown({revision = 0}: Answer): Promise<void> {
-    return new Promise(resolve => {
-      this.watching.push({revision, resolve});
-      this.tell();
-    });
-  }
-
   async files(folder: string): Promise<Folder> {
-    const response = await fetch(`/files?folder=${encodeURIComponent(folder)}`);
+    const response = await fetch(`/files?folder=${encodeURIComponent(folder)}`, {headers: keyHeader()});
     const answer = await response.json() as Folder & {error?: string};
     if (!response.ok) throw new Error(answer.error ?? response.statusText);
     return answer;
@@ -101,7 +97,7 @@ export class Connection {
   private open(): void {
     if (this.events) return;
     clearTimeout(this.retry);
-    const events = new EventSource('/events');
+    const events = new EventSource(withKey('/events'));
     this.events = events;
     const on = (name: string, act: (event: Event) => void) => events.addEventListener(name, event => { if (this.events === events) act(event); });
     on('state', event => this.begin(JSON.parse((event as MessageEvent<string>).data)));
@@ -128,7 +124,7 @@ export class Connection {
   private async refused(): Promise<void> {
     this.close();
     const stop = new AbortController();
-    const status = await fetch('/events', {signal: stop.signal}).then(response => response.status, () => 0);
+    const status = await fetch('/events', {headers: keyHeader(), signal: stop.signal}).then(response => response.status, () => 0);
     stop.abort();
     if (this.events) return;
     this.lose(status === 403 ? 'refused' : status === 503 ? 'full' : 'lost');
@@ -143,7 +139,6 @@ export class Connection {
 
   private lose(line: Line): void {
     this.line = line;
-    this.tell();
     this.send();
     this.onChange();
   }
@@ -151,7 +146,7 @@ export class Connection {
   // Nothing else is done while the program waits for an answer, or works itself.
   private get isHeld(): boolean {
     const {state} = this;
-    return !state || this.isWaitedFor && this.revision < this.answered || state.message !== null || state.fileDialog !== null || state.busy !== null;
+    return !state || this.isPaused || this.isWaitedFor && this.revision < this.answered || state.message !== null || state.fileDialog !== null || state.busy !== null;
   }
 
   private send(): void {
@@ -178,6 +173,7 @@ export class Connection {
     else this.inTurn = null;
     if (openings === this.openings) this.answered = Math.max(this.answered, answer.revision ?? 0);
     if (!isAhead) this.isWaitedFor = answer.waiting === true;
+    if (isRefusedForNow(answer)) this.pauseOnce();
     if (this.isUndelivered(sent, answer)) this.keep(sent);
     else sent.done.forEach(each => each(answer));
     if ((answer.status === 0 || isUnknownPage(answer)) && openings === this.openings && this.line === 'open') this.openAnew();
@@ -188,7 +184,18 @@ export class Connection {
 
   // A text replaces the one before, so that sending it twice does no harm.
   private isUndelivered({action}: Waiting, answer: Answer): boolean {
-    return action === 'paste' && (answer.status === 0 || isUnknownPage(answer) || answer.status === 409 && this.isHeld);
+    return action === 'paste' && (answer.status === 0 || isUnknownPage(answer) || isRefusedForNow(answer));
+  }
+
+  // What the program waits for is on its way here, or over already.
+  private pauseOnce(): void {
+    if (this.isPaused) return;
+    this.isPaused = true;
+    setTimeout(() => {
+      this.isPaused = false;
+      this.send();
+      this.onChange();
+    }, heldPause);
   }
 
   private keep(sent: Waiting): void {
@@ -206,7 +213,7 @@ export class Connection {
   private async post(action: string, members: Members): Promise<Answer> {
     try {
       const response = await fetch('/actions', {
-        method: 'POST', headers: {'Content-Type': 'application/json'}, body: JSON.stringify({page: this.page, action, ...members})});
+        method: 'POST', headers: {'Content-Type': 'application/json', ...keyHeader()}, body: JSON.stringify({page: this.page, action, ...members})});
       const answer = await response.json().catch(() => ({error: response.statusText})) as Answer;
       return response.ok ? answer : {...answer, error: answer.error ?? response.statusText, status: response.status};
     } catch {
@@ -224,7 +231,6 @@ export class Connection {
     ++this.openings;
     for (const member of Object.keys(state)) this.touch(member);
     this.dropForeignTexts(state.dialog?.command);
-    this.tell();
     this.send();
     this.onChange();
   }
@@ -250,16 +256,8 @@ export class Connection {
     }
     for (const {path} of patch) this.touch(path.split('/')[1]);
     this.revision = revision;
-    this.tell();
     this.send();
     this.onChange();
-  }
-
-  private tell(): void {
-    const isOver = ({revision}: {revision: number}) => revision <= this.revision || this.line === 'lost';
-    const over = this.watching.filter(isOver);
-    this.watching = this.watching.filter(each => !isOver(each));
-    over.forEach(({resolve}) => resolve());
   }
 
   private touch(member: string): void {

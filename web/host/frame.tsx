@@ -1,4 +1,4 @@
-// A window over the model: moved by its title, sized at its corner, by pointer or keys.
+// A window over the model, moved by its title and sized at its corner, or docked beside it and sized at its edge; by pointer or keys.
 import type {ComponentChildren} from 'preact';
 import {useLayoutEffect, useRef, useState} from 'preact/hooks';
 import {Icon} from './icons.tsx';
@@ -16,13 +16,15 @@ interface Props {
   sized?(width: number, height: number): void;
   keys?(event: KeyboardEvent): void;
   focusAtFirst?: boolean;
+  docked?: boolean;
+  dock?(docked: boolean): void;
 }
 
 const least = {width: 220, height: 120};
 const step = 16;
 const grip = 60;  // pixels of a title that stay in the window
 
-export function Frame({title, name, box, children, class: style = '', role = 'dialog', close, closeLabel, moved, sized, keys, focusAtFirst}: Props) {
+export function Frame({title, name, box, children, class: style = '', role = 'dialog', close, closeLabel, moved, sized, keys, focusAtFirst, docked = false, dock}: Props) {
   const root = useRef<HTMLElement>(null);
   const [place, setPlace] = useState<{left: number; top: number} | null>(null);
   const [size, setSize] = useState<{width: number; height: number} | null>(null);
@@ -33,7 +35,7 @@ export function Frame({title, name, box, children, class: style = '', role = 'di
     return {left: Math.round(Math.max(grip - own, Math.min(width - grip, left))), top: Math.round(Math.max(0, Math.min(height - 34, top)))};
   };
   useLayoutEffect(() => { if (focusAtFirst) root.current!.focus(); }, []);
-  useLayoutEffect(() => setSize(null), [box.width, box.height]);
+  useLayoutEffect(() => setSize(null), [box.width, box.height, docked]);
 
   const start = (event: PointerEvent) => {
     if ((event.target as Element).closest('button')) return;
@@ -49,7 +51,8 @@ export function Frame({title, name, box, children, class: style = '', role = 'di
   const placed = () => { if (place) moved?.(place.left, place.top); };
   const grow = (width: number, height: number) => setSize({width: Math.max(least.width, Math.round(width)), height: Math.max(least.height, Math.round(height))});
   const resize = (event: PointerEvent) => {
-    if (isDragging(event)) grow(drag.current.width + event.clientX - drag.current.x, drag.current.height + event.clientY - drag.current.y);
+    const {x, y, width: wide, height: high} = drag.current;
+    if (isDragging(event)) grow(wide + (docked ? x - event.clientX : event.clientX - x), high + event.clientY - y);
   };
   const resized = () => { if (size) sized?.(size.width, size.height); };
   const arrows = (event: KeyboardEvent, act: (x: number, y: number) => void) => {
@@ -68,14 +71,15 @@ export function Frame({title, name, box, children, class: style = '', role = 'di
   const at = place ?? {left: box.left, top: box.top};
   const {width, height} = size ?? box;
   return (
-    <section class={`frame ${style}`} role={role} aria-labelledby={`${name}-title`} id={name} tabIndex={-1} ref={root} onKeyDown={event => event.altKey ? arrows(event, moveBy) : keys?.(event)}
-             style={{left: `${at.left}px`, top: `${at.top}px`, width: width ? `${width}px` : undefined, height: height ? `${height}px` : undefined}}>
-      <header onPointerDown={start} onPointerMove={move} onPointerUp={placed}>
+    <section class={`frame ${style}${docked ? ' beside' : ''}`} role={role} aria-labelledby={`${name}-title`} id={name} tabIndex={-1} ref={root} onKeyDown={event => event.altKey && !docked ? arrows(event, moveBy) : keys?.(event)}
+             style={docked ? {width: `${width}px`} : {left: `${at.left}px`, top: `${at.top}px`, width: width ? `${width}px` : undefined, height: height ? `${height}px` : undefined}}>
+      <header onPointerDown={docked ? undefined : start} onPointerMove={move} onPointerUp={placed} onDblClick={event => { if (!(event.target as Element).closest('button')) dock?.(!docked); }}>
         <h2 id={`${name}-title`}>{title}</h2>
+        {dock && <button type="button" class="tool" title={docked ? texts.undock : texts.dock} aria-label={docked ? texts.undock : texts.dock} onClick={() => dock(!docked)}><Icon sign={docked ? 'undock' : 'dock'}/></button>}
         {close && <button type="button" class="tool" title={closeLabel ?? texts.close} aria-label={closeLabel ?? texts.close} onClick={close}><Icon sign="close"/></button>}
       </header>
       {children}
-      {sized && <div class="corner" role="slider" tabIndex={0} aria-label={texts.resize} aria-valuenow={width || 0} aria-valuetext={`${width} × ${height}`} onPointerDown={start} onPointerMove={resize} onPointerUp={resized}
-                     onKeyDown={event => arrows(event, growBy)}/>}
+      {sized && <div class={docked ? 'edge' : 'corner'} role="slider" tabIndex={0} aria-label={texts.resize} aria-valuenow={width || 0} aria-valuetext={docked ? String(width) : `${width} × ${height}`} onPointerDown={start} onPointerMove={resize} onPointerUp={resized}
+                     onKeyDown={event => arrows(event, (x, y) => growBy(docked ? -x : x, docked ? 0 : y))}/>}
     </section>);
 }

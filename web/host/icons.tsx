@@ -7,6 +7,7 @@ const paths = {
   log: 'M3 2.5h10v11h-10zM5.5 6h5M5.5 8.5h5M5.5 11h3',
   close: 'M4 4l8 8M12 4l-8 8', clear: 'M4 4l8 8M12 4l-8 8',
   down: 'M4 6l4 4 4-4', right: 'M6 4l4 4-4 4',
+  dock: 'M1.8 2.8h12.4v10.4H1.8zM9.5 2.8v10.4M11.8 5.5v5', undock: 'M1.8 2.8h12.4v10.4H1.8zM4.5 5.5h5v5h-5z',
   home: 'M2 8l6-5.5L14 8M4 6.8v6.7h8V6.8M6.8 13.5v-3.8h2.4v3.8',
   fit: 'M2 5V2h3M11 2h3v3M14 11v3h-3M5 14H2v-3M6 6h4v4H6z',
   perspective: 'M1.5 13h13l-4-9h-5zM3.7 8h8.6M8 4v9',

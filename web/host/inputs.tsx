@@ -155,32 +155,8 @@ function Selection({input, line}: InputProps) {
               onClick={() => void line.act('click', {input: input.key})}>
         <Icon sign="cursor"/><span>{picked.length === 1 ? String(input.value) : picked.length ? texts.selected(picked.length) : texts.pick}</span>
       </button>
-      {picked.length > 0 && <button type="button" class="tool" title={texts.clear} aria-label={texts.clear} disabled={!input.enabled} onClick={() => void clear(input.key, line)}><Icon sign="clear"/></button>}
+      {picked.length > 0 && <button type="button" class="tool" title={texts.clear} aria-label={texts.clear} disabled={!input.enabled} onClick={() => void line.act('clear', {input: input.key})}><Icon sign="clear"/></button>}
     </div>);
-}
-
-// Each pick is a toggle, and may make the add-in change the others or the focus: what is there is looked at again before the next.
-async function clear(key: number, line: Connection): Promise<void> {
-  const selection = () => inputsOf(line.state?.dialog?.inputs ?? []).find(each => each.key === key);
-  if (!selection()?.active) await line.shown(await line.act('click', {input: key}));
-  for (let before = Infinity;;) {
-    const now = selection(), picked = now?.picked ?? [];
-    if (!now?.active || !picked.length || picked.length >= before) return;
-    const path = picked.find((each, i) => each !== '' || isRoot(now, i, line));
-    if (path === undefined) return line.onRefused(texts.notInBrowser);
-    before = picked.length;
-    const answer = await line.act('pick', {path});
-    if (answer.error) return;
-    await line.shown(answer);
-  }
-}
-
-const inputsOf = (inputs: Input[]): Input[] => inputs.flatMap(each => [each, ...inputsOf(each.inputs ?? [])]);
-
-// What is nowhere in the browser has the path of the root.
-function isRoot({value, picked = []}: Input, at: number, line: Connection): boolean {
-  const names = String(value ?? '').split(', ');
-  return names.length === picked.length && names[at] === line.state?.tree.components[0]?.name;
 }
 
 function Group({input, line}: InputProps): ComponentChildren {

@@ -2,6 +2,7 @@
 import {useLayoutEffect, useRef} from 'preact/hooks';
 import {webAddress} from './formatted.ts';
 import {Icon} from './icons.tsx';
+import {withKey} from './key.ts';
 import type {LogEntry, State} from './protocol.ts';
 import {texts} from './texts.ts';
 
@@ -28,7 +29,7 @@ export function Log({state, close}: {state: State; close(): void}) {
       {state.opened.length > 0 && (
         <div class="opened"><h3>{texts.opened}</h3>
           <ul>{state.opened.slice(-8).map(({n, target, url}) => (
-            <li key={n}>{url ? <a href={url} download={target.split(/[\\/]/).pop()}>{target.split(/[\\/]/).pop()}</a>
+            <li key={n}>{url ? <a href={withKey(url)} download={target.split(/[\\/]/).pop()}>{target.split(/[\\/]/).pop()}</a>
                  : webAddress(target) ? <a href={target} target="_blank" rel="noopener noreferrer">{target}<Icon sign="external"/></a> : <span>{target}</span>}</li>))}</ul>
         </div>)}
     </aside>);

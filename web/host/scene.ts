@@ -2,6 +2,7 @@
 import {readGlb} from '../model/glb.ts';
 import type {Model, Occurrence} from '../model/model.ts';
 import {Viewer, type Pose} from '../viewer/viewer.ts';
+import {keyHeader} from './key.ts';
 
 export interface SceneEvents {
   pick(path: string): void;
@@ -49,7 +50,7 @@ export class Scene {
     this.loading = revision;
     if (this.isElsewhere || !this.viewer) this.events.said({kind: 'loading'});
     try {
-      const response = await fetch(`/model.glb?revision=${revision}`);
+      const response = await fetch(`/model.glb?revision=${revision}`, {headers: keyHeader()});
       if (turn !== this.turn) return;
       if (!response.ok) throw new Error((await response.json().catch(() => ({error: response.statusText})) as {error: string}).error);
       const bytes = await response.arrayBuffer();

@@ -1,6 +1,7 @@
 // A field that shows what is typed at once, and what the host makes of it as soon as that is known.
 import {Component, createRef} from 'preact';
 import type {Answer} from './protocol.ts';
+import {noteTyping} from './typing_on.ts';
 
 interface Props {
   value: string;
@@ -42,6 +43,7 @@ export class TextField extends Component<Props> {
 
   private input(): void {
     const text = this.field.current!.value;
+    noteTyping();
     this.typed = text;
     this.until = Infinity;
     if (this.composing) return;
