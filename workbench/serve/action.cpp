@@ -155,6 +155,7 @@ void readFiles(Action& action, const Members& members) {
     if (!members.at("files").is_null()) {
         action.files = members.texts("files");
     }
+    action.replace = members.flag("replace");
 }
 
 void readFile(Action& action, const Members& members) {

@@ -59,7 +59,7 @@ struct Action {
     int id = 0;  ///< of a message or a file dialog
     std::size_t from = 0;
     std::size_t count = 0;
-    bool replace = false;  ///< of `save`: a file that exists
+    bool replace = false;  ///< of `save` and `answerFile`: a file that exists
     bool discard = false;  ///< of `open`: changes that are not saved
 };
 

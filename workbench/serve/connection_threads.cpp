@@ -1,5 +1,6 @@
 #include "workbench/serve/connection_threads.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace workbench::serve {
@@ -15,11 +16,12 @@ bool ConnectionThreads::isRefusing() { return refusing; }
 void ConnectionThreads::enqueue(Work work) {
     {
         const std::lock_guard lock(mutex_);
-        const bool hasThread = idle_ > waiting_.size();
-        if (hasThread || threads_.size() < most_ || makeRoom_()) {
+        if (countWithoutThread() < mostWaiting_) {
             waiting_.push_back(std::move(work));
-            if (!hasThread && threads_.size() < most_) {
+            if (countWithoutThread() > 0 && threads_.size() < most_) {
                 threads_.emplace_back([this] { serve(); });
+            } else if (countWithoutThread() > 0) {
+                makeRoom_();
             }
             changed_.notify_one();
             return;
@@ -28,6 +30,21 @@ void ConnectionThreads::enqueue(Work work) {
     refusing = true;
     work();
     refusing = false;
+}
+
+void ConnectionThreads::on_idle() {
+    std::size_t count = 0;
+    {
+        const std::lock_guard lock(mutex_);
+        count = countWithoutThread();
+    }
+    for (; count > 0; --count) {
+        makeRoom_();
+    }
+}
+
+std::size_t ConnectionThreads::countWithoutThread() const {
+    return waiting_.size() - std::min(waiting_.size(), idle_);
 }
 
 void ConnectionThreads::shutdown() {

@@ -17,13 +17,16 @@ class ConnectionThreads final : public httplib::TaskQueue {
 public:
     using Work = std::function<void()>;
 
-    /// So many threads at most. `makeRoom` is called where all are taken: it ends what one of them
-    /// does, or returns false, and the next connection is refused.
-    ConnectionThreads(std::size_t most, std::function<bool()> makeRoom)
-        : most_(most), makeRoom_(std::move(makeRoom)) {}
+    /// So many threads at most, and so many connections that wait for one. While there are any,
+    /// `makeRoom` is called again and again: it may end what one of the threads does.
+    ConnectionThreads(std::size_t most, std::size_t mostWaiting, std::function<void()> makeRoom)
+        : most_(most), mostWaiting_(mostWaiting), makeRoom_(std::move(makeRoom)) {}
 
     /// Leaves a connection to a thread; one that is refused is done at once, see `isRefusing`.
     void enqueue(Work work) override;
+
+    /// Called between connections.
+    void on_idle() override;
 
     /// Waits until all are served.
     void shutdown() override;
@@ -35,8 +38,11 @@ private:
     void serve();
     bool take(Work& work);
 
+    [[nodiscard]] std::size_t countWithoutThread() const;
+
     std::size_t most_;
-    std::function<bool()> makeRoom_;
+    std::size_t mostWaiting_;
+    std::function<void()> makeRoom_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<Work> waiting_;

@@ -68,13 +68,28 @@ fs::path DataFolder::resolved(const std::string& name) const {
     return full;
 }
 
-Json DataFolder::list(const std::string& name) const {
-    const fs::path folder = resolved(name);
+fs::path DataFolder::existingFolder(const std::string& name) const {
+    fs::path folder = resolved(name);
     std::error_code ignored;
-    const fs::path home = fs::canonical(folder_, ignored);
     if (!fs::is_directory(folder, ignored)) {
         throw ProtocolError(kNotFound, "no such folder: \"" + name + "\"");
     }
+    return folder;
+}
+
+std::string DataFolder::folderName(const fs::path& folder) const {
+    std::error_code failure;
+    const fs::path home = fs::canonical(folder_, failure);
+    const fs::path full = fs::canonical(folder, failure);
+    const bool isInside = !failure && full != home && fs::is_directory(full, failure) &&
+                          std::ranges::mismatch(home, full).in1 == home.end();
+    return isInside ? host::toUtf8(fs::path(full.lexically_relative(home).generic_string())) : "";
+}
+
+Json DataFolder::list(const std::string& name) const {
+    const fs::path folder = existingFolder(name);
+    std::error_code ignored;
+    const fs::path home = fs::canonical(folder_, ignored);
     Json entries = Json::array();
     for (const Entry& each : entriesOf(folder, home)) {
         Json entry = {{"name", each.name}, {"folder", each.isFolder}};

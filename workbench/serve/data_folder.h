@@ -19,6 +19,12 @@ public:
     /// What a folder holds, as docs/protocol.md lists it; an empty name is the data folder.
     [[nodiscard]] Json list(const std::string& name) const;
 
+    /// A folder that is there.
+    [[nodiscard]] std::filesystem::path existingFolder(const std::string& name) const;
+
+    /// The name of a folder; empty for the data folder, and for one that is not in it.
+    [[nodiscard]] std::string folderName(const std::filesystem::path& folder) const;
+
     /// A file that is there.
     [[nodiscard]] std::filesystem::path existing(const std::string& name) const;
 

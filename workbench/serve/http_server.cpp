@@ -16,7 +16,9 @@
 #include <httplib.h>
 
 #include <charconv>
+#include <chrono>
 #include <fstream>
+#include <future>
 #include <iterator>
 #include <optional>
 #include <thread>
@@ -356,7 +358,16 @@ HttpServer::~HttpServer() {
 void HttpServer::start(ServedHost& host) {
     parts_->host.emplace(parts_->queue, host);
     parts_->addinFolder = host.addinFolder();
-    parts_->thread = std::thread([this] { parts_->server.listen_after_bind(); });
+    std::promise<void> ended;
+    std::future<void> end = ended.get_future();
+    parts_->thread = std::thread([this, ended = std::move(ended)]() mutable {
+        parts_->server.listen_after_bind();
+        ended.set_value();
+    });
+    // Until then the library takes no notice of a `stop`.
+    constexpr std::chrono::milliseconds kPause(1);
+    while (!parts_->server.is_running() && end.wait_for(kPause) != std::future_status::ready) {
+    }
 }
 
 std::string HttpServer::address() const {

@@ -4,6 +4,7 @@
 #include "workbench/serve/connection_threads.h"
 #include "workbench/serve/pages.h"
 
+#include <chrono>
 #include <string>
 
 namespace workbench::serve {
@@ -11,6 +12,7 @@ namespace {
 
 /// Each page keeps a connection for its events; these are beside those for requests.
 constexpr std::size_t kMostRequests = 64;
+constexpr std::size_t kMostWaiting = 256;
 constexpr int kMostOfAConnection = 1000;
 
 constexpr const char* kRefusal =
@@ -21,9 +23,10 @@ constexpr const char* kRefusal =
 
 LimitedServer::LimitedServer() {
     new_task_queue = [this] {
-        return new ConnectionThreads(kMostRequests + kMostPages,
+        return new ConnectionThreads(kMostRequests + kMostPages, kMostWaiting,
                                      [this] { return connections_.dropLongestSilent(); });
     };
+    set_idle_interval(std::chrono::milliseconds(50));
 }
 
 void LimitedServer::acceptMany() { static_cast<void>(::listen(svr_sock_, SOMAXCONN)); }

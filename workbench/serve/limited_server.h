@@ -7,7 +7,7 @@
 namespace workbench::serve {
 
 /// An HTTP server that many connections cannot keep from answering: those that say nothing make
-/// room for others, and where all are at work the next one is refused.
+/// room for others, and where too many wait the next one is refused.
 class LimitedServer final : public httplib::Server {
 public:
     LimitedServer();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <chrono>
 #include <map>
 #include <mutex>
 
@@ -23,16 +23,18 @@ public:
     /// Before the socket is closed.
     void remove(int socket);
 
-    /// Ends the connection that has waited longest; false where none waits.
-    bool dropLongestSilent();
+    /// Ends the connection that has waited longest, a quarter of a second at least: so long a
+    /// request may take to come.
+    void dropLongestSilent();
 
     /// Ends all that wait.
     void dropSilent();
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     std::mutex mutex_;
-    std::map<int, std::uint64_t> turns_;  ///< by socket; 0: it does not wait, or was ended
-    std::uint64_t newest_ = 0;
+    std::map<int, Clock::time_point> since_;  ///< by socket; the latest where it does not wait
 };
 
 }  // namespace workbench::serve

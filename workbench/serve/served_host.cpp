@@ -63,6 +63,7 @@ void ServedHost::begin(host::DesignData design, const std::vector<host::ReadingW
 
 void ServedHost::runAddin() {
     const Restored inside(depth_, depth_ + 1);
+    wasRun_ = true;
     running_ = session_->run();
     publish();
 }
@@ -93,7 +94,9 @@ void ServedHost::stop() {
     if (!session_) {
         return;
     }
-    session_->stop();
+    if (std::exchange(wasRun_, false)) {
+        session_->stop();
+    }
     running_ = false;
     opened_.clear();
     shellRequests_ = Json::array();
@@ -152,6 +155,7 @@ void ServedHost::reload() {
         log_.addWarning(std::string("the add-in was not loaded again: ") + error.what());
         throw;
     }
+    wasRun_ = true;
     running_ = session_->run();
 }
 

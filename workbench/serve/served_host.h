@@ -136,6 +136,8 @@ private:
     Waiting& waitingFor(int id, bool isMessage);
     void answerMessage(const Action& action);
     void answerFiles(const Action& action);
+    [[nodiscard]] std::filesystem::path pickedFile(const std::string& name,
+                                                   host::FileDialogKind kind, bool replaces) const;
     void answerWaiting();
     void watchProgress();
 
@@ -162,6 +164,7 @@ private:
     EventLog log_;
     int loads_ = 0;
     bool running_ = false;
+    bool wasRun_ = false;  ///< so it is to be stopped
     std::string busy_;
 
     std::vector<Opened> opened_;

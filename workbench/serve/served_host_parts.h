@@ -11,6 +11,7 @@ struct ServedHost::Waiting {
     int id = 0;
     Json message;  ///< null for a file dialog
     Json fileDialog;
+    host::FileDialogKind kind = host::FileDialogKind::Open;
     bool answered = false;
     adsk::core::DialogResults result = adsk::core::DialogOK;
     host::PickedFiles files;

@@ -54,7 +54,9 @@ adsk::core::DialogResults ServedHost::askMessage(const host::Message& message) {
 host::PickedFiles ServedHost::askFiles(const host::FileDialogShown& dialog) {
     Waiting waiting;
     waiting.id = ++newestQuestion_;
-    waiting.fileDialog = fileDialogJson(waiting.id, dialog);
+    waiting.fileDialog = fileDialogJson(waiting.id, dialog,
+                                        data_.folderName(host::fromUtf8(dialog.initialDirectory)));
+    waiting.kind = dialog.kind;
     waitForAnswer(waiting);
     return waiting.files;
 }
@@ -93,6 +95,22 @@ void ServedHost::answerMessage(const Action& action) {
     waiting.answered = true;
 }
 
+std::filesystem::path ServedHost::pickedFile(const std::string& name, host::FileDialogKind kind,
+                                             bool replaces) const {
+    if (kind == host::FileDialogKind::Folder) {
+        return data_.existingFolder(name);
+    }
+    if (kind == host::FileDialogKind::Open) {
+        return data_.existing(name);
+    }
+    std::filesystem::path file = data_.writable(name);
+    std::error_code ignored;
+    if (!replaces && std::filesystem::exists(file, ignored)) {
+        throw ProtocolError(kConflict, "\"" + name + "\" exists already", "exists");
+    }
+    return file;
+}
+
 void ServedHost::answerFiles(const Action& action) {
     Waiting& waiting = waitingFor(action.id, /*isMessage=*/false);
     host::PickedFiles picked;
@@ -102,7 +120,7 @@ void ServedHost::answerFiles(const Action& action) {
         }
         picked.emplace();
         for (const std::string& each : *action.files) {
-            picked->push_back(host::toUtf8(data_.existing(each)));
+            picked->push_back(host::toUtf8(pickedFile(each, waiting.kind, action.replace)));
         }
     }
     waiting.files = std::move(picked);

@@ -228,6 +228,17 @@ Json filtersJson(std::string filter) {
     return filters;
 }
 
+const char* kindName(host::FileDialogKind kind) {
+    switch (kind) {
+        case host::FileDialogKind::Save:
+            return "save";
+        case host::FileDialogKind::Folder:
+            return "folder";
+        default:
+            return "open";
+    }
+}
+
 }  // namespace
 
 Json controlsJson(const std::vector<host::ControlView>& controls, AddinPictures& pictures) {
@@ -286,8 +297,11 @@ Json messageJson(int id, const host::Message& message) {
             {"buttons", buttonsJson(message.buttons)}};
 }
 
-Json fileDialogJson(int id, const host::FileDialogShown& dialog) {
+Json fileDialogJson(int id, const host::FileDialogShown& dialog, const std::string& folder) {
     return {{"id", id},
+            {"kind", kindName(dialog.kind)},
+            {"folder", folder},
+            {"name", dialog.initialFilename},
             {"title", dialog.title},
             {"filters", filtersJson(dialog.filter)},
             {"filter", dialog.filterIndex},

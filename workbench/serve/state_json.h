@@ -29,7 +29,7 @@ Json dialogJson(const host::DialogView& dialog, AddinPictures& pictures);
 Json rowsJson(const std::vector<host::RowView>& rows, AddinPictures& pictures);
 
 Json messageJson(int id, const host::Message& message);
-Json fileDialogJson(int id, const host::FileDialogShown& dialog);
+Json fileDialogJson(int id, const host::FileDialogShown& dialog, const std::string& folder);
 Json progressJson(const host::Progress& progress);
 Json palettesJson(const std::vector<host::PaletteView>& palettes);
 

@@ -136,6 +136,62 @@ TEST_F(StagedPages, RefusalAfterTheAnswerIsInTheLog) {
     EXPECT_EQ(page.act({{"action", "cancel"}})["ok"], true);
 }
 
+TEST_F(StagedPages, WorkOfAnotherThreadIsShownAlthoughNobodyActs) {
+    serve();
+    PageClient page(*program);
+
+    page.act(pressing("StagedLater"));
+
+    EXPECT_FALSE(page.waitFor([](const Json& state) {
+                         return state["tree"]["components"][0]["partNumber"] == "later";
+                     })
+                     .is_null());
+}
+
+TEST_F(StagedPages, FileToWriteIsNamedAndReplacedOnlyIfTheUserAgrees) {
+    serve();
+    const std::filesystem::path local = folder.path() / "data/tarnix-workbench/Projects/Local";
+    writeFile(local / "list.txt", "there");
+    PageClient page(*program);
+    page.act(pressing("StagedSaveFile"));
+    const Json dialog = page.state()["fileDialog"];
+    EXPECT_EQ(dialog["kind"], "save");
+    EXPECT_EQ(dialog["name"], "list.txt");
+    const auto answer = [&](const std::string& file, bool replace) {
+        return page.act({{"action", "answerFile"},
+                         {"id", dialog["id"]},
+                         {"files", {file}},
+                         {"replace", replace}});
+    };
+
+    EXPECT_EQ(answer("Local", false)["status"], 409);
+    EXPECT_EQ(answer("../list.txt", false)["status"], 404);
+    EXPECT_EQ(answer("Local/list.txt", false)["exists"], true);
+    EXPECT_EQ(answer("Local/list.txt", true)["ok"], true);
+
+    const Json said = page.waitFor([](const Json& state) { return state["message"].is_object(); });
+    EXPECT_EQ(said["message"]["text"],
+              host::toUtf8(std::filesystem::canonical(local) / "list.txt"));
+    EXPECT_EQ(readFile(local / "list.txt"), "there");
+}
+
+TEST_F(StagedPages, FolderIsPicked) {
+    serve();
+    PageClient page(*program);
+    page.act(pressing("StagedPickFolder"));
+    const Json dialog = page.state()["fileDialog"];
+    EXPECT_EQ(dialog["kind"], "folder");
+    const auto answer = [&](const std::string& file) {
+        return page.act({{"action", "answerFile"}, {"id", dialog["id"]}, {"files", {file}}});
+    };
+
+    EXPECT_EQ(answer("Local/nowhere")["status"], 404);
+    EXPECT_EQ(answer("Local")["ok"], true);
+
+    const Json said = page.waitFor([](const Json& state) { return state["message"].is_object(); });
+    EXPECT_TRUE(said["message"]["text"].get<std::string>().ends_with("/Projects/Local"));
+}
+
 TEST_F(StagedPages, PreviewIsNeitherSavedNorKept) {
     serve();
     PageClient page(*program);
@@ -163,7 +219,7 @@ TEST_F(StagedPages, AddinIsAskedToStopHoweverOftenTheSignalComes) {
     EXPECT_EQ(readFile(stopped), "stopped");
 }
 
-TEST_F(StagedPages, AddinIsAskedToStopWhereServingFails) {
+TEST_F(StagedPages, ProgramEndsWhereItsAddressCannotBePrinted) {
     const std::filesystem::path stopped = folder.path() / "stopped";
     variables.set("STAGED_STOPPED", stopped);
 
@@ -172,7 +228,7 @@ TEST_F(StagedPages, AddinIsAskedToStopWhereServingFails) {
                                      "/dev/full", folder.path() / "errors");
 
     EXPECT_EQ(status, 5) << readFile(folder.path() / "errors");
-    EXPECT_EQ(readFile(stopped), "stopped");
+    EXPECT_FALSE(std::filesystem::exists(stopped));  // it had not been run either
 }
 
 }  // namespace

@@ -2,11 +2,13 @@
 
 #include <sys/socket.h>
 
+#include <algorithm>
+
 namespace workbench::serve {
 namespace {
 
 /// Its thread finds the end of the connection, and closes it.
-void end(int socket) { static_cast<void>(::shutdown(socket, SHUT_RDWR)); }
+void hangUp(int socket) { static_cast<void>(::shutdown(socket, SHUT_RDWR)); }
 
 }  // namespace
 
@@ -14,37 +16,36 @@ void OpenConnections::add(int socket) { wait(socket); }
 
 void OpenConnections::wait(int socket) {
     const std::lock_guard lock(mutex_);
-    turns_[socket] = ++newest_;
+    since_[socket] = Clock::now();
 }
 
 void OpenConnections::work(int socket) {
     const std::lock_guard lock(mutex_);
-    turns_[socket] = 0;
+    since_[socket] = Clock::time_point::max();
 }
 
 void OpenConnections::remove(int socket) {
     const std::lock_guard lock(mutex_);
-    turns_.erase(socket);
+    since_.erase(socket);
 }
 
-bool OpenConnections::dropLongestSilent() {
+void OpenConnections::dropLongestSilent() {
+    constexpr std::chrono::milliseconds kPatience(250);
     const std::lock_guard lock(mutex_);
-    auto longest = turns_.end();
-    for (auto each = turns_.begin(); each != turns_.end(); ++each) {
-        if (each->second != 0 && (longest == turns_.end() || each->second < longest->second)) {
-            longest = each;
-        }
+    const auto longest =
+        std::ranges::min_element(since_, {}, [](const auto& each) { return each.second; });
+    if (longest != since_.end() && longest->second < Clock::now() - kPatience) {
+        hangUp(longest->first);
+        longest->second = Clock::time_point::max();
     }
-    if (longest == turns_.end()) {
-        return false;
-    }
-    end(longest->first);
-    longest->second = 0;
-    return true;
 }
 
 void OpenConnections::dropSilent() {
-    while (dropLongestSilent()) {
+    const std::lock_guard lock(mutex_);
+    for (auto& [socket, since] : since_) {
+        if (since != Clock::time_point::max()) {
+            hangUp(socket);
+        }
     }
 }
 

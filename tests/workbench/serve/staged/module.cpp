@@ -20,6 +20,7 @@ namespace {
 using namespace adsk::core;
 namespace fs = std::filesystem;
 
+Ptr<Application> app;
 Ptr<UserInterface> ui;
 
 fs::path fileOf(const char* variable) {
@@ -36,7 +37,7 @@ void hold(const Ptr<ProgressDialog>& progress = nullptr) {
 }
 
 Ptr<adsk::fusion::Component> rootComponent() {
-    const Ptr<adsk::fusion::Design> design = Application::get()->activeProduct();
+    const Ptr<adsk::fusion::Design> design = app->activeProduct();
     return design->rootComponent();
 }
 
@@ -70,6 +71,68 @@ public:
         }
     }
 } onChanged;
+
+constexpr const char* kLater = "StagedLater";
+std::thread later;
+
+/// Comes to the main thread when nobody asks the host for anything.
+class OnLater : public CustomEventHandler {
+public:
+    void notify(const Ptr<CustomEventArgs>& /*eventArgs*/) override {
+        rootComponent()->partNumber("later");
+    }
+} onLater;
+
+class OnExecuteLater : public CommandEventHandler {
+public:
+    void notify(const Ptr<CommandEventArgs>& /*eventArgs*/) override {
+        constexpr std::chrono::milliseconds kPause(300);
+        later = std::thread([kPause] {
+            std::this_thread::sleep_for(kPause);
+            app->fireCustomEvent(kLater);
+        });
+    }
+} onExecuteLater;
+
+class OnExecuteSaveFile : public CommandEventHandler {
+public:
+    void notify(const Ptr<CommandEventArgs>& /*eventArgs*/) override {
+        const Ptr<FileDialog> dialog = ui->createFileDialog();
+        dialog->initialFilename("list.txt");
+        const bool isPicked = dialog->showSave() == DialogOK;
+        ui->messageBox(isPicked ? dialog->filename() : "nothing");
+    }
+} onExecuteSaveFile;
+
+class OnExecutePickFolder : public CommandEventHandler {
+public:
+    void notify(const Ptr<CommandEventArgs>& /*eventArgs*/) override {
+        const Ptr<FolderDialog> dialog = ui->createFolderDialog();
+        const bool isPicked = dialog->showDialog() == DialogOK;
+        ui->messageBox(isPicked ? dialog->folder() : "nothing");
+    }
+} onExecutePickFolder;
+
+class OnCreatedSaveFile : public CommandCreatedEventHandler {
+public:
+    void notify(const Ptr<CommandCreatedEventArgs>& eventArgs) override {
+        eventArgs->command()->execute()->add(&onExecuteSaveFile);
+    }
+} onCreatedSaveFile;
+
+class OnCreatedPickFolder : public CommandCreatedEventHandler {
+public:
+    void notify(const Ptr<CommandCreatedEventArgs>& eventArgs) override {
+        eventArgs->command()->execute()->add(&onExecutePickFolder);
+    }
+} onCreatedPickFolder;
+
+class OnCreatedLater : public CommandCreatedEventHandler {
+public:
+    void notify(const Ptr<CommandCreatedEventArgs>& eventArgs) override {
+        eventArgs->command()->execute()->add(&onExecuteLater);
+    }
+} onCreatedLater;
 
 class OnCreatedWait : public CommandCreatedEventHandler {
 public:
@@ -111,10 +174,13 @@ bool add(const char* id, CommandCreatedEventHandler& handler) {
 }  // namespace
 
 extern "C" XI_EXPORT bool run(const char* /*context*/) {
-    ui = Application::get()->userInterface();
-    const bool isFine = add("StagedWait", onCreatedWait) &&
-                        add("StagedPreview", onCreatedPreview) &&
-                        add("StagedDialog", onCreatedDialog);
+    app = Application::get();
+    ui = app->userInterface();
+    const bool isFine =
+        add("StagedWait", onCreatedWait) && add("StagedPreview", onCreatedPreview) &&
+        add("StagedDialog", onCreatedDialog) && add(kLater, onCreatedLater) &&
+        add("StagedSaveFile", onCreatedSaveFile) && add("StagedPickFolder", onCreatedPickFolder) &&
+        app->registerCustomEvent(kLater)->add(&onLater);
     if (!fileOf("STAGED_WAITS_IN_RUN").empty()) {
         hold();
     }
@@ -128,9 +194,15 @@ extern "C" XI_EXPORT bool stop(const char* /*context*/) {
         std::this_thread::sleep_for(kPause);
         std::ofstream(file) << "stopped";
     }
-    for (const char* const id : {"StagedWait", "StagedPreview", "StagedDialog"}) {
+    if (later.joinable()) {
+        later.join();
+    }
+    app->unregisterCustomEvent(kLater);
+    for (const char* const id : {"StagedWait", "StagedPreview", "StagedDialog", "StagedSaveFile",
+                                 "StagedPickFolder", kLater}) {
         ui->commandDefinitions()->itemById(id)->deleteMe();
     }
     ui = nullptr;
+    app = nullptr;
     return true;
 }
