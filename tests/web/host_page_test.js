@@ -235,6 +235,25 @@ const tests = {
     assert.strictEqual(await page.locator('.body [data-row="10000"] input').first().inputValue(), 'part 10000');
   },
 
+  async rowsAreThereWhileATableIsScrolled() {
+    const {page} = await showTable(10000);
+    await page.waitForSelector('.body [data-row="1"]');
+    const seen = await page.evaluate(async () => {
+      const table = document.querySelector('.table'), counts = [];
+      for (let step = 1; step <= 120; ++step) {  // eight rows each time, as far as 960
+        table.scrollTop = step * 8 * 26;
+        await new Promise(requestAnimationFrame);
+        await new Promise(requestAnimationFrame);
+        counts.push([document.querySelectorAll('.body > .row:not(.absent)').length, document.querySelectorAll('*').length]);
+      }
+      return counts;
+    });
+    const blank = seen.filter(([rows]) => rows === 0).length;
+    assert.ok(blank <= seen.length / 10, `${blank} of ${seen.length} pictures without a row`);
+    assert.ok(Math.max(...seen.map(([, all]) => all)) <= most);
+    await page.waitForSelector('.body [data-row="960"]');
+  },
+
   async aRowThatIsWorkedInIsSelectedAndStays() {
     const {page, host} = await showTable(10000);
     const field = page.locator('[data-row="3"] input').first();
@@ -346,7 +365,7 @@ const tests = {
   async filesAreChosenInTheDataFolder() {
     const files = {'': [{name: 'gears', folder: true}, {name: 'box.step', folder: false, size: 20480}, {name: 'notes.txt', folder: false, size: 3}], gears: [{name: 'big.stp', folder: false, size: 1}, {name: 'small.stp', folder: false, size: 1}]};
     const {page, host} = await show(() => {}, {files, act: (action, {state}) => { if (action.action === 'answerFile') state.fileDialog = null; }});
-    host.change(state => { state.fileDialog = {id: 5, title: 'Import', filters: [{caption: 'STEP', patterns: ['*.step', '*.stp']}], filter: 0, multiple: true}; });
+    host.change(state => { state.fileDialog = {id: 5, kind: 'open', folder: '', name: '', title: 'Import', filters: [{caption: 'STEP', patterns: ['*.step', '*.stp']}], filter: 0, multiple: true}; });
     const box = page.getByRole('dialog', {name: 'Import'});
     await box.getByRole('option', {name: 'gears'}).waitFor();
     assert.deepStrictEqual(await texts(page, '.entry .name'), ['gears', 'box.step']);
@@ -358,6 +377,38 @@ const tests = {
     await box.getByRole('button', {name: 'Open'}).click();
     await box.waitFor({state: 'detached'});
     assert.deepStrictEqual(acted(host, 'answerFile').map(({id, files: picked}) => [id, picked]), [[5, ['gears/big.stp', 'gears/small.stp']]]);
+  },
+
+  async aFileToWriteIsNamedAndReplacedIfTheUserAgrees() {
+    const files = {'': [{name: 'gears', folder: true}], gears: [{name: 'list.csv', folder: false, size: 3}]};
+    const {page, host} = await show(() => {}, {files, act: ({replace, files: [name]}, {state}) => {
+      if (!replace && name.endsWith('list.csv')) throw Object.assign(new Error('it exists'), {more: {exists: true}});
+      state.fileDialog = null;
+    }});
+    host.change(state => { state.fileDialog = {id: 5, kind: 'save', folder: 'gears', name: 'list.csv', title: '', filters: [], filter: 0, multiple: false}; });
+    const box = page.getByRole('dialog', {name: 'Save'});
+    await box.getByRole('option', {name: 'list.csv'}).waitFor();  // it begins in that folder
+    assert.strictEqual(await box.getByLabel('File name').inputValue(), 'list.csv');
+    await box.getByRole('button', {name: 'Save'}).click();
+    await page.getByRole('alertdialog', {name: 'Replace?'}).getByRole('button', {name: 'Replace'}).click();
+    await box.waitFor({state: 'detached'});
+    assert.deepStrictEqual(acted(host, 'answerFile').map(({files: picked, replace}) => [picked, replace ?? false]), [[['gears/list.csv'], false], [['gears/list.csv'], true]]);
+  },
+
+  async aFolderIsPicked() {
+    const files = {'': [{name: 'gears', folder: true}, {name: 'box.step', folder: false, size: 3}], gears: []};
+    const {page, host} = await show(() => {}, {files, act: (_, {state}) => { state.fileDialog = null; }});
+    for (const way of ['chosen', 'entered']) {
+      host.change(state => { state.fileDialog = {id: 5, kind: 'folder', folder: '', name: '', title: '', filters: [], filter: 0, multiple: false}; });
+      const box = page.getByRole('dialog', {name: 'Select a folder'}), folder = box.getByRole('option', {name: 'gears'});
+      await folder.waitFor();
+      assert.deepStrictEqual(await texts(page, '.entry .name'), ['gears']);
+      await (way === 'chosen' ? folder.click() : folder.dblclick());
+      if (way === 'entered') await box.getByText('No folders in this one.').waitFor();
+      await box.getByRole('button', {name: 'Select folder'}).click();
+      await box.waitFor({state: 'detached'});
+    }
+    assert.deepStrictEqual(acted(host, 'answerFile').map(({files: picked}) => picked), [['gears'], ['gears']]);
   },
 
   async savingAsksBeforeItReplaces() {

@@ -27,10 +27,6 @@ async function main() {
     viewer.camera.pan(right, up);
     viewer.moved();
   }, [zoom, x, y]);
-  const dialog = async (width, height) => {
-    await page.waitForSelector('#command-dialog');
-    await page.evaluate(size => hostPage.line.act('resize', size), {width, height});
-  };
   const close = async () => {
     await page.locator('#command-dialog footer .push').last().click();
     await page.waitForSelector('#command-dialog', {state: 'detached'});
@@ -41,8 +37,8 @@ async function main() {
   await picture('assembly');
 
   await page.click('[data-command=QM_TX_BOM]');
-  await dialog(640, 420);
-  await aside(1.5, 0.35, -0.12);
+  await page.waitForSelector('#command-dialog');
+  await aside(1.12, 0, -0.02);
   await page.locator('.body .pictured button:has(img[src*="/ColapseAsm/"])').first().click();
   await picture('bom');
 

@@ -8,7 +8,7 @@ import type {Connection, Line} from './connection.ts';
 import {isTrouble, Log} from './log.tsx';
 import {commandEntries, Menu, type Entry} from './menu.tsx';
 import {Docked, Floating} from './palettes.tsx';
-import type {State} from './protocol.ts';
+import type {FileDialog, State} from './protocol.ts';
 import type {Scene} from './scene.ts';
 import {Splitter} from './splitter.tsx';
 import {Stage} from './stage.tsx';
@@ -20,7 +20,7 @@ export interface Notice { n: number; text: string }
 interface Props { line: Connection; notice: Notice | null; made(scene: Scene): void }
 
 // `file` is null for what has no name of its own: where the document is saved, what the program was started with.
-type Asking = {what: 'open'} | {what: 'discard'; file: string | null} | {what: 'save'; name: string; problem?: string} | {what: 'replace'; file: string | null; name: string} | null;
+type Asking = {what: 'open'} | {what: 'discard'; file: string | null} | {what: 'save'; name: string; problem?: string} | {what: 'replace'; file: string | null; name: string} | {what: 'write'; id: number; file: string} | null;
 
 const noticeTime = 7000;
 const troubles: Partial<Record<Line, string>> = {lost: texts.lost, full: texts.full, refused: texts.refused};
@@ -57,6 +57,12 @@ function Host({line, state, notice, made}: Props & {state: State}) {
     else if (answer.error && file !== null) setAsking({what: 'save', name: file, problem: answer.error});
     else setAsking(null);
     if (answer.error && !answer.exists && file === null) line.onRefused(answer.error);
+  };
+  const answerFiles = async (id: number, files: string[] | null, replace: boolean) => {
+    setAsking(null);
+    const answer = await line.ask('answerFile', {id, files, ...replace ? {replace} : {}});
+    if (answer.exists && files) setAsking({what: 'write', id, file: files[0]});
+    else if (answer.error) line.onRefused(answer.error);
   };
   const open = async (file: string | null, discard: boolean) => {
     setAsking(null);
@@ -115,10 +121,19 @@ function Host({line, state, notice, made}: Props & {state: State}) {
     {asking?.what === 'save' && <FilesBox title={texts.saveTitle} filters={[]} save={asking.name} refusal={asking.problem} line={line} cancel={() => setAsking(null)} pick={([file]) => void saveTo(designFile(file), false)}/>}
     {asking?.what === 'replace' && <AskBox title={texts.replaceTitle} text={texts.replaceText(asking.name)} yes={texts.replace} cancel={() => setAsking(null)} act={() => void saveTo(asking.file, true)}/>}
     {asking?.what === 'discard' && <AskBox title={texts.discardTitle} text={texts.discardText(state.document.name)} yes={texts.discard} cancel={() => setAsking(null)} act={() => void open(asking.file, true)}/>}
-    {state.fileDialog && <FilesBox key={state.fileDialog.id} title={state.fileDialog.title || texts.open} filters={state.fileDialog.filters} filter={state.fileDialog.filter} multiple={state.fileDialog.multiple} unasked line={line}
-                                   pick={files => void line.act('answerFile', {id: state.fileDialog!.id, files})} cancel={() => void line.act('answerFile', {id: state.fileDialog!.id, files: null})}/>}
+    {state.fileDialog && <AddInFiles key={state.fileDialog.id} dialog={state.fileDialog} line={line} answer={files => void answerFiles(state.fileDialog!.id, files, false)}/>}
+    {asking?.what === 'write' && asking.id === state.fileDialog?.id && <AskBox title={texts.replaceTitle} text={texts.replaceText(asking.file)} yes={texts.replace} cancel={() => setAsking(null)} act={() => void answerFiles(asking.id, [asking.file], true)}/>}
     {state.message && <MessageBox key={state.message.id} message={state.message} addin={state.addin.name} line={line}/>}
   </>;
+}
+
+// What the add-in asks for.
+function AddInFiles({dialog, line, answer}: {dialog: FileDialog; line: Connection; answer(files: string[] | null): void}) {
+  const {kind, folder, name, filters, filter, multiple} = dialog;
+  const titles = {open: texts.open, save: texts.save, folder: texts.pickFolderTitle};
+  const saved = folder ? `${folder}/${name}` : name;
+  return <FilesBox title={dialog.title || titles[kind]} filters={filters} filter={filter} multiple={multiple} save={kind === 'save' ? saved : undefined} folders={kind === 'folder'} start={folder} unasked line={line}
+                   pick={answer} cancel={() => answer(null)}/>;
 }
 
 const designFile = (name: string) => /\.json$/i.test(name) ? name : `${name}.json`;

@@ -1,6 +1,6 @@
 // What has to be answered before anything else: messages and file dialogs; and progress.
 import type {ComponentChildren} from 'preact';
-import {useEffect, useLayoutEffect, useRef, useState} from 'preact/hooks';
+import {useEffect, useId, useLayoutEffect, useRef, useState} from 'preact/hooks';
 import type {Connection} from './connection.ts';
 import {Icon, type Sign} from './icons.tsx';
 import type {FileEntry, Filter, Message, Progress} from './protocol.ts';
@@ -13,6 +13,7 @@ interface ModalProps { title: string; class?: string; children: ComponentChildre
 export function Modal({title, class: style = '', children, escape, alert, unasked}: ModalProps) {
   const root = useRef<HTMLDialogElement>(null);
   const typing = useRef<TypingOn | null>(null);
+  const label = useId();
   useLayoutEffect(() => {
     const back = document.activeElement as HTMLElement | null;
     const own = root.current!;
@@ -36,8 +37,8 @@ export function Modal({title, class: style = '', children, escape, alert, unaske
     escape();
   };
   return (
-    <dialog class={`modal ${style}`} ref={root} aria-labelledby="modal-title" role={alert ? 'alertdialog' : undefined} onCancel={cancel} onKeyDown={keys}>
-      <h2 id="modal-title">{title}</h2>
+    <dialog class={`modal ${style}`} ref={root} aria-labelledby={label} role={alert ? 'alertdialog' : undefined} onCancel={cancel} onKeyDown={keys}>
+      <h2 id={label}>{title}</h2>
       {children}
     </dialog>);
 }
@@ -72,6 +73,8 @@ interface FilesProps {
   title: string; filters: Filter[]; filter?: number; multiple?: boolean; line: Connection;
   save?: string;                       ///< it asks for a name, and begins with this one
   refusal?: string;                    ///< why the name that was picked last will not do
+  start?: string;                      ///< the folder that it begins in
+  folders?: boolean;                   ///< it asks for a folder
   unasked?: boolean;
   extra?: {caption: string; act(): void};
   pick(files: string[]): void; cancel(): void;
@@ -91,10 +94,10 @@ function fits(name: string, {patterns}: Filter): boolean {
 const sizeText = (size: number) => size < 1000 ? `${size} B` : size < 1e6 ? `${Math.round(size / 1e3)} kB` : `${(size / 1e6).toFixed(1)} MB`;
 
 /// Files of the user's data.
-export function FilesBox({title, filters, filter = 0, multiple = false, line, save, refusal, extra, unasked, pick, cancel}: FilesProps) {
+export function FilesBox({title, filters, filter = 0, multiple = false, line, save, refusal, start = '', folders = false, extra, unasked, pick, cancel}: FilesProps) {
   const choices = filters.length ? filters : [everything];
   const isSaving = save !== undefined;
-  const [folder, setFolder] = useState(isSaving && save.includes('/') ? save.slice(0, save.lastIndexOf('/')) : '');
+  const [folder, setFolder] = useState(isSaving && save.includes('/') ? save.slice(0, save.lastIndexOf('/')) : start);
   const [entries, setEntries] = useState<FileEntry[]>([]);
   const [problem, setProblem] = useState('');
   const [chosen, setChosen] = useState<string[]>([]);
@@ -108,7 +111,7 @@ export function FilesBox({title, filters, filter = 0, multiple = false, line, sa
   }, [folder]);
 
   const full = (each: string) => folder ? `${folder}/${each}` : each;
-  const shown = entries.filter(each => each.folder || fits(each.name, choices[type]));
+  const shown = entries.filter(each => each.folder || !folders && fits(each.name, choices[type]));
   const enter = (to: string) => {
     setFolder(to);
     setChosen([]);
@@ -124,6 +127,7 @@ export function FilesBox({title, filters, filter = 0, multiple = false, line, sa
   };
   const accept = () => {
     const folderChosen = entries.find(each => each.folder && each.name === chosen[0]);
+    if (folders) return pick([folderChosen ? full(folderChosen.name) : folder]);
     if (isSaving) { if (name.trim()) pick([full(name.trim())]); }
     else if (folderChosen) enter(full(folderChosen.name));
     else if (chosen.length) pick(chosen.map(full));
@@ -140,7 +144,7 @@ export function FilesBox({title, filters, filter = 0, multiple = false, line, sa
     }
   };
   const crumbs = folder.split('/').filter(Boolean);
-  const canAccept = isSaving ? name.trim() !== '' : chosen.length > 0;
+  const canAccept = folders || (isSaving ? name.trim() !== '' : chosen.length > 0);
   return (
     <Modal title={title} class="files" unasked={unasked} escape={cancel}>
       <nav class="crumbs" aria-label={texts.dataFolder}>
@@ -154,17 +158,17 @@ export function FilesBox({title, filters, filter = 0, multiple = false, line, sa
                onKeyDown={event => { if (event.key === 'Enter') { event.preventDefault(); take(entry); } else if (event.key === ' ') { event.preventDefault(); choose(entry, true); } }}>
             <Icon sign={entry.folder ? 'folder' : 'file'}/><span class="name">{entry.name}</span>{!entry.folder && entry.size !== undefined && <span class="size">{sizeText(entry.size)}</span>}
           </div>))}
-        {!shown.length && <p class="quiet">{problem || texts.emptyFolder}</p>}
+        {!shown.length && <p class="quiet">{problem || (folders ? texts.noFolders : texts.emptyFolder)}</p>}
       </div>
       <div class="fields">
         {isSaving && <label>{texts.fileName}<input type="text" value={name} data-first onInput={event => setName(event.currentTarget.value)} onKeyDown={event => { if (event.key === 'Enter') accept(); }}/></label>}
         {refusal && <p class="refusal" role="alert">{refusal}</p>}
-        {!isSaving && choices.length > 0 && <label>{texts.filesOfType}
+        {!isSaving && !folders && choices.length > 0 && <label>{texts.filesOfType}
           <select value={String(type)} onChange={event => setType(Number(event.currentTarget.value))}>{choices.map((each, i) => <option key={i} value={String(i)}>{each.caption}</option>)}</select></label>}
       </div>
       <div class="choices">
         {extra && <button type="button" class="push" onClick={extra.act}>{extra.caption}</button>}<span class="gap"/>
-        <button type="button" class="push main" disabled={!canAccept} onClick={accept}>{isSaving ? texts.save : texts.open}</button>
+        <button type="button" class="push main" disabled={!canAccept} onClick={accept}>{isSaving ? texts.save : folders ? texts.pickFolder : texts.open}</button>
         <button type="button" class="push" data-first={!isSaving || undefined} onClick={cancel}>{texts.cancel}</button>
       </div>
     </Modal>);

@@ -57,7 +57,7 @@ export interface Message {
 }
 
 export interface Filter { caption: string; patterns: string[] }
-export interface FileDialog { id: number; title: string; filters: Filter[]; filter: number; multiple: boolean }
+export interface FileDialog { id: number; kind: 'open' | 'save' | 'folder'; folder: string; name: string; title: string; filters: Filter[]; filter: number; multiple: boolean }
 export interface Progress { text: string; value: number; cancel: string; cancelled: boolean }
 
 export interface Palette {

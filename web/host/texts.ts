@@ -15,7 +15,7 @@ export const texts = {
   given: (name: string) => `Open ${name} again`, replaceTitle: 'Replace?', replace: 'Replace', replaceText: (name: string) => `${name} exists already. Replace it?`,
   discardTitle: 'Discard the changes?', discard: 'Discard', discardText: (name: string) => `${name} has changes that are not saved. Discard them?`,
   none: 'none',
-  emptyFolder: 'No such files in this folder.', allFiles: 'All files',
+  emptyFolder: 'No such files in this folder.', noFolders: 'No folders in this one.', pickFolder: 'Select folder', pickFolderTitle: 'Select a folder', allFiles: 'All files',
   opened: 'Opened by the add-in', noPage: 'This page is on the web:', working: 'Working…', menu: 'Context menu',
   kinds: {exception: 'Exception', misuse: 'Misuse', message: 'Message', warning: 'Warning'},
 } as const;
