@@ -1,13 +1,16 @@
 #include "host/application/import_manager_object.h"
 
 #include "host/application/application_object.h"
+#include "host/base/documented_points.h"
 #include "host/base/last_error.h"
 #include "host/base/utf8_path.h"
 #include "host/design/design_file.h"
+#include "host/design/document.h"
 #include "host/import/found_file.h"
 #include "host/import/step_import.h"
 
 #include <exception>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -57,7 +60,11 @@ core::Ptr<core::Document> ImportManagerObject::importToNewDocument(
         return {};
     }
     try {
-        return application->openInHost(readAs(importOptions));
+        DesignData design = readAs(importOptions);
+        if (documentedPoints().unnamedImports) {
+            design.name = emptyDesign().name;
+        }
+        return application->openInHost(std::move(design));
     } catch (const std::exception& error) {
         fail(core::OperationFailed, error.what());
         return {};

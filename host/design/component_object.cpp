@@ -1,5 +1,6 @@
 #include "host/design/component_object.h"
 
+#include "host/base/documented_points.h"
 #include "host/base/last_error.h"
 #include "host/design/design_object.h"
 #include "host/design/geometry_objects.h"
@@ -53,8 +54,9 @@ bool ComponentObject::partNumber(const std::string& value) {
             data_.partNumber = old;
             data_.hasExplicitPartNumber = isExplicit;
         });
-    data_.partNumber = value;
-    data_.hasExplicitPartNumber = true;
+    const bool goesBack = value.empty() && documentedPoints().emptyNumberIsName;
+    data_.partNumber = goesBack ? data_.name : value;
+    data_.hasExplicitPartNumber = !goesBack;
     ++model_->edits.all;
     return true;
 }

@@ -1,5 +1,6 @@
 #include "host/session/input_actions.h"
 
+#include "host/base/documented_points.h"
 #include "host/session/user_action.h"
 #include "host/session/user_actions.h"
 #include "host/ui/inputs/bool_value_command_input_object.h"
@@ -36,12 +37,30 @@ InputState& usable(const Ptr<core::CommandInput>& input, const std::string& acti
     return *state;
 }
 
-/// An action on a cell selects its row.
-void selectRowOf(const InputState& input) {
-    if (input.inLine != nullptr && !input.inLine->table->isToolbar(*input.inLine)) {
-        input.inLine->table->select(*input.inLine);
+/// An action on a cell selects its row: before it is reported, or after that where the host is so
+/// documented.
+class RowSelection {
+public:
+    explicit RowSelection(InputState& input)
+        : input_(input), late_(documentedPoints().lateSelectedRow ? input.api() : nullptr) {
+        if (!late_) select();
     }
-}
+
+    /// To be called when the action was reported.
+    void finish() const {
+        if (late_ && late_->isValid()) select();
+    }
+
+private:
+    void select() const {
+        if (input_.inLine != nullptr && !input_.inLine->table->isToolbar(*input_.inLine)) {
+            input_.inLine->table->select(*input_.inLine);
+        }
+    }
+
+    InputState& input_;
+    Ptr<core::CommandInput> late_;  ///< null where its row is selected at once
+};
 
 /// The string after each typed character: all its starts that end with a whole UTF-8 character; one
 /// empty string for an empty one.
@@ -134,11 +153,12 @@ std::string itemNames(const ui::ListState& list) {
 }
 
 void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
-    selectRowOf(list);
+    const RowSelection row(list);
     const bool unselects = list.isMultiSelect() && list.isSelected(index);
     if (list.select(index, !unselects)) {
         acting.runner().changed(list);
     }
+    row.finish();
     acting.finish();
 }
 
@@ -236,10 +256,11 @@ void click(const Ptr<core::CommandInput>& input) {
         return;
     }
     InputState& state = usable(input, "click");
-    selectRowOf(state);
+    const RowSelection row(state);
     if (clicked(state)) {
         acting.runner().changed(state);
     }
+    row.finish();
     acting.finish();
 }
 
@@ -252,9 +273,10 @@ void typeText(const Ptr<core::CommandInput>& input, const std::string& text) {
 void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
     UserAction acting;
     InputState& state = writable(input);
-    selectRowOf(state);
+    const RowSelection row(state);
     enter(state, text);
     acting.runner().changed(state);
+    row.finish();
     acting.finish();
 }
 
@@ -265,9 +287,10 @@ void spin(const Ptr<core::CommandInput>& input, int steps) {
     if (field == nullptr) {
         throw MisuseError("cannot spin " + ui::describe(state) + ": it has no arrows");
     }
-    selectRowOf(state);
+    const RowSelection row(state);
     setByArrows(state, field->spun(steps));
     acting.runner().changed(state);
+    row.finish();
     acting.finish();
 }
 
@@ -281,9 +304,10 @@ void slide(const Ptr<core::CommandInput>& input, double value, ui::SliderKnob kn
     if (knob == ui::SliderKnob::Second && !slider.hasTwoKnobs()) {
         throw MisuseError("cannot slide " + ui::describe(state) + ": it has one knob");
     }
-    selectRowOf(state);
+    const RowSelection row(state);
     slider.drag(knob, value);
     acting.runner().changed(state);
+    row.finish();
     acting.finish();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/base/clock.h"
+#include "host/base/documented_points.h"
 
 #include <string>
 #include <vector>
@@ -77,6 +78,9 @@ struct HostSetup {
     };
 
     CodeChanges codeChanges = CodeChanges::Lists;
+
+    /// Where the host does as the documentation says instead: `kAsDocumented` everywhere.
+    DocumentedPoints documented;
 
     /// Whether waiting takes a module real time.
     clock::ClockMode clock = clock::ClockMode::Virtual;

@@ -1,5 +1,6 @@
 #include "host/ui/commands/dialog_inputs.h"
 
+#include "host/base/documented_points.h"
 #include "host/ui/commands/command_runner.h"
 #include "host/ui/inputs/number_state.h"
 #include "host/ui/inputs/selection_command_input_object.h"
@@ -65,6 +66,9 @@ void DialogInputs::notifyChanged(InputState& input) {
 
 void DialogInputs::notifyInputChanged(InputState& input) {
     const core::Ptr<CommandObject> command = runner_.active();
+    if (documentedPoints().validatesAnyTime) {
+        validate();
+    }
     const core::Ptr<core::CommandInputs> inputs(input.owner());
     const std::string id = input.id();
     firstNewSerial_ = command->newestSerial() + 1;

@@ -25,8 +25,10 @@ core::Ptr<core::Palette> PalettesObject::add(const std::string& id, const std::s
     return all_.back();
 }
 
+void PalettesObject::clear() { disposeEntries(all_); }
+
 void PalettesObject::dispose() {
-    disposeEntries(all_);
+    clear();
     invalidate();
 }
 

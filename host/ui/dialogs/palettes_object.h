@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] List all() const override { return all_; }
     void remove(PaletteObject& palette) { removeEntry(all_, palette); }
+
+    /// Deletes all palettes.
+    void clear();
     void dispose();
 
 private:

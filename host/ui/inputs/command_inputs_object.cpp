@@ -48,6 +48,7 @@ bool isLandmark(InputKind kind) {
 template <class T, class... Arguments>
 core::Ptr<T> CommandInputsObject::append(const std::string& id, const std::string& name,
                                          const Arguments&... arguments) {
+    if (uniqueIds_ && isTaken(id)) return {};
     const InputOrigin origin{this, &id, command_->strings().share(name)};
     core::Ptr<T> input = make<T>(origin, arguments...);
     input->slot = static_cast<std::uint32_t>(members_.append(input));
@@ -197,7 +198,7 @@ core::Ptr<T> CommandInputsObject::addQuantity(const std::string& id, const std::
                                               const char* operation) {
     if (!isUnit(unit, operation)) return {};
     core::Ptr<T> input = append<T>(id, name, unit);
-    if (startWith(*input, initial, operation)) return input;
+    if (!input || startWith(*input, initial, operation)) return input;
     remove(*input);
     return {};
 }
@@ -239,7 +240,7 @@ core::Ptr<core::IntegerSpinnerCommandInput> CommandInputsObject::addIntegerSpinn
                                    .step = static_cast<double>(spinStep),
                                    .whole = true,
                                    .values = {}}));
-    input->setValue(initialValue);
+    if (input) input->setValue(initialValue);
     return input;
 }
 
@@ -255,7 +256,7 @@ core::Ptr<core::FloatSpinnerCommandInput> CommandInputsObject::addFloatSpinnerCo
         id, name, unitType,
         std::optional(NumberLimits{
             .minimum = min, .maximum = max, .step = spinStep, .whole = false, .values = {}}));
-    input->setValue(initialValue);
+    if (input) input->setValue(initialValue);
     return input;
 }
 
@@ -334,6 +335,12 @@ core::Ptr<core::FloatSliderCommandInput> CommandInputsObject::addFloatSliderList
     return addSlider<FloatSliderCommandInputObject>(
         id, name, unitType, limitsIn(valueList), hasTwoSliders,
         "CommandInputs::addFloatSliderListCommandInput");
+}
+
+bool CommandInputsObject::isTaken(const std::string& id) const {
+    const bool counts = !id.empty() || documentedPoints().uniqueEmptyIds;
+    return counts && command_->inputs().find(id) != nullptr &&
+           !fail(core::BadApiCallError, "the id \"" + id + "\" is in use in this dialog");
 }
 
 InputState* CommandInputsObject::find(const std::string& id) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/base/documented_points.h"
 #include "host/ui/inputs/id_index.h"
 #include "host/ui/inputs/input_state.h"
 #include "host/ui/inputs/sequence.h"
@@ -121,6 +122,7 @@ public:
 private:
     [[nodiscard]] InputState* find(const InputId& id) const;
 
+    /// Null, with the reason noted, where the id is taken.
     template <class T, class... Arguments>
     core::Ptr<T> append(const std::string& id, const std::string& name,
                         const Arguments&... arguments);
@@ -142,8 +144,12 @@ private:
     core::Ptr<T> addSlider(const std::string& id, const std::string& name, const std::string& unit,
                            const NumberLimits& limits, bool hasTwoKnobs, const char* operation);
 
+    /// Whether another input may not have this id, because one has it.
+    [[nodiscard]] bool isTaken(const std::string& id) const;
+
     CommandObject* command_;
     InputState* parent_;
+    bool uniqueIds_ = documentedPoints().uniqueInputIds;
     Sequence<core::Ptr<core::CommandInput>> members_;
     IdIndex index_;
     std::vector<InputState*> landmarks_;  ///< the selections, tabs and groups among the members

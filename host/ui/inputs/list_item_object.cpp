@@ -1,8 +1,16 @@
 #include "host/ui/inputs/list_item_object.h"
 
+#include "host/base/documented_points.h"
 #include "host/base/last_error.h"
 
 namespace host::ui {
+namespace {
+
+bool isNameless(const ListState& list) {
+    return list.kind == InputKind::ButtonRow && documentedPoints().namelessRowItems;
+}
+
+}  // namespace
 
 ListItemObject::~ListItemObject() {
     if (isValid()) {
@@ -12,11 +20,14 @@ ListItemObject::~ListItemObject() {
 
 std::string ListItemObject::name() const {
     if (closed<"name">(*this)) return {};
-    return *entry().name;
+    return isNameless(*list_) ? std::string() : *entry().name;
 }
 
 bool ListItemObject::name(const std::string& value) {
     if (closed<"name">(*this)) return {};
+    if (isNameless(*list_)) {
+        return fail(core::OperationFailed, "ListItem::name: an item of a button row has no name");
+    }
     list_->rename(index_, value);
     return true;
 }

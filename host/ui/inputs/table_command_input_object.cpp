@@ -1,10 +1,12 @@
 #include "host/ui/inputs/table_command_input_object.h"
 
+#include "host/base/documented_points.h"
 #include "host/base/last_error.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <set>
 #include <utility>
 
 namespace host::ui {
@@ -227,6 +229,26 @@ int TableCommandInputObject::rowCount() const {
 bool TableCommandInputObject::numberOfColumns(int /*value*/) {
     if (closed<"numberOfColumns">(*this)) return {};
     return true;
+}
+
+int TableCommandInputObject::numberOfColumns() const {
+    if (closed<"numberOfColumns">(*this)) return {};
+    return documentedPoints().columnsInUse ? columnsInUse() : columns_;
+}
+
+int TableCommandInputObject::columnsInUse() const {
+    const std::vector<double> given = widths(ratio_);
+    std::set<std::size_t> used;
+    for (std::size_t row = 0; row < lines_.count(); ++row) {
+        const std::vector<InputState*>& cells = lines_.at(row).cells;
+        for (std::size_t column = 0; column < cells.size(); ++column) {
+            const bool hasWidth = column >= given.size() || given[column] != 0;
+            if (cells[column] != nullptr && hasWidth) {
+                used.insert(column);
+            }
+        }
+    }
+    return static_cast<int>(used.size());
 }
 
 int TableCommandInputObject::selectedRow() const {

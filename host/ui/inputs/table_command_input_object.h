@@ -26,7 +26,7 @@ public:
     bool deleteRow(int row) override;
     bool clear() override;
     [[nodiscard]] int rowCount() const override;
-    [[nodiscard]] int numberOfColumns() const override { return get<"numberOfColumns">(columns_); }
+    [[nodiscard]] int numberOfColumns() const override;
     bool numberOfColumns(int value) override;  ///< without effect: a table keeps its columns
     [[nodiscard]] std::string columnRatio() const override { return get<"columnRatio">(ratio_); }
     bool columnRatio(const std::string& value) override {
@@ -81,6 +81,7 @@ private:
                                          const char* operation) const;
     [[nodiscard]] InputState* covering(std::size_t row, std::size_t column) const;
     void eraseWithInputs(TableLine& line);
+    [[nodiscard]] int columnsInUse() const;
 
     int columns_;
     std::string ratio_;

@@ -1,5 +1,6 @@
 #include "host/ui/toolbar/workspaces_object.h"
 
+#include "host/base/documented_points.h"
 #include "host/ui/user_interface_object.h"
 
 namespace host::ui {
@@ -50,6 +51,9 @@ void WorkspacesObject::activate(const core::Ptr<WorkspaceObject>& workspace) {
     fire(ui_->preDeactivateEvent, before);
     fire(ui_->preActivateEvent, workspace);
     active_ = workspace;
+    if (documentedPoints().palettesEndWithWorkspace) {
+        ui_->state().palettes->clear();
+    }
     fire(ui_->deactivatedEvent, before);
     fire(ui_->activatedEvent, workspace);
 }
