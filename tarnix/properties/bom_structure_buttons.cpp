@@ -1,6 +1,7 @@
 #include "tarnix/properties/bom_structure_buttons.h"
 
 #include <cstddef>
+#include <iterator>
 #include <vector>
 
 namespace tarnix {
@@ -15,7 +16,7 @@ std::vector<std::string> captionsThatAreOn(const Ptr<ListItems>& buttons) {
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<ListItem> button = buttons->item(i);
         if (button->isSelected()) {
-            captions.push_back(button->name());
+            captions.push_back(captionOf(button, i));
         }
     }
     return captions;
@@ -29,7 +30,7 @@ std::string switchOff(const Ptr<ListItems>& buttons, const std::vector<std::stri
     const std::size_t count = buttons->count();
     for (std::size_t i = 0; i < count && next != captions.end(); ++i) {
         const Ptr<ListItem> button = buttons->item(i);
-        if (button->name() != *next) {
+        if (captionOf(button, i) != *next) {
             continue;
         }
         if (*next == before) {
@@ -44,6 +45,12 @@ std::string switchOff(const Ptr<ListItems>& buttons, const std::vector<std::stri
 
 }  // namespace
 
+std::string captionOf(const Ptr<ListItem>& button, std::size_t place) {
+    const std::string name = button->name();
+    return name.empty() && place < std::size(kStructureButtons) ? kStructureButtons[place].caption
+                                                                : name;
+}
+
 void loadBomStructure(const Ptr<ButtonRowCommandInput>& row, const ComponentProperties& properties,
                       std::string& selected) {
     const Ptr<ListItems> buttons = row->listItems();
@@ -51,7 +58,7 @@ void loadBomStructure(const Ptr<ButtonRowCommandInput>& row, const ComponentProp
     const std::size_t count = buttons->count();
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<ListItem> button = buttons->item(i);
-        const std::string caption = button->name();
+        const std::string caption = captionOf(button, i);
         const bool isOn = findProperty(properties, caption) == "1";
         button->isSelected(isOn);
         if (isOn) {

@@ -4,6 +4,7 @@
 
 #include <Core/CoreAll.h>
 
+#include <cstddef>
 #include <string>
 
 /// The buttons of the BOM structure, of which at most one is to be on.
@@ -11,6 +12,24 @@
 /// The row allows several at once, since that is how the host lets the user switch the only one
 /// off. `selected` is the caption of the button that is on, which tells it from one just pressed.
 namespace tarnix {
+
+/// A button of the BOM structure: its caption is a property's key too.
+struct StructureButton {
+    const char* caption;
+    const char* iconFolder;
+};
+
+/// In their order in the row.
+inline constexpr StructureButton kStructureButtons[] = {
+    {.caption = "Produce", .iconFolder = "resources/_Produce"},
+    {.caption = "Buy", .iconFolder = "resources/_Buy"},
+    {.caption = "AsPart", .iconFolder = "resources/_AsPart"},
+    {.caption = "Divided", .iconFolder = "resources/_Divided"},
+    {.caption = "Reference", .iconFolder = "resources/_Reference"}};
+
+/// The caption of the button at that place of the row. A host whose buttons read without a name
+/// still has them in the order in which they were made.
+std::string captionOf(const adsk::core::Ptr<adsk::core::ListItem>& button, std::size_t place);
 
 /// Switches on what `properties` has on, and all others off. `selected` becomes the last one that
 /// is on, an empty string for none.

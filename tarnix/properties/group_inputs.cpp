@@ -1,5 +1,6 @@
 #include "tarnix/properties/group_inputs.h"
 
+#include "tarnix/properties/bom_structure_buttons.h"
 #include "tarnix/properties/property_inputs.h"
 
 #include <cstddef>
@@ -37,7 +38,7 @@ void collectButtons(Entries& entries, const Ptr<ButtonRowCommandInput>& row) {
     const std::size_t count = buttons->count();
     for (std::size_t i = 0; i < count; ++i) {
         const Ptr<ListItem> button = buttons->item(i);
-        entries.push_back({.name = button->name(), .value = flag(button->isSelected())});
+        entries.push_back({.name = captionOf(button, i), .value = flag(button->isSelected())});
     }
 }
 

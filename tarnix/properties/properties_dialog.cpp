@@ -1,5 +1,6 @@
 #include "tarnix/properties/properties_dialog.h"
 
+#include "tarnix/properties/bom_structure_buttons.h"
 #include "tarnix/properties/full_path.h"
 #include "tarnix/properties/property_inputs.h"
 #include "tarnix/properties/property_store.h"
@@ -19,19 +20,6 @@ namespace {
 
 using namespace property_inputs;
 using Texts = std::vector<std::string>;
-
-/// A button of the BOM structure: its caption is a property's key too.
-struct StructureButton {
-    const char* caption;
-    const char* iconFolder;
-};
-
-constexpr StructureButton kStructureButtons[] = {
-    {.caption = "Produce", .iconFolder = "resources/_Produce"},
-    {.caption = "Buy", .iconFolder = "resources/_Buy"},
-    {.caption = "AsPart", .iconFolder = "resources/_AsPart"},
-    {.caption = "Divided", .iconFolder = "resources/_Divided"},
-    {.caption = "Reference", .iconFolder = "resources/_Reference"}};
 
 constexpr const char* kTableDescription =
     R"(<div align="left">User-defined properties of component.</div>)";

@@ -27,6 +27,9 @@ std::string head(const char* kind, const Ptr<CommandInput>& input) {
 
 std::string flag(bool isSet, const char* text) { return isSet ? std::string(", ") + text : ""; }
 
+/// A button's caption is the end of the name of its icons, which a host has that shows no name too.
+std::string captionByIcon(const std::string& icon) { return icon.substr(icon.rfind('_') + 1); }
+
 std::string describeButtons(const Ptr<ButtonRowCommandInput>& row) {
     std::string all = head("button row", row) + flag(row->isMultiSelectEnabled(), "multi-select");
     for (std::size_t i = 0; i < row->listItems()->count(); ++i) {
@@ -153,7 +156,7 @@ std::string PropertiesTest::buttonsOn() const {
     for (std::size_t i = 0; i < row->listItems()->count(); ++i) {
         const Ptr<ListItem> item = row->listItems()->item(i);
         if (item->isSelected()) {
-            all += (all.empty() ? "" : " ") + item->name();
+            all += (all.empty() ? "" : " ") + captionByIcon(item->icon());
         }
     }
     return all;
