@@ -1,5 +1,6 @@
 #include "tests/support/addin_test.h"
 
+#include "tests/support/documented_points.h"
 #include "tests/support/files.h"
 #include "tests/support/outline.h"
 #include "tests/support/settings.h"
@@ -23,6 +24,7 @@ bool endsExport(const host::UncaughtException& thrown) {
 host::SessionOptions addinOptions() {
     const std::filesystem::path program = host::environment::programFolder();
     host::SessionOptions options;
+    options.host.documented = documentedPointsOfTests();
     options.addin = program / TEST_ADDIN_FOLDER;
     options.scratchRoot = program / TEST_PRIVATE_FOLDER;
     return options;

@@ -22,7 +22,9 @@ inline constexpr const char* kModelTable = "QEMA_bom_models";
 inline constexpr const char* kConfigurationTable = "QEMA_bom_config_table";
 inline constexpr const char* kExportButton = "QEMA_btnExportXls";
 
-/// The add-in as it was built, for tests that make sessions of their own.
+/// The add-in as it was built, for tests that make sessions of their own. The variable
+/// TARNIX_TEST_HOST_POINTS turns the host over to what is documented: "all", or the names of some
+/// points with commas between them.
 host::SessionOptions addinOptions();
 
 /// The same with the add-in's icons, which take time to copy.
