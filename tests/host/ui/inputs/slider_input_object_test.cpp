@@ -93,10 +93,9 @@ TEST_F(Sliders, AreDraggedToTheNearestValue) {
     EXPECT_EQ(length->valueOne(), 10);
     EXPECT_EQ(teeth->valueOne(), 20);
     EXPECT_EQ(teeth->valueTwo(), 20);
-    EXPECT_EQ(misuseOf([] {
-                  slide(openDialog()->commandInputs()->addStringValueInput("text", ""), 1);
-              }),
-              "cannot slide \"text\": it is no slider");
+    EXPECT_EQ(
+        misuseOf([] { slide(openDialog()->commandInputs()->addStringValueInput("text", ""), 1); }),
+        "cannot slide \"text\": it is no slider");
 }
 
 TEST_F(Sliders, AreCountedUpAndDownByTheArrowsOfTheirFirstField) {
