@@ -112,6 +112,8 @@ void addOutput(CLI::App& command, ResultStream& results) {
 int runProgram(const std::vector<std::string>& arguments) {
     CLI::App program("Opens a 3D assembly in a stand-in for the CAD host and runs the add-in on it",
                      "tarnix-workbench");
+    // A path from the root of a drive begins with a stroke too.
+    program.allow_windows_style_options(false);
     for (const auto& addCommand : kAddCommand) {
         addCommand(program);
     }
