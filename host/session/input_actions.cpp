@@ -152,11 +152,23 @@ std::string itemNames(const ui::ListState& list) {
     return names.empty() ? "it has none" : "it has " + names;
 }
 
+/// The rows that can be selected, such as "0 to 3, 5".
+std::string rowNumbers(const std::vector<int>& rows) {
+    std::string text;
+    for (std::size_t i = 0, end = 0; i < rows.size(); i = end) {
+        end = i + 1;
+        while (end < rows.size() && rows[end] == rows[end - 1] + 1) ++end;
+        text += (text.empty() ? "" : ", ") + std::to_string(rows[i]);
+        text += end - i > 1 ? " to " + std::to_string(rows[end - 1]) : "";
+    }
+    return text.empty() ? "no row shows" : "the rows that show are " + text;
+}
+
 void choose(UserAction& acting, ui::ListState& list, std::size_t index) {
     const RowSelection row(list);
     const bool unselects = list.isMultiSelect() && list.isSelected(index);
     if (list.select(index, !unselects)) {
-        acting.runner().changed(list);
+        acting.changed(list);
     }
     row.finish();
     acting.finish();
@@ -166,7 +178,7 @@ void showTab(UserAction& acting, InputState& tab) {
     ui::CommandObject& dialog = shownDialog();
     if (dialog.activeTab() != &tab) {
         dialog.activeTab(&tab);
-        acting.runner().tabChanged();
+        acting.tabChanged();
     }
     acting.finish();
 }
@@ -240,7 +252,7 @@ void pickInDialog(UserAction& acting, const Ptr<core::Base>& entity, const ui::P
         target.take(entity, place);
     }
     const Ptr<core::CommandInput> kept(target.api());
-    acting.runner().changed(target);
+    acting.changed(target);
     if (openDialog().get() == &dialog && kept->isValid()) {
         passFocus(dialog, target);
     }
@@ -258,7 +270,7 @@ void click(const Ptr<core::CommandInput>& input) {
     InputState& state = usable(input, "click");
     const RowSelection row(state);
     if (clicked(state)) {
-        acting.runner().changed(state);
+        acting.changed(state);
     }
     row.finish();
     acting.finish();
@@ -275,7 +287,7 @@ void pasteText(const Ptr<core::CommandInput>& input, const std::string& text) {
     InputState& state = writable(input);
     const RowSelection row(state);
     enter(state, text);
-    acting.runner().changed(state);
+    acting.changed(state);
     row.finish();
     acting.finish();
 }
@@ -289,7 +301,7 @@ void spin(const Ptr<core::CommandInput>& input, int steps) {
     }
     const RowSelection row(state);
     setByArrows(state, field->spun(steps));
-    acting.runner().changed(state);
+    acting.changed(state);
     row.finish();
     acting.finish();
 }
@@ -306,7 +318,7 @@ void slide(const Ptr<core::CommandInput>& input, double value, ui::SliderKnob kn
     }
     const RowSelection row(state);
     slider.drag(knob, value);
-    acting.runner().changed(state);
+    acting.changed(state);
     row.finish();
     acting.finish();
 }
@@ -350,7 +362,7 @@ void selectRow(const Ptr<core::TableCommandInput>& table, int row) {
     const std::vector<int> shown = shownRows(table);
     if (std::find(shown.begin(), shown.end(), row) == shown.end()) {
         throw MisuseError("cannot select row " + std::to_string(row) + " of " +
-                          ui::describe(state) + ": it does not show");
+                          ui::describe(state) + ": " + rowNumbers(shown));
     }
     state.select(state.lines().at(static_cast<std::size_t>(row)));
 }
@@ -379,7 +391,7 @@ void clearPicks(const Ptr<core::CommandInput>& input) {
     ui::SelectionCommandInputObject& selection = ui::selectionOf(&state);
     if (selection.picks().count() > 0) {
         selection.dropAll();
-        acting.runner().changed(state);
+        acting.changed(state);
     }
     acting.finish();
 }
@@ -403,7 +415,7 @@ void reportChange(const Ptr<core::CommandInput>& input) {
     if (state == nullptr || state->command() != &shownDialog()) {
         throw MisuseError("cannot report a change of an input that the open dialog does not have");
     }
-    acting.runner().changed(*state);
+    acting.changed(*state);
     acting.finish();
 }
 

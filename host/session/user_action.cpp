@@ -2,8 +2,25 @@
 
 #include "host/application/main_queue.h"
 #include "host/base/misuse.h"
+#include "host/session/endless_error.h"
+
+#include <functional>
 
 namespace host {
+namespace {
+
+/// What the commands refuse once the action was possible is to go on for ever.
+void untilItEnds(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const EndlessError&) {
+        throw;
+    } catch (const MisuseError& error) {
+        throw EndlessError(error.what());
+    }
+}
+
+}  // namespace
 
 ApplicationObject& runningApplication() {
     const core::Ptr<ApplicationObject> application = ApplicationObject::current();
@@ -20,11 +37,25 @@ UserAction::UserAction() : application_(&runningApplication()) {
     runner().beginUserAction();
 }
 
+void UserAction::request(const core::Ptr<ui::CommandDefinitionObject>& definition) const {
+    untilItEnds([&] { runner().request(definition); });
+}
+
+void UserAction::changed(ui::InputState& input) const {
+    untilItEnds([&] { runner().changed(input); });
+}
+
+void UserAction::tabChanged() const {
+    untilItEnds([&] { runner().tabChanged(); });
+}
+
 void UserAction::finish() {
-    runner().drainRequests();
-    if (application_->customEvents().deliver()) {
+    untilItEnds([&] {
         runner().drainRequests();
-    }
+        if (application_->customEvents().deliver()) {
+            runner().drainRequests();
+        }
+    });
     stopIfRequested();
 }
 

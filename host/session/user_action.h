@@ -23,9 +23,23 @@ public:
     [[nodiscard]] ui::UserInterfaceObject& ui() const { return application_->ui(); }
     [[nodiscard]] ui::CommandRunner& runner() const { return ui().runner(); }
 
+    /// @name What the module answers with its handlers
+    /// These throw an `EndlessError` where that does not end.
+    /// @{
+
+    /// Starts a command.
+    void request(const core::Ptr<ui::CommandDefinitionObject>& definition) const;
+
+    /// Reports that an input was changed.
+    void changed(ui::InputState& input) const;
+
+    /// Reports that another tab shows.
+    void tabChanged() const;
+
     /// Starts the requested commands, has custom events handled that were fired, and stops the
     /// module if it asked for that: the last step of each action.
     void finish();
+    /// @}
 
 private:
     core::Ptr<ApplicationObject> application_;

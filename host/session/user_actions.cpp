@@ -34,7 +34,7 @@ void press(UserAction& acting, const Ptr<ui::CommandDefinitionObject>& definitio
                               ": its button is not visible in " + workspace->state().id);
         }
     }
-    acting.runner().request(definition);
+    acting.request(definition);
     acting.finish();
 }
 

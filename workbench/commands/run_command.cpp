@@ -67,15 +67,17 @@ public:
         }
     }
 
-    /// Does one step and prints what it led to, also where it cannot be done to its end.
-    void step(const std::string& name, const std::function<void(RunStep&)>& action) {
+    /// Does one step, looks at what it led to and prints that, also where it cannot be done to its
+    /// end.
+    void step(const std::string& name, const std::function<void(RunStep&)>& action,
+              const std::function<void(RunStep&)>& look) {
         RunStep& step = steps_.emplace_back();
         step.name = name;
         if (!asJson_) {
             std::cout << step.name << std::endl;
         }
         try {
-            run_.act(step, [&] { action(step); });
+            run_.act(step, {.action = [&] { action(step); }, .look = [&] { look(step); }});
         } catch (const Failure& failure) {
             print(step);
             throw explained(failure);
@@ -120,50 +122,50 @@ void look(AddinRun& run, RunStep& step) {
 
 void start(PrintedRun& printed, AddinRun& run, bool isLast) {
     run.rememberDesign();
-    printed.step("run", [&](RunStep& step) {
-        call(step, [&] { return run.session().run(); });
-        isLast ? look(run, step) : void(step.changes = run.changes());
-    });
+    printed.step(
+        "run", [&](RunStep& step) { call(step, [&] { return run.session().run(); }); },
+        [&](RunStep& step) { isLast ? look(run, step) : void(step.changes = run.changes()); });
     run.rememberDesign();
 }
 
 void pressButton(PrintedRun& printed, AddinRun& run, const std::string& command, bool isLast) {
-    printed.step("press " + command, [&](RunStep& step) {
-        run.session().press(command);
-        if (!run.session().dialogOpen()) {
-            step.outcome = "no dialog is open";
-        }
-        if (isLast) look(run, step);
-    });
+    printed.step(
+        "press " + command, [&](RunStep&) { run.session().press(command); },
+        [&](RunStep& step) {
+            if (!run.session().dialogOpen()) {
+                step.outcome = "no dialog is open";
+            }
+            if (isLast) look(run, step);
+        });
 }
 
 void useInputs(PrintedRun& printed, AddinRun& run, const std::vector<InputEdit>& edits,
                const std::vector<std::string>& names) {
     for (std::size_t i = 0; i < edits.size(); ++i) {
-        printed.step("set " + names[i], [&](RunStep& step) {
-            editInput(run.session(), edits[i]);
-            if (i + 1 == edits.size()) look(run, step);
-        });
+        printed.step(
+            "set " + names[i], [&](RunStep&) { editInput(run.session(), edits[i]); },
+            [&](RunStep& step) {
+                if (i + 1 == edits.size()) look(run, step);
+            });
     }
 }
 
 /// Closes what is open, and stops the add-in.
 void finish(PrintedRun& printed, AddinRun& run, bool accepts) {
     host::Session& session = run.session();
+    const auto lookAt = [&](RunStep& step) { look(run, step); };
     if (accepts) {
-        printed.step("ok", [&](RunStep& step) {
-            session.ok();
-            look(run, step);
-        });
+        printed.step(
+            "ok", [&](RunStep&) { session.ok(); }, lookAt);
     }
     if (session.dialogOpen()) {
-        printed.step("cancel", [&](RunStep& step) {
-            session.cancel();
-            look(run, step);
-        });
+        printed.step(
+            "cancel", [&](RunStep&) { session.cancel(); }, lookAt);
     }
     if (session.exports("stop") && !session.isStopped()) {
-        printed.step("stop", [&](RunStep& step) { call(step, [&] { return session.stop(); }); });
+        printed.step(
+            "stop", [&](RunStep& step) { call(step, [&] { return session.stop(); }); },
+            [](RunStep&) {});
     }
 }
 

@@ -4,12 +4,21 @@
 #include "workbench/dialogs/addin_session.h"
 #include "workbench/output/design_changes.h"
 
+#include "host/base/misuse.h"
 #include "host/base/utf8_path.h"
+#include "host/design/document.h"
+#include "host/session/endless_error.h"
+#include "host/session/main_thread.h"
+#include "host/session/session_error.h"
 #include "host/session/toolbar_view.h"
 
+#include <algorithm>
+#include <exception>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <system_error>
+#include <utility>
 
 namespace workbench {
 namespace {
@@ -25,6 +34,14 @@ bool isInOwnFolder(const fs::path& module) {
     std::error_code ignored;
     return module.parent_path().filename() == module.stem() && files.module() == module &&
            fs::is_regular_file(files.manifest(), ignored);
+}
+
+void writeManifest(const fs::path& file) {
+    std::ofstream manifest(file);
+    manifest << kStagedManifest << std::flush;
+    if (!manifest) {
+        throw std::runtime_error(host::toUtf8(file) + ": cannot be written");
+    }
 }
 
 /// Appends to `into` what a list has beyond the first `known`, and counts it as known.
@@ -54,6 +71,38 @@ bool isOption(const RunStep& step) {
     return step.name == "ok" || step.name.starts_with("press ") || step.name.starts_with("set ");
 }
 
+/// Whether the user cannot do what an option asked for.
+bool isRefusal(const std::exception& obstacle) {
+    const bool isEndless = dynamic_cast<const host::EndlessError*>(&obstacle) != nullptr;
+    return dynamic_cast<const host::SessionError*>(&obstacle) != nullptr ||
+           (!isEndless && dynamic_cast<const host::MisuseError*>(&obstacle) != nullptr);
+}
+
+/// What ends the run where a step could not be done.
+Failure failureOf(const RunStep& step, bool isAsked, const std::exception& obstacle) {
+    if (const auto* failure = dynamic_cast<const Failure*>(&obstacle)) {
+        return *failure;
+    }
+    return isAsked && isRefusal(obstacle)
+               ? Failure(ExitCode::BadUsage, "--" + step.name + ": " + obstacle.what())
+               : Failure(ExitCode::AddinFailed, step.name + ": " + obstacle.what());
+}
+
+/// The changes of a design of the module's own, from the empty one where it was not there before.
+void addChanges(std::vector<std::string>& all, std::optional<host::DesignData> before,
+                const host::DesignData& now) {
+    const std::string design = "design \"" + now.name + "\"";
+    if (!before) {
+        all.push_back(design + " is new");
+        before = host::emptyDesign();
+        before->components.front().name = now.components.front().name;
+        before->components.front().partNumber = now.components.front().partNumber;
+    }
+    for (const std::string& each : changesBetween(*before, now)) {
+        all.push_back(design + ": " + each);
+    }
+}
+
 /// A module has no folder that the caller knows: the failure names what they named.
 std::unique_ptr<host::Session> load(const std::string& addin, const RunFolder& folder) {
     try {
@@ -61,6 +110,10 @@ std::unique_ptr<host::Session> load(const std::string& addin, const RunFolder& f
     } catch (const Failure& failure) {
         throw Failure(failure.code(), addin + ": " + failure.what());
     }
+}
+
+adsk::core::Ptr<adsk::core::Document> activeDocument() {
+    return adsk::core::Application::get()->activeDocument();
 }
 
 AddinChoice choiceOf(const NamedAddin& addin) {
@@ -99,9 +152,12 @@ void NamedAddin::stage(const fs::path& module) {
         const host::AddinFiles files{staged_->path() / host::fromUtf8(name), name};
         fs::create_directories(files.folder);
         fs::copy_file(module, files.module());
-        std::ofstream(files.manifest()) << kStagedManifest;
+        writeManifest(files.manifest());
         folder_ = host::toUtf8(files.folder);
-    } catch (const std::runtime_error& error) {
+    } catch (const std::exception& error) {
+        if (staged_) {
+            staged_->discard({});
+        }
         throw Failure(ExitCode::NoAddin, error.what());
     }
 }
@@ -116,23 +172,38 @@ AddinRun::AddinRun(const std::string& addin)
     }
 }
 
-void AddinRun::act(RunStep& step, const std::function<void()>& action) {
+void AddinRun::act(RunStep& step, const Parts& parts) {
+    bool isAsked = isOption(step);
     try {
-        action();
-    } catch (const Failure&) {
+        parts.action();
+        isAsked = false;
+        host::runPostedWork();
+        parts.look();
+    } catch (const std::exception& obstacle) {
         note(step);
-        throw;
-    } catch (const std::runtime_error& obstacle) {
-        note(step);
-        throw isOption(step)
-            ? Failure(ExitCode::BadUsage, "--" + step.name + ": " + obstacle.what())
-            : Failure(ExitCode::AddinFailed, step.name + ": " + obstacle.what());
+        throw failureOf(step, isAsked, obstacle);
     }
     note(step);
 }
 
+void AddinRun::rememberDesign() {
+    document_ = activeDocument();
+    before_ = session_->design();
+    opened_ = session_->designsOpenedByModule();
+}
+
 std::vector<std::string> AddinRun::changes() const {
-    return changesBetween(before_, session_->design());
+    std::vector<std::string> all;
+    const adsk::core::Ptr<adsk::core::Document> active = activeDocument();
+    if (active != document_) {
+        all.push_back("another design is active: \"" + (active ? active->name() : "") + "\"");
+    }
+    std::ranges::copy(changesBetween(before_, host::snapshot(document_)), std::back_inserter(all));
+    const std::vector<host::DesignData> opened = session_->designsOpenedByModule();
+    for (std::size_t i = 0; i < opened.size(); ++i) {
+        addChanges(all, i < opened_.size() ? std::optional(opened_[i]) : std::nullopt, opened[i]);
+    }
+    return all;
 }
 
 void AddinRun::note(RunStep& step) {
@@ -140,8 +211,15 @@ void AddinRun::note(RunStep& step) {
     takeNew(host::misuses(), misused_, step.misused, kAsItIs);
     takeNew(session_->messages(), messages_, step.messages, kAsItIs);
     takeNew(session_->log(), log_, step.log, logText);
-    takeNew(session_->openedByShell(), opened_, step.opened, kAsItIs);
-    takeNew(host::commandIds(), commands_, step.commands, withCaption);
+    takeNew(session_->openedByShell(), shellRequests_, step.opened, kAsItIs);
+    std::set<std::string> commands;
+    for (const std::string& each : host::commandIds()) {
+        if (!commands_.contains(each)) {
+            step.commands.push_back(withCaption(each));
+        }
+        commands.insert(each);
+    }
+    commands_ = std::move(commands);
 }
 
 }  // namespace workbench

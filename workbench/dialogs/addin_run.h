@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,14 +46,22 @@ public:
 
     [[nodiscard]] host::Session& session() { return *session_; }
 
-    /// Does one step. Where it cannot be done, throws a `Failure`: for wrong usage, or of the
-    /// add-in where no option asked for the step. `step` has what the add-in did until then.
-    void act(RunStep& step, const std::function<void()>& action);
+    /// What a step is made of.
+    struct Parts {
+        std::function<void()> action;  ///< what the user does, or the call of the module
+        std::function<void()> look;    ///< what is read when all that it led to is done
+    };
 
-    /// Remembers the open design as it is now.
-    void rememberDesign() { before_ = session_->design(); }
+    /// Does one step: the action, what the module left to the host's thread meanwhile, and the
+    /// look. Where the action is refused that an option asked for, throws a `Failure` for wrong
+    /// usage; for anything else that cannot be done, one of the add-in. `step` has what the add-in
+    /// did until then.
+    void act(RunStep& step, const Parts& parts);
 
-    /// What differs in the open design from the one that was remembered.
+    /// Remembers the open design as it is now, and those that the module opened.
+    void rememberDesign();
+
+    /// What differs in these designs from what was remembered, and whether another one is active.
     [[nodiscard]] std::vector<std::string> changes() const;
 
 private:
@@ -61,13 +70,15 @@ private:
     NamedAddin addin_;
     RunFolder folder_;
     std::unique_ptr<host::Session> session_;
+    adsk::core::Ptr<adsk::core::Document> document_;  ///< that was active when it was remembered
     host::DesignData before_;
+    std::vector<host::DesignData> opened_;
+    std::set<std::string> commands_;
     std::size_t thrown_ = 0;  // of each list, how much is in earlier steps
     std::size_t misused_ = 0;
     std::size_t messages_ = 0;
     std::size_t log_ = 0;
-    std::size_t opened_ = 0;
-    std::size_t commands_ = 0;
+    std::size_t shellRequests_ = 0;
 };
 
 }  // namespace workbench

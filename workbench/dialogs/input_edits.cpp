@@ -38,16 +38,25 @@ std::optional<InputEdit::Cell> parseCell(std::string_view text) {
                          : std::nullopt;
 }
 
+/// The rows and columns of a table, hidden ones counted, as the numbers that name them.
+std::string sizeOf(const Ptr<TableCommandInput>& table) {
+    if (table->rowCount() == 0) {
+        return "it has no rows";
+    }
+    return "its rows are 0 to " + std::to_string(table->rowCount() - 1) + ", its columns 0 to " +
+           std::to_string(table->numberOfColumns() - 1) + ", and places may be empty";
+}
+
 Ptr<CommandInput> findEdited(const host::Session& session, const InputEdit& edit) {
     if (!edit.cell) {
         return session.input(edit.input);
     }
-    Ptr<CommandInput> cell =
-        session.table(edit.input)->getInputAtPosition(edit.cell->row, edit.cell->column);
+    const Ptr<TableCommandInput> table = session.table(edit.input);
+    Ptr<CommandInput> cell = table->getInputAtPosition(edit.cell->row, edit.cell->column);
     if (!cell) {
         throw host::SessionError("the table \"" + edit.input + "\" has no cell in row " +
                                  std::to_string(edit.cell->row) + ", column " +
-                                 std::to_string(edit.cell->column));
+                                 std::to_string(edit.cell->column) + ": " + sizeOf(table));
     }
     return cell;
 }

@@ -50,28 +50,54 @@ void addAttributes(Lines& lines, const std::string& owner,
     }
 }
 
-/// A number with a point, whatever the user's language.
-std::string number(double value) {
+using Place = std::array<double, 3>;
+
+/// Where an occurrence is, in cm.
+Place origin(const host::Transform& placed) {
+    return {placed.cells[3], placed.cells[7], placed.cells[11]};
+}
+
+/// A number with a point, whatever the user's language; in full as far as it takes to read the
+/// same number again.
+std::string number(double value, bool inFull) {
     constexpr int kPlaceDigits = 6;
     std::array<char, 32> text = {};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                   std::chars_format::general, kPlaceDigits);
+    char* const last = text.data() + text.size();
+    const auto end =
+        inFull ? std::to_chars(text.data(), last, value)
+               : std::to_chars(text.data(), last, value, std::chars_format::general, kPlaceDigits);
     return {text.data(), end.ptr};
 }
 
-/// Where an occurrence is, in cm.
-std::string origin(const host::Transform& placed) {
-    return number(placed.cells[3]) + ", " + number(placed.cells[7]) + ", " +
-           number(placed.cells[11]);
+std::string coordinates(const Place& place, bool inFull) {
+    return number(place[0], inFull) + ", " + number(place[1], inFull) + ", " +
+           number(place[2], inFull);
+}
+
+std::string moved(const Place& before, const Place& after) {
+    const bool inFull =
+        coordinates(before, /*inFull=*/false) == coordinates(after, /*inFull=*/false);
+    return " is now at " + coordinates(after, inFull) + " cm, and was at " +
+           coordinates(before, inFull);
+}
+
+/// Whether they differ in more than the place.
+bool differInTurn(host::Transform before, const host::Transform& after) {
+    for (const std::size_t cell : {3U, 7U, 11U}) {
+        before.cells[cell] = after.cells[cell];
+    }
+    return before != after;
 }
 
 void addPlacement(Lines& lines, const std::string& what, const host::OccurrenceData& before,
                   const host::OccurrenceData& after) {
-    if (before.transform != after.transform) {
-        const bool turned = origin(before.transform) == origin(after.transform);
-        lines.push_back(what + (turned ? " is turned"
-                                       : " is now at " + origin(after.transform) +
-                                             " cm, and was at " + origin(before.transform)));
+    const Place from = origin(before.transform);
+    const Place to = origin(after.transform);
+    if (from != to) {
+        lines.push_back(what + moved(from, to));
+    }
+    if (differInTurn(before.transform, after.transform)) {
+        lines.push_back(what + " is turned");
     }
     if (before.grounded != after.grounded) {
         lines.push_back(what + (after.grounded ? " is grounded" : " is no longer grounded"));

@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <sstream>
+
 namespace workbench {
 namespace {
 
@@ -22,6 +24,31 @@ void addLines(std::string& text, const std::string& begin, const std::vector<std
     for (const std::string& each : lines) {
         addLine(text, begin + each);
     }
+}
+
+std::string nextLine(std::istream& lines) {
+    std::string line;
+    std::getline(lines, line);
+    if (line.ends_with('\r')) {
+        line.pop_back();
+    }
+    return line;
+}
+
+/// A text of the add-in's own: its further lines are indented below the first one.
+void addText(std::string& text, const std::string& begin, const std::string& lines) {
+    std::istringstream all(lines);
+    addLine(text, begin + nextLine(all));
+    while (all.good()) {
+        const std::string line = nextLine(all);
+        addLine(text, line.empty() ? "" : "  " + line);
+    }
+}
+
+/// How a message begins; one without a title has the name of the add-in there.
+std::string saying(const host::Message& message) {
+    return "the add-in says" + (message.title.empty() ? "" : " in \"" + message.title + "\"") +
+           ": ";
 }
 
 RunJson faultsObject(const RunStep& step) {
@@ -90,9 +117,11 @@ std::string asText(const RunStep& step) {
         addLine(text, describe(each));
     }
     for (const host::Message& each : step.messages) {
-        addLine(text, "the add-in says: " + each.text);
+        addText(text, saying(each), each.text);
     }
-    addLines(text, "log: ", step.log);
+    for (const std::string& each : step.log) {
+        addText(text, "log: ", each);
+    }
     addLines(text, "asked to open: ", step.opened);
     addLines(text, "command: ", step.commands);
     addLines(text, "change: ", step.changes);

@@ -32,6 +32,18 @@ protected:
         arguments.insert(arguments.end(), rest.begin(), rest.end());
         return run(arguments);
     }
+    /// Presses a button of an add-in that does what few do, with a design that has a bolt.
+    ProgramResult runSeldom(const std::string& command) {
+        return run({"run", built("Seldom"), design("Bolt"), "--press", command});
+    }
+
+    /// What is printed below that step.
+    std::string pressed(const std::string& command) {
+        const std::string output = runSeldom(command).output;
+        const std::string line = "press " + command + "\n";
+        const std::size_t at = output.find(line);
+        return at == std::string::npos ? output : output.substr(at + line.size());
+    }
 };
 
 /// The lines of the page that are indented by four spaces, from the one after `before` on.
@@ -185,6 +197,57 @@ TEST_F(RunCommand, WrongUsageAfterAnExceptionNamesItToo) {
     EXPECT_EQ(result.errors,
               "tarnix-workbench: --press Any: cannot press Any, which does not exist: there are no "
               "definitions; before that the add-in threw std::exception in run, and 1 more\n");
+}
+
+// The step was possible: what ends it is the add-in.
+TEST_F(RunCommand, CommandsThatStartEachOtherWithoutEndAreTheAddinsFault) {
+    const ProgramResult result = runSeldom("SeldomAgain");
+
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.errors.find("tarnix-workbench: press SeldomAgain: the command SeldomAgain was "
+                                 "started "),
+              0U)
+        << result.errors;
+    EXPECT_NE(result.errors.find("it keeps starting itself\n"), std::string::npos);
+}
+
+TEST_F(RunCommand, EventsThatRunFiredAreHandledInItsStep) {
+    const ProgramResult result = run({"run", built("Seldom"), "--expect-no-error"});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output.find("run\n  returned true\n  the add-in threw std::runtime_error "
+                                 "(handled) in SeldomFired\n"),
+              0U)
+        << result.output;
+}
+
+TEST_F(RunCommand, EventsThatACommandFiredAreHandledInItsStep) {
+    EXPECT_EQ(pressed("SeldomFire"),
+              "  no dialog is open\n"
+              "  the add-in threw std::runtime_error (handled) in SeldomFired\n");
+}
+
+TEST_F(RunCommand, ACommandInThePlaceOfAnotherIsListed) {
+    EXPECT_EQ(pressed("SeldomReplace"),
+              "  no dialog is open\n"
+              "  command: SeldomOther \"Other\"\n");
+}
+
+TEST_F(RunCommand, AMessageHasItsTitleAndItsLines) {
+    EXPECT_EQ(pressed("SeldomSay"),
+              "  no dialog is open\n"
+              "  the add-in says in \"Heading\": One\n"
+              "    Two\n");
+}
+
+TEST_F(RunCommand, TheDesignIsComparedWithItselfWhereAnotherBecomesActive) {
+    EXPECT_EQ(pressed("SeldomOpen"),
+              "  no dialog is open\n"
+              "  change: another design is active: \"Another\"\n"
+              "  change: component \"sample\": description \"\" is now \"first\"\n"
+              "  change: design \"Another\" is new\n"
+              "  change: design \"Another\": component \"Another\": description \"\" is now "
+              "\"written\"\n");
 }
 
 TEST_F(RunCommand, WhatIsNoModuleIsRefused) {

@@ -70,6 +70,23 @@ TEST(DesignChanges, OccurrencesAreMovedTurnedAndGrounded) {
                      "occurrence \"Bolt:1\" in \"Top\" is grounded"}));
 }
 
+TEST(DesignChanges, AMoveIsNamedHoweverSmallAndBesideATurn) {
+    host::DesignData far = oneBolt();
+    far.components[0].children[0].transform.cells[3] = 1000;
+    host::DesignData farther = far;
+    farther.components[0].children[0].transform.cells[3] = 1000.001;
+    host::DesignData both = oneBolt();
+    both.components[0].children[0].transform.cells[7] = 2;
+    both.components[0].children[0].transform.cells[0] = -1;
+
+    EXPECT_EQ(changesBetween(far, farther),
+              (Lines{"occurrence \"Bolt:1\" in \"Top\" is now at 1000.001, 0, 0 cm, and was at "
+                     "1000, 0, 0"}));
+    EXPECT_EQ(changesBetween(oneBolt(), both),
+              (Lines{"occurrence \"Bolt:1\" in \"Top\" is now at 0, 2, 0 cm, and was at 0, 0, 0",
+                     "occurrence \"Bolt:1\" in \"Top\" is turned"}));
+}
+
 TEST(DesignChanges, WhatIsAddedOrMissingIsNamed) {
     host::DesignData after = oneBolt();
     after.components.emplace_back().name = "Nut";

@@ -310,7 +310,7 @@ TEST_F(Table, ARowThatDoesNotExistCannotBeSelected) {
 
     EXPECT_FALSE(table->selectedRow(3));
     EXPECT_EQ(misuseOf([this] { selectRow(table, 3); }),
-              "cannot select row 3 of \"table\": it does not show");
+              "cannot select row 3 of \"table\": the rows that show are 0 to 2");
     EXPECT_TRUE(table->selectedRow(-1));
 }
 
