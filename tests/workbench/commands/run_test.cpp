@@ -33,8 +33,11 @@ protected:
         return run(arguments);
     }
     /// Presses a button of an add-in that does what few do, with a design that has a bolt.
-    ProgramResult runSeldom(const std::string& command) {
-        return run({"run", built("Seldom"), design("Bolt"), "--press", command});
+    ProgramResult runSeldom(const std::string& command, const std::vector<std::string>& rest = {}) {
+        std::vector<std::string> arguments = {"run", built("Seldom"), design("Bolt"), "--press",
+                                              command};
+        arguments.insert(arguments.end(), rest.begin(), rest.end());
+        return run(arguments);
     }
 
     /// What is printed below that step.
@@ -248,6 +251,20 @@ TEST_F(RunCommand, TheDesignIsComparedWithItselfWhereAnotherBecomesActive) {
               "  change: design \"Another\" is new\n"
               "  change: design \"Another\": component \"Another\": description \"\" is now "
               "\"written\"\n");
+}
+
+TEST_F(RunCommand, WhatIsNotInATableIsRefusedWithWhatIs) {
+    const ProgramResult cell = runSeldom("SeldomTable", {"--set", "table[2,0]=x"});
+    const ProgramResult row = runSeldom("SeldomTable", {"--set", "table=1"});
+
+    EXPECT_EQ(cell.status, 2);
+    EXPECT_EQ(cell.errors,
+              "tarnix-workbench: --set table[2,0]=x: the table \"table\" has no cell in row 2, "
+              "column 0: its rows are 0 to 1, its columns 0 to 0, and places may be empty\n");
+    EXPECT_EQ(row.status, 2);
+    EXPECT_EQ(row.errors,
+              "tarnix-workbench: --set table=1: cannot select row 1 of \"table\": the rows that "
+              "show are 0\n");
 }
 
 TEST_F(RunCommand, WhatIsNoModuleIsRefused) {

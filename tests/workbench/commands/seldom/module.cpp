@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-/// An add-in whose commands do at once, without a dialog, what few add-ins do.
+/// An add-in whose commands do what few add-ins do; all but one at once, without a dialog.
 namespace {
 
 using namespace adsk::core;
@@ -65,13 +65,27 @@ void openAnother() {
     first->rootComponent()->description("first");
 }
 
+/// A dialog with a table of two rows in one column, the second row hidden.
+class OnCreatedTable : public CommandCreatedEventHandler {
+public:
+    void notify(const Ptr<CommandCreatedEventArgs>& eventArgs) override {
+        const Ptr<CommandInputs> inputs = eventArgs->command()->commandInputs();
+        const Ptr<TableCommandInput> table =
+            inputs->addTableCommandInput("table", "Table", /*numberOfColumns=*/1, "1");
+        table->addCommandInput(inputs->addStringValueInput("shown", "", ""), 0, 0);
+        const Ptr<CommandInput> hidden = inputs->addStringValueInput("hidden", "", "");
+        table->addCommandInput(hidden, 1, 0);
+        hidden->isVisible(false);
+    }
+} onCreatedTable;
+
 OnCreated onCreatedAgain(startAgain);
 OnCreated onCreatedFire(fire);
 OnCreated onCreatedOpen(openAnother);
 OnCreated onCreatedReplace(replaceOne);
 OnCreated onCreatedSay(say);
 
-void add(const char* id, OnCreated& onCreated) {
+void add(const char* id, CommandCreatedEventHandler& onCreated) {
     definitions()->addButtonDefinition(id, id, "")->commandCreated()->add(&onCreated);
 }
 
@@ -85,6 +99,7 @@ extern "C" XI_EXPORT bool run(const char* /*context*/) {
     add("SeldomOpen", onCreatedOpen);
     add("SeldomReplace", onCreatedReplace);
     add("SeldomSay", onCreatedSay);
+    add("SeldomTable", onCreatedTable);
     definitions()->addButtonDefinition("SeldomSpare", "Spare", "");
     Application::get()->registerCustomEvent(kFired)->add(&onFired);
     const Ptr<adsk::fusion::Design> design = Application::get()->activeProduct();
