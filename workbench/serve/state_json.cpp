@@ -214,7 +214,7 @@ std::vector<std::string> parted(const std::string& text, char separator) {
 /// "STEP (*.stp;*.step);;All (*.*)" as the filters it offers.
 Json filtersJson(std::string filter) {
     for (std::size_t at = 0; (at = filter.find(";;", at)) != std::string::npos;) {
-        filter.replace(at, 2, "\n");
+        filter.replace(at, 2, 1, '\n');
     }
     Json filters = Json::array();
     for (const std::string& each : parted(filter, '\n')) {
