@@ -70,7 +70,8 @@ void addReading(CLI::App& command, ReadingOptions& reading) {
 }
 
 void addAddin(CLI::App& command, AddinChoice& choice) {
-    command.add_option("--addin,--add-in", choice.addin, "Use the add-in in this folder")->type_name("DIR");
+    command.add_option("--addin,--add-in", choice.addin, "Use the add-in in this folder")
+        ->type_name("DIR");
     command
         .add_option("--data-home", choice.dataHome,
                     "Use the settings in this folder instead of this user's")
