@@ -4,9 +4,8 @@
 #include "workbench/dialogs/addin_session.h"
 #include "workbench/output/design_changes.h"
 
-#include "host/base/misuse.h"
 #include "host/base/utf8_path.h"
-#include "host/design/document.h"
+#include "host/session/document_design.h"
 #include "host/session/endless_error.h"
 #include "host/session/main_thread.h"
 #include "host/session/session_error.h"
@@ -94,7 +93,7 @@ void addChanges(std::vector<std::string>& all, std::optional<host::DesignData> b
     const std::string design = "design \"" + now.name + "\"";
     if (!before) {
         all.push_back(design + " is new");
-        before = host::emptyDesign();
+        before = host::newDesign();
         before->components.front().name = now.components.front().name;
         before->components.front().partNumber = now.components.front().partNumber;
     }
@@ -198,7 +197,7 @@ std::vector<std::string> AddinRun::changes() const {
     if (active != document_) {
         all.push_back("another design is active: \"" + (active ? active->name() : "") + "\"");
     }
-    std::ranges::copy(changesBetween(before_, host::snapshot(document_)), std::back_inserter(all));
+    std::ranges::copy(changesBetween(before_, host::designIn(document_)), std::back_inserter(all));
     const std::vector<host::DesignData> opened = session_->designsOpenedByModule();
     for (std::size_t i = 0; i < opened.size(); ++i) {
         addChanges(all, i < opened_.size() ? std::optional(opened_[i]) : std::nullopt, opened[i]);
